@@ -1,0 +1,15 @@
+# quillet_bibliotheque(<floor> <sources>... LIENS <libraries>...): the static library quillet-<floor>.
+# Whoever links it links LIENS too.
+function(quillet_bibliotheque etage)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" LIENS)
+    add_library(quillet-${etage} STATIC ${arg_UNPARSED_ARGUMENTS})
+    target_link_libraries(quillet-${etage} PUBLIC quillet-options ${arg_LIENS})
+endfunction()
+
+# quillet_test(<name> <sources>... LIENS <libraries>...): a Qt Test program that ctest runs.
+function(quillet_test nom)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" LIENS)
+    add_executable(${nom} ${arg_UNPARSED_ARGUMENTS})
+    target_link_libraries(${nom} PRIVATE quillet-options Qt6::Test ${arg_LIENS})
+    add_test(NAME ${nom} COMMAND ${nom})
+endfunction()

@@ -1,0 +1,21 @@
+# Run by ctest: a floor includes itself and what stands below it. Static libraries alone would let a header slip through.
+cmake_policy(VERSION 3.25)
+
+function(etage nom)
+    list(JOIN ARGN "|" visibles)
+    file(GLOB_RECURSE sources ${CMAKE_CURRENT_LIST_DIR}/../${nom}/*.h ${CMAKE_CURRENT_LIST_DIR}/../${nom}/*.cpp)
+    if(NOT sources)
+        message(SEND_ERROR "${nom}/ holds no source")
+    endif()
+    foreach(source IN LISTS sources)
+        file(STRINGS ${source} inclusions REGEX "^#include \"")
+        list(FILTER inclusions EXCLUDE REGEX "\"(${visibles})/|\\.moc\"")
+        foreach(inclusion IN LISTS inclusions)
+            message(SEND_ERROR "${source}: ${inclusion}")
+        endforeach()
+    endforeach()
+endfunction()
+
+etage(model model)
+etage(documents documents model)
+etage(ui ui documents model)

@@ -1,0 +1,38 @@
+# How everything is compiled: `quillet-options`, which every target of ours links.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+
+find_program(CCACHE ccache)
+if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+find_program(LLD ld.lld)
+if(LLD)
+    add_link_options(-fuse-ld=lld)
+endif()
+
+add_library(quillet-options INTERFACE)
+target_include_directories(quillet-options INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_options(quillet-options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual
+    -Wcast-align -Wformat=2 -Wextra-semi
+    # A designated initialiser names what differs from the default; the rest is meant to be left out.
+    -Wno-missing-field-initializers)
+target_compile_definitions(quillet-options INTERFACE
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_FROM_BYTEARRAY
+    QT_NO_CAST_TO_ASCII
+    QT_NO_FOREACH
+    QT_NO_JAVA_STYLE_ITERATORS
+    QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+    QT_NO_URL_CAST_FROM_STRING
+    $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
+
+if(QUILLET_SANITIZE)
+    set(sanitiseurs -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    # GCC loses track of initialisation in sanitized code and warns where nothing is wrong.
+    target_compile_options(quillet-options INTERFACE ${sanitiseurs} -Wno-maybe-uninitialized)
+    target_link_options(quillet-options INTERFACE ${sanitiseurs})
+endif()

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "model/Calcul.h"
+#include "model/Langue.h"
+#include "model/Reglages.h"
+
+#include <QString>
+#include <QUrl>
+
+// The reply to a buyer, and the texts pasted into PayPal's page for creating a payment link.
+struct ReponseType
+{
+    Calcul calcul;
+    Langue langue = Langue::francais;
+    IdentiteVendeur vendeur; // signs the message
+    QString lien;            // payment link as pasted; may be empty
+    QString pays;            // delivery country as typed; may be empty
+
+    static QUrl creationDuLien();
+
+    [[nodiscard]] QString sujet() const;
+    [[nodiscard]] QString corps() const;
+    [[nodiscard]] QString ligneTotal() const; // stands as it is in `corps`
+    [[nodiscard]] QString nomDeLObjet() const;
+    [[nodiscard]] QString descriptionDuLien() const;
+};
+
+// The language chosen for the buyer or, until one is chosen, the destination's own.
+Langue langueAcheteur(const Commande &commande, const Calcul &calcul);
+// None unless all books of the order belong to one seller whose identity is known.
+std::optional<IdentiteVendeur> vendeurUnique(const Calcul &calcul, const Reglages &reglages);

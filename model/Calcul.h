@@ -1,0 +1,47 @@
+#pragma once
+
+#include "model/Catalogue.h"
+#include "model/Commande.h"
+
+#include <QDate>
+#include <QSet>
+
+#include <optional>
+
+// Every figure that follows from one order on one day. Fields are computed in the order in which they stand.
+class Calcul
+{
+public:
+    struct Ligne
+    {
+        Livre livre;
+        int quantite = 0; // at least 1
+
+        [[nodiscard]] Centimes montant() const { return livre.prix * quantite; }
+        bool operator==(const Ligne &) const = default;
+    };
+
+    Calcul(const Catalogue &catalogue, const Commande &commande, QDate aujourdhui = QDate::currentDate());
+
+    const QList<Ligne> lignes; // in catalogue order
+    const Centimes sousTotal;  // the books alone
+    const Grammes poidsLivres; // a book not yet weighed counts nothing
+    const QList<Livre> livresNonPeses;
+    const Grammes poidsEmballage;
+    const Grammes poidsCalcule;
+    const std::optional<Grammes> poidsPese; // at least 1 g; none: not weighed
+    const Grammes poidsRetenu;
+    const std::optional<Destination> destination;
+    const std::optional<RegionPaypal> regionPaypal;
+    const bool douaneRequise;
+    const std::optional<GrilleColissimo> grille;
+    // None of the five below when the parcel cannot be priced.
+    const std::optional<Palier> palier;
+    const std::optional<Centimes> envoi;
+    const std::optional<Centimes> total;
+    const std::optional<Centimes> fraisPaypal; // on the whole payment, postage included
+    const std::optional<Centimes> reste;       // of the books, once the fee is paid; may be negative
+
+    [[nodiscard]] QSet<Vendeur> vendeurs() const;
+    [[nodiscard]] int nombreDeLivres() const;
+};

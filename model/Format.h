@@ -1,0 +1,24 @@
+#pragma once
+
+#include "model/Quantite.h"
+
+#include <QDate>
+#include <QString>
+
+// Every conversion of amounts, weights, rates and days into text. Separators are those of the CLDR.
+namespace Format {
+
+QString euros(Centimes montant);        // 1 234,50 €
+QString eurosAnglais(Centimes montant); // €1,234.50
+QString montant(Centimes montant);      // 1 234,50: two decimals, no currency sign
+QString kilos(Grammes poids);           // 1,250: three decimals, no unit
+QString poids(Grammes poids);           // 1 250 g
+QString palier(Grammes jusqua);         // 2 kg for whole kilograms, else 1500 g: never grouped
+QString pourcentage(Taux taux);         // 3,49 %
+
+QString iso(QDate jour);  // 2025-03-14
+QString date(QDate jour); // 14 mars 2025, 1er mars 2025
+// A text that is not a day as yyyy-mm-dd comes back unchanged.
+QString date(const QString &iso);
+
+} // namespace Format

@@ -1,0 +1,262 @@
+#pragma once
+
+#include "model/Quantite.h"
+
+#include <QByteArray>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QList>
+#include <QMap>
+#include <QString>
+#include <QUrl>
+
+#include <array>
+#include <concepts>
+#include <optional>
+#include <stdexcept>
+#include <tuple>
+
+// Plain records to JSON and back. A record lists its fields once, in `champs<Record>`; an enumeration that is
+// stored as text lists its raw values once, in `valeursBrutes<Enum>`. Everything else follows from these.
+namespace Json {
+
+template <typename Enregistrement, typename Type>
+struct Champ
+{
+    const char *cle;
+    Type Enregistrement::*membre;
+};
+
+template <typename Enum>
+struct ValeurBrute
+{
+    Enum cas;
+    const char *texte;
+};
+
+template <typename Enregistrement>
+inline constexpr auto champs = nullptr;
+
+template <typename Enum>
+inline constexpr auto valeursBrutes = nullptr;
+
+template <typename T>
+concept EstEnregistrement = !std::same_as<decltype(champs<T>), const std::nullptr_t>;
+
+template <typename T>
+concept EstEnumeration = std::is_enum_v<T> && !std::same_as<decltype(valeursBrutes<T>), const std::nullptr_t>;
+
+// Says where and what was expected, in words for the user: "livres[3].prix : entier attendu".
+class Erreur : public std::runtime_error
+{
+public:
+    explicit Erreur(const QString &texte) : std::runtime_error(texte.toStdString()) {}
+    [[nodiscard]] QString texte() const { return QString::fromUtf8(what()); }
+};
+
+// The way from the root of a file to the value being read; it lives on the stack of the calls that descend.
+class Lieu
+{
+public:
+    explicit Lieu(QString racine) : nom_(std::move(racine)) {}
+    Lieu(const Lieu &parent, QString cle) : parent_(&parent), nom_(std::move(cle)) {}
+    Lieu(const Lieu &parent, qsizetype indice) : parent_(&parent), indice_(indice) {}
+
+    [[noreturn]] void refuser(const QString &raison) const;
+
+private:
+    [[nodiscard]] QString chemin() const;
+
+    const Lieu *parent_ = nullptr;
+    QString nom_;
+    qsizetype indice_ = -1;
+};
+
+template <EstEnumeration Enum>
+QString brut(Enum cas)
+{
+    for (const auto &valeur : valeursBrutes<Enum>)
+        if (valeur.cas == cas)
+            return QString::fromLatin1(valeur.texte);
+    Q_UNREACHABLE();
+}
+
+template <EstEnumeration Enum>
+std::optional<Enum> depuisBrut(const QString &texte)
+{
+    for (const auto &valeur : valeursBrutes<Enum>)
+        if (texte == QLatin1String(valeur.texte))
+            return valeur.cas;
+    return std::nullopt;
+}
+
+// One `lire` and one `ecrire` a kind of value. A `lire` refuses anything that is not exactly its kind.
+void lire(const QJsonValue &json, const Lieu &lieu, qint64 &valeur);
+void lire(const QJsonValue &json, const Lieu &lieu, bool &valeur);
+void lire(const QJsonValue &json, const Lieu &lieu, QString &valeur);
+void lire(const QJsonValue &json, const Lieu &lieu, QUrl &valeur);
+
+template <typename Unite>
+void lire(const QJsonValue &json, const Lieu &lieu, Quantite<Unite> &valeur);
+template <EstEnumeration Enum>
+void lire(const QJsonValue &json, const Lieu &lieu, Enum &valeur);
+template <EstEnregistrement Enregistrement>
+void lire(const QJsonValue &json, const Lieu &lieu, Enregistrement &valeur);
+template <typename T>
+void lire(const QJsonValue &json, const Lieu &lieu, std::optional<T> &valeur);
+template <typename T>
+void lire(const QJsonValue &json, const Lieu &lieu, QList<T> &valeur);
+template <typename T>
+void lire(const QJsonValue &json, const Lieu &lieu, QMap<QString, T> &valeur);
+
+inline QJsonValue ecrire(qint64 valeur) { return valeur; }
+inline QJsonValue ecrire(bool valeur) { return valeur; }
+inline QJsonValue ecrire(const QString &valeur) { return valeur; }
+inline QJsonValue ecrire(const QUrl &valeur) { return QString::fromLatin1(valeur.toEncoded()); }
+
+template <typename Unite>
+QJsonValue ecrire(Quantite<Unite> valeur);
+template <EstEnumeration Enum>
+QJsonValue ecrire(Enum valeur);
+template <EstEnregistrement Enregistrement>
+QJsonValue ecrire(const Enregistrement &valeur);
+template <typename T>
+QJsonValue ecrire(const std::optional<T> &valeur);
+template <typename T>
+QJsonValue ecrire(const QList<T> &valeur);
+template <typename T>
+QJsonValue ecrire(const QMap<QString, T> &valeur);
+
+// Throws Erreur when the bytes are not JSON; `nom` heads its text.
+QJsonValue analyser(const QByteArray &octets, const QString &nom);
+// Indented, keys sorted, "/" left as it is.
+QByteArray rediger(const QJsonValue &json);
+
+// Throws Erreur; `nom` heads the place that its text gives.
+template <typename T>
+T decoder(const QByteArray &octets, const QString &nom)
+{
+    T valeur{};
+    lire(analyser(octets, nom), Lieu(nom), valeur);
+    return valeur;
+}
+
+template <typename T>
+QByteArray encoder(const T &valeur)
+{
+    return rediger(ecrire(valeur));
+}
+
+template <typename Unite>
+void lire(const QJsonValue &json, const Lieu &lieu, Quantite<Unite> &valeur)
+{
+    qint64 nombre = 0;
+    lire(json, lieu, nombre);
+    valeur = Quantite<Unite>{nombre};
+}
+
+template <EstEnumeration Enum>
+void lire(const QJsonValue &json, const Lieu &lieu, Enum &valeur)
+{
+    QString texte;
+    lire(json, lieu, texte);
+    const auto cas = depuisBrut<Enum>(texte);
+    if (!cas)
+        lieu.refuser(QStringLiteral("valeur inconnue « %1 »").arg(texte));
+    valeur = *cas;
+}
+
+template <EstEnregistrement Enregistrement>
+void lire(const QJsonValue &json, const Lieu &lieu, Enregistrement &valeur)
+{
+    if (!json.isObject())
+        lieu.refuser(QStringLiteral("objet attendu"));
+    const QJsonObject objet = json.toObject();
+    const auto lireChamp = [&](const auto &champ) {
+        const QString cle = QString::fromLatin1(champ.cle);
+        lire(objet.value(cle), Lieu(lieu, cle), valeur.*champ.membre);
+    };
+    std::apply([&](const auto &...champ) { (lireChamp(champ), ...); }, champs<Enregistrement>);
+}
+
+template <typename T>
+void lire(const QJsonValue &json, const Lieu &lieu, std::optional<T> &valeur)
+{
+    if (json.isUndefined() || json.isNull())
+        valeur.reset();
+    else
+        lire(json, lieu, valeur.emplace());
+}
+
+template <typename T>
+void lire(const QJsonValue &json, const Lieu &lieu, QList<T> &valeur)
+{
+    if (!json.isArray())
+        lieu.refuser(QStringLiteral("liste attendue"));
+    const QJsonArray liste = json.toArray();
+    valeur.resize(liste.size());
+    for (qsizetype i = 0; i < liste.size(); ++i)
+        lire(liste.at(i), Lieu(lieu, i), valeur[i]);
+}
+
+template <typename T>
+void lire(const QJsonValue &json, const Lieu &lieu, QMap<QString, T> &valeur)
+{
+    if (!json.isObject())
+        lieu.refuser(QStringLiteral("objet attendu"));
+    const QJsonObject objet = json.toObject();
+    for (auto entree = objet.begin(); entree != objet.end(); ++entree)
+        lire(entree.value(), Lieu(lieu, entree.key()), valeur[entree.key()]);
+}
+
+template <typename Unite>
+QJsonValue ecrire(Quantite<Unite> valeur)
+{
+    return valeur.valeur();
+}
+
+template <EstEnumeration Enum>
+QJsonValue ecrire(Enum valeur)
+{
+    return brut(valeur);
+}
+
+template <EstEnregistrement Enregistrement>
+QJsonValue ecrire(const Enregistrement &valeur)
+{
+    QJsonObject objet;
+    const auto ecrireChamp = [&](const auto &champ) {
+        const QJsonValue json = ecrire(valeur.*champ.membre);
+        if (!json.isUndefined())
+            objet.insert(QString::fromLatin1(champ.cle), json);
+    };
+    std::apply([&](const auto &...champ) { (ecrireChamp(champ), ...); }, champs<Enregistrement>);
+    return objet;
+}
+
+template <typename T>
+QJsonValue ecrire(const std::optional<T> &valeur)
+{
+    return valeur ? ecrire(*valeur) : QJsonValue(QJsonValue::Undefined);
+}
+
+template <typename T>
+QJsonValue ecrire(const QList<T> &valeur)
+{
+    QJsonArray liste;
+    for (const T &element : valeur)
+        liste.append(ecrire(element));
+    return liste;
+}
+
+template <typename T>
+QJsonValue ecrire(const QMap<QString, T> &valeur)
+{
+    QJsonObject objet;
+    for (auto entree = valeur.begin(); entree != valeur.end(); ++entree)
+        objet.insert(entree.key(), ecrire(entree.value()));
+    return objet;
+}
+
+} // namespace Json

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QtGlobal>
+#include <compare>
+
+// A whole number of one unit. Two units never mix, and arithmetic that leaves 64 bits stops the program:
+// a wrong amount must not reach a buyer.
+template <typename Unite>
+class Quantite
+{
+public:
+    constexpr Quantite() = default;
+    constexpr explicit Quantite(qint64 valeur) : valeur_(valeur) {}
+
+    [[nodiscard]] constexpr qint64 valeur() const { return valeur_; }
+
+    constexpr auto operator<=>(const Quantite &) const = default;
+
+    friend constexpr Quantite operator+(Quantite a, Quantite b)
+    {
+        qint64 somme = 0;
+        arreterSi(__builtin_add_overflow(a.valeur_, b.valeur_, &somme));
+        return Quantite{somme};
+    }
+    friend constexpr Quantite operator-(Quantite a, Quantite b)
+    {
+        qint64 difference = 0;
+        arreterSi(__builtin_sub_overflow(a.valeur_, b.valeur_, &difference));
+        return Quantite{difference};
+    }
+    friend constexpr Quantite operator*(Quantite a, qint64 facteur)
+    {
+        qint64 produit = 0;
+        arreterSi(__builtin_mul_overflow(a.valeur_, facteur, &produit));
+        return Quantite{produit};
+    }
+    // Truncates toward zero.
+    friend constexpr Quantite operator/(Quantite a, qint64 diviseur) { return Quantite{a.valeur_ / diviseur}; }
+    constexpr Quantite operator-() const { return Quantite{} - *this; }
+    constexpr Quantite &operator+=(Quantite autre) { return *this = *this + autre; }
+
+private:
+    static constexpr void arreterSi(bool depassement)
+    {
+        if (depassement)
+            qFatal("Dépassement arithmétique sur une quantité");
+    }
+
+    qint64 valeur_ = 0;
+};
+
+using Centimes = Quantite<struct UniteCentime>;
+using Grammes = Quantite<struct UniteGramme>;
+// Hundredths of a percent: 290 is 2,90 %.
+using Taux = Quantite<struct UniteCentiemeDePourcent>;

@@ -1,0 +1,13 @@
+#include "model/Reglages.h"
+
+Centimes FraisPaypal::frais(Centimes montant, RegionPaypal region) const
+{
+    const Taux tauxTotal = taux + supplement(region);
+    return (montant * tauxTotal.valeur() + Centimes{5000}) / 10000 + fixe;
+}
+
+std::optional<IdentiteVendeur> Reglages::identite(Vendeur vendeur) const
+{
+    const auto trouvee = vendeurs.find(Json::brut(vendeur));
+    return trouvee == vendeurs.end() ? std::nullopt : std::optional(*trouvee);
+}

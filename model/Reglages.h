@@ -1,0 +1,112 @@
+#pragma once
+
+#include "model/Destination.h"
+#include "model/Quantite.h"
+#include "model/Vendeur.h"
+
+#include <QList>
+#include <QMap>
+#include <QString>
+#include <QUrl>
+
+#include <optional>
+
+// PayPal's fees for receiving a payment.
+struct FraisPaypal
+{
+    QString releve; // day on which it was read, yyyy-mm-dd
+    QUrl source;
+    Taux taux;
+    Centimes fixe;
+    QMap<QString, Taux> supplements; // by raw value of RegionPaypal; no entry: no extra rate
+
+    // Zero when the region has no entry.
+    [[nodiscard]] Taux supplement(RegionPaypal region) const { return supplements.value(Json::brut(region)); }
+    // Fee of one payment, its proportional part rounded to the nearest cent, halves upward.
+    [[nodiscard]] Centimes frais(Centimes montant, RegionPaypal region) const;
+
+    bool operator==(const FraisPaypal &) const = default;
+};
+
+struct Emballage
+{
+    QString nom;
+    Grammes poids;
+
+    bool operator==(const Emballage &) const = default;
+};
+
+// Wording of customs declarations.
+struct MentionsDouane
+{
+    QString contenuFr;
+    QString contenuEn;
+    QString codeSH; // Harmonized System code of printed books
+
+    bool operator==(const MentionsDouane &) const = default;
+};
+
+// What a seller's documents say of the seller.
+struct IdentiteVendeur
+{
+    QString nom;
+    QStringList adresse; // one printed line each
+    std::optional<QString> siret;
+    QString mentionTva;
+    std::optional<QString> retourPaypal; // where PayPal sends the buyer back to
+    std::optional<QString> site;         // host name of the seller's web site
+
+    bool operator==(const IdentiteVendeur &) const = default;
+};
+
+struct Reglages
+{
+    FraisPaypal fraisPaypal;
+    QList<Emballage> emballages; // the first is the default one
+    MentionsDouane douane;
+    QMap<QString, IdentiteVendeur> vendeurs; // by raw value of Vendeur
+
+    [[nodiscard]] std::optional<IdentiteVendeur> identite(Vendeur vendeur) const;
+
+    bool operator==(const Reglages &) const = default;
+};
+
+template <>
+inline constexpr auto Json::champs<FraisPaypal> = std::tuple{
+    Champ{"releve", &FraisPaypal::releve},
+    Champ{"source", &FraisPaypal::source},
+    Champ{"taux", &FraisPaypal::taux},
+    Champ{"fixe", &FraisPaypal::fixe},
+    Champ{"supplements", &FraisPaypal::supplements},
+};
+
+template <>
+inline constexpr auto Json::champs<Emballage> = std::tuple{
+    Champ{"nom", &Emballage::nom},
+    Champ{"poids", &Emballage::poids},
+};
+
+template <>
+inline constexpr auto Json::champs<MentionsDouane> = std::tuple{
+    Champ{"contenuFr", &MentionsDouane::contenuFr},
+    Champ{"contenuEn", &MentionsDouane::contenuEn},
+    Champ{"codeSH", &MentionsDouane::codeSH},
+};
+
+template <>
+inline constexpr auto Json::champs<IdentiteVendeur> = std::tuple{
+    Champ{"nom", &IdentiteVendeur::nom},
+    Champ{"adresse", &IdentiteVendeur::adresse},
+    Champ{"siret", &IdentiteVendeur::siret},
+    Champ{"mentionTva", &IdentiteVendeur::mentionTva},
+    Champ{"retourPaypal", &IdentiteVendeur::retourPaypal},
+    Champ{"site", &IdentiteVendeur::site},
+};
+
+template <>
+inline constexpr auto Json::champs<Reglages> = std::tuple{
+    Champ{"fraisPaypal", &Reglages::fraisPaypal},
+    Champ{"emballages", &Reglages::emballages},
+    Champ{"douane", &Reglages::douane},
+    Champ{"vendeurs", &Reglages::vendeurs},
+};

@@ -1,0 +1,111 @@
+#include "tests/Banc.h"
+
+#include <QFile>
+
+namespace {
+
+void ecrire(const QString &chemin, const QByteArray &octets)
+{
+    QDir().mkpath(QFileInfo(chemin).path());
+    QFile fichier(chemin);
+    if (!fichier.open(QIODevice::WriteOnly) || fichier.write(octets) != octets.size())
+        qFatal("%s", qPrintable(fichier.errorString()));
+}
+
+} // namespace
+
+Livre unLivre(qint64 id, Vendeur vendeur, Centimes prix, std::optional<Grammes> poids)
+{
+    return {.id = id,
+            .titre = QStringLiteral("Livre %1").arg(id),
+            .titreComplet = QStringLiteral("Livre %1, roman").arg(id),
+            .auteur = QStringLiteral("Une autrice"),
+            .vendeur = vendeur,
+            .prix = prix,
+            .poids = poids,
+            .isbn = QStringLiteral("978-0-00-000000-2"),
+            .pages = 200,
+            .format = QStringLiteral("14 × 21 cm"),
+            .langue = QStringLiteral("français"),
+            .disponible = true,
+            .couverture = QStringLiteral("sans-image.jpg"),
+            .teinte = {30, 90, 120}};
+}
+
+TarifsColissimo desTarifs(const QString &validite, Centimes premierPrix)
+{
+    const QList<Palier> paliers{{Grammes{250}, premierPrix}, {Grammes{500}, Centimes{759}}, {Grammes{2000}, Centimes{1119}}};
+    const auto grille = [&](const QString &code, const QString &nom, const QString &famille) {
+        return GrilleColissimo{code, nom, famille, nom + QStringLiteral(" : ici et là"), paliers};
+    };
+    return {validite, QStringLiteral("2025-12-15"), QUrl(QStringLiteral("https://poste.example/tarifs")),
+            {grille(QStringLiteral("france-domicile"), QStringLiteral("France"), QStringLiteral("france")),
+             grille(QStringLiteral("ue-suisse"), QStringLiteral("UE et Suisse"), QStringLiteral("europe"))}};
+}
+
+Banc::Banc()
+{
+    livres = {unLivre(1, Vendeur::davrel, Centimes{1500}, Grammes{200}),
+              unLivre(2, Vendeur::davrel, Centimes{2200}, std::nullopt),
+              unLivre(3, Vendeur::mireva, Centimes{1800}, Grammes{300}),
+              unLivre(4, Vendeur::davrel, Centimes{900}, Grammes{150})};
+    livres[3].disponible = false;
+    tarifs = {desTarifs(QStringLiteral("2026-01-01"), Centimes{549})};
+    const auto destination = [](const QString &code, const QString &fr, const QString &en, const QString &grille,
+                                RegionPaypal region, bool douane) {
+        return Destination{code, fr, en, fr, fr, en, grille, region, douane, std::nullopt};
+    };
+    destinations = {
+        destination(QStringLiteral("france"), QStringLiteral("France"), QStringLiteral("France"),
+                    QStringLiteral("france-domicile"), RegionPaypal::eee, false),
+        destination(QStringLiteral("ue"), QStringLiteral("Union européenne"), QStringLiteral("European Union"),
+                    QStringLiteral("ue-suisse"), RegionPaypal::eee, false),
+        destination(QStringLiteral("suisse"), QStringLiteral("Suisse"), QStringLiteral("Switzerland"),
+                    QStringLiteral("ue-suisse"), RegionPaypal::autres, true),
+        destination(QStringLiteral("lune"), QStringLiteral("Lune"), QStringLiteral("Moon"), QStringLiteral("zone-lune"),
+                    RegionPaypal::autres, true),
+    };
+    destinations[1].douaneSauf = QStringLiteral("les Canaries");
+    reglages = {.fraisPaypal = {QStringLiteral("2026-07-24"), QUrl(QStringLiteral("https://paypal.example/frais")),
+                                Taux{290}, Centimes{35}, {{QStringLiteral("autres"), Taux{199}}}},
+                .emballages = {{QStringLiteral("Enveloppe à bulles"), Grammes{40}}, {QStringLiteral("Carton"), Grammes{180}}},
+                .douane = {QStringLiteral("Livres imprimés"), QStringLiteral("Printed books"), QStringLiteral("490199")},
+                .vendeurs = {{QStringLiteral("davrel"),
+                              {.nom = QStringLiteral("Éditions Davrel"),
+                               .adresse = {QStringLiteral("1 rue Exemple"), QStringLiteral("00000 Exempleville")},
+                               .siret = QStringLiteral("00000000000000"),
+                               .mentionTva = QStringLiteral("TVA non applicable"),
+                               .retourPaypal = QStringLiteral("https://davrel.example/merci"),
+                               .site = QStringLiteral("davrel.example")}}}};
+}
+
+std::unique_ptr<Catalogue> Banc::charger() const
+{
+    ecrireRessource(QStringLiteral("livres.json"), Json::encoder(livres));
+    ecrireRessource(QStringLiteral("destinations.json"), Json::encoder(destinations));
+    ecrireRessource(QStringLiteral("reglages.json"), Json::encoder(reglages));
+    for (const TarifsColissimo &jeu : tarifs)
+        ecrireRessource(QStringLiteral("tarifs-colissimo-%1.json").arg(jeu.validite), Json::encoder(jeu));
+    return Catalogue::charge(ressources(), stockage());
+}
+
+QString Banc::cheminUtilisateur(const QString &nom) const
+{
+    return dossier_.filePath(QStringLiteral("donnees/Quillet/") + nom);
+}
+
+void Banc::ecrireUtilisateur(const QString &nom, const QByteArray &octets) const
+{
+    ecrire(cheminUtilisateur(nom), octets);
+}
+
+QByteArray Banc::lireUtilisateur(const QString &nom) const
+{
+    QFile fichier(cheminUtilisateur(nom));
+    return fichier.open(QIODevice::ReadOnly) ? fichier.readAll() : QByteArray();
+}
+
+void Banc::ecrireRessource(const QString &nom, const QByteArray &octets) const
+{
+    ecrire(dossier_.filePath(QStringLiteral("partage/") + nom), octets);
+}

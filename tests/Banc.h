@@ -1,0 +1,33 @@
+#pragma once
+
+#include "model/Catalogue.h"
+#include "model/Commande.h"
+
+#include <QTemporaryDir>
+
+// A small catalogue on temporary folders, read and written by the real code. Change the records, then load.
+struct Banc
+{
+    Banc();
+
+    QList<Livre> livres;
+    QList<Destination> destinations;
+    QList<TarifsColissimo> tarifs;
+    Reglages reglages;
+
+    // Writes the records as shipped resources and loads them with the user's files over them.
+    std::unique_ptr<Catalogue> charger() const;
+
+    [[nodiscard]] QString cheminUtilisateur(const QString &nom = {}) const;
+    void ecrireUtilisateur(const QString &nom, const QByteArray &octets) const;
+    [[nodiscard]] QByteArray lireUtilisateur(const QString &nom) const;
+    void ecrireRessource(const QString &nom, const QByteArray &octets) const;
+    [[nodiscard]] Ressources ressources() const { return Ressources(QDir(dossier_.filePath(QStringLiteral("partage")))); }
+    [[nodiscard]] Stockage stockage() const { return Stockage(QDir(cheminUtilisateur())); }
+
+private:
+    QTemporaryDir dossier_;
+};
+
+Livre unLivre(qint64 id, Vendeur vendeur, Centimes prix, std::optional<Grammes> poids);
+TarifsColissimo desTarifs(const QString &validite, Centimes premierPrix);

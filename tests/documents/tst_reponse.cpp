@@ -1,0 +1,140 @@
+#include "documents/ReponseType.h"
+#include "model/Format.h"
+#include "tests/Banc.h"
+
+#include <QTest>
+
+class TestReponse : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void corpsEnFrancais();
+    void corpsEnAnglaisEtDouane();
+    void sujet();
+    void objetEtDescription();
+    void langueDeLAcheteur_data();
+    void langueDeLAcheteur();
+};
+
+namespace {
+
+const QDate jour(2026, 3, 2);
+
+struct Cas
+{
+    Banc banc;
+    std::unique_ptr<Catalogue> catalogue = banc.charger();
+    Commande commande;
+
+    [[nodiscard]] ReponseType reponse(Langue langue, const QString &lien = {}) const
+    {
+        return {Calcul(*catalogue, commande, jour), langue, *catalogue->reglages().identite(Vendeur::davrel), lien,
+                commande.paysLivraison()};
+    }
+};
+
+QString sansEspacesFines(QString texte)
+{
+    return texte.replace(QChar(0x202F), u' ').replace(QChar(0x00A0), u' ');
+}
+
+} // namespace
+
+void TestReponse::corpsEnFrancais()
+{
+    Cas cas;
+    cas.commande.ajuster(cas.banc.livres[0], 2);
+    const auto reponse = cas.reponse(Langue::francais, QStringLiteral(" \n https://lien.example/1 "));
+    QCOMPARE(sansEspacesFines(reponse.corps()),
+             QStringLiteral("Bonjour,\n\nMerci pour votre commande :\n\n"
+                            "   • Livre 1 × 2 : 30,00 €\n"
+                            "   • Envoi via Colissimo (France) : 7,59 €\n\n"
+                            "Total à payer (livres + envoi) : 37,59 €\n\n"
+                            "Pour régler, ouvrez ce lien : https://lien.example/1\n\n"
+                            "Vous pouvez payer avec un compte PayPal, par Apple Pay ou par carte bancaire.\n"
+                            "Indiquez sur la page PayPal l’adresse où envoyer le colis.\n\n"
+                            "Le paquet part dès réception du paiement sous 2 jours ouvrés avec un numéro de suivi.\n"
+                            "\nBien cordialement,\n\nÉditions Davrel"));
+    QVERIFY(reponse.corps().contains(reponse.ligneTotal()));
+}
+
+void TestReponse::corpsEnAnglaisEtDouane()
+{
+    Cas cas;
+    cas.commande.ajuster(cas.banc.livres[0], 1);
+    cas.commande.ajuster(cas.banc.livres[1], 1); // not weighed: no price
+    cas.commande.setCodeDestination(QStringLiteral("suisse"));
+    QCOMPARE(cas.reponse(Langue::anglais, QStringLiteral("  ")).corps(),
+             QStringLiteral("Hello,\n\nThank you for your order:\n\n"
+                            "   • Livre 1 × 1: €15.00\n"
+                            "   • Livre 2 × 1: €22.00\n"
+                            "   • Shipping via Colissimo (Switzerland): —\n\n"
+                            "Total to pay (books + shipping): —\n\n"
+                            "To pay, please open this link: [link]\n\n"
+                            "You can pay with a PayPal account, Apple Pay or a card.\n"
+                            "Please give the address the parcel should be sent to on the PayPal page.\n\n"
+                            "The parcel is sent within 2 working days of payment, with a tracking number.\n"
+                            "\nThe parcel goes through customs: import duties or taxes may be charged on delivery.\n"
+                            "\nBest regards,\n\nÉditions Davrel"));
+    QVERIFY(cas.reponse(Langue::francais)
+                .corps()
+                .contains(QStringLiteral("suivi.\n\nLe colis passe en douane : des taxes d’importation peuvent vous "
+                                         "être demandées à la livraison.\n\nBien cordialement")));
+    QVERIFY(cas.reponse(Langue::francais).corps().contains(QStringLiteral("[lien]")));
+}
+
+void TestReponse::sujet()
+{
+    Cas cas;
+    QCOMPARE(cas.reponse(Langue::anglais).sujet(), QStringLiteral("Your book order – Éditions Davrel"));
+    cas.commande.ajuster(cas.banc.livres[0], 1);
+    QCOMPARE(cas.reponse(Langue::francais).sujet(), QStringLiteral("Votre commande de livres – davrel.example"));
+    auto sansSite = cas.reponse(Langue::francais);
+    sansSite.vendeur.site.reset();
+    QCOMPARE(sansSite.sujet(), QStringLiteral("Votre commande de livres – Éditions Davrel"));
+}
+
+void TestReponse::objetEtDescription()
+{
+    Cas cas;
+    QCOMPARE(cas.reponse(Langue::francais).nomDeLObjet(), QStringLiteral("Éditions Davrel – 0 book"));
+    cas.commande.ajuster(cas.banc.livres[0], 1);
+    QCOMPARE(cas.reponse(Langue::francais).nomDeLObjet(), QStringLiteral("Éditions Davrel – 1 book"));
+    cas.commande.ajuster(cas.banc.livres[1], 3);
+    cas.commande.setCodeDestination(QStringLiteral("ue"));
+    QCOMPARE(cas.reponse(Langue::francais).nomDeLObjet(), QStringLiteral("Éditions Davrel – 4 books"));
+    QCOMPARE(cas.reponse(Langue::francais).descriptionDuLien(),
+             QStringLiteral("Livre 1\nLivre 2 × 3\n\nLe prix comprend les livres et l’envoi vers Union européenne."));
+    cas.commande.setPaysLivraison(QStringLiteral(" \n"));
+    QCOMPARE(cas.reponse(Langue::anglais).descriptionDuLien(),
+             QStringLiteral("Livre 1\nLivre 2 × 3\n\nPrice includes books and shipping to European Union."));
+    cas.commande.setPaysLivraison(QStringLiteral("la Belgique "));
+    QVERIFY(cas.reponse(Langue::francais).descriptionDuLien().endsWith(QStringLiteral("vers la Belgique.")));
+}
+
+void TestReponse::langueDeLAcheteur_data()
+{
+    QTest::addColumn<QString>("destination");
+    QTest::addColumn<Langue>("attendue");
+    QTest::newRow("France") << QStringLiteral("france") << Langue::francais;
+    QTest::newRow("inconnue") << QStringLiteral("mars") << Langue::francais;
+    QTest::newRow("UE") << QStringLiteral("ue") << Langue::anglais;
+}
+
+void TestReponse::langueDeLAcheteur()
+{
+    QFETCH(QString, destination);
+    QFETCH(Langue, attendue);
+    Cas cas;
+    cas.commande.setCodeDestination(destination);
+    const Calcul calcul(*cas.catalogue, cas.commande, jour);
+    QCOMPARE(langueAcheteur(cas.commande, calcul), attendue);
+    cas.commande.setLangue(Langue::anglais);
+    QCOMPARE(langueAcheteur(cas.commande, calcul), Langue::anglais);
+    cas.commande.setLangue(Langue::francais);
+    QCOMPARE(langueAcheteur(cas.commande, calcul), Langue::francais);
+}
+
+QTEST_GUILESS_MAIN(TestReponse)
+#include "tst_reponse.moc"

@@ -1,0 +1,310 @@
+#include "model/Calcul.h"
+#include "tests/Banc.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
+
+class TestCalcul : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void paliers_data();
+    void paliers();
+    void fraisPaypal_data();
+    void fraisPaypal();
+    void pays_data();
+    void pays();
+    void commandeEntiere();
+    void sansPrix_data();
+    void sansPrix();
+    void poidsDuColis_data();
+    void poidsDuColis();
+    void douane_data();
+    void douane();
+    void tarifsDuJour();
+    void ajuster_data();
+    void ajuster();
+    void viderEtSignaux();
+    void depassementArrete();
+};
+
+namespace {
+
+const QDate jour(2026, 3, 2);
+
+} // namespace
+
+void TestCalcul::paliers_data()
+{
+    QTest::addColumn<qint64>("poids");
+    QTest::addColumn<qint64>("jusqua"); // 0: none
+    QTest::newRow("négatif") << qint64{-5} << qint64{250};
+    QTest::newRow("nul") << qint64{0} << qint64{250};
+    QTest::newRow("sur la borne") << qint64{250} << qint64{250};
+    QTest::newRow("un gramme de plus") << qint64{251} << qint64{500};
+    QTest::newRow("dernière borne") << qint64{2000} << qint64{2000};
+    QTest::newRow("au-delà") << qint64{2001} << qint64{0};
+}
+
+void TestCalcul::paliers()
+{
+    QFETCH(qint64, poids);
+    QFETCH(qint64, jusqua);
+    const auto grilles = desTarifs(QStringLiteral("2026-01-01"), Centimes{549}).grilles;
+    QCOMPARE(grilles[0].palier(Grammes{poids}).value_or(Palier{}).jusqua, Grammes{jusqua});
+    QVERIFY(!GrilleColissimo{}.palier(Grammes{poids}));
+}
+
+void TestCalcul::fraisPaypal_data()
+{
+    QTest::addColumn<qint64>("montant");
+    QTest::addColumn<qint64>("taux");
+    QTest::addColumn<qint64>("frais"); // with 35 cents fixed
+    QTest::newRow("exemple") << qint64{2590} << qint64{349} << qint64{125};
+    QTest::newRow("demi-centime vers le haut") << qint64{5000} << qint64{1} << qint64{36};
+    QTest::newRow("moins d’un demi-centime") << qint64{4999} << qint64{1} << qint64{35};
+    QTest::newRow("rien") << qint64{0} << qint64{290} << qint64{35};
+}
+
+void TestCalcul::fraisPaypal()
+{
+    QFETCH(qint64, montant);
+    QFETCH(qint64, taux);
+    QFETCH(qint64, frais);
+    FraisPaypal bareme{.taux = Taux{taux}, .fixe = Centimes{35}};
+    QCOMPARE(bareme.frais(Centimes{montant}, RegionPaypal::autres), Centimes{frais});
+    bareme.taux = Taux{0};
+    bareme.supplements = {{QStringLiteral("royaume-uni"), Taux{taux}}};
+    QCOMPARE(bareme.frais(Centimes{montant}, RegionPaypal::royaumeUni), Centimes{frais});
+    QCOMPARE(bareme.frais(Centimes{montant}, RegionPaypal::eee), Centimes{35});
+}
+
+void TestCalcul::pays_data()
+{
+    QTest::addColumn<QString>("nomCourt");
+    QTest::addColumn<QString>("nom");
+    QTest::addColumn<QString>("pays"); // empty: none
+    const auto cas = [](const char *court, const char *nom, const char *pays) {
+        QTest::addRow("%s", nom) << QString::fromUtf8(court) << QString::fromUtf8(nom) << QString::fromUtf8(pays);
+    };
+    cas("OM1", "OM1 : Guadeloupe, Guyane", "Guadeloupe, Guyane");
+    cas("OM1", "OM1", "");
+    cas("OM1", "OM1 : OM1", "");
+    cas("OM1", "Guadeloupe", "Guadeloupe");
+}
+
+void TestCalcul::pays()
+{
+    QFETCH(QString, nomCourt);
+    QFETCH(QString, nom);
+    QFETCH(QString, pays);
+    QCOMPARE((GrilleColissimo{.nomCourt = nomCourt, .nom = nom}.pays().value_or(QString())), pays);
+}
+
+void TestCalcul::commandeEntiere()
+{
+    const Banc banc;
+    const auto catalogue = banc.charger();
+    Commande commande;
+    commande.ajuster(banc.livres[0], 2);
+    commande.ajuster(banc.livres[2], 5); // the other seller's
+    commande.ajuster(banc.livres[3], 1); // sold out
+    commande.setCodeDestination(QStringLiteral("suisse"));
+    const Calcul calcul(*catalogue, commande, jour);
+    QCOMPARE(calcul.lignes, (QList<Calcul::Ligne>{{banc.livres[0], 2}}));
+    QCOMPARE(calcul.sousTotal, Centimes{3000});
+    QCOMPARE(calcul.poidsLivres, Grammes{400});
+    QCOMPARE(calcul.poidsCalcule, Grammes{440});
+    QCOMPARE(calcul.poidsRetenu, Grammes{440});
+    QCOMPARE(calcul.regionPaypal, RegionPaypal::autres);
+    QCOMPARE(calcul.envoi, Centimes{759});
+    QCOMPARE(calcul.total, Centimes{3759});
+    QCOMPARE(calcul.fraisPaypal, Centimes{(3759 * 489 + 5000) / 10000 + 35});
+    QCOMPARE(calcul.reste, calcul.sousTotal - *calcul.fraisPaypal);
+    QCOMPARE(calcul.vendeurs(), QSet{Vendeur::davrel});
+    QCOMPARE(calcul.nombreDeLivres(), 2);
+}
+
+void TestCalcul::sansPrix_data()
+{
+    QTest::addColumn<qint64>("livre");
+    QTest::addColumn<QString>("destination");
+    QTest::addColumn<qint64>("pesee"); // -1: none
+    QTest::addColumn<bool>("chiffree");
+    const auto cas = [](const char *nom, qint64 livre, const char *destination, qint64 pesee, bool chiffree) {
+        QTest::newRow(nom) << livre << QString::fromLatin1(destination) << pesee << chiffree;
+    };
+    cas("pesé par le catalogue", 1, "france", -1, true);
+    cas("livre jamais pesé", 2, "france", -1, false);
+    cas("livre jamais pesé, pesée nulle", 2, "france", 0, false);
+    cas("livre jamais pesé, colis pesé", 2, "france", 1, true);
+    cas("livre de l’autre vendeur", 3, "france", -1, false);
+    cas("dernier palier", 1, "france", 2000, true);
+    cas("trop lourd", 1, "france", 2001, false);
+    cas("destination inconnue", 1, "mars", -1, false);
+    cas("destination sans grille", 1, "lune", -1, false);
+}
+
+void TestCalcul::sansPrix()
+{
+    QFETCH(qint64, livre);
+    QFETCH(QString, destination);
+    QFETCH(qint64, pesee);
+    QFETCH(bool, chiffree);
+    const Banc banc;
+    const auto catalogue = banc.charger();
+    Commande commande;
+    commande.ajuster(banc.livres[livre - 1], 1);
+    commande.setCodeDestination(destination);
+    if (pesee >= 0)
+        commande.setPoidsPese(Grammes{pesee});
+    const Calcul calcul(*catalogue, commande, jour);
+    QCOMPARE(calcul.palier.has_value(), chiffree);
+    QCOMPARE(calcul.envoi.has_value(), chiffree);
+    QCOMPARE(calcul.total.has_value(), chiffree);
+    QCOMPARE(calcul.fraisPaypal.has_value(), chiffree);
+    QCOMPARE(calcul.reste.has_value(), chiffree);
+    QCOMPARE(calcul.poidsPese.has_value(), pesee > 0);
+    QCOMPARE(calcul.regionPaypal.has_value(), destination != QStringLiteral("mars"));
+}
+
+void TestCalcul::poidsDuColis_data()
+{
+    QTest::addColumn<QString>("emballage");
+    QTest::addColumn<qint64>("libre");
+    QTest::addColumn<qint64>("attendu");
+    QTest::newRow("des réglages") << QStringLiteral("Carton") << qint64{7} << qint64{180};
+    QTest::newRow("libre, avant l’homonyme") << QStringLiteral("Autre poids") << qint64{7} << qint64{7};
+    QTest::newRow("libre négatif") << QStringLiteral("Autre poids") << qint64{-7} << qint64{0};
+    QTest::newRow("inconnu") << QStringLiteral("carton") << qint64{7} << qint64{0};
+}
+
+void TestCalcul::poidsDuColis()
+{
+    QFETCH(QString, emballage);
+    QFETCH(qint64, libre);
+    QFETCH(qint64, attendu);
+    Banc banc;
+    banc.reglages.emballages.append({QStringLiteral("Autre poids"), Grammes{999}});
+    const auto catalogue = banc.charger();
+    Commande commande;
+    commande.setEmballage(emballage);
+    commande.setPoidsEmballageLibre(Grammes{libre});
+    QCOMPARE(Calcul(*catalogue, commande, jour).poidsEmballage, Grammes{attendu});
+}
+
+void TestCalcul::douane_data()
+{
+    QTest::addColumn<QString>("destination");
+    QTest::addColumn<bool>("horsUE");
+    QTest::addColumn<bool>("requise");
+    QTest::newRow("France") << QStringLiteral("france") << true << false;
+    QTest::newRow("UE") << QStringLiteral("ue") << false << false;
+    QTest::newRow("UE, exception") << QStringLiteral("ue") << true << true;
+    QTest::newRow("Suisse") << QStringLiteral("suisse") << false << true;
+    QTest::newRow("inconnue") << QStringLiteral("mars") << true << false;
+}
+
+void TestCalcul::douane()
+{
+    QFETCH(QString, destination);
+    QFETCH(bool, horsUE);
+    QFETCH(bool, requise);
+    const auto catalogue = Banc().charger();
+    Commande commande;
+    commande.setCodeDestination(destination);
+    commande.setHorsUE(horsUE);
+    QCOMPARE(Calcul(*catalogue, commande, jour).douaneRequise, requise);
+}
+
+void TestCalcul::tarifsDuJour()
+{
+    Banc banc;
+    banc.tarifs.append(desTarifs(QStringLiteral("2026-07-01"), Centimes{601}));
+    const auto catalogue = banc.charger();
+    Commande commande;
+    commande.ajuster(banc.livres[0], 1);
+    QCOMPARE(Calcul(*catalogue, commande, QDate(2026, 6, 30)).envoi, Centimes{549});
+    QCOMPARE(Calcul(*catalogue, commande, QDate(2026, 7, 1)).envoi, Centimes{601});
+}
+
+void TestCalcul::ajuster_data()
+{
+    QTest::addColumn<int>("depart");
+    QTest::addColumn<int>("pas");
+    QTest::addColumn<int>("arrivee");
+    QTest::newRow("+1 à 99") << 99 << 1 << 99;
+    QTest::newRow("-1 à 0") << 0 << -1 << 0;
+    QTest::newRow("+150") << 0 << 150 << 99;
+    QTest::newRow("pas démesuré") << 50 << std::numeric_limits<int>::max() << 99;
+    QTest::newRow("pas démesuré négatif") << 50 << std::numeric_limits<int>::min() << 0;
+}
+
+void TestCalcul::ajuster()
+{
+    QFETCH(int, depart);
+    QFETCH(int, pas);
+    QFETCH(int, arrivee);
+    const Banc banc;
+    Commande commande;
+    commande.ajuster(banc.livres[0], depart);
+    commande.ajuster(banc.livres[0], pas);
+    QCOMPARE(commande.quantite(banc.livres[0]), arrivee);
+    QVERIFY(commande.quantites().contains(1));
+    QCOMPARE(commande.estVide(), arrivee == 0);
+}
+
+void TestCalcul::viderEtSignaux()
+{
+    const Banc banc;
+    Commande commande;
+    QSignalSpy change(&commande, &Commande::change);
+    commande.setCodeDestination(QStringLiteral("ue"));
+    commande.setHorsUE(true);
+    commande.setPaysLivraison(QStringLiteral("l’Italie"));
+    commande.setLangue(Langue::anglais);
+    commande.setPoidsPese(Grammes{450});
+    commande.setEmballage(QStringLiteral("Carton"));
+    commande.ajuster(banc.livres[2], 3);
+    QCOMPARE(change.count(), 7);
+    commande.setEmballage(QStringLiteral("Carton"));
+    commande.setPoidsPese(Grammes{450});
+    commande.ajuster(banc.livres[2], 0);
+    QCOMPARE(change.count(), 7);
+
+    commande.vider();
+    QCOMPARE(change.count(), 8);
+    QVERIFY(commande.estVide() && !commande.poidsPese() && !commande.horsUE() && !commande.langue());
+    QVERIFY(commande.paysLivraison().isEmpty());
+    QCOMPARE(commande.codeDestination(), QStringLiteral("ue"));
+    QCOMPARE(commande.emballage(), QStringLiteral("Carton"));
+
+    commande.setHorsUE(true);
+    commande.setPaysLivraison(QStringLiteral("Lugano"));
+    commande.setLangue(Langue::francais);
+    commande.setCodeDestination(QStringLiteral("suisse"));
+    QVERIFY(!commande.horsUE() && commande.paysLivraison().isEmpty() && !commande.langue());
+}
+
+void TestCalcul::depassementArrete()
+{
+    if (const pid_t enfant = fork(); enfant == 0) {
+        qInstallMessageHandler(nullptr);
+        std::signal(SIGABRT, SIG_DFL);
+        volatile qint64 maximum = std::numeric_limits<qint64>::max();
+        const Centimes somme = Centimes{maximum} + Centimes{1};
+        _exit(somme.valeur() == 0 ? 1 : 2); // reached only if the overflow went on
+    } else {
+        int statut = 0;
+        waitpid(enfant, &statut, 0);
+        QVERIFY(WIFSIGNALED(statut));
+    }
+}
+
+QTEST_GUILESS_MAIN(TestCalcul)
+#include "tst_calcul.moc"

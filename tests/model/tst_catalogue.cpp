@@ -1,0 +1,232 @@
+#include "tests/Banc.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+class TestCatalogue : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void tarifsDUnJour_data();
+    void tarifsDUnJour();
+    void grillesEnregistreesAvantLesLivrees();
+    void connaitParLesPrix();
+    void modificationsAppliquees_data();
+    void modificationsAppliquees();
+    void ressourceManquante_data();
+    void ressourceManquante();
+    void fraisEnregistres();
+    void prixDesBoutons();
+    void garderPuisReporter();
+    void retourAuxValeursLivrees();
+};
+
+void TestCatalogue::tarifsDUnJour_data()
+{
+    QTest::addColumn<QString>("jour");
+    QTest::addColumn<QString>("enVigueur");
+    QTest::addColumn<QString>("aVenir");
+    const auto cas = [](const char *jour, const char *enVigueur, const char *aVenir) {
+        QTest::addRow("%s", jour) << QString::fromLatin1(jour) << QString::fromLatin1(enVigueur)
+                                  << QString::fromLatin1(aVenir);
+    };
+    cas("2024-06-01", "2025-01-01", "2025-01-01");
+    cas("2025-01-01", "2025-01-01", "2026-01-01");
+    cas("2025-12-31", "2025-01-01", "2026-01-01");
+    cas("2026-01-01", "2026-01-01", "2027-01-01");
+    cas("2031-05-05", "2027-01-01", "");
+}
+
+void TestCatalogue::tarifsDUnJour()
+{
+    QFETCH(QString, jour);
+    QFETCH(QString, enVigueur);
+    QFETCH(QString, aVenir);
+    Banc banc;
+    banc.tarifs = {desTarifs(QStringLiteral("2026-01-01"), Centimes{549}),
+                   desTarifs(QStringLiteral("2027-01-01"), Centimes{579}),
+                   desTarifs(QStringLiteral("2025-01-01"), Centimes{525})};
+    const auto catalogue = banc.charger();
+    QCOMPARE(catalogue->tarifs(jour).validite, enVigueur);
+    const auto prochains = catalogue->tarifsAVenir(QDate::fromString(jour, Qt::ISODate));
+    QCOMPARE(prochains ? prochains->validite : QString(), aVenir);
+}
+
+void TestCatalogue::grillesEnregistreesAvantLesLivrees()
+{
+    Banc banc;
+    const auto premier = [](const Catalogue &c, const QString &jour) { return c.tarifs(jour).grilles[0].paliers[0].prix; };
+    const QString deuxMilleVingtSix = QStringLiteral("2026-01-01");
+    {
+        const auto catalogue = banc.charger();
+        QSignalSpy change(catalogue.get(), &Catalogue::change);
+        catalogue->enregistrer(desTarifs(deuxMilleVingtSix, Centimes{600}));
+        catalogue->enregistrer(desTarifs(QStringLiteral("2027-01-01"), Centimes{700}));
+        QCOMPARE(change.count(), 2);
+        QCOMPARE(catalogue->grillesConnues().size(), 2);
+        QCOMPARE(premier(*catalogue, deuxMilleVingtSix), Centimes{600});
+    }
+    banc.ecrireUtilisateur(QStringLiteral("tarifs-colissimo-abime.json"), "{\"validite\":\"2030-01-01\"}");
+    banc.ecrireUtilisateur(QStringLiteral("tarifs-colissimo-bis.json"),
+                           Json::encoder(desTarifs(deuxMilleVingtSix, Centimes{610})));
+    const auto relu = banc.charger();
+    QCOMPARE(relu->grillesConnues().size(), 2);
+    QCOMPARE(premier(*relu, deuxMilleVingtSix), Centimes{610});
+    QCOMPARE(premier(*relu, QStringLiteral("2028-01-01")), Centimes{700});
+}
+
+void TestCatalogue::connaitParLesPrix()
+{
+    const auto catalogue = Banc().charger();
+    auto lus = desTarifs(QStringLiteral("2029-01-01"), Centimes{549});
+    std::swap(lus.grilles[0], lus.grilles[1]);
+    QVERIFY(catalogue->connait(lus));
+    lus.grilles[0].paliers[1].prix += Centimes{1};
+    QVERIFY(!catalogue->connait(lus));
+    lus = desTarifs(QStringLiteral("2026-01-01"), Centimes{549});
+    lus.grilles.append(lus.grilles[0]);
+    QVERIFY(!catalogue->connait(lus));
+}
+
+void TestCatalogue::modificationsAppliquees_data()
+{
+    QTest::addColumn<QByteArray>("fichier");
+    QTest::addColumn<bool>("appliquee");
+    QTest::addColumn<PrixParDestination>("ecartes");
+    const PrixParDestination livres{{QStringLiteral("france"), Centimes{2000}}};
+    QTest::newRow("prix écartés absents : gardés")
+        << QByteArray(R"({"1":{"prix":1700,"disponible":false}, "99":{"prix":1,"disponible":true}})") << true << livres;
+    QTest::newRow("prix écartés vides : remplacés")
+        << QByteArray(R"({"1":{"prix":1700,"disponible":false,"prixEcartes":{}}})") << true << PrixParDestination{};
+    QTest::newRow("fichier abîmé : ignoré") << QByteArray(R"({"1":{"prix":1700)") << false << livres;
+    QTest::newRow("une valeur abîmée : tout est ignoré")
+        << QByteArray(R"({"1":{"prix":1700,"disponible":false}, "3":{"prix":1.5,"disponible":true}})") << false << livres;
+}
+
+void TestCatalogue::modificationsAppliquees()
+{
+    QFETCH(QByteArray, fichier);
+    QFETCH(bool, appliquee);
+    QFETCH(PrixParDestination, ecartes);
+    Banc banc;
+    banc.livres[0].prixPaypal = banc.livres[0].prixEcartes = {{QStringLiteral("france"), Centimes{2000}}};
+    banc.ecrireUtilisateur(QStringLiteral("livres-modifies.json"), fichier);
+    const auto catalogue = banc.charger();
+    const Livre &livre = catalogue->livres()[0];
+    QCOMPARE(livre.prix, appliquee ? Centimes{1700} : Centimes{1500});
+    QCOMPARE(livre.poids.has_value(), !appliquee);
+    QCOMPARE(livre.prixPaypal.has_value(), !appliquee);
+    QCOMPARE(livre.disponible, !appliquee);
+    QCOMPARE(*livre.prixEcartes, ecartes);
+}
+
+void TestCatalogue::ressourceManquante_data()
+{
+    QTest::addColumn<QString>("fichier");
+    QTest::addColumn<QByteArray>("contenu");
+    QTest::addColumn<QString>("erreur");
+    QTest::newRow("règlages incomplets")
+        << QStringLiteral("reglages.json") << QByteArray(R"({"fraisPaypal":{"releve":"x"}})")
+        << QStringLiteral("Ressource illisible : reglages.fraisPaypal.source : valeur manquante");
+    QTest::newRow("tarifs abîmés")
+        << QStringLiteral("tarifs-colissimo-2026-01-01.json") << QByteArray("{")
+        << QStringLiteral("Ressource illisible : tarifs-colissimo-2026-01-01 : JSON illisible, ligne 1");
+    QTest::newRow("livres absents") << QStringLiteral("livres.json") << QByteArray()
+                                    << QStringLiteral("Ressource illisible : livres.json : fichier introuvable");
+}
+
+void TestCatalogue::ressourceManquante()
+{
+    QFETCH(QString, fichier);
+    QFETCH(QByteArray, contenu);
+    QFETCH(QString, erreur);
+    const Banc banc;
+    banc.charger();
+    banc.ecrireRessource(fichier, contenu);
+    if (contenu.isEmpty())
+        QVERIFY(QFile::remove(banc.ressources().chemin(fichier)));
+    try {
+        Catalogue::charge(banc.ressources(), banc.stockage());
+        QFAIL("chargement accepté");
+    } catch (const RessourceIllisible &illisible) {
+        QCOMPARE(illisible.texte(), erreur);
+    }
+}
+
+void TestCatalogue::fraisEnregistres()
+{
+    const Banc banc;
+    FraisPaypal frais = banc.reglages.fraisPaypal;
+    frais.taux = Taux{310};
+    banc.charger()->enregistrer(frais);
+    QCOMPARE(banc.charger()->reglages().fraisPaypal, frais);
+    banc.ecrireUtilisateur(QStringLiteral("frais-paypal.json"), "[]");
+    QCOMPARE(banc.charger()->reglages().fraisPaypal, banc.reglages.fraisPaypal);
+}
+
+void TestCatalogue::prixDesBoutons()
+{
+    const Banc banc;
+    Livre livre = banc.livres[0];
+    livre.poids = Grammes{210};
+    livre.prixPaypal = {{QStringLiteral("france"), Centimes{2049}}, {QStringLiteral("lune"), Centimes{9}}};
+    livre.prixEcartes = {{QStringLiteral("ue"), Centimes{2049}}, {QStringLiteral("suisse"), Centimes{1}}};
+    using Etat = PrixBouton::Etat;
+    const auto etats = [&](const Livre &du, Grammes emballage) {
+        QList<Etat> liste;
+        for (const auto &ligne : PrixBouton::calculer(du, banc.tarifs[0], banc.destinations, emballage))
+            liste.append(ligne.etat());
+        return liste;
+    };
+    QCOMPARE(etats(livre, Grammes{40}), (QList{Etat::aJour, Etat::garde, Etat::aReporter, Etat::sansPrix}));
+    QCOMPARE(etats(livre, Grammes{41}), (QList{Etat::aReporter, Etat::aReporter, Etat::aReporter, Etat::sansPrix}));
+    QCOMPARE(etats(livre, Grammes{3000}), QList<Etat>(4, Etat::sansPrix));
+    const auto france = PrixBouton::calculer(livre, banc.tarifs[0], banc.destinations, Grammes{40})[0];
+    QCOMPARE(france.palier, Grammes{250});
+    QCOMPARE(france.envoi, Centimes{549});
+    livre.poids.reset();
+    const auto nonPese = PrixBouton::calculer(livre, banc.tarifs[0], banc.destinations, Grammes{40});
+    QVERIFY(!nonPese[0].palier && !nonPese[0].envoi && !nonPese[0].calcule);
+    QCOMPARE(nonPese[0].actuel, Centimes{2049});
+}
+
+void TestCatalogue::garderPuisReporter()
+{
+    const Banc banc;
+    const auto catalogue = banc.charger();
+    const auto lignes = [&] {
+        return PrixBouton::calculer(catalogue->livres()[0], banc.tarifs[0], banc.destinations, Grammes{40});
+    };
+    const Livre livre = catalogue->livres()[0];
+    catalogue->garder(livre, lignes()[0]);
+    catalogue->garder(livre, lignes()[1]);
+    QCOMPARE(lignes()[0].etat(), PrixBouton::Etat::garde);
+    catalogue->reporter(livre, {lignes()[0], lignes()[3]});
+    QCOMPARE(lignes()[0].etat(), PrixBouton::Etat::aJour);
+    QVERIFY(!lignes()[0].ecarte);
+    QCOMPARE(lignes()[1].etat(), PrixBouton::Etat::garde);
+    QVERIFY(!lignes()[3].actuel);
+    QCOMPARE(banc.charger()->livres(), catalogue->livres());
+}
+
+void TestCatalogue::retourAuxValeursLivrees()
+{
+    const Banc banc;
+    const auto catalogue = banc.charger();
+    Livre change = catalogue->livres()[1];
+    change.prix = Centimes{1};
+    change.poids = Grammes{333};
+    catalogue->modifier(change);
+    QCOMPARE(catalogue->livres()[1], change);
+    QSignalSpy signal(catalogue.get(), &Catalogue::change);
+    catalogue->revenirAuxValeursLivrees();
+    QCOMPARE(signal.count(), 1);
+    QCOMPARE(catalogue->livres(), banc.livres);
+    QVERIFY(!QFile::exists(banc.cheminUtilisateur(QStringLiteral("livres-modifies.json"))));
+    catalogue->revenirAuxValeursLivrees();
+    QCOMPARE(signal.count(), 1);
+}
+
+QTEST_GUILESS_MAIN(TestCatalogue)
+#include "tst_catalogue.moc"

@@ -1,0 +1,116 @@
+#include "ui/ContenuPrincipal.h"
+
+#include "model/Catalogue.h"
+#include "model/Commande.h"
+#include "model/Format.h"
+#include "ui/ListeRubriques.h"
+#include "ui/Theme.h"
+#include "ui/commande/VueCommande.h"
+#include "ui/commun/Libelle.h"
+#include "ui/livres/VueLivres.h"
+#include "ui/tarifs/VueTarifs.h"
+
+#include <QHBoxLayout>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int barreMinimum = 190;
+constexpr int barreIdeale = 210;
+constexpr int barreMaximum = 260;
+
+} // namespace
+
+ContenuPrincipal::ContenuPrincipal(Catalogue &catalogue, Commande &commande, ImagesCouvertures &images, Aujourdhui aujourdhui,
+                                   QWidget *parent)
+    : QWidget(parent),
+      catalogue_(catalogue),
+      commande_(commande),
+      images_(images),
+      aujourdhui_(std::move(aujourdhui)),
+      rubriques_(new ListeRubriques({{QStringLiteral("shippingbox"), tr("Commande")},
+                                     {QStringLiteral("tablecells"), tr("Tarifs Colissimo")},
+                                     {QStringLiteral("books.vertical"), tr("Livres")}})),
+      enVigueur_(new Libelle({}, Libelle::Rang::secondaire)),
+      detail_(new QStackedWidget),
+      ecrans_(3, nullptr)
+{
+    auto *partage = new QSplitter;
+    partage->setChildrenCollapsible(false);
+    partage->addWidget(barreLaterale());
+    partage->addWidget(detail_);
+    partage->setStretchFactor(0, 0);
+    partage->setStretchFactor(1, 1);
+    partage->setSizes({barreIdeale, 10 * barreIdeale});
+    auto *colonnes = new QHBoxLayout(this);
+    colonnes->setContentsMargins(0, 0, 0, 0);
+    colonnes->addWidget(partage);
+
+    connect(rubriques_, &QListWidget::itemSelectionChanged, this,
+            [this] { detail_->setCurrentWidget(ecran(rubrique().value_or(Rubrique::commande))); });
+    connect(&catalogue_, &Catalogue::change, this, &ContenuPrincipal::actualiser);
+    actualiser();
+    montrer(Rubrique::commande);
+}
+
+void ContenuPrincipal::montrer(std::optional<Rubrique> rubrique)
+{
+    rubriques_->setCurrentRow(rubrique ? static_cast<int>(*rubrique) : -1);
+}
+
+std::optional<Rubrique> ContenuPrincipal::rubrique() const
+{
+    const auto choisies = rubriques_->selectionModel()->selectedRows();
+    return choisies.isEmpty() ? std::nullopt : std::optional(static_cast<Rubrique>(choisies.first().row()));
+}
+
+QWidget *ContenuPrincipal::barreLaterale()
+{
+    auto *barre = new QWidget;
+    barre->setMinimumWidth(barreMinimum);
+    barre->setMaximumWidth(barreMaximum);
+    barre->setAutoFillBackground(true);
+    barre->setBackgroundRole(QPalette::AlternateBase);
+    auto *colonne = new QVBoxLayout(barre);
+    colonne->setContentsMargins(0, 14, 0, 0);
+    colonne->setSpacing(0);
+    colonne->addWidget(rubriques_, 1);
+    colonne->addWidget(tarifsEnVigueur());
+    return barre;
+}
+
+QWidget *ContenuPrincipal::tarifsEnVigueur()
+{
+    auto *titre = new Libelle(tr("Tarifs Colissimo"), Libelle::Rang::secondaire);
+    titre->setFont(Theme::enGras(Theme::legende()));
+    enVigueur_->setFont(Theme::legende());
+    auto *bloc = new QWidget;
+    auto *lignes = new QVBoxLayout(bloc);
+    lignes->setContentsMargins(16, 16, 16, 16);
+    lignes->setSpacing(2);
+    lignes->addWidget(titre);
+    lignes->addWidget(enVigueur_);
+    return bloc;
+}
+
+QWidget *ContenuPrincipal::ecran(Rubrique rubrique)
+{
+    QWidget *&place = ecrans_[static_cast<int>(rubrique)];
+    if (!place) {
+        switch (rubrique) {
+        case Rubrique::commande: place = new VueCommande(catalogue_, commande_, images_, aujourdhui_); break;
+        case Rubrique::tarifs: place = new VueTarifs(catalogue_, aujourdhui_); break;
+        case Rubrique::livres: place = new VueLivres(catalogue_, images_); break;
+        }
+        detail_->addWidget(place);
+    }
+    return place;
+}
+
+void ContenuPrincipal::actualiser()
+{
+    const TarifsColissimo &tarifs = catalogue_.tarifs(Format::iso(aujourdhui_()));
+    enVigueur_->setText(tr("en vigueur au %1").arg(Format::date(tarifs.validite)));
+}

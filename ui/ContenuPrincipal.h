@@ -1,0 +1,46 @@
+#pragma once
+
+#include "ui/Aujourdhui.h"
+
+#include <QWidget>
+
+#include <optional>
+
+class Catalogue;
+class Commande;
+class ImagesCouvertures;
+class Libelle;
+class QListWidget;
+class QStackedWidget;
+
+// The sections of the window, in the sidebar's order.
+enum class Rubrique { commande, tarifs, livres };
+
+// The window's two columns: the sections on the left, the chosen one's screen beside them.
+class ContenuPrincipal : public QWidget
+{
+    Q_OBJECT
+
+public:
+    ContenuPrincipal(Catalogue &catalogue, Commande &commande, ImagesCouvertures &images, Aujourdhui aujourdhui,
+                     QWidget *parent = nullptr);
+
+    // No section at all shows the order.
+    void montrer(std::optional<Rubrique> rubrique);
+    [[nodiscard]] std::optional<Rubrique> rubrique() const;
+
+private:
+    QWidget *barreLaterale();
+    QWidget *tarifsEnVigueur();
+    [[nodiscard]] QWidget *ecran(Rubrique rubrique);
+    void actualiser();
+
+    Catalogue &catalogue_;
+    Commande &commande_;
+    ImagesCouvertures &images_;
+    Aujourdhui aujourdhui_;
+    QListWidget *rubriques_;
+    Libelle *enVigueur_;
+    QStackedWidget *detail_;
+    QList<QWidget *> ecrans_; // by section; a screen is built when it is first shown
+};

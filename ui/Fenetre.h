@@ -1,0 +1,30 @@
+#pragma once
+
+#include "ui/Aujourdhui.h"
+
+#include <QMainWindow>
+
+class Catalogue;
+class Commande;
+class ContenuPrincipal;
+class ImagesCouvertures;
+
+// The one window and its menu. Closing it ends the program.
+class Fenetre : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    Fenetre(Catalogue &catalogue, Commande &commande, ImagesCouvertures &images, Aujourdhui aujourdhui);
+
+    [[nodiscard]] ContenuPrincipal *contenu() const { return contenu_; }
+    // Back from an icon or from behind other windows.
+    void ramener();
+
+private:
+    void creerMenu();
+    void creerRaccourcis();
+    void aPropos();
+
+    ContenuPrincipal *contenu_;
+};

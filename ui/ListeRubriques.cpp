@@ -1,0 +1,72 @@
+#include "ui/ListeRubriques.h"
+
+#include "ui/Theme.h"
+#include "ui/commun/Dessin.h"
+#include "ui/commun/Icone.h"
+
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int roleSymbole = Qt::UserRole;
+constexpr int hauteur = 38;
+constexpr int coteSymbole = 20;
+
+class Delegue : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const override
+    {
+        return {0, std::max(hauteur, option.fontMetrics.height() + 20)};
+    }
+
+    void paint(QPainter *peintre, const QStyleOptionViewItem &option, const QModelIndex &indice) const override
+    {
+        peintre->save();
+        peintre->setRenderHint(QPainter::Antialiasing);
+        const QPalette &palette = option.palette;
+        const bool choisie = option.state.testFlag(QStyle::State_Selected);
+        const bool survolee = option.state.testFlag(QStyle::State_MouseOver);
+        const QRectF cadre = QRectF(option.rect).adjusted(10, 1, -10, -1);
+        if (choisie || survolee) {
+            QColor fond = choisie ? Theme::accentTexte(palette) : palette.color(QPalette::WindowText);
+            fond.setAlphaF(choisie ? 0.15F : 0.05F);
+            peintre->setPen(Qt::NoPen);
+            peintre->setBrush(fond);
+            peintre->drawRoundedRect(cadre, Theme::rayonControle, Theme::rayonControle);
+        }
+        const auto *liste = qobject_cast<const QWidget *>(option.widget);
+        if (option.state.testFlag(QStyle::State_HasFocus) && liste && liste->hasFocus())
+            Dessin::anneauDeFocus(*peintre, cadre.adjusted(2, 2, -2, -2), Theme::rayonControle - 2, palette);
+
+        const QColor couleur = choisie ? Theme::accentTexte(palette) : palette.color(QPalette::WindowText);
+        Icone::peindre(*peintre, indice.data(roleSymbole).toString(),
+                       QRectF(cadre.left() + 10, cadre.center().y() - coteSymbole / 2.0, coteSymbole, coteSymbole), couleur);
+        peintre->setFont(choisie ? Theme::enGras(option.font) : option.font);
+        peintre->setPen(couleur);
+        peintre->drawText(cadre.adjusted(10 + coteSymbole + 10, 0, -8, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                          indice.data().toString());
+        peintre->restore();
+    }
+};
+
+} // namespace
+
+ListeRubriques::ListeRubriques(const QList<Entree> &entrees, QWidget *parent) : QListWidget(parent)
+{
+    setAccessibleName(tr("Rubriques"));
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setMouseTracking(true);
+    viewport()->setAutoFillBackground(false);
+    setItemDelegate(new Delegue(this));
+    for (const Entree &entree : entrees) {
+        auto *ligne = new QListWidgetItem(entree.libelle, this);
+        ligne->setData(roleSymbole, entree.symbole);
+    }
+}

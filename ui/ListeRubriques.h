@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QListWidget>
+
+// The sidebar's list of sections.
+class ListeRubriques : public QListWidget
+{
+    Q_OBJECT
+
+public:
+    struct Entree
+    {
+        QString symbole;
+        QString libelle;
+    };
+
+    explicit ListeRubriques(const QList<Entree> &entrees, QWidget *parent = nullptr);
+};

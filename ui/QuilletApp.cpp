@@ -1,0 +1,35 @@
+#include "ui/QuilletApp.h"
+
+#include "ui/Fenetre.h"
+#include "ui/commun/Style.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+void QuilletApp::preparer(std::optional<Theme::Mode> mode)
+{
+    // The name only: an organisation of the same name would double the data folder.
+    QApplication::setApplicationName(QStringLiteral("Quillet"));
+    QApplication::setApplicationVersion(QStringLiteral(QUILLET_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("quillet"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/quillet.svg")));
+    QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
+    auto *francais = new QTranslator(qApp);
+    if (francais->load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
+                       QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(francais);
+    QApplication::setStyle(new Style(mode));
+    QApplication::setFont(Theme::texte());
+}
+
+QuilletApp::QuilletApp(const Ressources &ressources, Stockage stockage, Aujourdhui aujourdhui)
+    : catalogue_(Catalogue::charge(ressources, std::move(stockage))),
+      images_(QDir(ressources.chemin(QStringLiteral("couvertures")))),
+      fenetre_(std::make_unique<Fenetre>(*catalogue_, commande_, images_, std::move(aujourdhui)))
+{
+}
+
+QuilletApp::~QuilletApp() = default;

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "model/Catalogue.h"
+#include "model/Commande.h"
+#include "ui/Aujourdhui.h"
+#include "ui/Theme.h"
+#include "ui/commande/ImagesCouvertures.h"
+
+#include <memory>
+#include <optional>
+
+class Fenetre;
+
+// Owns what lives from start to exit: the catalogue, the one order, the window.
+class QuilletApp
+{
+public:
+    // Style, fonts and French for the whole program; without a mode, light or dark follows the platform.
+    static void preparer(std::optional<Theme::Mode> mode = std::nullopt);
+
+    // Throws RessourceIllisible.
+    QuilletApp(const Ressources &ressources, Stockage stockage, Aujourdhui aujourdhui = [] { return QDate::currentDate(); });
+    ~QuilletApp();
+    Q_DISABLE_COPY_MOVE(QuilletApp)
+
+    [[nodiscard]] Catalogue &catalogue() { return *catalogue_; }
+    [[nodiscard]] Commande &commande() { return commande_; }
+    [[nodiscard]] Fenetre &fenetre() { return *fenetre_; }
+
+private:
+    std::unique_ptr<Catalogue> catalogue_;
+    Commande commande_;
+    ImagesCouvertures images_;
+    std::unique_ptr<Fenetre> fenetre_;
+};

@@ -1,0 +1,184 @@
+#include "ui/Theme.h"
+
+#include <QApplication>
+
+#include <algorithm>
+
+namespace {
+
+struct Teintes
+{
+    QColor fenetre, panneau, carte, remplissage, texte, secondaire, inactif, filet, accent, accentTexte, bulle;
+};
+
+const Teintes &teintes(Theme::Mode mode)
+{
+    static const Teintes clair{.fenetre = 0xF7F4ED,
+                               .panneau = 0xEFEAE0,
+                               .carte = 0xFFFDF9,
+                               .remplissage = 0xEAE4D8,
+                               .texte = 0x24211C,
+                               .secondaire = 0x69635A,
+                               .inactif = 0xA8A196,
+                               .filet = 0xDED7C9,
+                               .accent = QColor(13, 104, 98),
+                               .accentTexte = QColor(13, 104, 98),
+                               .bulle = 0x2E2B26};
+    static const Teintes sombre{.fenetre = 0x1D1C1A,
+                                .panneau = 0x171614,
+                                .carte = 0x282623,
+                                .remplissage = 0x35322E,
+                                .texte = 0xEDE9E1,
+                                .secondaire = 0xABA497,
+                                .inactif = 0x6F6A61,
+                                .filet = 0x3B3833,
+                                .accent = 0x1B8077,
+                                .accentTexte = 0x69C8BC,
+                                .bulle = 0x3B3833};
+    return mode == Theme::Mode::clair ? clair : sombre;
+}
+
+QFont aLEchelle(qreal echelle)
+{
+    QFont police = QApplication::font();
+    police.setPointSizeF(police.pointSizeF() * echelle);
+    return police;
+}
+
+QFont serif(qreal echelle, QFont::Weight graisse)
+{
+    QFont police = aLEchelle(echelle);
+    police.setFamilies({QStringLiteral("EB Garamond"), QStringLiteral("Libertinus Serif"), QStringLiteral("Georgia"),
+                        QStringLiteral("DejaVu Serif"), QStringLiteral("serif")});
+    police.setStyleHint(QFont::Serif);
+    police.setWeight(graisse);
+    return police;
+}
+
+} // namespace
+
+QPalette Theme::palette(Mode mode)
+{
+    const Teintes &t = teintes(mode);
+    QPalette palette(t.texte, t.carte, t.carte.lighter(), t.filet, t.filet, t.texte, Qt::white, t.carte, t.fenetre);
+    palette.setColor(QPalette::Mid, t.filet);
+    palette.setColor(QPalette::Midlight, t.remplissage);
+    palette.setColor(QPalette::AlternateBase, t.panneau);
+    palette.setColor(QPalette::PlaceholderText, t.secondaire);
+    palette.setColor(QPalette::Highlight, t.accent);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, t.accentTexte);
+    palette.setColor(QPalette::LinkVisited, t.accentTexte);
+    palette.setColor(QPalette::ToolTipBase, t.bulle);
+    palette.setColor(QPalette::ToolTipText, Qt::white);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, t.inactif);
+    return palette;
+}
+
+Theme::Mode Theme::mode(const QPalette &palette)
+{
+    const bool sombre = palette.color(QPalette::Active, QPalette::Window).lightness()
+                        < palette.color(QPalette::Active, QPalette::WindowText).lightness();
+    return sombre ? Mode::sombre : Mode::clair;
+}
+
+QColor Theme::secondaire(const QPalette &palette)
+{
+    return palette.color(QPalette::PlaceholderText);
+}
+
+QColor Theme::filet(const QPalette &palette)
+{
+    return palette.color(QPalette::Mid);
+}
+
+QColor Theme::carte(const QPalette &palette)
+{
+    return palette.color(QPalette::Base);
+}
+
+QColor Theme::panneau(const QPalette &palette)
+{
+    return palette.color(QPalette::AlternateBase);
+}
+
+QColor Theme::remplissage(const QPalette &palette)
+{
+    return palette.color(QPalette::Midlight);
+}
+
+QColor Theme::accent(const QPalette &palette)
+{
+    return palette.color(QPalette::Active, QPalette::Highlight);
+}
+
+QColor Theme::accentTexte(const QPalette &palette)
+{
+    return palette.color(QPalette::Link);
+}
+
+QColor Theme::orange(const QPalette &palette)
+{
+    return mode(palette) == Mode::clair ? QColor(0xA94A00) : QColor(0xF2A65A);
+}
+
+QFont Theme::texte()
+{
+    QFont police = QApplication::font();
+    police.setFamilies({QStringLiteral("Inter"), police.family()});
+    police.setPointSizeF(std::max(police.pointSizeF(), 10.0));
+    return police;
+}
+
+QFont Theme::legende()
+{
+    return aLEchelle(0.83);
+}
+
+QFont Theme::encadre()
+{
+    return aLEchelle(0.92);
+}
+
+QFont Theme::titre2()
+{
+    return aLEchelle(1.4);
+}
+
+QFont Theme::titre3()
+{
+    return aLEchelle(1.2);
+}
+
+QFont Theme::montant()
+{
+    return enGras(aLEchelle(1.7), QFont::Bold);
+}
+
+QFont Theme::titreEcran()
+{
+    return serif(1.95, QFont::DemiBold);
+}
+
+// The book serif is drawn smaller than the sans at the same size: a little more keeps them level.
+QFont Theme::titreLivre()
+{
+    return serif(1.22, QFont::DemiBold);
+}
+
+QFont Theme::titreSection()
+{
+    return serif(1.55, QFont::DemiBold);
+}
+
+QFont Theme::titreCarte()
+{
+    return serif(1.35, QFont::DemiBold);
+}
+
+QFont Theme::enGras(QFont police, QFont::Weight graisse)
+{
+    police.setWeight(graisse);
+    return police;
+}

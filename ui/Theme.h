@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+
+// Colours and type shared by every screen: a bookseller's desk, by day and by night.
+namespace Theme {
+
+enum class Mode { clair, sombre };
+
+QPalette palette(Mode mode);
+// Light or dark, told from the text and window colours.
+Mode mode(const QPalette &palette);
+
+QColor secondaire(const QPalette &palette); // text of second rank
+QColor filet(const QPalette &palette);      // hairlines
+QColor carte(const QPalette &palette);      // raised groups and fields
+QColor panneau(const QPalette &palette);    // sidebar
+QColor remplissage(const QPalette &palette); // quiet fill of capsules and tags
+QColor accent(const QPalette &palette);     // filled accent, white text on it
+QColor accentTexte(const QPalette &palette); // accent as a text or focus colour
+QColor orange(const QPalette &palette);     // warnings
+
+// The application's text font: the system's size, at least 10 pt.
+QFont texte();
+QFont legende();    // caption, 0.83
+QFont encadre();    // callout, 0.92
+QFont titre2();     // 1.4
+QFont titre3();     // 1.2
+QFont montant();    // the amount to pay
+QFont titreEcran(); // a screen's own title, serif
+QFont titreLivre();
+QFont titreSection();
+QFont titreCarte();
+
+QFont enGras(QFont police, QFont::Weight graisse = QFont::DemiBold);
+
+constexpr int rayonGroupe = 10;
+constexpr int rayonControle = 8;
+constexpr int rayonCouverture = 3;
+
+} // namespace Theme

@@ -1,0 +1,166 @@
+#include "ui/commande/CarteLivre.h"
+
+#include "model/Commande.h"
+#include "model/Format.h"
+#include "ui/Theme.h"
+#include "ui/commande/Couverture.h"
+#include "ui/commande/SelecteurQuantite.h"
+
+#include <QHoverEvent>
+#include <QPainter>
+#include <QTextLayout>
+
+#include <cmath>
+
+namespace {
+
+constexpr int espace = 14;      // between the parts of a card
+constexpr int interligne = 3;   // between the lines under the cover
+constexpr int hauteurBas = 34;  // price and stepper
+
+int hauteurCouverture(int largeur)
+{
+    return static_cast<int>(std::lround(largeur * Couverture::proportion));
+}
+
+int hauteurDuTitre()
+{
+    return 2 * QFontMetrics(Theme::titreLivre()).lineSpacing();
+}
+
+// At most two lines; what does not fit ends in an ellipsis.
+void peindreSurDeuxLignes(QPainter &peintre, const QRect &cadre, const QString &texte)
+{
+    const QFontMetrics mesures(peintre.font());
+    QTextLayout mise(texte, peintre.font());
+    mise.beginLayout();
+    QTextLine premiere = mise.createLine();
+    premiere.setLineWidth(cadre.width());
+    mise.endLayout();
+    const qsizetype coupe = premiere.textLength();
+    const int base = cadre.top() + mesures.ascent();
+    peintre.drawText(cadre.left(), base, texte.left(coupe).trimmed());
+    peintre.drawText(cadre.left(), base + mesures.lineSpacing(),
+                     mesures.elidedText(texte.mid(coupe).trimmed(), Qt::ElideRight, cadre.width()));
+}
+
+QString enMots(const Livre &livre, int quantite)
+{
+    const QString prix = livre.disponible ? Format::euros(livre.prix) : CarteLivre::tr("Épuisé");
+    const QString poids = livre.poids ? Format::poids(*livre.poids) : CarteLivre::tr("Poids à peser");
+    return quantite > 0 ? CarteLivre::tr("%1, %2, %3, %4 dans la commande").arg(livre.titre, prix, poids, QString::number(quantite))
+                        : CarteLivre::tr("%1, %2, %3").arg(livre.titre, prix, poids);
+}
+
+} // namespace
+
+CarteLivre::CarteLivre(const Livre &livre, Commande &commande, ImagesCouvertures &images, QWidget *parent)
+    : QWidget(parent),
+      livre_(livre),
+      couverture_(new Couverture(livre, images, this)),
+      selecteur_(new SelecteurQuantite(livre, commande, this))
+{
+    setAttribute(Qt::WA_Hover);
+    connect(couverture_, &QAbstractButton::clicked, this, [this, &commande] {
+        if (livre_.disponible)
+            commande.ajuster(livre_, 1);
+    });
+    montrer(livre, commande.quantite(livre));
+}
+
+void CarteLivre::montrer(const Livre &livre, int quantite)
+{
+    livre_ = livre;
+    couverture_->montrer(livre, quantite);
+    couverture_->setFocusPolicy(livre.disponible ? Qt::StrongFocus : Qt::NoFocus);
+    couverture_->setAccessibleName(enMots(livre, quantite));
+    selecteur_->montrer(quantite);
+    selecteur_->setVisible(livre.disponible);
+    update();
+}
+
+int CarteLivre::hauteur(int largeur)
+{
+    return hauteurCouverture(largeur) + espace + hauteurDuTitre() + interligne
+           + QFontMetrics(Theme::encadre()).lineSpacing() + espace + hauteurBas;
+}
+
+QRect CarteLivre::contenu() const
+{
+    constexpr int m = Couverture::debord;
+    return rect().adjusted(m, m, -m, -m);
+}
+
+QRect CarteLivre::ligneDuBas() const
+{
+    const QRect dedans = contenu();
+    return {dedans.left(), dedans.bottom() + 1 - hauteurBas, dedans.width(), hauteurBas};
+}
+
+void CarteLivre::setSurvol(bool survol)
+{
+    if (survol == survol_)
+        return;
+    survol_ = survol;
+    couverture_->soulever(survol);
+}
+
+bool CarteLivre::event(QEvent *evenement)
+{
+    switch (evenement->type()) {
+    case QEvent::HoverEnter:
+    case QEvent::HoverMove:
+        setSurvol(contenu().contains(static_cast<QHoverEvent *>(evenement)->position().toPoint()));
+        break;
+    case QEvent::HoverLeave: setSurvol(false); break;
+    default: break;
+    }
+    return QWidget::event(evenement);
+}
+
+void CarteLivre::resizeEvent(QResizeEvent *)
+{
+    const int hauteur = hauteurCouverture(contenu().width()) + 2 * Couverture::debord;
+    couverture_->setGeometry(0, 0, width(), hauteur);
+    const QSize taille = selecteur_->sizeHint();
+    const QRect bas = ligneDuBas();
+    selecteur_->setGeometry(bas.right() + 1 - taille.width(), bas.center().y() + 1 - taille.height() / 2, taille.width(),
+                            taille.height());
+}
+
+void CarteLivre::paintEvent(QPaintEvent *)
+{
+    QPainter peintre(this);
+    peintre.setRenderHint(QPainter::Antialiasing);
+    const QRect dedans = contenu();
+    const QColor texte = palette().color(QPalette::WindowText);
+    const QColor secondaire = Theme::secondaire(palette());
+
+    QRect titre(dedans.left(), dedans.top() + hauteurCouverture(dedans.width()) + espace, dedans.width(), hauteurDuTitre());
+    peintre.setFont(Theme::titreLivre());
+    peintre.setPen(texte);
+    peindreSurDeuxLignes(peintre, titre, livre_.titre);
+
+    peintre.setFont(Theme::encadre());
+    peintre.setPen(livre_.poids ? secondaire : Theme::orange(palette()));
+    const QRect poids(dedans.left(), titre.bottom() + 1 + interligne, dedans.width(), peintre.fontMetrics().lineSpacing());
+    peintre.drawText(poids, Qt::AlignLeft | Qt::AlignVCenter, livre_.poids ? Format::poids(*livre_.poids) : tr("Poids à peser"));
+
+    const QRect bas = ligneDuBas();
+    peintre.setFont(Theme::enGras(Theme::titre3()));
+    peintre.setPen(livre_.disponible ? texte : secondaire);
+    peintre.drawText(bas, Qt::AlignLeft | Qt::AlignVCenter, Format::euros(livre_.prix));
+    if (livre_.disponible)
+        return;
+
+    peintre.setFont(Theme::enGras(Theme::encadre(), QFont::Medium));
+    const QString epuise = tr("Épuisé");
+    const QSize taille(peintre.fontMetrics().horizontalAdvance(epuise) + 24, peintre.fontMetrics().height() + 12);
+    const QRect etiquette(bas.right() + 1 - taille.width(), bas.center().y() + 1 - taille.height() / 2, taille.width(),
+                          taille.height());
+    peintre.setPen(Qt::NoPen);
+    peintre.setBrush(Theme::remplissage(palette()));
+    peintre.drawRoundedRect(etiquette, 8, 8);
+    peintre.setPen(secondaire);
+    peintre.drawText(etiquette, Qt::AlignCenter, epuise);
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "model/Livre.h"
+
+#include <QWidget>
+
+class Commande;
+class Couverture;
+class ImagesCouvertures;
+class SelecteurQuantite;
+
+// One book on the order screen. What it shows stands `Couverture::debord` pixels inside the widget.
+class CarteLivre : public QWidget
+{
+    Q_OBJECT
+
+public:
+    CarteLivre(const Livre &livre, Commande &commande, ImagesCouvertures &images, QWidget *parent = nullptr);
+
+    [[nodiscard]] const Livre &livre() const { return livre_; }
+    void montrer(const Livre &livre, int quantite);
+
+    // Height of what a card shows, for the width of what it shows.
+    [[nodiscard]] static int hauteur(int largeur);
+
+protected:
+    bool event(QEvent *evenement) override;
+    void paintEvent(QPaintEvent *evenement) override;
+    void resizeEvent(QResizeEvent *evenement) override;
+
+private:
+    [[nodiscard]] QRect contenu() const;
+    [[nodiscard]] QRect ligneDuBas() const;
+    void setSurvol(bool survol);
+
+    Livre livre_;
+    bool survol_ = false;
+    Couverture *couverture_;
+    SelecteurQuantite *selecteur_;
+};

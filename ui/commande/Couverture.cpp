@@ -1,0 +1,236 @@
+#include "ui/commande/Couverture.h"
+
+#include "ui/Theme.h"
+#include "ui/commande/ImagesCouvertures.h"
+#include "ui/commun/Dessin.h"
+#include "ui/commun/Ressort.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace {
+
+struct Ombre
+{
+    double opacite;
+    double rayon;
+    double decalage;
+};
+constexpr Ombre auRepos{0.3, 12, 8};
+constexpr Ombre soulevee{0.55, 24, 16};
+
+constexpr double angle = -14 * std::numbers::pi / 180;
+constexpr double perspective = 0.45;
+constexpr double agrandissement = 0.035;
+constexpr double opaciteIndisponible = 0.55;
+
+QColor voile(int gris, double opacite)
+{
+    return QColor(gris, gris, gris, static_cast<int>(std::lround(opacite * 255)));
+}
+
+// The binding: a spine on the left, a sheen across.
+void peindreReliure(QPainter &peintre, const QRectF &cadre)
+{
+    QLinearGradient dos(cadre.topLeft(), cadre.topRight());
+    dos.setColorAt(0, voile(0, 0.28));
+    dos.setColorAt(0.018, voile(255, 0.22));
+    dos.setColorAt(0.04, voile(0, 0.08));
+    dos.setColorAt(0.09, Qt::transparent);
+    peintre.fillRect(cadre, dos);
+    QLinearGradient reflet(cadre.topLeft(), cadre.bottomRight());
+    reflet.setColorAt(0, voile(255, 0.12));
+    reflet.setColorAt(0.5, Qt::transparent);
+    reflet.setColorAt(1, voile(0, 0.06));
+    peintre.fillRect(cadre, reflet);
+}
+
+QPixmap enGris(const QPixmap &image)
+{
+    QImage pixels = image.toImage().convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < pixels.height(); ++y) {
+        auto *ligne = reinterpret_cast<QRgb *>(pixels.scanLine(y));
+        for (int x = 0; x < pixels.width(); ++x) {
+            const int gris = qGray(ligne[x]);
+            ligne[x] = qRgba(gris, gris, gris, qAlpha(ligne[x]));
+        }
+    }
+    return QPixmap::fromImage(std::move(pixels));
+}
+
+} // namespace
+
+QColor couleur(const Livre &livre)
+{
+    if (livre.teinte.size() < 3)
+        qFatal("Teinte incomplète : livre %lld", static_cast<long long>(livre.id));
+    const auto composante = [&](qsizetype rang) { return static_cast<int>(std::clamp<qint64>(livre.teinte[rang], 0, 255)); };
+    return {composante(0), composante(1), composante(2)};
+}
+
+Couverture::Couverture(const Livre &livre, ImagesCouvertures &images, QWidget *parent)
+    : QAbstractButton(parent),
+      livre_(livre),
+      images_(images),
+      soulevement_(new Ressort(Ressorts::survol, [this](double) { update(); }, this)),
+      pastille_(new Ressort(Ressorts::action, [this](double) { update(); }, this))
+{
+    connect(&images_, &ImagesCouvertures::prete, this, [this](const QString &couverture) {
+        if (couverture == livre_.couverture)
+            oublierLeDessin();
+    });
+}
+
+void Couverture::montrer(const Livre &livre, int quantite)
+{
+    const bool autreDessin = livre.couverture != livre_.couverture || livre.teinte != livre_.teinte
+                             || livre.disponible != livre_.disponible;
+    livre_ = livre;
+    if (autreDessin)
+        oublierLeDessin();
+    // The badge keeps its last number while it shrinks away.
+    if (quantite > 0)
+        quantite_ = quantite;
+    pastille_->vers(quantite > 0 ? 1 : 0);
+    setCursor(livre.disponible ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    update();
+}
+
+void Couverture::soulever(bool oui)
+{
+    soulevement_->vers(oui && livre_.disponible ? 1 : 0);
+}
+
+QRectF Couverture::cadre() const
+{
+    return QRectF(rect()).adjusted(debord, debord, -debord, -debord);
+}
+
+bool Couverture::hitButton(const QPoint &position) const
+{
+    return cadre().contains(position);
+}
+
+void Couverture::resizeEvent(QResizeEvent *)
+{
+    ombreAuRepos_ = ombreSoulevee_ = {};
+    oublierLeDessin();
+}
+
+void Couverture::oublierLeDessin()
+{
+    dessin_ = {};
+    update();
+}
+
+void Couverture::dessiner(qreal densite)
+{
+    const QSize pixels = (cadre().size() * densite).toSize();
+    if (!dessin_.isNull() && dessin_.size() == pixels)
+        return;
+    dessin_ = QPixmap(pixels);
+    dessin_.setDevicePixelRatio(densite);
+    dessin_.fill(Qt::transparent);
+    QPainter peintre(&dessin_);
+    peintre.setRenderHint(QPainter::Antialiasing);
+    const QRectF tout(QPointF(), cadre().size());
+    QPainterPath contour;
+    contour.addRoundedRect(tout, Theme::rayonCouverture, Theme::rayonCouverture);
+    QImage image = images_.image(livre_.couverture, pixels);
+    image.setDevicePixelRatio(densite);
+    peintre.fillPath(contour, image.isNull() ? QBrush(couleur(livre_)) : QBrush(image));
+    peintre.setClipPath(contour);
+    peindreReliure(peintre, tout);
+    peintre.setClipping(false);
+    peintre.setPen(QPen(voile(0, 0.22), 1));
+    peintre.drawRoundedRect(tout.adjusted(0.5, 0.5, -0.5, -0.5), Theme::rayonCouverture, Theme::rayonCouverture);
+    peintre.end();
+    if (!livre_.disponible)
+        dessin_ = enGris(dessin_);
+}
+
+void Couverture::peindreOmbre(QPainter &peintre)
+{
+    const double part = std::clamp(soulevement_->valeur(), 0.0, 1.0);
+    const qreal densite = peintre.device()->devicePixelRatioF();
+    const auto peindre = [&](const Ombre &ombre, QPixmap &cache, double opacite) {
+        if (opacite <= 0)
+            return;
+        if (cache.isNull() || cache.devicePixelRatio() != densite) {
+            QColor teinte = couleur(livre_);
+            teinte.setAlphaF(static_cast<float>(ombre.opacite));
+            cache = Dessin::ombre(cadre().size(), ombre.rayon, teinte, densite);
+        }
+        peintre.setOpacity(opacite * (livre_.disponible ? 1 : opaciteIndisponible));
+        peintre.drawPixmap(cadre().topLeft() - QPointF(ombre.rayon, ombre.rayon - ombre.decalage), cache);
+    };
+    peindre(auRepos, ombreAuRepos_, 1 - part);
+    peindre(soulevee, ombreSoulevee_, part);
+    peintre.setOpacity(1);
+}
+
+// Hinged on its left edge and grown from its bottom edge.
+QTransform Couverture::inclinaison() const
+{
+    const double part = soulevement_->valeur();
+    const QRectF c = cadre();
+    const double theta = angle * part;
+    const double echelle = 1 + agrandissement * part;
+    const double fuite = perspective / std::max(c.width(), c.height());
+    const QPointF pied(c.center().x(), c.bottom());
+    const QPointF charniere(c.left(), c.center().y());
+    return QTransform::fromTranslate(-charniere.x(), -charniere.y())
+           * QTransform(std::cos(theta), 0, fuite * std::sin(theta), 0, 1, 0, 0, 0, 1)
+           * QTransform::fromTranslate(charniere.x(), charniere.y())
+           * QTransform::fromTranslate(-pied.x(), -pied.y())
+           * QTransform::fromScale(echelle, echelle)
+           * QTransform::fromTranslate(pied.x(), pied.y());
+}
+
+void Couverture::paintEvent(QPaintEvent *)
+{
+    QPainter peintre(this);
+    peintre.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    dessiner(devicePixelRatioF());
+    peindreOmbre(peintre);
+    peintre.save();
+    if (soulevement_->valeur() != 0)
+        peintre.setTransform(inclinaison(), true);
+    peintre.setOpacity(livre_.disponible ? 1 : opaciteIndisponible);
+    peintre.drawPixmap(cadre().topLeft(), dessin_);
+    peintre.restore();
+    if (hasFocus())
+        Dessin::anneauDeFocus(peintre, cadre().adjusted(-1, -1, 1, 1), Theme::rayonCouverture, palette());
+    if (pastille_->valeur() > 0.01)
+        peindrePastille(peintre);
+}
+
+void Couverture::peindrePastille(QPainter &peintre) const
+{
+    const QFont police = Theme::enGras(Theme::encadre(), QFont::Bold);
+    const QFontMetrics mesures(police);
+    const QString nombre = QString::number(quantite_);
+    const double cote = 30;
+    const double largeur = std::max(cote, mesures.horizontalAdvance(u'0') * double(nombre.size()) + 12);
+    const QPointF centre(cadre().right() + 6 - largeur / 2 + 4, cadre().top() + cote / 2 - 10);
+    peintre.save();
+    peintre.translate(centre);
+    peintre.scale(pastille_->valeur(), pastille_->valeur());
+    peintre.setOpacity(std::clamp(pastille_->valeur(), 0.0, 1.0));
+    const QRectF capsule(-largeur / 2, -cote / 2, largeur, cote);
+    peintre.setPen(Qt::NoPen);
+    for (const double etalement : {2.0, 1.0}) {
+        peintre.setBrush(voile(0, 0.15));
+        peintre.drawRoundedRect(capsule.adjusted(-etalement, -etalement, etalement, etalement), cote, cote);
+    }
+    peintre.setBrush(Theme::accent(palette()));
+    peintre.drawRoundedRect(capsule, cote / 2, cote / 2);
+    peintre.setFont(police);
+    peintre.setPen(Qt::white);
+    peintre.drawText(capsule, Qt::AlignCenter, nombre);
+    peintre.restore();
+}

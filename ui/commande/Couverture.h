@@ -1,0 +1,51 @@
+#pragma once
+
+#include "model/Livre.h"
+
+#include <QAbstractButton>
+#include <QPixmap>
+
+class ImagesCouvertures;
+class Ressort;
+
+// The book's own colour; a tint of fewer than three entries stops the program.
+QColor couleur(const Livre &livre);
+
+// A drawn cover that lifts under the pointer and carries the number of copies. Its cover stands `debord` pixels
+// inside the widget: room for the shadow and the lifted corner.
+class Couverture : public QAbstractButton
+{
+    Q_OBJECT
+
+public:
+    static constexpr int debord = 24;
+    // Height of a cover over its width.
+    static constexpr double proportion = 1.5;
+
+    Couverture(const Livre &livre, ImagesCouvertures &images, QWidget *parent = nullptr);
+
+    void montrer(const Livre &livre, int quantite);
+    void soulever(bool soulevee);
+
+protected:
+    void paintEvent(QPaintEvent *evenement) override;
+    void resizeEvent(QResizeEvent *evenement) override;
+    [[nodiscard]] bool hitButton(const QPoint &position) const override;
+
+private:
+    [[nodiscard]] QRectF cadre() const;
+    [[nodiscard]] QTransform inclinaison() const;
+    void oublierLeDessin();
+    void dessiner(qreal densite);
+    void peindreOmbre(QPainter &peintre);
+    void peindrePastille(QPainter &peintre) const;
+
+    Livre livre_;
+    ImagesCouvertures &images_;
+    int quantite_ = 0;
+    QPixmap dessin_;
+    QPixmap ombreAuRepos_;
+    QPixmap ombreSoulevee_;
+    Ressort *soulevement_;
+    Ressort *pastille_;
+};

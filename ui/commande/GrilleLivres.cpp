@@ -1,0 +1,93 @@
+#include "ui/commande/GrilleLivres.h"
+
+#include "model/Commande.h"
+#include "ui/commande/CarteLivre.h"
+#include "ui/commande/Couverture.h"
+#include "ui/commande/TransitionCartes.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int largeurMinimale = 170;
+constexpr int largeurMaximale = 210;
+constexpr int espace = 32;
+
+struct Disposition
+{
+    int colonnes;
+    int largeur; // of what a card shows
+    int gauche;
+};
+
+Disposition disposition(int place)
+{
+    const int colonnes = std::max(1, (place + espace) / (largeurMinimale + espace));
+    const int largeur = std::clamp((place - espace * (colonnes - 1)) / colonnes, largeurMinimale, largeurMaximale);
+    return {colonnes, largeur, std::max(0, (place - colonnes * largeur - espace * (colonnes - 1)) / 2)};
+}
+
+} // namespace
+
+GrilleLivres::GrilleLivres(Commande &commande, ImagesCouvertures &images, QWidget *parent)
+    : QWidget(parent), commande_(commande), images_(images)
+{
+    QSizePolicy politique(QSizePolicy::Expanding, QSizePolicy::Minimum);
+    politique.setHeightForWidth(true);
+    setSizePolicy(politique);
+}
+
+void GrilleLivres::montrer(const QList<Livre> &livres)
+{
+    const bool memes = std::ranges::equal(cartes_, livres, std::ranges::equal_to{},
+                                          [](const CarteLivre *carte) { return carte->livre().id; }, &Livre::id);
+    if (!memes) {
+        remplacerLesCartes(livres);
+        return;
+    }
+    for (qsizetype i = 0; i < livres.size(); ++i)
+        cartes_[i]->montrer(livres[i], commande_.quantite(livres[i]));
+}
+
+void GrilleLivres::remplacerLesCartes(const QList<Livre> &livres)
+{
+    const auto sortantes = TransitionCartes::instantanes(cartes_);
+    qDeleteAll(cartes_);
+    cartes_.clear();
+    for (const Livre &livre : livres)
+        cartes_.append(new CarteLivre(livre, commande_, images_, this));
+    updateGeometry();
+    placer();
+    for (CarteLivre *carte : std::as_const(cartes_))
+        carte->show();
+    if (!sortantes.isEmpty())
+        TransitionCartes::jouer(sortantes, TransitionCartes::instantanes(cartes_), this);
+}
+
+int GrilleLivres::heightForWidth(int largeur) const
+{
+    const auto [colonnes, carte, gauche] = disposition(largeur - 2 * Couverture::debord);
+    const int rangs = (static_cast<int>(cartes_.size()) + colonnes - 1) / colonnes;
+    return std::max(0, rangs * (CarteLivre::hauteur(carte) + espace) - espace) + 2 * Couverture::debord;
+}
+
+QSize GrilleLivres::sizeHint() const
+{
+    const int largeur = largeurMinimale + 2 * Couverture::debord;
+    return {largeur, heightForWidth(largeur)};
+}
+
+void GrilleLivres::resizeEvent(QResizeEvent *)
+{
+    placer();
+}
+
+void GrilleLivres::placer()
+{
+    constexpr int debord = Couverture::debord;
+    const auto [colonnes, largeur, gauche] = disposition(width() - 2 * debord);
+    const int hauteur = CarteLivre::hauteur(largeur);
+    for (int i = 0; i < cartes_.size(); ++i)
+        cartes_[i]->setGeometry(gauche + (i % colonnes) * (largeur + espace), (i / colonnes) * (hauteur + espace),
+                                largeur + 2 * debord, hauteur + 2 * debord);
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "model/Livre.h"
+
+#include <QList>
+#include <QWidget>
+
+class CarteLivre;
+class Commande;
+class ImagesCouvertures;
+
+// The chosen seller's cards, in as many columns as the width holds.
+class GrilleLivres : public QWidget
+{
+    Q_OBJECT
+
+public:
+    GrilleLivres(Commande &commande, ImagesCouvertures &images, QWidget *parent = nullptr);
+
+    // Cards of other books enter and leave with a fade; the same books are only brought up to date.
+    void montrer(const QList<Livre> &livres);
+
+    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    [[nodiscard]] int heightForWidth(int largeur) const override;
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent *evenement) override;
+
+private:
+    void remplacerLesCartes(const QList<Livre> &livres);
+    void placer();
+
+    Commande &commande_;
+    ImagesCouvertures &images_;
+    QList<CarteLivre *> cartes_;
+};

@@ -1,0 +1,68 @@
+#include "ui/commande/ImagesCouvertures.h"
+
+#include <QImageReader>
+
+namespace {
+
+constexpr int memoireKio = 64 * 1024;
+
+QString nomDeBase(const QString &fichier)
+{
+    const qsizetype point = fichier.lastIndexOf(u'.');
+    return point > 0 ? fichier.left(point) : fichier;
+}
+
+QString cle(const QString &couverture, const QSize &pixels)
+{
+    return QStringLiteral("%1/%2x%3").arg(couverture, QString::number(pixels.width()), QString::number(pixels.height()));
+}
+
+} // namespace
+
+ImagesCouvertures::ImagesCouvertures(const QDir &dossier, QObject *parent)
+    : QObject(parent), dossier_(dossier), images_(memoireKio)
+{
+    for (const QString &fichier : dossier_.entryList(QDir::Files))
+        fichiers_.insert(nomDeBase(fichier), fichier);
+    lecture_.setSingleShot(true);
+    connect(&lecture_, &QTimer::timeout, this, &ImagesCouvertures::lireLaSuivante);
+}
+
+QImage ImagesCouvertures::image(const QString &couverture, const QSize &pixels)
+{
+    if (!fichiers_.contains(nomDeBase(couverture)) || pixels.isEmpty())
+        return {};
+    if (const QImage *lue = images_.object(cle(couverture, pixels)))
+        return *lue;
+    if (const Demande demande{couverture, pixels}; !demandes_.contains(demande))
+        demandes_.append(demande);
+    lecture_.start(0);
+    return {};
+}
+
+void ImagesCouvertures::lireLaSuivante()
+{
+    const Demande demande = demandes_.takeFirst();
+    const QImage image = lire(demande);
+    if (image.isNull())
+        fichiers_.remove(nomDeBase(demande.couverture)); // a damaged picture: the coloured cover stands in
+    else
+        images_.insert(cle(demande.couverture, demande.pixels), new QImage(image),
+                       std::max<qsizetype>(1, image.sizeInBytes() / 1024));
+    if (!demandes_.isEmpty())
+        lecture_.start(0);
+    emit prete(demande.couverture);
+}
+
+QImage ImagesCouvertures::lire(const Demande &demande) const
+{
+    QImageReader lecteur(dossier_.filePath(fichiers_.value(nomDeBase(demande.couverture))));
+    const QSize originale = lecteur.size();
+    if (originale.isEmpty())
+        return {};
+    const QSize remplie = originale.scaled(demande.pixels, Qt::KeepAspectRatioByExpanding);
+    lecteur.setScaledSize(remplie);
+    const QPoint coin((remplie.width() - demande.pixels.width()) / 2, (remplie.height() - demande.pixels.height()) / 2);
+    const QImage image = lecteur.read();
+    return image.isNull() ? image : image.copy(QRect(coin, demande.pixels));
+}

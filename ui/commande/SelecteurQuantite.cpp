@@ -1,0 +1,123 @@
+#include "ui/commande/SelecteurQuantite.h"
+
+#include "model/Commande.h"
+#include "ui/Theme.h"
+#include "ui/commun/Dessin.h"
+#include "ui/commun/Icone.h"
+#include "ui/commun/NombreRoulant.h"
+#include "ui/commun/Ressort.h"
+
+#include <QAbstractButton>
+#include <QHBoxLayout>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int coteBouton = 26;
+
+// Draws its symbol in the stepper's colour, which the stepper hands down as ButtonText.
+class BoutonRond : public QAbstractButton
+{
+public:
+    BoutonRond(QString symbole, const QString &nom) : symbole_(std::move(symbole))
+    {
+        setFixedSize(coteBouton, coteBouton);
+        setAccessibleName(nom);
+        setToolTip(nom);
+        setAutoRepeat(true);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter peintre(this);
+        peintre.setRenderHint(QPainter::Antialiasing);
+        QColor couleur = palette().color(QPalette::Active, QPalette::ButtonText);
+        if (isEnabled() && (underMouse() || isDown())) {
+            QColor fond = couleur;
+            fond.setAlphaF(isDown() ? 0.28F : 0.14F);
+            peintre.setPen(Qt::NoPen);
+            peintre.setBrush(fond);
+            peintre.drawEllipse(rect());
+        }
+        couleur.setAlphaF(isEnabled() ? 1.0F : 0.35F);
+        const double cote = 15;
+        Icone::peindre(peintre, symbole_, QRectF((width() - cote) / 2, (height() - cote) / 2, cote, cote), couleur);
+        if (hasFocus())
+            Dessin::anneauDeFocus(peintre, QRectF(rect()).adjusted(3, 3, -3, -3), coteBouton / 2.0 - 3, palette());
+    }
+
+    void enterEvent(QEnterEvent *) override { update(); }
+    void leaveEvent(QEvent *) override { update(); }
+
+private:
+    QString symbole_;
+};
+
+} // namespace
+
+SelecteurQuantite::SelecteurQuantite(const Livre &livre, Commande &commande, QWidget *parent)
+    : QWidget(parent),
+      moins_(new BoutonRond(QStringLiteral("minus"), tr("Retirer un exemplaire"))),
+      plus_(new BoutonRond(QStringLiteral("plus"), tr("Ajouter un exemplaire"))),
+      nombre_(new NombreRoulant),
+      plein_(new Ressort(Ressorts::action, [this](double) { colorer(); }, this))
+{
+    nombre_->setFont(Theme::enGras(font()));
+    nombre_->setAlignment(Qt::AlignCenter);
+    nombre_->setMinimumWidth(18);
+    nombre_->setText(QStringLiteral("0"));
+    auto *rangee = new QHBoxLayout(this);
+    rangee->setContentsMargins(4, 2, 4, 2);
+    rangee->setSpacing(2);
+    for (QWidget *partie : {static_cast<QWidget *>(moins_), static_cast<QWidget *>(nombre_), static_cast<QWidget *>(plus_)})
+        rangee->addWidget(partie);
+    connect(moins_, &QAbstractButton::clicked, this, [livre, &commande] { commande.ajuster(livre, -1); });
+    connect(plus_, &QAbstractButton::clicked, this, [livre, &commande] { commande.ajuster(livre, 1); });
+    moins_->setEnabled(false);
+    colorer();
+}
+
+void SelecteurQuantite::montrer(int quantite)
+{
+    if (quantite == quantite_)
+        return;
+    nombre_->afficher(QString::number(quantite), quantite > quantite_ ? 1 : -1);
+    quantite_ = quantite;
+    moins_->setEnabled(quantite > 0);
+    plein_->vers(quantite > 0 ? 1 : 0);
+}
+
+void SelecteurQuantite::colorer()
+{
+    // The parent's palette stays the reference: our own already carries the last colour handed down.
+    const QColor normale = parentWidget() ? parentWidget()->palette().color(QPalette::WindowText)
+                                          : palette().color(QPalette::WindowText);
+    const QColor couleur = Dessin::melange(normale, Qt::white, plein_->valeur());
+    for (QWidget *partie : {static_cast<QWidget *>(moins_), static_cast<QWidget *>(nombre_), static_cast<QWidget *>(plus_)}) {
+        QPalette teintee = partie->palette();
+        teintee.setColor(QPalette::ButtonText, couleur);
+        teintee.setColor(QPalette::WindowText, couleur);
+        partie->setPalette(teintee);
+    }
+    update();
+}
+
+void SelecteurQuantite::paintEvent(QPaintEvent *)
+{
+    const double plein = std::clamp(plein_->valeur(), 0.0, 1.0);
+    if (plein <= 0)
+        return;
+    QPainter peintre(this);
+    peintre.setRenderHint(QPainter::Antialiasing);
+    peintre.setPen(Qt::NoPen);
+    const QRectF capsule = QRectF(rect()).adjusted(1, 0, -1, -2);
+    const double rayon = capsule.height() / 2;
+    peintre.setOpacity(plein);
+    peintre.setBrush(QColor(0, 0, 0, 76));
+    peintre.drawRoundedRect(capsule.translated(0, 1.5), rayon, rayon);
+    peintre.setBrush(Theme::accent(palette()));
+    peintre.drawRoundedRect(capsule, rayon, rayon);
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "model/Livre.h"
+
+#include <QWidget>
+
+class Commande;
+class NombreRoulant;
+class QAbstractButton;
+class Ressort;
+
+// The stepper of one card: minus, the number of copies, plus.
+class SelecteurQuantite : public QWidget
+{
+    Q_OBJECT
+
+public:
+    SelecteurQuantite(const Livre &livre, Commande &commande, QWidget *parent = nullptr);
+
+    void montrer(int quantite);
+
+protected:
+    void paintEvent(QPaintEvent *evenement) override;
+
+private:
+    void colorer();
+
+    int quantite_ = 0;
+    QAbstractButton *moins_;
+    QAbstractButton *plus_;
+    NombreRoulant *nombre_;
+    Ressort *plein_; // 0: empty, 1: on the accent capsule
+};

@@ -1,0 +1,45 @@
+#include "ui/commande/SelecteurSite.h"
+
+#include "ui/Theme.h"
+#include "ui/commun/NomsVendeurs.h"
+#include "ui/commun/ChoixSegmente.h"
+
+#include <QHBoxLayout>
+#include <QRadioButton>
+
+namespace {
+
+QStringList sites(const Reglages &reglages)
+{
+    QStringList noms;
+    for (const auto &valeur : Json::valeursBrutes<Vendeur>)
+        noms.append(NomsVendeurs::site(valeur.cas, reglages));
+    return noms;
+}
+
+} // namespace
+
+SelecteurSite::SelecteurSite(const Reglages &reglages, QWidget *parent)
+    : QWidget(parent), choix_(new ChoixSegmente(sites(reglages), {.police = Theme::enGras(Theme::titre3()),
+                                                                   .style = ChoixSegmente::Style::bleu,
+                                                                   .hauteur = 44,
+                                                                   .marge = 5,
+                                                                   .espace = 4,
+                                                                   .largeurMaximale = 230}))
+{
+    auto *rangee = new QHBoxLayout(this);
+    rangee->setContentsMargins(0, 0, 0, 0);
+    rangee->addWidget(choix_, 0, Qt::AlignCenter);
+    for (int i = 0; i < int(Json::valeursBrutes<Vendeur>.size()); ++i) {
+        const Vendeur vendeur = Json::valeursBrutes<Vendeur>[std::size_t(i)].cas;
+        choix_->bouton(i)->setAccessibleName(
+            tr("%1, livres de %2").arg(NomsVendeurs::site(vendeur, reglages), NomsVendeurs::complet(vendeur, reglages)));
+    }
+    connect(choix_, &ChoixSegmente::choisi, this,
+            [this](int indice) { emit choisi(Json::valeursBrutes<Vendeur>[std::size_t(indice)].cas); });
+}
+
+void SelecteurSite::montrer(Vendeur vendeur)
+{
+    choix_->montrer(static_cast<int>(vendeur));
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "model/Reglages.h"
+
+#include <QWidget>
+
+class ChoixSegmente;
+
+// The seller picker, by the names of the sellers' sites.
+class SelecteurSite : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit SelecteurSite(const Reglages &reglages, QWidget *parent = nullptr);
+
+    void montrer(Vendeur vendeur);
+
+signals:
+    void choisi(Vendeur vendeur);
+
+private:
+    ChoixSegmente *choix_;
+};

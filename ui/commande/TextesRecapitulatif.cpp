@@ -1,0 +1,132 @@
+#include "ui/commande/TextesRecapitulatif.h"
+
+#include "model/Format.h"
+
+namespace {
+
+const QString triangle = QStringLiteral("exclamationmark.triangle");
+const QString balance = QStringLiteral("scalemass");
+
+QString libelle(RegionPaypal region)
+{
+    switch (region) {
+    case RegionPaypal::eee: return QStringLiteral("Europe (EEE)");
+    case RegionPaypal::royaumeUni: return QStringLiteral("Royaume-Uni");
+    case RegionPaypal::autres: return QStringLiteral("Autre pays");
+    }
+    Q_UNREACHABLE();
+}
+
+// The parcel's weight is known, and yet no tier of the grid holds it.
+bool depasseLaGrille(const Calcul &calcul)
+{
+    const bool poidsConnu = calcul.poidsPese || calcul.livresNonPeses.isEmpty();
+    return !calcul.lignes.isEmpty() && !calcul.palier && calcul.grille && !calcul.grille->paliers.isEmpty() && poidsConnu;
+}
+
+} // namespace
+
+QString TextesRecapitulatif::sousTitre(const Calcul &calcul)
+{
+    const int nombre = calcul.nombreDeLivres();
+    if (nombre == 0)
+        return QStringLiteral("Aucun livre");
+    const QString livres = nombre == 1 ? QStringLiteral("1 livre · ") : QString::number(nombre) + QStringLiteral(" livres · ");
+    return livres + Format::poids(calcul.poidsRetenu);
+}
+
+QString TextesRecapitulatif::euros(const std::optional<Centimes> &montant)
+{
+    return montant ? Format::euros(*montant) : QStringLiteral("—");
+}
+
+QList<TextesRecapitulatif::Ligne> TextesRecapitulatif::livres(const Calcul &calcul)
+{
+    QList<Ligne> lignes;
+    for (const Calcul::Ligne &ligne : calcul.lignes)
+        lignes.append({ligne.livre.titre,
+                       QString::number(ligne.quantite) + QStringLiteral(" × ") + Format::euros(ligne.livre.prix),
+                       Format::euros(ligne.montant())});
+    return lignes;
+}
+
+QString TextesRecapitulatif::emballage(const Emballage &emballage)
+{
+    return emballage.nom + QStringLiteral(" (") + Format::poids(emballage.poids) + u')';
+}
+
+std::optional<TextesRecapitulatif::Ligne> TextesRecapitulatif::palier(const Calcul &calcul)
+{
+    if (!calcul.palier)
+        return std::nullopt;
+    const Grammes jusqua = calcul.palier->jusqua;
+    return Ligne{QStringLiteral("Palier Colissimo"),
+                 QStringLiteral("encore %1 avant le palier suivant").arg(Format::poids(jusqua - calcul.poidsRetenu)),
+                 QStringLiteral("jusqu’à ") + Format::palier(jusqua)};
+}
+
+QList<TextesRecapitulatif::Avertissement> TextesRecapitulatif::avertissementsDePesee(const Calcul &calcul)
+{
+    QList<Avertissement> avertissements;
+    if (calcul.poidsPese && *calcul.poidsPese < calcul.poidsLivres)
+        avertissements.append({triangle, QStringLiteral("Le colis pesé est plus léger que les livres seuls (%1) : "
+                                                        "vérifiez la pesée.")
+                                             .arg(Format::poids(calcul.poidsLivres))});
+    if (!calcul.poidsPese)
+        for (const Livre &livre : calcul.livresNonPeses)
+            avertissements.append({balance, livre.titre + QStringLiteral(" n’a pas encore été pesé : pesez le colis.")});
+    if (depasseLaGrille(calcul))
+        avertissements.append({triangle, QStringLiteral("Au-delà de %1, le dernier palier de la grille : faire deux colis.")
+                                             .arg(Format::palier(calcul.grille->paliers.last().jusqua))});
+    return avertissements;
+}
+
+QString TextesRecapitulatif::destinationComplete(const Calcul &calcul)
+{
+    const auto &destination = calcul.destination;
+    return destination && destination->libelleFr != destination->libelleCourt ? destination->libelleFr : QString();
+}
+
+QString TextesRecapitulatif::declaration(const Calcul &calcul)
+{
+    return calcul.douaneRequise ? QStringLiteral("Oui, CN23") : QStringLiteral("Non");
+}
+
+QString TextesRecapitulatif::detailEnvoi(const Calcul &calcul)
+{
+    if (!calcul.grille || !calcul.palier)
+        return {};
+    return calcul.grille->nomCourt + QStringLiteral(", jusqu’à ") + Format::palier(calcul.palier->jusqua);
+}
+
+QString TextesRecapitulatif::detailFrais(const Calcul &calcul, const FraisPaypal &frais)
+{
+    if (!calcul.regionPaypal)
+        return {};
+    return Format::pourcentage(frais.taux + frais.supplement(*calcul.regionPaypal)) + QStringLiteral(" + ")
+           + Format::euros(frais.fixe) + QStringLiteral(" · ") + libelle(*calcul.regionPaypal);
+}
+
+std::optional<TextesRecapitulatif::LienDePaiement>
+TextesRecapitulatif::lienDePaiement(const Calcul &calcul, const Reglages &reglages, const Commande &commande)
+{
+    const auto vendeur = vendeurUnique(calcul, reglages);
+    if (!vendeur || !calcul.total)
+        return std::nullopt;
+    const Langue langue = langueAcheteur(commande, calcul);
+    const bool anglais = langue == Langue::anglais;
+    const ReponseType reponse{calcul, langue, *vendeur, {}, commande.paysLivraison()};
+    QString paysPropose;
+    if (calcul.destination)
+        paysPropose = anglais ? calcul.destination->libelleCourtEn : calcul.destination->libelleCourt;
+    return LienDePaiement{
+        .nomDeLObjet = reponse.nomDeLObjet(),
+        .description = reponse.descriptionDuLien(),
+        .prix = Format::montant(*calcul.total),
+        .prixAffiche = euros(calcul.total),
+        .retour = vendeur->retourPaypal,
+        .indicationDuPays = anglais ? QStringLiteral("en anglais, pour la description")
+                                    : QStringLiteral("en français, avec l’article : la Belgique, l’Italie, le Canada"),
+        .paysPropose = paysPropose,
+    };
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "documents/ReponseType.h"
+#include "model/Calcul.h"
+
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+// What the order screen and its summary say of one order: texts only, laid out by the widgets.
+namespace TextesRecapitulatif {
+
+struct Ligne
+{
+    QString libelle;
+    QString detail;
+    QString valeur;
+
+    bool operator==(const Ligne &) const = default;
+};
+
+struct Avertissement
+{
+    QString symbole;
+    QString texte;
+
+    bool operator==(const Avertissement &) const = default;
+};
+
+// The fields of the payment link; only for an order of one known seller whose total is known.
+struct LienDePaiement
+{
+    QString nomDeLObjet;
+    QString description;
+    QString prix;        // to copy
+    QString prixAffiche; // to read
+    std::optional<QString> retour;
+    QString indicationDuPays;
+    QString paysPropose;
+};
+
+// "3 livres · 1 250 g"
+QString sousTitre(const Calcul &calcul);
+// "—" for no amount.
+QString euros(const std::optional<Centimes> &montant);
+
+QList<Ligne> livres(const Calcul &calcul);
+QString emballage(const Emballage &emballage);
+std::optional<Ligne> palier(const Calcul &calcul);
+QList<Avertissement> avertissementsDePesee(const Calcul &calcul);
+// The destination's full name, where it says more than the short one.
+QString destinationComplete(const Calcul &calcul);
+QString declaration(const Calcul &calcul);
+QString detailEnvoi(const Calcul &calcul);
+QString detailFrais(const Calcul &calcul, const FraisPaypal &frais);
+std::optional<LienDePaiement> lienDePaiement(const Calcul &calcul, const Reglages &reglages, const Commande &commande);
+
+} // namespace TextesRecapitulatif

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QList>
+#include <QPixmap>
+#include <QWidget>
+
+class CarteLivre;
+class Ressort;
+
+// Lies over the grid for the time of a change of seller: old cards fade and shrink, new ones fade and grow. The new
+// cards below already answer to clicks and keys.
+class TransitionCartes : public QWidget
+{
+    Q_OBJECT
+
+public:
+    struct Instantane
+    {
+        QPixmap image;
+        QRect place;
+    };
+
+    // Only of the cards that can be seen.
+    static QList<Instantane> instantanes(const QList<CarteLivre *> &cartes);
+    // Deletes itself when the motion is over.
+    static void jouer(const QList<Instantane> &sortantes, const QList<Instantane> &entrantes, QWidget *grille);
+
+protected:
+    void paintEvent(QPaintEvent *evenement) override;
+
+private:
+    TransitionCartes(const QList<Instantane> &sortantes, const QList<Instantane> &entrantes, QWidget *grille);
+
+    QList<Instantane> sortantes_;
+    QList<Instantane> entrantes_;
+    Ressort *progres_;
+};

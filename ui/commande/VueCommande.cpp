@@ -1,0 +1,111 @@
+#include "ui/commande/VueCommande.h"
+
+#include "model/Calcul.h"
+#include "ui/Theme.h"
+#include "ui/commande/Couverture.h"
+#include "ui/commande/GrilleLivres.h"
+#include "ui/commande/Recapitulatif.h"
+#include "ui/commande/SelecteurSite.h"
+#include "ui/commande/TextesRecapitulatif.h"
+#include "ui/commun/EnTete.h"
+#include "ui/commun/Icone.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+constexpr int margeHorizontale = 40;
+constexpr int margeVerticale = 28;
+constexpr int espace = 36; // between the seller picker and the grid
+
+constexpr int panneauMinimum = 330;
+constexpr int panneauIdeal = 370;
+constexpr int panneauMaximum = 460;
+
+} // namespace
+
+VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesCouvertures &images, Aujourdhui aujourdhui,
+                         QWidget *parent)
+    : QWidget(parent),
+      catalogue_(catalogue),
+      commande_(commande),
+      aujourdhui_(std::move(aujourdhui)),
+      enTete_(new EnTete(tr("Commande"))),
+      reinitialiser_(new QPushButton(Icone::icone(QStringLiteral("arrow.counterclockwise")), tr("Tout réinitialiser"))),
+      selecteur_(new SelecteurSite(catalogue.reglages())),
+      grille_(new GrilleLivres(commande, images)),
+      recapitulatif_(new Recapitulatif(catalogue, commande))
+{
+    reinitialiser_->setToolTip(tr("Tout réinitialiser : quantités, colis pesé et pays de livraison ; l’emballage et la "
+                                  "destination restent"));
+    enTete_->ajouter(reinitialiser_);
+    recapitulatif_->setMinimumWidth(panneauMinimum);
+    recapitulatif_->setMaximumWidth(panneauMaximum);
+
+    auto *partage = new QSplitter;
+    partage->setChildrenCollapsible(false);
+    partage->addWidget(colonneDesLivres());
+    partage->addWidget(recapitulatif_);
+    partage->setStretchFactor(0, 1);
+    partage->setStretchFactor(1, 0);
+    partage->setSizes({10 * panneauIdeal, panneauIdeal});
+    auto *page = new QHBoxLayout(this);
+    page->setContentsMargins(0, 0, 0, 0);
+    page->addWidget(partage);
+
+    connect(reinitialiser_, &QPushButton::clicked, &commande_, &Commande::vider);
+    connect(selecteur_, &SelecteurSite::choisi, &commande_, &Commande::setVendeur);
+    connect(&commande_, &Commande::change, this, &VueCommande::actualiser);
+    connect(&catalogue_, &Catalogue::change, this, &VueCommande::actualiser);
+    actualiser();
+}
+
+QWidget *VueCommande::colonneDesLivres()
+{
+    auto *contenu = new QWidget;
+    auto *livres = new QVBoxLayout(contenu);
+    // The cards draw their shadows within their own margin: it counts in the space around them.
+    constexpr int debord = Couverture::debord;
+    livres->setContentsMargins(margeHorizontale - debord, margeVerticale, margeHorizontale - debord, margeVerticale - debord);
+    livres->setSpacing(espace - debord);
+    livres->addWidget(selecteur_);
+    livres->addWidget(grille_);
+    livres->addStretch(1);
+
+    auto *defilement = new QScrollArea;
+    defilement->setFrameShape(QFrame::NoFrame);
+    defilement->setWidgetResizable(true);
+    defilement->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    defilement->verticalScrollBar()->setSingleStep(40);
+    defilement->setFocusPolicy(Qt::NoFocus);
+    defilement->setWidget(contenu);
+
+    auto *colonne = new QWidget;
+    auto *parties = new QVBoxLayout(colonne);
+    parties->setContentsMargins(0, 0, 0, 0);
+    parties->setSpacing(0);
+    parties->addWidget(enTete_);
+    parties->addWidget(defilement, 1);
+    return colonne;
+}
+
+void VueCommande::actualiser()
+{
+    const Calcul calcul(catalogue_, commande_, aujourdhui_());
+    enTete_->setSousTitre(TextesRecapitulatif::sousTitre(calcul));
+    reinitialiser_->setEnabled(!commande_.estVide());
+    selecteur_->montrer(commande_.vendeur());
+    QList<Livre> livres;
+    std::ranges::copy_if(catalogue_.livres(), std::back_inserter(livres),
+                         [&](const Livre &livre) { return livre.vendeur == commande_.vendeur(); });
+    grille_->montrer(livres);
+    recapitulatif_->montrer(calcul);
+}

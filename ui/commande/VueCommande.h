@@ -1,0 +1,37 @@
+#pragma once
+
+#include "ui/Aujourdhui.h"
+
+#include <QWidget>
+
+class Catalogue;
+class Commande;
+class EnTete;
+class GrilleLivres;
+class ImagesCouvertures;
+class QPushButton;
+class Recapitulatif;
+class SelecteurSite;
+
+// The order screen: the seller's books to click, and beside them what the order comes to.
+class VueCommande : public QWidget
+{
+    Q_OBJECT
+
+public:
+    VueCommande(const Catalogue &catalogue, Commande &commande, ImagesCouvertures &images, Aujourdhui aujourdhui,
+                QWidget *parent = nullptr);
+
+private:
+    QWidget *colonneDesLivres();
+    void actualiser();
+
+    const Catalogue &catalogue_;
+    Commande &commande_;
+    Aujourdhui aujourdhui_;
+    EnTete *enTete_;
+    QPushButton *reinitialiser_;
+    SelecteurSite *selecteur_;
+    GrilleLivres *grille_;
+    Recapitulatif *recapitulatif_;
+};

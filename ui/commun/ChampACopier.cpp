@@ -1,0 +1,68 @@
+#include "ui/commun/ChampACopier.h"
+
+#include "ui/Theme.h"
+#include "ui/commun/Icone.h"
+#include "ui/commun/Libelle.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+using namespace std::chrono_literals;
+
+ChampACopier::ChampACopier(const QString &titre, QWidget *parent)
+    : QWidget(parent), titre_(titre), affichage_(new QLabel), bouton_(new QToolButton)
+{
+    auto *titreAffiche = new Libelle(titre, Libelle::Rang::secondaire);
+    titreAffiche->setFont(Theme::encadre());
+    affichage_->setTextFormat(Qt::PlainText);
+    affichage_->setWordWrap(true);
+    affichage_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    affichage_->setFocusPolicy(Qt::ClickFocus);
+    bouton_->setAutoRaise(true);
+    bouton_->setToolTip(tr("Copier %1").arg(titre));
+    bouton_->setAccessibleName(bouton_->toolTip());
+
+    auto *textes = new QVBoxLayout;
+    textes->setSpacing(2);
+    textes->addWidget(titreAffiche);
+    textes->addWidget(affichage_);
+    auto *rangee = new QHBoxLayout(this);
+    rangee->setContentsMargins(0, 0, 0, 0);
+    rangee->setSpacing(8);
+    rangee->addLayout(textes, 1);
+    rangee->addWidget(bouton_, 0, Qt::AlignVCenter);
+
+    retour_.setSingleShot(true);
+    retour_.setInterval(1500ms);
+    connect(bouton_, &QToolButton::clicked, this, &ChampACopier::copier);
+    connect(&retour_, &QTimer::timeout, this, &ChampACopier::montrerEtat);
+    montrerEtat();
+}
+
+void ChampACopier::montrer(const QString &valeur, const QString &affichage)
+{
+    valeur_ = valeur;
+    affichage_->setText(affichage.isEmpty() ? valeur : affichage);
+}
+
+QString ChampACopier::affichage() const
+{
+    return affichage_->text();
+}
+
+void ChampACopier::copier()
+{
+    QGuiApplication::clipboard()->setText(valeur_);
+    retour_.start();
+    montrerEtat();
+}
+
+void ChampACopier::montrerEtat()
+{
+    bouton_->setIcon(Icone::icone(copie() ? QStringLiteral("checkmark.circle.fill") : QStringLiteral("doc.on.doc")));
+    bouton_->setAccessibleDescription(copie() ? tr("Copié") : QString());
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+
+class QLabel;
+class QToolButton;
+
+// One value the seller copies elsewhere: its title, what is shown, and a button that puts the value on the clipboard.
+class ChampACopier : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ChampACopier(const QString &titre, QWidget *parent = nullptr);
+
+    // `affichage` is shown instead of the value when it is not empty.
+    void montrer(const QString &valeur, const QString &affichage = {});
+
+    [[nodiscard]] const QString &valeur() const { return valeur_; }
+    [[nodiscard]] QString affichage() const;
+    // Just copied: the button shows a check mark.
+    [[nodiscard]] bool copie() const { return retour_.isActive(); }
+
+private:
+    void copier();
+    void montrerEtat();
+
+    QString titre_;
+    QString valeur_;
+    QLabel *affichage_;
+    QToolButton *bouton_;
+    QTimer retour_;
+};

@@ -1,0 +1,69 @@
+#include "ui/commun/ChampEntier.h"
+
+#include <QLocale>
+#include <QToolTip>
+#include <QValidator>
+
+#include <algorithm>
+
+namespace {
+
+QString chiffres(QString texte)
+{
+    texte.removeIf([](QChar c) { return c.isSpace(); });
+    return texte;
+}
+
+QString ecrit(std::optional<qint64> valeur)
+{
+    static const QLocale francais(QLocale::French, QLocale::France);
+    return valeur ? francais.toString(*valeur) : QString();
+}
+
+class EntierBorne : public QValidator
+{
+public:
+    using QValidator::QValidator;
+
+    State validate(QString &saisie, int &) const override
+    {
+        const QString texte = chiffres(saisie);
+        if (texte.isEmpty())
+            return Acceptable;
+        const bool queDesChiffres = std::ranges::all_of(texte, [](QChar c) { return c >= u'0' && c <= u'9'; });
+        bool tient = false;
+        return queDesChiffres && texte.toLongLong(&tient) <= ChampEntier::maximum && tient ? Acceptable : Invalid;
+    }
+};
+
+} // namespace
+
+ChampEntier::ChampEntier(const QString &unite, QWidget *parent) : QLineEdit(parent)
+{
+    setValidator(new EntierBorne(this));
+    setAlignment(Qt::AlignRight);
+    setFixedWidth(70);
+    connect(this, &QLineEdit::textEdited, this, [this] { emit saisie(valeur()); });
+    connect(this, &QLineEdit::inputRejected, this, [this, unite] {
+        QToolTip::showText(mapToGlobal(QPoint(0, height())),
+                           tr("Un nombre entier de %1, de 0 à %2.").arg(unite, ecrit(maximum)), this);
+    });
+}
+
+std::optional<qint64> ChampEntier::valeur() const
+{
+    const QString texte = chiffres(text());
+    return texte.isEmpty() ? std::nullopt : std::optional(texte.toLongLong());
+}
+
+void ChampEntier::montrer(std::optional<qint64> montree)
+{
+    if (montree != valeur() || !hasFocus())
+        setText(ecrit(montree));
+}
+
+void ChampEntier::focusOutEvent(QFocusEvent *evenement)
+{
+    QLineEdit::focusOutEvent(evenement);
+    setText(ecrit(valeur()));
+}

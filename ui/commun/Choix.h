@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QComboBox>
+
+// A pop-up choice keyed by texts. The wheel scrolls the page, it never changes the choice by accident.
+class Choix : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit Choix(QWidget *parent = nullptr);
+
+    void ajouter(const QString &texte, const QString &cle) { addItem(texte, cle); }
+    // Shows nothing when no entry has the key.
+    void montrer(const QString &cle) { setCurrentIndex(findData(cle)); }
+
+signals:
+    void choisi(const QString &cle);
+
+protected:
+    void wheelEvent(QWheelEvent *evenement) override;
+};

@@ -1,0 +1,148 @@
+#include "ui/commun/ChoixSegmente.h"
+
+#include "ui/Theme.h"
+#include "ui/commun/Dessin.h"
+#include "ui/commun/Ressort.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QRadioButton>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace {
+
+constexpr int margeTexte = 18;
+constexpr double reductionMinimale = 0.8;
+
+class Segment : public QRadioButton
+{
+public:
+    Segment(const QString &texte, const ChoixSegmente::Apparence &apparence) : QRadioButton(texte), apparence_(apparence)
+    {
+        setFont(apparence.police);
+        setFixedHeight(apparence.hauteur);
+        setMaximumWidth(apparence.largeurMaximale);
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        setCursor(Qt::PointingHandCursor);
+    }
+
+    // How much of the highlight lies under this choice, 0 to 1.
+    void eclairer(double part)
+    {
+        part_ = part;
+        update();
+    }
+
+    [[nodiscard]] QSize sizeHint() const override
+    {
+        const int largeur = fontMetrics().horizontalAdvance(text()) + 2 * margeTexte;
+        return {std::min(largeur, apparence_.largeurMaximale), apparence_.hauteur};
+    }
+    [[nodiscard]] QSize minimumSizeHint() const override { return {60, apparence_.hauteur}; }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter peintre(this);
+        peintre.setRenderHint(QPainter::Antialiasing);
+        const QColor normale = palette().color(QPalette::WindowText);
+        const bool bleu = apparence_.style == ChoixSegmente::Style::bleu;
+        peintre.setPen(bleu ? Dessin::melange(normale, Qt::white, part_) : normale);
+
+        QFont police = font();
+        const int place = width() - margeTexte;
+        const int voulue = fontMetrics().horizontalAdvance(text());
+        if (voulue > place)
+            police.setPointSizeF(police.pointSizeF() * std::max(reductionMinimale, double(place) / voulue));
+        peintre.setFont(police);
+        const QString affiche = QFontMetrics(police).elidedText(text(), Qt::ElideRight, place);
+        peintre.drawText(rect(), Qt::AlignCenter, affiche);
+        if (hasFocus())
+            Dessin::anneauDeFocus(peintre, QRectF(rect()).adjusted(2, 2, -2, -2), (height() - 4) / 2.0, palette());
+    }
+
+    [[nodiscard]] bool hitButton(const QPoint &position) const override { return rect().contains(position); }
+
+private:
+    ChoixSegmente::Apparence apparence_;
+    double part_ = 0;
+};
+
+} // namespace
+
+ChoixSegmente::ChoixSegmente(const QStringList &options, const Apparence &apparence, QWidget *parent)
+    : QWidget(parent), apparence_(apparence), position_(new Ressort(
+                                                  Ressorts::action,
+                                                  [this](double position) {
+                                                      for (qsizetype i = 0; i < boutons_.size(); ++i) {
+                                                          const double ecart = std::abs(position - double(i));
+                                                          static_cast<Segment *>(boutons_[i])->eclairer(1 - std::min(1.0, ecart));
+                                                      }
+                                                      update();
+                                                  },
+                                                  this))
+{
+    auto *rangee = new QHBoxLayout(this);
+    rangee->setContentsMargins(apparence.marge, apparence.marge, apparence.marge, apparence.marge);
+    rangee->setSpacing(apparence.espace);
+    for (int i = 0; i < options.size(); ++i) {
+        auto *bouton = new Segment(options[i], apparence);
+        boutons_.append(bouton);
+        rangee->addWidget(bouton);
+        connect(bouton, &QRadioButton::clicked, this, [this, i] { emit choisi(i); });
+        connect(bouton, &QRadioButton::toggled, this, [this, i](bool choisie) {
+            if (choisie)
+                position_->vers(i);
+        });
+    }
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+void ChoixSegmente::montrer(int indice)
+{
+    boutons_[indice]->setChecked(true);
+    if (!std::exchange(montre_, true))
+        position_->placer(indice);
+}
+
+QRectF ChoixSegmente::surbrillance() const
+{
+    const double position = position_->valeur();
+    const auto gauche = std::clamp<qsizetype>(static_cast<qsizetype>(std::floor(position)), 0, boutons_.size() - 1);
+    const auto droite = std::min(gauche + 1, boutons_.size() - 1);
+    const double part = position - double(gauche);
+    const QRectF a = boutons_[gauche]->geometry();
+    const QRectF b = boutons_[droite]->geometry();
+    const auto entre = [part](double x, double y) { return x + (y - x) * part; };
+    const double pas = gauche == droite ? part * a.width() : entre(a.left(), b.left()) - a.left();
+    return {a.left() + pas, a.top(), entre(a.width(), b.width()), a.height()};
+}
+
+void ChoixSegmente::paintEvent(QPaintEvent *)
+{
+    QPainter peintre(this);
+    peintre.setRenderHint(QPainter::Antialiasing);
+    peintre.setPen(Qt::NoPen);
+    peintre.setBrush(Theme::remplissage(palette()));
+    peintre.drawRoundedRect(rect(), height() / 2.0, height() / 2.0);
+
+    const QRectF choisi = surbrillance();
+    const double rayon = choisi.height() / 2;
+    if (apparence_.style == Style::bleu) {
+        peintre.setBrush(QColor(0, 0, 0, 64));
+        peintre.drawRoundedRect(choisi.translated(0, 1.5), rayon, rayon);
+        QLinearGradient degrade(choisi.topLeft(), choisi.bottomLeft());
+        degrade.setColorAt(0, QColor(0x3F7FE8));
+        degrade.setColorAt(1, QColor(0x1F56BE));
+        peintre.setBrush(degrade);
+    } else {
+        peintre.setBrush(QColor(0, 0, 0, 28));
+        peintre.drawRoundedRect(choisi.translated(0, 1), rayon, rayon);
+        const bool clair = Theme::mode(palette()) == Theme::Mode::clair;
+        peintre.setBrush(clair ? Theme::carte(palette()) : Theme::filet(palette()).lighter(140));
+    }
+    peintre.drawRoundedRect(choisi, rayon, rayon);
+}

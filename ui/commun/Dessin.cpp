@@ -1,0 +1,62 @@
+#include "ui/commun/Dessin.h"
+
+#include "ui/Theme.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <vector>
+
+QColor Dessin::melange(const QColor &a, const QColor &b, double part)
+{
+    const auto p = static_cast<float>(std::clamp(part, 0.0, 1.0));
+    const auto entre = [p](float x, float y) { return x + (y - x) * p; };
+    return QColor::fromRgbF(entre(a.redF(), b.redF()), entre(a.greenF(), b.greenF()), entre(a.blueF(), b.blueF()),
+                            entre(a.alphaF(), b.alphaF()));
+}
+
+void Dessin::anneauDeFocus(QPainter &peintre, const QRectF &cadre, qreal rayon, const QPalette &palette)
+{
+    peintre.save();
+    peintre.setPen(QPen(Theme::accentTexte(palette), 2));
+    peintre.setBrush(Qt::NoBrush);
+    peintre.drawRoundedRect(cadre.adjusted(-2, -2, 2, 2), rayon + 2, rayon + 2);
+    peintre.restore();
+}
+
+namespace {
+
+// How much of a blurred bar of the given length covers each pixel of its axis. A Gaussian blur of a rectangle is the
+// product of two such profiles, so that no convolution is needed.
+std::vector<float> profil(double longueur, double marge, double densite)
+{
+    const double echelle = marge / 2 * std::numbers::sqrt2; // sigma is half the blur radius
+    std::vector<float> valeurs(static_cast<std::size_t>(std::ceil((longueur + 2 * marge) * densite)));
+    for (std::size_t i = 0; i < valeurs.size(); ++i) {
+        const double x = (static_cast<double>(i) + 0.5) / densite - marge;
+        valeurs[i] = static_cast<float>((std::erf(x / echelle) - std::erf((x - longueur) / echelle)) / 2);
+    }
+    return valeurs;
+}
+
+} // namespace
+
+QPixmap Dessin::ombre(const QSizeF &taille, qreal rayon, const QColor &couleur, qreal densite)
+{
+    const auto horizontal = profil(taille.width(), rayon, densite);
+    const auto vertical = profil(taille.height(), rayon, densite);
+    QImage image(static_cast<int>(horizontal.size()), static_cast<int>(vertical.size()),
+                 QImage::Format_ARGB32_Premultiplied);
+    for (std::size_t y = 0; y < vertical.size(); ++y) {
+        auto *ligne = reinterpret_cast<QRgb *>(image.scanLine(static_cast<int>(y)));
+        const float force = vertical[y] * static_cast<float>(couleur.alpha());
+        for (std::size_t x = 0; x < horizontal.size(); ++x) {
+            const int alpha = static_cast<int>(std::lround(force * horizontal[x]));
+            ligne[x] = qPremultiply(qRgba(couleur.red(), couleur.green(), couleur.blue(), alpha));
+        }
+    }
+    image.setDevicePixelRatio(densite);
+    return QPixmap::fromImage(std::move(image));
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+#include <QPixmap>
+#include <QRectF>
+
+class QPainter;
+
+// Shapes that several widgets paint alike.
+namespace Dessin {
+
+// From `a` (part 0) to `b` (part 1); a spring may overshoot, the colour does not.
+QColor melange(const QColor &a, const QColor &b, double part);
+
+// Drawn just outside `cadre`: leave 3 px around it.
+void anneauDeFocus(QPainter &peintre, const QRectF &cadre, qreal rayon, const QPalette &palette);
+
+// The blurred shadow of a rectangle, with `rayon` of room on every side of it.
+QPixmap ombre(const QSizeF &taille, qreal rayon, const QColor &couleur, qreal densite);
+
+} // namespace Dessin

@@ -1,0 +1,162 @@
+#include "ui/commun/Formulaire.h"
+
+#include "ui/Theme.h"
+#include "ui/commun/Libelle.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace Formulaire {
+
+namespace {
+
+Libelle *secondeLigne()
+{
+    auto *detail = new Libelle({}, Libelle::Rang::secondaire);
+    detail->setFont(Theme::legende());
+    detail->setWordWrap(true);
+    detail->hide();
+    return detail;
+}
+
+void montrerDetail(Libelle *libelle, const QString &detail)
+{
+    libelle->setText(detail);
+    libelle->setVisible(!detail.isEmpty());
+}
+
+QVBoxLayout *surDeuxLignes(Libelle *libelle, Libelle *detail)
+{
+    auto *textes = new QVBoxLayout;
+    textes->setSpacing(2);
+    textes->addWidget(libelle);
+    textes->addWidget(detail);
+    return textes;
+}
+
+// A screen reader says the label before the value it stands beside.
+void relier(Libelle *libelle, QWidget *valeur)
+{
+    if (valeur->focusPolicy() == Qt::NoFocus)
+        return;
+    libelle->setBuddy(valeur);
+    if (valeur->accessibleName().isEmpty())
+        valeur->setAccessibleName(libelle->text());
+}
+
+} // namespace
+
+Groupe::Groupe(QWidget *parent) : QWidget(parent), rangees_(new QVBoxLayout(this))
+{
+    rangees_->setContentsMargins(margeHorizontale, 3, margeHorizontale, 3);
+    rangees_->setSpacing(0);
+}
+
+void Groupe::ajouter(QWidget *rangee)
+{
+    inserer(rangees_->count(), rangee);
+}
+
+void Groupe::inserer(int indice, QWidget *rangee)
+{
+    rangee->setContentsMargins(0, margeVerticale, 0, margeVerticale);
+    rangees_->insertWidget(indice, rangee);
+}
+
+void Groupe::paintEvent(QPaintEvent *)
+{
+    QPainter peintre(this);
+    peintre.setRenderHint(QPainter::Antialiasing);
+    peintre.setPen(QPen(Theme::filet(palette()), 1));
+    peintre.setBrush(Theme::carte(palette()));
+    peintre.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Theme::rayonGroupe, Theme::rayonGroupe);
+
+    bool premiere = true;
+    for (int i = 0; i < rangees_->count(); ++i) {
+        const QWidget *rangee = rangees_->itemAt(i)->widget();
+        if (!rangee || rangee->isHidden())
+            continue;
+        if (!std::exchange(premiere, false)) {
+            const double haut = rangee->y() + 0.5;
+            peintre.drawLine(QPointF(margeHorizontale, haut), QPointF(width() - margeHorizontale, haut));
+        }
+    }
+}
+
+Section::Section(const QString &titre, const QString &pied, QWidget *parent) : QWidget(parent), groupe_(new Groupe)
+{
+    auto *colonne = new QVBoxLayout(this);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(6);
+    auto *tete = new Libelle(titre);
+    tete->setFont(Theme::titreCarte());
+    tete->setContentsMargins(2, 0, 2, 0);
+    colonne->addWidget(tete);
+    colonne->addWidget(groupe_);
+    if (!pied.isEmpty()) {
+        auto *note = new Libelle(pied, Libelle::Rang::secondaire);
+        note->setFont(Theme::legende());
+        note->setWordWrap(true);
+        note->setContentsMargins(margeHorizontale, 0, margeHorizontale, 0);
+        colonne->addWidget(note);
+    }
+    setAccessibleName(titre);
+}
+
+Rangee::Rangee(const QString &libelle, QWidget *valeur, QWidget *parent)
+    : QWidget(parent), libelle_(new Libelle(libelle)), detail_(secondeLigne())
+{
+    libelle_->setWordWrap(true);
+    auto *rangee = new QHBoxLayout(this);
+    rangee->setContentsMargins(0, 0, 0, 0);
+    rangee->setSpacing(12);
+    rangee->addLayout(surDeuxLignes(libelle_, detail_), 1);
+    rangee->addWidget(valeur, 0, Qt::AlignRight | Qt::AlignVCenter);
+    relier(libelle_, valeur);
+}
+
+void Rangee::setTexte(const QString &libelle)
+{
+    libelle_->setText(libelle);
+}
+
+void Rangee::setDetail(const QString &detail)
+{
+    montrerDetail(detail_, detail);
+}
+
+QString Rangee::detail() const
+{
+    return detail_->text();
+}
+
+RangeeHaute::RangeeHaute(const QString &libelle, QWidget *valeur, QWidget *parent)
+    : QWidget(parent), detail_(secondeLigne())
+{
+    auto *titre = new Libelle(libelle);
+    auto *colonne = new QVBoxLayout(this);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(6);
+    colonne->addLayout(surDeuxLignes(titre, detail_));
+    colonne->addWidget(valeur);
+    relier(titre, valeur);
+}
+
+void RangeeHaute::setDetail(const QString &detail)
+{
+    montrerDetail(detail_, detail);
+}
+
+QWidget *seul(QWidget *controle)
+{
+    auto *rangee = new QWidget;
+    auto *place = new QVBoxLayout(rangee);
+    place->setContentsMargins(0, 0, 0, 0);
+    place->addWidget(controle);
+    return rangee;
+}
+
+} // namespace Formulaire

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <QWidget>
+
+class Libelle;
+class QVBoxLayout;
+
+// A grouped form: titled sections, each a raised group of rows parted by hairlines.
+namespace Formulaire {
+
+// The raised group of a section.
+class Groupe : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Groupe(QWidget *parent = nullptr);
+    void ajouter(QWidget *rangee);
+    void inserer(int indice, QWidget *rangee);
+
+protected:
+    void paintEvent(QPaintEvent *evenement) override;
+
+private:
+    QVBoxLayout *rangees_;
+};
+
+class Section : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Section(const QString &titre, const QString &pied = {}, QWidget *parent = nullptr);
+    [[nodiscard]] Groupe *groupe() const { return groupe_; }
+
+private:
+    Groupe *groupe_;
+};
+
+// A label with an optional second line on the left, a value on the right.
+class Rangee : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Rangee(const QString &libelle, QWidget *valeur, QWidget *parent = nullptr);
+    void setTexte(const QString &libelle);
+    // Empty: no second line.
+    void setDetail(const QString &detail);
+    [[nodiscard]] Libelle *libelle() const { return libelle_; }
+    [[nodiscard]] QString detail() const;
+
+private:
+    Libelle *libelle_;
+    Libelle *detail_;
+};
+
+// A row whose value stands under its label, over the whole width.
+class RangeeHaute : public QWidget
+{
+    Q_OBJECT
+
+public:
+    RangeeHaute(const QString &libelle, QWidget *valeur, QWidget *parent = nullptr);
+    void setDetail(const QString &detail);
+
+private:
+    Libelle *detail_;
+};
+
+// A control alone on its row, over the whole width.
+QWidget *seul(QWidget *controle);
+
+// Room around a row of the group.
+inline constexpr int margeHorizontale = 14;
+inline constexpr int margeVerticale = 9;
+
+} // namespace Formulaire

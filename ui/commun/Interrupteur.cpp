@@ -1,0 +1,52 @@
+#include "ui/commun/Interrupteur.h"
+
+#include "ui/Theme.h"
+#include "ui/commun/Dessin.h"
+#include "ui/commun/Ressort.h"
+
+#include <QPainter>
+
+namespace {
+constexpr QSize taille(38, 22);
+constexpr int marge = 3; // room for the focus ring
+const QColor bleu(0x2F6FDE);
+} // namespace
+
+Interrupteur::Interrupteur(QWidget *parent)
+    : QCheckBox(parent), position_(new Ressort(Ressorts::action, [this](double) { update(); }, this))
+{
+    connect(this, &QCheckBox::toggled, this, [this](bool allume) { position_->vers(allume ? 1 : 0); });
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize Interrupteur::sizeHint() const
+{
+    return taille + QSize(2 * marge, 2 * marge);
+}
+
+bool Interrupteur::hitButton(const QPoint &position) const
+{
+    return rect().contains(position);
+}
+
+void Interrupteur::paintEvent(QPaintEvent *)
+{
+    QPainter peintre(this);
+    peintre.setRenderHint(QPainter::Antialiasing);
+    const QRectF piste(marge, marge, taille.width(), taille.height());
+    const double position = position_->valeur();
+    peintre.setPen(Qt::NoPen);
+    peintre.setBrush(Dessin::melange(Dessin::melange(Theme::filet(palette()), Theme::secondaire(palette()), 0.35), bleu,
+                                     position));
+    peintre.drawRoundedRect(piste, piste.height() / 2, piste.height() / 2);
+
+    const double rayon = piste.height() / 2 - 2;
+    const double course = piste.width() - piste.height();
+    const QPointF centre(piste.left() + piste.height() / 2 + course * position, piste.center().y());
+    peintre.setBrush(QColor(0, 0, 0, 40));
+    peintre.drawEllipse(centre + QPointF(0, 1), rayon, rayon);
+    peintre.setBrush(Qt::white);
+    peintre.drawEllipse(centre, rayon, rayon);
+    if (hasFocus())
+        Dessin::anneauDeFocus(peintre, piste, piste.height() / 2, palette());
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QCheckBox>
+
+class Ressort;
+
+// An on/off switch; its label stands outside.
+class Interrupteur : public QCheckBox
+{
+    Q_OBJECT
+
+public:
+    explicit Interrupteur(QWidget *parent = nullptr);
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *evenement) override;
+    [[nodiscard]] bool hitButton(const QPoint &position) const override;
+
+private:
+    Ressort *position_;
+};

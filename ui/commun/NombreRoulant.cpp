@@ -1,0 +1,87 @@
+#include "ui/commun/NombreRoulant.h"
+
+#include "ui/commun/Ressort.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace {
+
+int largeur(const QFontMetrics &mesures, QChar caractere)
+{
+    return mesures.horizontalAdvance(caractere.isDigit() ? QChar(u'0') : caractere);
+}
+
+int largeur(const QFontMetrics &mesures, const QString &texte)
+{
+    int somme = 0;
+    for (const QChar caractere : texte)
+        somme += largeur(mesures, caractere);
+    return somme;
+}
+
+} // namespace
+
+NombreRoulant::NombreRoulant(QWidget *parent)
+    : QLabel(parent), progres_(new Ressort(Ressorts::action, [this](double) { update(); }, this))
+{
+    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    progres_->placer(1);
+}
+
+void NombreRoulant::afficher(const QString &texte, int sens)
+{
+    if (texte == text())
+        return;
+    precedent_ = text();
+    sens_ = sens;
+    setText(texte);
+    updateGeometry();
+    progres_->placer(precedent_.isEmpty() || !isVisible() ? 1 : 0);
+    progres_->vers(1);
+}
+
+QSize NombreRoulant::sizeHint() const
+{
+    return {largeur(fontMetrics(), text()), fontMetrics().height()};
+}
+
+QSize NombreRoulant::minimumSizeHint() const
+{
+    return sizeHint();
+}
+
+void NombreRoulant::paintEvent(QPaintEvent *)
+{
+    QPainter peintre(this);
+    peintre.setFont(font());
+    peintre.setPen(palette().color(foregroundRole()));
+
+    const QString texte = text();
+    const double progres = std::clamp(progres_->valeur(), 0.0, 1.0);
+    const int ligne = (height() + fontMetrics().ascent() - fontMetrics().descent()) / 2;
+    const double course = fontMetrics().height() * 0.7 * sens_;
+    const auto dessiner = [&](QChar caractere, double x, double y, double opacite) {
+        const double centrage = (largeur(fontMetrics(), caractere) - fontMetrics().horizontalAdvance(caractere)) / 2.0;
+        peintre.setOpacity(opacite);
+        peintre.drawText(QPointF(x + centrage, y), caractere);
+    };
+
+    // Characters face each other from the right: units stay over units when a number gains a digit.
+    double x = alignment() & Qt::AlignHCenter ? (width() + largeur(fontMetrics(), texte)) / 2.0 : width();
+    const qsizetype longueur = progres < 1 ? std::max(texte.size(), precedent_.size()) : texte.size();
+    for (qsizetype rang = 1; rang <= longueur; ++rang) {
+        const QChar nouveau = rang <= texte.size() ? texte[texte.size() - rang] : QChar();
+        const QChar ancien = rang <= precedent_.size() ? precedent_[precedent_.size() - rang] : QChar();
+        x -= largeur(fontMetrics(), nouveau.isNull() ? ancien : nouveau);
+        if (progres >= 1 || nouveau == ancien) {
+            dessiner(nouveau, x, ligne, 1);
+            continue;
+        }
+        if (!nouveau.isNull())
+            dessiner(nouveau, x, ligne + course * (1 - progres), progres);
+        if (!ancien.isNull())
+            dessiner(ancien, x, ligne - course * progres, 1 - progres);
+    }
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QLabel>
+
+class Ressort;
+
+// A short text of digits, all of one width; when it changes, the characters that differ roll over.
+class NombreRoulant : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit NombreRoulant(QWidget *parent = nullptr);
+
+    // `sens` is 1 when the number grows (digits roll upward), -1 when it shrinks.
+    void afficher(const QString &texte, int sens = 1);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *evenement) override;
+
+private:
+    QString precedent_;
+    int sens_ = 1;
+    Ressort *progres_;
+};

@@ -1,0 +1,198 @@
+#include "ui/commun/Style.h"
+
+#include "ui/commun/Dessin.h"
+#include "ui/commun/Icone.h"
+
+#include <QPainter>
+#include <QStyleOption>
+#include <QStyleOptionSlider>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int hauteurControle = 30;
+constexpr int largeurAscenseur = 11;
+
+bool contient(const QStyleOption &option, QStyle::StateFlag etat)
+{
+    return option.state.testFlag(etat);
+}
+
+void bouton(const QStyleOption &option, QPainter &peintre)
+{
+    const QPalette &palette = option.palette;
+    QColor fond = Theme::carte(palette);
+    if (contient(option, QStyle::State_Sunken))
+        fond = Dessin::melange(fond, palette.color(QPalette::WindowText), 0.12);
+    else if (contient(option, QStyle::State_MouseOver) && contient(option, QStyle::State_Enabled))
+        fond = Dessin::melange(fond, palette.color(QPalette::WindowText), 0.05);
+    peintre.setPen(QPen(Theme::filet(palette), 1));
+    peintre.setBrush(fond);
+    const QRectF cadre = QRectF(option.rect).adjusted(2.5, 2.5, -2.5, -2.5);
+    peintre.drawRoundedRect(cadre, Theme::rayonControle, Theme::rayonControle);
+    if (contient(option, QStyle::State_HasFocus) && contient(option, QStyle::State_KeyboardFocusChange))
+        Dessin::anneauDeFocus(peintre, cadre.adjusted(1, 1, -1, -1), Theme::rayonControle - 1, palette);
+}
+
+void champ(const QStyleOption &option, QPainter &peintre)
+{
+    const QPalette &palette = option.palette;
+    const bool actif = contient(option, QStyle::State_HasFocus);
+    peintre.setPen(QPen(actif ? Theme::accentTexte(palette) : Theme::filet(palette), actif ? 2 : 1));
+    peintre.setBrush(Dessin::melange(Theme::carte(palette), palette.color(QPalette::Window), 0.5));
+    const double retrait = actif ? 1 : 0.5;
+    peintre.drawRoundedRect(QRectF(option.rect).adjusted(retrait, retrait, -retrait, -retrait), 6, 6);
+}
+
+void fondDOutil(const QStyleOption &option, QPainter &peintre)
+{
+    const bool survol = contient(option, QStyle::State_MouseOver) && contient(option, QStyle::State_Enabled);
+    const bool enfonce = contient(option, QStyle::State_Sunken);
+    const QRectF cadre = QRectF(option.rect).adjusted(3, 3, -3, -3);
+    if (survol || enfonce) {
+        peintre.setPen(Qt::NoPen);
+        QColor fond = option.palette.color(QPalette::WindowText);
+        fond.setAlphaF(enfonce ? 0.14F : 0.07F);
+        peintre.setBrush(fond);
+        peintre.drawRoundedRect(cadre, Theme::rayonControle, Theme::rayonControle);
+    }
+    if (contient(option, QStyle::State_HasFocus))
+        Dessin::anneauDeFocus(peintre, cadre, Theme::rayonControle - 2, option.palette);
+}
+
+QRect poignee(const QStyleOptionSlider &option)
+{
+    const bool horizontal = option.orientation == Qt::Horizontal;
+    const int longueur = horizontal ? option.rect.width() : option.rect.height();
+    const qint64 etendue = qint64{option.maximum} - option.minimum + option.pageStep;
+    const int taille = etendue > 0 ? std::clamp(static_cast<int>(qint64{longueur} * option.pageStep / etendue),
+                                                std::min(32, longueur), longueur)
+                                   : longueur;
+    const int debut = QStyle::sliderPositionFromValue(option.minimum, option.maximum, option.sliderPosition,
+                                                      longueur - taille, option.upsideDown);
+    return horizontal ? QRect(option.rect.x() + debut, option.rect.y(), taille, option.rect.height())
+                      : QRect(option.rect.x(), option.rect.y() + debut, option.rect.width(), taille);
+}
+
+void ascenseur(const QStyleOptionSlider &option, QPainter &peintre)
+{
+    if (option.maximum <= option.minimum)
+        return;
+    QColor couleur = option.palette.color(QPalette::WindowText);
+    couleur.setAlphaF(contient(option, QStyle::State_MouseOver) || contient(option, QStyle::State_Sunken) ? 0.45F : 0.22F);
+    const QRectF barre = QRectF(poignee(option)).adjusted(3, 3, -3, -3);
+    const double rayon = std::min(barre.width(), barre.height()) / 2;
+    peintre.setPen(Qt::NoPen);
+    peintre.setBrush(couleur);
+    peintre.drawRoundedRect(barre, rayon, rayon);
+}
+
+} // namespace
+
+Style::Style(std::optional<Theme::Mode> mode) : QProxyStyle(QStringLiteral("fusion")), mode_(mode) {}
+
+void Style::polish(QPalette &palette)
+{
+    palette = Theme::palette(mode_.value_or(Theme::mode(palette)));
+}
+
+void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *peintre,
+                          const QWidget *widget) const
+{
+    peintre->save();
+    peintre->setRenderHint(QPainter::Antialiasing);
+    switch (element) {
+    case PE_PanelButtonCommand: bouton(*option, *peintre); break;
+    case PE_PanelLineEdit: champ(*option, *peintre); break;
+    case PE_FrameLineEdit: break;
+    case PE_PanelButtonTool: fondDOutil(*option, *peintre); break;
+    case PE_FrameFocusRect: break; // each control draws its own ring
+    default: QProxyStyle::drawPrimitive(element, option, peintre, widget);
+    }
+    peintre->restore();
+}
+
+void Style::drawComplexControl(ComplexControl controle, const QStyleOptionComplex *option, QPainter *peintre,
+                               const QWidget *widget) const
+{
+    if (const auto *barre = qstyleoption_cast<const QStyleOptionSlider *>(option); barre && controle == CC_ScrollBar) {
+        peintre->save();
+        peintre->setRenderHint(QPainter::Antialiasing);
+        ascenseur(*barre, *peintre);
+        peintre->restore();
+        return;
+    }
+    if (controle == CC_ComboBox) {
+        peintre->save();
+        peintre->setRenderHint(QPainter::Antialiasing);
+        bouton(*option, *peintre);
+        const QRectF fleche = subControlRect(controle, option, SC_ComboBoxArrow, widget);
+        Icone::peindre(*peintre, QStringLiteral("chevron.up.chevron.down"),
+                       QRectF(fleche.center() - QPointF(7, 7), QSizeF(14, 14)), Theme::secondaire(option->palette));
+        peintre->restore();
+        return;
+    }
+    QProxyStyle::drawComplexControl(controle, option, peintre, widget);
+}
+
+QRect Style::subControlRect(ComplexControl controle, const QStyleOptionComplex *option, SubControl partie,
+                            const QWidget *widget) const
+{
+    if (const auto *barre = qstyleoption_cast<const QStyleOptionSlider *>(option); barre && controle == CC_ScrollBar) {
+        const QRect milieu = poignee(*barre);
+        const bool horizontal = barre->orientation == Qt::Horizontal;
+        QRect avant = option->rect;
+        QRect apres = option->rect;
+        horizontal ? avant.setRight(milieu.left() - 1) : avant.setBottom(milieu.top() - 1);
+        horizontal ? apres.setLeft(milieu.right() + 1) : apres.setTop(milieu.bottom() + 1);
+        switch (partie) {
+        case SC_ScrollBarSlider: return milieu;
+        case SC_ScrollBarGroove: return option->rect;
+        case SC_ScrollBarSubPage: return avant;
+        case SC_ScrollBarAddPage: return apres;
+        default: return {};
+        }
+    }
+    if (controle == CC_ComboBox && partie == SC_ComboBoxArrow)
+        return {option->rect.right() - 27, option->rect.top(), 22, option->rect.height()};
+    if (controle == CC_ComboBox && partie == SC_ComboBoxEditField)
+        return option->rect.adjusted(11, 3, -28, -3);
+    return QProxyStyle::subControlRect(controle, option, partie, widget);
+}
+
+QSize Style::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contenu,
+                              const QWidget *widget) const
+{
+    QSize taille = QProxyStyle::sizeFromContents(type, option, contenu, widget);
+    switch (type) {
+    case CT_PushButton:
+    case CT_ComboBox: return {taille.width() + 10, std::max(taille.height(), contenu.height() + 18)};
+    case CT_LineEdit: return {taille.width(), std::max(hauteurControle, contenu.height() + 12)};
+    case CT_ToolButton: return {taille.width() + 8, std::max(taille.height(), contenu.height() + 14)};
+    default: return taille;
+    }
+}
+
+int Style::pixelMetric(PixelMetric mesure, const QStyleOption *option, const QWidget *widget) const
+{
+    switch (mesure) {
+    case PM_ScrollBarExtent: return largeurAscenseur;
+    case PM_ButtonIconSize:
+    case PM_SmallIconSize: return 16;
+    case PM_ButtonShiftHorizontal:
+    case PM_ButtonShiftVertical: return 0;
+    case PM_SplitterWidth: return 1;
+    default: return QProxyStyle::pixelMetric(mesure, option, widget);
+    }
+}
+
+int Style::styleHint(StyleHint indice, const QStyleOption *option, const QWidget *widget, QStyleHintReturn *retour) const
+{
+    switch (indice) {
+    case SH_ScrollBar_LeftClickAbsolutePosition: return 0;
+    case SH_ItemView_ActivateItemOnSingleClick: return 0;
+    case SH_EtchDisabledText: return 0;
+    default: return QProxyStyle::styleHint(indice, option, widget, retour);
+    }
+}

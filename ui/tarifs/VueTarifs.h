@@ -1,0 +1,22 @@
+#pragma once
+
+#include "ui/Aujourdhui.h"
+
+#include <QWidget>
+
+class Catalogue;
+
+// The grids in force, by family of destinations.
+class VueTarifs : public QWidget
+{
+    Q_OBJECT
+
+public:
+    VueTarifs(const Catalogue &catalogue, Aujourdhui aujourdhui, QWidget *parent = nullptr);
+
+private:
+    void actualiser();
+
+    const Catalogue &catalogue_;
+    Aujourdhui aujourdhui_;
+};
