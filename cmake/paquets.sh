@@ -4,7 +4,7 @@ paquets=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-svg-dev libicu-dev
     qt6-wayland qt6-translations-l10n
-    fonts-inter fonts-ebgaramond fonts-dejavu-core
+    fonts-inter fonts-linuxlibertine fonts-dejavu-core
 )
 
 # Touches the system only when a package is missing.
@@ -12,7 +12,8 @@ installer() {
     local manquants admin=()
     mapfile -t manquants < <(comm -23 \
         <(printf '%s\n' "${paquets[@]}" | sort) \
-        <(dpkg-query -W -f '${Package} ${db:Status-Status}\n' "${paquets[@]}" 2>/dev/null | sed -n 's/ installed$//p' | sort))
+        <(dpkg-query -W -f '${Package} ${db:Status-Status}\n' "${paquets[@]}" 2>/dev/null |
+            sed -n 's/ installed$//p' | sort))
     ((${#manquants[@]})) || return 0
     echo "Paquets à installer : ${manquants[*]}"
     if ((EUID)); then

@@ -40,8 +40,7 @@ public:
             peintre->setBrush(fond);
             peintre->drawRoundedRect(cadre, Theme::rayonControle, Theme::rayonControle);
         }
-        const auto *liste = qobject_cast<const QWidget *>(option.widget);
-        if (option.state.testFlag(QStyle::State_HasFocus) && liste && liste->hasFocus())
+        if (option.state.testFlag(QStyle::State_HasFocus) && option.widget && Dessin::focusVisible(option.widget))
             Dessin::anneauDeFocus(*peintre, cadre.adjusted(2, 2, -2, -2), Theme::rayonControle - 2, palette);
 
         const QColor couleur = choisie ? Theme::accentTexte(palette) : palette.color(QPalette::WindowText);

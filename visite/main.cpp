@@ -1,20 +1,68 @@
-#include "ui/Fenetre.h"
-#include "ui/QuilletApp.h"
+#include "visite/Parcours.h"
+
 #include <QApplication>
-#include <QTemporaryDir>
-#include <QTest>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QProcess>
+
+#include <cstdio>
+
+namespace {
+
+struct Apparence
+{
+    QString suffixe;
+    Theme::Mode mode;
+    QString echelle;
+};
+
+// A display scale is fixed for the life of a process: each look is drawn by one of its own.
+bool dessinerAPart(const Apparence &apparence, const QString &dossier)
+{
+    QProcess visite;
+    auto environnement = QProcessEnvironment::systemEnvironment();
+    environnement.insert(QStringLiteral("QT_SCALE_FACTOR"), apparence.echelle);
+    visite.setProcessEnvironment(environnement);
+    visite.setProcessChannelMode(QProcess::ForwardedChannels);
+    QStringList arguments{QStringLiteral("--suffixe=") + apparence.suffixe, dossier};
+    if (apparence.mode == Theme::Mode::sombre)
+        arguments.prepend(QStringLiteral("--sombre"));
+    visite.start(QCoreApplication::applicationFilePath(), arguments);
+    return visite.waitForFinished(-1) && visite.exitStatus() == QProcess::NormalExit && visite.exitCode() == 0;
+}
+
+} // namespace
+
 int main(int argc, char **argv)
 {
-    QApplication a(argc, argv);
-    QuilletApp::preparer(argc > 1 ? std::optional(Theme::Mode::sombre) : std::nullopt);
-    QTemporaryDir d;
-    QuilletApp q(Ressources::duProgramme(), Stockage(QDir(d.path())));
-    q.fenetre().show();
-    q.commande().ajuster(q.catalogue().livres()[0], 2);
-    q.commande().ajuster(q.catalogue().livres()[2], 1);
-    q.commande().setPoidsPese(Grammes{900});
-    q.commande().setCodeDestination(QStringLiteral("union-europeenne"));
-    QTest::qWait(1200);
-    q.fenetre().grab().save(QStringLiteral("/tmp/commande.png"));
+    QApplication programme(argc, argv);
+    QCommandLineParser options;
+    options.setApplicationDescription(QStringLiteral("Une commande type, jouée dans les vraies fenêtres et dessinée."));
+    options.addHelpOption();
+    options.addOption({QStringLiteral("sombre"), QStringLiteral("En sombre.")});
+    options.addOption({QStringLiteral("suffixe"), QStringLiteral("Seulement les images, avec ce suffixe."), QStringLiteral("suffixe")});
+    options.addPositionalArgument(QStringLiteral("dossier"), QStringLiteral("Où écrire les images."), QStringLiteral("[dossier]"));
+    options.process(programme);
+
+    const QStringList arguments = options.positionalArguments();
+    const QDir dossier(arguments.isEmpty() ? QStringLiteral("build/visite") : arguments.first());
+    if (!dossier.mkpath(QStringLiteral("."))) {
+        std::fprintf(stderr, "Dossier impossible à créer : %s\n", qPrintable(dossier.path()));
+        return 1;
+    }
+    const Theme::Mode mode = options.isSet(QStringLiteral("sombre")) ? Theme::Mode::sombre : Theme::Mode::clair;
+    const bool seule = options.isSet(QStringLiteral("suffixe"));
+    QuilletApp::preparer(mode);
+    if (!Parcours(dossier, options.value(QStringLiteral("suffixe")), !seule).jouer())
+        return 1;
+    if (seule)
+        return 0;
+    for (const Apparence &apparence :
+         {Apparence{QStringLiteral("-sombre"), Theme::Mode::sombre, QStringLiteral("1")},
+          Apparence{QStringLiteral("-200"), Theme::Mode::clair, QStringLiteral("2")},
+          Apparence{QStringLiteral("-sombre-200"), Theme::Mode::sombre, QStringLiteral("2")}})
+        if (!dessinerAPart(apparence, dossier.path()))
+            return 1;
+    std::printf("Images : %s\n", qPrintable(dossier.absolutePath()));
     return 0;
 }

@@ -203,7 +203,7 @@ void Couverture::paintEvent(QPaintEvent *)
     peintre.setOpacity(livre_.disponible ? 1 : opaciteIndisponible);
     peintre.drawPixmap(cadre().topLeft(), dessin_);
     peintre.restore();
-    if (hasFocus())
+    if (Dessin::focusVisible(this))
         Dessin::anneauDeFocus(peintre, cadre().adjusted(-1, -1, 1, 1), Theme::rayonCouverture, palette());
     if (pastille_->valeur() > 0.01)
         peindrePastille(peintre);

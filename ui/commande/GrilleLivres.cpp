@@ -32,7 +32,7 @@ Disposition disposition(int place)
 GrilleLivres::GrilleLivres(Commande &commande, ImagesCouvertures &images, QWidget *parent)
     : QWidget(parent), commande_(commande), images_(images)
 {
-    QSizePolicy politique(QSizePolicy::Expanding, QSizePolicy::Minimum);
+    QSizePolicy politique(QSizePolicy::Expanding, QSizePolicy::Preferred);
     politique.setHeightForWidth(true);
     setSizePolicy(politique);
 }
@@ -73,8 +73,17 @@ int GrilleLivres::heightForWidth(int largeur) const
 
 QSize GrilleLivres::sizeHint() const
 {
-    const int largeur = largeurMinimale + 2 * Couverture::debord;
-    return {largeur, heightForWidth(largeur)};
+    return {largeurDeDeuxColonnes(), heightForWidth(std::max(width(), largeurDeDeuxColonnes()))};
+}
+
+QSize GrilleLivres::minimumSizeHint() const
+{
+    return {largeurMinimale + 2 * Couverture::debord, 0};
+}
+
+int GrilleLivres::largeurDeDeuxColonnes()
+{
+    return 2 * largeurMinimale + espace + 2 * Couverture::debord;
 }
 
 void GrilleLivres::resizeEvent(QResizeEvent *)

@@ -23,6 +23,9 @@ public:
     [[nodiscard]] bool hasHeightForWidth() const override { return true; }
     [[nodiscard]] int heightForWidth(int largeur) const override;
     [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+    // The narrowest width that still holds two columns.
+    [[nodiscard]] static int largeurDeDeuxColonnes();
 
 protected:
     void resizeEvent(QResizeEvent *evenement) override;

@@ -72,10 +72,14 @@ Recapitulatif::Recapitulatif(const Catalogue &catalogue, Commande &commande, QWi
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::AlternateBase);
 
     auto *page = new QWidget;
+    page->setAutoFillBackground(true);
+    page->setBackgroundRole(QPalette::AlternateBase);
     auto *colonne = new QVBoxLayout(page);
-    colonne->setContentsMargins(20, 24, 20, 28);
+    colonne->setContentsMargins(16, 24, 16, 28);
     colonne->setSpacing(22);
     for (QWidget *section : {sectionLivres(), sectionPoids(), sectionDestination(), sectionMontants(), sectionLien()})
         colonne->addWidget(section);

@@ -45,7 +45,7 @@ protected:
         couleur.setAlphaF(isEnabled() ? 1.0F : 0.35F);
         const double cote = 15;
         Icone::peindre(peintre, symbole_, QRectF((width() - cote) / 2, (height() - cote) / 2, cote, cote), couleur);
-        if (hasFocus())
+        if (Dessin::focusVisible(this))
             Dessin::anneauDeFocus(peintre, QRectF(rect()).adjusted(3, 3, -3, -3), coteBouton / 2.0 - 3, palette());
     }
 

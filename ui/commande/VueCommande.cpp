@@ -15,6 +15,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSplitter>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -74,7 +75,9 @@ QWidget *VueCommande::colonneDesLivres()
     auto *livres = new QVBoxLayout(contenu);
     // The cards draw their shadows within their own margin: it counts in the space around them.
     constexpr int debord = Couverture::debord;
-    livres->setContentsMargins(margeHorizontale - debord, margeVerticale, margeHorizontale - debord, margeVerticale - debord);
+    const int ascenseur = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    livres->setContentsMargins(margeHorizontale - debord, margeVerticale, margeHorizontale - debord - ascenseur,
+                               margeVerticale - debord);
     livres->setSpacing(espace - debord);
     livres->addWidget(selecteur_);
     livres->addWidget(grille_);
@@ -84,6 +87,9 @@ QWidget *VueCommande::colonneDesLivres()
     defilement->setFrameShape(QFrame::NoFrame);
     defilement->setWidgetResizable(true);
     defilement->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // Always there, so that it counts in the right margin whether or not it has anything to show.
+    defilement->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    defilement->setMinimumWidth(GrilleLivres::largeurDeDeuxColonnes() + 2 * (margeHorizontale - debord));
     defilement->verticalScrollBar()->setSingleStep(40);
     defilement->setFocusPolicy(Qt::NoFocus);
     defilement->setWidget(contenu);

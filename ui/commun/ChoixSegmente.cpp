@@ -60,7 +60,7 @@ protected:
         peintre.setFont(police);
         const QString affiche = QFontMetrics(police).elidedText(text(), Qt::ElideRight, place);
         peintre.drawText(rect(), Qt::AlignCenter, affiche);
-        if (hasFocus())
+        if (Dessin::focusVisible(this))
             Dessin::anneauDeFocus(peintre, QRectF(rect()).adjusted(2, 2, -2, -2), (height() - 4) / 2.0, palette());
     }
 

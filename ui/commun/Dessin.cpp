@@ -3,6 +3,7 @@
 #include "ui/Theme.h"
 
 #include <QPainter>
+#include <QWidget>
 
 #include <algorithm>
 #include <cmath>
@@ -15,6 +16,11 @@ QColor Dessin::melange(const QColor &a, const QColor &b, double part)
     const auto entre = [p](float x, float y) { return x + (y - x) * p; };
     return QColor::fromRgbF(entre(a.redF(), b.redF()), entre(a.greenF(), b.greenF()), entre(a.blueF(), b.blueF()),
                             entre(a.alphaF(), b.alphaF()));
+}
+
+bool Dessin::focusVisible(const QWidget *widget)
+{
+    return widget->hasFocus() && widget->window()->testAttribute(Qt::WA_KeyboardFocusChange);
 }
 
 void Dessin::anneauDeFocus(QPainter &peintre, const QRectF &cadre, qreal rayon, const QPalette &palette)

@@ -6,6 +6,7 @@
 #include <QRectF>
 
 class QPainter;
+class QWidget;
 
 // Shapes that several widgets paint alike.
 namespace Dessin {
@@ -13,6 +14,8 @@ namespace Dessin {
 // From `a` (part 0) to `b` (part 1); a spring may overshoot, the colour does not.
 QColor melange(const QColor &a, const QColor &b, double part);
 
+// Whether the ring is due: the widget has the focus and the keyboard brought it there.
+bool focusVisible(const QWidget *widget);
 // Drawn just outside `cadre`: leave 3 px around it.
 void anneauDeFocus(QPainter &peintre, const QRectF &cadre, qreal rayon, const QPalette &palette);
 

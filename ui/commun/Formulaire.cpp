@@ -109,12 +109,14 @@ Section::Section(const QString &titre, const QString &pied, QWidget *parent) : Q
 Rangee::Rangee(const QString &libelle, QWidget *valeur, QWidget *parent)
     : QWidget(parent), libelle_(new Libelle(libelle)), detail_(secondeLigne())
 {
-    libelle_->setWordWrap(true);
     auto *rangee = new QHBoxLayout(this);
     rangee->setContentsMargins(0, 0, 0, 0);
     rangee->setSpacing(12);
-    rangee->addLayout(surDeuxLignes(libelle_, detail_), 1);
-    rangee->addWidget(valeur, 0, Qt::AlignRight | Qt::AlignVCenter);
+    // A value that wants room takes what its label leaves; any other keeps to the right.
+    const bool large = valeur->sizePolicy().horizontalPolicy() == QSizePolicy::Expanding;
+    libelle_->setWordWrap(!large);
+    rangee->addLayout(surDeuxLignes(libelle_, detail_), large ? 0 : 1);
+    rangee->addWidget(valeur, large ? 1 : 0, large ? Qt::AlignVCenter : Qt::AlignRight | Qt::AlignVCenter);
     relier(libelle_, valeur);
 }
 

@@ -47,6 +47,6 @@ void Interrupteur::paintEvent(QPaintEvent *)
     peintre.drawEllipse(centre + QPointF(0, 1), rayon, rayon);
     peintre.setBrush(Qt::white);
     peintre.drawEllipse(centre, rayon, rayon);
-    if (hasFocus())
+    if (Dessin::focusVisible(this))
         Dessin::anneauDeFocus(peintre, piste, piste.height() / 2, palette());
 }

@@ -13,6 +13,7 @@ namespace {
 
 constexpr int hauteurControle = 30;
 constexpr int largeurAscenseur = 11;
+constexpr int espaceIcone = 7; // between a button's icon and its text
 
 bool contient(const QStyleOption &option, QStyle::StateFlag etat)
 {
@@ -33,6 +34,28 @@ void bouton(const QStyleOption &option, QPainter &peintre)
     peintre.drawRoundedRect(cadre, Theme::rayonControle, Theme::rayonControle);
     if (contient(option, QStyle::State_HasFocus) && contient(option, QStyle::State_KeyboardFocusChange))
         Dessin::anneauDeFocus(peintre, cadre.adjusted(1, 1, -1, -1), Theme::rayonControle - 1, palette);
+}
+
+// The icon and the text side by side, centred together.
+void contenuDuBouton(const QStyleOptionButton &option, QPainter &peintre)
+{
+    const bool actif = contient(option, QStyle::State_Enabled);
+    const int icone = option.icon.isNull() ? 0 : option.iconSize.width();
+    const int texte = option.fontMetrics.horizontalAdvance(option.text);
+    const int gauche = option.rect.center().x() - (icone + (icone ? espaceIcone : 0) + texte) / 2;
+    option.icon.paint(&peintre, {gauche, option.rect.center().y() - icone / 2, icone, icone}, Qt::AlignCenter,
+                      actif ? QIcon::Normal : QIcon::Disabled);
+    peintre.setPen(option.palette.color(actif ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
+    peintre.drawText(QRect(gauche + icone + (icone ? espaceIcone : 0), option.rect.top(), texte + 2, option.rect.height()),
+                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextHideMnemonic, option.text);
+}
+
+void texteDuChoix(const QStyleOptionComboBox &option, QPainter &peintre, const QRect &place)
+{
+    const auto groupe = contient(option, QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled;
+    peintre.setPen(option.palette.color(groupe, QPalette::ButtonText));
+    peintre.drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
+                     option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, place.width()));
 }
 
 void champ(const QStyleOption &option, QPainter &peintre)
@@ -57,7 +80,7 @@ void fondDOutil(const QStyleOption &option, QPainter &peintre)
         peintre.setBrush(fond);
         peintre.drawRoundedRect(cadre, Theme::rayonControle, Theme::rayonControle);
     }
-    if (contient(option, QStyle::State_HasFocus))
+    if (contient(option, QStyle::State_HasFocus) && contient(option, QStyle::State_KeyboardFocusChange))
         Dessin::anneauDeFocus(peintre, cadre, Theme::rayonControle - 2, option.palette);
 }
 
@@ -113,6 +136,24 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
     peintre->restore();
 }
 
+void Style::drawControl(ControlElement element, const QStyleOption *option, QPainter *peintre, const QWidget *widget) const
+{
+    if (const auto *bouton = qstyleoption_cast<const QStyleOptionButton *>(option); bouton && element == CE_PushButtonLabel)
+        contenuDuBouton(*bouton, *peintre);
+    else if (const auto *choix = qstyleoption_cast<const QStyleOptionComboBox *>(option); choix && element == CE_ComboBoxLabel)
+        texteDuChoix(*choix, *peintre, subControlRect(CC_ComboBox, choix, SC_ComboBoxEditField, widget));
+    else if (element == CE_Splitter)
+        peintre->fillRect(option->rect, Theme::filet(option->palette));
+    else
+        QProxyStyle::drawControl(element, option, peintre, widget);
+}
+
+QRect Style::subElementRect(SubElement element, const QStyleOption *option, const QWidget *widget) const
+{
+    const QRect cadre = QProxyStyle::subElementRect(element, option, widget);
+    return element == SE_LineEditContents ? cadre.adjusted(6, 0, -6, 0) : cadre;
+}
+
 void Style::drawComplexControl(ComplexControl controle, const QStyleOptionComplex *option, QPainter *peintre,
                                const QWidget *widget) const
 {
@@ -155,9 +196,9 @@ QRect Style::subControlRect(ComplexControl controle, const QStyleOptionComplex *
         }
     }
     if (controle == CC_ComboBox && partie == SC_ComboBoxArrow)
-        return {option->rect.right() - 27, option->rect.top(), 22, option->rect.height()};
+        return {option->rect.right() - 22, option->rect.top(), 18, option->rect.height()};
     if (controle == CC_ComboBox && partie == SC_ComboBoxEditField)
-        return option->rect.adjusted(11, 3, -28, -3);
+        return option->rect.adjusted(10, 3, -22, -3);
     return QProxyStyle::subControlRect(controle, option, partie, widget);
 }
 
@@ -166,7 +207,7 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption *option, con
 {
     QSize taille = QProxyStyle::sizeFromContents(type, option, contenu, widget);
     switch (type) {
-    case CT_PushButton:
+    case CT_PushButton: return {taille.width() + 16, std::max(taille.height(), contenu.height() + 18)};
     case CT_ComboBox: return {taille.width() + 10, std::max(taille.height(), contenu.height() + 18)};
     case CT_LineEdit: return {taille.width(), std::max(hauteurControle, contenu.height() + 12)};
     case CT_ToolButton: return {taille.width() + 8, std::max(taille.height(), contenu.height() + 14)};

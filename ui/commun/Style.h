@@ -19,6 +19,9 @@ public:
     void polish(QPalette &palette) override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *peintre,
                        const QWidget *widget) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *peintre,
+                     const QWidget *widget) const override;
+    QRect subElementRect(SubElement element, const QStyleOption *option, const QWidget *widget) const override;
     void drawComplexControl(ComplexControl controle, const QStyleOptionComplex *option, QPainter *peintre,
                             const QWidget *widget) const override;
     QRect subControlRect(ComplexControl controle, const QStyleOptionComplex *option, SubControl partie,

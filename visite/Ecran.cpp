@@ -1,0 +1,96 @@
+#include "visite/Ecran.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollArea>
+#include <QTest>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+bool porteLeNom(const QWidget *widget, const QString &nom)
+{
+    const QString lu = widget->accessibleName();
+    return lu == nom || lu.startsWith(nom + QStringLiteral(", "));
+}
+
+template <typename Controle>
+Controle *trouver(const QWidget *fenetre, const QString &nom)
+{
+    const auto controles = fenetre->findChildren<Controle *>();
+    const auto trouve = std::ranges::find_if(
+        controles, [&](const Controle *controle) { return controle->isVisible() && porteLeNom(controle, nom); });
+    if (trouve != controles.end())
+        return *trouve;
+    std::fprintf(stderr, "Introuvable à l’écran : %s\n", qPrintable(nom));
+    return nullptr;
+}
+
+void montrer(QWidget *controle)
+{
+    for (QWidget *parent = controle->parentWidget(); parent; parent = parent->parentWidget())
+        if (auto *defilement = qobject_cast<QScrollArea *>(parent))
+            defilement->ensureWidgetVisible(controle);
+}
+
+} // namespace
+
+bool Ecran::cliquer(QWidget *fenetre, const QString &nom)
+{
+    auto *bouton = trouver<QAbstractButton>(fenetre, nom);
+    if (!bouton)
+        return false;
+    montrer(bouton);
+    QTest::mouseClick(bouton, Qt::LeftButton);
+    return true;
+}
+
+bool Ecran::taper(QWidget *fenetre, const QString &nom, const QString &texte)
+{
+    auto *champ = trouver<QLineEdit>(fenetre, nom);
+    if (!champ)
+        return false;
+    montrer(champ);
+    champ->selectAll();
+    QTest::keyClicks(champ, texte);
+    return true;
+}
+
+bool Ecran::choisir(QWidget *fenetre, const QString &nom, const QString &entree)
+{
+    auto *choix = trouver<QComboBox>(fenetre, nom);
+    const int rang = choix ? choix->findText(entree) : -1;
+    if (rang < 0)
+        return false;
+    montrer(choix);
+    choix->setFocus();
+    QTest::keyClick(choix, Qt::Key_Home);
+    for (int i = 0; choix->currentIndex() != rang && i < choix->count(); ++i)
+        QTest::keyClick(choix, Qt::Key_Down);
+    return choix->currentIndex() == rang;
+}
+
+bool Ecran::defiler(QWidget *fenetre, const QString &nom)
+{
+    auto *controle = trouver<QWidget>(fenetre, nom);
+    if (controle)
+        montrer(controle);
+    return controle != nullptr;
+}
+
+QString Ecran::valeurEnFaceDe(const QWidget *fenetre, const QString &libelle)
+{
+    const auto textes = fenetre->findChildren<QLabel *>();
+    const auto titre = std::ranges::find_if(textes, [&](const QLabel *texte) { return texte->isVisible() && texte->text() == libelle; });
+    if (titre == textes.end())
+        return {};
+    const auto valeurs = (*titre)->parentWidget()->findChildren<QLabel *>(Qt::FindDirectChildrenOnly);
+    const auto valeur = std::ranges::find_if(valeurs, [&](const QLabel *texte) {
+        return texte->isVisible() && texte->geometry().left() > (*titre)->geometry().right();
+    });
+    return valeur == valeurs.end() ? QString() : (*valeur)->text();
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+// Finds the controls of a window by what a screen reader says of them, and works them as a person does. Each returns
+// false, and says which control is missing, when there is none.
+namespace Ecran {
+
+// The name may go on after a comma: "Le Phare de sel" finds "Le Phare de sel, 18,00 €".
+bool cliquer(QWidget *fenetre, const QString &nom);
+bool taper(QWidget *fenetre, const QString &nom, const QString &texte);
+bool choisir(QWidget *fenetre, const QString &nom, const QString &entree);
+// Scrolls until the control can be seen.
+bool defiler(QWidget *fenetre, const QString &nom);
+// The text on the right of a label; empty when the label is not on the screen.
+QString valeurEnFaceDe(const QWidget *fenetre, const QString &libelle);
+
+} // namespace Ecran

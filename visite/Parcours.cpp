@@ -1,0 +1,90 @@
+#include "visite/Parcours.h"
+
+#include "ui/ContenuPrincipal.h"
+#include "ui/Fenetre.h"
+#include "visite/Ecran.h"
+
+#include <QTest>
+
+#include <cstdio>
+
+namespace {
+
+// A fixed day, so that the same schedule is in force whenever the tour is played.
+const QDate jourDeLaVisite(2026, 3, 2);
+constexpr int tempsDesRessorts = 900; // ms
+
+} // namespace
+
+Parcours::Parcours(const QDir &dossier, QString suffixe, bool bavard)
+    : dossier_(dossier),
+      suffixe_(std::move(suffixe)),
+      bavard_(bavard),
+      quillet_(Ressources::duProgramme(), Stockage(QDir(donnees_.filePath(QStringLiteral("Quillet")))), [] { return jourDeLaVisite; })
+{
+}
+
+bool Parcours::jouer()
+{
+    Fenetre &fenetre = quillet_.fenetre();
+    fenetre.show();
+    if (!QTest::qWaitForWindowExposed(&fenetre))
+        return false;
+    if (!composerLaCommande() || !changerDeDestination(QStringLiteral("Union européenne")))
+        return false;
+    raconter(QStringLiteral("Trois livres vers l’Union européenne"));
+    if (!peserLeColis(QStringLiteral("1012")))
+        return false;
+    raconter(QStringLiteral("Le colis est pesé"));
+    if (!photographier(QStringLiteral("commande")))
+        return false;
+    if (!changerDeDestination(QStringLiteral("Suisse")))
+        return false;
+    raconter(QStringLiteral("Le même colis vers la Suisse"));
+    if (!Ecran::defiler(&fenetre, QStringLiteral("Copier Description")) || !photographier(QStringLiteral("lien-paypal")))
+        return false;
+
+    fenetre.contenu()->montrer(Rubrique::tarifs);
+    if (!photographier(QStringLiteral("tarifs")))
+        return false;
+    fenetre.contenu()->montrer(Rubrique::livres);
+    return photographier(QStringLiteral("livres"));
+}
+
+bool Parcours::composerLaCommande()
+{
+    Fenetre &fenetre = quillet_.fenetre();
+    return Ecran::cliquer(&fenetre, QStringLiteral("Le Phare de sel")) && Ecran::cliquer(&fenetre, QStringLiteral("Le Phare de sel"))
+           && Ecran::cliquer(&fenetre, QStringLiteral("L’Herbier des heures"));
+}
+
+bool Parcours::changerDeDestination(const QString &libelle)
+{
+    return Ecran::choisir(&quillet_.fenetre(), QStringLiteral("Envoi vers"), libelle);
+}
+
+bool Parcours::peserLeColis(const QString &grammes)
+{
+    return Ecran::taper(&quillet_.fenetre(), QStringLiteral("Colis pesé, en grammes"), grammes);
+}
+
+void Parcours::raconter(const QString &etape)
+{
+    if (!bavard_)
+        return;
+    std::printf("%s\n", qPrintable(etape));
+    for (const char *libelle : {"Sous-total", "Poids calculé", "Palier Colissimo", "Déclaration en douane", "Envoi Colissimo",
+                                "TOTAL À PAYER", "Frais PayPal", "Il vous reste"})
+        if (const QString valeur = Ecran::valeurEnFaceDe(&quillet_.fenetre(), QString::fromUtf8(libelle)); !valeur.isEmpty())
+            std::printf("    %s : %s\n", libelle, qPrintable(valeur));
+}
+
+bool Parcours::photographier(const QString &nom)
+{
+    QTest::qWait(tempsDesRessorts);
+    const QString chemin = dossier_.filePath(nom + suffixe_ + QStringLiteral(".png"));
+    if (quillet_.fenetre().grab().save(chemin))
+        return true;
+    std::fprintf(stderr, "Image impossible à écrire : %s\n", qPrintable(chemin));
+    return false;
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "ui/QuilletApp.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+class QWidget;
+
+// Drives the real window through one typical order, as a seller would: by clicks and keys.
+class Parcours
+{
+public:
+    // Pictures go to `dossier`, their names ending in `suffixe`; `bavard` prints the amounts read on the screen.
+    Parcours(const QDir &dossier, QString suffixe, bool bavard);
+
+    // False when a picture could not be written or the screen does not hold what the tour looks for.
+    bool jouer();
+
+private:
+    bool composerLaCommande();
+    bool changerDeDestination(const QString &libelle);
+    bool peserLeColis(const QString &grammes);
+    void raconter(const QString &etape);
+    bool photographier(const QString &nom);
+
+    QDir dossier_;
+    QString suffixe_;
+    bool bavard_;
+    QTemporaryDir donnees_;
+    QuilletApp quillet_;
+};
