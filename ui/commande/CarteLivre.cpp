@@ -120,7 +120,7 @@ bool CarteLivre::event(QEvent *evenement)
 
 void CarteLivre::resizeEvent(QResizeEvent *)
 {
-    const int hauteur = hauteurCouverture(contenu().width()) + 2 * Couverture::debord;
+    const int hauteur = hauteurCouverture(contenu().width()) + Couverture::debord + Couverture::debordBas;
     couverture_->setGeometry(0, 0, width(), hauteur);
     const QSize taille = selecteur_->sizeHint();
     const QRect bas = ligneDuBas();

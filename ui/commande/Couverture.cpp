@@ -107,7 +107,7 @@ void Couverture::soulever(bool oui)
 
 QRectF Couverture::cadre() const
 {
-    return QRectF(rect()).adjusted(debord, debord, -debord, -debord);
+    return QRectF(rect()).adjusted(debord, debord, -debord, -debordBas);
 }
 
 bool Couverture::hitButton(const QPoint &position) const

@@ -11,14 +11,15 @@ class Ressort;
 // The book's own colour; a tint of fewer than three entries stops the program.
 QColor couleur(const Livre &livre);
 
-// A drawn cover that lifts under the pointer and carries the number of copies. Its cover stands `debord` pixels
-// inside the widget: room for the shadow and the lifted corner.
+// A drawn cover that lifts under the pointer and carries the number of copies. It stands `debord` pixels inside the
+// widget, `debordBas` at the bottom: room for the shadow and the lifted corner.
 class Couverture : public QAbstractButton
 {
     Q_OBJECT
 
 public:
     static constexpr int debord = 24;
+    static constexpr int debordBas = 44;
     // Height of a cover over its width.
     static constexpr double proportion = 1.5;
 

@@ -61,7 +61,7 @@ void GrilleLivres::remplacerLesCartes(const QList<Livre> &livres)
     for (CarteLivre *carte : std::as_const(cartes_))
         carte->show();
     if (!sortantes.isEmpty())
-        TransitionCartes::jouer(sortantes, TransitionCartes::instantanes(cartes_), this);
+        TransitionCartes::jouer(sortantes, TransitionCartes::instantanes(cartes_), images_, this);
 }
 
 int GrilleLivres::heightForWidth(int largeur) const

@@ -1,6 +1,7 @@
 #include "ui/commande/TransitionCartes.h"
 
 #include "ui/commande/CarteLivre.h"
+#include "ui/commande/ImagesCouvertures.h"
 #include "ui/commun/Ressort.h"
 
 #include <QPainter>
@@ -8,7 +9,18 @@
 #include <algorithm>
 
 namespace {
+
 constexpr double echelleInitiale = 0.96;
+
+QPixmap image(CarteLivre *carte)
+{
+    QPixmap image(carte->size() * carte->devicePixelRatioF());
+    image.setDevicePixelRatio(carte->devicePixelRatioF());
+    image.fill(Qt::transparent);
+    carte->render(&image, {}, {}, QWidget::DrawChildren);
+    return image;
+}
+
 } // namespace
 
 QList<TransitionCartes::Instantane> TransitionCartes::instantanes(const QList<CarteLivre *> &cartes)
@@ -17,18 +29,16 @@ QList<TransitionCartes::Instantane> TransitionCartes::instantanes(const QList<Ca
     for (CarteLivre *carte : cartes) {
         if (carte->visibleRegion().isEmpty())
             continue;
-        QPixmap image(carte->size() * carte->devicePixelRatioF());
-        image.setDevicePixelRatio(carte->devicePixelRatioF());
-        image.fill(Qt::transparent);
-        carte->render(&image, {}, {}, QWidget::DrawChildren);
-        images.append({image, carte->geometry()});
+        images.append({carte, image(carte), carte->geometry()});
     }
     return images;
 }
 
-void TransitionCartes::jouer(const QList<Instantane> &sortantes, const QList<Instantane> &entrantes, QWidget *grille)
+void TransitionCartes::jouer(const QList<Instantane> &sortantes, const QList<Instantane> &entrantes,
+                             const ImagesCouvertures &images, QWidget *grille)
 {
     auto *transition = new TransitionCartes(sortantes, entrantes, grille);
+    connect(&images, &ImagesCouvertures::prete, transition, &TransitionCartes::reprendre);
     transition->show();
     transition->progres_->vers(1);
     if (transition->progres_->state() == QAbstractAnimation::Stopped)
@@ -49,6 +59,13 @@ TransitionCartes::TransitionCartes(const QList<Instantane> &sortantes, const QLi
             place |= carte.place;
     setGeometry(place);
     connect(progres_, &QAbstractAnimation::finished, this, &QObject::deleteLater);
+}
+
+void TransitionCartes::reprendre(const QString &couverture)
+{
+    for (Instantane &entrante : entrantes_)
+        if (entrante.carte && entrante.carte->livre().couverture == couverture)
+            entrante.image = image(entrante.carte);
 }
 
 void TransitionCartes::paintEvent(QPaintEvent *)

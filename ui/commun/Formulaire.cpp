@@ -111,7 +111,7 @@ Rangee::Rangee(const QString &libelle, QWidget *valeur, QWidget *parent)
 {
     auto *rangee = new QHBoxLayout(this);
     rangee->setContentsMargins(0, 0, 0, 0);
-    rangee->setSpacing(12);
+    rangee->setSpacing(8);
     // A value that wants room takes what its label leaves; any other keeps to the right.
     const bool large = valeur->sizePolicy().horizontalPolicy() == QSizePolicy::Expanding;
     libelle_->setWordWrap(!large);

@@ -196,9 +196,9 @@ QRect Style::subControlRect(ComplexControl controle, const QStyleOptionComplex *
         }
     }
     if (controle == CC_ComboBox && partie == SC_ComboBoxArrow)
-        return {option->rect.right() - 22, option->rect.top(), 18, option->rect.height()};
+        return {option->rect.right() - 19, option->rect.top(), 16, option->rect.height()};
     if (controle == CC_ComboBox && partie == SC_ComboBoxEditField)
-        return option->rect.adjusted(10, 3, -22, -3);
+        return option->rect.adjusted(9, 3, -18, -3);
     return QProxyStyle::subControlRect(controle, option, partie, widget);
 }
 
