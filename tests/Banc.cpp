@@ -79,13 +79,18 @@ Banc::Banc()
                                .site = QStringLiteral("davrel.example")}}}};
 }
 
-std::unique_ptr<Catalogue> Banc::charger() const
+void Banc::deposer() const
 {
     ecrireRessource(QStringLiteral("livres.json"), Json::encoder(livres));
     ecrireRessource(QStringLiteral("destinations.json"), Json::encoder(destinations));
     ecrireRessource(QStringLiteral("reglages.json"), Json::encoder(reglages));
     for (const TarifsColissimo &jeu : tarifs)
         ecrireRessource(QStringLiteral("tarifs-colissimo-%1.json").arg(jeu.validite), Json::encoder(jeu));
+}
+
+std::unique_ptr<Catalogue> Banc::charger() const
+{
+    deposer();
     return Catalogue::charge(ressources(), stockage());
 }
 

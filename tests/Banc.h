@@ -15,7 +15,9 @@ struct Banc
     QList<TarifsColissimo> tarifs;
     Reglages reglages;
 
-    // Writes the records as shipped resources and loads them with the user's files over them.
+    // Writes the records as shipped resources.
+    void deposer() const;
+    // The same, then loads them with the user's files over them.
     std::unique_ptr<Catalogue> charger() const;
 
     [[nodiscard]] QString cheminUtilisateur(const QString &nom = {}) const;

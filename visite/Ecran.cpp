@@ -14,20 +14,26 @@ namespace {
 
 bool porteLeNom(const QWidget *widget, const QString &nom)
 {
-    const QString lu = widget->accessibleName();
+    const auto *bouton = qobject_cast<const QAbstractButton *>(widget);
+    const QString lu = widget->accessibleName().isEmpty() && bouton ? bouton->text() : widget->accessibleName();
     return lu == nom || lu.startsWith(nom + QStringLiteral(", "));
 }
 
 template <typename Controle>
 Controle *trouver(const QWidget *fenetre, const QString &nom)
 {
-    const auto controles = fenetre->findChildren<Controle *>();
-    const auto trouve = std::ranges::find_if(
-        controles, [&](const Controle *controle) { return controle->isVisible() && porteLeNom(controle, nom); });
-    if (trouve != controles.end())
-        return *trouve;
-    std::fprintf(stderr, "Introuvable à l’écran : %s\n", qPrintable(nom));
-    return nullptr;
+    auto *trouve = qobject_cast<Controle *>(Ecran::controle(fenetre, nom));
+    if (!trouve)
+        std::fprintf(stderr, "Introuvable à l’écran : %s\n", qPrintable(nom));
+    return trouve;
+}
+
+QLabel *etiquette(const QWidget *fenetre, const QString &texte)
+{
+    const auto etiquettes = fenetre->findChildren<QLabel *>();
+    const auto trouvee = std::ranges::find_if(
+        etiquettes, [&](const QLabel *etiquette) { return etiquette->isVisible() && etiquette->text() == texte; });
+    return trouvee == etiquettes.end() ? nullptr : *trouvee;
 }
 
 void montrer(QWidget *controle)
@@ -38,6 +44,15 @@ void montrer(QWidget *controle)
 }
 
 } // namespace
+
+QWidget *Ecran::controle(const QWidget *fenetre, const QString &nom)
+{
+    const auto widgets = fenetre->findChildren<QWidget *>();
+    const auto trouve = std::ranges::find_if(widgets, [&](const QWidget *widget) {
+        return widget->isVisible() && !qobject_cast<const QLabel *>(widget) && porteLeNom(widget, nom);
+    });
+    return trouve == widgets.end() ? nullptr : *trouve;
+}
 
 bool Ecran::cliquer(QWidget *fenetre, const QString &nom)
 {
@@ -82,15 +97,19 @@ bool Ecran::defiler(QWidget *fenetre, const QString &nom)
     return controle != nullptr;
 }
 
+bool Ecran::montre(const QWidget *fenetre, const QString &texte)
+{
+    return etiquette(fenetre, texte) != nullptr;
+}
+
 QString Ecran::valeurEnFaceDe(const QWidget *fenetre, const QString &libelle)
 {
-    const auto textes = fenetre->findChildren<QLabel *>();
-    const auto titre = std::ranges::find_if(textes, [&](const QLabel *texte) { return texte->isVisible() && texte->text() == libelle; });
-    if (titre == textes.end())
+    const QLabel *titre = etiquette(fenetre, libelle);
+    if (!titre)
         return {};
-    const auto valeurs = (*titre)->parentWidget()->findChildren<QLabel *>(Qt::FindDirectChildrenOnly);
+    const auto valeurs = titre->parentWidget()->findChildren<QLabel *>(Qt::FindDirectChildrenOnly);
     const auto valeur = std::ranges::find_if(valeurs, [&](const QLabel *texte) {
-        return texte->isVisible() && texte->geometry().left() > (*titre)->geometry().right();
+        return texte->isVisible() && texte->geometry().left() > titre->geometry().right();
     });
     return valeur == valeurs.end() ? QString() : (*valeur)->text();
 }

@@ -8,12 +8,16 @@ class QWidget;
 // false, and says which control is missing, when there is none.
 namespace Ecran {
 
-// The name may go on after a comma: "Le Phare de sel" finds "Le Phare de sel, 18,00 €".
+// The first control that can be seen and has this name (or text); the name may go on after a comma: "Le Phare de sel"
+// finds "Le Phare de sel, 18,00 €". Null when there is none.
+QWidget *controle(const QWidget *fenetre, const QString &nom);
 bool cliquer(QWidget *fenetre, const QString &nom);
 bool taper(QWidget *fenetre, const QString &nom, const QString &texte);
 bool choisir(QWidget *fenetre, const QString &nom, const QString &entree);
 // Scrolls until the control can be seen.
 bool defiler(QWidget *fenetre, const QString &nom);
+// Whether some label that can be seen says just this.
+bool montre(const QWidget *fenetre, const QString &texte);
 // The text on the right of a label; empty when the label is not on the screen.
 QString valeurEnFaceDe(const QWidget *fenetre, const QString &libelle);
 

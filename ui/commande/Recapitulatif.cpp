@@ -219,8 +219,11 @@ void Recapitulatif::montrerAvertissements(const Calcul &calcul)
         return;
     avertissementsMontres_ = textes;
     qDeleteAll(avertissements_->findChildren<Alerte *>(Qt::FindDirectChildrenOnly));
-    for (const auto &avertissement : avertissements)
-        avertissements_->layout()->addWidget(new Alerte(avertissement.symbole, avertissement.texte));
+    for (const auto &avertissement : avertissements) {
+        auto *alerte = new Alerte(avertissement.symbole, avertissement.texte);
+        avertissements_->layout()->addWidget(alerte);
+        alerte->show(); // now: a layout would show it one turn of the event loop later
+    }
 }
 
 QWidget *Recapitulatif::sectionDestination()

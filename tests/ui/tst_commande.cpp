@@ -1,0 +1,277 @@
+#include "tests/Banc.h"
+#include "ui/ContenuPrincipal.h"
+#include "ui/Fenetre.h"
+#include "ui/QuilletApp.h"
+#include "visite/Ecran.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTest>
+
+// The real window, worked by clicks and keys.
+class TestCommande : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void cliquerUneCouverture();
+    void compterAuxBornes();
+    void autrePoids();
+    void changerDeDestination();
+    void peserLeColis();
+    void saisieRefusee_data();
+    void saisieRefusee();
+    void toutReinitialiser();
+    void changerDeVendeur();
+    void copierUnChamp();
+    void laMoletteNeChangeRien();
+    void auClavier();
+    void sansRubriqueLaCommande();
+
+private:
+    template <typename Controle = QWidget>
+    Controle *controle(const QString &nom);
+    QString valeur(const QString &libelle);
+    void cliquer(const QString &nom) { QVERIFY(Ecran::cliquer(&app_->fenetre(), nom)); }
+    void taper(const QString &nom, const QString &texte) { QVERIFY(Ecran::taper(&app_->fenetre(), nom, texte)); }
+    void choisir(const QString &nom, const QString &entree) { QVERIFY(Ecran::choisir(&app_->fenetre(), nom, entree)); }
+    [[nodiscard]] int quantite(int livre) const { return app_->commande().quantite(banc_->livres[livre - 1]); }
+
+    std::unique_ptr<Banc> banc_;
+    std::unique_ptr<QuilletApp> app_;
+};
+
+namespace {
+
+const QString colisPese = QStringLiteral("Colis pesé, en grammes");
+const QString reinitialiser = QStringLiteral("Tout réinitialiser");
+
+} // namespace
+
+template <typename Controle>
+Controle *TestCommande::controle(const QString &nom)
+{
+    return qobject_cast<Controle *>(Ecran::controle(&app_->fenetre(), nom));
+}
+
+QString TestCommande::valeur(const QString &libelle)
+{
+    return Ecran::valeurEnFaceDe(&app_->fenetre(), libelle).replace(QChar(0x202F), u' ').replace(QChar(0x00A0), u' ');
+}
+
+void TestCommande::initTestCase()
+{
+    QuilletApp::preparer(Theme::Mode::clair);
+}
+
+void TestCommande::init()
+{
+    banc_ = std::make_unique<Banc>();
+    banc_->deposer();
+    app_ = std::make_unique<QuilletApp>(banc_->ressources(), banc_->stockage(), [] { return QDate(2026, 3, 2); });
+    app_->fenetre().show();
+    QVERIFY(QTest::qWaitForWindowActive(&app_->fenetre()));
+}
+
+void TestCommande::cleanup()
+{
+    app_.reset();
+}
+
+void TestCommande::cliquerUneCouverture()
+{
+    QVERIFY(!controle<QAbstractButton>(reinitialiser)->isEnabled());
+    cliquer(QStringLiteral("Livre 1"));
+    cliquer(QStringLiteral("Livre 1"));
+    QCOMPARE(quantite(1), 2);
+    QCOMPARE(valeur(QStringLiteral("Livre 1")), QStringLiteral("30,00 €"));
+    QCOMPARE(valeur(QStringLiteral("Sous-total")), QStringLiteral("30,00 €"));
+    QCOMPARE(valeur(QStringLiteral("TOTAL À PAYER")), QStringLiteral("37,59 €"));
+    QCOMPARE(valeur(QStringLiteral("Frais PayPal")), QStringLiteral("-1,44 €"));
+    QCOMPARE(valeur(QStringLiteral("Il vous reste")), QStringLiteral("28,56 €"));
+    QVERIFY(Ecran::montre(&app_->fenetre(), QStringLiteral("2 livres · 440 g")));
+    cliquer(QStringLiteral("Livre 4")); // sold out
+    QCOMPARE(quantite(4), 0);
+}
+
+void TestCommande::compterAuxBornes()
+{
+    const auto selecteur = [&](const QString &nom) { return controle<QAbstractButton>(nom); };
+    auto *moins = selecteur(QStringLiteral("Retirer un exemplaire"));
+    auto *plus = selecteur(QStringLiteral("Ajouter un exemplaire"));
+    QVERIFY(!moins->isEnabled());
+    for (int i = 0; i < 105; ++i)
+        plus->click();
+    QCOMPARE(quantite(1), 99);
+    QVERIFY(plus->isEnabled());
+    for (int i = 0; i < 105; ++i)
+        moins->click();
+    QCOMPARE(quantite(1), 0);
+    QVERIFY(!moins->isEnabled());
+    QVERIFY(Ecran::montre(&app_->fenetre(), QStringLiteral("Aucun livre")));
+}
+
+void TestCommande::autrePoids()
+{
+    const QString champ = QStringLiteral("Poids de l’emballage, en grammes");
+    QVERIFY(!controle(champ));
+    choisir(QStringLiteral("Emballage"), QStringLiteral("Autre poids"));
+    QCOMPARE(controle<QLineEdit>(champ)->text(), QStringLiteral("100"));
+    taper(champ, QStringLiteral("75"));
+    QCOMPARE(app_->commande().poidsEmballageLibre(), Grammes{75});
+    QCOMPARE(valeur(QStringLiteral("Poids calculé")), QStringLiteral("75 g"));
+    choisir(QStringLiteral("Emballage"), QStringLiteral("Carton (180 g)"));
+    QVERIFY(!controle(champ));
+    QCOMPARE(valeur(QStringLiteral("Poids calculé")), QStringLiteral("180 g"));
+}
+
+void TestCommande::changerDeDestination()
+{
+    cliquer(QStringLiteral("Livre 1"));
+    choisir(QStringLiteral("Envoi vers"), QStringLiteral("Union européenne"));
+    QCOMPARE(valeur(QStringLiteral("Déclaration en douane")), QStringLiteral("Non"));
+    cliquer(QStringLiteral("Colis pour les Canaries"));
+    QCOMPARE(valeur(QStringLiteral("Déclaration en douane")), QStringLiteral("Oui, CN23"));
+    taper(QStringLiteral("Pays de livraison"), QStringLiteral("Spain"));
+    cliquer(QStringLiteral("Français"));
+    QVERIFY(app_->commande().langue() == Langue::francais);
+
+    choisir(QStringLiteral("Envoi vers"), QStringLiteral("Suisse"));
+    QVERIFY(!app_->commande().horsUE() && !app_->commande().langue());
+    QCOMPARE(controle<QLineEdit>(QStringLiteral("Pays de livraison"))->text(), QString());
+    QVERIFY(controle<QAbstractButton>(QStringLiteral("Anglais"))->isChecked());
+    QVERIFY(!controle(QStringLiteral("Colis pour les Canaries")));
+}
+
+void TestCommande::peserLeColis()
+{
+    cliquer(QStringLiteral("Livre 2")); // never weighed
+    QVERIFY(Ecran::montre(&app_->fenetre(), QStringLiteral("Livre 2 n’a pas encore été pesé : pesez le colis.")));
+    QCOMPARE(valeur(QStringLiteral("TOTAL À PAYER")), QStringLiteral("—"));
+    taper(colisPese, QStringLiteral("501"));
+    QCOMPARE(valeur(QStringLiteral("Palier Colissimo")), QStringLiteral("jusqu’à 2 kg"));
+    QCOMPARE(valeur(QStringLiteral("TOTAL À PAYER")), QStringLiteral("33,19 €"));
+    QVERIFY(!Ecran::montre(&app_->fenetre(), QStringLiteral("Livre 2 n’a pas encore été pesé : pesez le colis.")));
+    controle<QLineEdit>(colisPese)->selectAll();
+    QTest::keyClick(controle<QLineEdit>(colisPese), Qt::Key_Delete);
+    QVERIFY(!app_->commande().poidsPese());
+    QCOMPARE(valeur(QStringLiteral("TOTAL À PAYER")), QStringLiteral("—"));
+}
+
+void TestCommande::saisieRefusee_data()
+{
+    QTest::addColumn<QString>("frappe");
+    QTest::addColumn<QString>("garde");
+    QTest::newRow("lettres") << QStringLiteral("4a5b0 g") << QStringLiteral("450");
+    QTest::newRow("signe et virgule") << QStringLiteral("-4,5") << QStringLiteral("45");
+    QTest::newRow("trop grand") << QStringLiteral("9999999") << QStringLiteral("999999");
+}
+
+void TestCommande::saisieRefusee()
+{
+    QFETCH(QString, frappe);
+    QFETCH(QString, garde);
+    taper(colisPese, frappe);
+    QCOMPARE(app_->commande().poidsPese(), Grammes{garde.toLongLong()});
+}
+
+void TestCommande::toutReinitialiser()
+{
+    cliquer(QStringLiteral("Livre 1"));
+    choisir(QStringLiteral("Emballage"), QStringLiteral("Carton (180 g)"));
+    choisir(QStringLiteral("Envoi vers"), QStringLiteral("Suisse"));
+    taper(colisPese, QStringLiteral("450"));
+    taper(QStringLiteral("Pays de livraison"), QStringLiteral("Switzerland"));
+    cliquer(reinitialiser);
+    QVERIFY(app_->commande().estVide() && !app_->commande().poidsPese() && app_->commande().paysLivraison().isEmpty());
+    QCOMPARE(controle<QLineEdit>(colisPese)->text(), QString());
+    QCOMPARE(controle<QComboBox>(QStringLiteral("Emballage"))->currentText(), QStringLiteral("Carton (180 g)"));
+    QCOMPARE(controle<QComboBox>(QStringLiteral("Envoi vers"))->currentText(), QStringLiteral("Suisse"));
+    QVERIFY(!controle<QAbstractButton>(reinitialiser)->isEnabled());
+}
+
+void TestCommande::changerDeVendeur()
+{
+    cliquer(QStringLiteral("Livre 1"));
+    cliquer(QStringLiteral("Mireva")); // no identity: its short name
+    QVERIFY(!controle(QStringLiteral("Livre 1")));
+    QVERIFY(Ecran::montre(&app_->fenetre(), QStringLiteral("Aucun livre")));
+    QVERIFY(controle<QAbstractButton>(reinitialiser)->isEnabled());
+    cliquer(QStringLiteral("Livre 3"));
+    QCOMPARE(quantite(3), 1);
+    cliquer(QStringLiteral("davrel.example"));
+    QCOMPARE(quantite(1), 1);
+    QCOMPARE(valeur(QStringLiteral("Sous-total")), QStringLiteral("15,00 €"));
+}
+
+void TestCommande::copierUnChamp()
+{
+    cliquer(QStringLiteral("Livre 1"));
+    const auto copie = [&](const QString &titre) {
+        return controle(QStringLiteral("Copier ") + titre)->accessibleDescription() == QStringLiteral("Copié");
+    };
+    cliquer(QStringLiteral("Copier Prix"));
+    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("20,49"));
+    QVERIFY(copie(QStringLiteral("Prix")));
+    QTest::qWait(700);
+    cliquer(QStringLiteral("Copier Nom de l’objet"));
+    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("Éditions Davrel – 1 book"));
+    QVERIFY(copie(QStringLiteral("Prix")) && copie(QStringLiteral("Nom de l’objet")));
+    QTRY_VERIFY_WITH_TIMEOUT(!copie(QStringLiteral("Prix")), 1200);
+    QVERIFY(copie(QStringLiteral("Nom de l’objet")));
+}
+
+void TestCommande::laMoletteNeChangeRien()
+{
+    for (const QString &nom : {QStringLiteral("Emballage"), QStringLiteral("Envoi vers")}) {
+        auto *choix = controle<QComboBox>(nom);
+        choix->setFocus();
+        const int avant = choix->currentIndex();
+        QWheelEvent cran(QPointF(5, 5), choix->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                         Qt::NoScrollPhase, false);
+        QApplication::sendEvent(choix, &cran);
+        QCOMPARE(choix->currentIndex(), avant);
+    }
+}
+
+// Tab alone reaches every control, and Space adds a copy.
+void TestCommande::auClavier()
+{
+    QSet<QString> atteints;
+    for (int i = 0; i < 60; ++i) {
+        QTest::keyClick(app_->fenetre().focusWidget() ? app_->fenetre().focusWidget() : &app_->fenetre(), Qt::Key_Tab);
+        const QString nom = QApplication::focusWidget()->accessibleName();
+        QVERIFY2(!nom.isEmpty() || qobject_cast<QAbstractButton *>(QApplication::focusWidget()),
+                 QApplication::focusWidget()->metaObject()->className());
+        atteints.insert(nom.section(u',', 0, 0));
+        if (nom.startsWith(QStringLiteral("Livre 1")) && quantite(1) == 0)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    }
+    QCOMPARE(quantite(1), 1);
+    for (const char *nom : {"Rubriques", "davrel.example", "Livre 1", "Ajouter un exemplaire", "Emballage", "Colis pesé",
+                            "Envoi vers", "Pays de livraison", "Copier Prix", "Copier URL de redirection"})
+        QVERIFY2(atteints.contains(QString::fromUtf8(nom)), nom);
+    QVERIFY(!atteints.contains(QStringLiteral("Livre 4")));
+}
+
+void TestCommande::sansRubriqueLaCommande()
+{
+    ContenuPrincipal *contenu = app_->fenetre().contenu();
+    QTest::keyClick(&app_->fenetre(), Qt::Key_3, Qt::ControlModifier);
+    QCOMPARE(contenu->rubrique(), Rubrique::livres);
+    QVERIFY(!controle(reinitialiser));
+    contenu->findChild<QListWidget *>()->clearSelection();
+    QVERIFY(!contenu->rubrique());
+    QVERIFY(controle(reinitialiser));
+}
+
+QTEST_MAIN(TestCommande)
+#include "tst_commande.moc"
