@@ -30,10 +30,10 @@ const Phrases &phrases(Langue langue)
         .total = QStringLiteral("Total à payer (livres + envoi) : "),
         .invitation = QStringLiteral("\n\nPour régler, ouvrez ce lien : "),
         .lienAbsent = QStringLiteral("[lien]"),
-        .paiement = QStringLiteral(
-            "\n\nVous pouvez payer avec un compte PayPal, par Apple Pay ou par carte bancaire.\n"
-            "Indiquez sur la page PayPal l’adresse où envoyer le colis.\n\n"
-            "Le paquet part dès réception du paiement sous 2 jours ouvrés avec un numéro de suivi.\n"),
+        .paiement =
+            QStringLiteral("\n\nVous pouvez payer avec un compte PayPal, par Apple Pay ou par carte bancaire.\n"
+                           "Indiquez sur la page PayPal l’adresse où envoyer le colis.\n\n"
+                           "Le paquet part dès réception du paiement sous 2 jours ouvrés avec un numéro de suivi.\n"),
         .douane = QStringLiteral("\nLe colis passe en douane : des taxes d’importation peuvent vous être demandées "
                                  "à la livraison.\n"),
         .conge = QStringLiteral("\nBien cordialement,\n\n"),
@@ -47,10 +47,9 @@ const Phrases &phrases(Langue langue)
         .total = QStringLiteral("Total to pay (books + shipping): "),
         .invitation = QStringLiteral("\n\nTo pay, please open this link: "),
         .lienAbsent = QStringLiteral("[link]"),
-        .paiement = QStringLiteral(
-            "\n\nYou can pay with a PayPal account, Apple Pay or a card.\n"
-            "Please give the address the parcel should be sent to on the PayPal page.\n\n"
-            "The parcel is sent within 2 working days of payment, with a tracking number.\n"),
+        .paiement = QStringLiteral("\n\nYou can pay with a PayPal account, Apple Pay or a card.\n"
+                                   "Please give the address the parcel should be sent to on the PayPal page.\n\n"
+                                   "The parcel is sent within 2 working days of payment, with a tracking number.\n"),
         .douane = QStringLiteral("\nThe parcel goes through customs: import duties or taxes may be charged on "
                                  "delivery.\n"),
         .conge = QStringLiteral("\nBest regards,\n\n"),
@@ -106,14 +105,9 @@ QString ReponseType::corps() const
                       + mots.deuxPoints + euros(ligne.montant(), langue));
     const QString lienOuPlace = lien.trimmed().isEmpty() ? mots.lienAbsent : lien.trimmed();
 
-    return mots.salutation
-           + livres.join(u'\n') + u'\n'
-           + puce + mots.envoi + libelleCourt(calcul.destination, langue) + u')' + mots.deuxPoints
-           + eurosOuTiret(calcul.envoi, langue) + QStringLiteral("\n\n")
-           + ligneTotal()
-           + mots.invitation + lienOuPlace
-           + mots.paiement
-           + (calcul.douaneRequise ? mots.douane : QString())
+    return mots.salutation + livres.join(u'\n') + u'\n' + puce + mots.envoi + libelleCourt(calcul.destination, langue)
+           + u')' + mots.deuxPoints + eurosOuTiret(calcul.envoi, langue) + QStringLiteral("\n\n") + ligneTotal()
+           + mots.invitation + lienOuPlace + mots.paiement + (calcul.douaneRequise ? mots.douane : QString())
            + mots.conge + vendeur.nom;
 }
 
@@ -139,8 +133,7 @@ Langue langueAcheteur(const Commande &commande, const Calcul &calcul)
     if (commande.langue())
         return *commande.langue();
     static const QStringList francophones{QStringLiteral("france"), QStringLiteral("om1"), QStringLiteral("om2")};
-    return !calcul.destination || francophones.contains(calcul.destination->code) ? Langue::francais
-                                                                                  : Langue::anglais;
+    return !calcul.destination || francophones.contains(calcul.destination->code) ? Langue::francais : Langue::anglais;
 }
 
 std::optional<IdentiteVendeur> vendeurUnique(const Calcul &calcul, const Reglages &reglages)

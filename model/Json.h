@@ -27,6 +27,8 @@ struct Champ
     const char *cle;
     Type Enregistrement::*membre;
 };
+template <typename Enregistrement, typename Type>
+Champ(const char *, Type Enregistrement::*) -> Champ<Enregistrement, Type>;
 
 template <typename Enum>
 struct ValeurBrute
@@ -34,6 +36,8 @@ struct ValeurBrute
     Enum cas;
     const char *texte;
 };
+template <typename Enum>
+ValeurBrute(Enum, const char *) -> ValeurBrute<Enum>;
 
 template <typename Enregistrement>
 inline constexpr auto champs = nullptr;
@@ -110,10 +114,22 @@ void lire(const QJsonValue &json, const Lieu &lieu, QList<T> &valeur);
 template <typename T>
 void lire(const QJsonValue &json, const Lieu &lieu, QMap<QString, T> &valeur);
 
-inline QJsonValue ecrire(qint64 valeur) { return valeur; }
-inline QJsonValue ecrire(bool valeur) { return valeur; }
-inline QJsonValue ecrire(const QString &valeur) { return valeur; }
-inline QJsonValue ecrire(const QUrl &valeur) { return QString::fromLatin1(valeur.toEncoded()); }
+inline QJsonValue ecrire(qint64 valeur)
+{
+    return valeur;
+}
+inline QJsonValue ecrire(bool valeur)
+{
+    return valeur;
+}
+inline QJsonValue ecrire(const QString &valeur)
+{
+    return valeur;
+}
+inline QJsonValue ecrire(const QUrl &valeur)
+{
+    return QString::fromLatin1(valeur.toEncoded());
+}
 
 template <typename Unite>
 QJsonValue ecrire(Quantite<Unite> valeur);

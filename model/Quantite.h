@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtGlobal>
+
 #include <compare>
 
 // A whole number of one unit. Two units never mix, and arithmetic that leaves 64 bits stops the program:

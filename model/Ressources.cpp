@@ -15,7 +15,8 @@ Ressources Ressources::duProgramme()
 QList<TarifsColissimo> Ressources::tarifs() const
 {
     QList<TarifsColissimo> tarifs;
-    const QStringList fichiers = dossier_.entryList({QStringLiteral("tarifs-colissimo-*.json")}, QDir::Files, QDir::Name);
+    const QStringList fichiers =
+        dossier_.entryList({QStringLiteral("tarifs-colissimo-*.json")}, QDir::Files, QDir::Name);
     for (const QString &fichier : fichiers)
         tarifs.append(lire<TarifsColissimo>(fichier.chopped(5)));
     if (tarifs.isEmpty())

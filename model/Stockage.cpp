@@ -92,7 +92,8 @@ void Stockage::ecrireOctets(const QByteArray &octets, const QString &nom) const
         echouer(place.filePath(), QString::fromUtf8("ce dossier ne peut pas être créé"));
 
     QSaveFile fichier(dossier_.filePath(nom));
-    if (!fichier.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !toutEcrire(fichier, octets) || !fichier.commit())
+    if (!fichier.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !toutEcrire(fichier, octets)
+        || !fichier.commit())
         echouer(fichier.fileName(), enFrancais(fichier.errorString()));
 }
 

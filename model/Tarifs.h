@@ -66,10 +66,8 @@ inline constexpr auto Json::champs<Palier> = std::tuple{
 
 template <>
 inline constexpr auto Json::champs<GrilleColissimo> = std::tuple{
-    Champ{"code", &GrilleColissimo::code},
-    Champ{"nomCourt", &GrilleColissimo::nomCourt},
-    Champ{"famille", &GrilleColissimo::famille},
-    Champ{"nom", &GrilleColissimo::nom},
+    Champ{"code", &GrilleColissimo::code},       Champ{"nomCourt", &GrilleColissimo::nomCourt},
+    Champ{"famille", &GrilleColissimo::famille}, Champ{"nom", &GrilleColissimo::nom},
     Champ{"paliers", &GrilleColissimo::paliers},
 };
 

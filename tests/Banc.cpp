@@ -34,11 +34,14 @@ Livre unLivre(qint64 id, Vendeur vendeur, Centimes prix, std::optional<Grammes> 
 
 TarifsColissimo desTarifs(const QString &validite, Centimes premierPrix)
 {
-    const QList<Palier> paliers{{Grammes{250}, premierPrix}, {Grammes{500}, Centimes{759}}, {Grammes{2000}, Centimes{1119}}};
+    const QList<Palier> paliers{
+        {Grammes{250}, premierPrix}, {Grammes{500}, Centimes{759}}, {Grammes{2000}, Centimes{1119}}};
     const auto grille = [&](const QString &code, const QString &nom, const QString &famille) {
         return GrilleColissimo{code, nom, famille, nom + QStringLiteral(" : ici et là"), paliers};
     };
-    return {validite, QStringLiteral("2025-12-15"), QUrl(QStringLiteral("https://poste.example/tarifs")),
+    return {validite,
+            QStringLiteral("2025-12-15"),
+            QUrl(QStringLiteral("https://poste.example/tarifs")),
             {grille(QStringLiteral("france-domicile"), QStringLiteral("France"), QStringLiteral("france")),
              grille(QStringLiteral("ue-suisse"), QStringLiteral("UE et Suisse"), QStringLiteral("europe"))}};
 }
@@ -66,17 +69,21 @@ Banc::Banc()
                     RegionPaypal::autres, true),
     };
     destinations[1].douaneSauf = QStringLiteral("les Canaries");
-    reglages = {.fraisPaypal = {QStringLiteral("2026-07-24"), QUrl(QStringLiteral("https://paypal.example/frais")),
-                                Taux{290}, Centimes{35}, {{QStringLiteral("autres"), Taux{199}}}},
-                .emballages = {{QStringLiteral("Enveloppe à bulles"), Grammes{40}}, {QStringLiteral("Carton"), Grammes{180}}},
-                .douane = {QStringLiteral("Livres imprimés"), QStringLiteral("Printed books"), QStringLiteral("490199")},
-                .vendeurs = {{QStringLiteral("davrel"),
-                              {.nom = QStringLiteral("Éditions Davrel"),
-                               .adresse = {QStringLiteral("1 rue Exemple"), QStringLiteral("00000 Exempleville")},
-                               .siret = QStringLiteral("00000000000000"),
-                               .mentionTva = QStringLiteral("TVA non applicable"),
-                               .retourPaypal = QStringLiteral("https://davrel.example/merci"),
-                               .site = QStringLiteral("davrel.example")}}}};
+    reglages = {
+        .fraisPaypal = {QStringLiteral("2026-07-24"),
+                        QUrl(QStringLiteral("https://paypal.example/frais")),
+                        Taux{290},
+                        Centimes{35},
+                        {{QStringLiteral("autres"), Taux{199}}}},
+        .emballages = {{QStringLiteral("Enveloppe à bulles"), Grammes{40}}, {QStringLiteral("Carton"), Grammes{180}}},
+        .douane = {QStringLiteral("Livres imprimés"), QStringLiteral("Printed books"), QStringLiteral("490199")},
+        .vendeurs = {{QStringLiteral("davrel"),
+                      {.nom = QStringLiteral("Éditions Davrel"),
+                       .adresse = {QStringLiteral("1 rue Exemple"), QStringLiteral("00000 Exempleville")},
+                       .siret = QStringLiteral("00000000000000"),
+                       .mentionTva = QStringLiteral("TVA non applicable"),
+                       .retourPaypal = QStringLiteral("https://davrel.example/merci"),
+                       .site = QStringLiteral("davrel.example")}}}};
 }
 
 void Banc::deposer() const

@@ -24,7 +24,10 @@ struct Banc
     void ecrireUtilisateur(const QString &nom, const QByteArray &octets) const;
     [[nodiscard]] QByteArray lireUtilisateur(const QString &nom) const;
     void ecrireRessource(const QString &nom, const QByteArray &octets) const;
-    [[nodiscard]] Ressources ressources() const { return Ressources(QDir(dossier_.filePath(QStringLiteral("partage")))); }
+    [[nodiscard]] Ressources ressources() const
+    {
+        return Ressources(QDir(dossier_.filePath(QStringLiteral("partage"))));
+    }
     [[nodiscard]] Stockage stockage() const { return Stockage(QDir(cheminUtilisateur())); }
 
 private:

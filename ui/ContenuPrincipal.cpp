@@ -23,8 +23,8 @@ constexpr int barreMaximum = 260;
 
 } // namespace
 
-ContenuPrincipal::ContenuPrincipal(Catalogue &catalogue, Commande &commande, ImagesCouvertures &images, Aujourdhui aujourdhui,
-                                   QWidget *parent)
+ContenuPrincipal::ContenuPrincipal(Catalogue &catalogue, Commande &commande, ImagesCouvertures &images,
+                                   Aujourdhui aujourdhui, QWidget *parent)
     : QWidget(parent),
       catalogue_(catalogue),
       commande_(commande),
@@ -41,6 +41,7 @@ ContenuPrincipal::ContenuPrincipal(Catalogue &catalogue, Commande &commande, Ima
     partage->setChildrenCollapsible(false);
     partage->addWidget(barreLaterale());
     partage->addWidget(detail_);
+    detail_->raise(); // a splitter lowers what it is given, and a screen reader reads from the lowest up
     partage->setStretchFactor(0, 0);
     partage->setStretchFactor(1, 1);
     partage->setSizes({barreIdeale, 10 * barreIdeale});
@@ -100,9 +101,15 @@ QWidget *ContenuPrincipal::ecran(Rubrique rubrique)
     QWidget *&place = ecrans_[static_cast<int>(rubrique)];
     if (!place) {
         switch (rubrique) {
-        case Rubrique::commande: place = new VueCommande(catalogue_, commande_, images_, aujourdhui_); break;
-        case Rubrique::tarifs: place = new VueTarifs(catalogue_, aujourdhui_); break;
-        case Rubrique::livres: place = new VueLivres(catalogue_, images_); break;
+        case Rubrique::commande:
+            place = new VueCommande(catalogue_, commande_, images_, aujourdhui_);
+            break;
+        case Rubrique::tarifs:
+            place = new VueTarifs(catalogue_, aujourdhui_);
+            break;
+        case Rubrique::livres:
+            place = new VueLivres(catalogue_, images_);
+            break;
         }
         detail_->addWidget(place);
     }

@@ -56,9 +56,10 @@ void Fenetre::creerRaccourcis()
 
 void Fenetre::aPropos()
 {
-    QMessageBox::about(this, tr("À propos de Quillet"),
-                       tr("<h3>Quillet %1</h3><p>Le prix d’une commande, la réponse à l’acheteur, la facture et la douane, "
-                          "pour les auteurs qui vendent leurs livres par la poste.</p>"
-                          "<p>© 2026 The Quillet authors · licence MIT</p>")
-                           .arg(QApplication::applicationVersion()));
+    QMessageBox::about(
+        this, tr("À propos de Quillet"),
+        tr("<h3>Quillet %1</h3><p>Le prix d’une commande, la réponse à l’acheteur, la facture et la douane, "
+           "pour les auteurs qui vendent leurs livres par la poste.</p>"
+           "<p>© 2026 The Quillet authors · licence MIT</p>")
+            .arg(QApplication::applicationVersion()));
 }

@@ -45,7 +45,8 @@ public:
 
         const QColor couleur = choisie ? Theme::accentTexte(palette) : palette.color(QPalette::WindowText);
         Icone::peindre(*peintre, indice.data(roleSymbole).toString(),
-                       QRectF(cadre.left() + 10, cadre.center().y() - coteSymbole / 2.0, coteSymbole, coteSymbole), couleur);
+                       QRectF(cadre.left() + 10, cadre.center().y() - coteSymbole / 2.0, coteSymbole, coteSymbole),
+                       couleur);
         peintre->setFont(choisie ? Theme::enGras(option.font) : option.font);
         peintre->setPen(couleur);
         peintre->drawText(cadre.adjusted(10 + coteSymbole + 10, 0, -8, 0), Qt::AlignLeft | Qt::AlignVCenter,

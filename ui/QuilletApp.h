@@ -19,7 +19,8 @@ public:
     static void preparer(std::optional<Theme::Mode> mode = std::nullopt);
 
     // Throws RessourceIllisible.
-    QuilletApp(const Ressources &ressources, Stockage stockage, Aujourdhui aujourdhui = [] { return QDate::currentDate(); });
+    QuilletApp(
+        const Ressources &ressources, Stockage stockage, Aujourdhui aujourdhui = [] { return QDate::currentDate(); });
     ~QuilletApp();
     Q_DISABLE_COPY_MOVE(QuilletApp)
 

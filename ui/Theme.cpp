@@ -48,8 +48,8 @@ QFont aLEchelle(qreal echelle)
 QFont serif(qreal echelle, QFont::Weight graisse)
 {
     QFont police = aLEchelle(echelle);
-    police.setFamilies({QStringLiteral("Libertinus Serif"), QStringLiteral("Linux Libertine O"), QStringLiteral("Georgia"),
-                        QStringLiteral("DejaVu Serif"), QStringLiteral("serif")});
+    police.setFamilies({QStringLiteral("Libertinus Serif"), QStringLiteral("Linux Libertine O"),
+                        QStringLiteral("Georgia"), QStringLiteral("DejaVu Serif"), QStringLiteral("serif")});
     police.setStyleHint(QFont::Serif);
     police.setWeight(graisse);
     return police;

@@ -13,14 +13,14 @@ QPalette palette(Mode mode);
 // Light or dark, told from the text and window colours.
 Mode mode(const QPalette &palette);
 
-QColor secondaire(const QPalette &palette); // text of second rank
-QColor filet(const QPalette &palette);      // hairlines
-QColor carte(const QPalette &palette);      // raised groups and fields
-QColor panneau(const QPalette &palette);    // sidebar
+QColor secondaire(const QPalette &palette);  // text of second rank
+QColor filet(const QPalette &palette);       // hairlines
+QColor carte(const QPalette &palette);       // raised groups and fields
+QColor panneau(const QPalette &palette);     // sidebar
 QColor remplissage(const QPalette &palette); // quiet fill of capsules and tags
-QColor accent(const QPalette &palette);     // filled accent, white text on it
+QColor accent(const QPalette &palette);      // filled accent, white text on it
 QColor accentTexte(const QPalette &palette); // accent as a text or focus colour
-QColor orange(const QPalette &palette);     // warnings
+QColor orange(const QPalette &palette);      // warnings
 
 // The application's text font: the system's size, at least 10 pt.
 QFont texte();

@@ -20,7 +20,8 @@ Parcours::Parcours(const QDir &dossier, QString suffixe, bool bavard)
     : dossier_(dossier),
       suffixe_(std::move(suffixe)),
       bavard_(bavard),
-      quillet_(Ressources::duProgramme(), Stockage(QDir(donnees_.filePath(QStringLiteral("Quillet")))), [] { return jourDeLaVisite; })
+      quillet_(Ressources::duProgramme(), Stockage(QDir(donnees_.filePath(QStringLiteral("Quillet")))),
+               [] { return jourDeLaVisite; })
 {
 }
 
@@ -41,7 +42,8 @@ bool Parcours::jouer()
     if (!changerDeDestination(QStringLiteral("Suisse")))
         return false;
     raconter(QStringLiteral("Le même colis vers la Suisse"));
-    if (!Ecran::defiler(&fenetre, QStringLiteral("Copier Description")) || !photographier(QStringLiteral("lien-paypal")))
+    if (!Ecran::defiler(&fenetre, QStringLiteral("Copier Description"))
+        || !photographier(QStringLiteral("lien-paypal")))
         return false;
 
     fenetre.contenu()->montrer(Rubrique::tarifs);
@@ -54,7 +56,8 @@ bool Parcours::jouer()
 bool Parcours::composerLaCommande()
 {
     Fenetre &fenetre = quillet_.fenetre();
-    return Ecran::cliquer(&fenetre, QStringLiteral("Le Phare de sel")) && Ecran::cliquer(&fenetre, QStringLiteral("Le Phare de sel"))
+    return Ecran::cliquer(&fenetre, QStringLiteral("Le Phare de sel"))
+           && Ecran::cliquer(&fenetre, QStringLiteral("Le Phare de sel"))
            && Ecran::cliquer(&fenetre, QStringLiteral("L’Herbier des heures"));
 }
 
@@ -73,9 +76,10 @@ void Parcours::raconter(const QString &etape)
     if (!bavard_)
         return;
     std::printf("%s\n", qPrintable(etape));
-    for (const char *libelle : {"Sous-total", "Poids calculé", "Palier Colissimo", "Déclaration en douane", "Envoi Colissimo",
-                                "TOTAL À PAYER", "Frais PayPal", "Il vous reste"})
-        if (const QString valeur = Ecran::valeurEnFaceDe(&quillet_.fenetre(), QString::fromUtf8(libelle)); !valeur.isEmpty())
+    for (const char *libelle : {"Sous-total", "Poids calculé", "Palier Colissimo", "Déclaration en douane",
+                                "Envoi Colissimo", "TOTAL À PAYER", "Frais PayPal", "Il vous reste"})
+        if (const QString valeur = Ecran::valeurEnFaceDe(&quillet_.fenetre(), QString::fromUtf8(libelle));
+            !valeur.isEmpty())
             std::printf("    %s : %s\n", libelle, qPrintable(valeur));
 }
 

@@ -40,8 +40,10 @@ int main(int argc, char **argv)
     options.setApplicationDescription(QStringLiteral("Une commande type, jouée dans les vraies fenêtres et dessinée."));
     options.addHelpOption();
     options.addOption({QStringLiteral("sombre"), QStringLiteral("En sombre.")});
-    options.addOption({QStringLiteral("suffixe"), QStringLiteral("Seulement les images, avec ce suffixe."), QStringLiteral("suffixe")});
-    options.addPositionalArgument(QStringLiteral("dossier"), QStringLiteral("Où écrire les images."), QStringLiteral("[dossier]"));
+    options.addOption({QStringLiteral("suffixe"), QStringLiteral("Seulement les images, avec ce suffixe."),
+                       QStringLiteral("suffixe")});
+    options.addPositionalArgument(QStringLiteral("dossier"), QStringLiteral("Où écrire les images."),
+                                  QStringLiteral("[dossier]"));
     options.process(programme);
 
     const QStringList arguments = options.positionalArguments();

@@ -4,9 +4,10 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <csignal>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include <csignal>
 
 class TestCalcul : public QObject
 {

@@ -56,7 +56,9 @@ void TestCatalogue::tarifsDUnJour()
 void TestCatalogue::grillesEnregistreesAvantLesLivrees()
 {
     Banc banc;
-    const auto premier = [](const Catalogue &c, const QString &jour) { return c.tarifs(jour).grilles[0].paliers[0].prix; };
+    const auto premier = [](const Catalogue &c, const QString &jour) {
+        return c.tarifs(jour).grilles[0].paliers[0].prix;
+    };
     const QString deuxMilleVingtSix = QStringLiteral("2026-01-01");
     {
         const auto catalogue = banc.charger();
@@ -101,7 +103,8 @@ void TestCatalogue::modificationsAppliquees_data()
         << QByteArray(R"({"1":{"prix":1700,"disponible":false,"prixEcartes":{}}})") << true << PrixParDestination{};
     QTest::newRow("fichier abîmé : ignoré") << QByteArray(R"({"1":{"prix":1700)") << false << livres;
     QTest::newRow("une valeur abîmée : tout est ignoré")
-        << QByteArray(R"({"1":{"prix":1700,"disponible":false}, "3":{"prix":1.5,"disponible":true}})") << false << livres;
+        << QByteArray(R"({"1":{"prix":1700,"disponible":false}, "3":{"prix":1.5,"disponible":true}})") << false
+        << livres;
 }
 
 void TestCatalogue::modificationsAppliquees()
@@ -126,9 +129,10 @@ void TestCatalogue::ressourceManquante_data()
     QTest::addColumn<QString>("fichier");
     QTest::addColumn<QByteArray>("contenu");
     QTest::addColumn<QString>("erreur");
-    QTest::newRow("règlages incomplets")
-        << QStringLiteral("reglages.json") << QByteArray(R"({"fraisPaypal":{"releve":"x"}})")
-        << QStringLiteral("Ressource illisible : reglages.fraisPaypal.source : valeur manquante");
+    QTest::newRow("règlages incomplets") << QStringLiteral("reglages.json")
+                                         << QByteArray(R"({"fraisPaypal":{"releve":"x"}})")
+                                         << QStringLiteral(
+                                                "Ressource illisible : reglages.fraisPaypal.source : valeur manquante");
     QTest::newRow("tarifs abîmés")
         << QStringLiteral("tarifs-colissimo-2026-01-01.json") << QByteArray("{")
         << QStringLiteral("Ressource illisible : tarifs-colissimo-2026-01-01 : JSON illisible, ligne 1");

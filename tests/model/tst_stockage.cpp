@@ -2,8 +2,9 @@
 
 #include <QTest>
 
-#include <csignal>
 #include <sys/resource.h>
+
+#include <csignal>
 
 class TestStockage : public QObject
 {
@@ -100,7 +101,8 @@ void TestStockage::echecLaisseToutIntact()
     if (panne == QStringLiteral("fichier")) {
         banc.ecrireUtilisateur(QStringLiteral("x"), {});
         QVERIFY(QDir(banc.cheminUtilisateur()).removeRecursively());
-        QVERIFY(QFile(banc.ressources().chemin(QStringLiteral("livres.json"))).copy(QDir(banc.cheminUtilisateur()).absolutePath()));
+        QVERIFY(QFile(banc.ressources().chemin(QStringLiteral("livres.json")))
+                    .copy(QDir(banc.cheminUtilisateur()).absolutePath()));
     } else if (panne == QStringLiteral("dossier")) {
         QVERIFY(QDir().mkpath(banc.cheminUtilisateur(livresModifies)));
     } else {

@@ -20,7 +20,8 @@ namespace {
 class SansAnimation : public QProxyStyle
 {
 public:
-    int styleHint(StyleHint indice, const QStyleOption *option, const QWidget *widget, QStyleHintReturn *retour) const override
+    int styleHint(StyleHint indice, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *retour) const override
     {
         return indice == SH_Widget_Animate ? 0 : QProxyStyle::styleHint(indice, option, widget, retour);
     }
@@ -44,7 +45,8 @@ void TestRessort::atteintSaCible()
     QFETCH(double, depassement);
     double dernier = 0;
     double maximum = 0;
-    Ressort ressort({reponse, amortissement}, [&](double valeur) { maximum = std::max(maximum, dernier = valeur); }, this);
+    Ressort ressort(
+        {reponse, amortissement}, [&](double valeur) { maximum = std::max(maximum, dernier = valeur); }, this);
     ressort.vers(1);
     for (int t = 0; t <= ressort.duration(); ++t)
         ressort.setCurrentTime(t);
@@ -55,7 +57,8 @@ void TestRessort::atteintSaCible()
 void TestRessort::gardeSonElan()
 {
     double valeur = 0;
-    Ressort ressort({0.5, 0.85}, [&](double v) { valeur = v; }, this);
+    Ressort ressort(
+        {0.5, 0.85}, [&](double v) { valeur = v; }, this);
     ressort.vers(1);
     ressort.setCurrentTime(100);
     const double avant = valeur;
@@ -71,7 +74,8 @@ void TestRessort::sansAnimation()
 {
     QApplication::setStyle(new SansAnimation);
     int appels = 0;
-    Ressort ressort({0.5, 0.85}, [&](double) { ++appels; }, this);
+    Ressort ressort(
+        {0.5, 0.85}, [&](double) { ++appels; }, this);
     ressort.vers(1);
     QCOMPARE(ressort.valeur(), 1.0);
     QCOMPARE(ressort.state(), QAbstractAnimation::Stopped);

@@ -50,7 +50,8 @@ void TestTextes::avertissements_data()
     QTest::addColumn<QStringList>("attendus");
     const QString france = QStringLiteral("france");
     const QString triangle = QStringLiteral("exclamationmark.triangle|");
-    const QString deuxColis = triangle + QStringLiteral("Au-delà de 2 kg, le dernier palier de la grille : faire deux colis.");
+    const QString deuxColis =
+        triangle + QStringLiteral("Au-delà de 2 kg, le dernier palier de la grille : faire deux colis.");
     const QString aPeser = QStringLiteral("scalemass|Livre 2 n’a pas encore été pesé : pesez le colis.");
 
     QTest::newRow("rien") << QList{0, 0} << qint64{0} << france << QStringList{};
@@ -58,10 +59,13 @@ void TestTextes::avertissements_data()
     QTest::newRow("tout va bien") << QList{2, 0} << qint64{450} << france << QStringList{};
     QTest::newRow("plus léger que les livres")
         << QList{2, 0} << qint64{399} << france
-        << QStringList{triangle + QStringLiteral("Le colis pesé est plus léger que les livres seuls (400 g) : vérifiez la pesée.")};
+        << QStringList{
+               triangle
+               + QStringLiteral("Le colis pesé est plus léger que les livres seuls (400 g) : vérifiez la pesée.")};
     QTest::newRow("pesé juste comme les livres") << QList{2, 0} << qint64{400} << france << QStringList{};
     QTest::newRow("jamais pesé") << QList{1, 2} << qint64{0} << france << QStringList{aPeser};
-    QTest::newRow("jamais pesé et trop lourd : un seul avertissement") << QList{11, 1} << qint64{0} << france << QStringList{aPeser};
+    QTest::newRow("jamais pesé et trop lourd : un seul avertissement")
+        << QList{11, 1} << qint64{0} << france << QStringList{aPeser};
     QTest::newRow("calculé trop lourd") << QList{11, 0} << qint64{0} << france << QStringList{deuxColis};
     QTest::newRow("pesé trop lourd") << QList{1, 1} << qint64{2001} << france << QStringList{deuxColis};
     QTest::newRow("sans grille") << QList{11, 0} << qint64{0} << QStringLiteral("lune") << QStringList{};
@@ -124,8 +128,8 @@ void TestTextes::detailsDesMontants_data()
                             << QStringLiteral("2,90 % + 0,35 € · Europe (EEE)") << QStringLiteral("Non");
     QTest::newRow("Suisse") << QStringLiteral("suisse") << QStringLiteral("UE et Suisse, jusqu’à 250 g")
                             << QStringLiteral("4,89 % + 0,35 € · Autre pays") << QStringLiteral("Oui, CN23");
-    QTest::newRow("sans grille") << QStringLiteral("lune") << QString() << QStringLiteral("4,89 % + 0,35 € · Autre pays")
-                                 << QStringLiteral("Oui, CN23");
+    QTest::newRow("sans grille") << QStringLiteral("lune") << QString()
+                                 << QStringLiteral("4,89 % + 0,35 € · Autre pays") << QStringLiteral("Oui, CN23");
     QTest::newRow("inconnue") << QStringLiteral("mars") << QString() << QString() << QStringLiteral("Non");
 }
 
@@ -159,7 +163,8 @@ void TestTextes::lienDePaiementSelonLaLangue()
     QCOMPARE(lien()->retour, QStringLiteral("https://davrel.example/merci"));
     cas.commande.setLangue(Langue::francais);
     cas.commande.setPaysLivraison(QStringLiteral("la Suisse"));
-    QCOMPARE(lien()->indicationDuPays, QStringLiteral("en français, avec l’article : la Belgique, l’Italie, le Canada"));
+    QCOMPARE(lien()->indicationDuPays,
+             QStringLiteral("en français, avec l’article : la Belgique, l’Italie, le Canada"));
     QCOMPARE(lien()->paysPropose, QStringLiteral("Suisse"));
     QVERIFY(lien()->description.endsWith(QStringLiteral("vers la Suisse.")));
 }

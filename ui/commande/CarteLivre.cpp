@@ -14,9 +14,9 @@
 
 namespace {
 
-constexpr int espace = 14;      // between the parts of a card
-constexpr int interligne = 3;   // between the lines under the cover
-constexpr int hauteurBas = 34;  // price and stepper
+constexpr int espace = 14;     // between the parts of a card
+constexpr int interligne = 3;  // between the lines under the cover
+constexpr int hauteurBas = 34; // price and stepper
 
 int hauteurCouverture(int largeur)
 {
@@ -48,7 +48,8 @@ QString enMots(const Livre &livre, int quantite)
 {
     const QString prix = livre.disponible ? Format::euros(livre.prix) : CarteLivre::tr("Épuisé");
     const QString poids = livre.poids ? Format::poids(*livre.poids) : CarteLivre::tr("Poids à peser");
-    return quantite > 0 ? CarteLivre::tr("%1, %2, %3, %4 dans la commande").arg(livre.titre, prix, poids, QString::number(quantite))
+    return quantite > 0 ? CarteLivre::tr("%1, %2, %3, %4 dans la commande")
+                              .arg(livre.titre, prix, poids, QString::number(quantite))
                         : CarteLivre::tr("%1, %2, %3").arg(livre.titre, prix, poids);
 }
 
@@ -77,6 +78,16 @@ void CarteLivre::montrer(const Livre &livre, int quantite)
     selecteur_->montrer(quantite);
     selecteur_->setVisible(livre.disponible);
     update();
+}
+
+QWidget *CarteLivre::suivre(QWidget *precedent)
+{
+    QWidget *dernier = precedent;
+    for (auto *controle : findChildren<QAbstractButton *>()) {
+        QWidget::setTabOrder(dernier, controle);
+        dernier = controle;
+    }
+    return dernier;
 }
 
 int CarteLivre::hauteur(int largeur)
@@ -112,8 +123,11 @@ bool CarteLivre::event(QEvent *evenement)
     case QEvent::HoverMove:
         setSurvol(contenu().contains(static_cast<QHoverEvent *>(evenement)->position().toPoint()));
         break;
-    case QEvent::HoverLeave: setSurvol(false); break;
-    default: break;
+    case QEvent::HoverLeave:
+        setSurvol(false);
+        break;
+    default:
+        break;
     }
     return QWidget::event(evenement);
 }
@@ -124,8 +138,8 @@ void CarteLivre::resizeEvent(QResizeEvent *)
     couverture_->setGeometry(0, 0, width(), hauteur);
     const QSize taille = selecteur_->sizeHint();
     const QRect bas = ligneDuBas();
-    selecteur_->setGeometry(bas.right() + 1 - taille.width(), bas.center().y() + 1 - taille.height() / 2, taille.width(),
-                            taille.height());
+    selecteur_->setGeometry(bas.right() + 1 - taille.width(), bas.center().y() + 1 - taille.height() / 2,
+                            taille.width(), taille.height());
 }
 
 void CarteLivre::paintEvent(QPaintEvent *)
@@ -136,15 +150,18 @@ void CarteLivre::paintEvent(QPaintEvent *)
     const QColor texte = palette().color(QPalette::WindowText);
     const QColor secondaire = Theme::secondaire(palette());
 
-    QRect titre(dedans.left(), dedans.top() + hauteurCouverture(dedans.width()) + espace, dedans.width(), hauteurDuTitre());
+    QRect titre(dedans.left(), dedans.top() + hauteurCouverture(dedans.width()) + espace, dedans.width(),
+                hauteurDuTitre());
     peintre.setFont(Theme::titreLivre());
     peintre.setPen(texte);
     peindreSurDeuxLignes(peintre, titre, livre_.titre);
 
     peintre.setFont(Theme::encadre());
     peintre.setPen(livre_.poids ? secondaire : Theme::orange(palette()));
-    const QRect poids(dedans.left(), titre.bottom() + 1 + interligne, dedans.width(), peintre.fontMetrics().lineSpacing());
-    peintre.drawText(poids, Qt::AlignLeft | Qt::AlignVCenter, livre_.poids ? Format::poids(*livre_.poids) : tr("Poids à peser"));
+    const QRect poids(dedans.left(), titre.bottom() + 1 + interligne, dedans.width(),
+                      peintre.fontMetrics().lineSpacing());
+    peintre.drawText(poids, Qt::AlignLeft | Qt::AlignVCenter,
+                     livre_.poids ? Format::poids(*livre_.poids) : tr("Poids à peser"));
 
     const QRect bas = ligneDuBas();
     peintre.setFont(Theme::enGras(Theme::titre3()));

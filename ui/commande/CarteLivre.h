@@ -19,6 +19,8 @@ public:
 
     [[nodiscard]] const Livre &livre() const { return livre_; }
     void montrer(const Livre &livre, int quantite);
+    // Puts the card's controls behind `precedent` in the order of the Tab key; gives the last of them.
+    QWidget *suivre(QWidget *precedent);
 
     // Height of what a card shows, for the width of what it shows.
     [[nodiscard]] static int hauteur(int largeur);

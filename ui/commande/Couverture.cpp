@@ -68,7 +68,9 @@ QColor couleur(const Livre &livre)
 {
     if (livre.teinte.size() < 3)
         qFatal("Teinte incomplète : livre %lld", static_cast<long long>(livre.id));
-    const auto composante = [&](qsizetype rang) { return static_cast<int>(std::clamp<qint64>(livre.teinte[rang], 0, 255)); };
+    const auto composante = [&](qsizetype rang) {
+        return static_cast<int>(std::clamp<qint64>(livre.teinte[rang], 0, 255));
+    };
     return {composante(0), composante(1), composante(2)};
 }
 
@@ -76,8 +78,10 @@ Couverture::Couverture(const Livre &livre, ImagesCouvertures &images, QWidget *p
     : QAbstractButton(parent),
       livre_(livre),
       images_(images),
-      soulevement_(new Ressort(Ressorts::survol, [this](double) { update(); }, this)),
-      pastille_(new Ressort(Ressorts::action, [this](double) { update(); }, this))
+      soulevement_(new Ressort(
+          Ressorts::survol, [this](double) { update(); }, this)),
+      pastille_(new Ressort(
+          Ressorts::action, [this](double) { update(); }, this))
 {
     connect(&images_, &ImagesCouvertures::prete, this, [this](const QString &couverture) {
         if (couverture == livre_.couverture)
@@ -87,8 +91,8 @@ Couverture::Couverture(const Livre &livre, ImagesCouvertures &images, QWidget *p
 
 void Couverture::montrer(const Livre &livre, int quantite)
 {
-    const bool autreDessin = livre.couverture != livre_.couverture || livre.teinte != livre_.teinte
-                             || livre.disponible != livre_.disponible;
+    const bool autreDessin =
+        livre.couverture != livre_.couverture || livre.teinte != livre_.teinte || livre.disponible != livre_.disponible;
     livre_ = livre;
     if (autreDessin)
         oublierLeDessin();
@@ -185,10 +189,8 @@ QTransform Couverture::inclinaison() const
     const QPointF charniere(c.left(), c.center().y());
     return QTransform::fromTranslate(-charniere.x(), -charniere.y())
            * QTransform(std::cos(theta), 0, fuite * std::sin(theta), 0, 1, 0, 0, 0, 1)
-           * QTransform::fromTranslate(charniere.x(), charniere.y())
-           * QTransform::fromTranslate(-pied.x(), -pied.y())
-           * QTransform::fromScale(echelle, echelle)
-           * QTransform::fromTranslate(pied.x(), pied.y());
+           * QTransform::fromTranslate(charniere.x(), charniere.y()) * QTransform::fromTranslate(-pied.x(), -pied.y())
+           * QTransform::fromScale(echelle, echelle) * QTransform::fromTranslate(pied.x(), pied.y());
 }
 
 void Couverture::paintEvent(QPaintEvent *)

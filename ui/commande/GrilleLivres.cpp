@@ -29,8 +29,8 @@ Disposition disposition(int place)
 
 } // namespace
 
-GrilleLivres::GrilleLivres(Commande &commande, ImagesCouvertures &images, QWidget *parent)
-    : QWidget(parent), commande_(commande), images_(images)
+GrilleLivres::GrilleLivres(Commande &commande, ImagesCouvertures &images, QWidget *precedent, QWidget *parent)
+    : QWidget(parent), commande_(commande), images_(images), precedent_(precedent)
 {
     QSizePolicy politique(QSizePolicy::Expanding, QSizePolicy::Preferred);
     politique.setHeightForWidth(true);
@@ -39,8 +39,9 @@ GrilleLivres::GrilleLivres(Commande &commande, ImagesCouvertures &images, QWidge
 
 void GrilleLivres::montrer(const QList<Livre> &livres)
 {
-    const bool memes = std::ranges::equal(cartes_, livres, std::ranges::equal_to{},
-                                          [](const CarteLivre *carte) { return carte->livre().id; }, &Livre::id);
+    const bool memes = std::ranges::equal(
+        cartes_, livres, std::ranges::equal_to{}, [](const CarteLivre *carte) { return carte->livre().id; },
+        &Livre::id);
     if (!memes) {
         remplacerLesCartes(livres);
         return;
@@ -58,8 +59,11 @@ void GrilleLivres::remplacerLesCartes(const QList<Livre> &livres)
         cartes_.append(new CarteLivre(livre, commande_, images_, this));
     updateGeometry();
     placer();
-    for (CarteLivre *carte : std::as_const(cartes_))
+    QWidget *precedent = precedent_;
+    for (CarteLivre *carte : std::as_const(cartes_)) {
         carte->show();
+        precedent = carte->suivre(precedent);
+    }
     if (!sortantes.isEmpty())
         TransitionCartes::jouer(sortantes, TransitionCartes::instantanes(cartes_), images_, this);
 }

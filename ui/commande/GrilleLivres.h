@@ -15,7 +15,8 @@ class GrilleLivres : public QWidget
     Q_OBJECT
 
 public:
-    GrilleLivres(Commande &commande, ImagesCouvertures &images, QWidget *parent = nullptr);
+    // `precedent` is the control that the Tab key reaches just before the cards.
+    GrilleLivres(Commande &commande, ImagesCouvertures &images, QWidget *precedent, QWidget *parent = nullptr);
 
     // Cards of other books enter and leave with a fade; the same books are only brought up to date.
     void montrer(const QList<Livre> &livres);
@@ -36,5 +37,6 @@ private:
 
     Commande &commande_;
     ImagesCouvertures &images_;
+    QWidget *precedent_;
     QList<CarteLivre *> cartes_;
 };

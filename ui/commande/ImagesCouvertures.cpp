@@ -14,7 +14,8 @@ QString nomDeBase(const QString &fichier)
 
 QString cle(const QString &couverture, const QSize &pixels)
 {
-    return QStringLiteral("%1/%2x%3").arg(couverture, QString::number(pixels.width()), QString::number(pixels.height()));
+    return QStringLiteral("%1/%2x%3")
+        .arg(couverture, QString::number(pixels.width()), QString::number(pixels.height()));
 }
 
 } // namespace

@@ -101,7 +101,8 @@ QWidget *Recapitulatif::sectionLivres()
 {
     auto *section = new Section(tr("Livres"));
     groupeLivres_ = section->groupe();
-    aucunLivre_ = new Libelle(tr("Aucun livre pour l’instant : cliquez sur une couverture ou sur +."), Libelle::Rang::secondaire);
+    aucunLivre_ =
+        new Libelle(tr("Aucun livre pour l’instant : cliquez sur une couverture ou sur +."), Libelle::Rang::secondaire);
     aucunLivre_->setWordWrap(true);
     groupeLivres_->ajouter(aucunLivre_);
     sousTotal_.montant = new NombreRoulant;
@@ -118,6 +119,7 @@ void Recapitulatif::montrerLivres(const Calcul &calcul)
         auto *montant = new NombreRoulant;
         rangeesLivres_.append({new Rangee({}, montant), montant});
         groupeLivres_->inserer(static_cast<int>(rangeesLivres_.size()), rangeesLivres_.last().rangee);
+        sousTotal_.rangee->raise(); // last to be read, too
     }
     for (qsizetype i = 0; i < rangeesLivres_.size(); ++i) {
         const auto &[rangee, montant] = rangeesLivres_[i];
@@ -320,9 +322,10 @@ void Recapitulatif::montrerMontants(const Calcul &calcul)
 
 QWidget *Recapitulatif::sectionLien()
 {
-    auto *section = new Section(tr("Lien de paiement PayPal"),
-                                tr("Un prix fixe en EUR, Quantité désactivée. Onglet Checkout : adresse de livraison activée. "
-                                   "Onglet Confirmation : URL de redirection automatique."));
+    auto *section =
+        new Section(tr("Lien de paiement PayPal"),
+                    tr("Un prix fixe en EUR, Quantité désactivée. Onglet Checkout : adresse de livraison activée. "
+                       "Onglet Confirmation : URL de redirection automatique."));
     Groupe *groupe = section->groupe();
 
     langue_ = new ChoixSegmente({tr("Français"), tr("Anglais")}, {.police = font()});
@@ -330,7 +333,8 @@ QWidget *Recapitulatif::sectionLien()
             [this](int indice) { commande_.setLangue(indice == 0 ? Langue::francais : Langue::anglais); });
     groupe->ajouter(new RangeeHaute(tr("Langue de l’acheteur"), langue_));
 
-    auto *creer = new QPushButton(Icone::icone(QStringLiteral("arrow.up.forward.app")), tr("Créer le lien dans PayPal"));
+    auto *creer =
+        new QPushButton(Icone::icone(QStringLiteral("arrow.up.forward.app")), tr("Créer le lien dans PayPal"));
     connect(creer, &QPushButton::clicked, this, [] { QDesktopServices::openUrl(ReponseType::creationDuLien()); });
     groupe->ajouter(Formulaire::seul(creer));
 

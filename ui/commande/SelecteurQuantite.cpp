@@ -63,16 +63,18 @@ SelecteurQuantite::SelecteurQuantite(const Livre &livre, Commande &commande, QWi
       moins_(new BoutonRond(QStringLiteral("minus"), tr("Retirer un exemplaire"))),
       plus_(new BoutonRond(QStringLiteral("plus"), tr("Ajouter un exemplaire"))),
       nombre_(new NombreRoulant),
-      plein_(new Ressort(Ressorts::action, [this](double) { colorer(); }, this))
+      plein_(new Ressort(
+          Ressorts::action, [this](double) { colorer(); }, this))
 {
     nombre_->setFont(Theme::enGras(font()));
     nombre_->setAlignment(Qt::AlignCenter);
-    nombre_->setMinimumWidth(18);
+    nombre_->setMinimumWidth(std::max(18, nombre_->fontMetrics().horizontalAdvance(QStringLiteral("00"))));
     nombre_->setText(QStringLiteral("0"));
     auto *rangee = new QHBoxLayout(this);
     rangee->setContentsMargins(4, 2, 4, 2);
     rangee->setSpacing(2);
-    for (QWidget *partie : {static_cast<QWidget *>(moins_), static_cast<QWidget *>(nombre_), static_cast<QWidget *>(plus_)})
+    for (QWidget *partie :
+         {static_cast<QWidget *>(moins_), static_cast<QWidget *>(nombre_), static_cast<QWidget *>(plus_)})
         rangee->addWidget(partie);
     connect(moins_, &QAbstractButton::clicked, this, [livre, &commande] { commande.ajuster(livre, -1); });
     connect(plus_, &QAbstractButton::clicked, this, [livre, &commande] { commande.ajuster(livre, 1); });
@@ -93,10 +95,11 @@ void SelecteurQuantite::montrer(int quantite)
 void SelecteurQuantite::colorer()
 {
     // The parent's palette stays the reference: our own already carries the last colour handed down.
-    const QColor normale = parentWidget() ? parentWidget()->palette().color(QPalette::WindowText)
-                                          : palette().color(QPalette::WindowText);
+    const QColor normale =
+        parentWidget() ? parentWidget()->palette().color(QPalette::WindowText) : palette().color(QPalette::WindowText);
     const QColor couleur = Dessin::melange(normale, Qt::white, plein_->valeur());
-    for (QWidget *partie : {static_cast<QWidget *>(moins_), static_cast<QWidget *>(nombre_), static_cast<QWidget *>(plus_)}) {
+    for (QWidget *partie :
+         {static_cast<QWidget *>(moins_), static_cast<QWidget *>(nombre_), static_cast<QWidget *>(plus_)}) {
         QPalette teintee = partie->palette();
         teintee.setColor(QPalette::ButtonText, couleur);
         teintee.setColor(QPalette::WindowText, couleur);

@@ -1,8 +1,8 @@
 #include "ui/commande/SelecteurSite.h"
 
 #include "ui/Theme.h"
-#include "ui/commun/NomsVendeurs.h"
 #include "ui/commun/ChoixSegmente.h"
+#include "ui/commun/NomsVendeurs.h"
 
 #include <QHBoxLayout>
 #include <QRadioButton>
@@ -20,12 +20,13 @@ QStringList sites(const Reglages &reglages)
 } // namespace
 
 SelecteurSite::SelecteurSite(const Reglages &reglages, QWidget *parent)
-    : QWidget(parent), choix_(new ChoixSegmente(sites(reglages), {.police = Theme::enGras(Theme::titre3()),
-                                                                   .style = ChoixSegmente::Style::bleu,
-                                                                   .hauteur = 44,
-                                                                   .marge = 5,
-                                                                   .espace = 4,
-                                                                   .largeurMaximale = 230}))
+    : QWidget(parent),
+      choix_(new ChoixSegmente(sites(reglages), {.police = Theme::enGras(Theme::titre3()),
+                                                 .style = ChoixSegmente::Style::bleu,
+                                                 .hauteur = 44,
+                                                 .marge = 5,
+                                                 .espace = 4,
+                                                 .largeurMaximale = 230}))
 {
     auto *rangee = new QHBoxLayout(this);
     rangee->setContentsMargins(0, 0, 0, 0);
@@ -33,10 +34,16 @@ SelecteurSite::SelecteurSite(const Reglages &reglages, QWidget *parent)
     for (int i = 0; i < int(Json::valeursBrutes<Vendeur>.size()); ++i) {
         const Vendeur vendeur = Json::valeursBrutes<Vendeur>[std::size_t(i)].cas;
         choix_->bouton(i)->setAccessibleName(
-            tr("%1, livres de %2").arg(NomsVendeurs::site(vendeur, reglages), NomsVendeurs::complet(vendeur, reglages)));
+            tr("%1, livres de %2")
+                .arg(NomsVendeurs::site(vendeur, reglages), NomsVendeurs::complet(vendeur, reglages)));
     }
     connect(choix_, &ChoixSegmente::choisi, this,
             [this](int indice) { emit choisi(Json::valeursBrutes<Vendeur>[std::size_t(indice)].cas); });
+}
+
+QWidget *SelecteurSite::dernierControle() const
+{
+    return choix_->bouton(static_cast<int>(Json::valeursBrutes<Vendeur>.size()) - 1);
 }
 
 void SelecteurSite::montrer(Vendeur vendeur)

@@ -15,6 +15,8 @@ public:
     explicit SelecteurSite(const Reglages &reglages, QWidget *parent = nullptr);
 
     void montrer(Vendeur vendeur);
+    // The last one that the Tab key reaches.
+    [[nodiscard]] QWidget *dernierControle() const;
 
 signals:
     void choisi(Vendeur vendeur);

@@ -10,9 +10,12 @@ const QString balance = QStringLiteral("scalemass");
 QString libelle(RegionPaypal region)
 {
     switch (region) {
-    case RegionPaypal::eee: return QStringLiteral("Europe (EEE)");
-    case RegionPaypal::royaumeUni: return QStringLiteral("Royaume-Uni");
-    case RegionPaypal::autres: return QStringLiteral("Autre pays");
+    case RegionPaypal::eee:
+        return QStringLiteral("Europe (EEE)");
+    case RegionPaypal::royaumeUni:
+        return QStringLiteral("Royaume-Uni");
+    case RegionPaypal::autres:
+        return QStringLiteral("Autre pays");
     }
     Q_UNREACHABLE();
 }
@@ -21,7 +24,8 @@ QString libelle(RegionPaypal region)
 bool depasseLaGrille(const Calcul &calcul)
 {
     const bool poidsConnu = calcul.poidsPese || calcul.livresNonPeses.isEmpty();
-    return !calcul.lignes.isEmpty() && !calcul.palier && calcul.grille && !calcul.grille->paliers.isEmpty() && poidsConnu;
+    return !calcul.lignes.isEmpty() && !calcul.palier && calcul.grille && !calcul.grille->paliers.isEmpty()
+           && poidsConnu;
 }
 
 } // namespace
@@ -31,7 +35,8 @@ QString TextesRecapitulatif::sousTitre(const Calcul &calcul)
     const int nombre = calcul.nombreDeLivres();
     if (nombre == 0)
         return QStringLiteral("Aucun livre");
-    const QString livres = nombre == 1 ? QStringLiteral("1 livre · ") : QString::number(nombre) + QStringLiteral(" livres · ");
+    const QString livres =
+        nombre == 1 ? QStringLiteral("1 livre · ") : QString::number(nombre) + QStringLiteral(" livres · ");
     return livres + Format::poids(calcul.poidsRetenu);
 }
 
@@ -74,10 +79,12 @@ QList<TextesRecapitulatif::Avertissement> TextesRecapitulatif::avertissementsDeP
                                              .arg(Format::poids(calcul.poidsLivres))});
     if (!calcul.poidsPese)
         for (const Livre &livre : calcul.livresNonPeses)
-            avertissements.append({balance, livre.titre + QStringLiteral(" n’a pas encore été pesé : pesez le colis.")});
+            avertissements.append(
+                {balance, livre.titre + QStringLiteral(" n’a pas encore été pesé : pesez le colis.")});
     if (depasseLaGrille(calcul))
-        avertissements.append({triangle, QStringLiteral("Au-delà de %1, le dernier palier de la grille : faire deux colis.")
-                                             .arg(Format::palier(calcul.grille->paliers.last().jusqua))});
+        avertissements.append(
+            {triangle, QStringLiteral("Au-delà de %1, le dernier palier de la grille : faire deux colis.")
+                           .arg(Format::palier(calcul.grille->paliers.last().jusqua))});
     return avertissements;
 }
 

@@ -45,11 +45,13 @@ void TransitionCartes::jouer(const QList<Instantane> &sortantes, const QList<Ins
         delete transition; // no motion wanted
 }
 
-TransitionCartes::TransitionCartes(const QList<Instantane> &sortantes, const QList<Instantane> &entrantes, QWidget *grille)
+TransitionCartes::TransitionCartes(const QList<Instantane> &sortantes, const QList<Instantane> &entrantes,
+                                   QWidget *grille)
     : QWidget(grille),
       sortantes_(sortantes),
       entrantes_(entrantes),
-      progres_(new Ressort(Ressorts::action, [this](double) { update(); }, this))
+      progres_(new Ressort(
+          Ressorts::action, [this](double) { update(); }, this))
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAutoFillBackground(true);

@@ -33,8 +33,8 @@ constexpr int panneauMaximum = 460;
 
 } // namespace
 
-VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesCouvertures &images, Aujourdhui aujourdhui,
-                         QWidget *parent)
+VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesCouvertures &images,
+                         Aujourdhui aujourdhui, QWidget *parent)
     : QWidget(parent),
       catalogue_(catalogue),
       commande_(commande),
@@ -42,7 +42,7 @@ VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesC
       enTete_(new EnTete(tr("Commande"))),
       reinitialiser_(new QPushButton(Icone::icone(QStringLiteral("arrow.counterclockwise")), tr("Tout réinitialiser"))),
       selecteur_(new SelecteurSite(catalogue.reglages())),
-      grille_(new GrilleLivres(commande, images)),
+      grille_(new GrilleLivres(commande, images, selecteur_->dernierControle())),
       recapitulatif_(new Recapitulatif(catalogue, commande))
 {
     reinitialiser_->setToolTip(tr("Tout réinitialiser : quantités, colis pesé et pays de livraison ; l’emballage et la "
@@ -55,6 +55,7 @@ VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesC
     partage->setChildrenCollapsible(false);
     partage->addWidget(colonneDesLivres());
     partage->addWidget(recapitulatif_);
+    recapitulatif_->raise(); // a splitter lowers what it is given, and a screen reader reads from the lowest up
     partage->setStretchFactor(0, 1);
     partage->setStretchFactor(1, 0);
     partage->setSizes({10 * panneauIdeal, panneauIdeal});

@@ -20,7 +20,8 @@ constexpr double reductionMinimale = 0.8;
 class Segment : public QRadioButton
 {
 public:
-    Segment(const QString &texte, const ChoixSegmente::Apparence &apparence) : QRadioButton(texte), apparence_(apparence)
+    Segment(const QString &texte, const ChoixSegmente::Apparence &apparence)
+        : QRadioButton(texte), apparence_(apparence)
     {
         setFont(apparence.police);
         setFixedHeight(apparence.hauteur);
@@ -74,16 +75,18 @@ private:
 } // namespace
 
 ChoixSegmente::ChoixSegmente(const QStringList &options, const Apparence &apparence, QWidget *parent)
-    : QWidget(parent), apparence_(apparence), position_(new Ressort(
-                                                  Ressorts::action,
-                                                  [this](double position) {
-                                                      for (qsizetype i = 0; i < boutons_.size(); ++i) {
-                                                          const double ecart = std::abs(position - double(i));
-                                                          static_cast<Segment *>(boutons_[i])->eclairer(1 - std::min(1.0, ecart));
-                                                      }
-                                                      update();
-                                                  },
-                                                  this))
+    : QWidget(parent),
+      apparence_(apparence),
+      position_(new Ressort(
+          Ressorts::action,
+          [this](double position) {
+              for (qsizetype i = 0; i < boutons_.size(); ++i) {
+                  const double ecart = std::abs(position - double(i));
+                  static_cast<Segment *>(boutons_[i])->eclairer(1 - std::min(1.0, ecart));
+              }
+              update();
+          },
+          this))
 {
     auto *rangee = new QHBoxLayout(this);
     rangee->setContentsMargins(apparence.marge, apparence.marge, apparence.marge, apparence.marge);

@@ -11,7 +11,8 @@ namespace {
 
 QPixmap dessin(const QString &symbole, const QSize &pixels, const QColor &couleur)
 {
-    const QString cle = QStringLiteral("%1/%2/%3").arg(symbole, QString::number(pixels.width()), couleur.name(QColor::HexArgb));
+    const QString cle =
+        QStringLiteral("%1/%2/%3").arg(symbole, QString::number(pixels.width()), couleur.name(QColor::HexArgb));
     QPixmap image;
     if (QPixmapCache::find(cle, &image))
         return image;

@@ -13,7 +13,9 @@ const QColor bleu(0x2F6FDE);
 } // namespace
 
 Interrupteur::Interrupteur(QWidget *parent)
-    : QCheckBox(parent), position_(new Ressort(Ressorts::action, [this](double) { update(); }, this))
+    : QCheckBox(parent),
+      position_(new Ressort(
+          Ressorts::action, [this](double) { update(); }, this))
 {
     connect(this, &QCheckBox::toggled, this, [this](bool allume) { position_->vers(allume ? 1 : 0); });
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -36,8 +38,8 @@ void Interrupteur::paintEvent(QPaintEvent *)
     const QRectF piste(marge, marge, taille.width(), taille.height());
     const double position = position_->valeur();
     peintre.setPen(Qt::NoPen);
-    peintre.setBrush(Dessin::melange(Dessin::melange(Theme::filet(palette()), Theme::secondaire(palette()), 0.35), bleu,
-                                     position));
+    peintre.setBrush(
+        Dessin::melange(Dessin::melange(Theme::filet(palette()), Theme::secondaire(palette()), 0.35), bleu, position));
     peintre.drawRoundedRect(piste, piste.height() / 2, piste.height() / 2);
 
     const double rayon = piste.height() / 2 - 2;

@@ -24,7 +24,9 @@ int largeur(const QFontMetrics &mesures, const QString &texte)
 } // namespace
 
 NombreRoulant::NombreRoulant(QWidget *parent)
-    : QLabel(parent), progres_(new Ressort(Ressorts::action, [this](double) { update(); }, this))
+    : QLabel(parent),
+      progres_(new Ressort(
+          Ressorts::action, [this](double) { update(); }, this))
 {
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     progres_->placer(1);

@@ -13,7 +13,7 @@ class Ressort : public QAbstractAnimation
 public:
     struct Reglage
     {
-        double reponse = 0.5;       // seconds
+        double reponse = 0.5;        // seconds
         double amortissement = 0.85; // fraction of critical damping, below 1
     };
 

@@ -46,8 +46,9 @@ void contenuDuBouton(const QStyleOptionButton &option, QPainter &peintre)
     option.icon.paint(&peintre, {gauche, option.rect.center().y() - icone / 2, icone, icone}, Qt::AlignCenter,
                       actif ? QIcon::Normal : QIcon::Disabled);
     peintre.setPen(option.palette.color(actif ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
-    peintre.drawText(QRect(gauche + icone + (icone ? espaceIcone : 0), option.rect.top(), texte + 2, option.rect.height()),
-                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextHideMnemonic, option.text);
+    peintre.drawText(
+        QRect(gauche + icone + (icone ? espaceIcone : 0), option.rect.top(), texte + 2, option.rect.height()),
+        Qt::AlignLeft | Qt::AlignVCenter | Qt::TextHideMnemonic, option.text);
 }
 
 void texteDuChoix(const QStyleOptionComboBox &option, QPainter &peintre, const QRect &place)
@@ -103,7 +104,8 @@ void ascenseur(const QStyleOptionSlider &option, QPainter &peintre)
     if (option.maximum <= option.minimum)
         return;
     QColor couleur = option.palette.color(QPalette::WindowText);
-    couleur.setAlphaF(contient(option, QStyle::State_MouseOver) || contient(option, QStyle::State_Sunken) ? 0.45F : 0.22F);
+    couleur.setAlphaF(contient(option, QStyle::State_MouseOver) || contient(option, QStyle::State_Sunken) ? 0.45F
+                                                                                                          : 0.22F);
     const QRectF barre = QRectF(poignee(option)).adjusted(3, 3, -3, -3);
     const double rayon = std::min(barre.width(), barre.height()) / 2;
     peintre.setPen(Qt::NoPen);
@@ -126,21 +128,33 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
     peintre->save();
     peintre->setRenderHint(QPainter::Antialiasing);
     switch (element) {
-    case PE_PanelButtonCommand: bouton(*option, *peintre); break;
-    case PE_PanelLineEdit: champ(*option, *peintre); break;
-    case PE_FrameLineEdit: break;
-    case PE_PanelButtonTool: fondDOutil(*option, *peintre); break;
-    case PE_FrameFocusRect: break; // each control draws its own ring
-    default: QProxyStyle::drawPrimitive(element, option, peintre, widget);
+    case PE_PanelButtonCommand:
+        bouton(*option, *peintre);
+        break;
+    case PE_PanelLineEdit:
+        champ(*option, *peintre);
+        break;
+    case PE_FrameLineEdit:
+        break;
+    case PE_PanelButtonTool:
+        fondDOutil(*option, *peintre);
+        break;
+    case PE_FrameFocusRect:
+        break; // each control draws its own ring
+    default:
+        QProxyStyle::drawPrimitive(element, option, peintre, widget);
     }
     peintre->restore();
 }
 
-void Style::drawControl(ControlElement element, const QStyleOption *option, QPainter *peintre, const QWidget *widget) const
+void Style::drawControl(ControlElement element, const QStyleOption *option, QPainter *peintre,
+                        const QWidget *widget) const
 {
-    if (const auto *bouton = qstyleoption_cast<const QStyleOptionButton *>(option); bouton && element == CE_PushButtonLabel)
+    if (const auto *bouton = qstyleoption_cast<const QStyleOptionButton *>(option);
+        bouton && element == CE_PushButtonLabel)
         contenuDuBouton(*bouton, *peintre);
-    else if (const auto *choix = qstyleoption_cast<const QStyleOptionComboBox *>(option); choix && element == CE_ComboBoxLabel)
+    else if (const auto *choix = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+             choix && element == CE_ComboBoxLabel)
         texteDuChoix(*choix, *peintre, subControlRect(CC_ComboBox, choix, SC_ComboBoxEditField, widget));
     else if (element == CE_Splitter)
         peintre->fillRect(option->rect, Theme::filet(option->palette));
@@ -188,11 +202,16 @@ QRect Style::subControlRect(ComplexControl controle, const QStyleOptionComplex *
         horizontal ? avant.setRight(milieu.left() - 1) : avant.setBottom(milieu.top() - 1);
         horizontal ? apres.setLeft(milieu.right() + 1) : apres.setTop(milieu.bottom() + 1);
         switch (partie) {
-        case SC_ScrollBarSlider: return milieu;
-        case SC_ScrollBarGroove: return option->rect;
-        case SC_ScrollBarSubPage: return avant;
-        case SC_ScrollBarAddPage: return apres;
-        default: return {};
+        case SC_ScrollBarSlider:
+            return milieu;
+        case SC_ScrollBarGroove:
+            return option->rect;
+        case SC_ScrollBarSubPage:
+            return avant;
+        case SC_ScrollBarAddPage:
+            return apres;
+        default:
+            return {};
         }
     }
     if (controle == CC_ComboBox && partie == SC_ComboBoxArrow)
@@ -207,33 +226,49 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption *option, con
 {
     QSize taille = QProxyStyle::sizeFromContents(type, option, contenu, widget);
     switch (type) {
-    case CT_PushButton: return {taille.width() + 16, std::max(taille.height(), contenu.height() + 18)};
-    case CT_ComboBox: return {taille.width() + 10, std::max(taille.height(), contenu.height() + 18)};
-    case CT_LineEdit: return {taille.width(), std::max(hauteurControle, contenu.height() + 12)};
-    case CT_ToolButton: return {taille.width() + 8, std::max(taille.height(), contenu.height() + 14)};
-    default: return taille;
+    case CT_PushButton:
+        return {taille.width() + 16, std::max(taille.height(), contenu.height() + 18)};
+    case CT_ComboBox:
+        return {taille.width() + 10, std::max(taille.height(), contenu.height() + 18)};
+    case CT_LineEdit:
+        return {taille.width(), std::max(hauteurControle, contenu.height() + 12)};
+    case CT_ToolButton:
+        return {taille.width() + 8, std::max(taille.height(), contenu.height() + 14)};
+    default:
+        return taille;
     }
 }
 
 int Style::pixelMetric(PixelMetric mesure, const QStyleOption *option, const QWidget *widget) const
 {
     switch (mesure) {
-    case PM_ScrollBarExtent: return largeurAscenseur;
+    case PM_ScrollBarExtent:
+        return largeurAscenseur;
     case PM_ButtonIconSize:
-    case PM_SmallIconSize: return 16;
+    case PM_SmallIconSize:
+        return 16;
     case PM_ButtonShiftHorizontal:
-    case PM_ButtonShiftVertical: return 0;
-    case PM_SplitterWidth: return 1;
-    default: return QProxyStyle::pixelMetric(mesure, option, widget);
+    case PM_ButtonShiftVertical:
+        return 0;
+    case PM_SplitterWidth:
+        return 1;
+    default:
+        return QProxyStyle::pixelMetric(mesure, option, widget);
     }
 }
 
-int Style::styleHint(StyleHint indice, const QStyleOption *option, const QWidget *widget, QStyleHintReturn *retour) const
+int Style::styleHint(StyleHint indice, const QStyleOption *option, const QWidget *widget,
+                     QStyleHintReturn *retour) const
 {
     switch (indice) {
-    case SH_ScrollBar_LeftClickAbsolutePosition: return 0;
-    case SH_ItemView_ActivateItemOnSingleClick: return 0;
-    case SH_EtchDisabledText: return 0;
-    default: return QProxyStyle::styleHint(indice, option, widget, retour);
+    case SH_ScrollBar_LeftClickAbsolutePosition:
+        return 0;
+    case SH_ItemView_ActivateItemOnSingleClick:
+        return 0;
+    case SH_EtchDisabledText:
+    case SH_UnderlineShortcut:
+        return 0;
+    default:
+        return QProxyStyle::styleHint(indice, option, widget, retour);
     }
 }
