@@ -1,0 +1,51 @@
+#include "ui/commande/SectionDestination.h"
+
+#include "ui/Theme.h"
+#include "ui/commande/TextesRecapitulatif.h"
+#include "ui/commun/Choix.h"
+#include "ui/commun/Interrupteur.h"
+#include "ui/commun/Libelle.h"
+
+SectionDestination::SectionDestination(const QList<Destination> &destinations, Commande &commande, QWidget *parent)
+    : Section(tr("Destination"), {}, parent),
+      commande_(commande),
+      destination_(new Choix),
+      nomComplet_(new Libelle({}, Libelle::Rang::secondaire)),
+      horsUE_(new Interrupteur),
+      rangeeHorsUE_(new Formulaire::Rangee({}, horsUE_)),
+      declaration_(new Libelle({})),
+      rangeeDeclaration_(new Formulaire::Rangee(tr("Déclaration en douane"), declaration_))
+{
+    for (const Destination &destination : destinations)
+        destination_->ajouter(destination.libelleCourt, destination.code);
+    nomComplet_->setFont(Theme::encadre());
+    nomComplet_->setWordWrap(true);
+    rangeeHorsUE_->setDetail(tr("hors Union européenne : déclaration en douane"));
+
+    groupe()->ajouter(new Formulaire::Rangee(tr("Envoi vers"), destination_));
+    groupe()->ajouter(nomComplet_);
+    groupe()->ajouter(rangeeHorsUE_);
+    groupe()->ajouter(rangeeDeclaration_);
+
+    connect(destination_, &Choix::choisi, &commande_, &Commande::setCodeDestination);
+    connect(horsUE_, &QAbstractButton::clicked, &commande_, &Commande::setHorsUE);
+}
+
+void SectionDestination::montrer(const Calcul &calcul)
+{
+    destination_->montrer(commande_.codeDestination());
+    const QString complet = TextesRecapitulatif::destinationComplete(calcul);
+    nomComplet_->setText(complet);
+    nomComplet_->setVisible(!complet.isEmpty());
+
+    const auto exception = calcul.destination ? calcul.destination->douaneSauf : std::nullopt;
+    rangeeHorsUE_->setVisible(exception.has_value());
+    if (exception) {
+        rangeeHorsUE_->setTexte(tr("Colis pour %1").arg(*exception));
+        horsUE_->setAccessibleName(rangeeHorsUE_->libelle()->text());
+    }
+    horsUE_->setChecked(commande_.horsUE());
+
+    rangeeDeclaration_->setVisible(calcul.destination.has_value());
+    declaration_->setText(TextesRecapitulatif::declaration(calcul));
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "model/Calcul.h"
+#include "ui/commun/Formulaire.h"
+
+class Choix;
+class Interrupteur;
+class Libelle;
+
+// Where the parcel goes, and whether customs want a declaration.
+class SectionDestination : public Formulaire::Section
+{
+    Q_OBJECT
+
+public:
+    SectionDestination(const QList<Destination> &destinations, Commande &commande, QWidget *parent = nullptr);
+    void montrer(const Calcul &calcul);
+
+private:
+    Commande &commande_;
+    Choix *destination_;
+    Libelle *nomComplet_;
+    Interrupteur *horsUE_;
+    Formulaire::Rangee *rangeeHorsUE_;
+    Libelle *declaration_;
+    Formulaire::Rangee *rangeeDeclaration_;
+};

@@ -1,0 +1,61 @@
+#include "ui/commande/SectionLien.h"
+
+#include "documents/ReponseType.h"
+#include "ui/commande/TextesRecapitulatif.h"
+#include "ui/commun/ChampACopier.h"
+#include "ui/commun/ChoixSegmente.h"
+#include "ui/commun/Icone.h"
+
+#include <QDesktopServices>
+#include <QLineEdit>
+#include <QPushButton>
+
+SectionLien::SectionLien(const Reglages &reglages, Commande &commande, QWidget *parent)
+    : Section(tr("Lien de paiement PayPal"),
+              tr("Un prix fixe en EUR, Quantité désactivée. Onglet Checkout : adresse de livraison activée. "
+                 "Onglet Confirmation : URL de redirection automatique."),
+              parent),
+      reglages_(reglages),
+      commande_(commande),
+      langue_(new ChoixSegmente({tr("Français"), tr("Anglais")}, {.police = font()})),
+      pays_(new QLineEdit),
+      rangeePays_(new Formulaire::RangeeHaute(tr("Pays de livraison"), pays_)),
+      nomDeLObjet_(new ChampACopier(tr("Nom de l’objet"))),
+      description_(new ChampACopier(tr("Description"))),
+      prix_(new ChampACopier(tr("Prix"))),
+      retour_(new ChampACopier(tr("URL de redirection")))
+{
+    auto *creer =
+        new QPushButton(Icone::icone(QStringLiteral("arrow.up.forward.app")), tr("Créer le lien dans PayPal"));
+    groupe()->ajouter(new Formulaire::RangeeHaute(tr("Langue de l’acheteur"), langue_));
+    groupe()->ajouter(Formulaire::seul(creer));
+    groupe()->ajouter(rangeePays_);
+    for (ChampACopier *champ : {nomDeLObjet_, description_, prix_, retour_})
+        groupe()->ajouter(champ);
+
+    connect(langue_, &ChoixSegmente::choisi, &commande_,
+            [this](int indice) { commande_.setLangue(indice == 0 ? Langue::francais : Langue::anglais); });
+    connect(creer, &QPushButton::clicked, this, [] { QDesktopServices::openUrl(ReponseType::creationDuLien()); });
+    connect(pays_, &QLineEdit::textEdited, &commande_, &Commande::setPaysLivraison);
+}
+
+void SectionLien::montrer(const Calcul &calcul)
+{
+    langue_->montrer(langueAcheteur(commande_, calcul) == Langue::francais ? 0 : 1);
+    if (pays_->text() != commande_.paysLivraison())
+        pays_->setText(commande_.paysLivraison());
+
+    const auto lien = TextesRecapitulatif::lienDePaiement(calcul, reglages_, commande_);
+    rangeePays_->setVisible(lien.has_value());
+    for (ChampACopier *champ : {nomDeLObjet_, description_, prix_})
+        champ->setVisible(lien.has_value());
+    retour_->setVisible(lien && lien->retour);
+    if (!lien)
+        return;
+    rangeePays_->setDetail(lien->indicationDuPays);
+    pays_->setPlaceholderText(lien->paysPropose);
+    nomDeLObjet_->montrer(lien->nomDeLObjet);
+    description_->montrer(lien->description);
+    prix_->montrer(lien->prix, lien->prixAffiche);
+    retour_->montrer(lien->retour.value_or(QString()));
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "model/Calcul.h"
+#include "ui/commun/Formulaire.h"
+
+class ChampACopier;
+class ChoixSegmente;
+class QLineEdit;
+
+// What the seller pastes into PayPal to create the payment link, in the buyer's language.
+class SectionLien : public Formulaire::Section
+{
+    Q_OBJECT
+
+public:
+    // `reglages` is read each time the section is brought up to date.
+    SectionLien(const Reglages &reglages, Commande &commande, QWidget *parent = nullptr);
+    void montrer(const Calcul &calcul);
+
+private:
+    const Reglages &reglages_;
+    Commande &commande_;
+    ChoixSegmente *langue_;
+    QLineEdit *pays_;
+    Formulaire::RangeeHaute *rangeePays_;
+    ChampACopier *nomDeLObjet_;
+    ChampACopier *description_;
+    ChampACopier *prix_;
+    ChampACopier *retour_;
+};

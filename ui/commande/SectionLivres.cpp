@@ -1,0 +1,40 @@
+#include "ui/commande/SectionLivres.h"
+
+#include "model/Format.h"
+#include "ui/Theme.h"
+#include "ui/commande/TextesRecapitulatif.h"
+#include "ui/commun/Libelle.h"
+
+SectionLivres::SectionLivres(QWidget *parent)
+    : Section(tr("Livres"), {}, parent),
+      aucunLivre_(new Libelle(tr("Aucun livre pour l’instant : cliquez sur une couverture ou sur +."),
+                              Libelle::Rang::secondaire)),
+      sousTotal_(tr("Sous-total"))
+{
+    aucunLivre_->setWordWrap(true);
+    sousTotal_.montant->setFont(Theme::enGras(font()));
+    groupe()->ajouter(aucunLivre_);
+    groupe()->ajouter(sousTotal_.rangee);
+}
+
+void SectionLivres::montrer(const Calcul &calcul)
+{
+    const auto textes = TextesRecapitulatif::livres(calcul);
+    while (lignes_.size() < textes.size()) {
+        lignes_.append(RangeeMontant());
+        groupe()->inserer(static_cast<int>(lignes_.size()), lignes_.last().rangee);
+        sousTotal_.rangee->raise(); // last to be read, too
+    }
+    for (qsizetype i = 0; i < lignes_.size(); ++i) {
+        const auto &[montant, rangee] = lignes_[i];
+        rangee->setVisible(i < textes.size());
+        if (i >= textes.size())
+            continue;
+        rangee->setTexte(textes[i].libelle);
+        rangee->setDetail(textes[i].detail);
+        montant->afficher(textes[i].valeur);
+    }
+    aucunLivre_->setVisible(textes.isEmpty());
+    sousTotal_.rangee->setVisible(!textes.isEmpty());
+    sousTotal_.montant->afficher(Format::euros(calcul.sousTotal));
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "model/Calcul.h"
+#include "ui/commande/RangeeMontant.h"
+
+// Postage, total, PayPal's fee and what remains.
+class SectionMontants : public Formulaire::Section
+{
+    Q_OBJECT
+
+public:
+    // `reglages` is read each time the section is brought up to date.
+    explicit SectionMontants(const Reglages &reglages, QWidget *parent = nullptr);
+    void montrer(const Calcul &calcul);
+
+private:
+    const Reglages &reglages_;
+    RangeeMontant envoi_;
+    NombreRoulant *total_;
+    RangeeMontant frais_;
+    RangeeMontant reste_;
+};

@@ -1,0 +1,128 @@
+#include "ui/commande/SectionPoids.h"
+
+#include "model/Format.h"
+#include "ui/Theme.h"
+#include "ui/commande/TextesRecapitulatif.h"
+#include "ui/commun/Alerte.h"
+#include "ui/commun/ChampEntier.h"
+#include "ui/commun/Choix.h"
+#include "ui/commun/Libelle.h"
+
+#include <QHBoxLayout>
+
+namespace {
+
+ChampEntier *champEnGrammes(const QString &nom)
+{
+    auto *champ = new ChampEntier(ChampEntier::tr("grammes"));
+    champ->setAccessibleName(ChampEntier::tr("%1, en grammes").arg(nom));
+    return champ;
+}
+
+// The field with its unit behind it.
+QWidget *avecUnite(ChampEntier *champ)
+{
+    auto *ensemble = new QWidget;
+    auto *rangee = new QHBoxLayout(ensemble);
+    rangee->setContentsMargins(0, 0, 0, 0);
+    rangee->setSpacing(6);
+    rangee->addWidget(champ);
+    rangee->addWidget(new Libelle(QStringLiteral("g"), Libelle::Rang::secondaire));
+    return ensemble;
+}
+
+Choix *choixDEmballage(const QList<Emballage> &emballages)
+{
+    auto *choix = new Choix;
+    for (const Emballage &emballage : emballages)
+        choix->ajouter(TextesRecapitulatif::emballage(emballage), emballage.nom);
+    choix->insertSeparator(choix->count());
+    choix->ajouter(Commande::autrePoids(), Commande::autrePoids());
+    return choix;
+}
+
+} // namespace
+
+SectionPoids::SectionPoids(const QList<Emballage> &emballages, Commande &commande, QWidget *parent)
+    : Section(tr("Poids"), {}, parent),
+      commande_(commande),
+      poidsLivres_(tr("Livres")),
+      emballage_(choixDEmballage(emballages)),
+      poidsLibre_(champEnGrammes(tr("Poids de l’emballage"))),
+      rangeePoidsLibre_(new Formulaire::Rangee(tr("Poids de l’emballage"), avecUnite(poidsLibre_))),
+      poidsCalcule_(tr("Poids calculé")),
+      poidsPese_(champEnGrammes(tr("Colis pesé"))),
+      avertissements_(new QWidget)
+{
+    poidsPese_->setPlaceholderText(QStringLiteral("—"));
+    poidsPese_->setFont(Theme::enGras(font()));
+    auto *colisPese = new Formulaire::Rangee(tr("Colis pesé"), avecUnite(poidsPese_));
+    colisPese->setDetail(tr("emballage compris ; remplace le poids calculé"));
+    auto *lignes = new QVBoxLayout(avertissements_);
+    lignes->setContentsMargins(0, 0, 0, 0);
+    lignes->setSpacing(10);
+
+    groupe()->ajouter(poidsLivres_.rangee);
+    groupe()->ajouter(new Formulaire::Rangee(tr("Emballage"), emballage_));
+    groupe()->ajouter(rangeePoidsLibre_);
+    groupe()->ajouter(poidsCalcule_.rangee);
+    groupe()->ajouter(colisPese);
+    groupe()->ajouter(palier_.rangee);
+    groupe()->ajouter(avertissements_);
+
+    connect(emballage_, &Choix::choisi, &commande_, &Commande::setEmballage);
+    connect(poidsLibre_, &ChampEntier::saisie, &commande_,
+            [this](std::optional<qint64> grammes) { commande_.setPoidsEmballageLibre(Grammes{grammes.value_or(0)}); });
+    connect(poidsPese_, &ChampEntier::saisie, &commande_, [this](std::optional<qint64> grammes) {
+        commande_.setPoidsPese(grammes ? std::optional(Grammes{*grammes}) : std::nullopt);
+    });
+}
+
+void SectionPoids::montrer(const Calcul &calcul)
+{
+    poidsLivres_.montant->afficher(Format::poids(calcul.poidsLivres));
+    emballage_->montrer(commande_.emballage());
+    rangeePoidsLibre_->setVisible(commande_.emballage() == Commande::autrePoids());
+    poidsLibre_->montrer(commande_.poidsEmballageLibre().valeur());
+    montrerPoidsCalcule(calcul);
+    const auto pese = commande_.poidsPese();
+    poidsPese_->montrer(pese ? std::optional(pese->valeur()) : std::nullopt);
+
+    const auto palier = TextesRecapitulatif::palier(calcul);
+    palier_.rangee->setVisible(palier.has_value());
+    if (palier) {
+        palier_.rangee->setTexte(palier->libelle);
+        palier_.rangee->setDetail(palier->detail);
+        palier_.montant->afficher(palier->valeur);
+    }
+    montrerAvertissements(calcul);
+}
+
+// Once the parcel is weighed, the computed weight no longer counts: struck through, not hidden.
+void SectionPoids::montrerPoidsCalcule(const Calcul &calcul)
+{
+    const bool pese = calcul.poidsPese.has_value();
+    QFont police = Theme::enGras(font(), pese ? QFont::Normal : QFont::DemiBold);
+    police.setStrikeOut(pese);
+    poidsCalcule_.montant->setFont(police);
+    poidsCalcule_.montant->setForegroundRole(pese ? QPalette::PlaceholderText : QPalette::WindowText);
+    poidsCalcule_.montant->afficher(Format::poids(calcul.poidsCalcule));
+}
+
+void SectionPoids::montrerAvertissements(const Calcul &calcul)
+{
+    const auto avertissements = TextesRecapitulatif::avertissementsDePesee(calcul);
+    QStringList textes;
+    for (const auto &avertissement : avertissements)
+        textes.append(avertissement.texte);
+    avertissements_->setVisible(!textes.isEmpty());
+    if (textes == avertissementsMontres_)
+        return;
+    avertissementsMontres_ = textes;
+    qDeleteAll(avertissements_->findChildren<Alerte *>(Qt::FindDirectChildrenOnly));
+    for (const auto &avertissement : avertissements) {
+        auto *alerte = new Alerte(avertissement.symbole, avertissement.texte);
+        avertissements_->layout()->addWidget(alerte);
+        alerte->show(); // now: a layout would show it one turn of the event loop later
+    }
+}

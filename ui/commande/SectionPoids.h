@@ -1,0 +1,32 @@
+#pragma once
+
+#include "model/Calcul.h"
+#include "ui/commande/RangeeMontant.h"
+
+class ChampEntier;
+class Choix;
+
+// The weights, the packaging, the weighed parcel and what to beware of.
+class SectionPoids : public Formulaire::Section
+{
+    Q_OBJECT
+
+public:
+    SectionPoids(const QList<Emballage> &emballages, Commande &commande, QWidget *parent = nullptr);
+    void montrer(const Calcul &calcul);
+
+private:
+    void montrerPoidsCalcule(const Calcul &calcul);
+    void montrerAvertissements(const Calcul &calcul);
+
+    Commande &commande_;
+    RangeeMontant poidsLivres_;
+    Choix *emballage_;
+    ChampEntier *poidsLibre_;
+    QWidget *rangeePoidsLibre_;
+    RangeeMontant poidsCalcule_;
+    ChampEntier *poidsPese_;
+    RangeeMontant palier_;
+    QWidget *avertissements_;
+    QStringList avertissementsMontres_;
+};
