@@ -124,7 +124,7 @@ QString ReponseType::descriptionDuLien() const
     for (const Calcul::Ligne &ligne : calcul.lignes)
         livres.append(ligne.livre.titre
                       + (ligne.quantite > 1 ? QStringLiteral(" × ") + QString::number(ligne.quantite) : QString()));
-    const QString vers = pays.trimmed().isEmpty() ? libelleCourt(calcul.destination, langue) : pays.trimmed();
+    const QString vers = pays.trimmed().isEmpty() ? libelleCourt(calcul.destination, langue) : pays;
     return livres.join(u'\n') + QStringLiteral("\n\n") + phrases(langue).prixComprend + vers + u'.';
 }
 

@@ -56,23 +56,34 @@ PrixParDestination &creeAuBesoin(std::optional<PrixParDestination> &prix)
     return prix ? *prix : prix.emplace();
 }
 
+Reglages reglagesAvecFrais(const Ressources &ressources, Stockage &stockage)
+{
+    auto reglages = ressources.lire<Reglages>(QStringLiteral("reglages"));
+    if (const auto frais = stockage.lire<FraisPaypal>(fichierDesFrais()))
+        reglages.fraisPaypal = *frais;
+    return reglages;
+}
+
+QList<Livre> livresModifies(const Ressources &ressources, Stockage &stockage)
+{
+    auto livres = ressources.lire<QList<Livre>>(QStringLiteral("livres"));
+    const auto modifications = stockage.lire<ModificationsLivres>(fichierDesLivres()).value_or(ModificationsLivres{});
+    for (Livre &livre : livres)
+        if (const auto trouvee = modifications.find(QString::number(livre.id)); trouvee != modifications.end())
+            trouvee->appliquer(livre);
+    return livres;
+}
+
 } // namespace
 
 Catalogue::Catalogue(const Ressources &ressources, Stockage stockage)
     : ressources_(ressources),
       stockage_(std::move(stockage)),
-      livres_(ressources.lire<QList<Livre>>(QStringLiteral("livres"))),
       grillesConnues_(fusion(ressources.tarifs(), stockage_.grillesEnregistrees())),
-      destinations_(ressources.lire<QList<Destination>>(QStringLiteral("destinations"))),
-      reglages_(ressources.lire<Reglages>(QStringLiteral("reglages")))
+      reglages_(reglagesAvecFrais(ressources, stockage_)),
+      livres_(livresModifies(ressources, stockage_)),
+      destinations_(ressources.lire<QList<Destination>>(QStringLiteral("destinations")))
 {
-    if (const auto frais = stockage_.lire<FraisPaypal>(fichierDesFrais()))
-        reglages_.fraisPaypal = *frais;
-    if (const auto modifications = stockage_.lire<ModificationsLivres>(fichierDesLivres()))
-        for (Livre &livre : livres_)
-            if (const auto modification = modifications->find(QString::number(livre.id));
-                modification != modifications->end())
-                modification->appliquer(livre);
 }
 
 std::unique_ptr<Catalogue> Catalogue::charge(const Ressources &ressources, Stockage stockage)
@@ -113,21 +124,28 @@ std::optional<Destination> Catalogue::destination(const QString &code) const
     return trouvee == destinations_.end() ? std::nullopt : std::optional(*trouvee);
 }
 
+template <typename T>
+void Catalogue::adopter(T &champ, const T &valeur)
+{
+    if (champ == valeur)
+        return;
+    champ = valeur;
+    emit change();
+}
+
 void Catalogue::enregistrer(const TarifsColissimo &tarifs)
 {
     stockage_.ecrire(tarifs, fichierDes(tarifs));
-    grillesConnues_.removeIf([&](const TarifsColissimo &connus) { return connus.validite == tarifs.validite; });
-    grillesConnues_.append(tarifs);
-    emit change();
+    auto connues = grillesConnues_;
+    connues.removeIf([&](const TarifsColissimo &connus) { return connus.validite == tarifs.validite; });
+    connues.append(tarifs);
+    adopter(grillesConnues_, connues);
 }
 
 void Catalogue::enregistrer(const FraisPaypal &frais)
 {
     stockage_.ecrire(frais, fichierDesFrais());
-    if (reglages_.fraisPaypal == frais)
-        return;
-    reglages_.fraisPaypal = frais;
-    emit change();
+    adopter(reglages_.fraisPaypal, frais);
 }
 
 void Catalogue::enregistrerLivres()
@@ -164,11 +182,8 @@ void Catalogue::reporter(const Livre &livre, const QList<PrixBouton> &lignes)
 void Catalogue::revenirAuxValeursLivrees()
 {
     const auto livres = ressources_.lire<QList<Livre>>(QStringLiteral("livres"));
-    stockage_.effacer<ModificationsLivres>(fichierDesLivres());
-    if (livres_ == livres)
-        return;
-    livres_ = livres;
-    emit change();
+    stockage_.effacer(fichierDesLivres());
+    adopter(livres_, livres);
 }
 
 void Catalogue::ecrireLivres(const QList<Livre> &livres)
@@ -177,8 +192,5 @@ void Catalogue::ecrireLivres(const QList<Livre> &livres)
     for (const Livre &livre : livres)
         modifications.insert(QString::number(livre.id), ModificationLivre::de(livre));
     stockage_.ecrire(modifications, fichierDesLivres());
-    if (livres_ == livres)
-        return;
-    livres_ = livres;
-    emit change();
+    adopter(livres_, livres);
 }

@@ -56,11 +56,14 @@ signals:
 private:
     Catalogue(const Ressources &ressources, Stockage stockage);
     void ecrireLivres(const QList<Livre> &livres);
+    template <typename T>
+    void adopter(T &champ, const T &valeur);
 
     Ressources ressources_;
     Stockage stockage_;
-    QList<Livre> livres_;
+    // In the order in which they are loaded.
     QList<TarifsColissimo> grillesConnues_;
-    QList<Destination> destinations_;
     Reglages reglages_;
+    QList<Livre> livres_;
+    QList<Destination> destinations_;
 };

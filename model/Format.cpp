@@ -143,6 +143,7 @@ QString Format::iso(QDate jour)
 QString Format::date(QDate jour)
 {
     static const std::unique_ptr<const icu::SimpleDateFormat> formateur = formateurDeDate();
+    Q_ASSERT(jour.isValid());
     const QDateTime midi(jour, QTime(12, 0), Qt::UTC);
     icu::UnicodeString sortie;
     const QString texte = versTexte(formateur->format(static_cast<UDate>(midi.toMSecsSinceEpoch()), sortie));

@@ -18,36 +18,31 @@ void Lieu::refuser(const QString &raison) const
     throw Erreur(QStringLiteral("%1 : %2").arg(chemin(), raison));
 }
 
-namespace {
-
-// A key that is not there reads better as missing than as "entier attendu".
-void exiger(bool bonne, const QJsonValue &json, const Lieu &lieu, const QString &attendu)
+void Lieu::exiger(bool bonne, const QJsonValue &json, const QString &attendu) const
 {
     if (json.isUndefined())
-        lieu.refuser(QStringLiteral("valeur manquante"));
+        refuser(QStringLiteral("valeur manquante"));
     if (!bonne)
-        lieu.refuser(attendu);
+        refuser(attendu);
 }
-
-} // namespace
 
 void lire(const QJsonValue &json, const Lieu &lieu, qint64 &valeur)
 {
-    exiger(json.isDouble(), json, lieu, QStringLiteral("entier attendu"));
+    lieu.exiger(json.isDouble(), json, QStringLiteral("entier attendu"));
     // toInteger gives its argument back for a number that no 64-bit integer holds exactly.
     valeur = json.toInteger(0);
-    exiger(valeur == json.toInteger(1), json, lieu, QStringLiteral("entier attendu"));
+    lieu.exiger(valeur == json.toInteger(1), json, QStringLiteral("entier attendu"));
 }
 
 void lire(const QJsonValue &json, const Lieu &lieu, bool &valeur)
 {
-    exiger(json.isBool(), json, lieu, QStringLiteral("true ou false attendu"));
+    lieu.exiger(json.isBool(), json, QStringLiteral("true ou false attendu"));
     valeur = json.toBool();
 }
 
 void lire(const QJsonValue &json, const Lieu &lieu, QString &valeur)
 {
-    exiger(json.isString(), json, lieu, QStringLiteral("texte attendu"));
+    lieu.exiger(json.isString(), json, QStringLiteral("texte attendu"));
     valeur = json.toString();
 }
 
@@ -55,8 +50,8 @@ void lire(const QJsonValue &json, const Lieu &lieu, QUrl &valeur)
 {
     QString texte;
     lire(json, lieu, texte);
-    valeur = QUrl(texte, QUrl::StrictMode);
-    if (!valeur.isValid() || valeur.isRelative())
+    valeur = QUrl(texte);
+    if (!valeur.isValid() || valeur.scheme().isEmpty() || valeur.host().isEmpty())
         lieu.refuser(QStringLiteral("adresse web complète attendue"));
 }
 

@@ -68,6 +68,8 @@ public:
     Lieu(const Lieu &parent, qsizetype indice) : parent_(&parent), indice_(indice) {}
 
     [[noreturn]] void refuser(const QString &raison) const;
+    // Refuses a value of the wrong kind; one that is not there reads better as missing.
+    void exiger(bool bonne, const QJsonValue &json, const QString &attendu) const;
 
 private:
     [[nodiscard]] QString chemin() const;
@@ -169,6 +171,8 @@ void lire(const QJsonValue &json, const Lieu &lieu, Quantite<Unite> &valeur)
 {
     qint64 nombre = 0;
     lire(json, lieu, nombre);
+    if (nombre < -Unite::maximum || nombre > Unite::maximum)
+        lieu.refuser(QStringLiteral("valeur hors limites"));
     valeur = Quantite<Unite>{nombre};
 }
 
@@ -186,8 +190,7 @@ void lire(const QJsonValue &json, const Lieu &lieu, Enum &valeur)
 template <EstEnregistrement Enregistrement>
 void lire(const QJsonValue &json, const Lieu &lieu, Enregistrement &valeur)
 {
-    if (!json.isObject())
-        lieu.refuser(QStringLiteral("objet attendu"));
+    lieu.exiger(json.isObject(), json, QStringLiteral("objet attendu"));
     const QJsonObject objet = json.toObject();
     const auto lireChamp = [&](const auto &champ) {
         const QString cle = QString::fromLatin1(champ.cle);
@@ -208,8 +211,7 @@ void lire(const QJsonValue &json, const Lieu &lieu, std::optional<T> &valeur)
 template <typename T>
 void lire(const QJsonValue &json, const Lieu &lieu, QList<T> &valeur)
 {
-    if (!json.isArray())
-        lieu.refuser(QStringLiteral("liste attendue"));
+    lieu.exiger(json.isArray(), json, QStringLiteral("liste attendue"));
     const QJsonArray liste = json.toArray();
     valeur.resize(liste.size());
     for (qsizetype i = 0; i < liste.size(); ++i)
@@ -219,8 +221,7 @@ void lire(const QJsonValue &json, const Lieu &lieu, QList<T> &valeur)
 template <typename T>
 void lire(const QJsonValue &json, const Lieu &lieu, QMap<QString, T> &valeur)
 {
-    if (!json.isObject())
-        lieu.refuser(QStringLiteral("objet attendu"));
+    lieu.exiger(json.isObject(), json, QStringLiteral("objet attendu"));
     const QJsonObject objet = json.toObject();
     for (auto entree = objet.begin(); entree != objet.end(); ++entree)
         lire(entree.value(), Lieu(lieu, entree.key()), valeur[entree.key()]);

@@ -50,7 +50,21 @@ private:
     qint64 valeur_ = 0;
 };
 
-using Centimes = Quantite<struct UniteCentime>;
-using Grammes = Quantite<struct UniteGramme>;
+// The most that a data file may hold of each unit: what any order can make of it stays far below 64 bits.
+struct UniteCentime
+{
+    static constexpr qint64 maximum = 9'999'999;
+};
+struct UniteGramme
+{
+    static constexpr qint64 maximum = 999'999;
+};
+struct UniteCentiemeDePourcent
+{
+    static constexpr qint64 maximum = 10'000;
+};
+
+using Centimes = Quantite<UniteCentime>;
+using Grammes = Quantite<UniteGramme>;
 // Hundredths of a percent: 290 is 2,90 %.
-using Taux = Quantite<struct UniteCentiemeDePourcent>;
+using Taux = Quantite<UniteCentiemeDePourcent>;

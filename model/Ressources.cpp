@@ -1,5 +1,7 @@
 #include "model/Ressources.h"
 
+#include "model/CauseSysteme.h"
+
 #include <QCoreApplication>
 #include <QFile>
 
@@ -16,7 +18,7 @@ QList<TarifsColissimo> Ressources::tarifs() const
 {
     QList<TarifsColissimo> tarifs;
     const QStringList fichiers =
-        dossier_.entryList({QStringLiteral("tarifs-colissimo-*.json")}, QDir::Files, QDir::Name);
+        dossier_.entryList({QStringLiteral("tarifs-colissimo-*.json")}, QDir::Files | QDir::CaseSensitive, QDir::Name);
     for (const QString &fichier : fichiers)
         tarifs.append(lire<TarifsColissimo>(fichier.chopped(5)));
     if (tarifs.isEmpty())
@@ -27,9 +29,10 @@ QList<TarifsColissimo> Ressources::tarifs() const
 QByteArray Ressources::octets(const QString &fichier) const
 {
     QFile source(dossier_.filePath(fichier));
-    if (!source.exists())
-        throw RessourceIllisible(fichier + QStringLiteral(" : fichier introuvable"));
-    if (!source.open(QIODevice::ReadOnly))
-        throw RessourceIllisible(fichier + QStringLiteral(" : ") + source.errorString());
-    return source.readAll();
+    QByteArray contenu;
+    if (source.open(QIODevice::ReadOnly))
+        contenu = source.readAll();
+    if (source.error() != QFile::NoError)
+        throw RessourceIllisible(fichier + QStringLiteral(" : ") + CauseSysteme::enFrancais(source.errorString()));
+    return contenu;
 }

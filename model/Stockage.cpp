@@ -1,41 +1,15 @@
 #include "model/Stockage.h"
 
+#include "model/CauseSysteme.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QStandardPaths>
 
-#include <cerrno>
+#include <filesystem>
 
 namespace {
-
-struct Cause
-{
-    int code;
-    const char *phrase;
-};
-
-constexpr Cause causes[] = {
-    {ENOSPC, "le disque est plein"},
-    {EDQUOT, "l’espace disque alloué est épuisé"},
-    {EFBIG, "le fichier dépasse la taille permise"},
-    {EACCES, "l’écriture n’y est pas permise"},
-    {EPERM, "l’écriture n’y est pas permise"},
-    {EROFS, "le disque est en lecture seule"},
-    {ENOTDIR, "un fichier occupe la place du dossier"},
-    {EEXIST, "un fichier occupe la place du dossier"},
-    {EISDIR, "un dossier occupe la place du fichier"},
-    {EIO, "le disque ne répond pas correctement"},
-};
-
-// Qt keeps only the system's sentence, in the system's language: the one of each known code tells which it was.
-QString enFrancais(const QString &erreurSysteme)
-{
-    for (const Cause &cause : causes)
-        if (erreurSysteme == qt_error_string(cause.code))
-            return QString::fromUtf8(cause.phrase);
-    return erreurSysteme;
-}
 
 // A full disk first takes a part of the bytes and says why only when asked to take the rest; a buffered QSaveFile
 // would even commit that part.
@@ -56,6 +30,24 @@ bool toutEcrire(QIODevice &fichier, const QByteArray &octets)
     throw ErreurStockage(QStringLiteral("%1 : %2").arg(QDir::toNativeSeparators(chemin), raison));
 }
 
+// QSaveFile words the refusal of an existing file itself; opening that file says what the system holds against it.
+QString raisonDuRefus(const QSaveFile &fichier)
+{
+    QFile existant(fichier.fileName());
+    if (existant.exists() && !existant.open(QIODevice::ReadWrite))
+        return CauseSysteme::enFrancais(existant.errorString());
+    return CauseSysteme::enFrancais(fichier.errorString());
+}
+
+bool existe(const QString &chemin)
+{
+    std::error_code erreur;
+    const auto statut = std::filesystem::status(chemin.toStdString(), erreur);
+    if (statut.type() == std::filesystem::file_type::none)
+        echouer(chemin, CauseSysteme::enFrancais(erreur));
+    return statut.type() != std::filesystem::file_type::not_found;
+}
+
 } // namespace
 
 Stockage Stockage::deLUtilisateur()
@@ -64,10 +56,11 @@ Stockage Stockage::deLUtilisateur()
     return Stockage(QDir(donnees.filePath(QStringLiteral("Quillet"))));
 }
 
-QList<TarifsColissimo> Stockage::grillesEnregistrees() const
+QList<TarifsColissimo> Stockage::grillesEnregistrees()
 {
     QList<TarifsColissimo> grilles;
-    const QStringList noms = dossier_.entryList({QStringLiteral("tarifs-colissimo-*.json")}, QDir::Files, QDir::Name);
+    const QStringList noms =
+        dossier_.entryList({QStringLiteral("tarifs-colissimo-*.json")}, QDir::Files | QDir::CaseSensitive, QDir::Name);
     for (const QString &nom : noms)
         if (const auto tarifs = lire<TarifsColissimo>(nom))
             grilles.append(*tarifs);
@@ -83,33 +76,55 @@ std::optional<QByteArray> Stockage::octets(const QString &nom) const
     return fichier.error() == QFile::NoError ? std::optional(contenu) : std::nullopt;
 }
 
-void Stockage::ecrireOctets(const QByteArray &octets, const QString &nom) const
+void Stockage::remplacer(const QString &nom, const QByteArray &octets)
 {
-    const QFileInfo place(dossier_.absolutePath());
-    if (place.exists() && !place.isDir())
-        echouer(place.filePath(), QString::fromUtf8("un fichier occupe la place du dossier"));
-    if (!dossier_.mkpath(QStringLiteral(".")))
-        echouer(place.filePath(), QString::fromUtf8("ce dossier ne peut pas être créé"));
+    const QString chemin = dossier_.absolutePath();
+    std::error_code erreur;
+    std::filesystem::create_directories(chemin.toStdString(), erreur);
+    if (erreur)
+        echouer(chemin, CauseSysteme::enFrancais(erreur));
+    preserver(nom);
+    ecrireOctets(nom, octets);
+    compris_.insert(nom, octets);
+}
 
+void Stockage::ecrireOctets(const QString &nom, const QByteArray &octets) const
+{
     QSaveFile fichier(dossier_.filePath(nom));
-    if (!fichier.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !toutEcrire(fichier, octets)
-        || !fichier.commit())
-        echouer(fichier.fileName(), enFrancais(fichier.errorString()));
+    if (!fichier.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        echouer(fichier.fileName(), raisonDuRefus(fichier));
+    if (!toutEcrire(fichier, octets) || !fichier.commit())
+        echouer(fichier.fileName(), CauseSysteme::enFrancais(fichier.errorString()));
 }
 
-void Stockage::effacerFichier(const QString &nom) const
+void Stockage::effacer(const QString &nom)
 {
-    QFile fichier(dossier_.filePath(nom));
-    if (fichier.exists() && !fichier.remove())
-        echouer(fichier.fileName(), enFrancais(fichier.errorString()));
+    preserver(nom);
+    const QString chemin = dossier_.filePath(nom);
+    std::error_code erreur;
+    std::filesystem::remove(chemin.toStdString(), erreur);
+    if (erreur)
+        echouer(chemin, CauseSysteme::enFrancais(erreur));
+    compris_.remove(nom);
 }
 
-void Stockage::copierAPart(const QString &nom) const
+void Stockage::preserver(const QString &nom) const
 {
     const QString chemin = dossier_.filePath(nom);
-    QString copie = chemin + QStringLiteral(".illisible");
-    for (int numero = 2; QFileInfo::exists(copie); ++numero)
-        copie = QStringLiteral("%1.illisible-%2").arg(chemin).arg(numero);
-    if (!QFile::copy(chemin, copie))
-        echouer(chemin, QString::fromUtf8("ce fichier est illisible et ne peut pas être mis de côté"));
+    if (!existe(chemin))
+        return;
+    const auto contenu = octets(nom);
+    if (!contenu)
+        echouer(chemin, QFileInfo(chemin).isDir()
+                            ? QStringLiteral("un dossier occupe la place du fichier")
+                            : QStringLiteral("ce qui s’y trouve ne peut pas être lu, et n’est donc pas remplacé"));
+    if (const auto connu = compris_.constFind(nom); connu != compris_.constEnd() && *connu == *contenu)
+        return;
+    QString copie = nom + QStringLiteral(".illisible");
+    for (int numero = 2; existe(dossier_.filePath(copie)); ++numero) {
+        if (octets(copie) == contenu)
+            return; // already kept, by an attempt whose write then failed
+        copie = QStringLiteral("%1.illisible-%2").arg(nom, QString::number(numero));
+    }
+    ecrireOctets(copie, *contenu);
 }

@@ -4,6 +4,7 @@
 #include "model/Tarifs.h"
 
 #include <QDir>
+#include <QHash>
 #include <QString>
 
 #include <optional>
@@ -17,8 +18,8 @@ public:
     [[nodiscard]] QString texte() const { return QString::fromUtf8(what()); }
 };
 
-// The user's folder of JSON files. Files are written whole or not at all, and a file that this program cannot
-// read is copied aside before anything replaces or deletes it.
+// The user's folder of JSON files. Files are written whole or not at all, and a file that this program did not
+// understand, or that somebody else changed meanwhile, is copied aside before anything replaces or deletes it.
 class Stockage
 {
 public:
@@ -28,13 +29,15 @@ public:
 
     // None when the file is missing or cannot be read as a T.
     template <typename T>
-    [[nodiscard]] std::optional<T> lire(const QString &nom) const
+    [[nodiscard]] std::optional<T> lire(const QString &nom)
     {
         const auto contenu = octets(nom);
         if (!contenu)
             return std::nullopt;
         try {
-            return Json::decoder<T>(*contenu, nom);
+            T valeur = Json::decoder<T>(*contenu, nom);
+            compris_.insert(nom, *contenu);
+            return valeur;
         } catch (const Json::Erreur &) {
             return std::nullopt; // a user's file is optional: shipped values stand
         }
@@ -42,35 +45,23 @@ public:
 
     // Throws ErreurStockage; the file is then as it was.
     template <typename T>
-    void ecrire(const T &valeur, const QString &nom) const
+    void ecrire(const T &valeur, const QString &nom)
     {
-        preserver<T>(nom);
-        ecrireOctets(Json::encoder(valeur), nom);
+        remplacer(nom, Json::encoder(valeur));
     }
 
     // A missing file is no error. Throws ErreurStockage; the file is then as it was.
-    template <typename T>
-    void effacer(const QString &nom) const
-    {
-        preserver<T>(nom);
-        effacerFichier(nom);
-    }
+    void effacer(const QString &nom);
 
     // Every saved schedule that can be read, by file name.
-    [[nodiscard]] QList<TarifsColissimo> grillesEnregistrees() const;
+    [[nodiscard]] QList<TarifsColissimo> grillesEnregistrees();
 
 private:
-    template <typename T>
-    void preserver(const QString &nom) const
-    {
-        if (dossier_.exists(nom) && !lire<T>(nom))
-            copierAPart(nom);
-    }
-
     [[nodiscard]] std::optional<QByteArray> octets(const QString &nom) const;
-    void ecrireOctets(const QByteArray &octets, const QString &nom) const;
-    void effacerFichier(const QString &nom) const;
-    void copierAPart(const QString &nom) const;
+    void remplacer(const QString &nom, const QByteArray &octets);
+    void ecrireOctets(const QString &nom, const QByteArray &octets) const;
+    void preserver(const QString &nom) const;
 
     QDir dossier_;
+    QHash<QString, QByteArray> compris_; // what each file held when it was last read or written here
 };

@@ -82,6 +82,8 @@ void TestReponse::corpsEnAnglaisEtDouane()
                 .contains(QStringLiteral("suivi.\n\nLe colis passe en douane : des taxes d’importation peuvent vous "
                                          "être demandées à la livraison.\n\nBien cordialement")));
     QVERIFY(cas.reponse(Langue::francais).corps().contains(QStringLiteral("[lien]")));
+    cas.commande.setCodeDestination(QStringLiteral("mars"));
+    QVERIFY(cas.reponse(Langue::francais).corps().contains(QStringLiteral("Envoi via Colissimo () : —")));
 }
 
 void TestReponse::sujet()
@@ -101,16 +103,16 @@ void TestReponse::objetEtDescription()
     QCOMPARE(cas.reponse(Langue::francais).nomDeLObjet(), QStringLiteral("Éditions Davrel – 0 book"));
     cas.commande.ajuster(cas.banc.livres[0], 1);
     QCOMPARE(cas.reponse(Langue::francais).nomDeLObjet(), QStringLiteral("Éditions Davrel – 1 book"));
-    cas.commande.ajuster(cas.banc.livres[1], 3);
+    cas.commande.ajuster(cas.banc.livres[1], 2);
     cas.commande.setCodeDestination(QStringLiteral("ue"));
-    QCOMPARE(cas.reponse(Langue::francais).nomDeLObjet(), QStringLiteral("Éditions Davrel – 4 books"));
+    QCOMPARE(cas.reponse(Langue::francais).nomDeLObjet(), QStringLiteral("Éditions Davrel – 3 books"));
     QCOMPARE(cas.reponse(Langue::francais).descriptionDuLien(),
-             QStringLiteral("Livre 1\nLivre 2 × 3\n\nLe prix comprend les livres et l’envoi vers Union européenne."));
+             QStringLiteral("Livre 1\nLivre 2 × 2\n\nLe prix comprend les livres et l’envoi vers Union européenne."));
     cas.commande.setPaysLivraison(QStringLiteral(" \n"));
     QCOMPARE(cas.reponse(Langue::anglais).descriptionDuLien(),
-             QStringLiteral("Livre 1\nLivre 2 × 3\n\nPrice includes books and shipping to European Union."));
+             QStringLiteral("Livre 1\nLivre 2 × 2\n\nPrice includes books and shipping to European Union."));
     cas.commande.setPaysLivraison(QStringLiteral("la Belgique "));
-    QVERIFY(cas.reponse(Langue::francais).descriptionDuLien().endsWith(QStringLiteral("vers la Belgique.")));
+    QVERIFY(cas.reponse(Langue::francais).descriptionDuLien().endsWith(QStringLiteral("vers la Belgique .")));
 }
 
 void TestReponse::langueDeLAcheteur_data()
@@ -118,6 +120,8 @@ void TestReponse::langueDeLAcheteur_data()
     QTest::addColumn<QString>("destination");
     QTest::addColumn<Langue>("attendue");
     QTest::newRow("France") << QStringLiteral("france") << Langue::francais;
+    QTest::newRow("OM1") << QStringLiteral("om1") << Langue::francais;
+    QTest::newRow("OM2") << QStringLiteral("om2") << Langue::francais;
     QTest::newRow("inconnue") << QStringLiteral("mars") << Langue::francais;
     QTest::newRow("UE") << QStringLiteral("ue") << Langue::anglais;
 }
@@ -127,6 +131,12 @@ void TestReponse::langueDeLAcheteur()
     QFETCH(QString, destination);
     QFETCH(Langue, attendue);
     Cas cas;
+    Destination om = cas.banc.destinations[0];
+    for (const char *code : {"om1", "om2"}) {
+        om.code = QString::fromLatin1(code);
+        cas.banc.destinations.append(om);
+    }
+    cas.catalogue = cas.banc.charger();
     cas.commande.setCodeDestination(destination);
     const Calcul calcul(*cas.catalogue, cas.commande, jour);
     QCOMPARE(langueAcheteur(cas.commande, calcul), attendue);

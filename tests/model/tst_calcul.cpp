@@ -8,6 +8,9 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <functional>
+
+Q_DECLARE_METATYPE(std::function<Centimes(Centimes)>)
 
 class TestCalcul : public QObject
 {
@@ -27,10 +30,12 @@ private slots:
     void poidsDuColis();
     void douane_data();
     void douane();
+    void peseeSeule();
     void tarifsDuJour();
     void ajuster_data();
     void ajuster();
     void viderEtSignaux();
+    void depassementArrete_data();
     void depassementArrete();
 };
 
@@ -70,6 +75,7 @@ void TestCalcul::fraisPaypal_data()
     QTest::newRow("demi-centime vers le haut") << qint64{5000} << qint64{1} << qint64{36};
     QTest::newRow("moins d’un demi-centime") << qint64{4999} << qint64{1} << qint64{35};
     QTest::newRow("rien") << qint64{0} << qint64{290} << qint64{35};
+    QTest::newRow("remboursement : tronqué vers zéro") << qint64{-2590} << qint64{349} << qint64{35 - 89};
 }
 
 void TestCalcul::fraisPaypal()
@@ -135,7 +141,7 @@ void TestCalcul::sansPrix_data()
 {
     QTest::addColumn<qint64>("livre");
     QTest::addColumn<QString>("destination");
-    QTest::addColumn<qint64>("pesee"); // -1: none
+    QTest::addColumn<qint64>("pesee"); // -1: none at all
     QTest::addColumn<bool>("chiffree");
     const auto cas = [](const char *nom, qint64 livre, const char *destination, qint64 pesee, bool chiffree) {
         QTest::newRow(nom) << livre << QString::fromLatin1(destination) << pesee << chiffree;
@@ -144,6 +150,8 @@ void TestCalcul::sansPrix_data()
     cas("livre jamais pesé", 2, "france", -1, false);
     cas("livre jamais pesé, pesée nulle", 2, "france", 0, false);
     cas("livre jamais pesé, colis pesé", 2, "france", 1, true);
+    cas("pesée négative", 2, "france", -3, false);
+    cas("code à la casse près", 1, "France", -1, false);
     cas("livre de l’autre vendeur", 3, "france", -1, false);
     cas("dernier palier", 1, "france", 2000, true);
     cas("trop lourd", 1, "france", 2001, false);
@@ -162,7 +170,7 @@ void TestCalcul::sansPrix()
     Commande commande;
     commande.ajuster(banc.livres[livre - 1], 1);
     commande.setCodeDestination(destination);
-    if (pesee >= 0)
+    if (pesee != -1)
         commande.setPoidsPese(Grammes{pesee});
     const Calcul calcul(*catalogue, commande, jour);
     QCOMPARE(calcul.palier.has_value(), chiffree);
@@ -171,7 +179,7 @@ void TestCalcul::sansPrix()
     QCOMPARE(calcul.fraisPaypal.has_value(), chiffree);
     QCOMPARE(calcul.reste.has_value(), chiffree);
     QCOMPARE(calcul.poidsPese.has_value(), pesee > 0);
-    QCOMPARE(calcul.regionPaypal.has_value(), destination != QStringLiteral("mars"));
+    QCOMPARE(calcul.regionPaypal.has_value(), catalogue->destination(destination).has_value());
 }
 
 void TestCalcul::poidsDuColis_data()
@@ -182,6 +190,7 @@ void TestCalcul::poidsDuColis_data()
     QTest::newRow("des réglages") << QStringLiteral("Carton") << qint64{7} << qint64{180};
     QTest::newRow("libre, avant l’homonyme") << QStringLiteral("Autre poids") << qint64{7} << qint64{7};
     QTest::newRow("libre négatif") << QStringLiteral("Autre poids") << qint64{-7} << qint64{0};
+    QTest::newRow("négatif dans les réglages") << QStringLiteral("Ballon") << qint64{7} << qint64{0};
     QTest::newRow("inconnu") << QStringLiteral("carton") << qint64{7} << qint64{0};
 }
 
@@ -192,6 +201,7 @@ void TestCalcul::poidsDuColis()
     QFETCH(qint64, attendu);
     Banc banc;
     banc.reglages.emballages.append({QStringLiteral("Autre poids"), Grammes{999}});
+    banc.reglages.emballages.append({QStringLiteral("Ballon"), Grammes{-40}});
     const auto catalogue = banc.charger();
     Commande commande;
     commande.setEmballage(emballage);
@@ -208,6 +218,7 @@ void TestCalcul::douane_data()
     QTest::newRow("UE") << QStringLiteral("ue") << false << false;
     QTest::newRow("UE, exception") << QStringLiteral("ue") << true << true;
     QTest::newRow("Suisse") << QStringLiteral("suisse") << false << true;
+    QTest::newRow("Suisse, hors UE coché") << QStringLiteral("suisse") << true << true;
     QTest::newRow("inconnue") << QStringLiteral("mars") << true << false;
 }
 
@@ -221,6 +232,24 @@ void TestCalcul::douane()
     commande.setCodeDestination(destination);
     commande.setHorsUE(horsUE);
     QCOMPARE(Calcul(*catalogue, commande, jour).douaneRequise, requise);
+}
+
+// A weighed parcel counts alone, even when it is lighter than what was computed.
+void TestCalcul::peseeSeule()
+{
+    Banc banc;
+    auto homonyme = banc.destinations[2];
+    homonyme.code = QStringLiteral("france");
+    banc.destinations.append(homonyme); // the first of a code wins
+    const auto catalogue = banc.charger();
+    Commande commande;
+    commande.ajuster(banc.livres[0], 5);
+    commande.setPoidsPese(Grammes{1});
+    const Calcul calcul(*catalogue, commande, jour);
+    QCOMPARE(calcul.poidsCalcule, Grammes{1040});
+    QCOMPARE(calcul.poidsRetenu, Grammes{1});
+    QCOMPARE(calcul.envoi, Centimes{549});
+    QCOMPARE(calcul.regionPaypal, RegionPaypal::eee);
 }
 
 void TestCalcul::tarifsDuJour()
@@ -275,11 +304,18 @@ void TestCalcul::viderEtSignaux()
     QCOMPARE(change.count(), 7);
     commande.setEmballage(QStringLiteral("Carton"));
     commande.setPoidsPese(Grammes{450});
+    commande.setCodeDestination(QStringLiteral("ue"));
     commande.ajuster(banc.livres[2], 0);
     QCOMPARE(change.count(), 7);
+    QVERIFY(commande.horsUE() && commande.langue());
+    commande.setVendeur(Vendeur::mireva);
+    QCOMPARE(commande.poidsEmballageLibre(), Grammes{100});
+    commande.setPoidsEmballageLibre(Grammes{60});
 
     commande.vider();
-    QCOMPARE(change.count(), 8);
+    QCOMPARE(change.count(), 10);
+    QCOMPARE(commande.vendeur(), Vendeur::mireva);
+    QCOMPARE(commande.poidsEmballageLibre(), Grammes{60});
     QVERIFY(commande.estVide() && !commande.poidsPese() && !commande.horsUE() && !commande.langue());
     QVERIFY(commande.paysLivraison().isEmpty());
     QCOMPARE(commande.codeDestination(), QStringLiteral("ue"));
@@ -292,18 +328,27 @@ void TestCalcul::viderEtSignaux()
     QVERIFY(!commande.horsUE() && commande.paysLivraison().isEmpty() && !commande.langue());
 }
 
+void TestCalcul::depassementArrete_data()
+{
+    QTest::addColumn<std::function<Centimes(Centimes)>>("operation");
+    using Operation = std::function<Centimes(Centimes)>;
+    QTest::newRow("+") << Operation([](Centimes maximum) { return maximum + Centimes{1}; });
+    QTest::newRow("-") << Operation([](Centimes maximum) { return -maximum - Centimes{2}; });
+    QTest::newRow("*") << Operation([](Centimes maximum) { return maximum * 2; });
+}
+
 void TestCalcul::depassementArrete()
 {
+    QFETCH(std::function<Centimes(Centimes)>, operation);
     if (const pid_t enfant = fork(); enfant == 0) {
-        qInstallMessageHandler(nullptr);
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
         std::signal(SIGABRT, SIG_DFL);
-        volatile qint64 maximum = std::numeric_limits<qint64>::max();
-        const Centimes somme = Centimes{maximum} + Centimes{1};
-        _exit(somme.valeur() == 0 ? 1 : 2); // reached only if the overflow went on
+        operation(Centimes{std::numeric_limits<qint64>::max()});
+        _exit(0); // reached only if the overflow went on
     } else {
         int statut = 0;
         waitpid(enfant, &statut, 0);
-        QVERIFY(WIFSIGNALED(statut));
+        QVERIFY(WIFSIGNALED(statut) && WTERMSIG(statut) == SIGABRT);
     }
 }
 

@@ -12,6 +12,8 @@ class TestStockage : public QObject
 
 private slots:
     void fichierAbimeMisDeCote();
+    void fichierChangeEntreTemps();
+    void echecsRepetesSansCopiesEnTrop();
     void effacerPreserveAussi();
     void echecLaisseToutIntact_data();
     void echecLaisseToutIntact();
@@ -69,6 +71,34 @@ void TestStockage::fichierAbimeMisDeCote()
     QCOMPARE(banc.lireUtilisateur(copie + QStringLiteral("-2")), QByteArray("encore abîmé"));
 }
 
+// Repaired by hand, or restored from a backup, while the program held the shipped values in memory.
+void TestStockage::fichierChangeEntreTemps()
+{
+    const QByteArray repare = R"({"1":{"prix":1911,"disponible":true}})";
+    const Banc banc;
+    banc.ecrireUtilisateur(livresModifies, repare + ',');
+    const auto catalogue = banc.charger();
+    QCOMPARE(catalogue->livres()[0].prix, Centimes{1500});
+    banc.ecrireUtilisateur(livresModifies, repare);
+    QCOMPARE(erreurALaModification(*catalogue), QString());
+    QCOMPARE(banc.lireUtilisateur(livresModifies + QStringLiteral(".illisible")), repare);
+    catalogue->enregistrerLivres();
+    QVERIFY(!QFile::exists(banc.cheminUtilisateur(livresModifies + QStringLiteral(".illisible-2"))));
+}
+
+void TestStockage::echecsRepetesSansCopiesEnTrop()
+{
+    const Banc banc;
+    banc.ecrireUtilisateur(livresModifies, "abîmé");
+    const auto catalogue = banc.charger();
+    for (int essai = 0; essai < 3; ++essai) {
+        const DisquePlein plein; // room for the copy, not for the books
+        QVERIFY(!erreurALaModification(*catalogue).isEmpty());
+    }
+    QCOMPARE(QDir(banc.cheminUtilisateur()).entryList(QDir::Files | QDir::Hidden),
+             (QStringList{livresModifies, livresModifies + QStringLiteral(".illisible")}));
+}
+
 void TestStockage::effacerPreserveAussi()
 {
     const Banc banc;
@@ -84,9 +114,9 @@ void TestStockage::echecLaisseToutIntact_data()
     QTest::addColumn<QString>("raison");
     QTest::newRow("disque plein") << QStringLiteral("plein") << QStringLiteral("le fichier dépasse la taille permise");
     QTest::newRow("un fichier à la place du dossier")
-        << QStringLiteral("fichier") << QStringLiteral("un fichier occupe la place du dossier");
+        << QStringLiteral("fichier") << QStringLiteral("un fichier occupe la place d’un dossier");
     QTest::newRow("un dossier à la place du fichier")
-        << QStringLiteral("dossier") << QStringLiteral("ce fichier est illisible et ne peut pas être mis de côté");
+        << QStringLiteral("dossier") << QStringLiteral("un dossier occupe la place du fichier");
 }
 
 void TestStockage::echecLaisseToutIntact()

@@ -4,6 +4,7 @@
 #include "model/Format.h"
 #include "ui/Theme.h"
 #include "ui/commande/Couverture.h"
+#include "ui/commande/DessinCouverture.h"
 #include "ui/commande/SelecteurQuantite.h"
 
 #include <QHoverEvent>
@@ -20,7 +21,7 @@ constexpr int hauteurBas = 34; // price and stepper
 
 int hauteurCouverture(int largeur)
 {
-    return static_cast<int>(std::lround(largeur * Couverture::proportion));
+    return static_cast<int>(std::lround(largeur * DessinCouverture::proportion));
 }
 
 int hauteurDuTitre()

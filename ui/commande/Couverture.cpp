@@ -1,12 +1,12 @@
 #include "ui/commande/Couverture.h"
 
 #include "ui/Theme.h"
+#include "ui/commande/DessinCouverture.h"
 #include "ui/commande/ImagesCouvertures.h"
 #include "ui/commun/Dessin.h"
 #include "ui/commun/Ressort.h"
 
 #include <QPainter>
-#include <QPainterPath>
 
 #include <algorithm>
 #include <cmath>
@@ -26,53 +26,14 @@ constexpr Ombre soulevee{0.55, 24, 16};
 constexpr double angle = -14 * std::numbers::pi / 180;
 constexpr double perspective = 0.45;
 constexpr double agrandissement = 0.035;
-constexpr double opaciteIndisponible = 0.55;
+using DessinCouverture::opaciteIndisponible;
 
 QColor voile(int gris, double opacite)
 {
     return QColor(gris, gris, gris, static_cast<int>(std::lround(opacite * 255)));
 }
 
-// The binding: a spine on the left, a sheen across.
-void peindreReliure(QPainter &peintre, const QRectF &cadre)
-{
-    QLinearGradient dos(cadre.topLeft(), cadre.topRight());
-    dos.setColorAt(0, voile(0, 0.28));
-    dos.setColorAt(0.018, voile(255, 0.22));
-    dos.setColorAt(0.04, voile(0, 0.08));
-    dos.setColorAt(0.09, Qt::transparent);
-    peintre.fillRect(cadre, dos);
-    QLinearGradient reflet(cadre.topLeft(), cadre.bottomRight());
-    reflet.setColorAt(0, voile(255, 0.12));
-    reflet.setColorAt(0.5, Qt::transparent);
-    reflet.setColorAt(1, voile(0, 0.06));
-    peintre.fillRect(cadre, reflet);
-}
-
-QPixmap enGris(const QPixmap &image)
-{
-    QImage pixels = image.toImage().convertToFormat(QImage::Format_ARGB32);
-    for (int y = 0; y < pixels.height(); ++y) {
-        auto *ligne = reinterpret_cast<QRgb *>(pixels.scanLine(y));
-        for (int x = 0; x < pixels.width(); ++x) {
-            const int gris = qGray(ligne[x]);
-            ligne[x] = qRgba(gris, gris, gris, qAlpha(ligne[x]));
-        }
-    }
-    return QPixmap::fromImage(std::move(pixels));
-}
-
 } // namespace
-
-QColor couleur(const Livre &livre)
-{
-    if (livre.teinte.size() < 3)
-        qFatal("Teinte incomplète : livre %lld", static_cast<long long>(livre.id));
-    const auto composante = [&](qsizetype rang) {
-        return static_cast<int>(std::clamp<qint64>(livre.teinte[rang], 0, 255));
-    };
-    return {composante(0), composante(1), composante(2)};
-}
 
 Couverture::Couverture(const Livre &livre, ImagesCouvertures &images, QWidget *parent)
     : QAbstractButton(parent),
@@ -133,28 +94,8 @@ void Couverture::oublierLeDessin()
 
 void Couverture::dessiner(qreal densite)
 {
-    const QSize pixels = (cadre().size() * densite).toSize();
-    if (!dessin_.isNull() && dessin_.size() == pixels)
-        return;
-    dessin_ = QPixmap(pixels);
-    dessin_.setDevicePixelRatio(densite);
-    dessin_.fill(Qt::transparent);
-    QPainter peintre(&dessin_);
-    peintre.setRenderHint(QPainter::Antialiasing);
-    const QRectF tout(QPointF(), cadre().size());
-    QPainterPath contour;
-    contour.addRoundedRect(tout, Theme::rayonCouverture, Theme::rayonCouverture);
-    QImage image = images_.image(livre_.couverture, pixels);
-    image.setDevicePixelRatio(densite);
-    peintre.fillPath(contour, image.isNull() ? QBrush(couleur(livre_)) : QBrush(image));
-    peintre.setClipPath(contour);
-    peindreReliure(peintre, tout);
-    peintre.setClipping(false);
-    peintre.setPen(QPen(voile(0, 0.22), 1));
-    peintre.drawRoundedRect(tout.adjusted(0.5, 0.5, -0.5, -0.5), Theme::rayonCouverture, Theme::rayonCouverture);
-    peintre.end();
-    if (!livre_.disponible)
-        dessin_ = enGris(dessin_);
+    if (dessin_.isNull() || dessin_.devicePixelRatio() != densite)
+        dessin_ = DessinCouverture::dessin(livre_, cadre().size(), densite, images_);
 }
 
 void Couverture::peindreOmbre(QPainter &peintre)

@@ -8,9 +8,6 @@
 class ImagesCouvertures;
 class Ressort;
 
-// The book's own colour; a tint of fewer than three entries stops the program.
-QColor couleur(const Livre &livre);
-
 // A drawn cover that lifts under the pointer and carries the number of copies. It stands `debord` pixels inside the
 // widget, `debordBas` at the bottom: room for the shadow and the lifted corner.
 class Couverture : public QAbstractButton
@@ -20,8 +17,6 @@ class Couverture : public QAbstractButton
 public:
     static constexpr int debord = 24;
     static constexpr int debordBas = 44;
-    // Height of a cover over its width.
-    static constexpr double proportion = 1.5;
 
     Couverture(const Livre &livre, ImagesCouvertures &images, QWidget *parent = nullptr);
 

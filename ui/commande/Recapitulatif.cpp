@@ -9,17 +9,13 @@
 #include <QVBoxLayout>
 
 Recapitulatif::Recapitulatif(const Catalogue &catalogue, Commande &commande, QWidget *parent)
-    : QScrollArea(parent),
+    : Defilement(parent),
       livres_(new SectionLivres),
       poids_(new SectionPoids(catalogue.reglages().emballages, commande)),
       destination_(new SectionDestination(catalogue.destinations(), commande)),
       montants_(new SectionMontants(catalogue.reglages())),
       lien_(new SectionLien(catalogue.reglages(), commande))
 {
-    setFrameShape(QFrame::NoFrame);
-    setWidgetResizable(true);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setFocusPolicy(Qt::NoFocus);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::AlternateBase);
 

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "model/Calcul.h"
-
-#include <QScrollArea>
+#include "ui/commun/Defilement.h"
 
 class SectionDestination;
 class SectionLien;
@@ -12,7 +11,7 @@ class SectionPoids;
 
 // The side panel: everything that follows from the order, and the choices that complete it. Its widgets are built
 // once; `montrer` brings them up to date.
-class Recapitulatif : public QScrollArea
+class Recapitulatif : public Defilement
 {
     Q_OBJECT
 

@@ -7,13 +7,12 @@
 #include "ui/commande/Recapitulatif.h"
 #include "ui/commande/SelecteurSite.h"
 #include "ui/commande/TextesRecapitulatif.h"
+#include "ui/commun/Defilement.h"
 #include "ui/commun/EnTete.h"
 #include "ui/commun/Icone.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QSplitter>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -84,15 +83,10 @@ QWidget *VueCommande::colonneDesLivres()
     livres->addWidget(grille_);
     livres->addStretch(1);
 
-    auto *defilement = new QScrollArea;
-    defilement->setFrameShape(QFrame::NoFrame);
-    defilement->setWidgetResizable(true);
-    defilement->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto *defilement = new Defilement;
     // Always there, so that it counts in the right margin whether or not it has anything to show.
     defilement->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     defilement->setMinimumWidth(GrilleLivres::largeurDeDeuxColonnes() + 2 * (margeHorizontale - debord));
-    defilement->verticalScrollBar()->setSingleStep(40);
-    defilement->setFocusPolicy(Qt::NoFocus);
     defilement->setWidget(contenu);
 
     auto *colonne = new QWidget;

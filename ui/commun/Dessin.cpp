@@ -18,6 +18,14 @@ QColor Dessin::melange(const QColor &a, const QColor &b, double part)
                             entre(a.alphaF(), b.alphaF()));
 }
 
+void Dessin::carte(QPainter &peintre, const QRect &cadre, const QPalette &palette)
+{
+    peintre.setRenderHint(QPainter::Antialiasing);
+    peintre.setPen(QPen(Theme::filet(palette), 1));
+    peintre.setBrush(Theme::carte(palette));
+    peintre.drawRoundedRect(QRectF(cadre).adjusted(0.5, 0.5, -0.5, -0.5), Theme::rayonGroupe, Theme::rayonGroupe);
+}
+
 bool Dessin::focusVisible(const QWidget *widget)
 {
     return widget->hasFocus() && widget->window()->testAttribute(Qt::WA_KeyboardFocusChange);

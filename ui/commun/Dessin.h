@@ -14,6 +14,9 @@ namespace Dessin {
 // From `a` (part 0) to `b` (part 1); a spring may overshoot, the colour does not.
 QColor melange(const QColor &a, const QColor &b, double part);
 
+// A raised group: rounded, with a hairline around.
+void carte(QPainter &peintre, const QRect &cadre, const QPalette &palette);
+
 // Whether the ring is due: the widget has the focus and the keyboard brought it there.
 bool focusVisible(const QWidget *widget);
 // Drawn just outside `cadre`: leave 3 px around it.

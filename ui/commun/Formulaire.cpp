@@ -1,6 +1,7 @@
 #include "ui/commun/Formulaire.h"
 
 #include "ui/Theme.h"
+#include "ui/commun/Dessin.h"
 #include "ui/commun/Libelle.h"
 
 #include <QHBoxLayout>
@@ -69,10 +70,7 @@ void Groupe::inserer(int indice, QWidget *rangee)
 void Groupe::paintEvent(QPaintEvent *)
 {
     QPainter peintre(this);
-    peintre.setRenderHint(QPainter::Antialiasing);
-    peintre.setPen(QPen(Theme::filet(palette()), 1));
-    peintre.setBrush(Theme::carte(palette()));
-    peintre.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), Theme::rayonGroupe, Theme::rayonGroupe);
+    Dessin::carte(peintre, rect(), palette());
 
     bool premiere = true;
     for (int i = 0; i < rangees_->count(); ++i) {

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 class Catalogue;
+class EnTete;
 class ImagesCouvertures;
 
 // The list of books of both sellers.
@@ -17,5 +18,5 @@ private:
     void actualiser();
 
     const Catalogue &catalogue_;
-    ImagesCouvertures &images_;
+    EnTete *enTete_;
 };

@@ -5,6 +5,8 @@
 #include <QWidget>
 
 class Catalogue;
+class Defilement;
+class EnTete;
 
 // The grids in force, by family of destinations.
 class VueTarifs : public QWidget
@@ -19,4 +21,6 @@ private:
 
     const Catalogue &catalogue_;
     Aujourdhui aujourdhui_;
+    EnTete *enTete_;
+    Defilement *defilement_;
 };

@@ -1,0 +1,81 @@
+#include "ui/commande/DessinCouverture.h"
+
+#include "ui/Theme.h"
+#include "ui/commande/ImagesCouvertures.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+QColor voile(int gris, double opacite)
+{
+    return QColor(gris, gris, gris, static_cast<int>(std::lround(opacite * 255)));
+}
+
+// The binding: a spine on the left, a sheen across.
+void peindreReliure(QPainter &peintre, const QRectF &cadre)
+{
+    QLinearGradient dos(cadre.topLeft(), cadre.topRight());
+    dos.setColorAt(0, voile(0, 0.28));
+    dos.setColorAt(0.018, voile(255, 0.22));
+    dos.setColorAt(0.04, voile(0, 0.08));
+    dos.setColorAt(0.09, Qt::transparent);
+    peintre.fillRect(cadre, dos);
+    QLinearGradient reflet(cadre.topLeft(), cadre.bottomRight());
+    reflet.setColorAt(0, voile(255, 0.12));
+    reflet.setColorAt(0.5, Qt::transparent);
+    reflet.setColorAt(1, voile(0, 0.06));
+    peintre.fillRect(cadre, reflet);
+}
+
+QPixmap enGris(const QPixmap &image)
+{
+    QImage pixels = image.toImage().convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < pixels.height(); ++y) {
+        auto *ligne = reinterpret_cast<QRgb *>(pixels.scanLine(y));
+        for (int x = 0; x < pixels.width(); ++x) {
+            const int gris = qGray(ligne[x]);
+            ligne[x] = qRgba(gris, gris, gris, qAlpha(ligne[x]));
+        }
+    }
+    return QPixmap::fromImage(std::move(pixels));
+}
+
+} // namespace
+
+QColor couleur(const Livre &livre)
+{
+    if (livre.teinte.size() < 3)
+        qFatal("Teinte incomplète : livre %lld", static_cast<long long>(livre.id));
+    const auto composante = [&](qsizetype rang) {
+        return static_cast<int>(std::clamp<qint64>(livre.teinte[rang], 0, 255));
+    };
+    return {composante(0), composante(1), composante(2)};
+}
+
+QPixmap DessinCouverture::dessin(const Livre &livre, const QSizeF &taille, qreal densite, ImagesCouvertures &images)
+{
+    const QSize pixels = (taille * densite).toSize();
+    QPixmap dessin(pixels);
+    dessin.setDevicePixelRatio(densite);
+    dessin.fill(Qt::transparent);
+    QPainter peintre(&dessin);
+    peintre.setRenderHint(QPainter::Antialiasing);
+    const QRectF tout(QPointF(), taille);
+    QPainterPath contour;
+    contour.addRoundedRect(tout, Theme::rayonCouverture, Theme::rayonCouverture);
+    QImage image = images.image(livre.couverture, pixels);
+    image.setDevicePixelRatio(densite);
+    peintre.fillPath(contour, image.isNull() ? QBrush(couleur(livre)) : QBrush(image));
+    peintre.setClipPath(contour);
+    peindreReliure(peintre, tout);
+    peintre.setClipping(false);
+    peintre.setPen(QPen(voile(0, 0.22), 1));
+    peintre.drawRoundedRect(tout.adjusted(0.5, 0.5, -0.5, -0.5), Theme::rayonCouverture, Theme::rayonCouverture);
+    peintre.end();
+    return livre.disponible ? dessin : enGris(dessin);
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "model/Livre.h"
+
+#include <QColor>
+#include <QPixmap>
+
+class ImagesCouvertures;
+
+// The book's own colour; a tint of fewer than three entries stops the program.
+QColor couleur(const Livre &livre);
+
+namespace DessinCouverture {
+
+// Height of a cover over its width.
+inline constexpr double proportion = 1.5;
+inline constexpr double opaciteIndisponible = 0.55;
+
+// The cover with its binding: the picture, or the book's colour until there is one; grey when the book is sold out.
+QPixmap dessin(const Livre &livre, const QSizeF &taille, qreal densite, ImagesCouvertures &images);
+
+} // namespace DessinCouverture

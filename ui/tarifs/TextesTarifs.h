@@ -1,0 +1,33 @@
+#pragma once
+
+#include "model/Tarifs.h"
+
+#include <QList>
+#include <QString>
+
+// What the tariffs screen says of one schedule: texts only, laid out by the widgets.
+namespace TextesTarifs {
+
+struct Palier
+{
+    QString poids; // "jusqu’à 250 g"
+    QString prix;
+};
+
+struct Grille
+{
+    QString nom;
+    QString pays; // empty: the name says it all
+    QList<Palier> paliers;
+};
+
+struct Famille
+{
+    QString titre;
+    QList<Grille> grilles; // at least one
+};
+
+// In the families' order; a grid of an unknown family stands nowhere.
+QList<Famille> familles(const TarifsColissimo &tarifs);
+
+} // namespace TextesTarifs
