@@ -23,7 +23,16 @@ Fenetre::Fenetre(Catalogue &catalogue, Commande &commande, ImagesCouvertures &im
     setCentralWidget(contenu_);
     creerMenu();
     creerRaccourcis();
+    qApp->installEventFilter(this);
     resize(tailleParDefaut.width(), tailleParDefaut.height() + menuBar()->sizeHint().height());
+}
+
+// Qt remembers that the keyboard moved the focus, and never forgets it: focus rings would follow the mouse.
+bool Fenetre::eventFilter(QObject *objet, QEvent *evenement)
+{
+    if (evenement->type() == QEvent::MouseButtonPress && objet->isWidgetType())
+        static_cast<QWidget *>(objet)->window()->setAttribute(Qt::WA_KeyboardFocusChange, false);
+    return QMainWindow::eventFilter(objet, evenement);
 }
 
 void Fenetre::ramener()

@@ -21,6 +21,9 @@ public:
     // Back from an icon or from behind other windows.
     void ramener();
 
+protected:
+    bool eventFilter(QObject *objet, QEvent *evenement) override;
+
 private:
     void creerMenu();
     void creerRaccourcis();

@@ -6,6 +6,7 @@
 #include "ui/commande/Couverture.h"
 #include "ui/commande/DessinCouverture.h"
 #include "ui/commande/SelecteurQuantite.h"
+#include "ui/commun/Chiffres.h"
 
 #include <QHoverEvent>
 #include <QPainter>
@@ -34,6 +35,9 @@ void peindreSurDeuxLignes(QPainter &peintre, const QRect &cadre, const QString &
 {
     const QFontMetrics mesures(peintre.font());
     QTextLayout mise(texte, peintre.font());
+    QTextOption coupure;
+    coupure.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    mise.setTextOption(coupure);
     mise.beginLayout();
     QTextLine premiere = mise.createLine();
     premiere.setLineWidth(cadre.width());
@@ -63,10 +67,7 @@ CarteLivre::CarteLivre(const Livre &livre, Commande &commande, ImagesCouvertures
       selecteur_(new SelecteurQuantite(livre, commande, this))
 {
     setAttribute(Qt::WA_Hover);
-    connect(couverture_, &QAbstractButton::clicked, this, [this, &commande] {
-        if (livre_.disponible)
-            commande.ajuster(livre_, 1);
-    });
+    connect(couverture_, &QAbstractButton::clicked, this, [this, &commande] { commande.ajuster(livre_, 1); });
     montrer(livre, commande.quantite(livre));
 }
 
@@ -74,8 +75,9 @@ void CarteLivre::montrer(const Livre &livre, int quantite)
 {
     livre_ = livre;
     couverture_->montrer(livre, quantite);
-    couverture_->setFocusPolicy(livre.disponible ? Qt::StrongFocus : Qt::NoFocus);
+    couverture_->setEnabled(livre.disponible);
     couverture_->setAccessibleName(enMots(livre, quantite));
+    setToolTip(livre.titreComplet);
     selecteur_->montrer(quantite);
     selecteur_->setVisible(livre.disponible);
     update();
@@ -115,6 +117,11 @@ void CarteLivre::setSurvol(bool survol)
         return;
     survol_ = survol;
     couverture_->soulever(survol);
+}
+
+void CarteLivre::suivreLePointeur()
+{
+    setSurvol(window()->underMouse() && contenu().contains(mapFromGlobal(QCursor::pos())));
 }
 
 bool CarteLivre::event(QEvent *evenement)
@@ -167,7 +174,7 @@ void CarteLivre::paintEvent(QPaintEvent *)
     const QRect bas = ligneDuBas();
     peintre.setFont(Theme::enGras(Theme::titre3()));
     peintre.setPen(livre_.disponible ? texte : secondaire);
-    peintre.drawText(bas, Qt::AlignLeft | Qt::AlignVCenter, Format::euros(livre_.prix));
+    Chiffres::peindre(peintre, bas, Qt::AlignLeft, Format::euros(livre_.prix));
     if (livre_.disponible)
         return;
 

@@ -3,6 +3,7 @@
 #include "ui/Theme.h"
 #include "ui/commande/DessinCouverture.h"
 #include "ui/commande/ImagesCouvertures.h"
+#include "ui/commun/Chiffres.h"
 #include "ui/commun/Dessin.h"
 #include "ui/commun/Ressort.h"
 
@@ -28,11 +29,6 @@ constexpr double perspective = 0.45;
 constexpr double agrandissement = 0.035;
 using DessinCouverture::opaciteIndisponible;
 
-QColor voile(int gris, double opacite)
-{
-    return QColor(gris, gris, gris, static_cast<int>(std::lround(opacite * 255)));
-}
-
 } // namespace
 
 Couverture::Couverture(const Livre &livre, ImagesCouvertures &images, QWidget *parent)
@@ -44,6 +40,7 @@ Couverture::Couverture(const Livre &livre, ImagesCouvertures &images, QWidget *p
       pastille_(new Ressort(
           Ressorts::action, [this](double) { update(); }, this))
 {
+    setFocusPolicy(Qt::StrongFocus);
     connect(&images_, &ImagesCouvertures::prete, this, [this](const QString &couverture) {
         if (couverture == livre_.couverture)
             oublierLeDessin();
@@ -60,7 +57,7 @@ void Couverture::montrer(const Livre &livre, int quantite)
     // The badge keeps its last number while it shrinks away.
     if (quantite > 0)
         quantite_ = quantite;
-    pastille_->vers(quantite > 0 ? 1 : 0);
+    pastille_->vers(quantite > 0 ? 1 : 0, this);
     setCursor(livre.disponible ? Qt::PointingHandCursor : Qt::ArrowCursor);
     update();
 }
@@ -145,9 +142,10 @@ void Couverture::paintEvent(QPaintEvent *)
         peintre.setTransform(inclinaison(), true);
     peintre.setOpacity(livre_.disponible ? 1 : opaciteIndisponible);
     peintre.drawPixmap(cadre().topLeft(), dessin_);
-    peintre.restore();
     if (Dessin::focusVisible(this))
-        Dessin::anneauDeFocus(peintre, cadre().adjusted(-1, -1, 1, 1), Theme::rayonCouverture, palette());
+        Dessin::anneauDeFocus(peintre, cadre().adjusted(-1, -1, 1, 1), Theme::rayonCouverture,
+                              Theme::accentTexte(palette()));
+    peintre.restore();
     if (pastille_->valeur() > 0.01)
         peindrePastille(peintre);
 }
@@ -158,22 +156,19 @@ void Couverture::peindrePastille(QPainter &peintre) const
     const QFontMetrics mesures(police);
     const QString nombre = QString::number(quantite_);
     const double cote = 30;
-    const double largeur = std::max(cote, mesures.horizontalAdvance(u'0') * double(nombre.size()) + 12);
+    const double largeur = std::max(cote, Chiffres::largeur(mesures, nombre) + 12.0);
     const QPointF centre(cadre().right() + 6 - largeur / 2 + 4, cadre().top() + cote / 2 - 10);
     peintre.save();
     peintre.translate(centre);
     peintre.scale(pastille_->valeur(), pastille_->valeur());
     peintre.setOpacity(std::clamp(pastille_->valeur(), 0.0, 1.0));
     const QRectF capsule(-largeur / 2, -cote / 2, largeur, cote);
+    Dessin::ombreDouce(peintre, capsule);
     peintre.setPen(Qt::NoPen);
-    for (const double etalement : {2.0, 1.0}) {
-        peintre.setBrush(voile(0, 0.15));
-        peintre.drawRoundedRect(capsule.adjusted(-etalement, -etalement, etalement, etalement), cote, cote);
-    }
     peintre.setBrush(Theme::accent(palette()));
     peintre.drawRoundedRect(capsule, cote / 2, cote / 2);
     peintre.setFont(police);
     peintre.setPen(Qt::white);
-    peintre.drawText(capsule, Qt::AlignCenter, nombre);
+    Chiffres::peindre(peintre, capsule, Qt::AlignCenter, nombre);
     peintre.restore();
 }

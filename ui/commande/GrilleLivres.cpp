@@ -46,12 +46,14 @@ void GrilleLivres::montrer(const QList<Livre> &livres)
         remplacerLesCartes(livres);
         return;
     }
+    TransitionCartes::arreter(this); // it shows the cards as they were
     for (qsizetype i = 0; i < livres.size(); ++i)
         cartes_[i]->montrer(livres[i], commande_.quantite(livres[i]));
 }
 
 void GrilleLivres::remplacerLesCartes(const QList<Livre> &livres)
 {
+    TransitionCartes::arreter(this); // cards that it covers cannot be taken into a picture
     const auto sortantes = TransitionCartes::instantanes(cartes_);
     qDeleteAll(cartes_);
     cartes_.clear();
@@ -66,6 +68,12 @@ void GrilleLivres::remplacerLesCartes(const QList<Livre> &livres)
     }
     if (!sortantes.isEmpty())
         TransitionCartes::jouer(sortantes, TransitionCartes::instantanes(cartes_), images_, this);
+}
+
+void GrilleLivres::suivreLePointeur()
+{
+    for (CarteLivre *carte : std::as_const(cartes_))
+        carte->suivreLePointeur();
 }
 
 int GrilleLivres::heightForWidth(int largeur) const

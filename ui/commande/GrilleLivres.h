@@ -21,6 +21,9 @@ public:
     // Cards of other books enter and leave with a fade; the same books are only brought up to date.
     void montrer(const QList<Livre> &livres);
 
+    // Called when the cards have moved under the pointer.
+    void suivreLePointeur();
+
     [[nodiscard]] bool hasHeightForWidth() const override { return true; }
     [[nodiscard]] int heightForWidth(int largeur) const override;
     [[nodiscard]] QSize sizeHint() const override;

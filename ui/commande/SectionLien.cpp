@@ -5,8 +5,8 @@
 #include "ui/commun/ChampACopier.h"
 #include "ui/commun/ChoixSegmente.h"
 #include "ui/commun/Icone.h"
+#include "ui/commun/Lien.h"
 
-#include <QDesktopServices>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -35,7 +35,7 @@ SectionLien::SectionLien(const Reglages &reglages, Commande &commande, QWidget *
 
     connect(langue_, &ChoixSegmente::choisi, &commande_,
             [this](int indice) { commande_.setLangue(indice == 0 ? Langue::francais : Langue::anglais); });
-    connect(creer, &QPushButton::clicked, this, [] { QDesktopServices::openUrl(ReponseType::creationDuLien()); });
+    connect(creer, &QPushButton::clicked, this, [this] { Lien::ouvrir(ReponseType::creationDuLien(), this); });
     connect(pays_, &QLineEdit::textEdited, &commande_, &Commande::setPaysLivraison);
 }
 

@@ -2,30 +2,43 @@
 
 #include "ui/Theme.h"
 #include "ui/commande/TextesRecapitulatif.h"
+#include "ui/commun/Chiffres.h"
 #include "ui/commun/Libelle.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
 
-namespace {
-
-class LigneDuTotal : public QWidget
+// The amount to ask, set off from the other rows.
+class SectionMontants::LigneDuTotal : public QWidget
 {
 public:
     explicit LigneDuTotal(NombreRoulant *total)
+        : libelle_(new Libelle(SectionMontants::tr("TOTAL À PAYER"))), total_(total)
     {
-        auto *libelle = new Libelle(SectionMontants::tr("TOTAL À PAYER"));
         QFont titre = Theme::enGras(font());
         titre.setLetterSpacing(QFont::AbsoluteSpacing, 0.8);
-        libelle->setFont(titre);
-        total->setFont(Theme::montant());
+        libelle_->setFont(titre);
+        // Takes what the label leaves, and fits its type to it: a long total must not widen the panel.
+        total_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         auto *rangee = new QHBoxLayout(this);
         rangee->setContentsMargins(12, 10, 12, 10);
-        rangee->addWidget(libelle, 1);
-        rangee->addWidget(total);
+        rangee->addWidget(libelle_);
+        rangee->addWidget(total_, 1);
+    }
+
+    void ajuster()
+    {
+        const int place = contentsRect().width() - libelle_->sizeHint().width() - layout()->spacing();
+        QFont police = Theme::montant();
+        const int voulue = Chiffres::largeur(QFontMetrics(police), total_->text());
+        if (voulue > place && place > 0)
+            police.setPointSizeF(police.pointSizeF() * place / voulue);
+        total_->setFont(police);
     }
 
 protected:
+    void resizeEvent(QResizeEvent *) override { ajuster(); }
+
     void paintEvent(QPaintEvent *) override
     {
         QPainter peintre(this);
@@ -36,7 +49,13 @@ protected:
         peintre.setBrush(fond);
         peintre.drawRoundedRect(rect(), Theme::rayonGroupe, Theme::rayonGroupe);
     }
+
+private:
+    Libelle *libelle_;
+    NombreRoulant *total_;
 };
+
+namespace {
 
 std::optional<Centimes> negatif(const std::optional<Centimes> &montant)
 {
@@ -50,6 +69,7 @@ SectionMontants::SectionMontants(const Reglages &reglages, QWidget *parent)
       reglages_(reglages),
       envoi_(tr("Envoi Colissimo")),
       total_(new NombreRoulant),
+      ligneDuTotal_(new LigneDuTotal(total_)),
       frais_(tr("Frais PayPal")),
       reste_(tr("Il vous reste"))
 {
@@ -57,7 +77,7 @@ SectionMontants::SectionMontants(const Reglages &reglages, QWidget *parent)
     reste_.rangee->libelle()->setFont(Theme::enGras(font()));
     reste_.montant->setFont(Theme::enGras(font()));
     groupe()->ajouter(envoi_.rangee);
-    groupe()->ajouter(Formulaire::seul(new LigneDuTotal(total_)));
+    groupe()->ajouter(Formulaire::seul(ligneDuTotal_));
     groupe()->ajouter(frais_.rangee);
     groupe()->ajouter(reste_.rangee);
 }
@@ -68,6 +88,7 @@ void SectionMontants::montrer(const Calcul &calcul)
     envoi_.montant->afficher(TextesRecapitulatif::euros(calcul.envoi));
     total_->setForegroundRole(calcul.total ? QPalette::WindowText : QPalette::PlaceholderText);
     total_->afficher(TextesRecapitulatif::euros(calcul.total));
+    ligneDuTotal_->ajuster();
     frais_.rangee->setDetail(TextesRecapitulatif::detailFrais(calcul, reglages_.fraisPaypal));
     frais_.montant->afficher(TextesRecapitulatif::euros(negatif(calcul.fraisPaypal)));
     reste_.montant->afficher(TextesRecapitulatif::euros(calcul.reste));

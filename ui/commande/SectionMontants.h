@@ -14,9 +14,12 @@ public:
     void montrer(const Calcul &calcul);
 
 private:
+    class LigneDuTotal;
+
     const Reglages &reglages_;
     RangeeMontant envoi_;
     NombreRoulant *total_;
+    LigneDuTotal *ligneDuTotal_;
     RangeeMontant frais_;
     RangeeMontant reste_;
 };

@@ -28,6 +28,7 @@ QWidget *avecUnite(ChampEntier *champ)
     rangee->setSpacing(6);
     rangee->addWidget(champ);
     rangee->addWidget(new Libelle(QStringLiteral("g"), Libelle::Rang::secondaire));
+    ensemble->setFocusProxy(champ);
     return ensemble;
 }
 
@@ -63,7 +64,7 @@ SectionPoids::SectionPoids(const QList<Emballage> &emballages, Commande &command
     lignes->setSpacing(10);
 
     groupe()->ajouter(poidsLivres_.rangee);
-    groupe()->ajouter(new Formulaire::Rangee(tr("Emballage"), emballage_));
+    groupe()->ajouter(new Formulaire::RangeeHaute(tr("Emballage"), emballage_));
     groupe()->ajouter(rangeePoidsLibre_);
     groupe()->ajouter(poidsCalcule_.rangee);
     groupe()->ajouter(colisPese);

@@ -8,6 +8,7 @@
 #include "ui/commun/Ressort.h"
 
 #include <QAbstractButton>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
 
@@ -46,7 +47,8 @@ protected:
         const double cote = 15;
         Icone::peindre(peintre, symbole_, QRectF((width() - cote) / 2, (height() - cote) / 2, cote, cote), couleur);
         if (Dessin::focusVisible(this))
-            Dessin::anneauDeFocus(peintre, QRectF(rect()).adjusted(3, 3, -3, -3), coteBouton / 2.0 - 3, palette());
+            Dessin::anneauDeFocus(peintre, QRectF(rect()).adjusted(3, 3, -3, -3), coteBouton / 2.0 - 3,
+                                  palette().color(QPalette::Active, QPalette::ButtonText));
     }
 
     void enterEvent(QEnterEvent *) override { update(); }
@@ -71,7 +73,7 @@ SelecteurQuantite::SelecteurQuantite(const Livre &livre, Commande &commande, QWi
     nombre_->setMinimumWidth(std::max(18, nombre_->fontMetrics().horizontalAdvance(QStringLiteral("00"))));
     nombre_->setText(QStringLiteral("0"));
     auto *rangee = new QHBoxLayout(this);
-    rangee->setContentsMargins(4, 2, 4, 2);
+    rangee->setContentsMargins(4, 2, 4, 4); // 2 px below the capsule are its shadow's
     rangee->setSpacing(2);
     for (QWidget *partie :
          {static_cast<QWidget *>(moins_), static_cast<QWidget *>(nombre_), static_cast<QWidget *>(plus_)})
@@ -79,6 +81,7 @@ SelecteurQuantite::SelecteurQuantite(const Livre &livre, Commande &commande, QWi
     connect(moins_, &QAbstractButton::clicked, this, [livre, &commande] { commande.ajuster(livre, -1); });
     connect(plus_, &QAbstractButton::clicked, this, [livre, &commande] { commande.ajuster(livre, 1); });
     moins_->setEnabled(false);
+    setAccessibleName(tr("Nombre d’exemplaires"));
     colorer();
 }
 
@@ -88,8 +91,10 @@ void SelecteurQuantite::montrer(int quantite)
         return;
     nombre_->afficher(QString::number(quantite), quantite > quantite_ ? 1 : -1);
     quantite_ = quantite;
+    if (quantite == 0 && moins_->hasFocus())
+        setFocus(); // else Qt hands the focus to plus, and one key too many adds the copy back
     moins_->setEnabled(quantite > 0);
-    plein_->vers(quantite > 0 ? 1 : 0);
+    plein_->vers(quantite > 0 ? 1 : 0, this);
 }
 
 void SelecteurQuantite::colorer()
@@ -108,6 +113,13 @@ void SelecteurQuantite::colorer()
     update();
 }
 
+void SelecteurQuantite::changeEvent(QEvent *evenement)
+{
+    QWidget::changeEvent(evenement);
+    if (evenement->type() == QEvent::PaletteChange)
+        colorer();
+}
+
 void SelecteurQuantite::paintEvent(QPaintEvent *)
 {
     const double plein = std::clamp(plein_->valeur(), 0.0, 1.0);
@@ -115,12 +127,10 @@ void SelecteurQuantite::paintEvent(QPaintEvent *)
         return;
     QPainter peintre(this);
     peintre.setRenderHint(QPainter::Antialiasing);
-    peintre.setPen(Qt::NoPen);
-    const QRectF capsule = QRectF(rect()).adjusted(1, 0, -1, -2);
+    const QRectF capsule = QRectF(rect()).adjusted(2, 0, -2, -2);
     const double rayon = capsule.height() / 2;
     peintre.setOpacity(plein);
-    peintre.setBrush(QColor(0, 0, 0, 76));
-    peintre.drawRoundedRect(capsule.translated(0, 1.5), rayon, rayon);
+    Dessin::ombreDouce(peintre, capsule);
     peintre.setBrush(Theme::accent(palette()));
     peintre.drawRoundedRect(capsule, rayon, rayon);
 }

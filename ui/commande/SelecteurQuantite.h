@@ -20,6 +20,7 @@ public:
     void montrer(int quantite);
 
 protected:
+    void changeEvent(QEvent *evenement) override;
     void paintEvent(QPaintEvent *evenement) override;
 
 private:

@@ -45,6 +45,11 @@ void TransitionCartes::jouer(const QList<Instantane> &sortantes, const QList<Ins
         delete transition; // no motion wanted
 }
 
+void TransitionCartes::arreter(QWidget *grille)
+{
+    qDeleteAll(grille->findChildren<TransitionCartes *>(Qt::FindDirectChildrenOnly));
+}
+
 TransitionCartes::TransitionCartes(const QList<Instantane> &sortantes, const QList<Instantane> &entrantes,
                                    QWidget *grille)
     : QWidget(grille),

@@ -29,6 +29,9 @@ public:
     static void jouer(const QList<Instantane> &sortantes, const QList<Instantane> &entrantes,
                       const ImagesCouvertures &images, QWidget *grille);
 
+    // Ends at once a motion over this grid, if there is one.
+    static void arreter(QWidget *grille);
+
 protected:
     void paintEvent(QPaintEvent *evenement) override;
 

@@ -13,6 +13,7 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -79,6 +80,7 @@ QWidget *VueCommande::colonneDesLivres()
     livres->setContentsMargins(margeHorizontale - debord, margeVerticale, margeHorizontale - debord - ascenseur,
                                margeVerticale - debord);
     livres->setSpacing(espace - debord);
+    selecteur_->setContentsMargins(debord, 0, debord, 0);
     livres->addWidget(selecteur_);
     livres->addWidget(grille_);
     livres->addStretch(1);
@@ -88,6 +90,7 @@ QWidget *VueCommande::colonneDesLivres()
     defilement->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     defilement->setMinimumWidth(GrilleLivres::largeurDeDeuxColonnes() + 2 * (margeHorizontale - debord));
     defilement->setWidget(contenu);
+    connect(defilement->verticalScrollBar(), &QScrollBar::valueChanged, grille_, &GrilleLivres::suivreLePointeur);
 
     auto *colonne = new QWidget;
     auto *parties = new QVBoxLayout(colonne);

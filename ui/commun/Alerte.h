@@ -5,7 +5,7 @@
 
 class QLabel;
 
-// A warning line: a symbol and a text, both in the warning colour's family.
+// A warning line: an orange symbol, and the text.
 class Alerte : public QWidget
 {
     Q_OBJECT

@@ -43,7 +43,10 @@ ChampEntier::ChampEntier(const QString &unite, QWidget *parent) : QLineEdit(pare
     setValidator(new EntierBorne(this));
     setAlignment(Qt::AlignRight);
     setFixedWidth(70);
-    connect(this, &QLineEdit::textEdited, this, [this] { emit saisie(valeur()); });
+    connect(this, &QLineEdit::textEdited, this, [this] {
+        QToolTip::hideText();
+        emit saisie(valeur());
+    });
     connect(this, &QLineEdit::inputRejected, this, [this, unite] {
         QToolTip::showText(mapToGlobal(QPoint(0, height())),
                            tr("Un nombre entier de %1, de 0 à %2.").arg(unite, ecrit(maximum)), this);
@@ -58,12 +61,15 @@ std::optional<qint64> ChampEntier::valeur() const
 
 void ChampEntier::montrer(std::optional<qint64> montree)
 {
-    if (montree != valeur() || !hasFocus())
+    montree_ = montree;
+    // An emptied field means 0 to some: it stays empty under the typist's hands.
+    const bool enCours = hasFocus() && montree.value_or(0) == valeur().value_or(0);
+    if (!enCours)
         setText(ecrit(montree));
 }
 
 void ChampEntier::focusOutEvent(QFocusEvent *evenement)
 {
     QLineEdit::focusOutEvent(evenement);
-    setText(ecrit(valeur()));
+    setText(ecrit(montree_));
 }

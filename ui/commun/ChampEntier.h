@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Quantite.h"
+
 #include <QLineEdit>
 
 #include <optional>
@@ -10,13 +12,13 @@ class ChampEntier : public QLineEdit
     Q_OBJECT
 
 public:
-    static constexpr qint64 maximum = 999'999;
+    static constexpr qint64 maximum = UniteGramme::maximum;
 
     // `unite` names the unit in the message shown when something else is typed: "grammes".
     explicit ChampEntier(const QString &unite, QWidget *parent = nullptr);
 
     [[nodiscard]] std::optional<qint64> valeur() const;
-    // Leaves what is being typed alone when it already means this value.
+    // Leaves what is being typed alone when it already means this value; leaving the field shows it.
     void montrer(std::optional<qint64> valeur);
 
 signals:
@@ -24,4 +26,7 @@ signals:
 
 protected:
     void focusOutEvent(QFocusEvent *evenement) override;
+
+private:
+    std::optional<qint64> montree_;
 };

@@ -4,6 +4,7 @@
 
 Choix::Choix(QWidget *parent) : QComboBox(parent)
 {
+    setFocusPolicy(Qt::StrongFocus); // the wheel must not take the focus either
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(10);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);

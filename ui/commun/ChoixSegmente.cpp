@@ -61,8 +61,10 @@ protected:
         peintre.setFont(police);
         const QString affiche = QFontMetrics(police).elidedText(text(), Qt::ElideRight, place);
         peintre.drawText(rect(), Qt::AlignCenter, affiche);
+        const QColor anneau =
+            bleu ? Dessin::melange(Theme::accentTexte(palette()), Qt::white, part_) : Theme::accentTexte(palette());
         if (Dessin::focusVisible(this))
-            Dessin::anneauDeFocus(peintre, QRectF(rect()).adjusted(2, 2, -2, -2), (height() - 4) / 2.0, palette());
+            Dessin::anneauDeFocus(peintre, QRectF(rect()).adjusted(2, 2, -2, -2), (height() - 4) / 2.0, anneau);
     }
 
     [[nodiscard]] bool hitButton(const QPoint &position) const override { return rect().contains(position); }
@@ -135,15 +137,13 @@ void ChoixSegmente::paintEvent(QPaintEvent *)
     const QRectF choisi = surbrillance();
     const double rayon = choisi.height() / 2;
     if (apparence_.style == Style::bleu) {
-        peintre.setBrush(QColor(0, 0, 0, 64));
-        peintre.drawRoundedRect(choisi.translated(0, 1.5), rayon, rayon);
+        Dessin::ombreDouce(peintre, choisi);
         QLinearGradient degrade(choisi.topLeft(), choisi.bottomLeft());
         degrade.setColorAt(0, QColor(0x3F7FE8));
         degrade.setColorAt(1, QColor(0x1F56BE));
         peintre.setBrush(degrade);
     } else {
-        peintre.setBrush(QColor(0, 0, 0, 28));
-        peintre.drawRoundedRect(choisi.translated(0, 1), rayon, rayon);
+        Dessin::ombreDouce(peintre, choisi);
         const bool clair = Theme::mode(palette()) == Theme::Mode::clair;
         peintre.setBrush(clair ? Theme::carte(palette()) : Theme::filet(palette()).lighter(140));
     }

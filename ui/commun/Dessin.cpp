@@ -31,13 +31,23 @@ bool Dessin::focusVisible(const QWidget *widget)
     return widget->hasFocus() && widget->window()->testAttribute(Qt::WA_KeyboardFocusChange);
 }
 
-void Dessin::anneauDeFocus(QPainter &peintre, const QRectF &cadre, qreal rayon, const QPalette &palette)
+void Dessin::anneauDeFocus(QPainter &peintre, const QRectF &cadre, qreal rayon, const QColor &couleur)
 {
     peintre.save();
-    peintre.setPen(QPen(Theme::accentTexte(palette), 2));
+    peintre.setPen(QPen(couleur, 2));
     peintre.setBrush(Qt::NoBrush);
     peintre.drawRoundedRect(cadre.adjusted(-2, -2, 2, 2), rayon + 2, rayon + 2);
     peintre.restore();
+}
+
+void Dessin::ombreDouce(QPainter &peintre, const QRectF &capsule)
+{
+    peintre.setPen(Qt::NoPen);
+    peintre.setBrush(QColor(0, 0, 0, 26));
+    for (const double etalement : {2.0, 1.0, 0.0}) {
+        const QRectF halo = capsule.translated(0, 1).adjusted(-etalement, -etalement, etalement, etalement);
+        peintre.drawRoundedRect(halo, halo.height() / 2, halo.height() / 2);
+    }
 }
 
 namespace {

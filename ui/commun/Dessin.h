@@ -20,7 +20,10 @@ void carte(QPainter &peintre, const QRect &cadre, const QPalette &palette);
 // Whether the ring is due: the widget has the focus and the keyboard brought it there.
 bool focusVisible(const QWidget *widget);
 // Drawn just outside `cadre`: leave 3 px around it.
-void anneauDeFocus(QPainter &peintre, const QRectF &cadre, qreal rayon, const QPalette &palette);
+void anneauDeFocus(QPainter &peintre, const QRectF &cadre, qreal rayon, const QColor &couleur);
+
+// The soft shadow close under a raised capsule.
+void ombreDouce(QPainter &peintre, const QRectF &capsule);
 
 // The blurred shadow of a rectangle, with `rayon` of room on every side of it.
 QPixmap ombre(const QSizeF &taille, qreal rayon, const QColor &couleur, qreal densite);

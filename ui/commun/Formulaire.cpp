@@ -41,11 +41,18 @@ QVBoxLayout *surDeuxLignes(Libelle *libelle, Libelle *detail)
 // A screen reader says the label before the value it stands beside.
 void relier(Libelle *libelle, QWidget *valeur)
 {
-    if (valeur->focusPolicy() == Qt::NoFocus)
-        return;
-    libelle->setBuddy(valeur);
-    if (valeur->accessibleName().isEmpty())
+    if (valeur->focusPolicy() != Qt::NoFocus)
+        libelle->setBuddy(valeur);
+    if (!qobject_cast<QLabel *>(valeur) && valeur->accessibleName().isEmpty())
         valeur->setAccessibleName(libelle->text());
+}
+
+// The second line describes the control of its row.
+void decrire(QWidget *valeur, const QString &detail)
+{
+    QWidget *controle = valeur->focusProxy() ? valeur->focusProxy() : valeur;
+    if (!qobject_cast<QLabel *>(controle))
+        controle->setAccessibleDescription(detail);
 }
 
 } // namespace
@@ -105,7 +112,7 @@ Section::Section(const QString &titre, const QString &pied, QWidget *parent) : Q
 }
 
 Rangee::Rangee(const QString &libelle, QWidget *valeur, QWidget *parent)
-    : QWidget(parent), libelle_(new Libelle(libelle)), detail_(secondeLigne())
+    : QWidget(parent), libelle_(new Libelle(libelle)), detail_(secondeLigne()), valeur_(valeur)
 {
     auto *rangee = new QHBoxLayout(this);
     rangee->setContentsMargins(0, 0, 0, 0);
@@ -126,6 +133,7 @@ void Rangee::setTexte(const QString &libelle)
 void Rangee::setDetail(const QString &detail)
 {
     montrerDetail(detail_, detail);
+    decrire(valeur_, detail);
 }
 
 QString Rangee::detail() const
@@ -134,7 +142,7 @@ QString Rangee::detail() const
 }
 
 RangeeHaute::RangeeHaute(const QString &libelle, QWidget *valeur, QWidget *parent)
-    : QWidget(parent), detail_(secondeLigne())
+    : QWidget(parent), detail_(secondeLigne()), valeur_(valeur)
 {
     auto *titre = new Libelle(libelle);
     auto *colonne = new QVBoxLayout(this);
@@ -148,6 +156,7 @@ RangeeHaute::RangeeHaute(const QString &libelle, QWidget *valeur, QWidget *paren
 void RangeeHaute::setDetail(const QString &detail)
 {
     montrerDetail(detail_, detail);
+    decrire(valeur_, detail);
 }
 
 QWidget *seul(QWidget *controle)

@@ -53,6 +53,7 @@ public:
 private:
     Libelle *libelle_;
     Libelle *detail_;
+    QWidget *valeur_;
 };
 
 // A row whose value stands under its label, over the whole width.
@@ -66,6 +67,7 @@ public:
 
 private:
     Libelle *detail_;
+    QWidget *valeur_;
 };
 
 // A control alone on its row, over the whole width.

@@ -50,5 +50,5 @@ void Interrupteur::paintEvent(QPaintEvent *)
     peintre.setBrush(Qt::white);
     peintre.drawEllipse(centre, rayon, rayon);
     if (Dessin::focusVisible(this))
-        Dessin::anneauDeFocus(peintre, piste, piste.height() / 2, palette());
+        Dessin::anneauDeFocus(peintre, piste, piste.height() / 2, Theme::accentTexte(palette()));
 }

@@ -1,27 +1,11 @@
 #include "ui/commun/NombreRoulant.h"
 
+#include "ui/commun/Chiffres.h"
 #include "ui/commun/Ressort.h"
 
 #include <QPainter>
 
 #include <algorithm>
-
-namespace {
-
-int largeur(const QFontMetrics &mesures, QChar caractere)
-{
-    return mesures.horizontalAdvance(caractere.isDigit() ? QChar(u'0') : caractere);
-}
-
-int largeur(const QFontMetrics &mesures, const QString &texte)
-{
-    int somme = 0;
-    for (const QChar caractere : texte)
-        somme += largeur(mesures, caractere);
-    return somme;
-}
-
-} // namespace
 
 NombreRoulant::NombreRoulant(QWidget *parent)
     : QLabel(parent),
@@ -46,7 +30,7 @@ void NombreRoulant::afficher(const QString &texte, int sens)
 
 QSize NombreRoulant::sizeHint() const
 {
-    return {largeur(fontMetrics(), text()), fontMetrics().height()};
+    return {Chiffres::largeur(fontMetrics(), text()), fontMetrics().height()};
 }
 
 QSize NombreRoulant::minimumSizeHint() const
@@ -65,18 +49,17 @@ void NombreRoulant::paintEvent(QPaintEvent *)
     const int ligne = (height() + fontMetrics().ascent() - fontMetrics().descent()) / 2;
     const double course = fontMetrics().height() * 0.7 * sens_;
     const auto dessiner = [&](QChar caractere, double x, double y, double opacite) {
-        const double centrage = (largeur(fontMetrics(), caractere) - fontMetrics().horizontalAdvance(caractere)) / 2.0;
         peintre.setOpacity(opacite);
-        peintre.drawText(QPointF(x + centrage, y), caractere);
+        Chiffres::peindre(peintre, caractere, x, y);
     };
 
     // Characters face each other from the right: units stay over units when a number gains a digit.
-    double x = alignment() & Qt::AlignHCenter ? (width() + largeur(fontMetrics(), texte)) / 2.0 : width();
+    double x = alignment() & Qt::AlignHCenter ? (width() + Chiffres::largeur(fontMetrics(), texte)) / 2.0 : width();
     const qsizetype longueur = progres < 1 ? std::max(texte.size(), precedent_.size()) : texte.size();
     for (qsizetype rang = 1; rang <= longueur; ++rang) {
         const QChar nouveau = rang <= texte.size() ? texte[texte.size() - rang] : QChar();
         const QChar ancien = rang <= precedent_.size() ? precedent_[precedent_.size() - rang] : QChar();
-        x -= largeur(fontMetrics(), nouveau.isNull() ? ancien : nouveau);
+        x -= Chiffres::largeur(fontMetrics(), nouveau.isNull() ? ancien : nouveau);
         if (progres >= 1 || nouveau == ancien) {
             dessiner(nouveau, x, ligne, 1);
             continue;

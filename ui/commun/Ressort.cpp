@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QStyle>
+#include <QWidget>
 
 #include <cmath>
 #include <numbers>
@@ -24,6 +25,14 @@ void Ressort::vers(double cible)
     ecartInitial_ = valeur_ - cible_;
     vitesseInitiale_ = vitesse_;
     start();
+}
+
+void Ressort::vers(double cible, const QWidget *montre)
+{
+    if (montre->isVisible())
+        vers(cible);
+    else
+        placer(cible);
 }
 
 void Ressort::placer(double valeur)

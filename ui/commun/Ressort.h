@@ -4,6 +4,8 @@
 
 #include <functional>
 
+class QWidget;
+
 // A damped spring that carries one number toward its target; a new target keeps the speed it has. It jumps at
 // once when the platform asks for no animation.
 class Ressort : public QAbstractAnimation
@@ -23,6 +25,8 @@ public:
     [[nodiscard]] double valeur() const { return valeur_; }
     [[nodiscard]] double cible() const { return cible_; }
     void vers(double cible);
+    // Moves only what can be seen.
+    void vers(double cible, const QWidget *montre);
     // Without any motion.
     void placer(double valeur);
 

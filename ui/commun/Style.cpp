@@ -31,10 +31,11 @@ void bouton(const QStyleOption &option, QPainter &peintre)
         fond = Dessin::melange(fond, palette.color(QPalette::WindowText), 0.05);
     peintre.setPen(QPen(Theme::filet(palette), 1));
     peintre.setBrush(fond);
-    const QRectF cadre = QRectF(option.rect).adjusted(2.5, 2.5, -2.5, -2.5);
+    const QRectF cadre = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
     peintre.drawRoundedRect(cadre, Theme::rayonControle, Theme::rayonControle);
     if (contient(option, QStyle::State_HasFocus) && contient(option, QStyle::State_KeyboardFocusChange))
-        Dessin::anneauDeFocus(peintre, cadre.adjusted(1, 1, -1, -1), Theme::rayonControle - 1, palette);
+        Dessin::anneauDeFocus(peintre, cadre.adjusted(2, 2, -2, -2), Theme::rayonControle - 2,
+                              Theme::accentTexte(palette));
 }
 
 // The icon and the text side by side, centred together.
@@ -89,7 +90,7 @@ void fondDOutil(const QStyleOption &option, QPainter &peintre)
         peintre.drawRoundedRect(cadre, Theme::rayonControle, Theme::rayonControle);
     }
     if (contient(option, QStyle::State_HasFocus) && contient(option, QStyle::State_KeyboardFocusChange))
-        Dessin::anneauDeFocus(peintre, cadre, Theme::rayonControle - 2, option.palette);
+        Dessin::anneauDeFocus(peintre, cadre, Theme::rayonControle - 2, Theme::accentTexte(option.palette));
 }
 
 QRect poignee(const QStyleOptionSlider &option)
@@ -240,9 +241,9 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption *option, con
     QSize taille = QProxyStyle::sizeFromContents(type, option, contenu, widget);
     switch (type) {
     case CT_PushButton:
-        return {taille.width() + 16, std::max(taille.height(), contenu.height() + 18)};
+        return {taille.width() + 16, std::max(taille.height(), contenu.height() + 14)};
     case CT_ComboBox:
-        return {taille.width() + 10, std::max(taille.height(), contenu.height() + 18)};
+        return {taille.width() + 10, std::max(taille.height(), contenu.height() + 14)};
     case CT_LineEdit:
         return {taille.width(), std::max(hauteurControle, contenu.height() + 12)};
     case CT_HeaderSection:

@@ -50,7 +50,8 @@ void DelegueLivres::paint(QPainter *peintre, const QStyleOptionViewItem &option,
     peintre->fillRect(QRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1),
                       Theme::filet(option.palette));
     if (option.state.testFlag(QStyle::State_HasFocus) && option.widget && Dessin::focusVisible(option.widget))
-        Dessin::anneauDeFocus(*peintre, QRectF(option.rect).adjusted(3, 3, -3, -4), 6, option.palette);
+        Dessin::anneauDeFocus(*peintre, QRectF(option.rect).adjusted(3, 3, -3, -4), 6,
+                              Theme::accentTexte(option.palette));
     indice.column() == ModeleLivres::titre ? peindreLivre(*peintre, option, indice)
                                            : peindreTexte(*peintre, option, indice);
     peintre->restore();
