@@ -1,19 +1,39 @@
 #include "tests/Banc.h"
-#include "ui/livres/ModeleLivres.h"
+#include "ui/QuilletApp.h"
 #include "ui/tarifs/TextesTarifs.h"
+#include "ui/tarifs/VueTarifs.h"
 
-#include <QAbstractItemModelTester>
+#include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 
-// What the two reference screens say.
+#include <algorithm>
+
+// What the tariffs' screen says, and when it says something else.
 class TestTarifs : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void initTestCase() { QuilletApp::preparer(Theme::Mode::clair); }
+
     void famillesDansLOrdre();
-    void lignesDesLivres();
+    void suitLesGrillesEnVigueur();
 };
+
+namespace {
+
+bool montre(const QWidget &vue, const QString &texte)
+{
+    const auto libelles = vue.findChildren<QLabel *>();
+    return std::ranges::any_of(libelles, [&](const QLabel *libelle) {
+        return libelle->isVisible()
+               && libelle->text().replace(QChar(0x202F), u' ').replace(QChar(0x00A0), u' ') == texte;
+    });
+}
+
+} // namespace
 
 void TestTarifs::famillesDansLOrdre()
 {
@@ -38,24 +58,32 @@ void TestTarifs::famillesDansLOrdre()
     QCOMPARE(familles[0].grilles[0].paliers[0].prix.left(4), QStringLiteral("5,49"));
 }
 
-void TestTarifs::lignesDesLivres()
+void TestTarifs::suitLesGrillesEnVigueur()
 {
     const Banc banc;
     const auto catalogue = banc.charger();
-    ModeleLivres modele(*catalogue);
-    const QAbstractItemModelTester verification(&modele, QAbstractItemModelTester::FailureReportingMode::QtTest);
-    const auto texte = [&](int ligne, ModeleLivres::Colonne colonne) {
-        return modele.index(ligne, colonne).data().toString();
-    };
-    QCOMPARE(modele.rowCount(), 4);
-    QCOMPARE(texte(1, ModeleLivres::poids), QStringLiteral("Poids à peser"));
-    QCOMPARE(texte(2, ModeleLivres::vendeur), QStringLiteral("Mireva"));
-    QCOMPARE(texte(3, ModeleLivres::etat), QStringLiteral("Épuisé"));
+    VueTarifs vue(*catalogue, [] { return QDate(2026, 3, 2); });
+    vue.resize(800, 300);
+    vue.show();
+    auto *page = vue.findChild<QScrollArea *>();
+    QVERIFY(montre(vue, QStringLiteral("5,49 €")));
+    QVERIFY(montre(vue, QStringLiteral("en vigueur au 1er janvier 2026")));
+
+    QTest::keyClick(page, Qt::Key_End);
+    const int bas = page->verticalScrollBar()->value();
+    QVERIFY(bas > 0);
     Livre livre = banc.livres[0];
     livre.prix = Centimes{1234};
     catalogue->modifier(livre);
-    QCOMPARE(texte(0, ModeleLivres::prix).left(5), QStringLiteral("12,34"));
+    catalogue->enregistrer(desTarifs(QStringLiteral("2026-03-03"), Centimes{888}));
+    QVERIFY(montre(vue, QStringLiteral("5,49 €")));
+    QCOMPARE(page->verticalScrollBar()->value(), bas);
+
+    catalogue->enregistrer(desTarifs(QStringLiteral("2026-03-02"), Centimes{777}));
+    QTRY_VERIFY(montre(vue, QStringLiteral("7,77 €")));
+    QVERIFY(!montre(vue, QStringLiteral("5,49 €")));
+    QVERIFY(montre(vue, QStringLiteral("en vigueur au 2 mars 2026")));
 }
 
-QTEST_GUILESS_MAIN(TestTarifs)
+QTEST_MAIN(TestTarifs)
 #include "tst_tarifs.moc"

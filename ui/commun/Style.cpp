@@ -13,7 +13,6 @@ namespace {
 
 constexpr int hauteurControle = 30;
 constexpr int largeurAscenseur = 11;
-constexpr int margeDeColonne = 12;
 constexpr int espaceIcone = 7; // between a button's icon and its text
 
 bool contient(const QStyleOption &option, QStyle::StateFlag etat)
@@ -59,12 +58,6 @@ void texteDuChoix(const QStyleOptionComboBox &option, QPainter &peintre, const Q
     peintre.setPen(option.palette.color(groupe, QPalette::ButtonText));
     peintre.drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
                      option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, place.width()));
-}
-
-void texteDeColonne(const QStyleOptionHeader &option, QPainter &peintre)
-{
-    peintre.setPen(Theme::secondaire(option.palette));
-    peintre.drawText(option.rect.adjusted(margeDeColonne, 0, -margeDeColonne, 0), option.textAlignment, option.text);
 }
 
 void champ(const QStyleOption &option, QPainter &peintre)
@@ -164,12 +157,6 @@ void Style::drawControl(ControlElement element, const QStyleOption *option, QPai
     else if (const auto *choix = qstyleoption_cast<const QStyleOptionComboBox *>(option);
              choix && element == CE_ComboBoxLabel)
         texteDuChoix(*choix, *peintre, subControlRect(CC_ComboBox, choix, SC_ComboBoxEditField, widget));
-    else if (element == CE_HeaderSection || element == CE_HeaderEmptyArea)
-        peintre->fillRect(QRect(option->rect.left(), option->rect.bottom(), option->rect.width(), 1),
-                          Theme::filet(option->palette));
-    else if (const auto *tete = qstyleoption_cast<const QStyleOptionHeader *>(option);
-             tete && element == CE_HeaderLabel)
-        texteDeColonne(*tete, *peintre);
     else if (element == CE_Splitter)
         peintre->fillRect(option->rect, Theme::filet(option->palette));
     else
@@ -246,8 +233,6 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption *option, con
         return {taille.width() + 10, std::max(taille.height(), contenu.height() + 14)};
     case CT_LineEdit:
         return {taille.width(), std::max(hauteurControle, contenu.height() + 12)};
-    case CT_HeaderSection:
-        return {taille.width() + 2 * margeDeColonne, taille.height() + 8};
     case CT_ToolButton:
         return {taille.width() + 8, std::max(taille.height(), contenu.height() + 14)};
     default:

@@ -1,27 +1,69 @@
 #include "ui/livres/DelegueLivres.h"
 
+#include "model/Format.h"
 #include "ui/Theme.h"
 #include "ui/commande/DessinCouverture.h"
+#include "ui/commun/Chiffres.h"
 #include "ui/commun/Dessin.h"
+#include "ui/commun/NomsVendeurs.h"
 #include "ui/livres/ModeleLivres.h"
+#include "ui/livres/TextesLivres.h"
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace {
 
-constexpr int marge = 12;
-constexpr QSize couverture(42, 63);
+constexpr QSize couverture(44, 66);
+constexpr int marge = 16;  // inside a group
+constexpr int retrait = 5; // of the current row's mark
+constexpr int espace = 20; // between the columns
+constexpr int avantLEtiquette = 10;
+constexpr int sousLeTitre = 10;   // between a group's title and the group
+constexpr int avantUnGroupe = 28; // and after the last one
+constexpr int jeu = 2;            // drawing may round a little wider than it measured
+constexpr int largeurMaximale = 960;
 
-QFont police(int colonne)
+int hauteurDuTitre()
 {
-    switch (colonne) {
-    case ModeleLivres::titre:
-        return Theme::titreLivre();
-    case ModeleLivres::prix:
-        return Theme::enGras(Theme::texte());
-    default:
-        return Theme::encadre();
-    }
+    return avantUnGroupe + QFontMetrics(Theme::titreSection()).height() + sousLeTitre;
+}
+
+QFont policeDuPrix()
+{
+    return Theme::enGras(Theme::texte());
+}
+
+int hauteurDuTexte()
+{
+    return QFontMetrics(Theme::titreLivre()).height() + 2 * QFontMetrics(Theme::encadre()).height() + 4;
+}
+
+void ecrire(QPainter &peintre, const QRect &cadre, const QString &texte, Qt::Alignment cote = Qt::AlignLeft)
+{
+    peintre.drawText(cadre, static_cast<int>(cote | Qt::AlignVCenter),
+                     peintre.fontMetrics().elidedText(texte, Qt::ElideRight, cadre.width()));
+}
+
+// A quiet capsule behind a title of this width; gives what it leaves to the title.
+QRect peindreEtiquette(QPainter &peintre, const QRect &ligne, const QString &texte, int largeurDuTitre,
+                       const QPalette &palette)
+{
+    const QFont police = Theme::enGras(Theme::legende(), QFont::Medium);
+    const QFontMetrics mesures(police);
+    const QSize taille(mesures.horizontalAdvance(texte) + 16, mesures.height() + 4);
+    const int gauche = std::min(ligne.left() + largeurDuTitre + avantLEtiquette, ligne.right() + 1 - taille.width());
+    const QRect etiquette(QPoint(gauche, ligne.center().y() + 1 - taille.height() / 2), taille);
+    peintre.setPen(Qt::NoPen);
+    peintre.setBrush(Theme::remplissage(palette));
+    peintre.drawRoundedRect(etiquette, 6, 6);
+    peintre.setFont(police);
+    peintre.setPen(Theme::secondaire(palette));
+    peintre.drawText(etiquette, Qt::AlignCenter, texte);
+    QRect titre = ligne;
+    titre.setRight(gauche - avantLEtiquette - 1);
+    return titre;
 }
 
 } // namespace
@@ -33,65 +75,120 @@ DelegueLivres::DelegueLivres(const ModeleLivres &modele, ImagesCouvertures &imag
 
 QSize DelegueLivres::sizeHint(const QStyleOptionViewItem &, const QModelIndex &indice) const
 {
-    const int texte = QFontMetrics(police(indice.column())).horizontalAdvance(indice.data().toString());
-    const int image = indice.column() == ModeleLivres::titre ? couverture.width() + marge : 0;
-    return {texte + image + 2 * marge + 2, hauteurDeLigne}; // drawing may round a little wider than it measured
+    const int rang = indice.row();
+    const int livre = std::max(couverture.height(), hauteurDuTexte()) + 2 * 12;
+    return {0, livre + (modele_.ouvreUnGroupe(rang) ? hauteurDuTitre() : 0)
+                   + (rang == modele_.rowCount() - 1 ? avantUnGroupe : 0)};
 }
 
 void DelegueLivres::paint(QPainter *peintre, const QStyleOptionViewItem &option, const QModelIndex &indice) const
 {
+    const int rang = indice.row();
+    const Livre &livre = modele_.livre(rang);
+    QRect cadre = option.rect;
+    cadre.setWidth(std::min(cadre.width(), largeurMaximale));
     peintre->save();
     peintre->setRenderHint(QPainter::Antialiasing);
+    if (modele_.ouvreUnGroupe(rang)) {
+        peindreTitre(*peintre, QRect(cadre.topLeft(), QSize(cadre.width(), hauteurDuTitre() - sousLeTitre)), livre,
+                     option.palette);
+        cadre.setTop(cadre.top() + hauteurDuTitre());
+    }
+    if (rang == modele_.rowCount() - 1)
+        cadre.setBottom(cadre.bottom() - avantUnGroupe);
+    peindreCarte(*peintre, cadre, rang, option.palette);
+
+    const QRectF marque = QRectF(cadre).adjusted(retrait, retrait, -retrait, -retrait);
     if (option.state.testFlag(QStyle::State_Selected)) {
         QColor fond = Theme::accentTexte(option.palette);
         fond.setAlphaF(0.12F);
-        peintre->fillRect(option.rect, fond);
+        peintre->setPen(Qt::NoPen);
+        peintre->setBrush(fond);
+        peintre->drawRoundedRect(marque, Theme::rayonControle, Theme::rayonControle);
     }
-    peintre->fillRect(QRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1),
-                      Theme::filet(option.palette));
     if (option.state.testFlag(QStyle::State_HasFocus) && option.widget && Dessin::focusVisible(option.widget))
-        Dessin::anneauDeFocus(*peintre, QRectF(option.rect).adjusted(3, 3, -3, -4), 6,
+        Dessin::anneauDeFocus(*peintre, marque.adjusted(2, 2, -2, -2), Theme::rayonControle - 2,
                               Theme::accentTexte(option.palette));
-    indice.column() == ModeleLivres::titre ? peindreLivre(*peintre, option, indice)
-                                           : peindreTexte(*peintre, option, indice);
+    peindreLivre(*peintre, cadre.adjusted(marge, 0, -marge, 0), livre, option.palette);
     peintre->restore();
 }
 
-void DelegueLivres::peindreLivre(QPainter &peintre, const QStyleOptionViewItem &option, const QModelIndex &indice) const
+void DelegueLivres::peindreTitre(QPainter &peintre, const QRect &cadre, const Livre &premier,
+                                 const QPalette &palette) const
 {
-    const Livre &livre = modele_.livre(indice.row());
-    const QRect place(option.rect.left() + marge, option.rect.center().y() + 1 - couverture.height() / 2,
-                      couverture.width(), couverture.height());
+    const QString nom = NomsVendeurs::court(premier.vendeur);
+    const QFontMetrics mesures(Theme::titreSection());
+    const int base = cadre.bottom() - mesures.descent();
+    peintre.setFont(Theme::titreSection());
+    peintre.setPen(palette.color(QPalette::WindowText));
+    peintre.drawText(cadre.left(), base, nom);
+    peintre.setFont(Theme::encadre());
+    peintre.setPen(Theme::secondaire(palette));
+    peintre.drawText(cadre.left() + mesures.horizontalAdvance(nom) + 10, base,
+                     TextesLivres::nombre(modele_.nombre(premier.vendeur)));
+}
+
+// The edges that a neighbour continues are pushed out of sight.
+void DelegueLivres::peindreCarte(QPainter &peintre, const QRect &cadre, int rang, const QPalette &palette) const
+{
+    const bool premier = modele_.ouvreUnGroupe(rang);
+    const bool dernier = modele_.fermeUnGroupe(rang);
+    constexpr int suite = 2 * Theme::rayonGroupe;
+    peintre.save();
+    peintre.setClipRect(cadre, Qt::IntersectClip);
+    Dessin::carte(peintre, cadre.adjusted(0, premier ? 0 : -suite, 0, dernier ? 0 : suite), palette);
+    if (!premier)
+        peintre.fillRect(cadre.left() + marge, cadre.top(), cadre.width() - 2 * marge, 1, Theme::filet(palette));
+    peintre.restore();
+}
+
+void DelegueLivres::peindreLivre(QPainter &peintre, const QRect &cadre, const Livre &livre,
+                                 const QPalette &palette) const
+{
+    const QColor texte = palette.color(QPalette::WindowText);
+    const QColor secondaire = Theme::secondaire(palette);
+    const QPoint image(cadre.left(), cadre.center().y() + 1 - couverture.height() / 2);
     peintre.setOpacity(livre.disponible ? 1 : DessinCouverture::opaciteIndisponible);
-    peintre.drawPixmap(place.topLeft(),
+    peintre.drawPixmap(image,
                        DessinCouverture::dessin(livre, couverture, peintre.device()->devicePixelRatioF(), images_));
     peintre.setOpacity(1);
 
-    const int gauche = place.right() + 1 + marge;
-    const int largeur = option.rect.right() - marge - gauche;
-    const auto ligne = [&](const QFont &policeDeLigne, const QColor &couleur, const QString &texte, int haut) {
-        peintre.setFont(policeDeLigne);
-        peintre.setPen(couleur);
-        const QFontMetrics mesures(policeDeLigne);
-        peintre.drawText(QRect(gauche, haut, largeur, mesures.height()), Qt::AlignLeft | Qt::AlignVCenter,
-                         mesures.elidedText(texte, Qt::ElideRight, largeur));
-    };
-    const int hauteurTitre = QFontMetrics(Theme::titreLivre()).height();
-    const int milieu = option.rect.center().y();
-    ligne(Theme::titreLivre(), option.palette.color(QPalette::WindowText), livre.titre, milieu - hauteurTitre);
-    ligne(Theme::encadre(), Theme::secondaire(option.palette), livre.auteur, milieu + 3);
-}
+    peintre.setFont(policeDuPrix());
+    peintre.setPen(livre.disponible ? texte : secondaire);
+    const QString prix = Format::euros(livre.prix);
+    const QFontMetrics mesuresDuPrix = peintre.fontMetrics();
+    const int largeurDuPrix = jeu
+                              + std::max(Chiffres::largeur(mesuresDuPrix, QStringLiteral("000,00 €")),
+                                         Chiffres::largeur(mesuresDuPrix, prix));
+    QRect colonne(cadre.right() + 1 - largeurDuPrix, cadre.top(), largeurDuPrix, cadre.height());
+    Chiffres::peindre(peintre, colonne, Qt::AlignRight, prix);
 
-void DelegueLivres::peindreTexte(QPainter &peintre, const QStyleOptionViewItem &option, const QModelIndex &indice) const
-{
-    const Livre &livre = modele_.livre(indice.row());
-    const bool enAlerte = indice.column() == ModeleLivres::poids && !livre.poids;
-    const bool discret = indice.column() != ModeleLivres::prix || !livre.disponible;
-    peintre.setFont(police(indice.column()));
-    peintre.setPen(enAlerte  ? Theme::orange(option.palette)
-                   : discret ? Theme::secondaire(option.palette)
-                             : option.palette.color(QPalette::WindowText));
-    const QRect place = option.rect.adjusted(marge, 0, -marge, 0);
-    peintre.drawText(place, indice.data(Qt::TextAlignmentRole).toInt(),
-                     peintre.fontMetrics().elidedText(indice.data().toString(), Qt::ElideRight, place.width()));
+    peintre.setFont(livre.poids ? Theme::encadre() : Theme::enGras(Theme::encadre(), QFont::Medium));
+    peintre.setPen(livre.poids ? secondaire : Theme::orange(palette));
+    const int largeurDuPoids = peintre.fontMetrics().horizontalAdvance(QStringLiteral("Poids à peser")) + jeu;
+    colonne.setRect(colonne.left() - espace - largeurDuPoids, cadre.top(), largeurDuPoids, cadre.height());
+    if (livre.poids)
+        Chiffres::peindre(peintre, colonne, Qt::AlignRight, TextesLivres::poids(livre));
+    else
+        ecrire(peintre, colonne, TextesLivres::poids(livre), Qt::AlignRight);
+
+    const QFontMetrics mesures(Theme::titreLivre());
+    QRect ligne(image.x() + couverture.width() + marge, cadre.center().y() + 1 - hauteurDuTexte() / 2, 0,
+                mesures.height());
+    ligne.setRight(colonne.left() - espace);
+    QRect titre = ligne;
+    if (!livre.disponible)
+        titre = peindreEtiquette(peintre, ligne, TextesLivres::epuise(), mesures.horizontalAdvance(livre.titre) + jeu,
+                                 palette);
+    peintre.setFont(Theme::titreLivre());
+    peintre.setPen(texte);
+    ecrire(peintre, titre, livre.titre);
+
+    peintre.setFont(Theme::encadre());
+    peintre.setPen(secondaire);
+    for (const QString &suivante : {livre.auteur, TextesLivres::fabrication(livre)}) {
+        ligne.moveTop(ligne.bottom() + 3);
+        ligne.setHeight(peintre.fontMetrics().height());
+        ecrire(peintre, ligne, suivante);
+    }
 }

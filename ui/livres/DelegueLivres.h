@@ -4,24 +4,23 @@
 
 class ImagesCouvertures;
 class ModeleLivres;
+struct Livre;
 
-// Draws a row of the books' table: the small cover, the title over its author, then the figures.
+// Draws a book as a slice of its seller's raised group; the first one also carries the group's title above it.
 class DelegueLivres : public QStyledItemDelegate
 {
     Q_OBJECT
 
 public:
-    static constexpr int hauteurDeLigne = 84;
-
     DelegueLivres(const ModeleLivres &modele, ImagesCouvertures &images, QObject *parent = nullptr);
 
     void paint(QPainter *peintre, const QStyleOptionViewItem &option, const QModelIndex &indice) const override;
-    // As wide as its text, so that the columns can size themselves.
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &indice) const override;
 
 private:
-    void peindreLivre(QPainter &peintre, const QStyleOptionViewItem &option, const QModelIndex &indice) const;
-    void peindreTexte(QPainter &peintre, const QStyleOptionViewItem &option, const QModelIndex &indice) const;
+    void peindreTitre(QPainter &peintre, const QRect &cadre, const Livre &premier, const QPalette &palette) const;
+    void peindreCarte(QPainter &peintre, const QRect &cadre, int rang, const QPalette &palette) const;
+    void peindreLivre(QPainter &peintre, const QRect &cadre, const Livre &livre, const QPalette &palette) const;
 
     const ModeleLivres &modele_;
     ImagesCouvertures &images_;

@@ -1,91 +1,75 @@
 #include "ui/livres/ModeleLivres.h"
 
 #include "model/Catalogue.h"
-#include "model/Format.h"
-#include "ui/commun/NomsVendeurs.h"
+#include "ui/livres/TextesLivres.h"
 
-namespace {
-
-bool aDroite(int colonne)
-{
-    return colonne == ModeleLivres::poids || colonne == ModeleLivres::prix;
-}
-
-} // namespace
+#include <algorithm>
 
 ModeleLivres::ModeleLivres(const Catalogue &catalogue, QObject *parent)
-    : QAbstractTableModel(parent), catalogue_(catalogue)
+    : QAbstractListModel(parent), catalogue_(catalogue), rangs_(ranger())
 {
-    connect(&catalogue, &Catalogue::change, this, [this] {
-        beginResetModel();
-        endResetModel();
-    });
+    connect(&catalogue, &Catalogue::change, this, &ModeleLivres::actualiser);
 }
 
-const Livre &ModeleLivres::livre(int ligne) const
+QList<ModeleLivres::Rang> ModeleLivres::ranger() const
 {
-    return catalogue_.livres()[ligne];
+    QList<Rang> rangs;
+    for (const Livre &livre : catalogue_.livres())
+        rangs.append({livre.vendeur, livre.id, rangs.size()});
+    std::ranges::stable_sort(rangs, {}, &Rang::vendeur);
+    return rangs;
+}
+
+// The same books in the same order keep the current row and the place in the list.
+void ModeleLivres::actualiser()
+{
+    const QList<Rang> rangs = ranger();
+    if (rangs == rangs_) {
+        if (!rangs_.isEmpty())
+            emit dataChanged(index(0), index(rowCount() - 1));
+        return;
+    }
+    beginResetModel();
+    rangs_ = rangs;
+    endResetModel();
+}
+
+const Livre &ModeleLivres::livre(int rang) const
+{
+    return catalogue_.livres()[rangs_[rang].place];
+}
+
+bool ModeleLivres::ouvreUnGroupe(int rang) const
+{
+    return rang == 0 || rangs_[rang - 1].vendeur != rangs_[rang].vendeur;
+}
+
+bool ModeleLivres::fermeUnGroupe(int rang) const
+{
+    return rang == rangs_.size() - 1 || ouvreUnGroupe(rang + 1);
+}
+
+qsizetype ModeleLivres::nombre(Vendeur vendeur) const
+{
+    return std::ranges::count(rangs_, vendeur, &Rang::vendeur);
 }
 
 int ModeleLivres::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(catalogue_.livres().size());
-}
-
-int ModeleLivres::columnCount(const QModelIndex &parent) const
-{
-    return parent.isValid() ? 0 : nombreDeColonnes;
+    return parent.isValid() ? 0 : static_cast<int>(rangs_.size());
 }
 
 QVariant ModeleLivres::data(const QModelIndex &indice, int role) const
 {
     const Livre &livre = this->livre(indice.row());
-    if (role == Qt::TextAlignmentRole)
-        return QVariant((aDroite(indice.column()) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-    if (role == Qt::AccessibleTextRole && indice.column() == titre)
-        return tr("%1, de %2").arg(livre.titreComplet, livre.auteur);
-    if (role == Qt::ToolTipRole && indice.column() == titre)
-        return livre.titreComplet;
-    if (role != Qt::DisplayRole)
-        return {};
-    switch (indice.column()) {
-    case titre:
+    switch (role) {
+    case Qt::DisplayRole:
         return livre.titre;
-    case vendeur:
-        return NomsVendeurs::court(livre.vendeur);
-    case format:
-        return tr("%1 · %2 p.").arg(livre.format, QString::number(livre.pages));
-    case poids:
-        return livre.poids ? Format::poids(*livre.poids) : tr("Poids à peser");
-    case prix:
-        return Format::euros(livre.prix);
-    case etat:
-        return livre.disponible ? tr("Disponible") : tr("Épuisé");
+    case Qt::ToolTipRole:
+        return livre.titreComplet;
+    case Qt::AccessibleTextRole:
+        return TextesLivres::enMots(livre);
     default:
         return {};
-    }
-}
-
-QVariant ModeleLivres::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    if (orientation != Qt::Horizontal)
-        return {};
-    if (role == Qt::TextAlignmentRole)
-        return QVariant((aDroite(section) ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-    if (role != Qt::DisplayRole)
-        return {};
-    switch (section) {
-    case titre:
-        return tr("Livre");
-    case vendeur:
-        return tr("Vendeur");
-    case format:
-        return tr("Format");
-    case poids:
-        return tr("Poids");
-    case prix:
-        return tr("Prix");
-    default:
-        return tr("État");
     }
 }

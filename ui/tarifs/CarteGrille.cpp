@@ -2,45 +2,68 @@
 
 #include "ui/Theme.h"
 #include "ui/commun/Dessin.h"
-#include "ui/commun/Formulaire.h"
 #include "ui/commun/Libelle.h"
 #include "ui/commun/NombreRoulant.h"
 
+#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QPainter>
 #include <QVBoxLayout>
 
 namespace {
 
-QWidget *ligne(const TextesTarifs::Palier &palier)
+constexpr int entreColonnes = 32;
+
+class Ligne : public QWidget
 {
-    auto *prix = new NombreRoulant;
-    prix->afficher(palier.prix);
-    prix->setFont(Theme::enGras(prix->font(), QFont::Medium));
-    auto *rangee = new Formulaire::Rangee(palier.poids, prix);
-    rangee->setContentsMargins(0, 3, 0, 3);
-    return rangee;
+public:
+    explicit Ligne(const TextesTarifs::Palier &palier)
+    {
+        // A figure that never rolls: its digits line up from one row to the next.
+        auto *prix = new NombreRoulant;
+        prix->afficher(palier.prix);
+        prix->setFont(Theme::enGras(prix->font(), QFont::Medium));
+        auto *rangee = new QHBoxLayout(this);
+        rangee->setContentsMargins(0, 6, 0, 6);
+        rangee->addWidget(new Libelle(palier.poids), 1);
+        rangee->addWidget(prix);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override { QPainter(this).fillRect(0, 0, width(), 1, Theme::filet(palette())); }
+};
+
+QGridLayout *lignes(const QList<TextesTarifs::Palier> &paliers, int colonnes)
+{
+    auto *grille = new QGridLayout;
+    grille->setHorizontalSpacing(entreColonnes);
+    grille->setVerticalSpacing(0);
+    const int hauteur = (static_cast<int>(paliers.size()) + colonnes - 1) / colonnes;
+    for (int i = 0; i < paliers.size(); ++i)
+        grille->addWidget(new Ligne(paliers[i]), i % hauteur, i / hauteur);
+    for (int i = 0; i < colonnes; ++i)
+        grille->setColumnStretch(i, 1);
+    return grille;
 }
 
 } // namespace
 
-CarteGrille::CarteGrille(const TextesTarifs::Grille &grille, QWidget *parent) : QWidget(parent)
+CarteGrille::CarteGrille(const TextesTarifs::Grille &grille, int colonnes, QWidget *parent) : QWidget(parent)
 {
     auto *nom = new Libelle(grille.nom);
-    nom->setFont(Theme::enGras(Theme::titre3()));
+    nom->setFont(Theme::enGras(font()));
     nom->setWordWrap(true);
     auto *colonne = new QVBoxLayout(this);
-    colonne->setContentsMargins(18, 16, 18, 14);
-    colonne->setSpacing(4);
+    colonne->setContentsMargins(18, 14, 18, 14);
+    colonne->setSpacing(8);
     colonne->addWidget(nom);
+    colonne->addLayout(lignes(grille.paliers, colonnes));
     if (!grille.pays.isEmpty()) {
         auto *pays = new Libelle(grille.pays, Libelle::Rang::secondaire);
-        pays->setFont(Theme::encadre());
+        pays->setFont(Theme::legende());
         pays->setWordWrap(true);
         colonne->addWidget(pays);
     }
-    colonne->addSpacing(6);
-    for (const TextesTarifs::Palier &palier : grille.paliers)
-        colonne->addWidget(ligne(palier));
     colonne->addStretch(1);
     setAccessibleName(grille.nom);
 }

@@ -4,13 +4,15 @@
 
 #include <QWidget>
 
-// One grid on a raised card: its name, its countries, its tiers.
+// One grid on a raised card: its name, its tiers, and the countries at the foot, so that the tiers of two cards side by
+// side stay level.
 class CarteGrille : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit CarteGrille(const TextesTarifs::Grille &grille, QWidget *parent = nullptr);
+    // The tiers fill one column after the other.
+    CarteGrille(const TextesTarifs::Grille &grille, int colonnes, QWidget *parent = nullptr);
 
 protected:
     void paintEvent(QPaintEvent *evenement) override;

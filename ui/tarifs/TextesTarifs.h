@@ -12,6 +12,8 @@ struct Palier
 {
     QString poids; // "jusqu’à 250 g"
     QString prix;
+
+    bool operator==(const Palier &) const = default;
 };
 
 struct Grille
@@ -19,12 +21,16 @@ struct Grille
     QString nom;
     QString pays; // empty: the name says it all
     QList<Palier> paliers;
+
+    bool operator==(const Grille &) const = default;
 };
 
 struct Famille
 {
     QString titre;
     QList<Grille> grilles; // at least one
+
+    bool operator==(const Famille &) const = default;
 };
 
 // In the families' order; a grid of an unknown family stands nowhere.

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "ui/Aujourdhui.h"
+#include "ui/tarifs/TextesTarifs.h"
 
 #include <QWidget>
 
 class Catalogue;
-class Defilement;
 class EnTete;
+class QScrollArea;
 
 // The grids in force, by family of destinations.
 class VueTarifs : public QWidget
@@ -22,5 +23,6 @@ private:
     const Catalogue &catalogue_;
     Aujourdhui aujourdhui_;
     EnTete *enTete_;
-    Defilement *defilement_;
+    QScrollArea *defilement_;
+    QList<TextesTarifs::Famille> familles_; // as shown
 };

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "model/Livre.h"
+
+#include <QString>
+
+// What the books' screen says of the books: texts only, laid out by the widgets.
+namespace TextesLivres {
+
+// "14 livres"
+QString nombre(qsizetype livres);
+// "14 × 21 cm, broché · 288 pages"
+QString fabrication(const Livre &livre);
+// "355 g", or that the book was never weighed.
+QString poids(const Livre &livre);
+QString epuise();
+// The whole row, for a screen reader.
+QString enMots(const Livre &livre);
+
+} // namespace TextesLivres
