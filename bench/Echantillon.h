@@ -1,0 +1,25 @@
+#pragma once
+
+#include "model/Ressources.h"
+#include "model/Stockage.h"
+
+#include <QTemporaryDir>
+
+// A catalogue of any size on a temporary folder: the shipped books over and over, all of the first seller.
+class Echantillon
+{
+public:
+    enum class Images { sans, avec };
+
+    // With pictures, each book has a file of its own.
+    Echantillon(int nombre, Images images);
+
+    [[nodiscard]] Ressources ressources() const
+    {
+        return Ressources(QDir(dossier_.filePath(QStringLiteral("partage"))));
+    }
+    [[nodiscard]] Stockage stockage() const { return Stockage(QDir(dossier_.filePath(QStringLiteral("donnees")))); }
+
+private:
+    QTemporaryDir dossier_;
+};

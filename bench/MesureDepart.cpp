@@ -1,0 +1,71 @@
+#include "bench/Mesures.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+
+#include <chrono>
+
+namespace {
+
+constexpr int repetitions = 15;
+
+struct Departs
+{
+    QList<double> premiereImage;
+    QList<double> derniereImage;
+    QList<double> memoire;
+    QList<double> memoireAuPlusHaut;
+};
+
+QList<double> demarrer(const QString &fenetre)
+{
+    QProcess enfant;
+    const std::chrono::nanoseconds depart = std::chrono::steady_clock::now().time_since_epoch();
+    enfant.start(QCoreApplication::applicationDirPath() + QStringLiteral("/bench-depart"),
+                 {fenetre, QString::number(depart.count())});
+    if (!enfant.waitForFinished() || enfant.exitStatus() != QProcess::NormalExit || enfant.exitCode() != 0)
+        qFatal("bench-depart %s : %s\n%s", qPrintable(fenetre), qPrintable(enfant.errorString()),
+               enfant.readAllStandardError().constData());
+    QList<double> valeurs;
+    for (const QByteArray &valeur : enfant.readAllStandardOutput().simplified().split(' '))
+        valeurs.append(valeur.toDouble());
+    return valeurs;
+}
+
+void ajouter(Departs &departs, const QList<double> &valeurs)
+{
+    constexpr double kioParMio = 1024;
+    departs.premiereImage.append(valeurs.at(0));
+    departs.derniereImage.append(valeurs.at(1));
+    departs.memoire.append(valeurs.at(2) / kioParMio);
+    departs.memoireAuPlusHaut.append(valeurs.at(3) / kioParMio);
+}
+
+} // namespace
+
+QList<Releve> mesurerDepart()
+{
+    const QString vide = QStringLiteral("vide");
+    const QString quillet = QStringLiteral("quillet");
+    // The first ones fill the system's caches.
+    demarrer(vide);
+    demarrer(quillet);
+    Departs sansRien;
+    Departs reels;
+    for (int i = 0; i < repetitions; ++i) {
+        ajouter(sansRien, demarrer(vide));
+        ajouter(reels, demarrer(quillet));
+    }
+    const auto comparer = [&](const QString &nom, const QString &unite, QList<double> Departs::*champ, double but) {
+        Releve compare = releve(QStringLiteral("Départ, ") + nom, unite, reels.*champ);
+        compare.reference = centile(sansRien.*champ, 0.5);
+        compare.but = but;
+        return compare;
+    };
+    const QString ms = QStringLiteral("ms");
+    const QString mio = QStringLiteral("Mio");
+    return {comparer(QStringLiteral("première image"), ms, &Departs::premiereImage, 2),
+            comparer(QStringLiteral("couvertures peintes"), ms, &Departs::derniereImage, 2),
+            comparer(QStringLiteral("mémoire, couvertures peintes"), mio, &Departs::memoire, 1.7),
+            comparer(QStringLiteral("mémoire au plus haut"), mio, &Departs::memoireAuPlusHaut, 1.7)};
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "bench/Releve.h"
+
+class Temoin;
+
+// From the start of a process to its painted window, beside an empty one; in milliseconds and MiB.
+QList<Releve> mesurerDepart();
+// From a gesture on the order screen to its painted effect, in milliseconds.
+QList<Releve> mesurerEcran(Temoin &temoin);
+QList<Releve> mesurerCalcul();

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+// One row of the report: what was measured, and what it is held against.
+struct Releve
+{
+    QString nom;
+    QString unite;
+    double mediane = 0;
+    std::optional<double> centile95;
+    std::optional<double> reference; // same unit; the goal is then about median / reference
+    std::optional<double> but;       // at most
+};
+
+// The value below which this part (0 to 1) of the values lies; there must be one value at least.
+double centile(QList<double> valeurs, double part);
+Releve releve(const QString &nom, const QString &unite, const QList<double> &valeurs);
+// The whole report, as one table.
+QString tableau(const QList<Releve> &releves);

@@ -1,0 +1,82 @@
+#include "bench/Temoin.h"
+#include "ui/Fenetre.h"
+#include "ui/InstanceUnique.h"
+#include "ui/QuilletApp.h"
+
+#include <QFile>
+#include <QTimer>
+
+#include <cstdio>
+
+// bench-depart vide|quillet <start, in nanoseconds of the monotonic clock>: opens one window, waits until it stops
+// changing, prints when its first and last images were done (ms) and what memory it holds and held (KiB), and leaves.
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr QSize taille(1320, 860);
+constexpr auto calme = 200ms; // shorter than a caret's blink
+
+// Wherever the pointer happens to lie, no cover lifts under it: that motion is not part of the start.
+class SansPointeur : public QObject
+{
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject *, QEvent *evenement) override
+    {
+        return evenement->type() == QEvent::Enter || evenement->type() == QEvent::MouseMove;
+    }
+};
+
+double depuis(std::chrono::nanoseconds depart, Temoin::Horloge::time_point instant)
+{
+    return std::chrono::duration<double, std::milli>(instant.time_since_epoch() - depart).count();
+}
+
+qint64 memoire(const QByteArray &etat, const QByteArray &champ)
+{
+    const qsizetype debut = etat.indexOf(champ + ':') + champ.size() + 1;
+    return etat.mid(debut, etat.indexOf("kB", debut) - debut).trimmed().toLongLong();
+}
+
+int attendreEtRapporter(const Temoin &temoin, std::chrono::nanoseconds depart)
+{
+    QTimer ronde;
+    QObject::connect(&ronde, &QTimer::timeout, &temoin, [&temoin] {
+        if (temoin.derniereImage() && Temoin::Horloge::now() - *temoin.derniereImage() > calme)
+            Temoin::quit();
+    });
+    ronde.start(20ms);
+    Temoin::exec();
+    QFile fichier(QStringLiteral("/proc/self/status"));
+    if (!fichier.open(QIODevice::ReadOnly))
+        return 1;
+    const QByteArray etat = fichier.readAll();
+    std::printf("%.3f %.3f %lld %lld\n", depuis(depart, *temoin.image()), depuis(depart, *temoin.derniereImage()),
+                memoire(etat, "VmRSS"), memoire(etat, "VmHWM"));
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    Temoin temoin(argc, argv);
+    temoin.installEventFilter(new SansPointeur(&temoin));
+    const QStringList arguments = Temoin::arguments();
+    const std::chrono::nanoseconds depart(arguments.value(2).toLongLong());
+    if (arguments.value(1) == QStringLiteral("vide")) {
+        QWidget fenetre;
+        fenetre.resize(taille);
+        fenetre.show();
+        return attendreEtRapporter(temoin, depart);
+    }
+    // From here on, as in the real program's main().
+    QuilletApp::preparer();
+    InstanceUnique instance;
+    if (!instance.premiere())
+        return 1;
+    QuilletApp quillet(Ressources::duProgramme(), Stockage::deLUtilisateur());
+    quillet.fenetre().show();
+    return attendreEtRapporter(temoin, depart);
+}
