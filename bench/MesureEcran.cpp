@@ -66,8 +66,7 @@ QList<Couverture *> Scene::couverturesVisibles() const
 {
     QList<Couverture *> couvertures = fenetre_.findChildren<Couverture *>();
     couvertures.removeIf([](const Couverture *couverture) {
-        return couverture->focusPolicy() == Qt::NoFocus
-               || !couverture->visibleRegion().contains(couverture->rect().center());
+        return !couverture->isEnabled() || !couverture->visibleRegion().contains(couverture->rect().center());
     });
     if (couvertures.isEmpty())
         qFatal("Aucune couverture à l’écran");

@@ -74,7 +74,7 @@ int main(int argc, char **argv)
     // From here on, as in the real program's main().
     QuilletApp::preparer();
     InstanceUnique instance;
-    if (!instance.premiere())
+    if (!instance.prendreLaPlace())
         return 1;
     QuilletApp quillet(Ressources::duProgramme(), Stockage::deLUtilisateur());
     quillet.fenetre().show();

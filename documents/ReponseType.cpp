@@ -70,9 +70,7 @@ QString eurosOuTiret(const std::optional<Centimes> &montant, Langue langue)
 
 QString libelleCourt(const std::optional<Destination> &destination, Langue langue)
 {
-    if (!destination)
-        return {};
-    return langue == Langue::francais ? destination->libelleCourt : destination->libelleCourtEn;
+    return destination ? destination->libelleCourtEnLangue(langue) : QString();
 }
 
 } // namespace

@@ -42,7 +42,7 @@ QList<Livre> sansPoids(const QList<Calcul::Ligne> &lignes)
     return livres;
 }
 
-Grammes poidsDe(const QList<Emballage> &emballages, const Commande &commande)
+Grammes poidsDeLEmballage(const QList<Emballage> &emballages, const Commande &commande)
 {
     if (commande.emballage() == Commande::autrePoids())
         return std::max(commande.poidsEmballageLibre(), Grammes{});
@@ -64,8 +64,7 @@ std::optional<GrilleColissimo> grillePour(const Destination &destination, const 
 // The parcel has a price once there is something in it and its weight is really known.
 std::optional<Palier> palierDuColis(const Calcul &calcul)
 {
-    const bool poidsConnu = calcul.poidsPese || calcul.livresNonPeses.isEmpty();
-    if (calcul.lignes.isEmpty() || !poidsConnu || !calcul.grille)
+    if (calcul.lignes.isEmpty() || !calcul.poidsConnu() || !calcul.grille)
         return std::nullopt;
     return calcul.grille->palier(calcul.poidsRetenu);
 }
@@ -90,7 +89,7 @@ Calcul::Calcul(const Catalogue &catalogue, const Commande &commande, QDate aujou
       sousTotal(prixDesLivres(lignes)),
       poidsLivres(poidsDesLivres(lignes)),
       livresNonPeses(sansPoids(lignes)),
-      poidsEmballage(poidsDe(catalogue.reglages().emballages, commande)),
+      poidsEmballage(poidsDeLEmballage(catalogue.reglages().emballages, commande)),
       poidsCalcule(poidsLivres + poidsEmballage),
       poidsPese(pesee(commande.poidsPese())),
       poidsRetenu(poidsPese.value_or(poidsCalcule)),
@@ -104,6 +103,11 @@ Calcul::Calcul(const Catalogue &catalogue, const Commande &commande, QDate aujou
       fraisPaypal(fraisDuPaiement(*this, catalogue.reglages().fraisPaypal)),
       reste(si(fraisPaypal, [this](Centimes frais) { return sousTotal - frais; }))
 {
+}
+
+bool Calcul::depasseLaGrille() const
+{
+    return !lignes.isEmpty() && poidsConnu() && grille && !grille->paliers.isEmpty() && !palier;
 }
 
 QSet<Vendeur> Calcul::vendeurs() const

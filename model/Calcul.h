@@ -42,6 +42,10 @@ public:
     const std::optional<Centimes> fraisPaypal; // on the whole payment, postage included
     const std::optional<Centimes> reste;       // of the books, once the fee is paid; may be negative
 
+    // Whether the parcel's weight rests on nothing missing: it was weighed, or every book was.
+    [[nodiscard]] bool poidsConnu() const { return poidsPese || livresNonPeses.isEmpty(); }
+    // Whether no tier of the grid holds the parcel, though its weight is known.
+    [[nodiscard]] bool depasseLaGrille() const;
     [[nodiscard]] QSet<Vendeur> vendeurs() const;
     [[nodiscard]] int nombreDeLivres() const;
 };

@@ -16,11 +16,6 @@ QString fichierDesFrais()
     return QStringLiteral("frais-paypal.json");
 }
 
-QString fichierDes(const TarifsColissimo &tarifs)
-{
-    return QStringLiteral("tarifs-colissimo-%1.json").arg(tarifs.validite);
-}
-
 QList<TarifsColissimo> fusion(QList<TarifsColissimo> livrees, const QList<TarifsColissimo> &enregistrees)
 {
     for (const TarifsColissimo &tarifs : enregistrees) {
@@ -135,7 +130,7 @@ void Catalogue::adopter(T &champ, const T &valeur)
 
 void Catalogue::enregistrer(const TarifsColissimo &tarifs)
 {
-    stockage_.ecrire(tarifs, fichierDes(tarifs));
+    stockage_.ecrire(tarifs, tarifs.nomDeFichier());
     auto connues = grillesConnues_;
     connues.removeIf([&](const TarifsColissimo &connus) { return connus.validite == tarifs.validite; });
     connues.append(tarifs);

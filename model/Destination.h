@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Json.h"
+#include "model/Langue.h"
 
 #include <QString>
 
@@ -22,6 +23,10 @@ struct Destination
     bool douane = false;
     std::optional<QString> douaneSauf; // territories outside the EU customs area
 
+    [[nodiscard]] QString libelleCourtEnLangue(Langue langue) const
+    {
+        return langue == Langue::anglais ? libelleCourtEn : libelleCourt;
+    }
     // `horsUE` counts only where some territories are an exception.
     [[nodiscard]] bool douaneRequise(bool horsUE) const { return douane || (douaneSauf && horsUE); }
 

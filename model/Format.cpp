@@ -33,8 +33,10 @@ std::string decimal(qint64 valeur, std::size_t decimales)
     if (chiffres.size() <= decimales)
         chiffres.insert(0, decimales + 1 - chiffres.size(), '0');
     if (decimales > 0)
-        chiffres.insert(chiffres.size() - decimales, ".");
-    return valeur < 0 ? '-' + chiffres : chiffres;
+        chiffres.insert(chiffres.size() - decimales, 1, '.');
+    if (valeur < 0)
+        chiffres.insert(0, 1, '-');
+    return chiffres;
 }
 
 QString versTexte(const icu::UnicodeString &texte)

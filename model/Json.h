@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Echec.h"
 #include "model/Quantite.h"
 
 #include <QByteArray>
@@ -14,8 +15,8 @@
 #include <array>
 #include <concepts>
 #include <optional>
-#include <stdexcept>
 #include <tuple>
+#include <utility>
 
 // Plain records to JSON and back. A record lists its fields once, in `champs<Record>`; an enumeration that is
 // stored as text lists its raw values once, in `valeursBrutes<Enum>`. Everything else follows from these.
@@ -52,11 +53,10 @@ template <typename T>
 concept EstEnumeration = std::is_enum_v<T> && !std::same_as<decltype(valeursBrutes<T>), const std::nullptr_t>;
 
 // Says where and what was expected, in words for the user: "livres[3].prix : entier attendu".
-class Erreur : public std::runtime_error
+class Erreur : public Echec
 {
 public:
-    explicit Erreur(const QString &texte) : std::runtime_error(texte.toStdString()) {}
-    [[nodiscard]] QString texte() const { return QString::fromUtf8(what()); }
+    using Echec::Echec;
 };
 
 // The way from the root of a file to the value being read; it lives on the stack of the calls that descend.

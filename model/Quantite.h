@@ -3,6 +3,7 @@
 #include <QtGlobal>
 
 #include <compare>
+#include <limits>
 
 // A whole number of one unit. Two units never mix, and arithmetic that leaves 64 bits stops the program:
 // a wrong amount must not reach a buyer.
@@ -36,7 +37,11 @@ public:
         return Quantite{produit};
     }
     // Truncates toward zero.
-    friend constexpr Quantite operator/(Quantite a, qint64 diviseur) { return Quantite{a.valeur_ / diviseur}; }
+    friend constexpr Quantite operator/(Quantite a, qint64 diviseur)
+    {
+        arreterSi(diviseur == 0 || (diviseur == -1 && a.valeur_ == std::numeric_limits<qint64>::min()));
+        return Quantite{a.valeur_ / diviseur};
+    }
     constexpr Quantite operator-() const { return Quantite{} - *this; }
     constexpr Quantite &operator+=(Quantite autre) { return *this = *this + autre; }
 

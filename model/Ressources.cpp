@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 
 Ressources Ressources::duProgramme()
 {
@@ -18,9 +19,9 @@ QList<TarifsColissimo> Ressources::tarifs() const
 {
     QList<TarifsColissimo> tarifs;
     const QStringList fichiers =
-        dossier_.entryList({QStringLiteral("tarifs-colissimo-*.json")}, QDir::Files | QDir::CaseSensitive, QDir::Name);
+        dossier_.entryList({TarifsColissimo::motifDeFichier()}, QDir::Files | QDir::CaseSensitive, QDir::Name);
     for (const QString &fichier : fichiers)
-        tarifs.append(lire<TarifsColissimo>(fichier.chopped(5)));
+        tarifs.append(lire<TarifsColissimo>(QFileInfo(fichier).completeBaseName()));
     if (tarifs.isEmpty())
         throw RessourceIllisible(QStringLiteral("tarifs-colissimo-….json : fichier introuvable"));
     return tarifs;

@@ -6,17 +6,11 @@
 #include <QDir>
 #include <QString>
 
-#include <stdexcept>
-
 // Shipped data that cannot be read: the program cannot go on.
-class RessourceIllisible : public std::runtime_error
+class RessourceIllisible : public Echec
 {
 public:
-    explicit RessourceIllisible(const QString &raison)
-        : std::runtime_error((QStringLiteral("Ressource illisible : ") + raison).toStdString())
-    {
-    }
-    [[nodiscard]] QString texte() const { return QString::fromUtf8(what()); }
+    explicit RessourceIllisible(const QString &raison) : Echec(QStringLiteral("Ressource illisible : ") + raison) {}
 };
 
 // The read-only folder of shipped data.

@@ -60,7 +60,7 @@ QList<TarifsColissimo> Stockage::grillesEnregistrees()
 {
     QList<TarifsColissimo> grilles;
     const QStringList noms =
-        dossier_.entryList({QStringLiteral("tarifs-colissimo-*.json")}, QDir::Files | QDir::CaseSensitive, QDir::Name);
+        dossier_.entryList({TarifsColissimo::motifDeFichier()}, QDir::Files | QDir::CaseSensitive, QDir::Name);
     for (const QString &nom : noms)
         if (const auto tarifs = lire<TarifsColissimo>(nom))
             grilles.append(*tarifs);

@@ -8,14 +8,12 @@
 #include <QString>
 
 #include <optional>
-#include <stdexcept>
 
 // A user's file could not be written or deleted; the text says why, in French.
-class ErreurStockage : public std::runtime_error
+class ErreurStockage : public Echec
 {
 public:
-    explicit ErreurStockage(const QString &texte) : std::runtime_error(texte.toStdString()) {}
-    [[nodiscard]] QString texte() const { return QString::fromUtf8(what()); }
+    using Echec::Echec;
 };
 
 // The user's folder of JSON files. Files are written whole or not at all, and a file that this program did not

@@ -20,3 +20,13 @@ const GrilleColissimo *TarifsColissimo::grille(const QString &code) const
     const auto trouvee = std::ranges::find(grilles, code, &GrilleColissimo::code);
     return trouvee == grilles.end() ? nullptr : &*trouvee;
 }
+
+QString TarifsColissimo::nomDeFichier() const
+{
+    return QStringLiteral("tarifs-colissimo-%1.json").arg(validite);
+}
+
+QString TarifsColissimo::motifDeFichier()
+{
+    return QStringLiteral("tarifs-colissimo-*.json");
+}

@@ -47,6 +47,10 @@ struct TarifsColissimo
     // The pointer lives as long as this record; null when no grid has the code.
     [[nodiscard]] const GrilleColissimo *grille(const QString &code) const;
 
+    // The schedules' files, shipped and saved alike: one name, and the pattern of all.
+    [[nodiscard]] QString nomDeFichier() const;
+    static QString motifDeFichier();
+
     bool operator==(const TarifsColissimo &) const = default;
 };
 

@@ -7,9 +7,12 @@
 #include "ui/Theme.h"
 #include "ui/commande/VueCommande.h"
 #include "ui/commun/Libelle.h"
+#include "ui/commun/Partage.h"
 #include "ui/livres/VueLivres.h"
+#include "ui/tarifs/TextesTarifs.h"
 #include "ui/tarifs/VueTarifs.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -37,20 +40,15 @@ ContenuPrincipal::ContenuPrincipal(Catalogue &catalogue, Commande &commande, Ima
       detail_(new QStackedWidget),
       ecrans_(3, nullptr)
 {
-    auto *partage = new QSplitter;
-    partage->setChildrenCollapsible(false);
-    partage->addWidget(barreLaterale());
-    partage->addWidget(detail_);
-    detail_->raise(); // a splitter lowers what it is given, and a screen reader reads from the lowest up
-    partage->setStretchFactor(0, 0);
-    partage->setStretchFactor(1, 1);
-    partage->setSizes({barreIdeale, 10 * barreIdeale});
+    QWidget *barre = barreLaterale();
     auto *colonnes = new QHBoxLayout(this);
     colonnes->setContentsMargins(0, 0, 0, 0);
-    colonnes->addWidget(partage);
+    colonnes->addWidget(Partage::entre(barre, detail_, barre, barreIdeale));
 
-    connect(rubriques_, &QListWidget::itemSelectionChanged, this,
-            [this] { detail_->setCurrentWidget(ecran(rubrique().value_or(Rubrique::commande))); });
+    connect(rubriques_, &QListWidget::itemSelectionChanged, this, [this] {
+        detail_->setCurrentWidget(ecran(rubrique().value_or(Rubrique::commande)));
+        actualiser();
+    });
     connect(&catalogue_, &Catalogue::change, this, &ContenuPrincipal::actualiser);
     actualiser();
     montrer(Rubrique::commande);
@@ -87,6 +85,7 @@ QWidget *ContenuPrincipal::tarifsEnVigueur()
     auto *titre = new Libelle(tr("Tarifs Colissimo"), Libelle::Rang::secondaire);
     titre->setFont(Theme::enGras(Theme::legende()));
     enVigueur_->setFont(Theme::legende());
+    enVigueur_->setWordWrap(true);
     auto *bloc = new QWidget;
     auto *lignes = new QVBoxLayout(bloc);
     lignes->setContentsMargins(16, 16, 16, 16);
@@ -119,5 +118,13 @@ QWidget *ContenuPrincipal::ecran(Rubrique rubrique)
 void ContenuPrincipal::actualiser()
 {
     const TarifsColissimo &tarifs = catalogue_.tarifs(Format::iso(aujourdhui_()));
-    enVigueur_->setText(tr("en vigueur au %1").arg(Format::date(tarifs.validite)));
+    enVigueur_->setText(TextesTarifs::enVigueur(tarifs));
+}
+
+// A window left open overnight comes back on another day.
+bool ContenuPrincipal::event(QEvent *evenement)
+{
+    if (evenement->type() == QEvent::WindowActivate)
+        actualiser();
+    return QWidget::event(evenement);
 }

@@ -29,6 +29,9 @@ public:
     void montrer(std::optional<Rubrique> rubrique);
     [[nodiscard]] std::optional<Rubrique> rubrique() const;
 
+protected:
+    bool event(QEvent *evenement) override;
+
 private:
     QWidget *barreLaterale();
     QWidget *tarifsEnVigueur();

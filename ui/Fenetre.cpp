@@ -5,7 +5,11 @@
 #include <QApplication>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScreen>
 #include <QShortcut>
+
+#include <array>
+#include <tuple>
 
 namespace {
 
@@ -24,7 +28,8 @@ Fenetre::Fenetre(Catalogue &catalogue, Commande &commande, ImagesCouvertures &im
     creerMenu();
     creerRaccourcis();
     qApp->installEventFilter(this);
-    resize(tailleParDefaut.width(), tailleParDefaut.height() + menuBar()->sizeHint().height());
+    const QSize voulue = tailleParDefaut + QSize(0, menuBar()->sizeHint().height());
+    resize(voulue.boundedTo(screen()->availableSize()).expandedTo(minimumSizeHint()));
 }
 
 // Qt remembers that the keyboard moved the focus, and never forgets it: focus rings would follow the mouse.
@@ -55,11 +60,16 @@ void Fenetre::creerMenu()
 
 void Fenetre::creerRaccourcis()
 {
-    const QList<std::pair<int, Rubrique>> touches{
-        {Qt::Key_1, Rubrique::commande}, {Qt::Key_2, Rubrique::tarifs}, {Qt::Key_3, Rubrique::livres}};
-    for (const auto &[touche, rubrique] : touches) {
-        auto *raccourci = new QShortcut(QKeySequence(QKeyCombination(Qt::CTRL, static_cast<Qt::Key>(touche))), this);
-        connect(raccourci, &QShortcut::activated, contenu_, [this, choisie = rubrique] { contenu_->montrer(choisie); });
+    // The second key of each is where a French keyboard has the digit.
+    const std::array<std::tuple<Qt::Key, Qt::Key, Rubrique>, 3> touches{{
+        {Qt::Key_1, Qt::Key_Ampersand, Rubrique::commande},
+        {Qt::Key_2, Qt::Key_Eacute, Rubrique::tarifs},
+        {Qt::Key_3, Qt::Key_QuoteDbl, Rubrique::livres},
+    }};
+    for (const auto &[chiffre, francaise, rubrique] : touches) {
+        auto *raccourci = new QShortcut(this);
+        raccourci->setKeys({QKeySequence(Qt::CTRL | chiffre), QKeySequence(Qt::CTRL | francaise)});
+        connect(raccourci, &QShortcut::activated, this, [this, choisie = rubrique] { contenu_->montrer(choisie); });
     }
 }
 
@@ -67,8 +77,8 @@ void Fenetre::aPropos()
 {
     QMessageBox::about(
         this, tr("À propos de Quillet"),
-        tr("<h3>Quillet %1</h3><p>Le prix d’une commande, la réponse à l’acheteur, la facture et la douane, "
-           "pour les auteurs qui vendent leurs livres par la poste.</p>"
+        tr("<h3>Quillet %1</h3><p>Le prix d’une commande, et ce qu’il en reste, pour les auteurs qui vendent leurs "
+           "livres par la poste.</p>"
            "<p>© 2026 The Quillet authors · licence MIT</p>")
             .arg(QApplication::applicationVersion()));
 }

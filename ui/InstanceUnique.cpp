@@ -1,5 +1,6 @@
 #include "ui/InstanceUnique.h"
 
+#include <QFile>
 #include <QLocalSocket>
 #include <QStandardPaths>
 
@@ -25,11 +26,17 @@ InstanceUnique::InstanceUnique()
     });
 }
 
-bool InstanceUnique::premiere()
+bool InstanceUnique::prendreLaPlace()
 {
-    if (!verrou_.tryLock() && verrou_.error() == QLockFile::LockFailedError) {
-        appelerLaPremiere();
-        return false;
+    // Any other error (a folder that cannot be written) must not keep the seller from working.
+    const auto prise = [this] { return verrou_.tryLock() || verrou_.error() != QLockFile::LockFailedError; };
+    if (!prise()) {
+        if (appelerLaPremiere())
+            return false;
+        // Nobody answers for this lock: it was left in a state that Qt does not take for stale.
+        QFile::remove(verrou_.fileName());
+        if (!prise())
+            return false;
     }
     QLocalServer::removeServer(adresse_); // left by a program that was killed
     serveur_.setSocketOptions(QLocalServer::UserAccessOption);
@@ -37,9 +44,9 @@ bool InstanceUnique::premiere()
     return true;
 }
 
-void InstanceUnique::appelerLaPremiere() const
+bool InstanceUnique::appelerLaPremiere() const
 {
     QLocalSocket prise;
     prise.connectToServer(adresse_);
-    prise.waitForConnected(attente);
+    return prise.waitForConnected(attente);
 }

@@ -12,13 +12,13 @@ public:
     InstanceUnique();
 
     // False: another one runs; it has been asked to show itself.
-    [[nodiscard]] bool premiere();
+    [[nodiscard]] bool prendreLaPlace();
 
 signals:
     void appelee();
 
 private:
-    void appelerLaPremiere() const;
+    [[nodiscard]] bool appelerLaPremiere() const;
 
     QString adresse_;
     QLockFile verrou_;

@@ -35,7 +35,7 @@ public:
         const QRectF cadre = QRectF(option.rect).adjusted(10, 1, -10, -1);
         if (choisie || survolee) {
             QColor fond = choisie ? Theme::accentTexte(palette) : palette.color(QPalette::WindowText);
-            fond.setAlphaF(choisie ? 0.15F : 0.05F);
+            fond.setAlphaF(choisie ? 0.11F : 0.05F);
             peintre->setPen(Qt::NoPen);
             peintre->setBrush(fond);
             peintre->drawRoundedRect(cadre, Theme::rayonControle, Theme::rayonControle);
@@ -50,8 +50,10 @@ public:
                        couleur);
         peintre->setFont(choisie ? Theme::enGras(option.font) : option.font);
         peintre->setPen(couleur);
-        peintre->drawText(cadre.adjusted(10 + coteSymbole + 10, 0, -8, 0), Qt::AlignLeft | Qt::AlignVCenter,
-                          indice.data().toString());
+        const QRectF place = cadre.adjusted(10 + coteSymbole + 10, 0, -8, 0);
+        peintre->drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
+                          peintre->fontMetrics().elidedText(indice.data().toString(), Qt::ElideRight,
+                                                            static_cast<int>(place.width())));
         peintre->restore();
     }
 };
@@ -69,5 +71,6 @@ ListeRubriques::ListeRubriques(const QList<Entree> &entrees, QWidget *parent) : 
     for (const Entree &entree : entrees) {
         auto *ligne = new QListWidgetItem(entree.libelle, this);
         ligne->setData(roleSymbole, entree.symbole);
+        ligne->setToolTip(tr("%1 (Ctrl+%2)").arg(entree.libelle, QString::number(count())));
     }
 }

@@ -22,7 +22,7 @@ void QuilletApp::preparer(std::optional<Theme::Mode> mode)
                        QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(francais);
     QApplication::setStyle(new Style(mode));
-    QApplication::setFont(Theme::texte());
+    QApplication::setFont(Theme::policeDeDepart());
 }
 
 QuilletApp::QuilletApp(const Ressources &ressources, Stockage stockage, Aujourdhui aujourdhui)

@@ -60,7 +60,7 @@ QFont serif(qreal echelle, QFont::Weight graisse)
 QPalette Theme::palette(Mode mode)
 {
     const Teintes &t = teintes(mode);
-    QPalette palette(t.texte, t.carte, t.carte.lighter(), t.filet, t.filet, t.texte, Qt::white, t.carte, t.fenetre);
+    QPalette palette(t.texte, t.carte, t.carte, t.filet, t.filet, t.texte, Qt::white, t.carte, t.fenetre);
     palette.setColor(QPalette::Mid, t.filet);
     palette.setColor(QPalette::Midlight, t.remplissage);
     palette.setColor(QPalette::AlternateBase, t.panneau);
@@ -98,11 +98,6 @@ QColor Theme::carte(const QPalette &palette)
     return palette.color(QPalette::Base);
 }
 
-QColor Theme::panneau(const QPalette &palette)
-{
-    return palette.color(QPalette::AlternateBase);
-}
-
 QColor Theme::remplissage(const QPalette &palette)
 {
     return palette.color(QPalette::Midlight);
@@ -123,7 +118,7 @@ QColor Theme::orange(const QPalette &palette)
     return mode(palette) == Mode::clair ? QColor(0xA94A00) : QColor(0xF2A65A);
 }
 
-QFont Theme::texte()
+QFont Theme::policeDeDepart()
 {
     QFont police = QApplication::font();
     police.setFamilies({QStringLiteral("Inter"), police.family()});
@@ -139,11 +134,6 @@ QFont Theme::legende()
 QFont Theme::encadre()
 {
     return aLEchelle(0.92);
-}
-
-QFont Theme::titre2()
-{
-    return aLEchelle(1.4);
 }
 
 QFont Theme::titre3()

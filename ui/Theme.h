@@ -22,11 +22,10 @@ QColor accent(const QPalette &palette);      // filled accent, white text on it
 QColor accentTexte(const QPalette &palette); // accent as a text or focus colour
 QColor orange(const QPalette &palette);      // warnings
 
-// The application's text font: the system's size, at least 10 pt.
-QFont texte();
+// What the application's font becomes at the start, once: the system's size, at least 10 pt.
+QFont policeDeDepart();
 QFont legende();    // caption, 0.83
 QFont encadre();    // callout, 0.92
-QFont titre2();     // 1.4
 QFont titre3();     // 1.2
 QFont montant();    // the amount to pay
 QFont titreEcran(); // a screen's own title, serif
@@ -36,6 +35,8 @@ QFont titreCarte();
 
 QFont enGras(QFont police, QFont::Weight graisse = QFont::DemiBold);
 
+constexpr int margeDePage = 40;    // on either side of a screen
+constexpr int largeurDePage = 960; // what is read there needs no more
 constexpr int rayonGroupe = 10;
 constexpr int rayonControle = 8;
 constexpr int rayonCouverture = 3;

@@ -12,7 +12,7 @@ int main(int argc, char **argv)
     QApplication programme(argc, argv);
     QuilletApp::preparer();
     InstanceUnique instance;
-    if (!instance.premiere())
+    if (!instance.prendreLaPlace())
         return 0;
     try {
         QuilletApp quillet(Ressources::duProgramme(), Stockage::deLUtilisateur());
@@ -21,7 +21,8 @@ int main(int argc, char **argv)
         return QApplication::exec();
     } catch (const RessourceIllisible &erreur) {
         std::fprintf(stderr, "%s\n", erreur.what());
-        QMessageBox::critical(nullptr, QStringLiteral("Quillet"), erreur.texte());
+        if (QGuiApplication::platformName() != QLatin1String("offscreen"))
+            QMessageBox::critical(nullptr, QStringLiteral("Quillet"), erreur.texte());
         return 1;
     }
 }

@@ -78,9 +78,13 @@ bool Ecran::taper(QWidget *fenetre, const QString &nom, const QString &texte)
 bool Ecran::choisir(QWidget *fenetre, const QString &nom, const QString &entree)
 {
     auto *choix = trouver<QComboBox>(fenetre, nom);
-    const int rang = choix ? choix->findText(entree) : -1;
-    if (rang < 0)
+    if (!choix)
         return false;
+    const int rang = choix->findText(entree);
+    if (rang < 0) {
+        std::fprintf(stderr, "%s n’offre pas : %s\n", qPrintable(nom), qPrintable(entree));
+        return false;
+    }
     montrer(choix);
     choix->setFocus();
     QTest::keyClick(choix, Qt::Key_Home);

@@ -5,8 +5,6 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-class QWidget;
-
 // Drives the real window through one typical order, as a seller would: by clicks and keys.
 class Parcours
 {

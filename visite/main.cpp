@@ -55,8 +55,13 @@ int main(int argc, char **argv)
     const Theme::Mode mode = options.isSet(QStringLiteral("sombre")) ? Theme::Mode::sombre : Theme::Mode::clair;
     const bool seule = options.isSet(QStringLiteral("suffixe"));
     QuilletApp::preparer(mode);
-    if (!Parcours(dossier, options.value(QStringLiteral("suffixe")), !seule).jouer())
+    try {
+        if (!Parcours(dossier, options.value(QStringLiteral("suffixe")), !seule).jouer())
+            return 1;
+    } catch (const RessourceIllisible &erreur) {
+        std::fprintf(stderr, "%s\n", erreur.what());
         return 1;
+    }
     if (seule)
         return 0;
     for (const Apparence &apparence :

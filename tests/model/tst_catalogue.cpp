@@ -129,7 +129,7 @@ void TestCatalogue::ressourceManquante_data()
     QTest::addColumn<QString>("fichier");
     QTest::addColumn<QByteArray>("contenu");
     QTest::addColumn<QString>("erreur");
-    QTest::newRow("règlages incomplets") << QStringLiteral("reglages.json")
+    QTest::newRow("réglages incomplets") << QStringLiteral("reglages.json")
                                          << QByteArray(R"({"fraisPaypal":{"releve":"x"}})")
                                          << QStringLiteral(
                                                 "Ressource illisible : reglages.fraisPaypal.source : valeur manquante");

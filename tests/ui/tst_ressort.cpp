@@ -3,16 +3,25 @@
 #include <QApplication>
 #include <QProxyStyle>
 #include <QTest>
+#include <QWidget>
+
+#include <algorithm>
+#include <cmath>
 
 class TestRessort : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void atteintSaCible_data();
     void atteintSaCible();
     void gardeSonElan();
+    void cacheeElleSaute();
     void sansAnimation();
+
+private:
+    QWidget anime_;
 };
 
 namespace {
@@ -28,6 +37,11 @@ public:
 };
 
 } // namespace
+
+void TestRessort::initTestCase()
+{
+    anime_.show();
+}
 
 void TestRessort::atteintSaCible_data()
 {
@@ -45,8 +59,8 @@ void TestRessort::atteintSaCible()
     QFETCH(double, depassement);
     double dernier = 0;
     double maximum = 0;
-    Ressort ressort(
-        {reponse, amortissement}, [&](double valeur) { maximum = std::max(maximum, dernier = valeur); }, this);
+    Ressort ressort({reponse, amortissement}, &anime_,
+                    [&](double valeur) { maximum = std::max(maximum, dernier = valeur); });
     ressort.vers(1);
     for (int t = 0; t <= ressort.duration(); ++t)
         ressort.setCurrentTime(t);
@@ -57,8 +71,7 @@ void TestRessort::atteintSaCible()
 void TestRessort::gardeSonElan()
 {
     double valeur = 0;
-    Ressort ressort(
-        {0.5, 0.85}, [&](double v) { valeur = v; }, this);
+    Ressort ressort({0.5, 0.85}, &anime_, [&](double v) { valeur = v; });
     ressort.vers(1);
     ressort.setCurrentTime(100);
     const double avant = valeur;
@@ -70,12 +83,19 @@ void TestRessort::gardeSonElan()
     QCOMPARE(valeur, 0.0);
 }
 
+void TestRessort::cacheeElleSaute()
+{
+    QWidget cachee;
+    Ressort ressort({0.5, 0.85}, &cachee);
+    ressort.vers(1);
+    QCOMPARE(ressort.valeur(), 1.0);
+}
+
 void TestRessort::sansAnimation()
 {
     QApplication::setStyle(new SansAnimation);
     int appels = 0;
-    Ressort ressort(
-        {0.5, 0.85}, [&](double) { ++appels; }, this);
+    Ressort ressort({0.5, 0.85}, &anime_, [&](double) { ++appels; });
     ressort.vers(1);
     QCOMPARE(ressort.valeur(), 1.0);
     QCOMPARE(ressort.state(), QAbstractAnimation::Stopped);

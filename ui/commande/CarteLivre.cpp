@@ -7,7 +7,9 @@
 #include "ui/commande/DessinCouverture.h"
 #include "ui/commande/SelecteurQuantite.h"
 #include "ui/commun/Chiffres.h"
+#include "ui/commun/TextesLivres.h"
 
+#include <QHelpEvent>
 #include <QHoverEvent>
 #include <QPainter>
 #include <QTextLayout>
@@ -51,11 +53,8 @@ void peindreSurDeuxLignes(QPainter &peintre, const QRect &cadre, const QString &
 
 QString enMots(const Livre &livre, int quantite)
 {
-    const QString prix = livre.disponible ? Format::euros(livre.prix) : CarteLivre::tr("Épuisé");
-    const QString poids = livre.poids ? Format::poids(*livre.poids) : CarteLivre::tr("Poids à peser");
-    return quantite > 0 ? CarteLivre::tr("%1, %2, %3, %4 dans la commande")
-                              .arg(livre.titre, prix, poids, QString::number(quantite))
-                        : CarteLivre::tr("%1, %2, %3").arg(livre.titre, prix, poids);
+    const QString mots = TextesLivres::enMots(livre);
+    return quantite > 0 ? CarteLivre::tr("%1, %2 dans la commande").arg(mots, QString::number(quantite)) : mots;
 }
 
 } // namespace
@@ -73,7 +72,10 @@ CarteLivre::CarteLivre(const Livre &livre, Commande &commande, ImagesCouvertures
 
 void CarteLivre::montrer(const Livre &livre, int quantite)
 {
+    if (quantite == quantite_ && livre == livre_)
+        return; // most cards, at most changes
     livre_ = livre;
+    quantite_ = quantite;
     couverture_->montrer(livre, quantite);
     couverture_->setEnabled(livre.disponible);
     couverture_->setAccessibleName(enMots(livre, quantite));
@@ -111,17 +113,9 @@ QRect CarteLivre::ligneDuBas() const
     return {dedans.left(), dedans.bottom() + 1 - hauteurBas, dedans.width(), hauteurBas};
 }
 
-void CarteLivre::setSurvol(bool survol)
-{
-    if (survol == survol_)
-        return;
-    survol_ = survol;
-    couverture_->soulever(survol);
-}
-
 void CarteLivre::suivreLePointeur()
 {
-    setSurvol(window()->underMouse() && contenu().contains(mapFromGlobal(QCursor::pos())));
+    couverture_->soulever(window()->underMouse() && contenu().contains(mapFromGlobal(QCursor::pos())));
 }
 
 bool CarteLivre::event(QEvent *evenement)
@@ -129,10 +123,14 @@ bool CarteLivre::event(QEvent *evenement)
     switch (evenement->type()) {
     case QEvent::HoverEnter:
     case QEvent::HoverMove:
-        setSurvol(contenu().contains(static_cast<QHoverEvent *>(evenement)->position().toPoint()));
+        couverture_->soulever(contenu().contains(static_cast<QHoverEvent *>(evenement)->position().toPoint()));
         break;
     case QEvent::HoverLeave:
-        setSurvol(false);
+        couverture_->soulever(false);
+        break;
+    case QEvent::ToolTip: // the full title, at the title only: nothing may cover the cover
+        if (static_cast<QHelpEvent *>(evenement)->pos().y() < contenu().top() + hauteurCouverture(contenu().width()))
+            return true;
         break;
     default:
         break;
@@ -168,8 +166,7 @@ void CarteLivre::paintEvent(QPaintEvent *)
     peintre.setPen(livre_.poids ? secondaire : Theme::orange(palette()));
     const QRect poids(dedans.left(), titre.bottom() + 1 + interligne, dedans.width(),
                       peintre.fontMetrics().lineSpacing());
-    peintre.drawText(poids, Qt::AlignLeft | Qt::AlignVCenter,
-                     livre_.poids ? Format::poids(*livre_.poids) : tr("Poids à peser"));
+    peintre.drawText(poids, Qt::AlignLeft | Qt::AlignVCenter, TextesLivres::poids(livre_));
 
     const QRect bas = ligneDuBas();
     peintre.setFont(Theme::enGras(Theme::titre3()));
@@ -179,7 +176,7 @@ void CarteLivre::paintEvent(QPaintEvent *)
         return;
 
     peintre.setFont(Theme::enGras(Theme::encadre(), QFont::Medium));
-    const QString epuise = tr("Épuisé");
+    const QString epuise = TextesLivres::epuise();
     const QSize taille(peintre.fontMetrics().horizontalAdvance(epuise) + 24, peintre.fontMetrics().height() + 12);
     const QRect etiquette(bas.right() + 1 - taille.width(), bas.center().y() + 1 - taille.height() / 2, taille.width(),
                           taille.height());

@@ -36,10 +36,9 @@ protected:
 private:
     [[nodiscard]] QRect contenu() const;
     [[nodiscard]] QRect ligneDuBas() const;
-    void setSurvol(bool survol);
 
     Livre livre_;
-    bool survol_ = false;
+    int quantite_ = -1; // shown; -1: nothing yet
     Couverture *couverture_;
     SelecteurQuantite *selecteur_;
 };

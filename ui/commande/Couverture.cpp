@@ -24,6 +24,9 @@ struct Ombre
 constexpr Ombre auRepos{0.3, 12, 8};
 constexpr Ombre soulevee{0.55, 24, 16};
 
+// Whatever the width of a card, its picture is read once, at the largest: a resize reads nothing anew.
+constexpr QSizeF tailleDeLecture(210, 315);
+
 constexpr double angle = -14 * std::numbers::pi / 180;
 constexpr double perspective = 0.45;
 constexpr double agrandissement = 0.035;
@@ -35,10 +38,8 @@ Couverture::Couverture(const Livre &livre, ImagesCouvertures &images, QWidget *p
     : QAbstractButton(parent),
       livre_(livre),
       images_(images),
-      soulevement_(new Ressort(
-          Ressorts::survol, [this](double) { update(); }, this)),
-      pastille_(new Ressort(
-          Ressorts::action, [this](double) { update(); }, this))
+      soulevement_(new Ressort(Ressorts::survol, this)),
+      pastille_(new Ressort(Ressorts::action, this))
 {
     setFocusPolicy(Qt::StrongFocus);
     connect(&images_, &ImagesCouvertures::prete, this, [this](const QString &couverture) {
@@ -52,12 +53,16 @@ void Couverture::montrer(const Livre &livre, int quantite)
     const bool autreDessin =
         livre.couverture != livre_.couverture || livre.teinte != livre_.teinte || livre.disponible != livre_.disponible;
     livre_ = livre;
-    if (autreDessin)
+    if (autreDessin) {
+        ombreAuRepos_ = ombreSoulevee_ = {};
         oublierLeDessin();
+    }
     // The badge keeps its last number while it shrinks away.
     if (quantite > 0)
         quantite_ = quantite;
-    pastille_->vers(quantite > 0 ? 1 : 0, this);
+    pastille_->vers(quantite > 0 ? 1 : 0);
+    if (!livre.disponible)
+        soulever(false);
     setCursor(livre.disponible ? Qt::PointingHandCursor : Qt::ArrowCursor);
     update();
 }
@@ -92,7 +97,7 @@ void Couverture::oublierLeDessin()
 void Couverture::dessiner(qreal densite)
 {
     if (dessin_.isNull() || dessin_.devicePixelRatio() != densite)
-        dessin_ = DessinCouverture::dessin(livre_, cadre().size(), densite, images_);
+        dessin_ = DessinCouverture::dessin(livre_, cadre().size(), tailleDeLecture, densite, images_);
 }
 
 void Couverture::peindreOmbre(QPainter &peintre)

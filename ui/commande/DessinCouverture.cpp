@@ -57,7 +57,8 @@ QColor couleur(const Livre &livre)
     return {composante(0), composante(1), composante(2)};
 }
 
-QPixmap DessinCouverture::dessin(const Livre &livre, const QSizeF &taille, qreal densite, ImagesCouvertures &images)
+QPixmap DessinCouverture::dessin(const Livre &livre, const QSizeF &taille, const QSizeF &lue, qreal densite,
+                                 ImagesCouvertures &images)
 {
     const QSize pixels = (taille * densite).toSize();
     QPixmap dessin(pixels);
@@ -68,9 +69,14 @@ QPixmap DessinCouverture::dessin(const Livre &livre, const QSizeF &taille, qreal
     const QRectF tout(QPointF(), taille);
     QPainterPath contour;
     contour.addRoundedRect(tout, Theme::rayonCouverture, Theme::rayonCouverture);
-    QImage image = images.image(livre.couverture, pixels);
-    image.setDevicePixelRatio(densite);
-    peintre.fillPath(contour, image.isNull() ? QBrush(couleur(livre)) : QBrush(image));
+    peintre.setRenderHint(QPainter::SmoothPixmapTransform);
+    const QImage image = images.image(livre.couverture, (lue * densite).toSize());
+    QBrush brosse(couleur(livre));
+    if (!image.isNull()) {
+        brosse = QBrush(image);
+        brosse.setTransform(QTransform::fromScale(taille.width() / image.width(), taille.height() / image.height()));
+    }
+    peintre.fillPath(contour, brosse);
     peintre.setClipPath(contour);
     peindreReliure(peintre, tout);
     peintre.setClipping(false);

@@ -17,6 +17,7 @@ inline constexpr double proportion = 1.5;
 inline constexpr double opaciteIndisponible = 0.55;
 
 // The cover with its binding: the picture, or the book's colour until there is one; grey when the book is sold out.
-QPixmap dessin(const Livre &livre, const QSizeF &taille, qreal densite, ImagesCouvertures &images);
+// The picture is read at the size `lue` and scaled to `taille`.
+QPixmap dessin(const Livre &livre, const QSizeF &taille, const QSizeF &lue, qreal densite, ImagesCouvertures &images);
 
 } // namespace DessinCouverture

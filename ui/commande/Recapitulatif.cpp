@@ -28,6 +28,7 @@ Recapitulatif::Recapitulatif(const Catalogue &catalogue, Commande &commande, QWi
     for (QWidget *section : std::initializer_list<QWidget *>{livres_, poids_, destination_, montants_, lien_})
         colonne->addWidget(section);
     colonne->addStretch(1);
+    page->resize(size()); // any size: without one, setWidget lays the whole page out to find its own
     setWidget(page);
 }
 

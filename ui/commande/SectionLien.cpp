@@ -33,7 +33,7 @@ SectionLien::SectionLien(const Reglages &reglages, Commande &commande, QWidget *
     for (ChampACopier *champ : {nomDeLObjet_, description_, prix_, retour_})
         groupe()->ajouter(champ);
 
-    connect(langue_, &ChoixSegmente::choisi, &commande_,
+    connect(langue_, &ChoixSegmente::choisi, this,
             [this](int indice) { commande_.setLangue(indice == 0 ? Langue::francais : Langue::anglais); });
     connect(creer, &QPushButton::clicked, this, [this] { Lien::ouvrir(ReponseType::creationDuLien(), this); });
     connect(pays_, &QLineEdit::textEdited, &commande_, &Commande::setPaysLivraison);

@@ -72,9 +72,9 @@ SectionPoids::SectionPoids(const QList<Emballage> &emballages, Commande &command
     groupe()->ajouter(avertissements_);
 
     connect(emballage_, &Choix::choisi, &commande_, &Commande::setEmballage);
-    connect(poidsLibre_, &ChampEntier::saisie, &commande_,
+    connect(poidsLibre_, &ChampEntier::saisie, this,
             [this](std::optional<qint64> grammes) { commande_.setPoidsEmballageLibre(Grammes{grammes.value_or(0)}); });
-    connect(poidsPese_, &ChampEntier::saisie, &commande_, [this](std::optional<qint64> grammes) {
+    connect(poidsPese_, &ChampEntier::saisie, this, [this](std::optional<qint64> grammes) {
         commande_.setPoidsPese(grammes ? std::optional(Grammes{*grammes}) : std::nullopt);
     });
 }
@@ -113,13 +113,10 @@ void SectionPoids::montrerPoidsCalcule(const Calcul &calcul)
 void SectionPoids::montrerAvertissements(const Calcul &calcul)
 {
     const auto avertissements = TextesRecapitulatif::avertissementsDePesee(calcul);
-    QStringList textes;
-    for (const auto &avertissement : avertissements)
-        textes.append(avertissement.texte);
-    avertissements_->setVisible(!textes.isEmpty());
-    if (textes == avertissementsMontres_)
+    avertissements_->setVisible(!avertissements.isEmpty());
+    if (avertissements == avertissementsMontres_)
         return;
-    avertissementsMontres_ = textes;
+    avertissementsMontres_ = avertissements;
     qDeleteAll(avertissements_->findChildren<Alerte *>(Qt::FindDirectChildrenOnly));
     for (const auto &avertissement : avertissements) {
         auto *alerte = new Alerte(avertissement.symbole, avertissement.texte);

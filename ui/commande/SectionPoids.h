@@ -2,6 +2,7 @@
 
 #include "model/Calcul.h"
 #include "ui/commande/RangeeMontant.h"
+#include "ui/commande/TextesRecapitulatif.h"
 
 class ChampEntier;
 class Choix;
@@ -28,5 +29,5 @@ private:
     ChampEntier *poidsPese_;
     RangeeMontant palier_;
     QWidget *avertissements_;
-    QStringList avertissementsMontres_;
+    QList<TextesRecapitulatif::Avertissement> avertissementsMontres_;
 };

@@ -65,8 +65,7 @@ SelecteurQuantite::SelecteurQuantite(const Livre &livre, Commande &commande, QWi
       moins_(new BoutonRond(QStringLiteral("minus"), tr("Retirer un exemplaire"))),
       plus_(new BoutonRond(QStringLiteral("plus"), tr("Ajouter un exemplaire"))),
       nombre_(new NombreRoulant),
-      plein_(new Ressort(
-          Ressorts::action, [this](double) { colorer(); }, this))
+      plein_(new Ressort(Ressorts::action, this, [this](double) { colorer(); }))
 {
     nombre_->setFont(Theme::enGras(font()));
     nombre_->setAlignment(Qt::AlignCenter);
@@ -94,7 +93,7 @@ void SelecteurQuantite::montrer(int quantite)
     if (quantite == 0 && moins_->hasFocus())
         setFocus(); // else Qt hands the focus to plus, and one key too many adds the copy back
     moins_->setEnabled(quantite > 0);
-    plein_->vers(quantite > 0 ? 1 : 0, this);
+    plein_->vers(quantite > 0 ? 1 : 0);
 }
 
 void SelecteurQuantite::colorer()

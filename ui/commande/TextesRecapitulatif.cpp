@@ -20,14 +20,6 @@ QString libelle(RegionPaypal region)
     Q_UNREACHABLE();
 }
 
-// The parcel's weight is known, and yet no tier of the grid holds it.
-bool depasseLaGrille(const Calcul &calcul)
-{
-    const bool poidsConnu = calcul.poidsPese || calcul.livresNonPeses.isEmpty();
-    return !calcul.lignes.isEmpty() && !calcul.palier && calcul.grille && !calcul.grille->paliers.isEmpty()
-           && poidsConnu;
-}
-
 } // namespace
 
 QString TextesRecapitulatif::sousTitre(const Calcul &calcul)
@@ -81,7 +73,7 @@ QList<TextesRecapitulatif::Avertissement> TextesRecapitulatif::avertissementsDeP
         for (const Livre &livre : calcul.livresNonPeses)
             avertissements.append(
                 {balance, livre.titre + QStringLiteral(" n’a pas encore été pesé : pesez le colis.")});
-    if (depasseLaGrille(calcul))
+    if (calcul.depasseLaGrille())
         avertissements.append(
             {triangle, QStringLiteral("Au-delà de %1, le dernier palier de la grille : faire deux colis.")
                            .arg(Format::palier(calcul.grille->paliers.last().jusqua))});
@@ -123,9 +115,6 @@ TextesRecapitulatif::lienDePaiement(const Calcul &calcul, const Reglages &reglag
     const Langue langue = langueAcheteur(commande, calcul);
     const bool anglais = langue == Langue::anglais;
     const ReponseType reponse{calcul, langue, *vendeur, {}, commande.paysLivraison()};
-    QString paysPropose;
-    if (calcul.destination)
-        paysPropose = anglais ? calcul.destination->libelleCourtEn : calcul.destination->libelleCourt;
     return LienDePaiement{
         .nomDeLObjet = reponse.nomDeLObjet(),
         .description = reponse.descriptionDuLien(),
@@ -134,6 +123,6 @@ TextesRecapitulatif::lienDePaiement(const Calcul &calcul, const Reglages &reglag
         .retour = vendeur->retourPaypal,
         .indicationDuPays = anglais ? QStringLiteral("en anglais, pour la description")
                                     : QStringLiteral("en français, avec l’article : la Belgique, l’Italie, le Canada"),
-        .paysPropose = paysPropose,
+        .paysPropose = calcul.destination ? calcul.destination->libelleCourtEnLangue(langue) : QString(),
     };
 }

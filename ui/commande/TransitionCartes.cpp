@@ -52,11 +52,7 @@ void TransitionCartes::arreter(QWidget *grille)
 
 TransitionCartes::TransitionCartes(const QList<Instantane> &sortantes, const QList<Instantane> &entrantes,
                                    QWidget *grille)
-    : QWidget(grille),
-      sortantes_(sortantes),
-      entrantes_(entrantes),
-      progres_(new Ressort(
-          Ressorts::action, [this](double) { update(); }, this))
+    : QWidget(grille), sortantes_(sortantes), entrantes_(entrantes), progres_(new Ressort(Ressorts::action, this))
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAutoFillBackground(true);

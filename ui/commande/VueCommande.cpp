@@ -10,7 +10,9 @@
 #include "ui/commun/Defilement.h"
 #include "ui/commun/EnTete.h"
 #include "ui/commun/Icone.h"
+#include "ui/commun/Partage.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScrollBar>
@@ -23,7 +25,6 @@
 
 namespace {
 
-constexpr int margeHorizontale = 40;
 constexpr int margeVerticale = 28;
 constexpr int espace = 36; // between the seller picker and the grid
 
@@ -51,17 +52,9 @@ VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesC
     recapitulatif_->setMinimumWidth(panneauMinimum);
     recapitulatif_->setMaximumWidth(panneauMaximum);
 
-    auto *partage = new QSplitter;
-    partage->setChildrenCollapsible(false);
-    partage->addWidget(colonneDesLivres());
-    partage->addWidget(recapitulatif_);
-    recapitulatif_->raise(); // a splitter lowers what it is given, and a screen reader reads from the lowest up
-    partage->setStretchFactor(0, 1);
-    partage->setStretchFactor(1, 0);
-    partage->setSizes({10 * panneauIdeal, panneauIdeal});
     auto *page = new QHBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);
-    page->addWidget(partage);
+    page->addWidget(Partage::entre(colonneDesLivres(), recapitulatif_, recapitulatif_, panneauIdeal));
 
     connect(reinitialiser_, &QPushButton::clicked, &commande_, &Commande::vider);
     connect(selecteur_, &SelecteurSite::choisi, &commande_, &Commande::setVendeur);
@@ -77,7 +70,7 @@ QWidget *VueCommande::colonneDesLivres()
     // The cards draw their shadows within their own margin: it counts in the space around them.
     constexpr int debord = Couverture::debord;
     const int ascenseur = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    livres->setContentsMargins(margeHorizontale - debord, margeVerticale, margeHorizontale - debord - ascenseur,
+    livres->setContentsMargins(Theme::margeDePage - debord, margeVerticale, Theme::margeDePage - debord - ascenseur,
                                margeVerticale - debord);
     livres->setSpacing(espace - debord);
     selecteur_->setContentsMargins(debord, 0, debord, 0);
@@ -88,7 +81,8 @@ QWidget *VueCommande::colonneDesLivres()
     auto *defilement = new Defilement;
     // Always there, so that it counts in the right margin whether or not it has anything to show.
     defilement->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    defilement->setMinimumWidth(GrilleLivres::largeurDeDeuxColonnes() + 2 * (margeHorizontale - debord));
+    defilement->setMinimumWidth(GrilleLivres::largeurDeDeuxColonnes() + 2 * (Theme::margeDePage - debord));
+    contenu->resize(size()); // any size: without one, setWidget lays the whole page out to find its own
     defilement->setWidget(contenu);
     connect(defilement->verticalScrollBar(), &QScrollBar::valueChanged, grille_, &GrilleLivres::suivreLePointeur);
 
@@ -112,4 +106,12 @@ void VueCommande::actualiser()
                          [&](const Livre &livre) { return livre.vendeur == commande_.vendeur(); });
     grille_->montrer(livres);
     recapitulatif_->montrer(calcul);
+}
+
+// A window left open overnight comes back on another day.
+bool VueCommande::event(QEvent *evenement)
+{
+    if (evenement->type() == QEvent::WindowActivate)
+        actualiser();
+    return QWidget::event(evenement);
 }

@@ -22,6 +22,9 @@ public:
     VueCommande(const Catalogue &catalogue, Commande &commande, ImagesCouvertures &images, Aujourdhui aujourdhui,
                 QWidget *parent = nullptr);
 
+protected:
+    bool event(QEvent *evenement) override;
+
 private:
     QWidget *colonneDesLivres();
     void actualiser();

@@ -2,9 +2,9 @@
 
 #include "ui/Theme.h"
 #include "ui/commun/Icone.h"
+#include "ui/commun/Libelle.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPainter>
 
 namespace {
@@ -13,20 +13,14 @@ constexpr int espace = 8;
 } // namespace
 
 Alerte::Alerte(const QString &symbole, const QString &texte, QWidget *parent)
-    : QWidget(parent), symbole_(symbole), texte_(new QLabel(texte))
+    : QWidget(parent), symbole_(symbole), texte_(new Libelle(texte))
 {
     texte_->setFont(Theme::encadre());
     texte_->setWordWrap(true);
-    texte_->setTextFormat(Qt::PlainText);
     texte_->setAccessibleName(tr("Attention : %1").arg(texte));
-    auto *colonne = new QHBoxLayout(this);
-    colonne->setContentsMargins(coteSymbole + espace, 0, 0, 0);
-    colonne->addWidget(texte_);
-}
-
-QString Alerte::texte() const
-{
-    return texte_->text();
+    auto *rangee = new QHBoxLayout(this);
+    rangee->setContentsMargins(coteSymbole + espace, 0, 0, 0);
+    rangee->addWidget(texte_);
 }
 
 void Alerte::paintEvent(QPaintEvent *)

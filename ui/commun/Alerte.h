@@ -3,7 +3,7 @@
 #include <QString>
 #include <QWidget>
 
-class QLabel;
+class Libelle;
 
 // A warning line: an orange symbol, and the text.
 class Alerte : public QWidget
@@ -13,12 +13,10 @@ class Alerte : public QWidget
 public:
     Alerte(const QString &symbole, const QString &texte, QWidget *parent = nullptr);
 
-    [[nodiscard]] QString texte() const;
-
 protected:
     void paintEvent(QPaintEvent *evenement) override;
 
 private:
     QString symbole_;
-    QLabel *texte_;
+    Libelle *texte_;
 };

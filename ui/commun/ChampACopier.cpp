@@ -7,18 +7,16 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 using namespace std::chrono_literals;
 
 ChampACopier::ChampACopier(const QString &titre, QWidget *parent)
-    : QWidget(parent), titre_(titre), affichage_(new QLabel), bouton_(new QToolButton)
+    : QWidget(parent), affichage_(new Libelle({})), bouton_(new QToolButton)
 {
     auto *titreAffiche = new Libelle(titre, Libelle::Rang::secondaire);
     titreAffiche->setFont(Theme::encadre());
-    affichage_->setTextFormat(Qt::PlainText);
     affichage_->setWordWrap(true);
     affichage_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     affichage_->setFocusPolicy(Qt::ClickFocus);
@@ -47,11 +45,6 @@ void ChampACopier::montrer(const QString &valeur, const QString &affichage)
 {
     valeur_ = valeur;
     affichage_->setText(affichage.isEmpty() ? valeur : affichage);
-}
-
-QString ChampACopier::affichage() const
-{
-    return affichage_->text();
 }
 
 void ChampACopier::copier()

@@ -3,7 +3,7 @@
 #include <QTimer>
 #include <QWidget>
 
-class QLabel;
+class Libelle;
 class QToolButton;
 
 // One value the seller copies elsewhere: its title, what is shown, and a button that puts the value on the clipboard.
@@ -17,8 +17,6 @@ public:
     // `affichage` is shown instead of the value when it is not empty.
     void montrer(const QString &valeur, const QString &affichage = {});
 
-    [[nodiscard]] const QString &valeur() const { return valeur_; }
-    [[nodiscard]] QString affichage() const;
     // Just copied: the button shows a check mark.
     [[nodiscard]] bool copie() const { return retour_.isActive(); }
 
@@ -26,9 +24,8 @@ private:
     void copier();
     void montrerEtat();
 
-    QString titre_;
     QString valeur_;
-    QLabel *affichage_;
+    Libelle *affichage_;
     QToolButton *bouton_;
     QTimer retour_;
 };

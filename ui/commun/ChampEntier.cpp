@@ -1,5 +1,6 @@
 #include "ui/commun/ChampEntier.h"
 
+#include <QEvent>
 #include <QLocale>
 #include <QToolTip>
 #include <QValidator>
@@ -8,7 +9,7 @@
 
 namespace {
 
-QString chiffres(QString texte)
+QString sansEspaces(QString texte)
 {
     texte.removeIf([](QChar c) { return c.isSpace(); });
     return texte;
@@ -27,7 +28,7 @@ public:
 
     State validate(QString &saisie, int &) const override
     {
-        const QString texte = chiffres(saisie);
+        const QString texte = sansEspaces(saisie);
         if (texte.isEmpty())
             return Acceptable;
         const bool queDesChiffres = std::ranges::all_of(texte, [](QChar c) { return c >= u'0' && c <= u'9'; });
@@ -42,7 +43,7 @@ ChampEntier::ChampEntier(const QString &unite, QWidget *parent) : QLineEdit(pare
 {
     setValidator(new EntierBorne(this));
     setAlignment(Qt::AlignRight);
-    setFixedWidth(70);
+    ajusterLaLargeur();
     connect(this, &QLineEdit::textEdited, this, [this] {
         QToolTip::hideText();
         emit saisie(valeur());
@@ -55,7 +56,7 @@ ChampEntier::ChampEntier(const QString &unite, QWidget *parent) : QLineEdit(pare
 
 std::optional<qint64> ChampEntier::valeur() const
 {
-    const QString texte = chiffres(text());
+    const QString texte = sansEspaces(text());
     return texte.isEmpty() ? std::nullopt : std::optional(texte.toLongLong());
 }
 
@@ -66,6 +67,19 @@ void ChampEntier::montrer(std::optional<qint64> montree)
     const bool enCours = hasFocus() && montree.value_or(0) == valeur().value_or(0);
     if (!enCours)
         setText(ecrit(montree));
+}
+
+// At least 70 px, and always wide enough for the largest number: a cut one would be misread.
+void ChampEntier::changeEvent(QEvent *evenement)
+{
+    QLineEdit::changeEvent(evenement);
+    if (evenement->type() == QEvent::FontChange)
+        ajusterLaLargeur();
+}
+
+void ChampEntier::ajusterLaLargeur()
+{
+    setFixedWidth(std::max(70, fontMetrics().horizontalAdvance(ecrit(maximum)) + 24));
 }
 
 void ChampEntier::focusOutEvent(QFocusEvent *evenement)

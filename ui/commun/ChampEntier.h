@@ -25,8 +25,11 @@ signals:
     void saisie(std::optional<qint64> valeur);
 
 protected:
+    void changeEvent(QEvent *evenement) override;
     void focusOutEvent(QFocusEvent *evenement) override;
 
 private:
+    void ajusterLaLargeur();
+
     std::optional<qint64> montree_;
 };

@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace {
 
@@ -79,16 +78,7 @@ private:
 ChoixSegmente::ChoixSegmente(const QStringList &options, const Apparence &apparence, QWidget *parent)
     : QWidget(parent),
       apparence_(apparence),
-      position_(new Ressort(
-          Ressorts::action,
-          [this](double position) {
-              for (qsizetype i = 0; i < boutons_.size(); ++i) {
-                  const double ecart = std::abs(position - double(i));
-                  static_cast<Segment *>(boutons_[i])->eclairer(1 - std::min(1.0, ecart));
-              }
-              update();
-          },
-          this))
+      position_(new Ressort(Ressorts::action, this, [this](double position) { eclairer(position); }))
 {
     auto *rangee = new QHBoxLayout(this);
     rangee->setContentsMargins(apparence.marge, apparence.marge, apparence.marge, apparence.marge);
@@ -104,13 +94,21 @@ ChoixSegmente::ChoixSegmente(const QStringList &options, const Apparence &appare
         });
     }
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    eclairer(0);
 }
 
 void ChoixSegmente::montrer(int indice)
 {
     boutons_[indice]->setChecked(true);
-    if (!std::exchange(montre_, true))
-        position_->placer(indice);
+}
+
+void ChoixSegmente::eclairer(double position)
+{
+    for (qsizetype i = 0; i < boutons_.size(); ++i) {
+        const double ecart = std::abs(position - static_cast<double>(i));
+        static_cast<Segment *>(boutons_[i])->eclairer(1 - std::min(1.0, ecart));
+    }
+    update();
 }
 
 QRectF ChoixSegmente::surbrillance() const
@@ -139,7 +137,7 @@ void ChoixSegmente::paintEvent(QPaintEvent *)
     if (apparence_.style == Style::bleu) {
         Dessin::ombreDouce(peintre, choisi);
         QLinearGradient degrade(choisi.topLeft(), choisi.bottomLeft());
-        degrade.setColorAt(0, QColor(0x3F7FE8));
+        degrade.setColorAt(0, QColor(0x3370D8));
         degrade.setColorAt(1, QColor(0x1F56BE));
         peintre.setBrush(degrade);
     } else {

@@ -37,10 +37,10 @@ protected:
     void paintEvent(QPaintEvent *evenement) override;
 
 private:
+    void eclairer(double position);
     [[nodiscard]] QRectF surbrillance() const;
 
     Apparence apparence_;
     QList<QRadioButton *> boutons_;
     Ressort *position_;
-    bool montre_ = false;
 };

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 #include <vector>
@@ -71,15 +72,17 @@ QPixmap Dessin::ombre(const QSizeF &taille, qreal rayon, const QColor &couleur, 
 {
     const auto horizontal = profil(taille.width(), rayon, densite);
     const auto vertical = profil(taille.height(), rayon, densite);
+    std::array<QRgb, 256> parAlpha{};
+    for (int alpha = 0; alpha < 256; ++alpha)
+        parAlpha[static_cast<std::size_t>(alpha)] =
+            qPremultiply(qRgba(couleur.red(), couleur.green(), couleur.blue(), alpha));
     QImage image(static_cast<int>(horizontal.size()), static_cast<int>(vertical.size()),
                  QImage::Format_ARGB32_Premultiplied);
     for (std::size_t y = 0; y < vertical.size(); ++y) {
         auto *ligne = reinterpret_cast<QRgb *>(image.scanLine(static_cast<int>(y)));
         const float force = vertical[y] * static_cast<float>(couleur.alpha());
-        for (std::size_t x = 0; x < horizontal.size(); ++x) {
-            const int alpha = static_cast<int>(std::lround(force * horizontal[x]));
-            ligne[x] = qPremultiply(qRgba(couleur.red(), couleur.green(), couleur.blue(), alpha));
-        }
+        for (std::size_t x = 0; x < horizontal.size(); ++x)
+            ligne[x] = parAlpha[static_cast<std::size_t>(force * horizontal[x] + 0.5F)];
     }
     image.setDevicePixelRatio(densite);
     return QPixmap::fromImage(std::move(image));

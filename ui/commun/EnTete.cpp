@@ -18,7 +18,7 @@ EnTete::EnTete(const QString &titre, QWidget *parent)
     textes->setSpacing(0);
     textes->addWidget(grand);
     textes->addWidget(sousTitre_);
-    rangee_->setContentsMargins(40, 14, 40, 14);
+    rangee_->setContentsMargins(Theme::margeDePage, 14, Theme::margeDePage, 14);
     rangee_->addLayout(textes, 1);
 }
 

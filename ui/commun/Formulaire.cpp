@@ -79,6 +79,7 @@ void Groupe::paintEvent(QPaintEvent *)
     QPainter peintre(this);
     Dessin::carte(peintre, rect(), palette());
 
+    peintre.setPen(QPen(Theme::filet(palette()), 1));
     bool premiere = true;
     for (int i = 0; i < rangees_->count(); ++i) {
         const QWidget *rangee = rangees_->itemAt(i)->widget();
@@ -119,7 +120,8 @@ Rangee::Rangee(const QString &libelle, QWidget *valeur, QWidget *parent)
     rangee->setSpacing(8);
     // A value that wants room takes what its label leaves; any other keeps to the right.
     const bool large = valeur->sizePolicy().horizontalPolicy() == QSizePolicy::Expanding;
-    libelle_->setWordWrap(!large);
+    // A label that comes later may be long: a book's title, a list of territories.
+    libelle_->setWordWrap(libelle.isEmpty());
     rangee->addLayout(surDeuxLignes(libelle_, detail_), large ? 0 : 1);
     rangee->addWidget(valeur, large ? 1 : 0, large ? Qt::AlignVCenter : Qt::AlignRight | Qt::AlignVCenter);
     relier(libelle_, valeur);
@@ -134,11 +136,6 @@ void Rangee::setDetail(const QString &detail)
 {
     montrerDetail(detail_, detail);
     decrire(valeur_, detail);
-}
-
-QString Rangee::detail() const
-{
-    return detail_->text();
 }
 
 RangeeHaute::RangeeHaute(const QString &libelle, QWidget *valeur, QWidget *parent)

@@ -48,7 +48,6 @@ public:
     // Empty: no second line.
     void setDetail(const QString &detail);
     [[nodiscard]] Libelle *libelle() const { return libelle_; }
-    [[nodiscard]] QString detail() const;
 
 private:
     Libelle *libelle_;

@@ -12,10 +12,7 @@ constexpr int marge = 3; // room for the focus ring
 const QColor bleu(0x2F6FDE);
 } // namespace
 
-Interrupteur::Interrupteur(QWidget *parent)
-    : QCheckBox(parent),
-      position_(new Ressort(
-          Ressorts::action, [this](double) { update(); }, this))
+Interrupteur::Interrupteur(QWidget *parent) : QCheckBox(parent), position_(new Ressort(Ressorts::action, this))
 {
     connect(this, &QCheckBox::toggled, this, [this](bool allume) { position_->vers(allume ? 1 : 0); });
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);

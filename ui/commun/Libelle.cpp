@@ -10,3 +10,21 @@ void Libelle::setRang(Rang rang)
 {
     setForegroundRole(rang == Rang::principal ? QPalette::WindowText : QPalette::PlaceholderText);
 }
+
+int Libelle::heightForWidth(int largeur) const
+{
+    if (texteMesure_ != text()) {
+        texteMesure_ = text();
+        hauteurs_.clear();
+    }
+    const auto connue = hauteurs_.constFind(largeur);
+    if (connue != hauteurs_.constEnd())
+        return *connue;
+    return *hauteurs_.insert(largeur, QLabel::heightForWidth(largeur));
+}
+
+void Libelle::changeEvent(QEvent *evenement)
+{
+    hauteurs_.clear(); // whatever changed, a font or a style, heights may have
+    QLabel::changeEvent(evenement);
+}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QLabel>
 
 // A plain text that takes its colour from the palette by its rank, and keeps it when the palette changes.
@@ -12,4 +13,14 @@ public:
 
     explicit Libelle(const QString &texte, Rang rang = Rang::principal, QWidget *parent = nullptr);
     void setRang(Rang rang);
+
+    // Remembered: a layout asks for the same few widths again and again.
+    [[nodiscard]] int heightForWidth(int largeur) const override;
+
+protected:
+    void changeEvent(QEvent *evenement) override;
+
+private:
+    mutable QString texteMesure_;
+    mutable QHash<int, int> hauteurs_; // of `texteMesure_`, by width
 };

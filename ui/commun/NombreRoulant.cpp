@@ -7,10 +7,7 @@
 
 #include <algorithm>
 
-NombreRoulant::NombreRoulant(QWidget *parent)
-    : QLabel(parent),
-      progres_(new Ressort(
-          Ressorts::action, [this](double) { update(); }, this))
+NombreRoulant::NombreRoulant(QWidget *parent) : QLabel(parent), progres_(new Ressort(Ressorts::action, this))
 {
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     progres_->placer(1);
@@ -23,8 +20,7 @@ void NombreRoulant::afficher(const QString &texte, int sens)
     precedent_ = text();
     sens_ = sens;
     setText(texte);
-    updateGeometry();
-    progres_->placer(precedent_.isEmpty() || !isVisible() ? 1 : 0);
+    progres_->placer(precedent_.isEmpty() ? 1 : 0);
     progres_->vers(1);
 }
 
@@ -41,8 +37,6 @@ QSize NombreRoulant::minimumSizeHint() const
 void NombreRoulant::paintEvent(QPaintEvent *)
 {
     QPainter peintre(this);
-    peintre.setFont(font());
-    peintre.setPen(palette().color(foregroundRole()));
 
     const QString texte = text();
     const double progres = std::clamp(progres_->valeur(), 0.0, 1.0);

@@ -7,8 +7,8 @@
 #include <cmath>
 #include <numbers>
 
-Ressort::Ressort(Reglage reglage, std::function<void(double)> applique, QObject *parent)
-    : QAbstractAnimation(parent), reglage_(reglage), applique_(std::move(applique))
+Ressort::Ressort(Reglage reglage, QWidget *anime, std::function<void(double)> applique)
+    : QAbstractAnimation(anime), reglage_(reglage), anime_(anime), applique_(std::move(applique))
 {
 }
 
@@ -18,7 +18,7 @@ void Ressort::vers(double cible)
         return;
     stop();
     cible_ = cible;
-    if (!QApplication::style()->styleHint(QStyle::SH_Widget_Animate)) {
+    if (!anime_->isVisible() || !QApplication::style()->styleHint(QStyle::SH_Widget_Animate)) {
         placer(cible);
         return;
     }
@@ -27,20 +27,12 @@ void Ressort::vers(double cible)
     start();
 }
 
-void Ressort::vers(double cible, const QWidget *montre)
-{
-    if (montre->isVisible())
-        vers(cible);
-    else
-        placer(cible);
-}
-
 void Ressort::placer(double valeur)
 {
     stop();
     valeur_ = cible_ = valeur;
     vitesse_ = 0;
-    applique_(valeur_);
+    appliquer();
 }
 
 int Ressort::duration() const
@@ -70,5 +62,13 @@ void Ressort::updateCurrentTime(int millisecondes)
         valeur_ = cible_;
         vitesse_ = 0;
     }
-    applique_(valeur_);
+    appliquer();
+}
+
+void Ressort::appliquer()
+{
+    if (applique_)
+        applique_(valeur_);
+    else
+        anime_->update();
 }

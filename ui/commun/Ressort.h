@@ -6,8 +6,8 @@
 
 class QWidget;
 
-// A damped spring that carries one number toward its target; a new target keeps the speed it has. It jumps at
-// once when the platform asks for no animation.
+// A damped spring that carries one number of a widget toward its target; a new target keeps the speed it has. It jumps
+// at once when the widget cannot be seen or the platform asks for no animation.
 class Ressort : public QAbstractAnimation
 {
     Q_OBJECT
@@ -19,14 +19,11 @@ public:
         double amortissement = 0.85; // fraction of critical damping, below 1
     };
 
-    // `applique` receives each new value.
-    Ressort(Reglage reglage, std::function<void(double)> applique, QObject *parent);
+    // Each new value goes to `applique`, or else repaints `anime`, which owns the spring.
+    Ressort(Reglage reglage, QWidget *anime, std::function<void(double)> applique = {});
 
     [[nodiscard]] double valeur() const { return valeur_; }
-    [[nodiscard]] double cible() const { return cible_; }
     void vers(double cible);
-    // Moves only what can be seen.
-    void vers(double cible, const QWidget *montre);
     // Without any motion.
     void placer(double valeur);
 
@@ -36,7 +33,10 @@ protected:
     void updateCurrentTime(int millisecondes) override;
 
 private:
+    void appliquer();
+
     Reglage reglage_;
+    QWidget *anime_;
     std::function<void(double)> applique_;
     double valeur_ = 0;
     double vitesse_ = 0; // per second

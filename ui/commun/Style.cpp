@@ -262,12 +262,12 @@ int Style::styleHint(StyleHint indice, const QStyleOption *option, const QWidget
                      QStyleHintReturn *retour) const
 {
     switch (indice) {
+    case SH_MenuBar_AltKeyNavigation:
+        return 1;
     case SH_ScrollBar_LeftClickAbsolutePosition:
-        return 0;
     case SH_ItemView_ActivateItemOnSingleClick:
-        return 0;
+    case SH_DialogButtonBox_ButtonsHaveIcons:
     case SH_EtchDisabledText:
-    case SH_UnderlineShortcut:
         return 0;
     default:
         return QProxyStyle::styleHint(indice, option, widget, retour);

@@ -6,9 +6,10 @@
 #include "ui/commun/Chiffres.h"
 #include "ui/commun/Dessin.h"
 #include "ui/commun/NomsVendeurs.h"
+#include "ui/commun/TextesLivres.h"
 #include "ui/livres/ModeleLivres.h"
-#include "ui/livres/TextesLivres.h"
 
+#include <QApplication>
 #include <QPainter>
 
 #include <algorithm>
@@ -23,7 +24,6 @@ constexpr int avantLEtiquette = 10;
 constexpr int sousLeTitre = 10;   // between a group's title and the group
 constexpr int avantUnGroupe = 28; // and after the last one
 constexpr int jeu = 2;            // drawing may round a little wider than it measured
-constexpr int largeurMaximale = 960;
 
 int hauteurDuTitre()
 {
@@ -32,7 +32,7 @@ int hauteurDuTitre()
 
 QFont policeDuPrix()
 {
-    return Theme::enGras(Theme::texte());
+    return Theme::enGras(QApplication::font());
 }
 
 int hauteurDuTexte()
@@ -86,7 +86,7 @@ void DelegueLivres::paint(QPainter *peintre, const QStyleOptionViewItem &option,
     const int rang = indice.row();
     const Livre &livre = modele_.livre(rang);
     QRect cadre = option.rect;
-    cadre.setWidth(std::min(cadre.width(), largeurMaximale));
+    cadre.setWidth(std::min(cadre.width(), Theme::largeurDePage));
     peintre->save();
     peintre->setRenderHint(QPainter::Antialiasing);
     if (modele_.ouvreUnGroupe(rang)) {
@@ -149,8 +149,8 @@ void DelegueLivres::peindreLivre(QPainter &peintre, const QRect &cadre, const Li
     const QColor secondaire = Theme::secondaire(palette);
     const QPoint image(cadre.left(), cadre.center().y() + 1 - couverture.height() / 2);
     peintre.setOpacity(livre.disponible ? 1 : DessinCouverture::opaciteIndisponible);
-    peintre.drawPixmap(image,
-                       DessinCouverture::dessin(livre, couverture, peintre.device()->devicePixelRatioF(), images_));
+    peintre.drawPixmap(
+        image, DessinCouverture::dessin(livre, couverture, couverture, peintre.device()->devicePixelRatioF(), images_));
     peintre.setOpacity(1);
 
     peintre.setFont(policeDuPrix());

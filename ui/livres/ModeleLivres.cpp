@@ -1,7 +1,7 @@
 #include "ui/livres/ModeleLivres.h"
 
 #include "model/Catalogue.h"
-#include "ui/livres/TextesLivres.h"
+#include "ui/commun/TextesLivres.h"
 
 #include <algorithm>
 

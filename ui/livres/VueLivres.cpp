@@ -1,14 +1,16 @@
 #include "ui/livres/VueLivres.h"
 
 #include "model/Catalogue.h"
+#include "ui/Theme.h"
 #include "ui/commande/ImagesCouvertures.h"
 #include "ui/commun/EnTete.h"
+#include "ui/commun/TextesLivres.h"
 #include "ui/livres/DelegueLivres.h"
 #include "ui/livres/ModeleLivres.h"
-#include "ui/livres/TextesLivres.h"
 
 #include <QListView>
 #include <QScrollBar>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace {
@@ -17,7 +19,11 @@ namespace {
 class Liste : public QListView
 {
 public:
-    Liste() { setViewportMargins(40, 0, 29, 0); }
+    Liste()
+    {
+        setViewportMargins(Theme::margeDePage, 0, Theme::margeDePage - style()->pixelMetric(QStyle::PM_ScrollBarExtent),
+                           0);
+    }
 };
 
 } // namespace

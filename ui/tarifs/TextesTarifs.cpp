@@ -29,6 +29,11 @@ TextesTarifs::Grille enTextes(const GrilleColissimo &grille)
 
 } // namespace
 
+QString TextesTarifs::enVigueur(const TarifsColissimo &tarifs)
+{
+    return QStringLiteral("en vigueur au ") + Format::date(tarifs.validite);
+}
+
 QList<TextesTarifs::Famille> TextesTarifs::familles(const TarifsColissimo &tarifs)
 {
     QList<Famille> familles;

@@ -33,6 +33,8 @@ struct Famille
     bool operator==(const Famille &) const = default;
 };
 
+// "en vigueur au 1er janvier 2026"
+QString enVigueur(const TarifsColissimo &tarifs);
 // In the families' order; a grid of an unknown family stands nowhere.
 QList<Famille> familles(const TarifsColissimo &tarifs);
 

@@ -19,8 +19,6 @@
 
 namespace {
 
-constexpr int margeHorizontale = 40;
-constexpr int largeurMaximale = 960;
 constexpr int colonnes = 2;
 
 // Nothing on this page takes the focus: the page itself does, so that the keys scroll it.
@@ -90,7 +88,7 @@ QWidget *famille(const TextesTarifs::Famille &textes)
 QWidget *page(const QList<TextesTarifs::Famille> &familles, int ascenseur)
 {
     auto *contenu = new QWidget;
-    contenu->setMaximumWidth(largeurMaximale);
+    contenu->setMaximumWidth(Theme::largeurDePage);
     auto *sections = new QVBoxLayout(contenu);
     sections->setContentsMargins(0, 0, 0, 0);
     sections->setSpacing(32);
@@ -100,7 +98,7 @@ QWidget *page(const QList<TextesTarifs::Famille> &familles, int ascenseur)
 
     auto *page = new QWidget;
     auto *marges = new QHBoxLayout(page);
-    marges->setContentsMargins(margeHorizontale, 24, margeHorizontale - ascenseur, 28);
+    marges->setContentsMargins(Theme::margeDePage, 24, Theme::margeDePage - ascenseur, 28);
     marges->addWidget(contenu, 1);
     marges->addStretch(0);
     return page;
@@ -129,11 +127,18 @@ VueTarifs::VueTarifs(const Catalogue &catalogue, Aujourdhui aujourdhui, QWidget 
 void VueTarifs::actualiser()
 {
     const TarifsColissimo &tarifs = catalogue_.tarifs(Format::iso(aujourdhui_()));
-    enTete_->setSousTitre(tr("en vigueur au %1").arg(Format::date(tarifs.validite)));
+    enTete_->setSousTitre(TextesTarifs::enVigueur(tarifs));
     // A change of the books leaves the page, and its place in it, alone.
     const auto familles = TextesTarifs::familles(tarifs);
     if (std::exchange(familles_, familles) == familles && defilement_->widget())
         return;
     defilement_->setWidget(page(familles, defilement_->verticalScrollBar()->sizeHint().width()));
     defilement_->widget()->setAutoFillBackground(false); // the focus ring is painted behind it
+}
+
+// Another day may have come since the screen was last seen.
+void VueTarifs::showEvent(QShowEvent *evenement)
+{
+    actualiser();
+    QWidget::showEvent(evenement);
 }

@@ -17,6 +17,9 @@ class VueTarifs : public QWidget
 public:
     VueTarifs(const Catalogue &catalogue, Aujourdhui aujourdhui, QWidget *parent = nullptr);
 
+protected:
+    void showEvent(QShowEvent *evenement) override;
+
 private:
     void actualiser();
 

@@ -1,4 +1,4 @@
-#include "ui/livres/TextesLivres.h"
+#include "ui/commun/TextesLivres.h"
 
 #include "model/Format.h"
 #include "ui/commun/NomsVendeurs.h"
