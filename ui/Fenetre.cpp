@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr QSize tailleParDefaut(1320, 860);
+constexpr QSize contenuParDefaut(1320, 860);
 constexpr QSize tailleMinimale(980, 640);
 
 } // namespace
@@ -28,8 +28,12 @@ Fenetre::Fenetre(Catalogue &catalogue, Commande &commande, ImagesCouvertures &im
     creerMenu();
     creerRaccourcis();
     qApp->installEventFilter(this);
-    const QSize voulue = tailleParDefaut + QSize(0, menuBar()->sizeHint().height());
-    resize(voulue.boundedTo(screen()->availableSize()).expandedTo(minimumSizeHint()));
+    resize(tailleParDefaut().boundedTo(screen()->availableSize()).expandedTo(minimumSizeHint()));
+}
+
+QSize Fenetre::tailleParDefaut() const
+{
+    return contenuParDefaut + QSize(0, menuBar()->sizeHint().height());
 }
 
 // Qt remembers that the keyboard moved the focus, and never forgets it: focus rings would follow the mouse.

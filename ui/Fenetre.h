@@ -17,6 +17,8 @@ class Fenetre : public QMainWindow
 public:
     Fenetre(Catalogue &catalogue, Commande &commande, ImagesCouvertures &images, Aujourdhui aujourdhui);
 
+    // What it opens at, on a screen that is large enough.
+    [[nodiscard]] QSize tailleParDefaut() const;
     [[nodiscard]] ContenuPrincipal *contenu() const { return contenu_; }
     // Back from an icon or from behind other windows.
     void ramener();

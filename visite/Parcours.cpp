@@ -28,6 +28,7 @@ Parcours::Parcours(const QDir &dossier, QString suffixe, bool bavard)
 bool Parcours::jouer()
 {
     Fenetre &fenetre = quillet_.fenetre();
+    fenetre.resize(fenetre.tailleParDefaut()); // whatever screen it is drawn for
     fenetre.show();
     if (!QTest::qWaitForWindowExposed(&fenetre))
         return false;

@@ -113,9 +113,9 @@ QRect CarteLivre::ligneDuBas() const
     return {dedans.left(), dedans.bottom() + 1 - hauteurBas, dedans.width(), hauteurBas};
 }
 
-void CarteLivre::suivreLePointeur()
+void CarteLivre::suivreLePointeur(const QPoint &pointeur)
 {
-    couverture_->soulever(window()->underMouse() && contenu().contains(mapFromGlobal(QCursor::pos())));
+    couverture_->soulever(contenu().contains(pointeur));
 }
 
 bool CarteLivre::event(QEvent *evenement)
@@ -123,7 +123,7 @@ bool CarteLivre::event(QEvent *evenement)
     switch (evenement->type()) {
     case QEvent::HoverEnter:
     case QEvent::HoverMove:
-        couverture_->soulever(contenu().contains(static_cast<QHoverEvent *>(evenement)->position().toPoint()));
+        suivreLePointeur(static_cast<QHoverEvent *>(evenement)->position().toPoint());
         break;
     case QEvent::HoverLeave:
         couverture_->soulever(false);

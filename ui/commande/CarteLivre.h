@@ -22,8 +22,8 @@ public:
     // Puts the card's controls behind `precedent` in the order of the Tab key; gives the last of them.
     QWidget *suivre(QWidget *precedent);
 
-    // Lifts the cover or lays it down by where the pointer is: cards also move under a still pointer.
-    void suivreLePointeur();
+    // Lifts the cover or lays it down by where the pointer is, in the card's own pixels.
+    void suivreLePointeur(const QPoint &pointeur);
 
     // Height of what a card shows, for the width of what it shows.
     [[nodiscard]] static int hauteur(int largeur);

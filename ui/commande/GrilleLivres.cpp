@@ -72,8 +72,11 @@ void GrilleLivres::remplacerLesCartes(const QList<Livre> &livres)
 
 void GrilleLivres::suivreLePointeur()
 {
+    if (!window()->underMouse())
+        return;
+    const QPoint pointeur = mapFromGlobal(QCursor::pos());
     for (CarteLivre *carte : std::as_const(cartes_))
-        carte->suivreLePointeur();
+        carte->suivreLePointeur(pointeur - carte->pos());
 }
 
 int GrilleLivres::heightForWidth(int largeur) const

@@ -21,7 +21,7 @@ public:
     // Cards of other books enter and leave with a fade; the same books are only brought up to date.
     void montrer(const QList<Livre> &livres);
 
-    // Called when the cards have moved under the pointer.
+    // Called when the cards have moved under a still pointer.
     void suivreLePointeur();
 
     [[nodiscard]] bool hasHeightForWidth() const override { return true; }

@@ -1,10 +1,14 @@
 #include "ui/commande/ImagesCouvertures.h"
 
+#include <QElapsedTimer>
 #include <QImageReader>
+
+#include <algorithm>
 
 namespace {
 
 constexpr int memoireKio = 64 * 1024;
+constexpr int tempsDeLecture = 8; // ms
 
 QString nomDeBase(const QString &fichier)
 {
@@ -26,7 +30,7 @@ ImagesCouvertures::ImagesCouvertures(const QDir &dossier, QObject *parent)
     for (const QString &fichier : dossier_.entryList(QDir::Files))
         fichiers_.insert(nomDeBase(fichier), fichier);
     lecture_.setSingleShot(true);
-    connect(&lecture_, &QTimer::timeout, this, &ImagesCouvertures::lireLaSuivante);
+    connect(&lecture_, &QTimer::timeout, this, &ImagesCouvertures::lireLesSuivantes);
 }
 
 QImage ImagesCouvertures::image(const QString &couverture, const QSize &pixels)
@@ -41,17 +45,25 @@ QImage ImagesCouvertures::image(const QString &couverture, const QSize &pixels)
     return {};
 }
 
-void ImagesCouvertures::lireLaSuivante()
+// As many as half a frame holds: the window answers in between, and is not repainted for each.
+void ImagesCouvertures::lireLesSuivantes()
 {
-    const Demande demande = demandes_.takeFirst();
+    QElapsedTimer chrono;
+    chrono.start();
+    while (!demandes_.isEmpty() && chrono.elapsed() < tempsDeLecture)
+        lireUneFois(demandes_.takeFirst());
+    if (!demandes_.isEmpty())
+        lecture_.start(0);
+}
+
+void ImagesCouvertures::lireUneFois(const Demande &demande)
+{
     const QImage image = lire(demande);
     if (image.isNull())
         fichiers_.remove(nomDeBase(demande.couverture)); // a damaged picture: the coloured cover stands in
     else
         images_.insert(cle(demande.couverture, demande.pixels), new QImage(image),
                        std::max<qsizetype>(1, image.sizeInBytes() / 1024));
-    if (!demandes_.isEmpty())
-        lecture_.start(0);
     emit prete(demande.couverture);
 }
 

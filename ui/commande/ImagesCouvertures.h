@@ -2,11 +2,12 @@
 
 #include <QCache>
 #include <QDir>
+#include <QHash>
 #include <QImage>
 #include <QObject>
 #include <QTimer>
 
-// The covers' pictures, read one at a time between two events: painting asks and never waits.
+// The covers' pictures, read a few at a time between two events: painting asks and never waits.
 class ImagesCouvertures : public QObject
 {
     Q_OBJECT
@@ -29,7 +30,8 @@ private:
         bool operator==(const Demande &) const = default;
     };
 
-    void lireLaSuivante();
+    void lireLesSuivantes();
+    void lireUneFois(const Demande &demande);
     [[nodiscard]] QImage lire(const Demande &demande) const;
 
     QDir dossier_;

@@ -1,5 +1,14 @@
 #include "ui/commun/Libelle.h"
 
+#include <algorithm>
+
+namespace {
+
+constexpr int largeurVoulue = 240; // of a text that wraps
+constexpr int largeurMinimale = 60;
+
+} // namespace
+
 Libelle::Libelle(const QString &texte, Rang rang, QWidget *parent) : QLabel(texte, parent)
 {
     setTextFormat(Qt::PlainText);
@@ -9,6 +18,20 @@ Libelle::Libelle(const QString &texte, Rang rang, QWidget *parent) : QLabel(text
 void Libelle::setRang(Rang rang)
 {
     setForegroundRole(rang == Rang::principal ? QPalette::WindowText : QPalette::PlaceholderText);
+}
+
+QSize Libelle::sizeHint() const
+{
+    if (!wordWrap())
+        return QLabel::sizeHint();
+    const QMargins marges = contentsMargins();
+    return {std::min(fontMetrics().horizontalAdvance(text()), largeurVoulue) + marges.left() + marges.right(),
+            fontMetrics().lineSpacing() + marges.top() + marges.bottom()};
+}
+
+QSize Libelle::minimumSizeHint() const
+{
+    return wordWrap() ? QSize(largeurMinimale, fontMetrics().lineSpacing()) : QLabel::minimumSizeHint();
 }
 
 int Libelle::heightForWidth(int largeur) const

@@ -14,6 +14,9 @@ public:
     explicit Libelle(const QString &texte, Rang rang = Rang::principal, QWidget *parent = nullptr);
     void setRang(Rang rang);
 
+    // A text that wraps takes the width it is given: QLabel would try many widths to find a pleasing one.
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
     // Remembered: a layout asks for the same few widths again and again.
     [[nodiscard]] int heightForWidth(int largeur) const override;
 
