@@ -14,6 +14,11 @@ void ecrire(const QString &chemin, const QByteArray &octets)
 
 } // namespace
 
+QString lisible(QString texte)
+{
+    return texte.replace(QChar(0x202F), u' ').replace(QChar(0x00A0), u' ');
+}
+
 Livre unLivre(qint64 id, Vendeur vendeur, Centimes prix, std::optional<Grammes> poids)
 {
     return {.id = id,

@@ -34,5 +34,9 @@ private:
     QTemporaryDir dossier_;
 };
 
+// A day on which the bench's schedule is in force.
+inline const QDate jourDuBanc(2026, 3, 2);
+// What a screen or a message says, its no-break spaces made plain.
+QString lisible(QString texte);
 Livre unLivre(qint64 id, Vendeur vendeur, Centimes prix, std::optional<Grammes> poids);
 TarifsColissimo desTarifs(const QString &validite, Centimes premierPrix);

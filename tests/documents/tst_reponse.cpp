@@ -19,8 +19,6 @@ private slots:
 
 namespace {
 
-const QDate jour(2026, 3, 2);
-
 struct Cas
 {
     Banc banc;
@@ -29,15 +27,10 @@ struct Cas
 
     [[nodiscard]] ReponseType reponse(Langue langue, const QString &lien = {}) const
     {
-        return {Calcul(*catalogue, commande, jour), langue, *catalogue->reglages().identite(Vendeur::davrel), lien,
-                commande.paysLivraison()};
+        return {Calcul(*catalogue, commande, jourDuBanc), langue, *catalogue->reglages().identite(Vendeur::davrel),
+                lien, commande.paysLivraison()};
     }
 };
-
-QString sansEspacesFines(QString texte)
-{
-    return texte.replace(QChar(0x202F), u' ').replace(QChar(0x00A0), u' ');
-}
 
 } // namespace
 
@@ -46,7 +39,7 @@ void TestReponse::corpsEnFrancais()
     Cas cas;
     cas.commande.ajuster(cas.banc.livres[0], 2);
     const auto reponse = cas.reponse(Langue::francais, QStringLiteral(" \n https://lien.example/1 "));
-    QCOMPARE(sansEspacesFines(reponse.corps()),
+    QCOMPARE(lisible(reponse.corps()),
              QStringLiteral("Bonjour,\n\nMerci pour votre commande :\n\n"
                             "   • Livre 1 × 2 : 30,00 €\n"
                             "   • Envoi via Colissimo (France) : 7,59 €\n\n"
@@ -138,7 +131,7 @@ void TestReponse::langueDeLAcheteur()
     }
     cas.catalogue = cas.banc.charger();
     cas.commande.setCodeDestination(destination);
-    const Calcul calcul(*cas.catalogue, cas.commande, jour);
+    const Calcul calcul(*cas.catalogue, cas.commande, jourDuBanc);
     QCOMPARE(langueAcheteur(cas.commande, calcul), attendue);
     cas.commande.setLangue(Langue::anglais);
     QCOMPARE(langueAcheteur(cas.commande, calcul), Langue::anglais);

@@ -66,7 +66,7 @@ Controle *TestCommande::controle(const QString &nom)
 
 QString TestCommande::valeur(const QString &libelle)
 {
-    return Ecran::valeurEnFaceDe(&app_->fenetre(), libelle).replace(QChar(0x202F), u' ').replace(QChar(0x00A0), u' ');
+    return lisible(Ecran::valeurEnFaceDe(&app_->fenetre(), libelle));
 }
 
 void TestCommande::initTestCase()
@@ -79,7 +79,7 @@ void TestCommande::init()
     banc_ = std::make_unique<Banc>();
     banc_->livres.append(unLivre(5, Vendeur::davrel, Centimes{1200}, Grammes{180})); // after the one sold out
     banc_->deposer();
-    app_ = std::make_unique<QuilletApp>(banc_->ressources(), banc_->stockage(), [] { return QDate(2026, 3, 2); });
+    app_ = std::make_unique<QuilletApp>(banc_->ressources(), banc_->stockage(), [] { return jourDuBanc; });
     app_->fenetre().show();
     QVERIFY(QTest::qWaitForWindowActive(&app_->fenetre()));
 }

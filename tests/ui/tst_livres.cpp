@@ -28,11 +28,6 @@ private slots:
 
 namespace {
 
-QString lisible(QString texte)
-{
-    return texte.replace(QChar(0x202F), u' ').replace(QChar(0x00A0), u' ');
-}
-
 struct Cas
 {
     Banc banc;

@@ -27,10 +27,8 @@ namespace {
 bool montre(const QWidget &vue, const QString &texte)
 {
     const auto libelles = vue.findChildren<QLabel *>();
-    return std::ranges::any_of(libelles, [&](const QLabel *libelle) {
-        return libelle->isVisible()
-               && libelle->text().replace(QChar(0x202F), u' ').replace(QChar(0x00A0), u' ') == texte;
-    });
+    return std::ranges::any_of(
+        libelles, [&](const QLabel *libelle) { return libelle->isVisible() && lisible(libelle->text()) == texte; });
 }
 
 } // namespace

@@ -23,21 +23,13 @@ private slots:
 
 namespace {
 
-const QDate jour(2026, 3, 2);
-
-// The screen's texts, with plain spaces.
-QString lisible(QString texte)
-{
-    return texte.replace(QChar(0x202F), u' ').replace(QChar(0x00A0), u' ');
-}
-
 struct Cas
 {
     Banc banc;
     std::unique_ptr<Catalogue> catalogue = banc.charger();
     Commande commande;
 
-    [[nodiscard]] Calcul calcul() const { return Calcul(*catalogue, commande, jour); }
+    [[nodiscard]] Calcul calcul() const { return Calcul(*catalogue, commande, jourDuBanc); }
 };
 
 } // namespace
