@@ -24,7 +24,6 @@ public:
     ~QuilletApp();
     Q_DISABLE_COPY_MOVE(QuilletApp)
 
-    [[nodiscard]] Catalogue &catalogue() { return *catalogue_; }
     [[nodiscard]] Commande &commande() { return commande_; }
     [[nodiscard]] Fenetre &fenetre() { return *fenetre_; }
 

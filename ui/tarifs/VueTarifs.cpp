@@ -130,15 +130,17 @@ void VueTarifs::actualiser()
     enTete_->setSousTitre(TextesTarifs::enVigueur(tarifs));
     // A change of the books leaves the page, and its place in it, alone.
     const auto familles = TextesTarifs::familles(tarifs);
-    if (std::exchange(familles_, familles) == familles && defilement_->widget())
+    if (familles == familles_)
         return;
-    defilement_->setWidget(page(familles, defilement_->verticalScrollBar()->sizeHint().width()));
+    familles_ = familles;
+    defilement_->setWidget(page(familles_, defilement_->verticalScrollBar()->sizeHint().width()));
     defilement_->widget()->setAutoFillBackground(false); // the focus ring is painted behind it
 }
 
 // Another day may have come since the screen was last seen.
-void VueTarifs::showEvent(QShowEvent *evenement)
+bool VueTarifs::event(QEvent *evenement)
 {
-    actualiser();
-    QWidget::showEvent(evenement);
+    if (evenement->type() == QEvent::Show || evenement->type() == QEvent::WindowActivate)
+        actualiser();
+    return QWidget::event(evenement);
 }

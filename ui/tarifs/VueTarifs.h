@@ -18,7 +18,7 @@ public:
     VueTarifs(const Catalogue &catalogue, Aujourdhui aujourdhui, QWidget *parent = nullptr);
 
 protected:
-    void showEvent(QShowEvent *evenement) override;
+    bool event(QEvent *evenement) override;
 
 private:
     void actualiser();
