@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Ressources.h"
+#include "model/Preferences.h"
 #include "model/Stockage.h"
 
 #include <QTemporaryDir>
@@ -17,6 +18,10 @@ public:
     [[nodiscard]] Ressources ressources() const
     {
         return Ressources(QDir(dossier_.filePath(QStringLiteral("partage"))));
+    }
+    [[nodiscard]] Preferences preferences() const
+    {
+        return Preferences(dossier_.filePath(QStringLiteral("Quillet.ini")));
     }
     [[nodiscard]] Stockage stockage() const { return Stockage(QDir(dossier_.filePath(QStringLiteral("donnees")))); }
 

@@ -30,8 +30,8 @@ const QDate jour(2026, 3, 2);
 class Scene
 {
 public:
-    Scene(Temoin &temoin, const Ressources &ressources, Stockage stockage)
-        : temoin_(temoin), quillet_(ressources, std::move(stockage), [] { return jour; }), fenetre_(quillet_.fenetre())
+    Scene(Temoin &temoin, const Ressources &ressources, Stockage stockage, const Preferences &preferences)
+        : temoin_(temoin), quillet_(ressources, std::move(stockage), preferences, [] { return jour; }), fenetre_(quillet_.fenetre())
     {
         fenetre_.show();
         if (!QTest::qWaitForWindowExposed(&fenetre_))
@@ -213,7 +213,7 @@ QList<Releve> mesurer(Scene &&scene, const QString &livres, int gestes, std::opt
 QList<Releve> mesurer(Temoin &temoin, int livres, std::optional<double> but)
 {
     const Echantillon echantillon(livres, Echantillon::Images::avec);
-    return mesurer(Scene(temoin, echantillon.ressources(), echantillon.stockage()),
+    return mesurer(Scene(temoin, echantillon.ressources(), echantillon.stockage(), echantillon.preferences()),
                    QStringLiteral("%L1 livres").arg(livres), 200, but);
 }
 
@@ -223,7 +223,7 @@ QList<Releve> mesurerEcran(Temoin &temoin)
 {
     QuilletApp::preparer();
     const Echantillon sansFichiers(0, Echantillon::Images::sans);
-    return mesurer(Scene(temoin, Ressources::duProgramme(), sansFichiers.stockage()), QStringLiteral("catalogue livré"),
+    return mesurer(Scene(temoin, Ressources::duProgramme(), sansFichiers.stockage(), sansFichiers.preferences()), QStringLiteral("catalogue livré"),
                    200, uneImage)
            + mesurer(temoin, 300, uneImage) + mesurer(temoin, 2'000, std::nullopt);
 }

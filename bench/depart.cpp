@@ -76,7 +76,7 @@ int main(int argc, char **argv)
     InstanceUnique instance;
     if (!instance.prendreLaPlace())
         return 1;
-    QuilletApp quillet(Ressources::duProgramme(), Stockage::deLUtilisateur());
+    QuilletApp quillet(Ressources::duProgramme(), Stockage::deLUtilisateur(), Preferences::deLUtilisateur());
     quillet.fenetre().show();
     return attendreEtRapporter(temoin, depart);
 }

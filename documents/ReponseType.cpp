@@ -80,6 +80,11 @@ QUrl ReponseType::creationDuLien()
     return QUrl(QStringLiteral("https://www.paypal.com/ncp/links/create"));
 }
 
+QString ReponseType::placeDuLien(Langue langue)
+{
+    return phrases(langue).lienAbsent;
+}
+
 QString ReponseType::sujet() const
 {
     const bool unSeulVendeur = calcul.vendeurs().size() == 1;
@@ -138,4 +143,13 @@ std::optional<IdentiteVendeur> vendeurUnique(const Calcul &calcul, const Reglage
 {
     const QSet<Vendeur> vendeurs = calcul.vendeurs();
     return vendeurs.size() == 1 ? reglages.identite(*vendeurs.begin()) : std::nullopt;
+}
+
+std::optional<ReponseType> reponse(const Calcul &calcul, const Reglages &reglages, const Commande &commande,
+                                   const QString &lien)
+{
+    const auto vendeur = vendeurUnique(calcul, reglages);
+    if (!vendeur)
+        return std::nullopt;
+    return ReponseType{calcul, langueAcheteur(commande, calcul), *vendeur, lien, commande.paysLivraison()};
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Calcul.h"
+#include "model/Commande.h"
 #include "model/Langue.h"
 #include "model/Reglages.h"
 
@@ -17,6 +18,8 @@ struct ReponseType
     QString pays;            // delivery country as typed; may be empty
 
     static QUrl creationDuLien();
+    // Stands in the message until a link is pasted.
+    static QString placeDuLien(Langue langue);
 
     [[nodiscard]] QString sujet() const;
     [[nodiscard]] QString corps() const;
@@ -29,3 +32,6 @@ struct ReponseType
 Langue langueAcheteur(const Commande &commande, const Calcul &calcul);
 // None unless all books of the order belong to one seller whose identity is known.
 std::optional<IdentiteVendeur> vendeurUnique(const Calcul &calcul, const Reglages &reglages);
+// None unless `vendeurUnique` finds who answers.
+std::optional<ReponseType> reponse(const Calcul &calcul, const Reglages &reglages, const Commande &commande,
+                                   const QString &lien = {});

@@ -4,47 +4,18 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 #include <filesystem>
 
 namespace {
 
-// A full disk first takes a part of the bytes and says why only when asked to take the rest; a buffered QSaveFile
-// would even commit that part.
-bool toutEcrire(QIODevice &fichier, const QByteArray &octets)
-{
-    qint64 ecrits = 0;
-    while (ecrits < octets.size()) {
-        const qint64 pris = fichier.write(octets.constData() + ecrits, octets.size() - ecrits);
-        if (pris <= 0)
-            return false;
-        ecrits += pris;
-    }
-    return true;
-}
-
-[[noreturn]] void echouer(const QString &chemin, const QString &raison)
-{
-    throw ErreurStockage(QStringLiteral("%1 : %2").arg(QDir::toNativeSeparators(chemin), raison));
-}
-
-// QSaveFile words the refusal of an existing file itself; opening that file says what the system holds against it.
-QString raisonDuRefus(const QSaveFile &fichier)
-{
-    QFile existant(fichier.fileName());
-    if (existant.exists() && !existant.open(QIODevice::ReadWrite))
-        return CauseSysteme::enFrancais(existant.errorString());
-    return CauseSysteme::enFrancais(fichier.errorString());
-}
-
 bool existe(const QString &chemin)
 {
     std::error_code erreur;
     const auto statut = std::filesystem::status(chemin.toStdString(), erreur);
     if (statut.type() == std::filesystem::file_type::none)
-        echouer(chemin, CauseSysteme::enFrancais(erreur));
+        Fichier::echouer(chemin, CauseSysteme::enFrancais(erreur));
     return statut.type() != std::filesystem::file_type::not_found;
 }
 
@@ -82,19 +53,10 @@ void Stockage::remplacer(const QString &nom, const QByteArray &octets)
     std::error_code erreur;
     std::filesystem::create_directories(chemin.toStdString(), erreur);
     if (erreur)
-        echouer(chemin, CauseSysteme::enFrancais(erreur));
+        Fichier::echouer(chemin, CauseSysteme::enFrancais(erreur));
     preserver(nom);
-    ecrireOctets(nom, octets);
+    Fichier::ecrire(dossier_.filePath(nom), octets);
     compris_.insert(nom, octets);
-}
-
-void Stockage::ecrireOctets(const QString &nom, const QByteArray &octets) const
-{
-    QSaveFile fichier(dossier_.filePath(nom));
-    if (!fichier.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        echouer(fichier.fileName(), raisonDuRefus(fichier));
-    if (!toutEcrire(fichier, octets) || !fichier.commit())
-        echouer(fichier.fileName(), CauseSysteme::enFrancais(fichier.errorString()));
 }
 
 void Stockage::effacer(const QString &nom)
@@ -104,7 +66,7 @@ void Stockage::effacer(const QString &nom)
     std::error_code erreur;
     std::filesystem::remove(chemin.toStdString(), erreur);
     if (erreur)
-        echouer(chemin, CauseSysteme::enFrancais(erreur));
+        Fichier::echouer(chemin, CauseSysteme::enFrancais(erreur));
     compris_.remove(nom);
 }
 
@@ -115,7 +77,7 @@ void Stockage::preserver(const QString &nom) const
         return;
     const auto contenu = octets(nom);
     if (!contenu)
-        echouer(chemin, QFileInfo(chemin).isDir()
+        Fichier::echouer(chemin, QFileInfo(chemin).isDir()
                             ? QStringLiteral("un dossier occupe la place du fichier")
                             : QStringLiteral("ce qui s’y trouve ne peut pas être lu, et n’est donc pas remplacé"));
     if (const auto connu = compris_.constFind(nom); connu != compris_.constEnd() && *connu == *contenu)
@@ -126,5 +88,5 @@ void Stockage::preserver(const QString &nom) const
             return; // already kept, by an attempt whose write then failed
         copie = QStringLiteral("%1.illisible-%2").arg(nom, QString::number(numero));
     }
-    ecrireOctets(copie, *contenu);
+    Fichier::ecrire(dossier_.filePath(copie), *contenu);
 }

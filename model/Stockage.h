@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Fichier.h"
 #include "model/Json.h"
 #include "model/Tarifs.h"
 
@@ -8,13 +9,6 @@
 #include <QString>
 
 #include <optional>
-
-// A user's file could not be written or deleted; the text says why, in French.
-class ErreurStockage : public Echec
-{
-public:
-    using Echec::Echec;
-};
 
 // The user's folder of JSON files. Files are written whole or not at all, and a file that this program did not
 // understand, or that somebody else changed meanwhile, is copied aside before anything replaces or deletes it.
@@ -57,7 +51,6 @@ public:
 private:
     [[nodiscard]] std::optional<QByteArray> octets(const QString &nom) const;
     void remplacer(const QString &nom, const QByteArray &octets);
-    void ecrireOctets(const QString &nom, const QByteArray &octets) const;
     void preserver(const QString &nom) const;
 
     QDir dossier_;

@@ -28,6 +28,7 @@ struct Banc
     {
         return Ressources(QDir(dossier_.filePath(QStringLiteral("partage"))));
     }
+    [[nodiscard]] Preferences preferences() const { return Preferences(dossier_.filePath(QStringLiteral("Quillet.ini"))); }
     [[nodiscard]] Stockage stockage() const { return Stockage(QDir(cheminUtilisateur())); }
 
 private:

@@ -27,11 +27,12 @@ constexpr int barreMaximum = 260;
 } // namespace
 
 ContenuPrincipal::ContenuPrincipal(Catalogue &catalogue, Commande &commande, ImagesCouvertures &images,
-                                   Aujourdhui aujourdhui, QWidget *parent)
+                                   const Preferences &preferences, Aujourdhui aujourdhui, QWidget *parent)
     : QWidget(parent),
       catalogue_(catalogue),
       commande_(commande),
       images_(images),
+      preferences_(preferences),
       aujourdhui_(std::move(aujourdhui)),
       rubriques_(new ListeRubriques({{QStringLiteral("shippingbox"), tr("Commande")},
                                      {QStringLiteral("tablecells"), tr("Tarifs Colissimo")},
@@ -101,7 +102,7 @@ QWidget *ContenuPrincipal::ecran(Rubrique rubrique)
     if (!place) {
         switch (rubrique) {
         case Rubrique::commande:
-            place = new VueCommande(catalogue_, commande_, images_, aujourdhui_);
+            place = new VueCommande(catalogue_, commande_, images_, preferences_, aujourdhui_);
             break;
         case Rubrique::tarifs:
             place = new VueTarifs(catalogue_, aujourdhui_);

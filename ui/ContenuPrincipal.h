@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Preferences.h"
 #include "ui/Aujourdhui.h"
 
 #include <QWidget>
@@ -22,7 +23,8 @@ class ContenuPrincipal : public QWidget
     Q_OBJECT
 
 public:
-    ContenuPrincipal(Catalogue &catalogue, Commande &commande, ImagesCouvertures &images, Aujourdhui aujourdhui,
+    ContenuPrincipal(Catalogue &catalogue, Commande &commande, ImagesCouvertures &images,
+                     const Preferences &preferences, Aujourdhui aujourdhui,
                      QWidget *parent = nullptr);
 
     // No section at all shows the order.
@@ -41,6 +43,7 @@ private:
     Catalogue &catalogue_;
     Commande &commande_;
     ImagesCouvertures &images_;
+    Preferences preferences_;
     Aujourdhui aujourdhui_;
     QListWidget *rubriques_;
     Libelle *enVigueur_;

@@ -8,6 +8,7 @@ class Catalogue;
 class Commande;
 class ContenuPrincipal;
 class ImagesCouvertures;
+class Preferences;
 
 // The one window and its menu. Closing it ends the program.
 class Fenetre : public QMainWindow
@@ -15,7 +16,7 @@ class Fenetre : public QMainWindow
     Q_OBJECT
 
 public:
-    Fenetre(Catalogue &catalogue, Commande &commande, ImagesCouvertures &images, Aujourdhui aujourdhui);
+    Fenetre(Catalogue &catalogue, Commande &commande, ImagesCouvertures &images, const Preferences &preferences, Aujourdhui aujourdhui);
 
     // What it opens at, on a screen that is large enough.
     [[nodiscard]] QSize tailleParDefaut() const;

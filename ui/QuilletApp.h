@@ -2,6 +2,7 @@
 
 #include "model/Catalogue.h"
 #include "model/Commande.h"
+#include "model/Preferences.h"
 #include "ui/Aujourdhui.h"
 #include "ui/Theme.h"
 #include "ui/commande/ImagesCouvertures.h"
@@ -20,7 +21,7 @@ public:
 
     // Throws RessourceIllisible.
     QuilletApp(
-        const Ressources &ressources, Stockage stockage, Aujourdhui aujourdhui = [] { return QDate::currentDate(); });
+        const Ressources &ressources, Stockage stockage, const Preferences &preferences, Aujourdhui aujourdhui = [] { return QDate::currentDate(); });
     ~QuilletApp();
     Q_DISABLE_COPY_MOVE(QuilletApp)
 

@@ -15,7 +15,7 @@ int main(int argc, char **argv)
     if (!instance.prendreLaPlace())
         return 0;
     try {
-        QuilletApp quillet(Ressources::duProgramme(), Stockage::deLUtilisateur());
+        QuilletApp quillet(Ressources::duProgramme(), Stockage::deLUtilisateur(), Preferences::deLUtilisateur());
         QObject::connect(&instance, &InstanceUnique::appelee, &quillet.fenetre(), &Fenetre::ramener);
         quillet.fenetre().show();
         return QApplication::exec();

@@ -1,11 +1,14 @@
 #include "visite/Ecran.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QTest>
+#include <QTimer>
 
 #include <algorithm>
 #include <cstdio>
@@ -66,12 +69,18 @@ bool Ecran::cliquer(QWidget *fenetre, const QString &nom)
 
 bool Ecran::taper(QWidget *fenetre, const QString &nom, const QString &texte)
 {
-    auto *champ = trouver<QLineEdit>(fenetre, nom);
+    auto *champ = trouver<QWidget>(fenetre, nom);
     if (!champ)
         return false;
     montrer(champ);
-    champ->selectAll();
-    QTest::keyClicks(champ, texte);
+    QTest::keyClick(champ, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(champ, Qt::Key_Delete);
+    const QStringList lignes = texte.split(u'\n');
+    for (qsizetype i = 0; i < lignes.size(); ++i) {
+        if (i > 0)
+            QTest::keyClick(champ, Qt::Key_Return);
+        QTest::keyClicks(champ, lignes[i]);
+    }
     return true;
 }
 
@@ -116,4 +125,29 @@ QString Ecran::valeurEnFaceDe(const QWidget *fenetre, const QString &libelle)
         return texte->isVisible() && texte->geometry().left() > titre->geometry().right();
     });
     return valeur == valeurs.end() ? QString() : (*valeur)->text();
+}
+
+QDialog *Ecran::feuille()
+{
+    return qobject_cast<QDialog *>(QApplication::activeModalWidget());
+}
+
+void Ecran::auDialogueSuivant(const std::function<void(QDialog *)> &reponse)
+{
+    auto *guet = new QTimer(qApp);
+    QObject::connect(guet, &QTimer::timeout, qApp, [guet, reponse, avant = feuille()] {
+        QDialog *dialogue = feuille();
+        if (!dialogue || dialogue == avant)
+            return;
+        guet->stop();
+        guet->deleteLater();
+        reponse(dialogue);
+    });
+    guet->start(10);
+}
+
+void Ecran::enregistrerSous(QDialog *dialogue, const QString &chemin)
+{
+    dialogue->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(chemin);
+    QMetaObject::invokeMethod(dialogue, "accept");
 }

@@ -4,6 +4,7 @@
 #include "ui/Fenetre.h"
 #include "visite/Ecran.h"
 
+#include <QDialog>
 #include <QTest>
 
 #include <cstdio>
@@ -21,6 +22,7 @@ Parcours::Parcours(const QDir &dossier, QString suffixe, bool bavard)
       suffixe_(std::move(suffixe)),
       bavard_(bavard),
       quillet_(Ressources::duProgramme(), Stockage(QDir(donnees_.filePath(QStringLiteral("Quillet")))),
+               Preferences(donnees_.filePath(QStringLiteral("Quillet.ini"))),
                [] { return jourDeLaVisite; })
 {
 }
@@ -45,6 +47,8 @@ bool Parcours::jouer()
     raconter(QStringLiteral("Le même colis vers la Suisse"));
     if (!Ecran::defiler(&fenetre, QStringLiteral("Copier Description"))
         || !photographier(QStringLiteral("lien-paypal")))
+        return false;
+    if (!repondreALAcheteur() || !preparerLesDocuments())
         return false;
 
     fenetre.contenu()->montrer(Rubrique::tarifs);
@@ -72,6 +76,33 @@ bool Parcours::peserLeColis(const QString &grammes)
     return Ecran::taper(&quillet_.fenetre(), QStringLiteral("Colis pesé, en grammes"), grammes);
 }
 
+bool Parcours::repondreALAcheteur()
+{
+    if (!Ecran::cliquer(&quillet_.fenetre(), QStringLiteral("E-mail en anglais")))
+        return false;
+    QDialog *reponse = Ecran::feuille();
+    return Ecran::taper(reponse, QStringLiteral("Lien de paiement"),
+                        QStringLiteral("https://www.paypal.com/ncp/payment/EXEMPLE"))
+           && Ecran::taper(reponse, QStringLiteral("E-mail de l’acheteur"), QStringLiteral("ada.exemple@example.org"))
+           && photographier(QStringLiteral("reponse")) && Ecran::cliquer(reponse, QStringLiteral("Fermer"));
+}
+
+bool Parcours::preparerLesDocuments()
+{
+    if (!Ecran::cliquer(&quillet_.fenetre(), QStringLiteral("Déclaration en douane")))
+        return false;
+    QDialog *documents = Ecran::feuille();
+    if (!photographier(QStringLiteral("douane")) || !Ecran::cliquer(documents, QStringLiteral("Facture"))
+        || !Ecran::taper(documents, QStringLiteral("Acheteur"),
+                         QStringLiteral("Ada Exemple\nMusterweg 3\n0000 Exempleville\nSuisse")))
+        return false;
+    const QString pdf = dossier_.absoluteFilePath(QStringLiteral("facture%1.pdf").arg(suffixe_));
+    QFile::remove(pdf); // or the dialog asks whether to replace it
+    Ecran::auDialogueSuivant([&pdf](QDialog *dialogue) { Ecran::enregistrerSous(dialogue, pdf); });
+    return Ecran::cliquer(documents, QStringLiteral("Enregistrer en PDF…")) && QFile::exists(pdf)
+           && photographier(QStringLiteral("facture")) && Ecran::cliquer(documents, QStringLiteral("Fermer"));
+}
+
 void Parcours::raconter(const QString &etape)
 {
     if (!bavard_)
@@ -88,7 +119,8 @@ bool Parcours::photographier(const QString &nom)
 {
     QTest::qWait(tempsDesRessorts);
     const QString chemin = dossier_.filePath(nom + suffixe_ + QStringLiteral(".png"));
-    if (quillet_.fenetre().grab().save(chemin))
+    QWidget *devant = Ecran::feuille() ? Ecran::feuille() : static_cast<QWidget *>(&quillet_.fenetre());
+    if (devant->grab().save(chemin))
         return true;
     std::fprintf(stderr, "Image impossible à écrire : %s\n", qPrintable(chemin));
     return false;

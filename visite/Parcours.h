@@ -20,6 +20,8 @@ private:
     bool changerDeDestination(const QString &libelle);
     bool peserLeColis(const QString &grammes);
     void raconter(const QString &etape);
+    bool repondreALAcheteur();
+    bool preparerLesDocuments();
     bool photographier(const QString &nom);
 
     QDir dossier_;

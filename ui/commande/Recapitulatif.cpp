@@ -1,20 +1,31 @@
 #include "ui/commande/Recapitulatif.h"
 
 #include "ui/commande/SectionDestination.h"
+#include "ui/commande/SectionDocuments.h"
 #include "ui/commande/SectionLien.h"
 #include "ui/commande/SectionLivres.h"
 #include "ui/commande/SectionMontants.h"
 #include "ui/commande/SectionPoids.h"
+#include "ui/commande/SectionReponse.h"
+#include "ui/documents/VueDocuments.h"
+#include "ui/reponse/VueReponse.h"
 
 #include <QVBoxLayout>
 
-Recapitulatif::Recapitulatif(const Catalogue &catalogue, Commande &commande, QWidget *parent)
+Recapitulatif::Recapitulatif(const Catalogue &catalogue, Commande &commande, const Preferences &preferences,
+                             Aujourdhui aujourdhui, QWidget *parent)
     : Defilement(parent),
+      catalogue_(catalogue),
+      commande_(commande),
+      preferences_(preferences),
+      aujourdhui_(std::move(aujourdhui)),
       livres_(new SectionLivres),
       poids_(new SectionPoids(catalogue.reglages().emballages, commande)),
       destination_(new SectionDestination(catalogue.destinations(), commande)),
       montants_(new SectionMontants(catalogue.reglages())),
-      lien_(new SectionLien(catalogue.reglages(), commande))
+      lien_(new SectionLien(catalogue.reglages(), commande)),
+      documents_(new SectionDocuments),
+      reponse_(new SectionReponse(commande))
 {
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::AlternateBase);
@@ -25,11 +36,16 @@ Recapitulatif::Recapitulatif(const Catalogue &catalogue, Commande &commande, QWi
     auto *colonne = new QVBoxLayout(page);
     colonne->setContentsMargins(16, 24, 16, 28);
     colonne->setSpacing(22);
-    for (QWidget *section : std::initializer_list<QWidget *>{livres_, poids_, destination_, montants_, lien_})
+    for (QWidget *section : std::initializer_list<QWidget *>{livres_, poids_, destination_, montants_, lien_, documents_, reponse_})
         colonne->addWidget(section);
     colonne->addStretch(1);
     page->resize(size()); // any size: without one, setWidget lays the whole page out to find its own
     setWidget(page);
+
+    connect(documents_, &SectionDocuments::douaneDemandee, this, [this] { ouvrirLesDocuments(OngletDocuments::douane); });
+    connect(documents_, &SectionDocuments::factureDemandee, this,
+            [this] { ouvrirLesDocuments(OngletDocuments::facture); });
+    connect(reponse_, &SectionReponse::demandee, this, &Recapitulatif::ouvrirLaReponse);
 }
 
 void Recapitulatif::montrer(const Calcul &calcul)
@@ -39,4 +55,16 @@ void Recapitulatif::montrer(const Calcul &calcul)
     destination_->montrer(calcul);
     montants_->montrer(calcul);
     lien_->montrer(calcul);
+    documents_->montrer(calcul);
+    reponse_->montrer(calcul);
+}
+
+void Recapitulatif::ouvrirLesDocuments(OngletDocuments onglet)
+{
+    Feuille::ouvrir(new VueDocuments(catalogue_, commande_, preferences_, aujourdhui_, onglet, window()));
+}
+
+void Recapitulatif::ouvrirLaReponse()
+{
+    Feuille::ouvrir(new VueReponse(catalogue_, commande_, aujourdhui_, window()));
 }

@@ -109,20 +109,28 @@ QString TextesRecapitulatif::detailFrais(const Calcul &calcul, const FraisPaypal
 std::optional<TextesRecapitulatif::LienDePaiement>
 TextesRecapitulatif::lienDePaiement(const Calcul &calcul, const Reglages &reglages, const Commande &commande)
 {
-    const auto vendeur = vendeurUnique(calcul, reglages);
-    if (!vendeur || !calcul.total)
+    const auto message = reponse(calcul, reglages, commande);
+    if (!message || !calcul.total)
         return std::nullopt;
-    const Langue langue = langueAcheteur(commande, calcul);
-    const bool anglais = langue == Langue::anglais;
-    const ReponseType reponse{calcul, langue, *vendeur, {}, commande.paysLivraison()};
+    const bool anglais = message->langue == Langue::anglais;
     return LienDePaiement{
-        .nomDeLObjet = reponse.nomDeLObjet(),
-        .description = reponse.descriptionDuLien(),
+        .nomDeLObjet = message->nomDeLObjet(),
+        .description = message->descriptionDuLien(),
         .prix = Format::montant(*calcul.total),
         .prixAffiche = euros(calcul.total),
-        .retour = vendeur->retourPaypal,
+        .retour = message->vendeur.retourPaypal,
         .indicationDuPays = anglais ? QStringLiteral("en anglais, pour la description")
                                     : QStringLiteral("en français, avec l’article : la Belgique, l’Italie, le Canada"),
-        .paysPropose = calcul.destination ? calcul.destination->libelleCourtEnLangue(langue) : QString(),
+        .paysPropose = calcul.destination ? calcul.destination->libelleCourtEnLangue(message->langue) : QString(),
     };
+}
+
+bool TextesRecapitulatif::pretAPartir(const Calcul &calcul)
+{
+    return calcul.total && calcul.vendeurs().size() == 1;
+}
+
+QString TextesRecapitulatif::ecrireALAcheteur(Langue langue)
+{
+    return langue == Langue::anglais ? QStringLiteral("E-mail en anglais") : QStringLiteral("E-mail en français");
 }

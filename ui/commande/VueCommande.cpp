@@ -35,7 +35,7 @@ constexpr int panneauMaximum = 460;
 } // namespace
 
 VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesCouvertures &images,
-                         Aujourdhui aujourdhui, QWidget *parent)
+                         const Preferences &preferences, Aujourdhui aujourdhui, QWidget *parent)
     : QWidget(parent),
       catalogue_(catalogue),
       commande_(commande),
@@ -44,7 +44,7 @@ VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesC
       reinitialiser_(new QPushButton(Icone::icone(QStringLiteral("arrow.counterclockwise")), tr("Tout réinitialiser"))),
       selecteur_(new SelecteurSite(catalogue.reglages())),
       grille_(new GrilleLivres(commande, images, selecteur_->dernierControle())),
-      recapitulatif_(new Recapitulatif(catalogue, commande))
+      recapitulatif_(new Recapitulatif(catalogue, commande, preferences, aujourdhui_))
 {
     reinitialiser_->setToolTip(tr("Tout réinitialiser : quantités, colis pesé et pays de livraison ; l’emballage et la "
                                   "destination restent"));

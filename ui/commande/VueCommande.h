@@ -9,6 +9,7 @@ class Commande;
 class EnTete;
 class GrilleLivres;
 class ImagesCouvertures;
+class Preferences;
 class QPushButton;
 class Recapitulatif;
 class SelecteurSite;
@@ -19,7 +20,8 @@ class VueCommande : public QWidget
     Q_OBJECT
 
 public:
-    VueCommande(const Catalogue &catalogue, Commande &commande, ImagesCouvertures &images, Aujourdhui aujourdhui,
+    VueCommande(const Catalogue &catalogue, Commande &commande, ImagesCouvertures &images,
+                const Preferences &preferences, Aujourdhui aujourdhui,
                 QWidget *parent = nullptr);
 
 protected:

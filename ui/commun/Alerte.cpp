@@ -12,20 +12,31 @@ constexpr int coteSymbole = 17;
 constexpr int espace = 8;
 } // namespace
 
-Alerte::Alerte(const QString &symbole, const QString &texte, QWidget *parent)
-    : QWidget(parent), symbole_(symbole), texte_(new Libelle(texte))
+Alerte::Alerte(const QString &symbole, const QString &texte, Ton ton, QWidget *parent)
+    : QWidget(parent),
+      symbole_(symbole),
+      ton_(ton),
+      texte_(new Libelle({}, ton == Ton::note ? Libelle::Rang::secondaire : Libelle::Rang::principal))
 {
     texte_->setFont(Theme::encadre());
     texte_->setWordWrap(true);
-    texte_->setAccessibleName(tr("Attention : %1").arg(texte));
     auto *rangee = new QHBoxLayout(this);
     rangee->setContentsMargins(coteSymbole + espace, 0, 0, 0);
     rangee->addWidget(texte_);
+    montrer(texte);
+}
+
+void Alerte::montrer(const QString &texte)
+{
+    texte_->setText(texte);
+    texte_->setAccessibleName(ton_ == Ton::avertissement ? tr("Attention : %1").arg(texte) : texte);
+    setVisible(!texte.isEmpty());
 }
 
 void Alerte::paintEvent(QPaintEvent *)
 {
     QPainter peintre(this);
     const int haut = texte_->y() + (texte_->fontMetrics().height() - coteSymbole) / 2;
-    Icone::peindre(peintre, symbole_, QRectF(0, haut, coteSymbole, coteSymbole), Theme::orange(palette()));
+    const QColor couleur = ton_ == Ton::avertissement ? Theme::orange(palette()) : Theme::secondaire(palette());
+    Icone::peindre(peintre, symbole_, QRectF(0, haut, coteSymbole, coteSymbole), couleur);
 }

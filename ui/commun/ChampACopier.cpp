@@ -13,7 +13,7 @@
 using namespace std::chrono_literals;
 
 ChampACopier::ChampACopier(const QString &titre, QWidget *parent)
-    : QWidget(parent), affichage_(new Libelle({})), bouton_(new QToolButton)
+    : QWidget(parent), titre_(titre), affichage_(new Libelle({})), bouton_(new QToolButton)
 {
     auto *titreAffiche = new Libelle(titre, Libelle::Rang::secondaire);
     titreAffiche->setFont(Theme::encadre());
@@ -22,7 +22,7 @@ ChampACopier::ChampACopier(const QString &titre, QWidget *parent)
     affichage_->setFocusPolicy(Qt::ClickFocus);
     bouton_->setAutoRaise(true);
     bouton_->setToolTip(tr("Copier %1").arg(titre));
-    bouton_->setAccessibleName(bouton_->toolTip());
+    titreAffiche->setVisible(!titre.isEmpty());
 
     auto *textes = new QVBoxLayout;
     textes->setSpacing(2);
@@ -45,6 +45,7 @@ void ChampACopier::montrer(const QString &valeur, const QString &affichage)
 {
     valeur_ = valeur;
     affichage_->setText(affichage.isEmpty() ? valeur : affichage);
+    bouton_->setAccessibleName(tr("Copier %1").arg(titre_.isEmpty() ? valeur : titre_));
 }
 
 void ChampACopier::copier()

@@ -12,6 +12,7 @@ class ChampACopier : public QWidget
     Q_OBJECT
 
 public:
+    // Without a title, the value goes on from the field above.
     explicit ChampACopier(const QString &titre, QWidget *parent = nullptr);
 
     // `affichage` is shown instead of the value when it is not empty.
@@ -24,6 +25,7 @@ private:
     void copier();
     void montrerEtat();
 
+    QString titre_;
     QString valeur_;
     Libelle *affichage_;
     QToolButton *bouton_;

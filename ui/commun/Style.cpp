@@ -20,21 +20,31 @@ bool contient(const QStyleOption &option, QStyle::StateFlag etat)
     return option.state.testFlag(etat);
 }
 
+// The one that Return presses stands out, filled with the accent.
+bool principal(const QStyleOption &option)
+{
+    const auto *bouton = qstyleoption_cast<const QStyleOptionButton *>(&option);
+    return bouton && bouton->features.testFlag(QStyleOptionButton::DefaultButton)
+           && contient(option, QStyle::State_Enabled);
+}
+
 void bouton(const QStyleOption &option, QPainter &peintre)
 {
     const QPalette &palette = option.palette;
-    QColor fond = Theme::carte(palette);
+    const bool accentue = principal(option);
+    const QColor encre = accentue ? palette.color(QPalette::HighlightedText) : palette.color(QPalette::WindowText);
+    QColor fond = accentue ? Theme::accent(palette) : Theme::carte(palette);
     if (contient(option, QStyle::State_Sunken))
-        fond = Dessin::melange(fond, palette.color(QPalette::WindowText), 0.12);
+        fond = Dessin::melange(fond, encre, 0.12);
     else if (contient(option, QStyle::State_MouseOver) && contient(option, QStyle::State_Enabled))
-        fond = Dessin::melange(fond, palette.color(QPalette::WindowText), 0.05);
-    peintre.setPen(QPen(Theme::filet(palette), 1));
+        fond = Dessin::melange(fond, encre, 0.05);
+    peintre.setPen(QPen(accentue ? fond : Theme::filet(palette), 1));
     peintre.setBrush(fond);
     const QRectF cadre = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
     peintre.drawRoundedRect(cadre, Theme::rayonControle, Theme::rayonControle);
     if (contient(option, QStyle::State_HasFocus) && contient(option, QStyle::State_KeyboardFocusChange))
         Dessin::anneauDeFocus(peintre, cadre.adjusted(2, 2, -2, -2), Theme::rayonControle - 2,
-                              Theme::accentTexte(palette));
+                              accentue ? encre : Theme::accentTexte(palette));
 }
 
 // The icon and the text side by side, centred together.
@@ -44,9 +54,11 @@ void contenuDuBouton(const QStyleOptionButton &option, QPainter &peintre)
     const int icone = option.icon.isNull() ? 0 : option.iconSize.width();
     const int texte = option.fontMetrics.horizontalAdvance(option.text);
     const int gauche = option.rect.center().x() - (icone + (icone ? espaceIcone : 0) + texte) / 2;
-    option.icon.paint(&peintre, {gauche, option.rect.center().y() - icone / 2, icone, icone}, Qt::AlignCenter,
-                      actif ? QIcon::Normal : QIcon::Disabled);
-    peintre.setPen(option.palette.color(actif ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
+    const bool accentue = principal(option);
+    const auto mode = accentue ? QIcon::Selected : actif ? QIcon::Normal : QIcon::Disabled;
+    option.icon.paint(&peintre, {gauche, option.rect.center().y() - icone / 2, icone, icone}, Qt::AlignCenter, mode);
+    peintre.setPen(option.palette.color(actif ? QPalette::Active : QPalette::Disabled,
+                                        accentue ? QPalette::HighlightedText : QPalette::ButtonText));
     peintre.drawText(
         QRect(gauche + icone + (icone ? espaceIcone : 0), option.rect.top(), texte + 2, option.rect.height()),
         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextHideMnemonic, option.text);

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "model/Calcul.h"
+#include "model/Reglages.h"
+
+#include <QDate>
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+// One sale, as it is invoiced.
+struct Facture
+{
+    struct Ligne
+    {
+        qint64 id = 0; // the book's
+        QString designation;
+        QString isbn;
+        int quantite = 0;
+        Centimes prixUnitaire;
+
+        [[nodiscard]] Centimes montant() const { return prixUnitaire * quantite; }
+        bool operator==(const Ligne &) const = default;
+    };
+
+    QString numero;
+    QDate date;
+    IdentiteVendeur vendeur;
+    QString acheteur; // name and address as typed, on several lines; may be empty
+    QList<Ligne> lignes;
+    QString libelleEnvoi;
+    Centimes envoi;
+    QString codeSH;
+
+    [[nodiscard]] Centimes sousTotal() const; // the books alone
+    [[nodiscard]] Centimes total() const { return sousTotal() + envoi; }
+    // "Facture 2026-007 – Éditions Davrel.pdf"
+    [[nodiscard]] QString titre() const;
+    // The title, without what a file name cannot hold on some system.
+    [[nodiscard]] QString nomDeFichier() const;
+
+    bool operator==(const Facture &) const = default;
+};
+
+// The invoice of the order in progress. None unless all its books belong to one seller whose identity is known, and
+// its postage is known.
+std::optional<Facture> facture(const Calcul &calcul, const Reglages &reglages, const QString &numero, QDate date,
+                               const QString &acheteur);

@@ -1,0 +1,66 @@
+#include "documents/NumerotationFactures.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+struct Numero
+{
+    qint64 annee = 0;
+    qint64 rang = 0;
+
+    auto operator<=>(const Numero &) const = default;
+};
+
+QString cle(Vendeur vendeur)
+{
+    return QStringLiteral("derniereFacture.") + Json::brut(vendeur);
+}
+
+// Base 10, nothing around the digits but a sign: Qt alone would also take blanks.
+std::optional<qint64> entier(QStringView texte)
+{
+    const QStringView chiffres = texte.startsWith(u'+') ? texte.sliced(1) : texte;
+    if (!std::ranges::all_of(chiffres, [](QChar lettre) { return lettre >= u'0' && lettre <= u'9'; }))
+        return std::nullopt;
+    bool lu = false;
+    const qint64 valeur = chiffres.toLongLong(&lu);
+    return lu ? std::optional(valeur) : std::nullopt;
+}
+
+std::optional<Numero> decomposer(const QString &numero)
+{
+    const QStringList parties = numero.split(u'-', Qt::SkipEmptyParts);
+    if (parties.size() != 2)
+        return std::nullopt;
+    const auto annee = entier(parties[0]);
+    const auto rang = entier(parties[1]);
+    return annee && rang ? std::optional(Numero{*annee, *rang}) : std::nullopt;
+}
+
+} // namespace
+
+QString NumerotationFactures::prochain(Vendeur vendeur, QDate date) const
+{
+    const auto dernier = decomposer(preferences.texte(cle(vendeur)));
+    const bool suite =
+        dernier && dernier->annee == date.year() && dernier->rang < std::numeric_limits<qint64>::max();
+    return QStringLiteral("%1-%2").arg(date.year()).arg(suite ? dernier->rang + 1 : 1, 3, 10, QLatin1Char('0'));
+}
+
+void NumerotationFactures::retenir(const QString &numero, Vendeur vendeur) const
+{
+    const auto retenu = decomposer(numero);
+    if (!retenu)
+        return;
+    const auto dernier = decomposer(preferences.texte(cle(vendeur)));
+    if (!dernier || *dernier < *retenu)
+        preferences.ecrire(cle(vendeur), numero);
+}
+
+std::optional<qint64> NumerotationFactures::annee(const QString &numero)
+{
+    const auto lu = decomposer(numero);
+    return lu ? std::optional(lu->annee) : std::nullopt;
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "model/Fichier.h"
+
+#include <QString>
+
+// What the user's habits leave behind: short texts by key, in one INI file.
+class Preferences
+{
+public:
+    explicit Preferences(const QString &fichier) : fichier_(fichier) {}
+    // The file of the platform's per-user configuration.
+    static Preferences deLUtilisateur();
+
+    // Empty when there is none.
+    [[nodiscard]] QString texte(const QString &cle) const;
+    // Returns once the text is on the disk. Throws ErreurStockage; what was kept before still is.
+    void ecrire(const QString &cle, const QString &texte) const;
+
+private:
+    QString fichier_;
+};

@@ -1,0 +1,30 @@
+#include "ui/commande/SectionDocuments.h"
+
+#include "ui/commande/TextesRecapitulatif.h"
+#include "ui/commun/Icone.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+
+SectionDocuments::SectionDocuments(QWidget *parent)
+    : Section(tr("Documents d’envoi"), {}, parent),
+      douane_(new QPushButton(Icone::icone(QStringLiteral("doc.text.magnifyingglass")), tr("Déclaration en douane"))),
+      facture_(new QPushButton(Icone::icone(QStringLiteral("doc.plaintext")), tr("Facture")))
+{
+    auto *boutons = new QWidget;
+    auto *rangee = new QHBoxLayout(boutons);
+    rangee->setContentsMargins(0, 0, 0, 0);
+    rangee->setSpacing(12);
+    rangee->addWidget(douane_, 1);
+    rangee->addWidget(facture_, 1);
+    groupe()->ajouter(Formulaire::seul(boutons));
+    connect(douane_, &QPushButton::clicked, this, &SectionDocuments::douaneDemandee);
+    connect(facture_, &QPushButton::clicked, this, &SectionDocuments::factureDemandee);
+}
+
+void SectionDocuments::montrer(const Calcul &calcul)
+{
+    const bool pret = TextesRecapitulatif::pretAPartir(calcul);
+    douane_->setEnabled(pret);
+    facture_->setEnabled(pret);
+}

@@ -1,0 +1,22 @@
+#include "ui/commande/SectionReponse.h"
+
+#include "documents/ReponseType.h"
+#include "ui/commande/TextesRecapitulatif.h"
+#include "ui/commun/Icone.h"
+
+#include <QPushButton>
+
+SectionReponse::SectionReponse(const Commande &commande, QWidget *parent)
+    : Section(tr("Réponse à l’acheteur"), tr("Dans la langue choisie pour le lien de paiement."), parent),
+      commande_(commande),
+      ecrire_(new QPushButton(Icone::icone(QStringLiteral("envelope")), {}))
+{
+    groupe()->ajouter(Formulaire::seul(ecrire_));
+    connect(ecrire_, &QPushButton::clicked, this, &SectionReponse::demandee);
+}
+
+void SectionReponse::montrer(const Calcul &calcul)
+{
+    ecrire_->setText(TextesRecapitulatif::ecrireALAcheteur(langueAcheteur(commande_, calcul)));
+    ecrire_->setEnabled(TextesRecapitulatif::pretAPartir(calcul));
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "model/Calcul.h"
+#include "ui/commun/Formulaire.h"
+
+class Commande;
+class QPushButton;
+
+// The way to the reply, in the buyer's language.
+class SectionReponse : public Formulaire::Section
+{
+    Q_OBJECT
+
+public:
+    explicit SectionReponse(const Commande &commande, QWidget *parent = nullptr);
+    void montrer(const Calcul &calcul);
+
+signals:
+    void demandee();
+
+private:
+    const Commande &commande_;
+    QPushButton *ecrire_;
+};

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QWidget>
+
+class Libelle;
+
+// What stands in place of a screen that has nothing to show: a symbol, a title, the reason.
+class EtatVide : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // Without a title, the reason stands alone under its symbol.
+    EtatVide(const QString &symbole, const QString &titre, const QString &raison, QWidget *parent = nullptr);
+    void setRaison(const QString &raison);
+
+protected:
+    void paintEvent(QPaintEvent *evenement) override;
+
+private:
+    QString symbole_;
+    QWidget *place_; // of the symbol
+    Libelle *raison_;
+};

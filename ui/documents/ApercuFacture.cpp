@@ -1,0 +1,106 @@
+#include "ui/documents/ApercuFacture.h"
+
+#include "ui/Theme.h"
+#include "ui/commun/Defilement.h"
+#include "ui/commun/Dessin.h"
+#include "ui/documents/PageFacture.h"
+
+#include <QDialog>
+#include <QPainter>
+#include <QScreen>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr double reduction = 0.25;
+constexpr int marge = 4; // for the focus ring
+
+PageFacture::Couleurs couleurs(const QPalette &palette)
+{
+    return {.encre = palette.color(QPalette::WindowText),
+            .gris = Theme::secondaire(palette),
+            .filet = Theme::filet(palette),
+            .accent = Theme::accentTexte(palette)};
+}
+
+void peindreLaPage(QPainter &peintre, const Facture &facture, const QRectF &cadre, const QPalette &palette)
+{
+    peintre.setRenderHint(QPainter::Antialiasing);
+    peintre.setPen(QPen(Theme::filet(palette), 1));
+    peintre.setBrush(Theme::carte(palette));
+    peintre.drawRect(cadre.adjusted(0.5, 0.5, -0.5, -0.5));
+    peintre.translate(cadre.topLeft());
+    const double echelle = cadre.width() / PageFacture::taille.width();
+    peintre.scale(echelle, echelle);
+    PageFacture(facture, couleurs(palette)).peindre(peintre);
+}
+
+// The page at its own size.
+class Feuillet : public QWidget
+{
+public:
+    explicit Feuillet(Facture facture) : facture_(std::move(facture)) { setFixedSize(PageFacture::taille); }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter peintre(this);
+        peindreLaPage(peintre, facture_, rect(), palette());
+    }
+
+private:
+    Facture facture_;
+};
+
+} // namespace
+
+ApercuFacture::ApercuFacture(QWidget *parent) : QAbstractButton(parent)
+{
+    setFixedSize(sizeHint());
+    setCursor(Qt::PointingHandCursor);
+    setToolTip(tr("Agrandir la facture"));
+    setAccessibleName(toolTip());
+    connect(this, &QAbstractButton::clicked, this, &ApercuFacture::agrandir);
+}
+
+void ApercuFacture::montrer(const Facture &facture)
+{
+    facture_ = facture;
+    update();
+}
+
+QSize ApercuFacture::sizeHint() const
+{
+    return (QSizeF(PageFacture::taille) * reduction).toSize() + 2 * QSize(marge, marge);
+}
+
+void ApercuFacture::paintEvent(QPaintEvent *)
+{
+    QPainter peintre(this);
+    const QRectF cadre = QRectF(rect()).adjusted(marge, marge, -marge, -marge);
+    if (Dessin::focusVisible(this)) {
+        peintre.setRenderHint(QPainter::Antialiasing);
+        Dessin::anneauDeFocus(peintre, cadre, 1, Theme::accentTexte(palette()));
+    }
+    peindreLaPage(peintre, facture_, cadre, palette());
+}
+
+void ApercuFacture::agrandir()
+{
+    auto *vue = new QDialog(window());
+    vue->setAttribute(Qt::WA_DeleteOnClose);
+    vue->setWindowTitle(facture_.titre());
+    auto *page = new QWidget;
+    auto *centre = new QVBoxLayout(page);
+    centre->addWidget(new Feuillet(facture_), 0, Qt::AlignCenter);
+    auto *defilement = new Defilement;
+    defilement->setWidget(page);
+    defilement->setFocusPolicy(Qt::StrongFocus); // the arrows scroll
+    auto *colonne = new QVBoxLayout(vue);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->addWidget(defilement);
+    const QSize voulue = page->sizeHint() + QSize(defilement->verticalScrollBar()->sizeHint().width(), 0);
+    vue->resize(voulue.boundedTo(screen()->availableSize()));
+    vue->open();
+}

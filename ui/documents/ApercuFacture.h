@@ -1,0 +1,25 @@
+#pragma once
+
+#include "documents/Facture.h"
+
+#include <QAbstractButton>
+
+// The invoice's page, reduced; a click shows it at its own size.
+class ApercuFacture : public QAbstractButton
+{
+    Q_OBJECT
+
+public:
+    explicit ApercuFacture(QWidget *parent = nullptr);
+    void montrer(const Facture &facture);
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *evenement) override;
+
+private:
+    void agrandir();
+
+    Facture facture_;
+};

@@ -1,0 +1,75 @@
+#include "ui/documents/FicheDouane.h"
+
+#include "ui/commun/Alerte.h"
+#include "ui/commun/ChampACopier.h"
+#include "ui/commun/Defilement.h"
+#include "ui/commun/EtatVide.h"
+#include "ui/commun/Formulaire.h"
+#include "ui/commun/Icone.h"
+#include "ui/commun/Libelle.h"
+#include "ui/commun/Lien.h"
+#include "ui/documents/TextesDocuments.h"
+
+#include <QPushButton>
+#include <QUrl>
+#include <QVBoxLayout>
+
+FicheDouane::FicheDouane(const Reglages &reglages, QWidget *parent)
+    : QStackedWidget(parent), reglages_(reglages), defilement_(new Defilement)
+{
+    addWidget(defilement_);
+    addWidget(new EtatVide(QStringLiteral("info.circle"), {},
+                           tr("Pas de déclaration pour cette destination : elle reste dans l’Union européenne.")));
+}
+
+void FicheDouane::montrer(const Calcul &calcul)
+{
+    setCurrentIndex(calcul.douaneRequise ? 0 : 1);
+    if (calcul.douaneRequise)
+        defilement_->setWidget(page(calcul));
+}
+
+QWidget *FicheDouane::instructions()
+{
+    auto *bloc = new QWidget;
+    auto *colonne = new QVBoxLayout(bloc);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(8);
+    for (const QString &texte : TextesDocuments::instructionsDeDouane()) {
+        auto *consigne = new Libelle(texte);
+        consigne->setWordWrap(true);
+        colonne->addWidget(consigne);
+    }
+    colonne->addWidget(
+        new Alerte(QStringLiteral("exclamationmark.triangle"),
+                   tr("Sans déclaration, ou avec une déclaration incomplète, le colis est refusé par la douane.")));
+    const QString site = TextesDocuments::siteDeLaPoste();
+    auto *ouvrir = new QPushButton(Icone::icone(QStringLiteral("arrow.up.forward.app")), tr("Ouvrir %1").arg(site));
+    ouvrir->setAutoDefault(false);
+    connect(ouvrir, &QPushButton::clicked, this,
+            [this, site] { Lien::ouvrir(QUrl(QStringLiteral("https://www.%1/").arg(site)), this); });
+    colonne->addWidget(ouvrir, 0, Qt::AlignLeft);
+    return bloc;
+}
+
+QWidget *FicheDouane::page(const Calcul &calcul)
+{
+    auto *page = new QWidget;
+    auto *colonne = new QVBoxLayout(page);
+    colonne->setContentsMargins(20, 20, 20, 24);
+    colonne->setSpacing(22);
+    colonne->addWidget(instructions());
+    for (const TextesDocuments::Rubrique &rubrique : TextesDocuments::declaration(calcul, reglages_)) {
+        auto *section = new Formulaire::Section(rubrique.titre);
+        for (const TextesDocuments::Champ &champ : rubrique.champs) {
+            auto *rangee = new ChampACopier(champ.titre);
+            rangee->montrer(champ.valeur, champ.affichage);
+            section->groupe()->ajouter(rangee);
+        }
+        colonne->addWidget(section);
+    }
+    if (const QString manque = TextesDocuments::sansIdentite(calcul, reglages_); !manque.isEmpty())
+        colonne->addWidget(new Alerte(QStringLiteral("exclamationmark.triangle"), manque));
+    colonne->addStretch(1);
+    return page;
+}

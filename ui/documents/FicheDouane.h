@@ -1,0 +1,26 @@
+#pragma once
+
+#include "model/Calcul.h"
+#include "model/Reglages.h"
+
+#include <QStackedWidget>
+
+class Defilement;
+
+// What the seller copies into La Poste's customs form.
+class FicheDouane : public QStackedWidget
+{
+    Q_OBJECT
+
+public:
+    // `reglages` is read each time the screen is brought up to date.
+    explicit FicheDouane(const Reglages &reglages, QWidget *parent = nullptr);
+    void montrer(const Calcul &calcul);
+
+private:
+    [[nodiscard]] QWidget *instructions();
+    [[nodiscard]] QWidget *page(const Calcul &calcul);
+
+    const Reglages &reglages_;
+    Defilement *defilement_;
+};

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "documents/Facture.h"
+#include "model/Echec.h"
+
+#include <QByteArray>
+
+#include <optional>
+
+class QWidget;
+
+// How an invoice leaves the program: on paper or as a file.
+namespace ImpressionFacture {
+
+// The page could not be made; the text says so, in French.
+class Erreur : public Echec
+{
+public:
+    using Echec::Echec;
+};
+
+// The page as a PDF document of one page. Throws Erreur.
+QByteArray pdf(const Facture &facture);
+
+// Both ask in the platform's dialog, over `parent`, and throw Echec when the invoice could not leave.
+
+// Returns whether the job was handed over; false when the user gave up.
+bool imprimer(const Facture &facture, int exemplaires, QWidget *parent);
+// Returns the path of the file written; none when the user gave up. The dialog opens on `dossier`, or on the user's
+// documents when that folder is not there.
+std::optional<QString> enregistrer(const Facture &facture, const QString &dossier, QWidget *parent);
+
+} // namespace ImpressionFacture

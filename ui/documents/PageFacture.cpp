@@ -1,0 +1,249 @@
+#include "ui/documents/PageFacture.h"
+
+#include "model/Format.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QTextLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr double marge = 48;
+constexpr double espace = 28; // between two sections
+constexpr double largeurUtile = PageFacture::taille.width() - 2 * marge;
+constexpr double hauteurUtile = PageFacture::taille.height() - 2 * marge;
+
+constexpr double colonneDesPrix = 110;
+constexpr double colonneDesMontants = 90;
+constexpr double margeDeRangee = 8;
+constexpr double interligne = 1.2;
+
+struct Caractere
+{
+    int corps = 10; // points
+    QFont::Weight graisse = QFont::Normal;
+    QColor couleur;
+    double approche = 0; // between letters, points
+};
+
+// In pixels, which are points here: a size in points would follow the screen's density.
+QFont police(const Caractere &caractere)
+{
+    QFont police = QApplication::font();
+    police.setPixelSize(caractere.corps);
+    police.setWeight(caractere.graisse);
+    police.setLetterSpacing(QFont::AbsoluteSpacing, caractere.approche);
+    police.setHintingPreference(QFont::PreferNoHinting);
+    return police;
+}
+
+} // namespace
+
+// The page from top to bottom. Without a painter it only measures: what is measured is what is drawn.
+class PageFacture::Composition
+{
+public:
+    Composition(const Facture &facture, const Couleurs &couleurs, double largeur, QPainter *peintre = nullptr)
+        : facture_(facture),
+          largeur_(largeur),
+          peintre_(peintre),
+          titre_{17, QFont::DemiBold, couleurs.encre},
+          texte_{10, QFont::Normal, couleurs.encre},
+          discret_{10, QFont::Normal, couleurs.gris},
+          legende_{8, QFont::DemiBold, couleurs.gris},
+          note_{8, QFont::Normal, couleurs.gris},
+          accent_(couleurs.accent),
+          filet_(couleurs.filet)
+    {
+    }
+
+    // Returns the height it takes.
+    double composer()
+    {
+        enTete();
+        acheteur();
+        tableau();
+        reglement();
+        mentions();
+        return y_;
+    }
+
+private:
+    // Each draws from `y_` and leaves `y_` under itself.
+    void enTete();
+    void acheteur();
+    void tableau();
+    void ligne(const Facture::Ligne &ligne);
+    void envoi();
+    void total();
+    void reglement();
+    void mentions();
+
+    // A block of text; returns its height and leaves `y_` where it is.
+    double bloc(const QString &texte, const Caractere &caractere, double x, double y, double largeur,
+                Qt::Alignment alignement = Qt::AlignLeft) const;
+    void filet(const QColor &couleur, double epaisseur = 0.6) const;
+    void entreSections();
+    [[nodiscard]] double finDesDesignations() const { return largeur_ - colonneDesPrix - colonneDesMontants; }
+
+    const Facture &facture_;
+    double largeur_;
+    QPainter *peintre_;
+    Caractere titre_, texte_, discret_, legende_, note_;
+    QColor accent_, filet_;
+    double y_ = 0;
+};
+
+double PageFacture::Composition::bloc(const QString &texte, const Caractere &caractere, double x, double y,
+                                      double largeur, Qt::Alignment alignement) const
+{
+    QString paragraphes = texte;
+    QTextLayout mise(paragraphes.replace(u'\n', QChar::LineSeparator), police(caractere));
+    QTextOption option(alignement);
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setUseDesignMetrics(true); // the same lines at every scale
+    mise.setTextOption(option);
+    double hauteur = 0;
+    mise.beginLayout();
+    for (QTextLine ligne = mise.createLine(); ligne.isValid(); ligne = mise.createLine()) {
+        ligne.setLineWidth(largeur);
+        ligne.setPosition({0, hauteur});
+        hauteur += ligne.height() * interligne;
+    }
+    mise.endLayout();
+    if (peintre_) {
+        peintre_->setPen(caractere.couleur);
+        mise.draw(peintre_, {x, y});
+    }
+    return hauteur;
+}
+
+void PageFacture::Composition::filet(const QColor &couleur, double epaisseur) const
+{
+    if (peintre_)
+        peintre_->fillRect(QRectF(0, y_ - epaisseur / 2, largeur_, epaisseur), couleur);
+}
+
+void PageFacture::Composition::entreSections()
+{
+    y_ += espace / 2;
+    filet(filet_);
+    y_ += espace / 2;
+}
+
+void PageFacture::Composition::enTete()
+{
+    const IdentiteVendeur &vendeur = facture_.vendeur;
+    const double gauche = largeur_ * 0.56;
+    const double droite = largeur_ - gauche;
+    double bas = bloc(vendeur.nom, titre_, 0, y_, gauche - espace) + 4;
+    QStringList coordonnees = vendeur.adresse;
+    if (vendeur.siret)
+        coordonnees.append(QStringLiteral("SIRET ") + *vendeur.siret);
+    bas += bloc(coordonnees.join(u'\n'), discret_, 0, y_ + bas, gauche - espace);
+
+    const Caractere intitule{8, QFont::DemiBold, accent_, 1.2};
+    double hauteur = bloc(facture_.numero, titre_, gauche, y_, droite, Qt::AlignRight) + 4;
+    hauteur += bloc(QStringLiteral("FACTURE · INVOICE"), intitule, gauche, y_ + hauteur, droite, Qt::AlignRight) + 3;
+    hauteur += bloc(Format::date(facture_.date), discret_, gauche, y_ + hauteur, droite, Qt::AlignRight);
+
+    y_ += std::max(bas, hauteur) + espace / 2;
+    filet(accent_, 1.5);
+    y_ += espace / 2;
+}
+
+void PageFacture::Composition::acheteur()
+{
+    y_ += bloc(QStringLiteral("Facturé à · Bill to"), legende_, 0, y_, largeur_) + 4;
+    y_ += bloc(facture_.acheteur, texte_, 0, y_, largeur_);
+    entreSections();
+}
+
+void PageFacture::Composition::tableau()
+{
+    const double hauteur = bloc(QStringLiteral("Désignation · Description"), legende_, 0, y_, largeur_ / 2);
+    bloc(QStringLiteral("Montant · Amount"), legende_, largeur_ / 2, y_, largeur_ / 2, Qt::AlignRight);
+    y_ += hauteur + 6;
+    for (const Facture::Ligne &vendue : facture_.lignes)
+        ligne(vendue);
+    envoi();
+    total();
+}
+
+void PageFacture::Composition::ligne(const Facture::Ligne &ligne)
+{
+    filet(filet_);
+    y_ += margeDeRangee;
+    const double fin = finDesDesignations();
+    Caractere designation = texte_;
+    designation.graisse = QFont::Medium;
+    double hauteur = bloc(ligne.designation, designation, 0, y_, fin);
+    bloc(QString::number(ligne.quantite) + QStringLiteral(" × ") + Format::euros(ligne.prixUnitaire), discret_, fin, y_,
+         colonneDesPrix, Qt::AlignRight);
+    bloc(Format::euros(ligne.montant()), texte_, largeur_ - colonneDesMontants, y_, colonneDesMontants, Qt::AlignRight);
+    hauteur += bloc(QStringLiteral("ISBN ") + ligne.isbn, note_, 0, y_ + hauteur + 1, fin) + 1;
+    y_ += hauteur + margeDeRangee;
+}
+
+void PageFacture::Composition::envoi()
+{
+    filet(filet_);
+    y_ += margeDeRangee;
+    const double hauteur = bloc(facture_.libelleEnvoi, texte_, 0, y_, largeur_ - colonneDesMontants);
+    bloc(Format::euros(facture_.envoi), texte_, largeur_ - colonneDesMontants, y_, colonneDesMontants, Qt::AlignRight);
+    y_ += hauteur + margeDeRangee;
+}
+
+void PageFacture::Composition::total()
+{
+    filet(accent_, 1);
+    y_ += margeDeRangee + 2;
+    const Caractere gras{11, QFont::Bold, texte_.couleur};
+    const double hauteur = bloc(QStringLiteral("Total"), gras, 0, y_, largeur_ / 2);
+    bloc(Format::euros(facture_.total()), gras, largeur_ / 2, y_, largeur_ / 2, Qt::AlignRight);
+    y_ += hauteur;
+    if (!facture_.vendeur.mentionTva.isEmpty())
+        y_ += bloc(facture_.vendeur.mentionTva, note_, 0, y_ + 4, largeur_) + 4;
+}
+
+void PageFacture::Composition::reglement()
+{
+    y_ += espace;
+    const Caractere reglee{10, QFont::Medium, accent_};
+    y_ += bloc(QStringLiteral("Réglée par PayPal · Paid via PayPal"), reglee, 0, y_, largeur_);
+}
+
+void PageFacture::Composition::mentions()
+{
+    entreSections();
+    const QString codeSH = facture_.codeSH;
+    y_ += bloc(QStringLiteral("Marchandises : livres imprimés, origine France, code SH ") + codeSH
+                   + QStringLiteral(" · Goods: printed books, made in France, HS code ") + codeSH,
+               note_, 0, y_, largeur_);
+}
+
+PageFacture::Couleurs PageFacture::imprimees()
+{
+    return {.encre = Qt::black,
+            .gris = QColor::fromRgbF(0.42F, 0.42F, 0.42F),
+            .filet = QColor::fromRgbF(0.82F, 0.82F, 0.82F),
+            .accent = QColor(13, 104, 98)};
+}
+
+PageFacture::PageFacture(Facture facture, const Couleurs &couleurs) : facture_(std::move(facture)), couleurs_(couleurs)
+{
+}
+
+void PageFacture::peindre(QPainter &peintre) const
+{
+    // Drawn smaller, a page is as much wider: its lines get fewer, never more, so that this scale is enough.
+    const double hauteur = Composition(facture_, couleurs_, largeurUtile).composer();
+    const double echelle = std::min(1.0, hauteurUtile / hauteur);
+    peintre.save();
+    peintre.translate(marge, marge);
+    peintre.scale(echelle, echelle);
+    Composition(facture_, couleurs_, largeurUtile / echelle, &peintre).composer();
+    peintre.restore();
+}

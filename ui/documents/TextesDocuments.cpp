@@ -1,0 +1,100 @@
+#include "ui/documents/TextesDocuments.h"
+
+#include "documents/ArticleDouane.h"
+#include "documents/NumerotationFactures.h"
+#include "documents/ReponseType.h"
+#include "model/Format.h"
+#include "ui/commun/NomsVendeurs.h"
+
+namespace {
+
+using TextesDocuments::Champ;
+using TextesDocuments::Rubrique;
+
+Champ montant(const QString &titre, Centimes valeur)
+{
+    return {titre, Format::montant(valeur), Format::euros(valeur)};
+}
+
+Rubrique envoi(const Calcul &calcul)
+{
+    Rubrique envoi{QStringLiteral("Envoi"),
+                   {{QStringLiteral("Nature de l’envoi"), QStringLiteral("Vente de marchandises"), {}}}};
+    if (calcul.envoi)
+        envoi.champs.append(montant(QStringLiteral("Frais de port"), *calcul.envoi));
+    envoi.champs.append({QStringLiteral("Poids brut du colis (kg)"), Format::kilos(calcul.poidsRetenu), {}});
+    envoi.champs.append(montant(QStringLiteral("Valeur totale"), calcul.sousTotal));
+    return envoi;
+}
+
+Rubrique article(qsizetype numero, const ArticleDouane &article)
+{
+    return {QStringLiteral("Article %1").arg(numero),
+            {{QStringLiteral("Description"), article.description, {}},
+             {QStringLiteral("Poids net unitaire (kg)"), Format::kilos(article.poidsUnitaire), {}},
+             montant(QStringLiteral("Valeur unitaire"), article.valeurUnitaire),
+             {QStringLiteral("Pays d’origine"), article.origine, {}},
+             {QStringLiteral("N° tarifaire (SH)"), article.codeSH, {}}}};
+}
+
+Rubrique expediteur(const Calcul &calcul, const Reglages &reglages)
+{
+    Rubrique expediteur{QStringLiteral("Expéditeur"), {}};
+    if (const auto vendeur = vendeurUnique(calcul, reglages))
+        for (const QString &ligne : vendeur->adresse)
+            expediteur.champs.append({expediteur.champs.isEmpty() ? QStringLiteral("Adresse") : QString(), ligne, {}});
+    return expediteur;
+}
+
+} // namespace
+
+QString TextesDocuments::siteDeLaPoste()
+{
+    return QStringLiteral("laposte.fr");
+}
+
+QStringList TextesDocuments::instructionsDeDouane()
+{
+    return {QStringLiteral("1. Achetez l’affranchissement Colissimo, en ligne ou au guichet."),
+            QStringLiteral("2. Sur %1, remplissez la déclaration avec les valeurs ci-dessous ; le destinataire est "
+                           "l’adresse de livraison du paiement PayPal.")
+                .arg(siteDeLaPoste()),
+            QStringLiteral("3. Imprimez-la et signez les deux exemplaires. Glissez-les, avec deux exemplaires de la "
+                           "facture, dans une pochette plastique collée sur le colis.")};
+}
+
+QList<Rubrique> TextesDocuments::declaration(const Calcul &calcul, const Reglages &reglages)
+{
+    QList<Rubrique> rubriques{envoi(calcul)};
+    for (const ArticleDouane &declare : articlesDouane(calcul, reglages.douane.codeSH))
+        rubriques.append(article(rubriques.size(), declare));
+    rubriques.append(expediteur(calcul, reglages));
+    return rubriques;
+}
+
+QString TextesDocuments::obstacleALaFacture(const Calcul &calcul, const Reglages &reglages)
+{
+    if (calcul.vendeurs().size() != 1)
+        return QStringLiteral(
+            "Une facture par vendeur : séparez les livres de Davrel et ceux de Mireva en deux commandes.");
+    return sansIdentite(calcul, reglages);
+}
+
+QString TextesDocuments::sansIdentite(const Calcul &calcul, const Reglages &reglages)
+{
+    for (const Vendeur vendeur : calcul.vendeurs())
+        if (!reglages.identite(vendeur))
+            return QStringLiteral("Le nom et l’adresse de %1 manquent dans les réglages.")
+                .arg(NomsVendeurs::court(vendeur));
+    return {};
+}
+
+QString TextesDocuments::remarqueSurLeNumero(const QString &numero, QDate jour)
+{
+    const auto annee = NumerotationFactures::annee(numero);
+    if (!annee)
+        return QStringLiteral("Ce numéro n’a pas la forme %1-001 : il ne sera pas retenu.").arg(jour.year());
+    if (*annee != jour.year())
+        return QStringLiteral("Ce numéro n’est pas de l’année %1.").arg(jour.year());
+    return {};
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "model/Calcul.h"
+#include "model/Reglages.h"
+
+#include <QList>
+#include <QString>
+
+// What the documents' screens say: texts only, laid out by the widgets.
+namespace TextesDocuments {
+
+// One value of the customs form.
+struct Champ
+{
+    QString titre; // none for an address that goes on
+    QString valeur;
+    QString affichage; // in place of the value, where it is not empty
+
+    bool operator==(const Champ &) const = default;
+};
+
+struct Rubrique
+{
+    QString titre;
+    QList<Champ> champs;
+
+    bool operator==(const Rubrique &) const = default;
+};
+
+// The site of La Poste where customs forms are filled in.
+QString siteDeLaPoste();
+QStringList instructionsDeDouane();
+// The form from top to bottom; the sender stands last, with no field when the seller's identity is not known.
+QList<Rubrique> declaration(const Calcul &calcul, const Reglages &reglages);
+
+// Why no invoice can be made; empty when one can.
+QString obstacleALaFacture(const Calcul &calcul, const Reglages &reglages);
+// That the settings lack the seller's identity; empty when they do not.
+QString sansIdentite(const Calcul &calcul, const Reglages &reglages);
+// What is odd about a typed number; empty when it belongs to the day's series.
+QString remarqueSurLeNumero(const QString &numero, QDate jour);
+
+} // namespace TextesDocuments

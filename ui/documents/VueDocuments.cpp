@@ -1,0 +1,43 @@
+#include "ui/documents/VueDocuments.h"
+
+#include "model/Calcul.h"
+#include "model/Catalogue.h"
+#include "ui/commun/ChoixSegmente.h"
+#include "ui/documents/FicheDouane.h"
+#include "ui/documents/FicheFacture.h"
+
+#include <QStackedWidget>
+
+namespace {
+
+constexpr QSize tailleDesDocuments(760, 720);
+
+} // namespace
+
+VueDocuments::VueDocuments(const Catalogue &catalogue, const Commande &commande, const Preferences &preferences,
+                           Aujourdhui aujourdhui, OngletDocuments onglet, QWidget *parent)
+    : Feuille(tr("Documents d’envoi"), parent),
+      catalogue_(catalogue),
+      commande_(commande),
+      aujourdhui_(std::move(aujourdhui)),
+      douane_(new FicheDouane(catalogue.reglages()))
+{
+    auto *onglets = new ChoixSegmente({tr("Déclaration en douane"), tr("Facture")}, {.police = font()});
+    auto *pages = new QStackedWidget;
+    pages->addWidget(douane_);
+    pages->addWidget(new FicheFacture(catalogue, commande, preferences, aujourdhui_));
+    meubler(onglets, pages);
+    connect(onglets, &ChoixSegmente::choisi, pages, &QStackedWidget::setCurrentIndex);
+    onglets->montrer(static_cast<int>(onglet));
+    pages->setCurrentIndex(static_cast<int>(onglet));
+
+    connect(&commande_, &Commande::change, this, &VueDocuments::actualiser);
+    connect(&catalogue_, &Catalogue::change, this, &VueDocuments::actualiser);
+    actualiser();
+    prendreLaTaille(tailleDesDocuments);
+}
+
+void VueDocuments::actualiser()
+{
+    douane_->montrer(Calcul(catalogue_, commande_, aujourdhui_()));
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "model/Preferences.h"
+#include "ui/Aujourdhui.h"
+#include "ui/commun/Feuille.h"
+
+class Catalogue;
+class Commande;
+class FicheDouane;
+
+// The tabs of the documents, in their order.
+enum class OngletDocuments { douane, facture };
+
+// What goes with the parcel: the values of the customs form, and the invoice.
+class VueDocuments : public Feuille
+{
+    Q_OBJECT
+
+public:
+    VueDocuments(const Catalogue &catalogue, const Commande &commande, const Preferences &preferences,
+                 Aujourdhui aujourdhui, OngletDocuments onglet, QWidget *parent = nullptr);
+
+private:
+    void actualiser();
+
+    const Catalogue &catalogue_;
+    const Commande &commande_;
+    Aujourdhui aujourdhui_;
+    FicheDouane *douane_;
+};

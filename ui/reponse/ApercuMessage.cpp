@@ -1,0 +1,55 @@
+#include "ui/reponse/ApercuMessage.h"
+
+#include "documents/ReponseType.h"
+#include "ui/Theme.h"
+#include "ui/commun/Dessin.h"
+
+#include <QPainter>
+#include <QScrollBar>
+#include <QTextBlock>
+
+ApercuMessage::ApercuMessage(QWidget *parent) : QTextEdit(parent)
+{
+    setReadOnly(true);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setAccessibleName(tr("Message"));
+    setFrameShape(QFrame::NoFrame);
+    viewport()->setAutoFillBackground(false);
+    document()->setDocumentMargin(18);
+}
+
+void ApercuMessage::montrer(const ReponseType &reponse, const QString &adresse)
+{
+    const int defilement = verticalScrollBar()->value();
+    clear();
+    QTextCursor plume(document());
+    const auto ligne = [&plume](const QString &texte, const QFont &police, const QColor &couleur, qreal dessous = 0) {
+        QTextCharFormat caractere;
+        caractere.setFont(police);
+        caractere.setForeground(couleur);
+        QTextBlockFormat paragraphe;
+        paragraphe.setBottomMargin(dessous);
+        plume.setBlockFormat(paragraphe);
+        plume.insertText(texte, caractere);
+    };
+    const QColor encre = palette().color(QPalette::WindowText);
+    const QFont gras = Theme::enGras(font());
+    ligne(reponse.sujet(), gras, encre, 8);
+    if (!adresse.isEmpty()) {
+        plume.insertBlock();
+        ligne(tr("À : %1").arg(adresse), font(), Theme::secondaire(palette()), 8);
+    }
+    const QString total = reponse.ligneTotal();
+    for (const QString &texte : reponse.corps().split(u'\n')) {
+        plume.insertBlock();
+        ligne(texte, texte == total ? gras : font(), encre);
+    }
+    verticalScrollBar()->setValue(defilement);
+}
+
+void ApercuMessage::paintEvent(QPaintEvent *evenement)
+{
+    QPainter peintre(viewport());
+    Dessin::carte(peintre, viewport()->rect(), palette());
+    QTextEdit::paintEvent(evenement);
+}

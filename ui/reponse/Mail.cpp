@@ -1,0 +1,125 @@
+// Before Qt, whose keyword `signals` is a name in there.
+#include <gio/gio.h>
+
+#include "ui/reponse/Mail.h"
+
+#include <QProcess>
+#include <QUrl>
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+template <auto liberer>
+using Liberer = decltype([](auto *objet) { liberer(objet); });
+using Programme = std::unique_ptr<GAppInfo, Liberer<g_object_unref>>;
+using Mots = std::unique_ptr<char *, Liberer<g_strfreev>>;
+
+QString code(const QString &texte)
+{
+    return QString::fromLatin1(QUrl::toPercentEncoding(texte));
+}
+
+// A line break would begin another header.
+QString surUneLigne(QString texte)
+{
+    std::ranges::replace_if(
+        texte, [](QChar lettre) { return lettre.category() == QChar::Other_Control; }, u' ');
+    return texte;
+}
+
+QString enHtml(const QString &corps, const std::optional<QString> &enGras)
+{
+    const auto echapper = [](const QString &texte) {
+        return texte.toHtmlEscaped().replace(u'\n', QStringLiteral("<br>"));
+    };
+    const qsizetype debut = enGras && !enGras->isEmpty() ? corps.indexOf(*enGras) : -1;
+    QString html = echapper(corps.left(debut));
+    if (debut >= 0)
+        html += QStringLiteral("<b>") + echapper(*enGras) + QStringLiteral("</b>")
+                + echapper(corps.mid(debut + enGras->size()));
+    return QStringLiteral("<div style=\"font-family:Helvetica,sans-serif;font-size:12pt;white-space:pre-wrap\">") + html
+           + QStringLiteral("</div>");
+}
+
+QString mailto(const QString &a, const QString &sujet, const QString &corps)
+{
+    QString lignes = corps;
+    lignes.replace(u'\n', QStringLiteral("\r\n")); // what the scheme asks for
+    return QStringLiteral("mailto:%1?subject=%2&body=%3").arg(code(a), code(sujet), code(lignes));
+}
+
+// Values of its own option: separated by commas, so that each is encoded whole. Its usual quoted form would let a
+// subject end the quotes and attach a file.
+QString pourThunderbird(const QString &a, const QString &sujet, const QString &html)
+{
+    return QStringLiteral("to=%1,subject=%2,format=html,body=%3").arg(code(a), code(sujet), code(html));
+}
+
+bool estThunderbird(GAppInfo *programme)
+{
+    const char *nom = g_app_info_get_id(programme);
+    return QString::fromUtf8(nom ? nom : g_app_info_get_executable(programme))
+        .contains(QLatin1String("thunderbird"), Qt::CaseInsensitive);
+}
+
+// The words of its command line, without the places ("%u", "@@u") where a desktop puts what to open.
+QStringList commande(GAppInfo *programme)
+{
+    const char *ligne = g_app_info_get_commandline(programme);
+    char **mots = nullptr;
+    if (!ligne || !g_shell_parse_argv(ligne, nullptr, &mots, nullptr))
+        return {};
+    const Mots garde(mots);
+    QStringList commande;
+    for (char **mot = mots; *mot; ++mot) {
+        const QString texte = QString::fromUtf8(*mot);
+        if (!texte.startsWith(QLatin1String("@@")) && !(texte.size() == 2 && texte.startsWith(u'%')))
+            commande.append(texte);
+    }
+    return commande;
+}
+
+bool composer(GAppInfo *programme, const QString &message)
+{
+    QStringList mots = commande(programme);
+    if (mots.isEmpty())
+        return false;
+    const QString executable = mots.takeFirst();
+    return QProcess::startDetached(executable, mots << QStringLiteral("-compose") << message);
+}
+
+bool ouvrir(GAppInfo *programme, const QString &adresse)
+{
+    QByteArray octets = adresse.toUtf8();
+    GList lien{octets.data(), nullptr, nullptr};
+    return g_app_info_launch_uris(programme, &lien, nullptr, nullptr);
+}
+
+} // namespace
+
+bool Mail::estUneAdresse(const QString &texte)
+{
+    const QString adresse = texte.trimmed();
+    const auto interdite = [](QChar lettre) {
+        return QStringView(u",;\"<>").contains(lettre) || lettre.isSpace() || !lettre.isPrint();
+    };
+    return adresse.count(u'@') == 1 && !adresse.startsWith(u'@') && !adresse.endsWith(u'@')
+           && std::ranges::none_of(adresse, interdite);
+}
+
+void Mail::ecrire(const QString &a, const QString &sujet, const QString &corps, const std::optional<QString> &enGras)
+{
+    const Programme programme(g_app_info_get_default_for_uri_scheme("mailto"));
+    if (!programme)
+        return;
+    const QString destinataire = estUneAdresse(a) ? a.trimmed() : QString();
+    const QString titre = surUneLigne(sujet);
+    const bool parti = estThunderbird(programme.get())
+                           ? composer(programme.get(), pourThunderbird(destinataire, titre, enHtml(corps, enGras)))
+                           : ouvrir(programme.get(), mailto(destinataire, titre, corps));
+    if (!parti)
+        throw Erreur(
+            QStringLiteral("%1 ne s’est pas ouvert.").arg(QString::fromUtf8(g_app_info_get_name(programme.get()))));
+}

@@ -1,0 +1,169 @@
+#include "ui/reponse/VueReponse.h"
+
+#include "documents/ReponseType.h"
+#include "model/Catalogue.h"
+#include "ui/Theme.h"
+#include "ui/commun/Alerte.h"
+#include "ui/commun/ChoixSegmente.h"
+#include "ui/commun/EtatVide.h"
+#include "ui/commun/Formulaire.h"
+#include "ui/commun/Icone.h"
+#include "ui/reponse/ApercuMessage.h"
+#include "ui/reponse/Mail.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr QSize tailleDeLaReponse(960, 680);
+constexpr QSize tailleImpossible(420, 260);
+constexpr int largeurDeLaSaisie = 380;
+
+QLineEdit *champ(const QString &nom, const QString &exemple)
+{
+    auto *champ = new QLineEdit;
+    champ->setAccessibleName(nom);
+    champ->setPlaceholderText(exemple);
+    return champ;
+}
+
+} // namespace
+
+VueReponse::VueReponse(const Catalogue &catalogue, Commande &commande, Aujourdhui aujourdhui, QWidget *parent)
+    : Feuille(tr("Réponse à l’acheteur"), parent),
+      catalogue_(catalogue),
+      commande_(commande),
+      aujourdhui_(std::move(aujourdhui)),
+      langue_(new ChoixSegmente({tr("Français"), tr("Anglais")}, {.police = font()})),
+      lien_(champ(tr("Lien de paiement"), QStringLiteral("https://www.paypal.com/ncp/payment/…"))),
+      adresse_(champ(tr("E-mail de l’acheteur"), QStringLiteral("prenom.nom@exemple.fr"))),
+      adresseRefusee_(new Alerte(QStringLiteral("exclamationmark.triangle"), {})),
+      lienAbsent_(new Alerte(QStringLiteral("link"), {}, Alerte::Ton::note)),
+      apercu_(new ApercuMessage),
+      pages_(new QStackedWidget)
+{
+    auto *ecran = new QWidget;
+    auto *cotes = new QHBoxLayout(ecran);
+    cotes->setContentsMargins(0, 0, 0, 0);
+    cotes->setSpacing(0);
+    cotes->addWidget(saisie());
+    cotes->addWidget(filet(Qt::Vertical));
+    cotes->addWidget(message(), 1);
+    pages_->addWidget(ecran);
+    pages_->addWidget(new EtatVide(QStringLiteral("person.2"), tr("Réponse impossible"),
+                                   tr("Une réponse par vendeur : séparez les livres de Davrel et ceux de Mireva.")));
+    meubler(langue_, pages_);
+    teinter();
+
+    connect(langue_, &ChoixSegmente::choisi, this,
+            [this](int indice) { commande_.setLangue(indice == 0 ? Langue::francais : Langue::anglais); });
+    connect(lien_, &QLineEdit::textChanged, this, &VueReponse::actualiser);
+    connect(adresse_, &QLineEdit::textChanged, this, &VueReponse::actualiser);
+    connect(&commande_, &Commande::change, this, &VueReponse::actualiser);
+    connect(&catalogue_, &Catalogue::change, this, &VueReponse::actualiser);
+    actualiser();
+    prendreLaTaille(reponse() ? tailleDeLaReponse : tailleImpossible);
+    lien_->setFocus();
+}
+
+QWidget *VueReponse::saisie()
+{
+    auto *coller = new Formulaire::Section(tr("1. Coller le lien de paiement"),
+                                           tr("Dans PayPal, section « Liens et boutons enregistrés » : cliquez sur "
+                                              "« Copier le lien » dans la colonne Action."));
+    coller->groupe()->ajouter(Formulaire::seul(lien_));
+    auto *destinataire = new Formulaire::Section(tr("2. E-mail de l’acheteur"),
+                                                 tr("Facultatif : collé ici, il remplit le destinataire du message "
+                                                    "dans Mail ; sinon, saisissez-le dans Mail."));
+    destinataire->groupe()->ajouter(Formulaire::seul(adresse_));
+    destinataire->groupe()->ajouter(adresseRefusee_);
+
+    auto *saisie = new QWidget;
+    saisie->setFixedWidth(largeurDeLaSaisie);
+    saisie->setAutoFillBackground(true);
+    saisie->setBackgroundRole(QPalette::AlternateBase);
+    auto *colonne = new QVBoxLayout(saisie);
+    colonne->setContentsMargins(16, 20, 16, 20);
+    colonne->setSpacing(22);
+    colonne->addWidget(coller);
+    colonne->addWidget(destinataire);
+    colonne->addStretch(1);
+    return saisie;
+}
+
+QWidget *VueReponse::message()
+{
+    auto *envoyer = new QPushButton(Icone::icone(QStringLiteral("envelope")), tr("Ouvrir dans Mail"));
+    envoyer->setDefault(true);
+    connect(envoyer, &QPushButton::clicked, this, &VueReponse::ouvrirDansMail);
+
+    auto *message = new QWidget;
+    auto *colonne = new QVBoxLayout(message);
+    colonne->setContentsMargins(20, 20, 20, 20);
+    colonne->setSpacing(14);
+    colonne->addWidget(lienAbsent_);
+    colonne->addWidget(apercu_, 1);
+    colonne->addWidget(envoyer, 0, Qt::AlignLeft);
+    return message;
+}
+
+std::optional<ReponseType> VueReponse::reponse() const
+{
+    const Calcul calcul(catalogue_, commande_, aujourdhui_());
+    return ::reponse(calcul, catalogue_.reglages(), commande_, lien_->text());
+}
+
+void VueReponse::actualiser()
+{
+    const auto message = reponse();
+    pages_->setCurrentIndex(message ? 0 : 1);
+    langue_->setVisible(message.has_value());
+    if (!message)
+        return;
+    langue_->montrer(message->langue == Langue::francais ? 0 : 1);
+    lienAbsent_->montrer(lien_->text().trimmed().isEmpty()
+                             ? tr("Collez le lien de paiement : sinon le message garde « %1 » à remplacer.")
+                                   .arg(ReponseType::placeDuLien(message->langue))
+                             : QString());
+    const QString adresse = adresse_->text();
+    adresseRefusee_->montrer(adresse.trimmed().isEmpty() || Mail::estUneAdresse(adresse)
+                                 ? QString()
+                                 : tr("Ce n’est pas une adresse seule : le message s’ouvrira sans destinataire."));
+    apercu_->montrer(*message, adresse);
+}
+
+void VueReponse::ouvrirDansMail()
+{
+    const auto message = reponse();
+    if (!message)
+        return;
+    try {
+        Mail::ecrire(adresse_->text(), message->sujet(), message->corps(), message->ligneTotal());
+    } catch (const Mail::Erreur &erreur) {
+        QMessageBox::warning(this, windowTitle(), erreur.texte());
+    }
+}
+
+// Examples are fainter than any text, so that they are never taken for one.
+void VueReponse::teinter()
+{
+    QPalette pale;
+    pale.setColor(QPalette::PlaceholderText, palette().color(QPalette::Disabled, QPalette::Text));
+    lien_->setPalette(pale);
+    adresse_->setPalette(pale);
+}
+
+void VueReponse::changeEvent(QEvent *evenement)
+{
+    Feuille::changeEvent(evenement);
+    if (evenement->type() == QEvent::PaletteChange && pages_->count() == 2) {
+        teinter();
+        actualiser(); // the preview's colours are written in its text
+    }
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "ui/Aujourdhui.h"
+#include "ui/commun/Feuille.h"
+
+class Alerte;
+class ApercuMessage;
+class Catalogue;
+class ChoixSegmente;
+class Commande;
+struct ReponseType;
+class QLineEdit;
+class QStackedWidget;
+
+// The reply to the buyer: the seller pastes the payment link, reads the message, and hands it to the mail program.
+class VueReponse : public Feuille
+{
+    Q_OBJECT
+
+public:
+    VueReponse(const Catalogue &catalogue, Commande &commande, Aujourdhui aujourdhui, QWidget *parent = nullptr);
+
+protected:
+    void changeEvent(QEvent *evenement) override;
+
+private:
+    QWidget *saisie();
+    QWidget *message();
+    void actualiser();
+    void teinter();
+    void ouvrirDansMail();
+    [[nodiscard]] std::optional<ReponseType> reponse() const;
+
+    const Catalogue &catalogue_;
+    Commande &commande_;
+    Aujourdhui aujourdhui_;
+    ChoixSegmente *langue_;
+    QLineEdit *lien_;
+    QLineEdit *adresse_;
+    Alerte *adresseRefusee_;
+    Alerte *lienAbsent_;
+    ApercuMessage *apercu_;
+    QStackedWidget *pages_;
+};
