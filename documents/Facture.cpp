@@ -6,7 +6,6 @@
 
 namespace {
 
-const QString extension = QStringLiteral(".pdf");
 constexpr qsizetype octetsDuNom = 240; // systems stop at 255, and some add a suffix while they write
 
 } // namespace
@@ -21,12 +20,12 @@ Centimes Facture::sousTotal() const
 
 QString Facture::titre() const
 {
-    return QStringLiteral("Facture ") + numero + QStringLiteral(" – ") + vendeur.nom + extension;
+    return QStringLiteral("Facture ") + numero + QStringLiteral(" – ") + vendeur.nom;
 }
 
 QString Facture::nomDeFichier() const
 {
-    QString nom = titre().chopped(extension.size());
+    QString nom = titre();
     std::ranges::replace_if(
         nom,
         [](QChar lettre) {
@@ -37,7 +36,7 @@ QString Facture::nomDeFichier() const
         nom.chop(1);
     if (nom.back().isHighSurrogate())
         nom.chop(1);
-    return nom + extension;
+    return nom + QStringLiteral(".pdf");
 }
 
 std::optional<Facture> facture(const Calcul &calcul, const Reglages &reglages, const QString &numero, QDate date,

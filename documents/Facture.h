@@ -35,9 +35,9 @@ struct Facture
 
     [[nodiscard]] Centimes sousTotal() const; // the books alone
     [[nodiscard]] Centimes total() const { return sousTotal() + envoi; }
-    // "Facture 2026-007 – Éditions Davrel.pdf"
+    // "Facture 2026-007 – Éditions Davrel"
     [[nodiscard]] QString titre() const;
-    // The title, without what a file name cannot hold on some system.
+    // The title with the suffix of a PDF, and without what a file name cannot hold on some system.
     [[nodiscard]] QString nomDeFichier() const;
 
     bool operator==(const Facture &) const = default;

@@ -22,8 +22,7 @@ Parcours::Parcours(const QDir &dossier, QString suffixe, bool bavard)
       suffixe_(std::move(suffixe)),
       bavard_(bavard),
       quillet_(Ressources::duProgramme(), Stockage(QDir(donnees_.filePath(QStringLiteral("Quillet")))),
-               Preferences(donnees_.filePath(QStringLiteral("Quillet.ini"))),
-               [] { return jourDeLaVisite; })
+               Preferences(donnees_.filePath(QStringLiteral("Quillet.ini"))), [] { return jourDeLaVisite; })
 {
 }
 
@@ -76,23 +75,28 @@ bool Parcours::peserLeColis(const QString &grammes)
     return Ecran::taper(&quillet_.fenetre(), QStringLiteral("Colis pesé, en grammes"), grammes);
 }
 
+QDialog *Parcours::ouvrir(const QString &bouton, QSize taille)
+{
+    QDialog *feuille = Ecran::cliquer(&quillet_.fenetre(), bouton) ? Ecran::feuille() : nullptr;
+    if (feuille)
+        feuille->resize(taille); // whatever screen it is drawn for
+    return feuille;
+}
+
 bool Parcours::repondreALAcheteur()
 {
-    if (!Ecran::cliquer(&quillet_.fenetre(), QStringLiteral("E-mail en anglais")))
-        return false;
-    QDialog *reponse = Ecran::feuille();
-    return Ecran::taper(reponse, QStringLiteral("Lien de paiement"),
-                        QStringLiteral("https://www.paypal.com/ncp/payment/EXEMPLE"))
+    QDialog *reponse = ouvrir(QStringLiteral("E-mail en anglais"), {960, 680});
+    return reponse
+           && Ecran::taper(reponse, QStringLiteral("Lien de paiement"),
+                           QStringLiteral("https://www.paypal.com/ncp/payment/EXEMPLE"))
            && Ecran::taper(reponse, QStringLiteral("E-mail de l’acheteur"), QStringLiteral("ada.exemple@example.org"))
            && photographier(QStringLiteral("reponse")) && Ecran::cliquer(reponse, QStringLiteral("Fermer"));
 }
 
 bool Parcours::preparerLesDocuments()
 {
-    if (!Ecran::cliquer(&quillet_.fenetre(), QStringLiteral("Déclaration en douane")))
-        return false;
-    QDialog *documents = Ecran::feuille();
-    if (!photographier(QStringLiteral("douane")) || !Ecran::cliquer(documents, QStringLiteral("Facture"))
+    QDialog *documents = ouvrir(QStringLiteral("Déclaration en douane"), {760, 720});
+    if (!documents || !photographier(QStringLiteral("douane")) || !Ecran::cliquer(documents, QStringLiteral("Facture"))
         || !Ecran::taper(documents, QStringLiteral("Acheteur"),
                          QStringLiteral("Ada Exemple\nMusterweg 3\n0000 Exempleville\nSuisse")))
         return false;

@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+class QDialog;
+
 // Drives the real window through one typical order, as a seller would: by clicks and keys.
 class Parcours
 {
@@ -20,6 +22,8 @@ private:
     bool changerDeDestination(const QString &libelle);
     bool peserLeColis(const QString &grammes);
     void raconter(const QString &etape);
+    // The sheet that a click on this button opens, at its own size; null when there is none.
+    QDialog *ouvrir(const QString &bouton, QSize taille);
     bool repondreALAcheteur();
     bool preparerLesDocuments();
     bool photographier(const QString &nom);

@@ -9,16 +9,15 @@
 #include "ui/commun/Formulaire.h"
 #include "ui/commun/Icone.h"
 #include "ui/commun/Libelle.h"
+#include "ui/commun/ZoneDeTexte.h"
 #include "ui/documents/ApercuFacture.h"
 #include "ui/documents/ImpressionFacture.h"
 #include "ui/documents/TextesDocuments.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -26,6 +25,7 @@ namespace {
 
 enum Page { formulaireDeFacture, factureImpossible, portInconnu };
 
+constexpr int largeurDesChamps = 360;
 constexpr int exemplaires = 2; // the customs pouch asks for two
 const QString cleDossier = QStringLiteral("dossierDesFactures");
 const QString triangle = QStringLiteral("exclamationmark.triangle");
@@ -50,7 +50,7 @@ FicheFacture::FicheFacture(const Catalogue &catalogue, const Commande &commande,
       impossible_(new EtatVide(QStringLiteral("person.2"), tr("Facture impossible"), {})),
       numero_(new QLineEdit(numerotation_.prochain(commande.vendeur(), aujourdhui_()))),
       remarque_(new Alerte(triangle, {})),
-      acheteur_(new QPlainTextEdit),
+      acheteur_(new ZoneDeTexte(6)),
       sansSiret_(new Alerte(triangle, {})),
       vendeur_(new Libelle({})),
       apercu_(new ApercuFacture),
@@ -62,7 +62,7 @@ FicheFacture::FicheFacture(const Catalogue &catalogue, const Commande &commande,
                            tr("Le port n’est pas encore connu : la facture apparaîtra avec lui.")));
 
     connect(numero_, &QLineEdit::textChanged, this, &FicheFacture::actualiser);
-    connect(acheteur_, &QPlainTextEdit::textChanged, this, &FicheFacture::actualiser);
+    connect(acheteur_, &ZoneDeTexte::textChanged, this, &FicheFacture::actualiser);
     connect(&commande_, &Commande::change, this, &FicheFacture::actualiser);
     connect(&catalogue_, &Catalogue::change, this, &FicheFacture::actualiser);
     actualiser();
@@ -70,15 +70,14 @@ FicheFacture::FicheFacture(const Catalogue &catalogue, const Commande &commande,
 
 QWidget *FicheFacture::formulaire()
 {
-    acheteur_->setTabChangesFocus(true);
     acheteur_->setPlaceholderText(tr("Nom et adresse de livraison, recopiés du paiement PayPal."));
-    acheteur_->setFixedHeight(6 * acheteur_->fontMetrics().lineSpacing());
+    numero_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     vendeur_->setWordWrap(true);
     vendeur_->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
-    auto *facture = new Formulaire::Section(tr("Facture"),
-                                            tr("Numéros suivis par vendeur et par année ; le numéro est retenu à "
-                                               "l’impression ou à l’enregistrement."));
+    auto *facture =
+        new Formulaire::Section(tr("Facture"), tr("Numéros suivis par vendeur et par année ; le numéro est retenu à "
+                                                  "l’impression ou à l’enregistrement."));
     facture->groupe()->ajouter(new Formulaire::Rangee(tr("Numéro"), numero_));
     facture->groupe()->ajouter(remarque_);
     facture->groupe()->ajouter(new Formulaire::RangeeHaute(tr("Acheteur"), acheteur_));
@@ -95,6 +94,7 @@ QWidget *FicheFacture::formulaire()
     colonne->addStretch(1);
     auto *defilement = new Defilement;
     defilement->setWidget(champs);
+    defilement->setMinimumWidth(largeurDesChamps);
 
     auto *page = new QWidget;
     auto *cotes = new QHBoxLayout(page);
@@ -156,8 +156,7 @@ void FicheFacture::montrerLeVendeur(const IdentiteVendeur &vendeur)
     lignes.append(vendeur.mentionTva);
     vendeur_->setText(lignes.join(u'\n'));
     sansSiret_->montrer(
-        vendeur.siret ? QString()
-                      : tr("Numéro SIRET manquant : obligatoire sur la facture d’une micro-entreprise."));
+        vendeur.siret ? QString() : tr("Numéro SIRET manquant : obligatoire sur la facture d’une micro-entreprise."));
 }
 
 void FicheFacture::imprimer()

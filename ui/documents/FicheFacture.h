@@ -14,7 +14,7 @@ struct Facture;
 struct IdentiteVendeur;
 class Libelle;
 class QLineEdit;
-class QPlainTextEdit;
+class ZoneDeTexte;
 
 // The invoice of the order: its number and buyer to complete, then paper or PDF.
 class FicheFacture : public QStackedWidget
@@ -44,7 +44,7 @@ private:
     EtatVide *impossible_;
     QLineEdit *numero_;
     Alerte *remarque_;
-    QPlainTextEdit *acheteur_;
+    ZoneDeTexte *acheteur_;
     Alerte *sansSiret_;
     Libelle *vendeur_;
     ApercuFacture *apercu_;

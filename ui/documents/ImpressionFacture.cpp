@@ -34,7 +34,8 @@ QByteArray metadonnees(const Facture &facture)
         xml.writeEndElement();
         xml.writeEndElement();
     };
-    xml.writeProcessingInstruction(QStringLiteral("xpacket"), QStringLiteral("begin='\uFEFF' id='W5M0MpCehiHzreSzNTczkc9d'"));
+    xml.writeProcessingInstruction(QStringLiteral("xpacket"),
+                                   QStringLiteral("begin='\uFEFF' id='W5M0MpCehiHzreSzNTczkc9d'"));
     xml.writeNamespace(QStringLiteral("adobe:ns:meta/"), QStringLiteral("x"));
     xml.writeStartElement(QStringLiteral("adobe:ns:meta/"), QStringLiteral("xmpmeta"));
     xml.writeNamespace(rdf, QStringLiteral("rdf"));
@@ -79,13 +80,14 @@ bool ImpressionFacture::imprimer(const Facture &facture, int exemplaires, QWidge
     choix.setFullPage(true);
     choix.setPageMargins({});
     choix.setCopyCount(exemplaires);
-    choix.setDocName(facture.titre());
+    const QString titre = facture.titre() + QStringLiteral(".pdf");
+    choix.setDocName(titre);
     QPrintDialog dialogue(&choix, parent);
     dialogue.setOptions(QAbstractPrintDialog::PrintToFile);
     if (dialogue.exec() != QDialog::Accepted)
         return false;
     if (choix.outputFileName().isEmpty())
-        FileImpression::envoyer(page, facture.titre(), choix);
+        FileImpression::envoyer(page, titre, choix);
     else
         Fichier::ecrire(choix.outputFileName(), page);
     return true;

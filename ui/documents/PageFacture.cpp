@@ -18,14 +18,13 @@ constexpr double hauteurUtile = PageFacture::taille.height() - 2 * marge;
 constexpr double colonneDesPrix = 110;
 constexpr double colonneDesMontants = 90;
 constexpr double margeDeRangee = 8;
-constexpr double interligne = 1.2;
+constexpr double interligne = 1.12;
 
 struct Caractere
 {
     int corps = 10; // points
     QFont::Weight graisse = QFont::Normal;
     QColor couleur;
-    double approche = 0; // between letters, points
 };
 
 // In pixels, which are points here: a size in points would follow the screen's density.
@@ -34,8 +33,9 @@ QFont police(const Caractere &caractere)
     QFont police = QApplication::font();
     police.setPixelSize(caractere.corps);
     police.setWeight(caractere.graisse);
-    police.setLetterSpacing(QFont::AbsoluteSpacing, caractere.approche);
     police.setHintingPreference(QFont::PreferNoHinting);
+    // A glyph that shaping swapped for another (a ligature, a dash between digits) has no character in a PDF's text.
+    police.setStyleStrategy(QFont::PreferNoShaping);
     return police;
 }
 
@@ -144,9 +144,9 @@ void PageFacture::Composition::enTete()
         coordonnees.append(QStringLiteral("SIRET ") + *vendeur.siret);
     bas += bloc(coordonnees.join(u'\n'), discret_, 0, y_ + bas, gauche - espace);
 
-    const Caractere intitule{8, QFont::DemiBold, accent_, 1.2};
+    const Caractere intitule{10, QFont::DemiBold, accent_};
     double hauteur = bloc(facture_.numero, titre_, gauche, y_, droite, Qt::AlignRight) + 4;
-    hauteur += bloc(QStringLiteral("FACTURE · INVOICE"), intitule, gauche, y_ + hauteur, droite, Qt::AlignRight) + 3;
+    hauteur += bloc(QStringLiteral("FACTURE · INVOICE"), intitule, gauche, y_ + hauteur, droite, Qt::AlignRight);
     hauteur += bloc(Format::date(facture_.date), discret_, gauche, y_ + hauteur, droite, Qt::AlignRight);
 
     y_ += std::max(bas, hauteur) + espace / 2;
@@ -157,8 +157,7 @@ void PageFacture::Composition::enTete()
 void PageFacture::Composition::acheteur()
 {
     y_ += bloc(QStringLiteral("Facturé à · Bill to"), legende_, 0, y_, largeur_) + 4;
-    y_ += bloc(facture_.acheteur, texte_, 0, y_, largeur_);
-    entreSections();
+    y_ += bloc(facture_.acheteur, texte_, 0, y_, largeur_) + espace;
 }
 
 void PageFacture::Composition::tableau()
