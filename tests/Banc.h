@@ -2,8 +2,13 @@
 
 #include "model/Catalogue.h"
 #include "model/Commande.h"
+#include "model/Preferences.h"
 
 #include <QTemporaryDir>
+
+#include <sys/resource.h>
+
+#include <csignal>
 
 // A small catalogue on temporary folders, read and written by the real code. Change the records, then load.
 struct Banc
@@ -28,7 +33,10 @@ struct Banc
     {
         return Ressources(QDir(dossier_.filePath(QStringLiteral("partage"))));
     }
-    [[nodiscard]] Preferences preferences() const { return Preferences(dossier_.filePath(QStringLiteral("Quillet.ini"))); }
+    [[nodiscard]] Preferences preferences() const
+    {
+        return Preferences(dossier_.filePath(QStringLiteral("Quillet.ini")));
+    }
     [[nodiscard]] Stockage stockage() const { return Stockage(QDir(cheminUtilisateur())); }
 
 private:
@@ -41,3 +49,21 @@ inline const QDate jourDuBanc(2026, 3, 2);
 QString lisible(QString texte);
 Livre unLivre(qint64 id, Vendeur vendeur, Centimes prix, std::optional<Grammes> poids);
 TarifsColissimo desTarifs(const QString &validite, Centimes premierPrix);
+
+// The system refuses to let any file grow beyond a few bytes: what a full disk does, without one.
+class DisquePlein
+{
+public:
+    DisquePlein()
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &avant_);
+        const rlimit limite{16, avant_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limite);
+    }
+    ~DisquePlein() { setrlimit(RLIMIT_FSIZE, &avant_); }
+    Q_DISABLE_COPY_MOVE(DisquePlein)
+
+private:
+    rlimit avant_{};
+};

@@ -2,10 +2,6 @@
 
 #include <QTest>
 
-#include <sys/resource.h>
-
-#include <csignal>
-
 class TestStockage : public QObject
 {
     Q_OBJECT
@@ -22,24 +18,6 @@ private slots:
 namespace {
 
 const QString livresModifies = QStringLiteral("livres-modifies.json");
-
-// The system refuses to let any file grow beyond a few bytes: what a full disk does, without one.
-class DisquePlein
-{
-public:
-    DisquePlein()
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &avant_);
-        const rlimit limite{16, avant_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limite);
-    }
-    ~DisquePlein() { setrlimit(RLIMIT_FSIZE, &avant_); }
-    Q_DISABLE_COPY_MOVE(DisquePlein)
-
-private:
-    rlimit avant_{};
-};
 
 QString erreurALaModification(Catalogue &catalogue)
 {
