@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/Ressources.h"
 #include "model/Preferences.h"
+#include "model/Ressources.h"
 #include "model/Stockage.h"
 
 #include <QTemporaryDir>

@@ -31,7 +31,9 @@ class Scene
 {
 public:
     Scene(Temoin &temoin, const Ressources &ressources, Stockage stockage, const Preferences &preferences)
-        : temoin_(temoin), quillet_(ressources, std::move(stockage), preferences, [] { return jour; }), fenetre_(quillet_.fenetre())
+        : temoin_(temoin),
+          quillet_(ressources, std::move(stockage), preferences, [] { return jour; }),
+          fenetre_(quillet_.fenetre())
     {
         fenetre_.show();
         if (!QTest::qWaitForWindowExposed(&fenetre_))
@@ -223,7 +225,7 @@ QList<Releve> mesurerEcran(Temoin &temoin)
 {
     QuilletApp::preparer();
     const Echantillon sansFichiers(0, Echantillon::Images::sans);
-    return mesurer(Scene(temoin, Ressources::duProgramme(), sansFichiers.stockage(), sansFichiers.preferences()), QStringLiteral("catalogue livré"),
-                   200, uneImage)
+    return mesurer(Scene(temoin, Ressources::duProgramme(), sansFichiers.stockage(), sansFichiers.preferences()),
+                   QStringLiteral("catalogue livré"), 200, uneImage)
            + mesurer(temoin, 300, uneImage) + mesurer(temoin, 2'000, std::nullopt);
 }

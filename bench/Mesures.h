@@ -9,3 +9,5 @@ QList<Releve> mesurerDepart();
 // From a gesture on the order screen to its painted effect, in milliseconds.
 QList<Releve> mesurerEcran(Temoin &temoin);
 QList<Releve> mesurerCalcul();
+// One invoice as a PDF, in milliseconds and KiB.
+QList<Releve> mesurerFacture();

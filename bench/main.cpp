@@ -41,5 +41,7 @@ int main(int argc, char **argv)
         releves += mesurerEcran(temoin);
     if (demandee("calcul"))
         releves += mesurerCalcul();
+    if (demandee("facture"))
+        releves += mesurerFacture();
     std::printf("Plateforme %s\n%s", qPrintable(Temoin::platformName()), qPrintable(tableau(releves)));
 }

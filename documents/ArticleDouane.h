@@ -11,7 +11,7 @@ struct ArticleDouane
     qint64 id = 0; // the book's
     QString description;
     int quantite = 0;
-    Grammes poidsUnitaire;  // zero for a book not yet weighed
+    Grammes poidsUnitaire;   // zero for a book not yet weighed
     Centimes valeurUnitaire; // the book alone, never postage
     QString codeSH;
     QString origine;

@@ -77,9 +77,10 @@ void Stockage::preserver(const QString &nom) const
         return;
     const auto contenu = octets(nom);
     if (!contenu)
-        Fichier::echouer(chemin, QFileInfo(chemin).isDir()
-                            ? QStringLiteral("un dossier occupe la place du fichier")
-                            : QStringLiteral("ce qui s’y trouve ne peut pas être lu, et n’est donc pas remplacé"));
+        Fichier::echouer(chemin,
+                         QFileInfo(chemin).isDir()
+                             ? QStringLiteral("un dossier occupe la place du fichier")
+                             : QStringLiteral("ce qui s’y trouve ne peut pas être lu, et n’est donc pas remplacé"));
     if (const auto connu = compris_.constFind(nom); connu != compris_.constEnd() && *connu == *contenu)
         return;
     QString copie = nom + QStringLiteral(".illisible");

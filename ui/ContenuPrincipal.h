@@ -24,8 +24,7 @@ class ContenuPrincipal : public QWidget
 
 public:
     ContenuPrincipal(Catalogue &catalogue, Commande &commande, ImagesCouvertures &images,
-                     const Preferences &preferences, Aujourdhui aujourdhui,
-                     QWidget *parent = nullptr);
+                     const Preferences &preferences, Aujourdhui aujourdhui, QWidget *parent = nullptr);
 
     // No section at all shows the order.
     void montrer(std::optional<Rubrique> rubrique);

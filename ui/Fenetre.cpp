@@ -18,7 +18,8 @@ constexpr QSize tailleMinimale(980, 640);
 
 } // namespace
 
-Fenetre::Fenetre(Catalogue &catalogue, Commande &commande, ImagesCouvertures &images, const Preferences &preferences, Aujourdhui aujourdhui)
+Fenetre::Fenetre(Catalogue &catalogue, Commande &commande, ImagesCouvertures &images, const Preferences &preferences,
+                 Aujourdhui aujourdhui)
     : contenu_(new ContenuPrincipal(catalogue, commande, images, preferences, std::move(aujourdhui)))
 {
     setObjectName(QStringLiteral("quillet"));

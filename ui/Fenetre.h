@@ -16,7 +16,8 @@ class Fenetre : public QMainWindow
     Q_OBJECT
 
 public:
-    Fenetre(Catalogue &catalogue, Commande &commande, ImagesCouvertures &images, const Preferences &preferences, Aujourdhui aujourdhui);
+    Fenetre(Catalogue &catalogue, Commande &commande, ImagesCouvertures &images, const Preferences &preferences,
+            Aujourdhui aujourdhui);
 
     // What it opens at, on a screen that is large enough.
     [[nodiscard]] QSize tailleParDefaut() const;

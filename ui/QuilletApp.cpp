@@ -25,7 +25,8 @@ void QuilletApp::preparer(std::optional<Theme::Mode> mode)
     QApplication::setFont(Theme::policeDeDepart());
 }
 
-QuilletApp::QuilletApp(const Ressources &ressources, Stockage stockage, const Preferences &preferences, Aujourdhui aujourdhui)
+QuilletApp::QuilletApp(const Ressources &ressources, Stockage stockage, const Preferences &preferences,
+                       Aujourdhui aujourdhui)
     : catalogue_(Catalogue::charge(ressources, std::move(stockage))),
       images_(QDir(ressources.chemin(QStringLiteral("couvertures")))),
       fenetre_(std::make_unique<Fenetre>(*catalogue_, commande_, images_, preferences, std::move(aujourdhui)))

@@ -21,7 +21,8 @@ public:
 
     // Throws RessourceIllisible.
     QuilletApp(
-        const Ressources &ressources, Stockage stockage, const Preferences &preferences, Aujourdhui aujourdhui = [] { return QDate::currentDate(); });
+        const Ressources &ressources, Stockage stockage, const Preferences &preferences,
+        Aujourdhui aujourdhui = [] { return QDate::currentDate(); });
     ~QuilletApp();
     Q_DISABLE_COPY_MOVE(QuilletApp)
 

@@ -43,7 +43,8 @@ void TestFenetre::initTestCase()
 std::unique_ptr<QuilletApp> TestFenetre::ouvrir(const Banc &banc)
 {
     banc.deposer();
-    auto app = std::make_unique<QuilletApp>(banc.ressources(), banc.stockage(), banc.preferences(), [this] { return jour_; });
+    auto app =
+        std::make_unique<QuilletApp>(banc.ressources(), banc.stockage(), banc.preferences(), [this] { return jour_; });
     app->fenetre().show();
     if (!QTest::qWaitForWindowActive(&app->fenetre()))
         qFatal("La fenêtre ne s’ouvre pas");

@@ -6,12 +6,14 @@
 #include <QTest>
 #include <QUrl>
 
+#include <gio/gio.h>
+
 // What a mail program receives: a fake one, declared on the desktop as a real one is, notes its arguments.
 class TestMail : public QObject
 {
     Q_OBJECT
 
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void cleanup();
 
@@ -82,6 +84,15 @@ void TestMail::installer(const QString &nom, const QString &commande) const
                                    .arg(commande));
     ecrire(applications + QStringLiteral("mimeapps.list"),
            QStringLiteral("[Default Applications]\nx-scheme-handler/mailto=%1\n").arg(nom));
+    // The desktop's library hears of new files a little later.
+    const auto connu = [&] {
+        GAppInfo *programme = g_app_info_get_default_for_uri_scheme("mailto");
+        const bool lui = programme && commande == QString::fromUtf8(g_app_info_get_commandline(programme));
+        g_clear_object(&programme);
+        return lui;
+    };
+    if (!QTest::qWaitFor(connu))
+        qFatal("%s n’est pas connu du bureau", qPrintable(nom));
 }
 
 QStringList TestMail::recus() const

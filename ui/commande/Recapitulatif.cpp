@@ -36,13 +36,15 @@ Recapitulatif::Recapitulatif(const Catalogue &catalogue, Commande &commande, con
     auto *colonne = new QVBoxLayout(page);
     colonne->setContentsMargins(16, 24, 16, 28);
     colonne->setSpacing(22);
-    for (QWidget *section : std::initializer_list<QWidget *>{livres_, poids_, destination_, montants_, lien_, documents_, reponse_})
+    for (QWidget *section :
+         std::initializer_list<QWidget *>{livres_, poids_, destination_, montants_, lien_, documents_, reponse_})
         colonne->addWidget(section);
     colonne->addStretch(1);
     page->resize(size()); // any size: without one, setWidget lays the whole page out to find its own
     setWidget(page);
 
-    connect(documents_, &SectionDocuments::douaneDemandee, this, [this] { ouvrirLesDocuments(OngletDocuments::douane); });
+    connect(documents_, &SectionDocuments::douaneDemandee, this,
+            [this] { ouvrirLesDocuments(OngletDocuments::douane); });
     connect(documents_, &SectionDocuments::factureDemandee, this,
             [this] { ouvrirLesDocuments(OngletDocuments::facture); });
     connect(reponse_, &SectionReponse::demandee, this, &Recapitulatif::ouvrirLaReponse);

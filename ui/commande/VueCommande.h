@@ -21,8 +21,7 @@ class VueCommande : public QWidget
 
 public:
     VueCommande(const Catalogue &catalogue, Commande &commande, ImagesCouvertures &images,
-                const Preferences &preferences, Aujourdhui aujourdhui,
-                QWidget *parent = nullptr);
+                const Preferences &preferences, Aujourdhui aujourdhui, QWidget *parent = nullptr);
 
 protected:
     bool event(QEvent *evenement) override;

@@ -8,11 +8,10 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QToolButton>
-#include <QVBoxLayout>
 
 using namespace std::chrono_literals;
 
-ChampACopier::ChampACopier(const QString &titre, QWidget *parent)
+ChampACopier::ChampACopier(const QString &titre, std::optional<int> colonneDuTitre, QWidget *parent)
     : QWidget(parent), titre_(titre), affichage_(new Libelle({})), bouton_(new QToolButton)
 {
     auto *titreAffiche = new Libelle(titre, Libelle::Rang::secondaire);
@@ -22,12 +21,15 @@ ChampACopier::ChampACopier(const QString &titre, QWidget *parent)
     affichage_->setFocusPolicy(Qt::ClickFocus);
     bouton_->setAutoRaise(true);
     bouton_->setToolTip(tr("Copier %1").arg(titre));
-    titreAffiche->setVisible(!titre.isEmpty());
 
-    auto *textes = new QVBoxLayout;
-    textes->setSpacing(2);
+    auto *textes = new QBoxLayout(colonneDuTitre ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    textes->setSpacing(colonneDuTitre ? 12 : 2);
+    if (colonneDuTitre) {
+        titreAffiche->setWordWrap(true);
+        titreAffiche->setFixedWidth(*colonneDuTitre);
+    }
     textes->addWidget(titreAffiche);
-    textes->addWidget(affichage_);
+    textes->addWidget(affichage_, colonneDuTitre ? 1 : 0);
     auto *rangee = new QHBoxLayout(this);
     rangee->setContentsMargins(0, 0, 0, 0);
     rangee->setSpacing(8);

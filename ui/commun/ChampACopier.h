@@ -3,6 +3,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <optional>
+
 class Libelle;
 class QToolButton;
 
@@ -12,8 +14,10 @@ class ChampACopier : public QWidget
     Q_OBJECT
 
 public:
-    // Without a title, the value goes on from the field above.
-    explicit ChampACopier(const QString &titre, QWidget *parent = nullptr);
+    // The title stands over the value, or beside it in a column of the given width (px). Without a title, the value
+    // goes on from the field above.
+    explicit ChampACopier(const QString &titre, std::optional<int> colonneDuTitre = std::nullopt,
+                          QWidget *parent = nullptr);
 
     // `affichage` is shown instead of the value when it is not empty.
     void montrer(const QString &valeur, const QString &affichage = {});

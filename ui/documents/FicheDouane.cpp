@@ -14,6 +14,12 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+namespace {
+
+constexpr int colonneDesTitres = 170;
+
+} // namespace
+
 FicheDouane::FicheDouane(const Reglages &reglages, QWidget *parent)
     : QStackedWidget(parent), reglages_(reglages), defilement_(new Defilement)
 {
@@ -62,7 +68,7 @@ QWidget *FicheDouane::page(const Calcul &calcul)
     for (const TextesDocuments::Rubrique &rubrique : TextesDocuments::declaration(calcul, reglages_)) {
         auto *section = new Formulaire::Section(rubrique.titre);
         for (const TextesDocuments::Champ &champ : rubrique.champs) {
-            auto *rangee = new ChampACopier(champ.titre);
+            auto *rangee = new ChampACopier(champ.titre, colonneDesTitres);
             rangee->montrer(champ.valeur, champ.affichage);
             section->groupe()->ajouter(rangee);
         }

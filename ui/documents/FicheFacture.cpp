@@ -75,15 +75,16 @@ QWidget *FicheFacture::formulaire()
     vendeur_->setWordWrap(true);
     vendeur_->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
-    auto *facture =
-        new Formulaire::Section(tr("Facture"), tr("Numéros suivis par vendeur et par année ; le numéro est retenu à "
-                                                  "l’impression ou à l’enregistrement."));
-    facture->groupe()->ajouter(new Formulaire::Rangee(tr("Numéro"), numero_));
+    auto *numero = new Formulaire::Rangee(tr("Numéro"), numero_);
+    numero->setDetail(tr("Numéros suivis par vendeur et par année ; le numéro est retenu à l’impression ou à "
+                         "l’enregistrement."));
+    auto *facture = new Formulaire::Section(tr("Facture"));
+    facture->groupe()->ajouter(numero);
     facture->groupe()->ajouter(remarque_);
     facture->groupe()->ajouter(new Formulaire::RangeeHaute(tr("Acheteur"), acheteur_));
+    facture->groupe()->ajouter(sansSiret_);
     auto *vendeur = new Formulaire::Section(tr("Vendeur"));
     vendeur->groupe()->ajouter(vendeur_);
-    vendeur->groupe()->ajouter(sansSiret_);
 
     auto *champs = new QWidget;
     auto *colonne = new QVBoxLayout(champs);
@@ -116,10 +117,9 @@ QWidget *FicheFacture::papier()
     auto *colonne = new QVBoxLayout(papier);
     colonne->setContentsMargins(4, 24, 20, 24);
     colonne->setSpacing(12);
-    colonne->addWidget(apercu_, 0, Qt::AlignHCenter);
-    colonne->addSpacing(4);
     colonne->addWidget(imprimer);
     colonne->addWidget(enregistrer);
+    colonne->addWidget(apercu_, 0, Qt::AlignHCenter);
     colonne->addWidget(issue_);
     colonne->addStretch(1);
     return papier;
@@ -182,8 +182,8 @@ void FicheFacture::enregistrer()
         if (!chemin)
             return;
         retenir(aEnregistrer->numero);
-        preferences_.ecrire(cleDossier, QFileInfo(*chemin).absolutePath());
         issue_->montrer(tr("Facture %1 enregistrée.").arg(aEnregistrer->numero));
+        preferences_.ecrire(cleDossier, QFileInfo(*chemin).absolutePath());
     } catch (const Echec &echec) {
         QMessageBox::warning(this, tr("Facture"), echec.texte());
     }

@@ -64,7 +64,8 @@ void FileImpression::envoyer(const QByteArray &pdf, const QString &titre, const 
 {
     QTemporaryFile fichier;
     if (!fichier.open() || fichier.write(pdf) != pdf.size() || !fichier.flush())
-        throw Refus(QStringLiteral("Impression impossible : le dossier des fichiers temporaires est plein ou protégé."));
+        throw Refus(
+            QStringLiteral("Impression impossible : le dossier des fichiers temporaires est plein ou protégé."));
 
     Options options;
     options.ajouter("copies", QByteArray::number(choix.copyCount()));

@@ -7,6 +7,7 @@
 #include <QBuffer>
 #include <QDir>
 #include <QFileDialog>
+#include <QMessageBox>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrintDialog>
@@ -48,6 +49,22 @@ QByteArray metadonnees(const Facture &facture)
     xml.writeEndDocument();
     octets += "\n<?xpacket end='w'?>";
     return octets;
+}
+
+// The dialog adds the suffix only to a name without any dot, and asked about replacing another file then.
+// Empty when the user keeps the file that stands there.
+QString enPdf(const QString &chemin, QWidget *parent)
+{
+    const QString suffixe = QStringLiteral(".pdf");
+    if (chemin.endsWith(suffixe, Qt::CaseInsensitive))
+        return chemin;
+    const QString complet = chemin + suffixe;
+    const QString question =
+        QStringLiteral("« %1 » existe déjà. Voulez-vous le remplacer ?").arg(QFileInfo(complet).fileName());
+    const bool garde =
+        QFile::exists(complet)
+        && QMessageBox::question(parent, QStringLiteral("Enregistrer la facture"), question) != QMessageBox::Yes;
+    return garde ? QString() : complet;
 }
 
 } // namespace
@@ -104,7 +121,9 @@ std::optional<QString> ImpressionFacture::enregistrer(const Facture &facture, co
     dialogue.selectFile(facture.nomDeFichier());
     if (dialogue.exec() != QDialog::Accepted)
         return std::nullopt;
-    const QString chemin = dialogue.selectedFiles().constFirst();
+    const QString chemin = enPdf(dialogue.selectedFiles().constFirst(), parent);
+    if (chemin.isEmpty())
+        return std::nullopt;
     Fichier::ecrire(chemin, pdf(facture));
     return chemin;
 }

@@ -19,6 +19,7 @@ constexpr double colonneDesPrix = 110;
 constexpr double colonneDesMontants = 90;
 constexpr double margeDeRangee = 8;
 constexpr double interligne = 1.12;
+constexpr double epaisseurDuFilet = 0.7;
 
 struct Caractere
 {
@@ -27,15 +28,26 @@ struct Caractere
     QColor couleur;
 };
 
+// Scripts whose letters are read as well one by one.
+bool lettresDetachees(const QString &texte)
+{
+    return std::ranges::all_of(texte, [](QChar lettre) {
+        const QChar::Script ecriture = lettre.script();
+        return ecriture == QChar::Script_Common || ecriture == QChar::Script_Latin || ecriture == QChar::Script_Greek
+               || ecriture == QChar::Script_Cyrillic;
+    });
+}
+
 // In pixels, which are points here: a size in points would follow the screen's density.
-QFont police(const Caractere &caractere)
+QFont police(const Caractere &caractere, const QString &texte)
 {
     QFont police = QApplication::font();
     police.setPixelSize(caractere.corps);
     police.setWeight(caractere.graisse);
     police.setHintingPreference(QFont::PreferNoHinting);
     // A glyph that shaping swapped for another (a ligature, a dash between digits) has no character in a PDF's text.
-    police.setStyleStrategy(QFont::PreferNoShaping);
+    if (lettresDetachees(texte))
+        police.setStyleStrategy(QFont::PreferNoShaping);
     return police;
 }
 
@@ -84,7 +96,7 @@ private:
     // A block of text; returns its height and leaves `y_` where it is.
     double bloc(const QString &texte, const Caractere &caractere, double x, double y, double largeur,
                 Qt::Alignment alignement = Qt::AlignLeft) const;
-    void filet(const QColor &couleur, double epaisseur = 0.6) const;
+    void filet(const QColor &couleur) const;
     void entreSections();
     [[nodiscard]] double finDesDesignations() const { return largeur_ - colonneDesPrix - colonneDesMontants; }
 
@@ -99,8 +111,8 @@ private:
 double PageFacture::Composition::bloc(const QString &texte, const Caractere &caractere, double x, double y,
                                       double largeur, Qt::Alignment alignement) const
 {
-    QString paragraphes = texte;
-    QTextLayout mise(paragraphes.replace(u'\n', QChar::LineSeparator), police(caractere));
+    const QString paragraphes = texte.normalized(QString::NormalizationForm_C).replace(u'\n', QChar::LineSeparator);
+    QTextLayout mise(paragraphes, police(caractere, paragraphes));
     QTextOption option(alignement);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     option.setUseDesignMetrics(true); // the same lines at every scale
@@ -120,10 +132,10 @@ double PageFacture::Composition::bloc(const QString &texte, const Caractere &car
     return hauteur;
 }
 
-void PageFacture::Composition::filet(const QColor &couleur, double epaisseur) const
+void PageFacture::Composition::filet(const QColor &couleur) const
 {
     if (peintre_)
-        peintre_->fillRect(QRectF(0, y_ - epaisseur / 2, largeur_, epaisseur), couleur);
+        peintre_->fillRect(QRectF(0, y_ - epaisseurDuFilet / 2, largeur_, epaisseurDuFilet), couleur);
 }
 
 void PageFacture::Composition::entreSections()
@@ -149,9 +161,8 @@ void PageFacture::Composition::enTete()
     hauteur += bloc(QStringLiteral("FACTURE · INVOICE"), intitule, gauche, y_ + hauteur, droite, Qt::AlignRight);
     hauteur += bloc(Format::date(facture_.date), discret_, gauche, y_ + hauteur, droite, Qt::AlignRight);
 
-    y_ += std::max(bas, hauteur) + espace / 2;
-    filet(accent_, 1.5);
-    y_ += espace / 2;
+    y_ += std::max(bas, hauteur);
+    entreSections();
 }
 
 void PageFacture::Composition::acheteur()
@@ -197,7 +208,7 @@ void PageFacture::Composition::envoi()
 
 void PageFacture::Composition::total()
 {
-    filet(accent_, 1);
+    filet(accent_);
     y_ += margeDeRangee + 2;
     const Caractere gras{11, QFont::Bold, texte_.couleur};
     const double hauteur = bloc(QStringLiteral("Total"), gras, 0, y_, largeur_ / 2);

@@ -1,10 +1,9 @@
-// Before Qt, whose keyword `signals` is a name in there.
-#include <gio/gio.h>
-
 #include "ui/reponse/Mail.h"
 
 #include <QProcess>
 #include <QUrl>
+
+#include <gio/gio.h>
 
 #include <algorithm>
 #include <memory>

@@ -1,0 +1,43 @@
+#include "bench/Echantillon.h"
+#include "bench/Mesures.h"
+#include "documents/Facture.h"
+#include "ui/QuilletApp.h"
+#include "ui/documents/ImpressionFacture.h"
+
+#include <chrono>
+
+QList<Releve> mesurerFacture()
+{
+    using Horloge = std::chrono::steady_clock;
+    constexpr int factures = 100;
+    constexpr double unKio = 1024;
+    const QDate jour(2026, 3, 2);
+
+    QuilletApp::preparer();
+    const Echantillon sansFichiers(0, Echantillon::Images::sans);
+    const auto catalogue = Catalogue::charge(Ressources::duProgramme(), sansFichiers.stockage());
+    Commande commande;
+    commande.setPoidsPese(Grammes{1200});
+    for (qsizetype i = 0; i < 5; ++i)
+        commande.ajuster(catalogue->livres()[i], 2);
+    const auto facture =
+        ::facture(Calcul(*catalogue, commande, jour), catalogue->reglages(), QStringLiteral("2026-001"), jour,
+                  QStringLiteral("Ada Exemple\n3 rue de l’Exemple\n00000 Exempleville"));
+    if (!facture)
+        qFatal("La commande mesurée n’a pas de facture");
+
+    QByteArray pdf = ImpressionFacture::pdf(*facture); // loads the fonts
+    QList<double> durees;
+    while (durees.size() < factures) {
+        const auto debut = Horloge::now();
+        pdf = ImpressionFacture::pdf(*facture);
+        durees.append(std::chrono::duration<double, std::milli>(Horloge::now() - debut).count());
+    }
+    Releve duree = releve(QStringLiteral("Facture en PDF"), QStringLiteral("ms"), durees);
+    duree.but = 8;
+    return {duree,
+            {.nom = QStringLiteral("Facture, taille du PDF"),
+             .unite = QStringLiteral("Kio"),
+             .mediane = static_cast<double>(pdf.size()) / unKio,
+             .but = 40}};
+}
