@@ -10,9 +10,11 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPrinter>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
 #include <QTextEdit>
@@ -163,6 +165,17 @@ void TestFeuilles::reponseSelonLaSaisie()
     QVERIFY(total.charFormat().fontWeight() > QFont::Normal);
     QVERIFY(message->document()->find(QStringLiteral("Pour régler")).charFormat().fontWeight() == QFont::Normal);
 
+    // Return is for the message, wherever the focus has been.
+    auto *envoyer = qobject_cast<QPushButton *>(Ecran::controle(feuille, QStringLiteral("Ouvrir dans Mail")));
+    envoyer->setFocus();
+    auto *lien = qobject_cast<QLineEdit *>(Ecran::controle(feuille, QStringLiteral("Lien de paiement")));
+    lien->setFocus();
+    QVERIFY(envoyer->isDefault());
+    QApplication::clipboard()->setText(QStringLiteral("https://lien\r\n.example/8\n"));
+    lien->selectAll();
+    lien->paste();
+    QCOMPARE(lien->text(), QStringLiteral("https://lien.example/8"));
+
     QTest::keyClick(feuille, Qt::Key_Escape);
     QTRY_VERIFY(!Ecran::feuille());
     feuille = ouvrir(QStringLiteral("E-mail en français"));
@@ -196,6 +209,10 @@ void TestFeuilles::reponseImpossible()
                           QStringLiteral("Une réponse par vendeur : séparez les livres de Davrel et ceux de Mireva.")));
     QVERIFY(!Ecran::controle(feuille, QStringLiteral("Ouvrir dans Mail")));
     QVERIFY(!Ecran::controle(feuille, QStringLiteral("Français")));
+    QCOMPARE(feuille->size(), QSize(420, 260));
+    for (const QLabel *texte : feuille->findChildren<QLabel *>())
+        QVERIFY2(!texte->isVisible() || texte->height() >= texte->heightForWidth(texte->width()),
+                 qPrintable(texte->text())); // not cut
 }
 
 void TestFeuilles::pasDeDeclaration()

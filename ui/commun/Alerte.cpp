@@ -23,14 +23,21 @@ Alerte::Alerte(const QString &symbole, const QString &texte, Ton ton, QWidget *p
     auto *rangee = new QHBoxLayout(this);
     rangee->setContentsMargins(coteSymbole + espace, 0, 0, 0);
     rangee->addWidget(texte_);
-    montrer(texte);
+    dire(texte);
+    if (texte.isEmpty())
+        hide();
 }
 
 void Alerte::montrer(const QString &texte)
 {
+    dire(texte);
+    setVisible(!texte.isEmpty());
+}
+
+void Alerte::dire(const QString &texte)
+{
     texte_->setText(texte);
     texte_->setAccessibleName(ton_ == Ton::avertissement ? tr("Attention : %1").arg(texte) : texte);
-    setVisible(!texte.isEmpty());
 }
 
 void Alerte::paintEvent(QPaintEvent *)

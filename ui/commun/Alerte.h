@@ -21,6 +21,8 @@ protected:
     void paintEvent(QPaintEvent *evenement) override;
 
 private:
+    void dire(const QString &texte);
+
     QString symbole_;
     Ton ton_;
     Libelle *texte_;

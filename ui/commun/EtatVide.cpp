@@ -23,7 +23,8 @@ EtatVide::EtatVide(const QString &symbole, const QString &titre, const QString &
     place_->setFixedSize(coteSymbole, coteSymbole);
     auto *grand = new Libelle(titre);
     grand->setFont(Theme::titreSection());
-    grand->setVisible(!titre.isEmpty());
+    if (titre.isEmpty())
+        grand->hide();
     raison_->setWordWrap(true);
     raison_->setAlignment(Qt::AlignHCenter);
     raison_->setFixedWidth(largeurDuTexte);

@@ -34,8 +34,9 @@ QSize Libelle::minimumSizeHint() const
     return wordWrap() ? QSize(largeurMinimale, fontMetrics().lineSpacing()) : QLabel::minimumSizeHint();
 }
 
-int Libelle::heightForWidth(int largeur) const
+int Libelle::heightForWidth(int offerte) const
 {
+    const int largeur = std::min(offerte, maximumWidth()); // a layout offers its own, and leaves the rest empty
     if (texteMesure_ != text()) {
         texteMesure_ = text();
         hauteurs_.clear();

@@ -18,7 +18,7 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
     // Remembered: a layout asks for the same few widths again and again.
-    [[nodiscard]] int heightForWidth(int largeur) const override;
+    [[nodiscard]] int heightForWidth(int offerte) const override;
 
 protected:
     void changeEvent(QEvent *evenement) override;

@@ -270,6 +270,20 @@ int Style::pixelMetric(PixelMetric mesure, const QStyleOption *option, const QWi
     }
 }
 
+QIcon Style::standardIcon(StandardPixmap symbole, const QStyleOption *option, const QWidget *widget) const
+{
+    switch (symbole) {
+    case SP_MessageBoxWarning:
+    case SP_MessageBoxCritical:
+        return Icone::icone(QStringLiteral("exclamationmark.triangle"));
+    case SP_MessageBoxInformation:
+    case SP_MessageBoxQuestion:
+        return Icone::icone(QStringLiteral("info.circle"));
+    default:
+        return QProxyStyle::standardIcon(symbole, option, widget);
+    }
+}
+
 int Style::styleHint(StyleHint indice, const QStyleOption *option, const QWidget *widget,
                      QStyleHintReturn *retour) const
 {

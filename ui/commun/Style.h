@@ -29,6 +29,7 @@ public:
     QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contenu,
                            const QWidget *widget) const override;
     int pixelMetric(PixelMetric mesure, const QStyleOption *option, const QWidget *widget) const override;
+    QIcon standardIcon(StandardPixmap symbole, const QStyleOption *option, const QWidget *widget) const override;
     int styleHint(StyleHint indice, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *retour) const override;
 

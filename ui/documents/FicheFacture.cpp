@@ -162,6 +162,7 @@ void FicheFacture::montrerLeVendeur(const IdentiteVendeur &vendeur)
 void FicheFacture::imprimer()
 {
     const auto aImprimer = facture();
+    issue_->montrer({});
     try {
         if (!aImprimer || !ImpressionFacture::imprimer(*aImprimer, exemplaires, this))
             return;
@@ -177,6 +178,7 @@ void FicheFacture::enregistrer()
     const auto aEnregistrer = facture();
     if (!aEnregistrer)
         return;
+    issue_->montrer({});
     try {
         const auto chemin = ImpressionFacture::enregistrer(*aEnregistrer, preferences_.texte(cleDossier), this);
         if (!chemin)

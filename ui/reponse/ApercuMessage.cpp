@@ -4,6 +4,7 @@
 #include "ui/Theme.h"
 #include "ui/commun/Dessin.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -47,9 +48,13 @@ void ApercuMessage::montrer(const ReponseType &reponse, const QString &adresse)
     verticalScrollBar()->setValue(defilement);
 }
 
-void ApercuMessage::paintEvent(QPaintEvent *evenement)
+// The card holds the scroll bar too.
+bool ApercuMessage::event(QEvent *evenement)
 {
-    QPainter peintre(viewport());
-    Dessin::carte(peintre, viewport()->rect(), palette());
-    QTextEdit::paintEvent(evenement);
+    if (evenement->type() == QEvent::Paint) {
+        QPainter peintre(this);
+        Dessin::carte(peintre, rect(), palette());
+        return true;
+    }
+    return QTextEdit::event(evenement);
 }

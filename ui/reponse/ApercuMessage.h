@@ -15,5 +15,5 @@ public:
     void montrer(const ReponseType &reponse, const QString &adresse);
 
 protected:
-    void paintEvent(QPaintEvent *evenement) override;
+    bool event(QEvent *evenement) override;
 };

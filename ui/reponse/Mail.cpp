@@ -15,9 +15,9 @@ using Liberer = decltype([](auto *objet) { liberer(objet); });
 using Programme = std::unique_ptr<GAppInfo, Liberer<g_object_unref>>;
 using Mots = std::unique_ptr<char *, Liberer<g_strfreev>>;
 
-QString code(const QString &texte)
+QString code(const QString &texte, const QByteArray &saufs = {})
 {
-    return QString::fromLatin1(QUrl::toPercentEncoding(texte));
+    return QString::fromLatin1(QUrl::toPercentEncoding(texte, saufs));
 }
 
 // A line break would begin another header.
@@ -46,7 +46,7 @@ QString mailto(const QString &a, const QString &sujet, const QString &corps)
 {
     QString lignes = corps;
     lignes.replace(u'\n', QStringLiteral("\r\n")); // what the scheme asks for
-    return QStringLiteral("mailto:%1?subject=%2&body=%3").arg(code(a), code(sujet), code(lignes));
+    return QStringLiteral("mailto:%1?subject=%2&body=%3").arg(code(a, "@"), code(sujet), code(lignes));
 }
 
 // Values of its own option: separated by commas, so that each is encoded whole. Its usual quoted form would let a
@@ -58,9 +58,10 @@ QString pourThunderbird(const QString &a, const QString &sujet, const QString &h
 
 bool estThunderbird(GAppInfo *programme)
 {
-    const char *nom = g_app_info_get_id(programme);
-    return QString::fromUtf8(nom ? nom : g_app_info_get_executable(programme))
-        .contains(QLatin1String("thunderbird"), Qt::CaseInsensitive);
+    const auto leNomme = [](const char *nom) {
+        return QString::fromUtf8(nom).contains(QLatin1String("thunderbird"), Qt::CaseInsensitive);
+    };
+    return leNomme(g_app_info_get_id(programme)) || leNomme(g_app_info_get_executable(programme));
 }
 
 // The words of its command line, without the places ("%u", "@@u") where a desktop puts what to open.
@@ -102,9 +103,10 @@ bool Mail::estUneAdresse(const QString &texte)
 {
     const QString adresse = texte.trimmed();
     const auto interdite = [](QChar lettre) {
-        return QStringView(u",;\"<>").contains(lettre) || lettre.isSpace() || !lettre.isPrint();
+        return QStringView(u",;\"<>()[]:\\").contains(lettre) || lettre.isSpace() || !lettre.isPrint();
     };
     return adresse.count(u'@') == 1 && !adresse.startsWith(u'@') && !adresse.endsWith(u'@')
+           && !adresse.contains(QLatin1String("=?")) // an encoded word, which a mail program would read as other text
            && std::ranges::none_of(adresse, interdite);
 }
 

@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -30,6 +31,12 @@ QLineEdit *champ(const QString &nom, const QString &exemple)
     auto *champ = new QLineEdit;
     champ->setAccessibleName(nom);
     champ->setPlaceholderText(exemple);
+    // A field of one line keeps the line breaks that are pasted, though it shows none.
+    QObject::connect(champ, &QLineEdit::textChanged, champ, [champ](QString texte) {
+        static const QRegularExpression sauts(QStringLiteral("[\\r\\n\u2028\u2029]+"));
+        if (texte.contains(sauts))
+            champ->setText(texte.remove(sauts));
+    });
     return champ;
 }
 
@@ -46,6 +53,7 @@ VueReponse::VueReponse(const Catalogue &catalogue, Commande &commande, Aujourdhu
       adresseRefusee_(new Alerte(QStringLiteral("exclamationmark.triangle"), {})),
       lienAbsent_(new Alerte(QStringLiteral("link"), {}, Alerte::Ton::note)),
       apercu_(new ApercuMessage),
+      envoyer_(new QPushButton(Icone::icone(QStringLiteral("envelope")), tr("Ouvrir dans Mail"))),
       pages_(new QStackedWidget)
 {
     auto *ecran = new QWidget;
@@ -59,6 +67,7 @@ VueReponse::VueReponse(const Catalogue &catalogue, Commande &commande, Aujourdhu
     pages_->addWidget(new EtatVide(QStringLiteral("person.2"), tr("Réponse impossible"),
                                    tr("Une réponse par vendeur : séparez les livres de Davrel et ceux de Mireva.")));
     meubler(langue_, pages_);
+    envoyer_->setDefault(true); // only now does it have a sheet to be the default of
     teinter();
 
     connect(langue_, &ChoixSegmente::choisi, this,
@@ -67,8 +76,8 @@ VueReponse::VueReponse(const Catalogue &catalogue, Commande &commande, Aujourdhu
     connect(adresse_, &QLineEdit::textChanged, this, &VueReponse::actualiser);
     connect(&commande_, &Commande::change, this, &VueReponse::actualiser);
     connect(&catalogue_, &Catalogue::change, this, &VueReponse::actualiser);
+    passerA(reponse() ? Page::reponse : Page::impossible);
     actualiser();
-    prendreLaTaille(reponse() ? tailleDeLaReponse : tailleImpossible);
     lien_->setFocus();
 }
 
@@ -99,9 +108,7 @@ QWidget *VueReponse::saisie()
 
 QWidget *VueReponse::message()
 {
-    auto *envoyer = new QPushButton(Icone::icone(QStringLiteral("envelope")), tr("Ouvrir dans Mail"));
-    envoyer->setDefault(true);
-    connect(envoyer, &QPushButton::clicked, this, &VueReponse::ouvrirDansMail);
+    connect(envoyer_, &QPushButton::clicked, this, &VueReponse::ouvrirDansMail);
 
     auto *message = new QWidget;
     auto *colonne = new QVBoxLayout(message);
@@ -109,7 +116,7 @@ QWidget *VueReponse::message()
     colonne->setSpacing(14);
     colonne->addWidget(lienAbsent_);
     colonne->addWidget(apercu_, 1);
-    colonne->addWidget(envoyer, 0, Qt::AlignLeft);
+    colonne->addWidget(envoyer_, 0, Qt::AlignLeft);
     return message;
 }
 
@@ -122,8 +129,9 @@ std::optional<ReponseType> VueReponse::reponse() const
 void VueReponse::actualiser()
 {
     const auto message = reponse();
-    pages_->setCurrentIndex(message ? 0 : 1);
-    langue_->setVisible(message.has_value());
+    const Page page = message ? Page::reponse : Page::impossible;
+    if (pages_->currentIndex() != static_cast<int>(page))
+        passerA(page);
     if (!message)
         return;
     langue_->montrer(message->langue == Langue::francais ? 0 : 1);
@@ -136,6 +144,18 @@ void VueReponse::actualiser()
                                  ? QString()
                                  : tr("Ce n’est pas une adresse seule : le message s’ouvrira sans destinataire."));
     apercu_->montrer(*message, adresse);
+}
+
+void VueReponse::passerA(Page page)
+{
+    pages_->setCurrentIndex(static_cast<int>(page));
+    langue_->setVisible(page == Page::reponse);
+    // The page that is not shown asks for no room.
+    for (int i = 0; i < pages_->count(); ++i) {
+        const auto place = i == pages_->currentIndex() ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+        pages_->widget(i)->setSizePolicy(place, place);
+    }
+    prendreLaTaille(page == Page::reponse ? tailleDeLaReponse : tailleImpossible);
 }
 
 void VueReponse::ouvrirDansMail()

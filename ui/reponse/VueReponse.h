@@ -10,6 +10,7 @@ class ChoixSegmente;
 class Commande;
 struct ReponseType;
 class QLineEdit;
+class QPushButton;
 class QStackedWidget;
 
 // The reply to the buyer: the seller pastes the payment link, reads the message, and hands it to the mail program.
@@ -24,9 +25,12 @@ protected:
     void changeEvent(QEvent *evenement) override;
 
 private:
+    enum class Page { reponse, impossible };
+
     QWidget *saisie();
     QWidget *message();
     void actualiser();
+    void passerA(Page page);
     void teinter();
     void ouvrirDansMail();
     [[nodiscard]] std::optional<ReponseType> reponse() const;
@@ -40,5 +44,6 @@ private:
     Alerte *adresseRefusee_;
     Alerte *lienAbsent_;
     ApercuMessage *apercu_;
+    QPushButton *envoyer_;
     QStackedWidget *pages_;
 };
