@@ -21,8 +21,8 @@ QList<Releve> mesurerFacture()
     for (qsizetype i = 0; i < 5; ++i)
         commande.ajuster(catalogue->livres()[i], 2);
     const auto facture =
-        ::facture(Calcul(*catalogue, commande, jour), catalogue->reglages(), QStringLiteral("2026-001"), jour,
-                  QStringLiteral("Ada Exemple\n3 rue de l’Exemple\n00000 Exempleville"));
+        Facture::de(Calcul(*catalogue, commande, jour), catalogue->reglages(), QStringLiteral("2026-001"), jour,
+                    QStringLiteral("Ada Exemple\n3 rue de l’Exemple\n00000 Exempleville"));
     if (!facture)
         qFatal("La commande mesurée n’a pas de facture");
 

@@ -39,8 +39,8 @@ QString Facture::nomDeFichier() const
     return nom + QStringLiteral(".pdf");
 }
 
-std::optional<Facture> facture(const Calcul &calcul, const Reglages &reglages, const QString &numero, QDate date,
-                               const QString &acheteur)
+std::optional<Facture> Facture::de(const Calcul &calcul, const Reglages &reglages, const QString &numero, QDate date,
+                                   const QString &acheteur)
 {
     const auto vendeur = vendeurUnique(calcul, reglages);
     if (!vendeur || !calcul.destination || !calcul.envoi)
@@ -57,4 +57,12 @@ std::optional<Facture> facture(const Calcul &calcul, const Reglages &reglages, c
     for (const auto &[livre, quantite] : calcul.lignes)
         facture.lignes.append({livre.id, livre.titre, livre.isbn, quantite, livre.prix});
     return facture;
+}
+
+QStringList coordonnees(const IdentiteVendeur &vendeur)
+{
+    QStringList lignes = vendeur.adresse;
+    if (vendeur.siret)
+        lignes.append(QStringLiteral("SIRET ") + *vendeur.siret);
+    return lignes;
 }

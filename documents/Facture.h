@@ -33,6 +33,11 @@ struct Facture
     Centimes envoi;
     QString codeSH;
 
+    // Of the order in progress. None unless all its books belong to one seller whose identity is known, and its
+    // postage is known.
+    static std::optional<Facture> de(const Calcul &calcul, const Reglages &reglages, const QString &numero, QDate date,
+                                     const QString &acheteur);
+
     [[nodiscard]] Centimes sousTotal() const; // the books alone
     [[nodiscard]] Centimes total() const { return sousTotal() + envoi; }
     // "Facture 2026-007 – Éditions Davrel"
@@ -43,7 +48,5 @@ struct Facture
     bool operator==(const Facture &) const = default;
 };
 
-// The invoice of the order in progress. None unless all its books belong to one seller whose identity is known, and
-// its postage is known.
-std::optional<Facture> facture(const Calcul &calcul, const Reglages &reglages, const QString &numero, QDate date,
-                               const QString &acheteur);
+// The seller's address and registration, one printed line each, without the name.
+QStringList coordonnees(const IdentiteVendeur &vendeur);

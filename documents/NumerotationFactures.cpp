@@ -48,7 +48,7 @@ QString NumerotationFactures::prochain(Vendeur vendeur, QDate date) const
     return QStringLiteral("%1-%2").arg(date.year()).arg(suite ? dernier->rang + 1 : 1, 3, 10, QLatin1Char('0'));
 }
 
-void NumerotationFactures::retenir(const QString &numero, Vendeur vendeur) const
+void NumerotationFactures::retenir(const QString &numero, Vendeur vendeur)
 {
     const auto retenu = decomposer(numero);
     if (!retenu)

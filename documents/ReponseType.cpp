@@ -1,5 +1,6 @@
 #include "documents/ReponseType.h"
 
+#include "model/Commande.h"
 #include "model/Format.h"
 
 namespace {
@@ -145,8 +146,8 @@ std::optional<IdentiteVendeur> vendeurUnique(const Calcul &calcul, const Reglage
     return vendeurs.size() == 1 ? reglages.identite(*vendeurs.begin()) : std::nullopt;
 }
 
-std::optional<ReponseType> reponse(const Calcul &calcul, const Reglages &reglages, const Commande &commande,
-                                   const QString &lien)
+std::optional<ReponseType> ReponseType::de(const Calcul &calcul, const Reglages &reglages, const Commande &commande,
+                                           const QString &lien)
 {
     const auto vendeur = vendeurUnique(calcul, reglages);
     if (!vendeur)

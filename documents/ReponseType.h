@@ -1,12 +1,15 @@
 #pragma once
 
 #include "model/Calcul.h"
-#include "model/Commande.h"
 #include "model/Langue.h"
 #include "model/Reglages.h"
 
 #include <QString>
 #include <QUrl>
+
+#include <optional>
+
+class Commande;
 
 // The reply to a buyer, and the texts pasted into PayPal's page for creating a payment link.
 struct ReponseType
@@ -17,6 +20,9 @@ struct ReponseType
     QString lien;            // payment link as pasted; may be empty
     QString pays;            // delivery country as typed; may be empty
 
+    // None unless `vendeurUnique` finds who answers.
+    static std::optional<ReponseType> de(const Calcul &calcul, const Reglages &reglages, const Commande &commande,
+                                         const QString &lien = {});
     static QUrl creationDuLien();
     // Stands in the message until a link is pasted.
     static QString placeDuLien(Langue langue);
@@ -32,6 +38,3 @@ struct ReponseType
 Langue langueAcheteur(const Commande &commande, const Calcul &calcul);
 // None unless all books of the order belong to one seller whose identity is known.
 std::optional<IdentiteVendeur> vendeurUnique(const Calcul &calcul, const Reglages &reglages);
-// None unless `vendeurUnique` finds who answers.
-std::optional<ReponseType> reponse(const Calcul &calcul, const Reglages &reglages, const Commande &commande,
-                                   const QString &lien = {});

@@ -32,16 +32,16 @@ QString raisonDuRefus(const QSaveFile &fichier)
 
 } // namespace
 
+ErreurStockage::ErreurStockage(const QString &chemin, const QString &raison)
+    : Echec(QStringLiteral("%1 : %2").arg(QDir::toNativeSeparators(chemin), raison))
+{
+}
+
 void Fichier::ecrire(const QString &chemin, const QByteArray &octets)
 {
     QSaveFile fichier(chemin);
     if (!fichier.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        echouer(chemin, raisonDuRefus(fichier));
+        throw ErreurStockage(chemin, raisonDuRefus(fichier));
     if (!toutEcrire(fichier, octets) || !fichier.commit())
-        echouer(chemin, CauseSysteme::enFrancais(fichier.errorString()));
-}
-
-void Fichier::echouer(const QString &chemin, const QString &raison)
-{
-    throw ErreurStockage(QStringLiteral("%1 : %2").arg(QDir::toNativeSeparators(chemin), raison));
+        throw ErreurStockage(chemin, CauseSysteme::enFrancais(fichier.errorString()));
 }

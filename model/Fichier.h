@@ -10,13 +10,12 @@ class ErreurStockage : public Echec
 {
 public:
     using Echec::Echec;
+    ErreurStockage(const QString &chemin, const QString &raison);
 };
 
 namespace Fichier {
 
 // Replaces or creates the file, whole or not at all. Throws ErreurStockage; what stood there is then as it was.
 void ecrire(const QString &chemin, const QByteArray &octets);
-
-[[noreturn]] void echouer(const QString &chemin, const QString &raison);
 
 } // namespace Fichier

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-// What the user's habits leave behind: short texts by key, in one INI file.
+// What the user's habits leave behind: texts of one line by key, in one INI file.
 class Preferences
 {
 public:
@@ -15,7 +15,7 @@ public:
     // Empty when there is none.
     [[nodiscard]] QString texte(const QString &cle) const;
     // Returns once the text is on the disk. Throws ErreurStockage; what was kept before still is.
-    void ecrire(const QString &cle, const QString &texte) const;
+    void ecrire(const QString &cle, const QString &texte);
 
 private:
     QString fichier_;

@@ -15,7 +15,7 @@ bool existe(const QString &chemin)
     std::error_code erreur;
     const auto statut = std::filesystem::status(chemin.toStdString(), erreur);
     if (statut.type() == std::filesystem::file_type::none)
-        Fichier::echouer(chemin, CauseSysteme::enFrancais(erreur));
+        throw ErreurStockage(chemin, CauseSysteme::enFrancais(erreur));
     return statut.type() != std::filesystem::file_type::not_found;
 }
 
@@ -53,7 +53,7 @@ void Stockage::remplacer(const QString &nom, const QByteArray &octets)
     std::error_code erreur;
     std::filesystem::create_directories(chemin.toStdString(), erreur);
     if (erreur)
-        Fichier::echouer(chemin, CauseSysteme::enFrancais(erreur));
+        throw ErreurStockage(chemin, CauseSysteme::enFrancais(erreur));
     preserver(nom);
     Fichier::ecrire(dossier_.filePath(nom), octets);
     compris_.insert(nom, octets);
@@ -66,7 +66,7 @@ void Stockage::effacer(const QString &nom)
     std::error_code erreur;
     std::filesystem::remove(chemin.toStdString(), erreur);
     if (erreur)
-        Fichier::echouer(chemin, CauseSysteme::enFrancais(erreur));
+        throw ErreurStockage(chemin, CauseSysteme::enFrancais(erreur));
     compris_.remove(nom);
 }
 
@@ -77,10 +77,10 @@ void Stockage::preserver(const QString &nom) const
         return;
     const auto contenu = octets(nom);
     if (!contenu)
-        Fichier::echouer(chemin,
-                         QFileInfo(chemin).isDir()
-                             ? QStringLiteral("un dossier occupe la place du fichier")
-                             : QStringLiteral("ce qui s’y trouve ne peut pas être lu, et n’est donc pas remplacé"));
+        throw ErreurStockage(chemin,
+                             QFileInfo(chemin).isDir()
+                                 ? QStringLiteral("un dossier occupe la place du fichier")
+                                 : QStringLiteral("ce qui s’y trouve ne peut pas être lu, et n’est donc pas remplacé"));
     if (const auto connu = compris_.constFind(nom); connu != compris_.constEnd() && *connu == *contenu)
         return;
     QString copie = nom + QStringLiteral(".illisible");

@@ -49,21 +49,3 @@ inline const QDate jourDuBanc(2026, 3, 2);
 QString lisible(QString texte);
 Livre unLivre(qint64 id, Vendeur vendeur, Centimes prix, std::optional<Grammes> poids);
 TarifsColissimo desTarifs(const QString &validite, Centimes premierPrix);
-
-// The system refuses to let any file grow beyond a few bytes: what a full disk does, without one.
-class DisquePlein
-{
-public:
-    DisquePlein()
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &avant_);
-        const rlimit limite{16, avant_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limite);
-    }
-    ~DisquePlein() { setrlimit(RLIMIT_FSIZE, &avant_); }
-    Q_DISABLE_COPY_MOVE(DisquePlein)
-
-private:
-    rlimit avant_{};
-};

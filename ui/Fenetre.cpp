@@ -1,11 +1,11 @@
 #include "ui/Fenetre.h"
 
 #include "ui/ContenuPrincipal.h"
+#include "ui/commun/Place.h"
 
 #include <QApplication>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QScreen>
 #include <QShortcut>
 
 #include <array>
@@ -29,7 +29,7 @@ Fenetre::Fenetre(Catalogue &catalogue, Commande &commande, ImagesCouvertures &im
     creerMenu();
     creerRaccourcis();
     qApp->installEventFilter(this);
-    resize(tailleParDefaut().boundedTo(screen()->availableSize()).expandedTo(minimumSizeHint()));
+    resize(tailleParDefaut().boundedTo(Place::surLEcran(this)).expandedTo(minimumSizeHint()));
 }
 
 QSize Fenetre::tailleParDefaut() const

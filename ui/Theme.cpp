@@ -64,7 +64,8 @@ QPalette Theme::palette(Mode mode)
     palette.setColor(QPalette::Mid, t.filet);
     palette.setColor(QPalette::Midlight, t.remplissage);
     palette.setColor(QPalette::AlternateBase, t.panneau);
-    palette.setColor(QPalette::PlaceholderText, t.secondaire);
+    palette.setColor(roleSecondaire, t.secondaire);
+    palette.setColor(QPalette::PlaceholderText, t.inactif); // fainter than any text, not to be taken for one
     palette.setColor(QPalette::Highlight, t.accent);
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Link, t.accentTexte);
@@ -85,7 +86,7 @@ Theme::Mode Theme::mode(const QPalette &palette)
 
 QColor Theme::secondaire(const QPalette &palette)
 {
-    return palette.color(QPalette::PlaceholderText);
+    return palette.color(roleSecondaire);
 }
 
 QColor Theme::filet(const QPalette &palette)

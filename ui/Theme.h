@@ -13,7 +13,9 @@ QPalette palette(Mode mode);
 // Light or dark, told from the text and window colours.
 Mode mode(const QPalette &palette);
 
-QColor secondaire(const QPalette &palette);  // text of second rank
+// Text of second rank, and its place in a palette.
+constexpr QPalette::ColorRole roleSecondaire = QPalette::BrightText;
+QColor secondaire(const QPalette &palette);
 QColor filet(const QPalette &palette);       // hairlines
 QColor carte(const QPalette &palette);       // raised groups and fields
 QColor panneau(const QPalette &palette);     // sidebar

@@ -1,14 +1,11 @@
 #include "visite/Ecran.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QComboBox>
-#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QTest>
-#include <QTimer>
 
 #include <algorithm>
 #include <cstdio>
@@ -125,29 +122,4 @@ QString Ecran::valeurEnFaceDe(const QWidget *fenetre, const QString &libelle)
         return texte->isVisible() && texte->geometry().left() > titre->geometry().right();
     });
     return valeur == valeurs.end() ? QString() : (*valeur)->text();
-}
-
-QDialog *Ecran::feuille()
-{
-    return qobject_cast<QDialog *>(QApplication::activeModalWidget());
-}
-
-void Ecran::auDialogueSuivant(const std::function<void(QDialog *)> &reponse)
-{
-    auto *guet = new QTimer(qApp);
-    QObject::connect(guet, &QTimer::timeout, qApp, [guet, reponse, avant = feuille()] {
-        QDialog *dialogue = feuille();
-        if (!dialogue || dialogue == avant)
-            return;
-        guet->stop();
-        guet->deleteLater();
-        reponse(dialogue);
-    });
-    guet->start(10);
-}
-
-void Ecran::enregistrerSous(QDialog *dialogue, const QString &chemin)
-{
-    dialogue->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(chemin);
-    QMetaObject::invokeMethod(dialogue, "accept");
 }

@@ -2,9 +2,6 @@
 
 #include <QString>
 
-#include <functional>
-
-class QDialog;
 class QWidget;
 
 // Finds the controls of a window by what a screen reader says of them, and works them as a person does. Each returns
@@ -24,12 +21,5 @@ bool defiler(QWidget *fenetre, const QString &nom);
 bool montre(const QWidget *fenetre, const QString &texte);
 // The text on the right of a label; empty when the label is not on the screen.
 QString valeurEnFaceDe(const QWidget *fenetre, const QString &libelle);
-
-// The sheet or dialog over the window; null when there is none.
-QDialog *feuille();
-// Answers the next dialog to come over what is shown now, while its own event loop runs.
-void auDialogueSuivant(const std::function<void(QDialog *)> &reponse);
-// The answer of someone who saves under this path.
-void enregistrerSous(QDialog *dialogue, const QString &chemin);
 
 } // namespace Ecran

@@ -2,6 +2,7 @@
 
 #include "ui/ContenuPrincipal.h"
 #include "ui/Fenetre.h"
+#include "visite/Dialogues.h"
 #include "visite/Ecran.h"
 
 #include <QDialog>
@@ -77,7 +78,7 @@ bool Parcours::peserLeColis(const QString &grammes)
 
 QDialog *Parcours::ouvrir(const QString &bouton, QSize taille)
 {
-    QDialog *feuille = Ecran::cliquer(&quillet_.fenetre(), bouton) ? Ecran::feuille() : nullptr;
+    QDialog *feuille = Ecran::cliquer(&quillet_.fenetre(), bouton) ? Dialogues::devant() : nullptr;
     if (feuille)
         feuille->resize(taille); // whatever screen it is drawn for
     return feuille;
@@ -102,9 +103,10 @@ bool Parcours::preparerLesDocuments()
         return false;
     const QString pdf = dossier_.absoluteFilePath(QStringLiteral("facture%1.pdf").arg(suffixe_));
     QFile::remove(pdf); // or the dialog asks whether to replace it
-    Ecran::auDialogueSuivant([&pdf](QDialog *dialogue) { Ecran::enregistrerSous(dialogue, pdf); });
-    return Ecran::cliquer(documents, QStringLiteral("Enregistrer en PDF…")) && QFile::exists(pdf)
-           && photographier(QStringLiteral("facture")) && Ecran::cliquer(documents, QStringLiteral("Fermer"));
+    return Dialogues::cliquerPuisRepondre(documents, QStringLiteral("Enregistrer en PDF…"),
+                                          {Dialogues::enregistrerSous(pdf)})
+           && QFile::exists(pdf) && photographier(QStringLiteral("facture"))
+           && Ecran::cliquer(documents, QStringLiteral("Fermer"));
 }
 
 void Parcours::raconter(const QString &etape)
@@ -123,7 +125,7 @@ bool Parcours::photographier(const QString &nom)
 {
     QTest::qWait(tempsDesRessorts);
     const QString chemin = dossier_.filePath(nom + suffixe_ + QStringLiteral(".png"));
-    QWidget *devant = Ecran::feuille() ? Ecran::feuille() : static_cast<QWidget *>(&quillet_.fenetre());
+    QWidget *devant = Dialogues::devant() ? Dialogues::devant() : static_cast<QWidget *>(&quillet_.fenetre());
     if (devant->grab().save(chemin))
         return true;
     std::fprintf(stderr, "Image impossible à écrire : %s\n", qPrintable(chemin));

@@ -1,6 +1,5 @@
 #include "documents/ArticleDouane.h"
 #include "documents/Facture.h"
-#include "documents/NumerotationFactures.h"
 #include "tests/Banc.h"
 
 #include <QTest>
@@ -10,133 +9,12 @@ class TestFacture : public QObject
     Q_OBJECT
 
 private slots:
-    void prochain_data();
-    void prochain();
-    void retenir_data();
-    void retenir();
-    void unVendeurAPart();
-    void preferencesNonEcrites_data();
-    void preferencesNonEcrites();
     void factureDeLaCommande();
     void pasDeFacture();
     void nomDeFichier_data();
     void nomDeFichier();
     void articles();
 };
-
-namespace {
-
-const QString cleDavrel = QStringLiteral("derniereFacture.davrel");
-
-} // namespace
-
-void TestFacture::prochain_data()
-{
-    QTest::addColumn<QString>("retenu"); // empty: none
-    QTest::addColumn<QString>("propose");
-    const auto cas = [](const char *nom, const char *retenu, const char *propose) {
-        QTest::newRow(nom) << QString::fromUtf8(retenu) << QString::fromUtf8(propose);
-    };
-    cas("aucun", "", "2026-001");
-    cas("suivant", "2026-007", "2026-008");
-    cas("au-delà de 999", "2026-1233", "2026-1234");
-    cas("autre année", "2025-041", "2026-001");
-    cas("année à venir", "2027-002", "2026-001");
-    cas("tirets en trop", "-2026--007-", "2026-008");
-    cas("signe", "+2026-+7", "2026-008");
-    cas("une partie", "2026-", "2026-001");
-    cas("trois parties", "2026-007-1", "2026-001");
-    cas("lettres", "abc", "2026-001");
-    cas("espace", "2026- 7", "2026-001");
-    cas("chiffres d’ailleurs", "2026-٧", "2026-001");
-    cas("signe seul", "2026-+", "2026-001");
-    cas("trop grand pour être lu", "2026-99999999999999999999", "2026-001");
-    cas("le dernier qui se lise", "2026-9223372036854775807", "2026-001");
-}
-
-void TestFacture::prochain()
-{
-    QFETCH(QString, retenu);
-    QFETCH(QString, propose);
-    const Banc banc;
-    if (!retenu.isEmpty())
-        banc.preferences().ecrire(cleDavrel, retenu);
-    const NumerotationFactures numerotation{banc.preferences()};
-    QCOMPARE(numerotation.prochain(Vendeur::davrel, jourDuBanc), propose);
-    QCOMPARE(numerotation.prochain(Vendeur::davrel, jourDuBanc), propose); // asking consumes nothing
-}
-
-void TestFacture::retenir_data()
-{
-    QTest::addColumn<QString>("avant"); // empty: none
-    QTest::addColumn<QString>("numero");
-    QTest::addColumn<QString>("apres");
-    const auto cas = [](const char *nom, const char *avant, const char *numero, const char *apres) {
-        QTest::newRow(nom) << QString::fromUtf8(avant) << QString::fromUtf8(numero) << QString::fromUtf8(apres);
-    };
-    cas("premier", "", "2026-001", "2026-001");
-    cas("suivant", "2025-010", "2025-011", "2025-011");
-    cas("le même", "2025-010", "2025-010", "2025-010");
-    cas("réimprimé", "2025-010", "2025-009", "2025-010");
-    cas("année passée", "2025-010", "2024-099", "2025-010");
-    cas("nouvelle année", "2024-041", "2025-001", "2025-001");
-    cas("gardé comme il fut tapé", "2026-007", "2026-12", "2026-12");
-    cas("rang plus long", "2026-999", "2026-1000", "2026-1000");
-    cas("illisible remplacé", "abc", "2026-003", "2026-003");
-    cas("ce qui n’est pas un numéro", "2026-003", "F-2026-004", "2026-003");
-}
-
-void TestFacture::retenir()
-{
-    QFETCH(QString, avant);
-    QFETCH(QString, numero);
-    QFETCH(QString, apres);
-    const Banc banc;
-    if (!avant.isEmpty())
-        banc.preferences().ecrire(cleDavrel, avant);
-    NumerotationFactures{banc.preferences()}.retenir(numero, Vendeur::davrel);
-    QCOMPARE(banc.preferences().texte(cleDavrel), apres);
-}
-
-void TestFacture::unVendeurAPart()
-{
-    const Banc banc;
-    const NumerotationFactures numerotation{banc.preferences()};
-    numerotation.retenir(QStringLiteral("2026-005"), Vendeur::davrel);
-    QCOMPARE(numerotation.prochain(Vendeur::davrel, jourDuBanc), QStringLiteral("2026-006"));
-    QCOMPARE(numerotation.prochain(Vendeur::mireva, jourDuBanc), QStringLiteral("2026-001"));
-}
-
-void TestFacture::preferencesNonEcrites_data()
-{
-    QTest::addColumn<bool>("disquePlein");
-    QTest::newRow("disque plein") << true;
-    QTest::newRow("un fichier à la place du dossier") << false;
-}
-
-void TestFacture::preferencesNonEcrites()
-{
-    QFETCH(bool, disquePlein);
-    const Banc banc;
-    banc.ecrireUtilisateur(QStringLiteral("obstacle"), "pas un dossier");
-    const Preferences preferences =
-        disquePlein ? banc.preferences() : Preferences(banc.cheminUtilisateur(QStringLiteral("obstacle/Quillet.ini")));
-    const NumerotationFactures numerotation{preferences};
-    if (disquePlein)
-        numerotation.retenir(QStringLiteral("2026-001"), Vendeur::davrel);
-    const QString propose = numerotation.prochain(Vendeur::davrel, jourDuBanc);
-    {
-        std::optional<DisquePlein> plein;
-        if (disquePlein)
-            plein.emplace();
-        QVERIFY_THROWS_EXCEPTION(ErreurStockage, numerotation.retenir(propose, Vendeur::davrel));
-    }
-    QCOMPARE(numerotation.prochain(Vendeur::davrel, jourDuBanc), propose); // the series has not moved
-    if (disquePlein) {
-        numerotation.retenir(propose, Vendeur::davrel); // and goes on once there is room
-        QCOMPARE(numerotation.prochain(Vendeur::davrel, jourDuBanc), QStringLiteral("2026-003"));
-    }
-}
 
 void TestFacture::factureDeLaCommande()
 {
@@ -148,8 +26,8 @@ void TestFacture::factureDeLaCommande()
     commande.ajuster(banc.livres[1], 1);
     commande.setCodeDestination(QStringLiteral("suisse"));
     const Calcul calcul(*catalogue, commande, jourDuBanc);
-    const auto facture = ::facture(calcul, catalogue->reglages(), QStringLiteral("2026-004"), jourDuBanc,
-                                   QStringLiteral("Ada Exemple\nExempleville"));
+    const auto facture = Facture::de(calcul, catalogue->reglages(), QStringLiteral("2026-004"), jourDuBanc,
+                                     QStringLiteral("Ada Exemple\nExempleville"));
     QVERIFY(facture);
     QCOMPARE(*facture, (Facture{.numero = QStringLiteral("2026-004"),
                                 .date = jourDuBanc,
@@ -169,7 +47,7 @@ void TestFacture::pasDeFacture()
     Banc banc;
     const auto catalogue = banc.charger();
     const auto existe = [&](const Commande &commande) {
-        return ::facture(Calcul(*catalogue, commande, jourDuBanc), catalogue->reglages(), {}, jourDuBanc, {})
+        return Facture::de(Calcul(*catalogue, commande, jourDuBanc), catalogue->reglages(), {}, jourDuBanc, {})
             .has_value();
     };
     Commande commande;

@@ -1,4 +1,5 @@
 #include "tests/Banc.h"
+#include "tests/DisquePlein.h"
 
 #include <QTest>
 

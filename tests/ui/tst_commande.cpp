@@ -34,6 +34,7 @@ private slots:
     void changerDeVendeur();
     void changerDeVendeurCoupSurCoup();
     void copierUnChamp();
+    void documentsEtReponse();
     void laMoletteNeChangeRien();
     void auClavier();
     void sansRubriqueLaCommande();
@@ -251,6 +252,21 @@ void TestCommande::copierUnChamp()
     QVERIFY(copie(QStringLiteral("Prix")) && copie(QStringLiteral("Nom de l’objet")));
     QTRY_VERIFY_WITH_TIMEOUT(!copie(QStringLiteral("Prix")), 1200);
     QVERIFY(copie(QStringLiteral("Nom de l’objet")));
+}
+
+void TestCommande::documentsEtReponse()
+{
+    const auto actif = [this](const char *bouton) {
+        return controle<QAbstractButton>(QString::fromUtf8(bouton))->isEnabled();
+    };
+    QVERIFY(!actif("Facture") && !actif("E-mail en français"));
+    cliquer(QStringLiteral("Livre 1"));
+    choisir(QStringLiteral("Envoi vers"), QStringLiteral("Union européenne"));
+    QVERIFY(actif("Facture") && actif("Déclaration en douane") && actif("E-mail en anglais"));
+    cliquer(QStringLiteral("Français"));
+    QVERIFY(actif("E-mail en français"));
+    taper(QStringLiteral("Colis pesé, en grammes"), QStringLiteral("2001")); // beyond the last tier
+    QVERIFY(!actif("Facture") && !actif("E-mail en français"));
 }
 
 void TestCommande::laMoletteNeChangeRien()

@@ -1,21 +1,16 @@
+#include "model/Echec.h"
+#include "tests/FausseMessagerie.h"
 #include "ui/reponse/Mail.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QUrl>
 
-#include <gio/gio.h>
-
-// What a mail program receives: a fake one, declared on the desktop as a real one is, notes its arguments.
+// What a mail program receives.
 class TestMail : public QObject
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void initTestCase();
-    void cleanup();
+private slots:
+    void cleanup() { messagerie_.oublier(); }
 
     void adresses_data();
     void adresses();
@@ -27,81 +22,15 @@ private Q_SLOTS:
     void programmeCasse();
 
 private:
-    void installer(const QString &nom, const QString &commande) const;
-    [[nodiscard]] QStringList recus() const;
-
-    QTemporaryDir dossier_;
+    FausseMessagerie messagerie_;
 };
 
 namespace {
-
-void ecrire(const QString &chemin, const QString &texte)
-{
-    QDir().mkpath(QFileInfo(chemin).path());
-    QFile fichier(chemin);
-    if (!fichier.open(QIODevice::WriteOnly) || fichier.write(texte.toUtf8()) < 0)
-        qFatal("%s", qPrintable(fichier.errorString()));
-    fichier.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-}
-
-// Names and values of Thunderbird's option, in their order.
-QList<QPair<QString, QString>> champs(const QString &option)
-{
-    QList<QPair<QString, QString>> champs;
-    for (const QString &champ : option.split(u','))
-        champs.append({champ.section(u'=', 0, 0), QUrl::fromPercentEncoding(champ.section(u'=', 1).toLatin1())});
-    return champs;
-}
 
 const QString ouverture =
     QStringLiteral("<div style=\"font-family:Helvetica,sans-serif;font-size:12pt;white-space:pre-wrap\">");
 
 } // namespace
-
-void TestMail::initTestCase()
-{
-    // Read once by the desktop's library: what changes later is the files in there.
-    qputenv("XDG_DATA_HOME", dossier_.filePath(QStringLiteral("donnees")).toUtf8());
-    qputenv("XDG_CONFIG_HOME", dossier_.filePath(QStringLiteral("reglages")).toUtf8());
-    qputenv("XDG_DATA_DIRS", dossier_.filePath(QStringLiteral("systeme")).toUtf8());
-    qputenv("XDG_CONFIG_DIRS", dossier_.filePath(QStringLiteral("systeme")).toUtf8());
-    ecrire(dossier_.filePath(QStringLiteral("messagerie")),
-           QStringLiteral("#!/bin/sh\nprintf '%s\\n' \"$@\" >'%1.tmp' && mv '%1.tmp' '%1'\n")
-               .arg(dossier_.filePath(QStringLiteral("recus"))));
-}
-
-void TestMail::cleanup()
-{
-    QDir(dossier_.filePath(QStringLiteral("donnees"))).removeRecursively();
-    QFile::remove(dossier_.filePath(QStringLiteral("recus")));
-}
-
-void TestMail::installer(const QString &nom, const QString &commande) const
-{
-    const QString applications = dossier_.filePath(QStringLiteral("donnees/applications/"));
-    ecrire(applications + nom, QStringLiteral("[Desktop Entry]\nType=Application\nName=Messagerie\nExec=%1\n"
-                                              "MimeType=x-scheme-handler/mailto;\n")
-                                   .arg(commande));
-    ecrire(applications + QStringLiteral("mimeapps.list"),
-           QStringLiteral("[Default Applications]\nx-scheme-handler/mailto=%1\n").arg(nom));
-    // The desktop's library hears of new files a little later.
-    const auto connu = [&] {
-        GAppInfo *programme = g_app_info_get_default_for_uri_scheme("mailto");
-        const bool lui = programme && commande == QString::fromUtf8(g_app_info_get_commandline(programme));
-        g_clear_object(&programme);
-        return lui;
-    };
-    if (!QTest::qWaitFor(connu))
-        qFatal("%s n’est pas connu du bureau", qPrintable(nom));
-}
-
-QStringList TestMail::recus() const
-{
-    QFile fichier(dossier_.filePath(QStringLiteral("recus")));
-    if (!QTest::qWaitFor([&] { return fichier.exists(); }) || !fichier.open(QIODevice::ReadOnly))
-        return {};
-    return QString::fromUtf8(fichier.readAll()).split(u'\n', Qt::SkipEmptyParts);
-}
 
 void TestMail::adresses_data()
 {
@@ -140,9 +69,8 @@ void TestMail::adresses()
 
 void TestMail::sansProgramme()
 {
+    // Nothing to start, and nothing to say.
     Mail::ecrire(QStringLiteral("ada@exemple.fr"), QStringLiteral("Sujet"), QStringLiteral("Corps"), {});
-    QTest::qWait(100);
-    QVERIFY(!QFile::exists(dossier_.filePath(QStringLiteral("recus"))));
 }
 
 void TestMail::parThunderbird_data()
@@ -150,23 +78,29 @@ void TestMail::parThunderbird_data()
     QTest::addColumn<QString>("a");
     QTest::addColumn<QString>("destinataire");
     QTest::addColumn<QString>("sujet");
+    QTest::addColumn<QString>("sujetRecu");
     QTest::addColumn<QString>("corps");
     QTest::addColumn<QString>("enGras");
     QTest::addColumn<QString>("html");
-    const auto texte = [](const char *utf8) { return QString::fromUtf8(utf8); };
-    QTest::newRow("ordinaire") << texte(" ada@exemple.fr ") << texte("ada@exemple.fr") << texte("Œuvre – l’été")
-                               << texte("Bonjour,\n   • Livre\nTotal : 5,00 €\nTotal : 5,00 €\nFin")
-                               << texte("Total : 5,00 €")
-                               << texte("Bonjour,<br>   • Livre<br><b>Total : 5,00 €</b><br>Total : 5,00 €<br>Fin");
-    QTest::newRow("rien en gras") << texte("") << texte("") << texte("Sujet") << texte("Corps") << texte("Total")
-                                  << texte("Corps");
-    QTest::newRow("pièges") << texte("ada@exemple.fr,attachment='/etc/passwd'") << texte("")
-                            << texte("x',attachment='file:///etc/passwd',y=\"$(id)`;&+%2C")
-                            << texte("<img src=x>&amp;\"',attachment='/etc/passwd'") << texte("<img src=x>")
-                            << texte("<b>&lt;img src=x&gt;</b>&amp;amp;&quot;',attachment='/etc/passwd'");
-    QTest::newRow("retour à la ligne dans le sujet")
-        << texte("d'ada+a&b%1@exemple.fr") << texte("d'ada+a&b%1@exemple.fr") << texte("Sujet\r\nBcc: bob@exemple.fr")
-        << texte("Corps") << texte("") << texte("Corps");
+    struct Cas
+    {
+        const char *nom, *a, *destinataire, *sujet, *sujetRecu, *corps, *enGras, *html;
+    };
+    const char *pieges = "x',attachment='file:///etc/passwd',y=\"$(id)`;&+%2C";
+    const char *singuliere = "d'ada+a&b%1@exemple.fr";
+    for (const Cas &cas : {Cas{"ordinaire", " ada@exemple.fr ", "ada@exemple.fr", "Œuvre – l’été", "Œuvre – l’été",
+                               "Bonjour,\n   • Livre\nTotal : 5,00 €\nTotal : 5,00 €\nFin", "Total : 5,00 €",
+                               "Bonjour,<br>   • Livre<br><b>Total : 5,00 €</b><br>Total : 5,00 €<br>Fin"},
+                           Cas{"rien en gras", "", "", "Sujet", "Sujet", "Corps", "Total", "Corps"},
+                           Cas{"pièges", "ada@exemple.fr,attachment='/etc/passwd'", "", pieges, pieges,
+                               "<img src=x>&amp;\"',attachment='/etc/passwd'", "<img src=x>",
+                               "<b>&lt;img src=x&gt;</b>&amp;amp;&quot;',attachment='/etc/passwd'"},
+                           Cas{"saut de ligne dans le sujet", singuliere, singuliere, "Sujet\r\nBcc: bob@exemple.fr",
+                               "Sujet  Bcc: bob@exemple.fr", "Corps", "", "Corps"}}) {
+        QTestData &ligne = QTest::newRow(cas.nom);
+        for (const char *texte : {cas.a, cas.destinataire, cas.sujet, cas.sujetRecu, cas.corps, cas.enGras, cas.html})
+            ligne << QString::fromUtf8(texte);
+    }
 }
 
 void TestMail::parThunderbird()
@@ -174,22 +108,23 @@ void TestMail::parThunderbird()
     QFETCH(QString, a);
     QFETCH(QString, destinataire);
     QFETCH(QString, sujet);
+    QFETCH(QString, sujetRecu);
     QFETCH(QString, corps);
     QFETCH(QString, enGras);
     QFETCH(QString, html);
-    installer(QStringLiteral("org.mozilla.Thunderbird.desktop"),
-              dossier_.filePath(QStringLiteral("messagerie")) + QStringLiteral(" --garde 'en un' @@u %u @@"));
+    messagerie_.installer(QStringLiteral("org.mozilla.Thunderbird.desktop"),
+                          QStringLiteral("--garde 'en un' @@u %u @@"));
     Mail::ecrire(a, sujet, corps, enGras);
-    const QStringList arguments = recus();
+    const QStringList arguments = messagerie_.recus();
     QCOMPARE(arguments.mid(0, 3),
              (QStringList{QStringLiteral("--garde"), QStringLiteral("en un"), QStringLiteral("-compose")}));
     QCOMPARE(arguments.size(), 4);
-    const QList<QPair<QString, QString>> attendus{
+    const QList<std::pair<QString, QString>> attendus{
         {QStringLiteral("to"), destinataire},
-        {QStringLiteral("subject"), sujet.replace(u'\r', u' ').replace(u'\n', u' ')},
+        {QStringLiteral("subject"), sujetRecu},
         {QStringLiteral("format"), QStringLiteral("html")},
         {QStringLiteral("body"), ouverture + html + QStringLiteral("</div>")}};
-    QCOMPARE(champs(arguments[3]), attendus);
+    QCOMPARE(champsDeThunderbird(arguments[3]), attendus);
 }
 
 void TestMail::parUnAutre_data()
@@ -213,17 +148,15 @@ void TestMail::parUnAutre()
     QFETCH(QString, sujet);
     QFETCH(QString, corps);
     QFETCH(QString, adresse);
-    installer(QStringLiteral("autre.desktop"), dossier_.filePath(QStringLiteral("messagerie")) + QStringLiteral(" %u"));
+    messagerie_.installer(QStringLiteral("autre.desktop"));
     Mail::ecrire(a, sujet, corps, {});
-    QCOMPARE(recus(), QStringList{adresse});
+    QCOMPARE(messagerie_.recus(), QStringList{adresse});
 }
 
 void TestMail::programmeCasse()
 {
-    const QString casse = dossier_.filePath(QStringLiteral("cassee"));
-    ecrire(casse, QStringLiteral("#!/nulle/part\n"));
-    installer(QStringLiteral("thunderbird.desktop"), casse);
-    QVERIFY_THROWS_EXCEPTION(Mail::Erreur, Mail::ecrire({}, {}, {}, {}));
+    messagerie_.installerCassee(QStringLiteral("thunderbird.desktop"));
+    QVERIFY_THROWS_EXCEPTION(Echec, Mail::ecrire({}, {}, {}, {}));
 }
 
 QTEST_GUILESS_MAIN(TestMail)

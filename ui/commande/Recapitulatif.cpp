@@ -7,18 +7,11 @@
 #include "ui/commande/SectionMontants.h"
 #include "ui/commande/SectionPoids.h"
 #include "ui/commande/SectionReponse.h"
-#include "ui/documents/VueDocuments.h"
-#include "ui/reponse/VueReponse.h"
 
 #include <QVBoxLayout>
 
-Recapitulatif::Recapitulatif(const Catalogue &catalogue, Commande &commande, const Preferences &preferences,
-                             Aujourdhui aujourdhui, QWidget *parent)
+Recapitulatif::Recapitulatif(const Catalogue &catalogue, Commande &commande, QWidget *parent)
     : Defilement(parent),
-      catalogue_(catalogue),
-      commande_(commande),
-      preferences_(preferences),
-      aujourdhui_(std::move(aujourdhui)),
       livres_(new SectionLivres),
       poids_(new SectionPoids(catalogue.reglages().emballages, commande)),
       destination_(new SectionDestination(catalogue.destinations(), commande)),
@@ -43,11 +36,8 @@ Recapitulatif::Recapitulatif(const Catalogue &catalogue, Commande &commande, con
     page->resize(size()); // any size: without one, setWidget lays the whole page out to find its own
     setWidget(page);
 
-    connect(documents_, &SectionDocuments::douaneDemandee, this,
-            [this] { ouvrirLesDocuments(OngletDocuments::douane); });
-    connect(documents_, &SectionDocuments::factureDemandee, this,
-            [this] { ouvrirLesDocuments(OngletDocuments::facture); });
-    connect(reponse_, &SectionReponse::demandee, this, &Recapitulatif::ouvrirLaReponse);
+    connect(documents_, &SectionDocuments::demandes, this, &Recapitulatif::documentsDemandes);
+    connect(reponse_, &SectionReponse::demandee, this, &Recapitulatif::reponseDemandee);
 }
 
 void Recapitulatif::montrer(const Calcul &calcul)
@@ -59,14 +49,4 @@ void Recapitulatif::montrer(const Calcul &calcul)
     lien_->montrer(calcul);
     documents_->montrer(calcul);
     reponse_->montrer(calcul);
-}
-
-void Recapitulatif::ouvrirLesDocuments(OngletDocuments onglet)
-{
-    Feuille::ouvrir(new VueDocuments(catalogue_, commande_, preferences_, aujourdhui_, onglet, window()));
-}
-
-void Recapitulatif::ouvrirLaReponse()
-{
-    Feuille::ouvrir(new VueReponse(catalogue_, commande_, aujourdhui_, window()));
 }

@@ -1,11 +1,9 @@
 #pragma once
 
 #include "model/Calcul.h"
-#include "model/Preferences.h"
-#include "ui/Aujourdhui.h"
 #include "ui/commun/Defilement.h"
+#include "ui/documents/OngletDocuments.h"
 
-enum class OngletDocuments;
 class SectionDestination;
 class SectionDocuments;
 class SectionLien;
@@ -15,25 +13,21 @@ class SectionPoids;
 class SectionReponse;
 
 // The side panel: everything that follows from the order, and the choices that complete it. Its widgets are built
-// once; `montrer` brings them up to date. From here open the documents and the reply.
+// once; `montrer` brings them up to date.
 class Recapitulatif : public Defilement
 {
     Q_OBJECT
 
 public:
-    Recapitulatif(const Catalogue &catalogue, Commande &commande, const Preferences &preferences, Aujourdhui aujourdhui,
-                  QWidget *parent = nullptr);
+    Recapitulatif(const Catalogue &catalogue, Commande &commande, QWidget *parent = nullptr);
 
     void montrer(const Calcul &calcul);
 
-private:
-    void ouvrirLesDocuments(OngletDocuments onglet);
-    void ouvrirLaReponse();
+signals:
+    void documentsDemandes(OngletDocuments onglet);
+    void reponseDemandee();
 
-    const Catalogue &catalogue_;
-    Commande &commande_;
-    Preferences preferences_;
-    Aujourdhui aujourdhui_;
+private:
     SectionLivres *livres_;
     SectionPoids *poids_;
     SectionDestination *destination_;

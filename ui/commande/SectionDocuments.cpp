@@ -18,8 +18,8 @@ SectionDocuments::SectionDocuments(QWidget *parent)
     rangee->addWidget(douane_, 1);
     rangee->addWidget(facture_, 1);
     groupe()->ajouter(Formulaire::seul(boutons));
-    connect(douane_, &QPushButton::clicked, this, &SectionDocuments::douaneDemandee);
-    connect(facture_, &QPushButton::clicked, this, &SectionDocuments::factureDemandee);
+    connect(douane_, &QPushButton::clicked, this, [this] { emit demandes(OngletDocuments::douane); });
+    connect(facture_, &QPushButton::clicked, this, [this] { emit demandes(OngletDocuments::facture); });
 }
 
 void SectionDocuments::montrer(const Calcul &calcul)

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "model/Calcul.h"
 #include "ui/commun/Formulaire.h"
+#include "ui/documents/OngletDocuments.h"
 
+class Calcul;
 class QPushButton;
 
 // What goes with the parcel.
@@ -15,8 +16,7 @@ public:
     void montrer(const Calcul &calcul);
 
 signals:
-    void douaneDemandee();
-    void factureDemandee();
+    void demandes(OngletDocuments onglet);
 
 private:
     QPushButton *douane_;

@@ -3,7 +3,7 @@
 #include "documents/ReponseType.h"
 #include "ui/commande/TextesRecapitulatif.h"
 #include "ui/commun/ChampACopier.h"
-#include "ui/commun/ChoixSegmente.h"
+#include "ui/commun/ChoixLangue.h"
 #include "ui/commun/Icone.h"
 #include "ui/commun/Lien.h"
 
@@ -17,7 +17,7 @@ SectionLien::SectionLien(const Reglages &reglages, Commande &commande, QWidget *
               parent),
       reglages_(reglages),
       commande_(commande),
-      langue_(new ChoixSegmente({tr("Français"), tr("Anglais")}, {.police = font()})),
+      langue_(new ChoixLangue),
       pays_(new QLineEdit),
       rangeePays_(new Formulaire::RangeeHaute(tr("Pays de livraison"), pays_)),
       nomDeLObjet_(new ChampACopier(tr("Nom de l’objet"))),
@@ -33,15 +33,14 @@ SectionLien::SectionLien(const Reglages &reglages, Commande &commande, QWidget *
     for (ChampACopier *champ : {nomDeLObjet_, description_, prix_, retour_})
         groupe()->ajouter(champ);
 
-    connect(langue_, &ChoixSegmente::choisi, this,
-            [this](int indice) { commande_.setLangue(indice == 0 ? Langue::francais : Langue::anglais); });
+    connect(langue_, &ChoixLangue::choisie, &commande_, &Commande::setLangue);
     connect(creer, &QPushButton::clicked, this, [this] { Lien::ouvrir(ReponseType::creationDuLien(), this); });
     connect(pays_, &QLineEdit::textEdited, &commande_, &Commande::setPaysLivraison);
 }
 
 void SectionLien::montrer(const Calcul &calcul)
 {
-    langue_->montrer(langueAcheteur(commande_, calcul) == Langue::francais ? 0 : 1);
+    langue_->montrer(langueAcheteur(commande_, calcul));
     if (pays_->text() != commande_.paysLivraison())
         pays_->setText(commande_.paysLivraison());
 

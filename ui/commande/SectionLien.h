@@ -4,7 +4,7 @@
 #include "ui/commun/Formulaire.h"
 
 class ChampACopier;
-class ChoixSegmente;
+class ChoixLangue;
 class QLineEdit;
 
 // What the seller pastes into PayPal to create the payment link, in the buyer's language.
@@ -20,7 +20,7 @@ public:
 private:
     const Reglages &reglages_;
     Commande &commande_;
-    ChoixSegmente *langue_;
+    ChoixLangue *langue_;
     QLineEdit *pays_;
     Formulaire::RangeeHaute *rangeePays_;
     ChampACopier *nomDeLObjet_;

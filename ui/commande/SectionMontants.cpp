@@ -86,7 +86,7 @@ void SectionMontants::montrer(const Calcul &calcul)
 {
     envoi_.rangee->setDetail(TextesRecapitulatif::detailEnvoi(calcul));
     envoi_.montant->afficher(TextesRecapitulatif::euros(calcul.envoi));
-    total_->setForegroundRole(calcul.total ? QPalette::WindowText : QPalette::PlaceholderText);
+    total_->setForegroundRole(calcul.total ? QPalette::WindowText : Theme::roleSecondaire);
     total_->afficher(TextesRecapitulatif::euros(calcul.total));
     ligneDuTotal_->ajuster();
     frais_.rangee->setDetail(TextesRecapitulatif::detailFrais(calcul, reglages_.fraisPaypal));

@@ -106,7 +106,7 @@ void SectionPoids::montrerPoidsCalcule(const Calcul &calcul)
     QFont police = Theme::enGras(font(), pese ? QFont::Normal : QFont::DemiBold);
     police.setStrikeOut(pese);
     poidsCalcule_.montant->setFont(police);
-    poidsCalcule_.montant->setForegroundRole(pese ? QPalette::PlaceholderText : QPalette::WindowText);
+    poidsCalcule_.montant->setForegroundRole(pese ? Theme::roleSecondaire : QPalette::WindowText);
     poidsCalcule_.montant->afficher(Format::poids(calcul.poidsCalcule));
 }
 
@@ -119,7 +119,7 @@ void SectionPoids::montrerAvertissements(const Calcul &calcul)
     avertissementsMontres_ = avertissements;
     qDeleteAll(avertissements_->findChildren<Alerte *>(Qt::FindDirectChildrenOnly));
     for (const auto &avertissement : avertissements) {
-        auto *alerte = new Alerte(avertissement.symbole, avertissement.texte);
+        auto *alerte = new Alerte(avertissement.symbole, avertissement.texte, Alerte::Ton::avertissement);
         avertissements_->layout()->addWidget(alerte);
         alerte->show(); // now: a layout would show it one turn of the event loop later
     }

@@ -17,6 +17,6 @@ SectionReponse::SectionReponse(const Commande &commande, QWidget *parent)
 
 void SectionReponse::montrer(const Calcul &calcul)
 {
-    ecrire_->setText(TextesRecapitulatif::ecrireALAcheteur(langueAcheteur(commande_, calcul)));
+    ecrire_->setText(TextesRecapitulatif::libelleDeLaReponse(langueAcheteur(commande_, calcul)));
     ecrire_->setEnabled(TextesRecapitulatif::pretAPartir(calcul));
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "model/Calcul.h"
 #include "ui/commun/Formulaire.h"
 
+class Calcul;
 class Commande;
 class QPushButton;
 

@@ -109,7 +109,7 @@ QString TextesRecapitulatif::detailFrais(const Calcul &calcul, const FraisPaypal
 std::optional<TextesRecapitulatif::LienDePaiement>
 TextesRecapitulatif::lienDePaiement(const Calcul &calcul, const Reglages &reglages, const Commande &commande)
 {
-    const auto message = reponse(calcul, reglages, commande);
+    const auto message = ReponseType::de(calcul, reglages, commande);
     if (!message || !calcul.total)
         return std::nullopt;
     const bool anglais = message->langue == Langue::anglais;
@@ -130,7 +130,7 @@ bool TextesRecapitulatif::pretAPartir(const Calcul &calcul)
     return calcul.total && calcul.vendeurs().size() == 1;
 }
 
-QString TextesRecapitulatif::ecrireALAcheteur(Langue langue)
+QString TextesRecapitulatif::libelleDeLaReponse(Langue langue)
 {
     return langue == Langue::anglais ? QStringLiteral("E-mail en anglais") : QStringLiteral("E-mail en français");
 }

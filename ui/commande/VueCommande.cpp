@@ -11,6 +11,8 @@
 #include "ui/commun/EnTete.h"
 #include "ui/commun/Icone.h"
 #include "ui/commun/Partage.h"
+#include "ui/documents/VueDocuments.h"
+#include "ui/reponse/VueReponse.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -39,12 +41,13 @@ VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesC
     : QWidget(parent),
       catalogue_(catalogue),
       commande_(commande),
+      preferences_(preferences),
       aujourdhui_(std::move(aujourdhui)),
       enTete_(new EnTete(tr("Commande"))),
       reinitialiser_(new QPushButton(Icone::icone(QStringLiteral("arrow.counterclockwise")), tr("Tout réinitialiser"))),
       selecteur_(new SelecteurSite(catalogue.reglages())),
       grille_(new GrilleLivres(commande, images, selecteur_->dernierControle())),
-      recapitulatif_(new Recapitulatif(catalogue, commande, preferences, aujourdhui_))
+      recapitulatif_(new Recapitulatif(catalogue, commande))
 {
     reinitialiser_->setToolTip(tr("Tout réinitialiser : quantités, colis pesé et pays de livraison ; l’emballage et la "
                                   "destination restent"));
@@ -58,6 +61,8 @@ VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesC
 
     connect(reinitialiser_, &QPushButton::clicked, &commande_, &Commande::vider);
     connect(selecteur_, &SelecteurSite::choisi, &commande_, &Commande::setVendeur);
+    connect(recapitulatif_, &Recapitulatif::documentsDemandes, this, &VueCommande::ouvrirLesDocuments);
+    connect(recapitulatif_, &Recapitulatif::reponseDemandee, this, &VueCommande::ouvrirLaReponse);
     connect(&commande_, &Commande::change, this, &VueCommande::actualiser);
     connect(&catalogue_, &Catalogue::change, this, &VueCommande::actualiser);
     actualiser();
@@ -106,6 +111,16 @@ void VueCommande::actualiser()
                          [&](const Livre &livre) { return livre.vendeur == commande_.vendeur(); });
     grille_->montrer(livres);
     recapitulatif_->montrer(calcul);
+}
+
+void VueCommande::ouvrirLesDocuments(OngletDocuments onglet)
+{
+    (new VueDocuments(catalogue_, commande_, preferences_, aujourdhui_, onglet, window()))->ouvrir();
+}
+
+void VueCommande::ouvrirLaReponse()
+{
+    (new VueReponse(catalogue_, commande_, aujourdhui_, window()))->ouvrir();
 }
 
 // A window left open overnight comes back on another day.

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "model/Preferences.h"
 #include "ui/Aujourdhui.h"
+#include "ui/documents/OngletDocuments.h"
 
 #include <QWidget>
 
@@ -9,7 +11,6 @@ class Commande;
 class EnTete;
 class GrilleLivres;
 class ImagesCouvertures;
-class Preferences;
 class QPushButton;
 class Recapitulatif;
 class SelecteurSite;
@@ -29,9 +30,12 @@ protected:
 private:
     QWidget *colonneDesLivres();
     void actualiser();
+    void ouvrirLesDocuments(OngletDocuments onglet);
+    void ouvrirLaReponse();
 
     const Catalogue &catalogue_;
     Commande &commande_;
+    Preferences preferences_;
     Aujourdhui aujourdhui_;
     EnTete *enTete_;
     QPushButton *reinitialiser_;

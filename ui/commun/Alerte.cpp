@@ -12,6 +12,11 @@ constexpr int coteSymbole = 17;
 constexpr int espace = 8;
 } // namespace
 
+Alerte::Alerte(const QString &texte, QWidget *parent)
+    : Alerte(QStringLiteral("exclamationmark.triangle"), texte, Ton::avertissement, parent)
+{
+}
+
 Alerte::Alerte(const QString &symbole, const QString &texte, Ton ton, QWidget *parent)
     : QWidget(parent),
       symbole_(symbole),

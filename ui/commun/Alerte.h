@@ -13,7 +13,9 @@ class Alerte : public QWidget
 public:
     enum class Ton { avertissement, note };
 
-    Alerte(const QString &symbole, const QString &texte, Ton ton = Ton::avertissement, QWidget *parent = nullptr);
+    // A warning with its own symbol, a triangle.
+    explicit Alerte(const QString &texte = {}, QWidget *parent = nullptr);
+    Alerte(const QString &symbole, const QString &texte, Ton ton, QWidget *parent = nullptr);
     // No text hides the line.
     void montrer(const QString &texte);
 

@@ -15,16 +15,10 @@ constexpr int largeurDuTexte = 340;
 } // namespace
 
 EtatVide::EtatVide(const QString &symbole, const QString &titre, const QString &raison, QWidget *parent)
-    : QWidget(parent),
-      symbole_(symbole),
-      place_(new QWidget),
-      raison_(new Libelle(raison, titre.isEmpty() ? Libelle::Rang::principal : Libelle::Rang::secondaire))
+    : QWidget(parent), place_(new QWidget), titre_(new Libelle({})), raison_(new Libelle({}))
 {
     place_->setFixedSize(coteSymbole, coteSymbole);
-    auto *grand = new Libelle(titre);
-    grand->setFont(Theme::titreSection());
-    if (titre.isEmpty())
-        grand->hide();
+    titre_->setFont(Theme::titreSection());
     raison_->setWordWrap(true);
     raison_->setAlignment(Qt::AlignHCenter);
     raison_->setFixedWidth(largeurDuTexte);
@@ -34,14 +28,20 @@ EtatVide::EtatVide(const QString &symbole, const QString &titre, const QString &
     colonne->setSpacing(8);
     colonne->addStretch(1);
     colonne->addWidget(place_, 0, Qt::AlignHCenter);
-    colonne->addWidget(grand, 0, Qt::AlignHCenter);
+    colonne->addWidget(titre_, 0, Qt::AlignHCenter);
     colonne->addWidget(raison_, 0, Qt::AlignHCenter);
     colonne->addStretch(1);
+    montrer(symbole, titre, raison);
 }
 
-void EtatVide::setRaison(const QString &raison)
+void EtatVide::montrer(const QString &symbole, const QString &titre, const QString &raison)
 {
+    symbole_ = symbole;
+    titre_->setText(titre);
+    titre_->setVisible(!titre.isEmpty());
     raison_->setText(raison);
+    raison_->setRang(titre.isEmpty() ? Libelle::Rang::principal : Libelle::Rang::secondaire);
+    update();
 }
 
 void EtatVide::paintEvent(QPaintEvent *)

@@ -11,8 +11,9 @@ class EtatVide : public QWidget
 
 public:
     // Without a title, the reason stands alone under its symbol.
-    EtatVide(const QString &symbole, const QString &titre, const QString &raison, QWidget *parent = nullptr);
-    void setRaison(const QString &raison);
+    explicit EtatVide(const QString &symbole = {}, const QString &titre = {}, const QString &raison = {},
+                      QWidget *parent = nullptr);
+    void montrer(const QString &symbole, const QString &titre, const QString &raison);
 
 protected:
     void paintEvent(QPaintEvent *evenement) override;
@@ -20,5 +21,6 @@ protected:
 private:
     QString symbole_;
     QWidget *place_; // of the symbol
+    Libelle *titre_;
     Libelle *raison_;
 };

@@ -1,41 +1,54 @@
 #include "ui/commun/Feuille.h"
 
+#include "ui/commun/Boutons.h"
+#include "ui/commun/Place.h"
+
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPushButton>
-#include <QScreen>
 #include <QVBoxLayout>
 
-Feuille::Feuille(const QString &titre, QWidget *parent)
-    : QDialog(parent), rangee_(new QHBoxLayout), colonne_(new QVBoxLayout(this))
+Feuille::Feuille(const QString &titre, QWidget *parent) : QDialog(parent)
 {
     setWindowTitle(titre);
-    rangee_->setContentsMargins(16, 16, 16, 16);
-    colonne_->setContentsMargins(0, 0, 0, 0);
-    colonne_->setSpacing(0);
-    colonne_->addLayout(rangee_);
-    colonne_->addWidget(filet(Qt::Horizontal));
 }
 
-void Feuille::ouvrir(Feuille *feuille)
+void Feuille::ouvrir()
 {
-    feuille->setAttribute(Qt::WA_DeleteOnClose);
-    feuille->open();
+    setAttribute(Qt::WA_DeleteOnClose);
+    open();
 }
 
 void Feuille::meubler(QWidget *choix, QWidget *page)
 {
-    auto *fermer = new QPushButton(tr("Fermer"));
-    fermer->setAutoDefault(false); // Return is for the sheet's own command
+    QPushButton *fermer = Boutons::deFeuille(tr("Fermer"));
     connect(fermer, &QPushButton::clicked, this, &QDialog::reject);
-    rangee_->addWidget(choix);
-    rangee_->addStretch(1);
-    rangee_->addWidget(fermer);
-    colonne_->addWidget(page, 1);
+    auto *barre = new QHBoxLayout;
+    barre->setContentsMargins(16, 16, 16, 16);
+    barre->addWidget(choix);
+    barre->addStretch(1);
+    barre->addWidget(fermer);
+    auto *colonne = new QVBoxLayout(this);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(0);
+    colonne->addLayout(barre);
+    colonne->addWidget(filet(Qt::Horizontal));
+    colonne->addWidget(page, 1);
 }
 
 void Feuille::prendreLaTaille(QSize taille)
 {
-    resize(taille.boundedTo(screen()->availableSize()));
+    resize(taille.boundedTo(Place::surLEcran(this)));
+}
+
+// On a button, Return presses it; anywhere else, the sheet's own command.
+void Feuille::keyPressEvent(QKeyEvent *evenement)
+{
+    auto *bouton = qobject_cast<QPushButton *>(focusWidget());
+    if (bouton && (evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter))
+        bouton->click();
+    else
+        QDialog::keyPressEvent(evenement);
 }
 
 QWidget *Feuille::filet(Qt::Orientation sens)

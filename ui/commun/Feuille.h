@@ -2,9 +2,6 @@
 
 #include <QDialog>
 
-class QHBoxLayout;
-class QVBoxLayout;
-
 // A sheet over the window: a bar with its choices and the button that closes it (also Escape), its page below.
 class Feuille : public QDialog
 {
@@ -13,17 +10,14 @@ class Feuille : public QDialog
 public:
     Feuille(const QString &titre, QWidget *parent);
     // Shows it over its window until it is closed, which ends its life.
-    static void ouvrir(Feuille *feuille);
+    void ouvrir();
 
 protected:
-    // At the left of the bar, and under it.
+    // `choix` stands at the left of the bar.
     void meubler(QWidget *choix, QWidget *page);
     // The given size, or what the screen leaves.
     void prendreLaTaille(QSize taille);
     // A hairline between two parts of the sheet.
     static QWidget *filet(Qt::Orientation sens);
-
-private:
-    QHBoxLayout *rangee_;
-    QVBoxLayout *colonne_;
+    void keyPressEvent(QKeyEvent *evenement) override;
 };

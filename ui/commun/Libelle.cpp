@@ -1,5 +1,7 @@
 #include "ui/commun/Libelle.h"
 
+#include "ui/Theme.h"
+
 #include <algorithm>
 
 namespace {
@@ -17,7 +19,7 @@ Libelle::Libelle(const QString &texte, Rang rang, QWidget *parent) : QLabel(text
 
 void Libelle::setRang(Rang rang)
 {
-    setForegroundRole(rang == Rang::principal ? QPalette::WindowText : QPalette::PlaceholderText);
+    setForegroundRole(rang == Rang::principal ? QPalette::WindowText : Theme::roleSecondaire);
 }
 
 QSize Libelle::sizeHint() const

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QStyleOption>
 #include <QStyleOptionSlider>
+#include <QToolButton>
 
 #include <algorithm>
 
@@ -94,8 +95,6 @@ void fondDOutil(const QStyleOption &option, QPainter &peintre)
         peintre.setBrush(fond);
         peintre.drawRoundedRect(cadre, Theme::rayonControle, Theme::rayonControle);
     }
-    if (contient(option, QStyle::State_HasFocus) && contient(option, QStyle::State_KeyboardFocusChange))
-        Dessin::anneauDeFocus(peintre, cadre, Theme::rayonControle - 2, Theme::accentTexte(option.palette));
 }
 
 QRect poignee(const QStyleOptionSlider &option)
@@ -153,7 +152,11 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
         fondDOutil(*option, *peintre);
         break;
     case PE_FrameFocusRect:
-        break; // each control draws its own ring
+        // Each control draws its own ring, but a flat tool button is not even asked for its panel.
+        if (qobject_cast<const QToolButton *>(widget) && contient(*option, State_KeyboardFocusChange))
+            Dessin::anneauDeFocus(*peintre, QRectF(widget->rect()).adjusted(3, 3, -3, -3), Theme::rayonControle - 2,
+                                  Theme::accentTexte(option->palette));
+        break;
     default:
         QProxyStyle::drawPrimitive(element, option, peintre, widget);
     }

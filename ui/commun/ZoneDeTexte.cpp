@@ -14,29 +14,21 @@ ZoneDeTexte::ZoneDeTexte(int lignes, QWidget *parent) : QPlainTextEdit(parent)
     setTabChangesFocus(true);
     setFrameShape(QFrame::NoFrame);
     viewport()->setAutoFillBackground(false);
-    document()->setDocumentMargin(marge);
-    setFixedHeight(lignes * fontMetrics().lineSpacing() + 2 * marge);
+    setViewportMargins(marge, marge, 1, marge);
+    document()->setDocumentMargin(1);
+    setFixedHeight(lignes * fontMetrics().lineSpacing() + 2 * (marge + 1));
 }
 
-void ZoneDeTexte::paintEvent(QPaintEvent *evenement)
+// The frame holds the scroll bar too, and changes as a whole with the focus.
+bool ZoneDeTexte::event(QEvent *evenement)
 {
+    if (evenement->type() == QEvent::FocusIn || evenement->type() == QEvent::FocusOut)
+        update();
+    if (evenement->type() != QEvent::Paint)
+        return QPlainTextEdit::event(evenement);
     QStyleOptionFrame cadre;
     cadre.initFrom(this);
-    cadre.rect = viewport()->rect();
-    QPainter peintre(viewport());
+    QPainter peintre(this);
     style()->drawPrimitive(QStyle::PE_PanelLineEdit, &cadre, &peintre, this);
-    QPlainTextEdit::paintEvent(evenement);
-}
-
-// The whole frame changes with the focus, not only the cursor.
-void ZoneDeTexte::focusInEvent(QFocusEvent *evenement)
-{
-    QPlainTextEdit::focusInEvent(evenement);
-    viewport()->update();
-}
-
-void ZoneDeTexte::focusOutEvent(QFocusEvent *evenement)
-{
-    QPlainTextEdit::focusOutEvent(evenement);
-    viewport()->update();
+    return true;
 }

@@ -11,7 +11,5 @@ public:
     explicit ZoneDeTexte(int lignes, QWidget *parent = nullptr);
 
 protected:
-    void paintEvent(QPaintEvent *evenement) override;
-    void focusInEvent(QFocusEvent *evenement) override;
-    void focusOutEvent(QFocusEvent *evenement) override;
+    bool event(QEvent *evenement) override;
 };

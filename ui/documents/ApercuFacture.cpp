@@ -3,11 +3,11 @@
 #include "ui/Theme.h"
 #include "ui/commun/Defilement.h"
 #include "ui/commun/Dessin.h"
+#include "ui/commun/Place.h"
 #include "ui/documents/PageFacture.h"
 
 #include <QDialog>
 #include <QPainter>
-#include <QScreen>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
@@ -33,14 +33,14 @@ void peindreLaPage(QPainter &peintre, const Facture &facture, const QRectF &cadr
     peintre.translate(cadre.topLeft());
     const double echelle = cadre.width() / PageFacture::taille.width();
     peintre.scale(echelle, echelle);
-    PageFacture(facture, couleurs(palette)).peindre(peintre);
+    PageFacture::peindre(peintre, facture, couleurs(palette));
 }
 
 // The page at its own size.
-class Feuillet : public QWidget
+class PageEntiere : public QWidget
 {
 public:
-    explicit Feuillet(Facture facture) : facture_(std::move(facture)) { setFixedSize(PageFacture::taille); }
+    explicit PageEntiere(Facture facture) : facture_(std::move(facture)) { setFixedSize(PageFacture::taille); }
 
 protected:
     void paintEvent(QPaintEvent *) override
@@ -57,7 +57,7 @@ private:
 
 ApercuFacture::ApercuFacture(QWidget *parent) : QAbstractButton(parent)
 {
-    setFixedSize(sizeHint());
+    setFixedSize((QSizeF(PageFacture::taille) * reduction).toSize() + 2 * QSize(marge, marge));
     setCursor(Qt::PointingHandCursor);
     setToolTip(tr("Agrandir la facture"));
     setAccessibleName(toolTip());
@@ -68,11 +68,6 @@ void ApercuFacture::montrer(const Facture &facture)
 {
     facture_ = facture;
     update();
-}
-
-QSize ApercuFacture::sizeHint() const
-{
-    return (QSizeF(PageFacture::taille) * reduction).toSize() + 2 * QSize(marge, marge);
 }
 
 void ApercuFacture::paintEvent(QPaintEvent *)
@@ -93,7 +88,7 @@ void ApercuFacture::agrandir()
     vue->setWindowTitle(facture_.titre());
     auto *page = new QWidget;
     auto *centre = new QVBoxLayout(page);
-    centre->addWidget(new Feuillet(facture_), 0, Qt::AlignCenter);
+    centre->addWidget(new PageEntiere(facture_), 0, Qt::AlignCenter);
     auto *defilement = new Defilement;
     defilement->setWidget(page);
     defilement->setFocusPolicy(Qt::StrongFocus); // the arrows scroll
@@ -101,6 +96,6 @@ void ApercuFacture::agrandir()
     colonne->setContentsMargins(0, 0, 0, 0);
     colonne->addWidget(defilement);
     const QSize voulue = page->sizeHint() + QSize(defilement->verticalScrollBar()->sizeHint().width(), 0);
-    vue->resize(voulue.boundedTo(screen()->availableSize()));
+    vue->resize(voulue.boundedTo(Place::surLEcran(vue)));
     vue->open();
 }

@@ -13,8 +13,6 @@ public:
     explicit ApercuFacture(QWidget *parent = nullptr);
     void montrer(const Facture &facture);
 
-    [[nodiscard]] QSize sizeHint() const override;
-
 protected:
     void paintEvent(QPaintEvent *evenement) override;
 

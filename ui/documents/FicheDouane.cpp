@@ -1,14 +1,13 @@
 #include "ui/documents/FicheDouane.h"
 
 #include "ui/commun/Alerte.h"
+#include "ui/commun/Boutons.h"
 #include "ui/commun/ChampACopier.h"
 #include "ui/commun/Defilement.h"
 #include "ui/commun/EtatVide.h"
 #include "ui/commun/Formulaire.h"
-#include "ui/commun/Icone.h"
 #include "ui/commun/Libelle.h"
 #include "ui/commun/Lien.h"
-#include "ui/documents/TextesDocuments.h"
 
 #include <QPushButton>
 #include <QUrl>
@@ -31,8 +30,11 @@ FicheDouane::FicheDouane(const Reglages &reglages, QWidget *parent)
 void FicheDouane::montrer(const Calcul &calcul)
 {
     setCurrentIndex(calcul.douaneRequise ? 0 : 1);
-    if (calcul.douaneRequise)
-        defilement_->setWidget(page(calcul));
+    const auto rubriques = TextesDocuments::declaration(calcul, reglages_);
+    if (!calcul.douaneRequise || rubriques == montrees_)
+        return; // a new page would lose the focus and the check marks
+    montrees_ = rubriques;
+    defilement_->setWidget(page(TextesDocuments::sansIdentite(calcul, reglages_)));
 }
 
 QWidget *FicheDouane::instructions()
@@ -47,25 +49,23 @@ QWidget *FicheDouane::instructions()
         colonne->addWidget(consigne);
     }
     colonne->addWidget(
-        new Alerte(QStringLiteral("exclamationmark.triangle"),
-                   tr("Sans déclaration, ou avec une déclaration incomplète, le colis est refusé par la douane.")));
+        new Alerte(tr("Sans déclaration, ou avec une déclaration incomplète, le colis est refusé par la douane.")));
     const QString site = TextesDocuments::siteDeLaPoste();
-    auto *ouvrir = new QPushButton(Icone::icone(QStringLiteral("arrow.up.forward.app")), tr("Ouvrir %1").arg(site));
-    ouvrir->setAutoDefault(false);
+    QPushButton *ouvrir = Boutons::deFeuille(tr("Ouvrir %1").arg(site), QStringLiteral("arrow.up.forward.app"));
     connect(ouvrir, &QPushButton::clicked, this,
             [this, site] { Lien::ouvrir(QUrl(QStringLiteral("https://www.%1/").arg(site)), this); });
     colonne->addWidget(ouvrir, 0, Qt::AlignLeft);
     return bloc;
 }
 
-QWidget *FicheDouane::page(const Calcul &calcul)
+QWidget *FicheDouane::page(const QString &manque)
 {
     auto *page = new QWidget;
     auto *colonne = new QVBoxLayout(page);
     colonne->setContentsMargins(20, 20, 20, 24);
     colonne->setSpacing(22);
     colonne->addWidget(instructions());
-    for (const TextesDocuments::Rubrique &rubrique : TextesDocuments::declaration(calcul, reglages_)) {
+    for (const TextesDocuments::Rubrique &rubrique : montrees_) {
         auto *section = new Formulaire::Section(rubrique.titre);
         for (const TextesDocuments::Champ &champ : rubrique.champs) {
             auto *rangee = new ChampACopier(champ.titre, colonneDesTitres);
@@ -74,8 +74,8 @@ QWidget *FicheDouane::page(const Calcul &calcul)
         }
         colonne->addWidget(section);
     }
-    if (const QString manque = TextesDocuments::sansIdentite(calcul, reglages_); !manque.isEmpty())
-        colonne->addWidget(new Alerte(QStringLiteral("exclamationmark.triangle"), manque));
+    if (!manque.isEmpty())
+        colonne->addWidget(new Alerte(manque));
     colonne->addStretch(1);
     return page;
 }

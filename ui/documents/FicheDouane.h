@@ -1,7 +1,6 @@
 #pragma once
 
-#include "model/Calcul.h"
-#include "model/Reglages.h"
+#include "ui/documents/TextesDocuments.h"
 
 #include <QStackedWidget>
 
@@ -19,8 +18,9 @@ public:
 
 private:
     [[nodiscard]] QWidget *instructions();
-    [[nodiscard]] QWidget *page(const Calcul &calcul);
+    [[nodiscard]] QWidget *page(const QString &manque);
 
     const Reglages &reglages_;
+    QList<TextesDocuments::Rubrique> montrees_;
     Defilement *defilement_;
 };

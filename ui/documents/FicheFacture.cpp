@@ -1,13 +1,11 @@
 #include "ui/documents/FicheFacture.h"
 
-#include "documents/Facture.h"
-#include "documents/ReponseType.h"
-#include "model/Catalogue.h"
+#include "documents/NumerotationFactures.h"
 #include "ui/commun/Alerte.h"
+#include "ui/commun/Boutons.h"
 #include "ui/commun/Defilement.h"
 #include "ui/commun/EtatVide.h"
 #include "ui/commun/Formulaire.h"
-#include "ui/commun/Icone.h"
 #include "ui/commun/Libelle.h"
 #include "ui/commun/ZoneDeTexte.h"
 #include "ui/documents/ApercuFacture.h"
@@ -23,57 +21,40 @@
 
 namespace {
 
-enum Page { formulaireDeFacture, factureImpossible, portInconnu };
-
 constexpr int largeurDesChamps = 360;
 constexpr int exemplaires = 2; // the customs pouch asks for two
 const QString cleDossier = QStringLiteral("dossierDesFactures");
-const QString triangle = QStringLiteral("exclamationmark.triangle");
-
-QPushButton *bouton(const QString &symbole, const QString &texte)
-{
-    auto *bouton = new QPushButton(Icone::icone(symbole), texte);
-    bouton->setAutoDefault(false);
-    return bouton;
-}
 
 } // namespace
 
-FicheFacture::FicheFacture(const Catalogue &catalogue, const Commande &commande, const Preferences &preferences,
-                           Aujourdhui aujourdhui, QWidget *parent)
+FicheFacture::FicheFacture(const Reglages &reglages, const Preferences &preferences, Aujourdhui aujourdhui,
+                           QWidget *parent)
     : QStackedWidget(parent),
-      catalogue_(catalogue),
-      commande_(commande),
+      reglages_(reglages),
       preferences_(preferences),
-      numerotation_{preferences},
       aujourdhui_(std::move(aujourdhui)),
-      impossible_(new EtatVide(QStringLiteral("person.2"), tr("Facture impossible"), {})),
-      numero_(new QLineEdit(numerotation_.prochain(commande.vendeur(), aujourdhui_()))),
-      remarque_(new Alerte(triangle, {})),
+      impossible_(new EtatVide),
+      numero_(new QLineEdit),
+      remarque_(new Alerte),
       acheteur_(new ZoneDeTexte(6)),
-      sansSiret_(new Alerte(triangle, {})),
-      vendeur_(new Libelle({})),
+      sansSiret_(new Alerte),
+      identite_(new Libelle({})),
       apercu_(new ApercuFacture),
       issue_(new Alerte(QStringLiteral("checkmark.circle"), {}, Alerte::Ton::note))
 {
     addWidget(formulaire());
     addWidget(impossible_);
-    addWidget(new EtatVide(QStringLiteral("doc.plaintext"), {},
-                           tr("Le port n’est pas encore connu : la facture apparaîtra avec lui.")));
-
-    connect(numero_, &QLineEdit::textChanged, this, &FicheFacture::actualiser);
-    connect(acheteur_, &ZoneDeTexte::textChanged, this, &FicheFacture::actualiser);
-    connect(&commande_, &Commande::change, this, &FicheFacture::actualiser);
-    connect(&catalogue_, &Catalogue::change, this, &FicheFacture::actualiser);
-    actualiser();
+    setFocusProxy(acheteur_);
+    connect(numero_, &QLineEdit::textEdited, this, &FicheFacture::completer);
+    connect(acheteur_, &ZoneDeTexte::textChanged, this, &FicheFacture::completer);
 }
 
 QWidget *FicheFacture::formulaire()
 {
     acheteur_->setPlaceholderText(tr("Nom et adresse de livraison, recopiés du paiement PayPal."));
     numero_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    vendeur_->setWordWrap(true);
-    vendeur_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    identite_->setWordWrap(true);
+    identite_->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
     auto *numero = new Formulaire::Rangee(tr("Numéro"), numero_);
     numero->setDetail(tr("Numéros suivis par vendeur et par année ; le numéro est retenu à l’impression ou à "
@@ -84,7 +65,7 @@ QWidget *FicheFacture::formulaire()
     facture->groupe()->ajouter(new Formulaire::RangeeHaute(tr("Acheteur"), acheteur_));
     facture->groupe()->ajouter(sansSiret_);
     auto *vendeur = new Formulaire::Section(tr("Vendeur"));
-    vendeur->groupe()->ajouter(vendeur_);
+    vendeur->groupe()->ajouter(identite_);
 
     auto *champs = new QWidget;
     auto *colonne = new QVBoxLayout(champs);
@@ -102,19 +83,21 @@ QWidget *FicheFacture::formulaire()
     cotes->setContentsMargins(0, 0, 0, 0);
     cotes->setSpacing(0);
     cotes->addWidget(defilement, 1);
-    cotes->addWidget(papier());
+    cotes->addWidget(sorties());
     return page;
 }
 
-QWidget *FicheFacture::papier()
+QWidget *FicheFacture::sorties()
 {
-    auto *imprimer = bouton(QStringLiteral("printer"), tr("Imprimer %1 exemplaires").arg(exemplaires));
-    auto *enregistrer = bouton(QStringLiteral("square.and.arrow.down"), tr("Enregistrer en PDF…"));
+    QPushButton *imprimer =
+        Boutons::deFeuille(tr("Imprimer %1 exemplaires").arg(exemplaires), QStringLiteral("printer"));
+    QPushButton *enregistrer = Boutons::deFeuille(tr("Enregistrer en PDF…"), QStringLiteral("square.and.arrow.down"));
     connect(imprimer, &QPushButton::clicked, this, &FicheFacture::imprimer);
     connect(enregistrer, &QPushButton::clicked, this, &FicheFacture::enregistrer);
 
-    auto *papier = new QWidget;
-    auto *colonne = new QVBoxLayout(papier);
+    issue_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long sentence must not widen the column
+    auto *sorties = new QWidget;
+    auto *colonne = new QVBoxLayout(sorties);
     colonne->setContentsMargins(4, 24, 20, 24);
     colonne->setSpacing(12);
     colonne->addWidget(imprimer);
@@ -122,79 +105,88 @@ QWidget *FicheFacture::papier()
     colonne->addWidget(apercu_, 0, Qt::AlignHCenter);
     colonne->addWidget(issue_);
     colonne->addStretch(1);
-    return papier;
+    return sorties;
 }
 
-std::optional<Facture> FicheFacture::facture() const
+void FicheFacture::montrer(const Calcul &calcul)
 {
-    const QDate jour = aujourdhui_();
-    return ::facture(Calcul(catalogue_, commande_, jour), catalogue_.reglages(), numero_->text(), jour,
-                     acheteur_->toPlainText());
-}
-
-void FicheFacture::actualiser()
-{
-    const Calcul calcul(catalogue_, commande_, aujourdhui_());
-    const QString obstacle = TextesDocuments::obstacleALaFacture(calcul, catalogue_.reglages());
-    impossible_->setRaison(obstacle);
-    const auto aImprimer = facture();
-    setCurrentIndex(!obstacle.isEmpty() ? factureImpossible : aImprimer ? formulaireDeFacture : portInconnu);
-    remarque_->montrer(TextesDocuments::remarqueSurLeNumero(numero_->text(), aujourdhui_()));
-    issue_->montrer({});
-    if (!aImprimer)
+    const auto obstacle = TextesDocuments::obstacleALaFacture(calcul, reglages_);
+    setCurrentIndex(obstacle ? 1 : 0);
+    if (obstacle) {
+        facture_.reset();
+        impossible_->montrer(obstacle->symbole, obstacle->titre, obstacle->raison);
         return;
-    montrerLeVendeur(aImprimer->vendeur);
-    apercu_->montrer(*aImprimer);
+    }
+    vendeur_ = *calcul.vendeurs().begin();
+    if (!numero_->isModified() && numero_->text().isEmpty())
+        numero_->setText(NumerotationFactures{preferences_}.prochain(vendeur_, aujourdhui_()));
+    facture_ = Facture::de(calcul, reglages_, {}, aujourdhui_(), {});
+    completer();
 }
 
-void FicheFacture::montrerLeVendeur(const IdentiteVendeur &vendeur)
+// Brings the invoice shown up to what is typed.
+void FicheFacture::completer()
 {
-    QStringList lignes{vendeur.nom};
-    lignes += vendeur.adresse;
-    if (vendeur.siret)
-        lignes.append(QStringLiteral("SIRET ") + *vendeur.siret);
-    lignes.append(vendeur.mentionTva);
-    vendeur_->setText(lignes.join(u'\n'));
-    sansSiret_->montrer(
-        vendeur.siret ? QString() : tr("Numéro SIRET manquant : obligatoire sur la facture d’une micro-entreprise."));
+    if (!facture_)
+        return;
+    facture_->numero = numero_->text();
+    facture_->acheteur = acheteur_->toPlainText();
+    remarque_->montrer(TextesDocuments::remarqueSurLeNumero(facture_->numero, facture_->date));
+    identite_->setText(TextesDocuments::vendeur(facture_->vendeur));
+    sansSiret_->montrer(TextesDocuments::sansSiret(facture_->vendeur));
+    apercu_->montrer(*facture_);
+    issue_->montrer({});
 }
 
 void FicheFacture::imprimer()
 {
-    const auto aImprimer = facture();
-    issue_->montrer({});
-    try {
-        if (!aImprimer || !ImpressionFacture::imprimer(*aImprimer, exemplaires, this))
-            return;
-        retenir(aImprimer->numero);
-        issue_->montrer(tr("Facture %1 confiée à l’imprimante.").arg(aImprimer->numero));
-    } catch (const Echec &echec) {
-        QMessageBox::warning(this, tr("Facture"), echec.texte());
-    }
+    emettre(tr("Facture %1 imprimée."),
+            [this](const Facture &facture) { return ImpressionFacture::imprimer(facture, exemplaires, this); });
 }
 
 void FicheFacture::enregistrer()
 {
-    const auto aEnregistrer = facture();
-    if (!aEnregistrer)
+    std::optional<QString> chemin;
+    const bool faite = emettre(tr("Facture %1 enregistrée."), [&](const Facture &facture) {
+        chemin = ImpressionFacture::enregistrer(facture, preferences_.texte(cleDossier), this);
+        return chemin.has_value();
+    });
+    if (!faite)
         return;
-    issue_->montrer({});
     try {
-        const auto chemin = ImpressionFacture::enregistrer(*aEnregistrer, preferences_.texte(cleDossier), this);
-        if (!chemin)
-            return;
-        retenir(aEnregistrer->numero);
-        issue_->montrer(tr("Facture %1 enregistrée.").arg(aEnregistrer->numero));
         preferences_.ecrire(cleDossier, QFileInfo(*chemin).absolutePath());
-    } catch (const Echec &echec) {
-        QMessageBox::warning(this, tr("Facture"), echec.texte());
+    } catch (const ErreurStockage &erreur) {
+        prevenir(tr("Le dossier choisi ne sera pas proposé la prochaine fois.\n%1").arg(erreur.texte()));
     }
+}
+
+bool FicheFacture::emettre(const QString &issue, const std::function<bool(const Facture &)> &sortir)
+{
+    if (!facture_)
+        return false;
+    issue_->montrer({});
+    facture_->date = aujourdhui_();
+    try {
+        if (!sortir(*facture_))
+            return false;
+        retenir(facture_->numero);
+        issue_->montrer(issue.arg(facture_->numero));
+        return true;
+    } catch (const Echec &echec) {
+        prevenir(echec.texte());
+        return false;
+    }
+}
+
+void FicheFacture::prevenir(const QString &message)
+{
+    QMessageBox::warning(this, tr("Facture"), message);
 }
 
 void FicheFacture::retenir(const QString &numero)
 {
     try {
-        numerotation_.retenir(numero, commande_.vendeur());
+        NumerotationFactures{preferences_}.retenir(numero, vendeur_);
     } catch (const ErreurStockage &erreur) {
         throw ErreurStockage(
             tr("La facture %1 est partie, mais son numéro n’a pas été retenu.\n%2").arg(numero, erreur.texte()));

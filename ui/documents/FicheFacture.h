@@ -1,17 +1,17 @@
 #pragma once
 
-#include "documents/NumerotationFactures.h"
+#include "documents/Facture.h"
+#include "model/Preferences.h"
 #include "ui/Aujourdhui.h"
 
 #include <QStackedWidget>
 
+#include <functional>
+#include <optional>
+
 class Alerte;
 class ApercuFacture;
-class Catalogue;
-class Commande;
 class EtatVide;
-struct Facture;
-struct IdentiteVendeur;
 class Libelle;
 class QLineEdit;
 class ZoneDeTexte;
@@ -22,31 +22,33 @@ class FicheFacture : public QStackedWidget
     Q_OBJECT
 
 public:
-    FicheFacture(const Catalogue &catalogue, const Commande &commande, const Preferences &preferences,
-                 Aujourdhui aujourdhui, QWidget *parent = nullptr);
+    // `reglages` is read each time the screen is brought up to date.
+    FicheFacture(const Reglages &reglages, const Preferences &preferences, Aujourdhui aujourdhui,
+                 QWidget *parent = nullptr);
+    void montrer(const Calcul &calcul);
 
 private:
     QWidget *formulaire();
-    QWidget *papier();
-    void actualiser();
-    void montrerLeVendeur(const IdentiteVendeur &vendeur);
-    [[nodiscard]] std::optional<Facture> facture() const;
+    QWidget *sorties();
+    void completer();
     void imprimer();
     void enregistrer();
-    // The invoice has left: its number counts from now on.
+    // `sortir` returns whether the invoice left the program; only then does its number count. True when all is done.
+    bool emettre(const QString &issue, const std::function<bool(const Facture &)> &sortir);
     void retenir(const QString &numero);
+    void prevenir(const QString &message);
 
-    const Catalogue &catalogue_;
-    const Commande &commande_;
+    const Reglages &reglages_;
     Preferences preferences_;
-    NumerotationFactures numerotation_;
     Aujourdhui aujourdhui_;
+    Vendeur vendeur_ = Vendeur::davrel;
+    std::optional<Facture> facture_; // the one shown
     EtatVide *impossible_;
     QLineEdit *numero_;
     Alerte *remarque_;
     ZoneDeTexte *acheteur_;
     Alerte *sansSiret_;
-    Libelle *vendeur_;
+    Libelle *identite_;
     ApercuFacture *apercu_;
     Alerte *issue_;
 };

@@ -1,43 +1,61 @@
 #include "ui/documents/FileImpression.h"
 
+#include "model/Echec.h"
+
 #include <QPrinter>
 #include <QTemporaryFile>
 
 #include <cups/cups.h>
 
+#include <memory>
+
 namespace {
 
-// CUPS' own list of options, freed with it.
-class Options
+constexpr int patience = 10'000; // ms that a server may stay silent
+const QString serviceMuet = QStringLiteral("le service d’impression ne répond pas");
+
+using Connexion = std::unique_ptr<http_t, decltype([](http_t *connexion) { httpClose(connexion); })>;
+
+// A server that hangs must not hold the window for ever.
+Connexion connecter()
+{
+    Connexion connexion(
+        httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, patience, nullptr));
+    if (connexion)
+        httpSetTimeout(
+            connexion.get(), patience / 1000.0, [](http_t *, void *) { return 0; }, nullptr);
+    return connexion;
+}
+
+// A queue as the dialog names it, "queue" or "queue/instance", with the options its user gave it.
+class Destinataire
 {
 public:
-    Options() = default;
-    ~Options() { cupsFreeOptions(nombre_, options_); }
-    Q_DISABLE_COPY_MOVE(Options)
-
-    void ajouter(const char *nom, const QByteArray &valeur)
+    Destinataire(http_t *connexion, const QString &nom)
     {
-        nombre_ = cupsAddOption(nom, valeur.constData(), nombre_, &options_);
+        const QByteArray file = nom.section(u'/', 0, 0).toUtf8();
+        const QByteArray instance = nom.section(u'/', 1).toUtf8();
+        destination_.reset(
+            cupsGetNamedDest(connexion, file.constData(), instance.isEmpty() ? nullptr : instance.constData()));
     }
-    [[nodiscard]] int nombre() const { return nombre_; }
-    [[nodiscard]] cups_option_t *liste() const { return options_; }
+
+    [[nodiscard]] bool existe() const { return destination_ != nullptr; }
+    void ajouter(const QByteArray &nom, const QByteArray &valeur)
+    {
+        destination_->num_options =
+            cupsAddOption(nom.constData(), valeur.constData(), destination_->num_options, &destination_->options);
+    }
+    // Returns the job's number, 0 when it was not taken.
+    [[nodiscard]] int imprimer(http_t *connexion, const QString &fichier, const QString &titre) const
+    {
+        return cupsPrintFile2(connexion, destination_->name, fichier.toUtf8().constData(), titre.toUtf8().constData(),
+                              destination_->num_options, destination_->options);
+    }
 
 private:
-    int nombre_ = 0;
-    cups_option_t *options_ = nullptr;
+    std::unique_ptr<cups_dest_t, decltype([](cups_dest_t *destination) { cupsFreeDests(1, destination); })>
+        destination_;
 };
-
-QByteArray faces(QPrinter::DuplexMode mode)
-{
-    switch (mode) {
-    case QPrinter::DuplexLongSide:
-        return "two-sided-long-edge";
-    case QPrinter::DuplexShortSide:
-        return "two-sided-short-edge";
-    default:
-        return "one-sided";
-    }
-}
 
 QString raison(ipp_status_t statut)
 {
@@ -52,7 +70,7 @@ QString raison(ipp_status_t statut)
         return QStringLiteral("elle ne vous est pas ouverte");
     case IPP_STATUS_ERROR_SERVICE_UNAVAILABLE:
     case IPP_STATUS_ERROR_INTERNAL:
-        return QStringLiteral("le service d’impression ne répond pas");
+        return serviceMuet;
     default:
         return QStringLiteral("erreur du service d’impression (%1)").arg(QString::fromUtf8(cupsLastErrorString()));
     }
@@ -60,24 +78,35 @@ QString raison(ipp_status_t statut)
 
 } // namespace
 
+QList<std::pair<QByteArray, QByteArray>> FileImpression::options(const QPrinter &choix)
+{
+    return {{"copies", QByteArray::number(choix.copyCount())},
+            {"media", "iso_a4_210x297mm"},
+            {"print-scaling", "fit"},
+            {"orientation-requested", "3"}, // portrait
+            {"sides", "one-sided"},         // two copies never share a sheet
+            {"print-color-mode", choix.colorMode() == QPrinter::Color ? "color" : "monochrome"}};
+}
+
 void FileImpression::envoyer(const QByteArray &pdf, const QString &titre, const QPrinter &choix)
 {
     QTemporaryFile fichier;
     if (!fichier.open() || fichier.write(pdf) != pdf.size() || !fichier.flush())
-        throw Refus(
+        throw Echec(
             QStringLiteral("Impression impossible : le dossier des fichiers temporaires est plein ou protégé."));
 
-    Options options;
-    options.ajouter("copies", QByteArray::number(choix.copyCount()));
-    options.ajouter("media", "iso_a4_210x297mm");
-    options.ajouter("print-scaling", "fit");
-    options.ajouter("orientation-requested", "3"); // portrait: never turned to fit
-    options.ajouter("sides", faces(choix.duplex()));
-    options.ajouter("print-color-mode", choix.colorMode() == QPrinter::Color ? "color" : "monochrome");
-    const int travail = cupsPrintFile2(CUPS_HTTP_DEFAULT, choix.printerName().toUtf8().constData(),
-                                       fichier.fileName().toUtf8().constData(), titre.toUtf8().constData(),
-                                       options.nombre(), options.liste());
-    if (travail == 0)
-        throw Refus(QStringLiteral("L’imprimante « %1 » n’a pas pris la facture : %2.")
-                        .arg(choix.printerName(), raison(cupsLastError())));
+    const auto refuser = [&](const QString &raison) {
+        throw Echec(
+            QStringLiteral("L’imprimante « %1 » n’a pas pris la facture : %2.").arg(choix.printerName(), raison));
+    };
+    const Connexion connexion = connecter();
+    if (!connexion)
+        refuser(serviceMuet);
+    Destinataire destinataire(connexion.get(), choix.printerName());
+    if (!destinataire.existe())
+        refuser(raison(cupsLastError()));
+    for (const auto &[nom, valeur] : options(choix))
+        destinataire.ajouter(nom, valeur);
+    if (destinataire.imprimer(connexion.get(), fichier.fileName(), titre) == 0)
+        refuser(raison(cupsLastError()));
 }

@@ -1,8 +1,10 @@
 #pragma once
 
-#include "model/Echec.h"
-
 #include <QByteArray>
+#include <QList>
+#include <QString>
+
+#include <utility>
 
 class QPrinter;
 
@@ -10,15 +12,11 @@ class QPrinter;
 // refused the job or no server runs.
 namespace FileImpression {
 
-// The queue did not take the job; the text says why, in French.
-class Refus : public Echec
-{
-public:
-    using Echec::Echec;
-};
+// What the job asks for: the copies and colours chosen, on A4, scaled to fit, never turned.
+QList<std::pair<QByteArray, QByteArray>> options(const QPrinter &choix);
 
-// Hands the PDF document over to the queue chosen on `choix`, with its copies and sides, on A4 and scaled to fit.
-// Throws Refus.
+// Hands the PDF document of one page over to the queue chosen. Throws Echec, which says in French why the queue did
+// not take it.
 void envoyer(const QByteArray &pdf, const QString &titre, const QPrinter &choix);
 
 } // namespace FileImpression

@@ -2,6 +2,7 @@
 
 #include "model/Fichier.h"
 #include "ui/documents/FileImpression.h"
+#include "ui/documents/MetadonneesPdf.h"
 #include "ui/documents/PageFacture.h"
 
 #include <QBuffer>
@@ -13,47 +14,14 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QStandardPaths>
-#include <QXmlStreamWriter>
 
 namespace {
 
-// The standard's packet of metadata: the only place where a QPdfWriter takes an author.
-QByteArray metadonnees(const Facture &facture)
-{
-    const QString rdf = QStringLiteral("http://www.w3.org/1999/02/22-rdf-syntax-ns#");
-    const QString dublinCore = QStringLiteral("http://purl.org/dc/elements/1.1/");
-    QByteArray octets;
-    QXmlStreamWriter xml(&octets);
-    const auto propriete = [&](const char *nom, const char *liste, const QString &valeur) {
-        xml.writeStartElement(dublinCore, QLatin1String(nom));
-        xml.writeStartElement(rdf, QLatin1String(liste));
-        xml.writeStartElement(rdf, QStringLiteral("li"));
-        if (QLatin1String(liste) == QLatin1String("Alt"))
-            xml.writeAttribute(QStringLiteral("xml:lang"), QStringLiteral("x-default"));
-        xml.writeCharacters(valeur);
-        xml.writeEndElement();
-        xml.writeEndElement();
-        xml.writeEndElement();
-    };
-    xml.writeProcessingInstruction(QStringLiteral("xpacket"),
-                                   QStringLiteral("begin='\uFEFF' id='W5M0MpCehiHzreSzNTczkc9d'"));
-    xml.writeNamespace(QStringLiteral("adobe:ns:meta/"), QStringLiteral("x"));
-    xml.writeStartElement(QStringLiteral("adobe:ns:meta/"), QStringLiteral("xmpmeta"));
-    xml.writeNamespace(rdf, QStringLiteral("rdf"));
-    xml.writeStartElement(rdf, QStringLiteral("RDF"));
-    xml.writeNamespace(dublinCore, QStringLiteral("dc"));
-    xml.writeStartElement(rdf, QStringLiteral("Description"));
-    xml.writeAttribute(rdf, QStringLiteral("about"), QString());
-    propriete("title", "Alt", facture.titre());
-    propriete("creator", "Seq", facture.vendeur.nom);
-    xml.writeEndDocument();
-    octets += "\n<?xpacket end='w'?>";
-    return octets;
-}
+const QString titreDuDialogue = QStringLiteral("Enregistrer la facture");
 
 // The dialog adds the suffix only to a name without any dot, and asked about replacing another file then.
-// Empty when the user keeps the file that stands there.
-QString enPdf(const QString &chemin, QWidget *parent)
+// None when the user keeps the file that stands there.
+std::optional<QString> enPdf(const QString &chemin, QWidget *parent)
 {
     const QString suffixe = QStringLiteral(".pdf");
     if (chemin.endsWith(suffixe, Qt::CaseInsensitive))
@@ -61,10 +29,20 @@ QString enPdf(const QString &chemin, QWidget *parent)
     const QString complet = chemin + suffixe;
     const QString question =
         QStringLiteral("« %1 » existe déjà. Voulez-vous le remplacer ?").arg(QFileInfo(complet).fileName());
-    const bool garde =
-        QFile::exists(complet)
-        && QMessageBox::question(parent, QStringLiteral("Enregistrer la facture"), question) != QMessageBox::Yes;
-    return garde ? QString() : complet;
+    if (QFile::exists(complet)
+        && QMessageBox::question(parent, titreDuDialogue, question, QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
+               != QMessageBox::Yes)
+        return std::nullopt;
+    return complet;
+}
+
+void ecrire(const QString &chemin, const QByteArray &pdf)
+{
+    try {
+        Fichier::ecrire(chemin, pdf);
+    } catch (const ErreurStockage &erreur) {
+        throw Echec(QStringLiteral("La facture n’a pas été enregistrée.\n%1").arg(erreur.texte()));
+    }
 }
 
 } // namespace
@@ -79,13 +57,13 @@ QByteArray ImpressionFacture::pdf(const Facture &facture)
     pdf.setPageMargins({});
     pdf.setTitle(facture.titre());
     pdf.setCreator(QStringLiteral("Quillet"));
-    pdf.setDocumentXmpMetadata(metadonnees(facture));
+    pdf.setDocumentXmpMetadata(MetadonneesPdf::paquet(facture.titre(), facture.vendeur.nom));
     QPainter peintre;
     const bool commence = peintre.begin(&pdf);
     if (commence)
-        PageFacture(facture, PageFacture::imprimees()).peindre(peintre);
+        PageFacture::peindre(peintre, facture, PageFacture::imprimees());
     if (!commence || !peintre.end() || !octets.data().startsWith("%PDF-"))
-        throw Erreur(QStringLiteral("La facture n’a pas pu être mise en page."));
+        throw Echec(QStringLiteral("La facture n’a pas pu être mise en page."));
     return octets.data();
 }
 
@@ -106,14 +84,14 @@ bool ImpressionFacture::imprimer(const Facture &facture, int exemplaires, QWidge
     if (choix.outputFileName().isEmpty())
         FileImpression::envoyer(page, titre, choix);
     else
-        Fichier::ecrire(choix.outputFileName(), page);
+        ecrire(choix.outputFileName(), page);
     return true;
 }
 
 std::optional<QString> ImpressionFacture::enregistrer(const Facture &facture, const QString &dossier, QWidget *parent)
 {
     const bool connu = !dossier.isEmpty() && QDir(dossier).exists();
-    QFileDialog dialogue(parent, QStringLiteral("Enregistrer la facture"),
+    QFileDialog dialogue(parent, titreDuDialogue,
                          connu ? dossier : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
                          QStringLiteral("Documents PDF (*.pdf)"));
     dialogue.setAcceptMode(QFileDialog::AcceptSave);
@@ -121,9 +99,8 @@ std::optional<QString> ImpressionFacture::enregistrer(const Facture &facture, co
     dialogue.selectFile(facture.nomDeFichier());
     if (dialogue.exec() != QDialog::Accepted)
         return std::nullopt;
-    const QString chemin = enPdf(dialogue.selectedFiles().constFirst(), parent);
-    if (chemin.isEmpty())
-        return std::nullopt;
-    Fichier::ecrire(chemin, pdf(facture));
+    const auto chemin = enPdf(dialogue.selectedFiles().constFirst(), parent);
+    if (chemin)
+        ecrire(*chemin, pdf(facture));
     return chemin;
 }

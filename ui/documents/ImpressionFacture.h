@@ -1,7 +1,6 @@
 #pragma once
 
 #include "documents/Facture.h"
-#include "model/Echec.h"
 
 #include <QByteArray>
 
@@ -12,14 +11,7 @@ class QWidget;
 // How an invoice leaves the program: on paper or as a file.
 namespace ImpressionFacture {
 
-// The page could not be made; the text says so, in French.
-class Erreur : public Echec
-{
-public:
-    using Echec::Echec;
-};
-
-// The page as a PDF document of one page. Throws Erreur.
+// The page as a PDF document of one page. Throws Echec.
 QByteArray pdf(const Facture &facture);
 
 // Both ask in the platform's dialog, over `parent`, and throw Echec when the invoice could not leave.

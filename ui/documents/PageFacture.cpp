@@ -51,13 +51,12 @@ QFont police(const Caractere &caractere, const QString &texte)
     return police;
 }
 
-} // namespace
-
 // The page from top to bottom. Without a painter it only measures: what is measured is what is drawn.
-class PageFacture::Composition
+class Composition
 {
 public:
-    Composition(const Facture &facture, const Couleurs &couleurs, double largeur, QPainter *peintre = nullptr)
+    Composition(const Facture &facture, const PageFacture::Couleurs &couleurs, double largeur,
+                QPainter *peintre = nullptr)
         : facture_(facture),
           largeur_(largeur),
           peintre_(peintre),
@@ -108,8 +107,8 @@ private:
     double y_ = 0;
 };
 
-double PageFacture::Composition::bloc(const QString &texte, const Caractere &caractere, double x, double y,
-                                      double largeur, Qt::Alignment alignement) const
+double Composition::bloc(const QString &texte, const Caractere &caractere, double x, double y, double largeur,
+                         Qt::Alignment alignement) const
 {
     const QString paragraphes = texte.normalized(QString::NormalizationForm_C).replace(u'\n', QChar::LineSeparator);
     QTextLayout mise(paragraphes, police(caractere, paragraphes));
@@ -132,46 +131,48 @@ double PageFacture::Composition::bloc(const QString &texte, const Caractere &car
     return hauteur;
 }
 
-void PageFacture::Composition::filet(const QColor &couleur) const
+void Composition::filet(const QColor &couleur) const
 {
     if (peintre_)
         peintre_->fillRect(QRectF(0, y_ - epaisseurDuFilet / 2, largeur_, epaisseurDuFilet), couleur);
 }
 
-void PageFacture::Composition::entreSections()
+void Composition::entreSections()
 {
     y_ += espace / 2;
     filet(filet_);
     y_ += espace / 2;
 }
 
-void PageFacture::Composition::enTete()
+void Composition::enTete()
 {
     const IdentiteVendeur &vendeur = facture_.vendeur;
-    const double gauche = largeur_ * 0.56;
-    const double droite = largeur_ - gauche;
-    double bas = bloc(vendeur.nom, titre_, 0, y_, gauche - espace) + 4;
-    QStringList coordonnees = vendeur.adresse;
-    if (vendeur.siret)
-        coordonnees.append(QStringLiteral("SIRET ") + *vendeur.siret);
-    bas += bloc(coordonnees.join(u'\n'), discret_, 0, y_ + bas, gauche - espace);
+    const double largeurDuNumero = largeur_ * 0.44;
+    const double largeurDuVendeur = largeur_ - largeurDuNumero - espace;
+    double hauteurDuVendeur = bloc(vendeur.nom, titre_, 0, y_, largeurDuVendeur) + 4;
+    hauteurDuVendeur += bloc(coordonnees(vendeur).join(u'\n'), discret_, 0, y_ + hauteurDuVendeur, largeurDuVendeur);
 
-    const Caractere intitule{10, QFont::DemiBold, accent_};
-    double hauteur = bloc(facture_.numero, titre_, gauche, y_, droite, Qt::AlignRight) + 4;
-    hauteur += bloc(QStringLiteral("FACTURE · INVOICE"), intitule, gauche, y_ + hauteur, droite, Qt::AlignRight);
-    hauteur += bloc(Format::date(facture_.date), discret_, gauche, y_ + hauteur, droite, Qt::AlignRight);
+    double hauteurDuNumero = 0;
+    const auto aDroite = [&](const QString &texte, const Caractere &caractere) {
+        hauteurDuNumero +=
+            bloc(texte, caractere, largeur_ - largeurDuNumero, y_ + hauteurDuNumero, largeurDuNumero, Qt::AlignRight);
+    };
+    aDroite(facture_.numero, titre_);
+    hauteurDuNumero += 4;
+    aDroite(QStringLiteral("FACTURE · INVOICE"), {10, QFont::DemiBold, accent_});
+    aDroite(Format::date(facture_.date), discret_);
 
-    y_ += std::max(bas, hauteur);
+    y_ += std::max(hauteurDuVendeur, hauteurDuNumero);
     entreSections();
 }
 
-void PageFacture::Composition::acheteur()
+void Composition::acheteur()
 {
     y_ += bloc(QStringLiteral("Facturé à · Bill to"), legende_, 0, y_, largeur_) + 4;
     y_ += bloc(facture_.acheteur, texte_, 0, y_, largeur_) + espace;
 }
 
-void PageFacture::Composition::tableau()
+void Composition::tableau()
 {
     const double hauteur = bloc(QStringLiteral("Désignation · Description"), legende_, 0, y_, largeur_ / 2);
     bloc(QStringLiteral("Montant · Amount"), legende_, largeur_ / 2, y_, largeur_ / 2, Qt::AlignRight);
@@ -182,7 +183,7 @@ void PageFacture::Composition::tableau()
     total();
 }
 
-void PageFacture::Composition::ligne(const Facture::Ligne &ligne)
+void Composition::ligne(const Facture::Ligne &ligne)
 {
     filet(filet_);
     y_ += margeDeRangee;
@@ -197,7 +198,7 @@ void PageFacture::Composition::ligne(const Facture::Ligne &ligne)
     y_ += hauteur + margeDeRangee;
 }
 
-void PageFacture::Composition::envoi()
+void Composition::envoi()
 {
     filet(filet_);
     y_ += margeDeRangee;
@@ -206,7 +207,7 @@ void PageFacture::Composition::envoi()
     y_ += hauteur + margeDeRangee;
 }
 
-void PageFacture::Composition::total()
+void Composition::total()
 {
     filet(accent_);
     y_ += margeDeRangee + 2;
@@ -218,14 +219,14 @@ void PageFacture::Composition::total()
         y_ += bloc(facture_.vendeur.mentionTva, note_, 0, y_ + 4, largeur_) + 4;
 }
 
-void PageFacture::Composition::reglement()
+void Composition::reglement()
 {
     y_ += espace;
     const Caractere reglee{10, QFont::Medium, accent_};
     y_ += bloc(QStringLiteral("Réglée par PayPal · Paid via PayPal"), reglee, 0, y_, largeur_);
 }
 
-void PageFacture::Composition::mentions()
+void Composition::mentions()
 {
     entreSections();
     const QString codeSH = facture_.codeSH;
@@ -233,6 +234,8 @@ void PageFacture::Composition::mentions()
                    + QStringLiteral(" · Goods: printed books, made in France, HS code ") + codeSH,
                note_, 0, y_, largeur_);
 }
+
+} // namespace
 
 PageFacture::Couleurs PageFacture::imprimees()
 {
@@ -242,18 +245,14 @@ PageFacture::Couleurs PageFacture::imprimees()
             .accent = QColor(13, 104, 98)};
 }
 
-PageFacture::PageFacture(Facture facture, const Couleurs &couleurs) : facture_(std::move(facture)), couleurs_(couleurs)
-{
-}
-
-void PageFacture::peindre(QPainter &peintre) const
+void PageFacture::peindre(QPainter &peintre, const Facture &facture, const Couleurs &couleurs)
 {
     // Drawn smaller, a page is as much wider: its lines get fewer, never more, so that this scale is enough.
-    const double hauteur = Composition(facture_, couleurs_, largeurUtile).composer();
+    const double hauteur = Composition(facture, couleurs, largeurUtile).composer();
     const double echelle = std::min(1.0, hauteurUtile / hauteur);
     peintre.save();
     peintre.translate(marge, marge);
     peintre.scale(echelle, echelle);
-    Composition(facture_, couleurs_, largeurUtile / echelle, &peintre).composer();
+    Composition(facture, couleurs, largeurUtile / echelle, &peintre).composer();
     peintre.restore();
 }

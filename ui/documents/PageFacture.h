@@ -8,29 +8,22 @@
 class QPainter;
 
 // The invoice as one A4 page, painted alike on the screen, in a PDF and on paper.
-class PageFacture
+namespace PageFacture {
+
+struct Couleurs
 {
-public:
-    struct Couleurs
-    {
-        QColor encre;
-        QColor gris;   // secondary texts
-        QColor filet;  // rules
-        QColor accent; // the seller's mark on the page
-    };
-
-    static constexpr QSize taille{595, 842}; // points
-    // Those of a PDF, whatever the screen shows.
-    static Couleurs imprimees();
-
-    PageFacture(Facture facture, const Couleurs &couleurs);
-
-    // In points from the painter's origin. What is too long for the page is drawn smaller, never cut.
-    void peindre(QPainter &peintre) const;
-
-private:
-    class Composition;
-
-    Facture facture_;
-    Couleurs couleurs_;
+    QColor encre;
+    QColor gris;   // secondary texts
+    QColor filet;  // rules
+    QColor accent; // the seller's mark on the page
 };
+
+inline constexpr QSize taille{595, 842}; // points
+
+// Those of a PDF, whatever the screen shows.
+Couleurs imprimees();
+
+// In points from the painter's origin. What is too long for the page is drawn smaller, never cut.
+void peindre(QPainter &peintre, const Facture &facture, const Couleurs &couleurs);
+
+} // namespace PageFacture

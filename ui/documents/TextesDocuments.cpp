@@ -1,6 +1,7 @@
 #include "ui/documents/TextesDocuments.h"
 
 #include "documents/ArticleDouane.h"
+#include "documents/Facture.h"
 #include "documents/NumerotationFactures.h"
 #include "documents/ReponseType.h"
 #include "model/Format.h"
@@ -27,7 +28,7 @@ Rubrique envoi(const Calcul &calcul)
     return envoi;
 }
 
-Rubrique article(qsizetype numero, const ArticleDouane &article)
+Rubrique article(int numero, const ArticleDouane &article)
 {
     return {QStringLiteral("Article %1").arg(numero),
             {{QStringLiteral("Description"), article.description, {}},
@@ -66,18 +67,28 @@ QStringList TextesDocuments::instructionsDeDouane()
 QList<Rubrique> TextesDocuments::declaration(const Calcul &calcul, const Reglages &reglages)
 {
     QList<Rubrique> rubriques{envoi(calcul)};
+    int numero = 0;
     for (const ArticleDouane &declare : articlesDouane(calcul, reglages.douane.codeSH))
-        rubriques.append(article(rubriques.size(), declare));
+        rubriques.append(article(++numero, declare));
     rubriques.append(expediteur(calcul, reglages));
     return rubriques;
 }
 
-QString TextesDocuments::obstacleALaFacture(const Calcul &calcul, const Reglages &reglages)
+std::optional<TextesDocuments::Obstacle> TextesDocuments::obstacleALaFacture(const Calcul &calcul,
+                                                                             const Reglages &reglages)
 {
+    const QString impossible = QStringLiteral("Facture impossible");
     if (calcul.vendeurs().size() != 1)
-        return QStringLiteral(
-            "Une facture par vendeur : séparez les livres de Davrel et ceux de Mireva en deux commandes.");
-    return sansIdentite(calcul, reglages);
+        return Obstacle{QStringLiteral("person.2"), impossible,
+                        QStringLiteral("Une facture par vendeur : séparez les livres de Davrel et ceux de Mireva en "
+                                       "deux commandes.")};
+    if (const QString manque = sansIdentite(calcul, reglages); !manque.isEmpty())
+        return Obstacle{QStringLiteral("person.2"), impossible, manque};
+    if (!calcul.envoi)
+        return Obstacle{QStringLiteral("doc.plaintext"),
+                        {},
+                        QStringLiteral("Le port n’est pas encore connu : la facture apparaîtra avec lui.")};
+    return std::nullopt;
 }
 
 QString TextesDocuments::sansIdentite(const Calcul &calcul, const Reglages &reglages)
@@ -94,7 +105,21 @@ QString TextesDocuments::remarqueSurLeNumero(const QString &numero, QDate jour)
     const auto annee = NumerotationFactures::annee(numero);
     if (!annee)
         return QStringLiteral("Ce numéro n’a pas la forme %1-001 : il ne sera pas retenu.").arg(jour.year());
-    if (*annee != jour.year())
-        return QStringLiteral("Ce numéro n’est pas de l’année %1.").arg(jour.year());
+    if (*annee > jour.year())
+        return QStringLiteral("Ce numéro est d’une année à venir : après lui, ceux de %1 ne seront plus retenus.")
+            .arg(jour.year());
+    if (*annee < jour.year())
+        return QStringLiteral("Ce numéro est d’une année passée : la suite de %1 n’en change pas.").arg(jour.year());
     return {};
+}
+
+QString TextesDocuments::vendeur(const IdentiteVendeur &vendeur)
+{
+    return (QStringList{vendeur.nom} + coordonnees(vendeur) + QStringList{vendeur.mentionTva}).join(u'\n');
+}
+
+QString TextesDocuments::sansSiret(const IdentiteVendeur &vendeur)
+{
+    return vendeur.siret ? QString()
+                         : QStringLiteral("Numéro SIRET manquant : obligatoire sur la facture d’une micro-entreprise.");
 }

@@ -6,6 +6,8 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
+
 // What the documents' screens say: texts only, laid out by the widgets.
 namespace TextesDocuments {
 
@@ -33,11 +35,25 @@ QStringList instructionsDeDouane();
 // The form from top to bottom; the sender stands last, with no field when the seller's identity is not known.
 QList<Rubrique> declaration(const Calcul &calcul, const Reglages &reglages);
 
-// Why no invoice can be made; empty when one can.
-QString obstacleALaFacture(const Calcul &calcul, const Reglages &reglages);
+// Why no invoice can be made.
+struct Obstacle
+{
+    QString symbole;
+    QString titre; // may be empty
+    QString raison;
+
+    bool operator==(const Obstacle &) const = default;
+};
+
+// None when the invoice can be made.
+std::optional<Obstacle> obstacleALaFacture(const Calcul &calcul, const Reglages &reglages);
 // That the settings lack the seller's identity; empty when they do not.
 QString sansIdentite(const Calcul &calcul, const Reglages &reglages);
 // What is odd about a typed number; empty when it belongs to the day's series.
 QString remarqueSurLeNumero(const QString &numero, QDate jour);
+// The seller, as the invoice will name them, one line each.
+QString vendeur(const IdentiteVendeur &vendeur);
+// That the seller has no registration number; empty when there is one.
+QString sansSiret(const IdentiteVendeur &vendeur);
 
 } // namespace TextesDocuments

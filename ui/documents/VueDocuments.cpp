@@ -20,12 +20,13 @@ VueDocuments::VueDocuments(const Catalogue &catalogue, const Commande &commande,
       catalogue_(catalogue),
       commande_(commande),
       aujourdhui_(std::move(aujourdhui)),
-      douane_(new FicheDouane(catalogue.reglages()))
+      douane_(new FicheDouane(catalogue.reglages())),
+      facture_(new FicheFacture(catalogue.reglages(), preferences, aujourdhui_))
 {
     auto *onglets = new ChoixSegmente({tr("Déclaration en douane"), tr("Facture")}, {.police = font()});
     auto *pages = new QStackedWidget;
     pages->addWidget(douane_);
-    pages->addWidget(new FicheFacture(catalogue, commande, preferences, aujourdhui_));
+    pages->addWidget(facture_);
     meubler(onglets, pages);
     connect(onglets, &ChoixSegmente::choisi, pages, &QStackedWidget::setCurrentIndex);
     onglets->montrer(static_cast<int>(onglet));
@@ -34,10 +35,13 @@ VueDocuments::VueDocuments(const Catalogue &catalogue, const Commande &commande,
     connect(&commande_, &Commande::change, this, &VueDocuments::actualiser);
     connect(&catalogue_, &Catalogue::change, this, &VueDocuments::actualiser);
     actualiser();
+    pages->currentWidget()->setFocus();
     prendreLaTaille(tailleDesDocuments);
 }
 
 void VueDocuments::actualiser()
 {
-    douane_->montrer(Calcul(catalogue_, commande_, aujourdhui_()));
+    const Calcul calcul(catalogue_, commande_, aujourdhui_());
+    douane_->montrer(calcul);
+    facture_->montrer(calcul);
 }

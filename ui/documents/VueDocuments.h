@@ -3,13 +3,12 @@
 #include "model/Preferences.h"
 #include "ui/Aujourdhui.h"
 #include "ui/commun/Feuille.h"
+#include "ui/documents/OngletDocuments.h"
 
 class Catalogue;
 class Commande;
 class FicheDouane;
-
-// The tabs of the documents, in their order.
-enum class OngletDocuments { douane, facture };
+class FicheFacture;
 
 // What goes with the parcel: the values of the customs form, and the invoice.
 class VueDocuments : public Feuille
@@ -27,4 +26,5 @@ private:
     const Commande &commande_;
     Aujourdhui aujourdhui_;
     FicheDouane *douane_;
+    FicheFacture *facture_;
 };

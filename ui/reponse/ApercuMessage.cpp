@@ -24,26 +24,27 @@ void ApercuMessage::montrer(const ReponseType &reponse, const QString &adresse)
     const int defilement = verticalScrollBar()->value();
     clear();
     QTextCursor plume(document());
-    const auto ligne = [&plume](const QString &texte, const QFont &police, const QColor &couleur, qreal dessous = 0) {
-        QTextCharFormat caractere;
-        caractere.setFont(police);
-        caractere.setForeground(couleur);
+    const auto ligne = [&plume](const QString &texte, const QTextCharFormat &caractere, qreal dessous = 0) {
         QTextBlockFormat paragraphe;
         paragraphe.setBottomMargin(dessous);
         plume.setBlockFormat(paragraphe);
         plume.insertText(texte, caractere);
     };
-    const QColor encre = palette().color(QPalette::WindowText);
-    const QFont gras = Theme::enGras(font());
-    ligne(reponse.sujet(), gras, encre, 8);
+    QTextCharFormat simple;
+    simple.setFont(font());
+    QTextCharFormat gras;
+    gras.setFont(Theme::enGras(font()));
+    QTextCharFormat discret = simple;
+    discret.setForeground(Theme::secondaire(palette()));
+    ligne(reponse.sujet(), gras, 8);
     if (!adresse.isEmpty()) {
         plume.insertBlock();
-        ligne(tr("À : %1").arg(adresse), font(), Theme::secondaire(palette()), 8);
+        ligne(tr("À : %1").arg(adresse), discret, 8);
     }
     const QString total = reponse.ligneTotal();
     for (const QString &texte : reponse.corps().split(u'\n')) {
         plume.insertBlock();
-        ligne(texte, texte == total ? gras : font(), encre);
+        ligne(texte, texte == total ? gras : simple);
     }
     verticalScrollBar()->setValue(defilement);
 }

@@ -1,5 +1,7 @@
 #include "ui/reponse/Mail.h"
 
+#include "model/Echec.h"
+
 #include <QProcess>
 #include <QUrl>
 
@@ -15,7 +17,7 @@ using Liberer = decltype([](auto *objet) { liberer(objet); });
 using Programme = std::unique_ptr<GAppInfo, Liberer<g_object_unref>>;
 using Mots = std::unique_ptr<char *, Liberer<g_strfreev>>;
 
-QString code(const QString &texte, const QByteArray &saufs = {})
+QString encode(const QString &texte, const QByteArray &saufs = {})
 {
     return QString::fromLatin1(QUrl::toPercentEncoding(texte, saufs));
 }
@@ -46,14 +48,14 @@ QString mailto(const QString &a, const QString &sujet, const QString &corps)
 {
     QString lignes = corps;
     lignes.replace(u'\n', QStringLiteral("\r\n")); // what the scheme asks for
-    return QStringLiteral("mailto:%1?subject=%2&body=%3").arg(code(a, "@"), code(sujet), code(lignes));
+    return QStringLiteral("mailto:%1?subject=%2&body=%3").arg(encode(a, "@"), encode(sujet), encode(lignes));
 }
 
 // Values of its own option: separated by commas, so that each is encoded whole. Its usual quoted form would let a
 // subject end the quotes and attach a file.
 QString pourThunderbird(const QString &a, const QString &sujet, const QString &html)
 {
-    return QStringLiteral("to=%1,subject=%2,format=html,body=%3").arg(code(a), code(sujet), code(html));
+    return QStringLiteral("to=%1,subject=%2,format=html,body=%3").arg(encode(a), encode(sujet), encode(html));
 }
 
 bool estThunderbird(GAppInfo *programme)
@@ -65,25 +67,25 @@ bool estThunderbird(GAppInfo *programme)
 }
 
 // The words of its command line, without the places ("%u", "@@u") where a desktop puts what to open.
-QStringList commande(GAppInfo *programme)
+QStringList ligneDeCommande(GAppInfo *programme)
 {
-    const char *ligne = g_app_info_get_commandline(programme);
+    const char *exec = g_app_info_get_commandline(programme);
     char **mots = nullptr;
-    if (!ligne || !g_shell_parse_argv(ligne, nullptr, &mots, nullptr))
+    if (!exec || !g_shell_parse_argv(exec, nullptr, &mots, nullptr))
         return {};
     const Mots garde(mots);
-    QStringList commande;
+    QStringList ligne;
     for (char **mot = mots; *mot; ++mot) {
         const QString texte = QString::fromUtf8(*mot);
         if (!texte.startsWith(QLatin1String("@@")) && !(texte.size() == 2 && texte.startsWith(u'%')))
-            commande.append(texte);
+            ligne.append(texte);
     }
-    return commande;
+    return ligne;
 }
 
 bool composer(GAppInfo *programme, const QString &message)
 {
-    QStringList mots = commande(programme);
+    QStringList mots = ligneDeCommande(programme);
     if (mots.isEmpty())
         return false;
     const QString executable = mots.takeFirst();
@@ -121,6 +123,6 @@ void Mail::ecrire(const QString &a, const QString &sujet, const QString &corps, 
                            ? composer(programme.get(), pourThunderbird(destinataire, titre, enHtml(corps, enGras)))
                            : ouvrir(programme.get(), mailto(destinataire, titre, corps));
     if (!parti)
-        throw Erreur(
+        throw Echec(
             QStringLiteral("%1 ne s’est pas ouvert.").arg(QString::fromUtf8(g_app_info_get_name(programme.get()))));
 }

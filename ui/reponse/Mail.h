@@ -1,7 +1,5 @@
 #pragma once
 
-#include "model/Echec.h"
-
 #include <QString>
 
 #include <optional>
@@ -9,20 +7,13 @@
 // The way out through the user's mail program.
 namespace Mail {
 
-// The mail program is there, but did not start.
-class Erreur : public Echec
-{
-public:
-    using Echec::Echec;
-};
-
 // Whether the text, blanks around it aside, is one plain address: nothing that could name another recipient, a header
 // or a file.
 bool estUneAdresse(const QString &texte);
 
 // Opens a new message, ready to send. `a` is handed over only when it is one plain address. The first occurrence of
 // `enGras` in `corps` is bold, where the mail program takes styled text. Without any mail program, does nothing.
-// Throws Erreur.
+// Throws Echec when there is one that does not start.
 void ecrire(const QString &a, const QString &sujet, const QString &corps, const std::optional<QString> &enGras);
 
 } // namespace Mail

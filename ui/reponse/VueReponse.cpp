@@ -2,14 +2,16 @@
 
 #include "documents/ReponseType.h"
 #include "model/Catalogue.h"
+#include "model/Echec.h"
 #include "ui/Theme.h"
 #include "ui/commun/Alerte.h"
-#include "ui/commun/ChoixSegmente.h"
+#include "ui/commun/ChoixLangue.h"
 #include "ui/commun/EtatVide.h"
 #include "ui/commun/Formulaire.h"
 #include "ui/commun/Icone.h"
 #include "ui/reponse/ApercuMessage.h"
 #include "ui/reponse/Mail.h"
+#include "ui/reponse/TextesReponse.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -47,10 +49,10 @@ VueReponse::VueReponse(const Catalogue &catalogue, Commande &commande, Aujourdhu
       catalogue_(catalogue),
       commande_(commande),
       aujourdhui_(std::move(aujourdhui)),
-      langue_(new ChoixSegmente({tr("Français"), tr("Anglais")}, {.police = font()})),
+      langue_(new ChoixLangue),
       lien_(champ(tr("Lien de paiement"), QStringLiteral("https://www.paypal.com/ncp/payment/…"))),
       adresse_(champ(tr("E-mail de l’acheteur"), QStringLiteral("prenom.nom@exemple.fr"))),
-      adresseRefusee_(new Alerte(QStringLiteral("exclamationmark.triangle"), {})),
+      adresseRefusee_(new Alerte),
       lienAbsent_(new Alerte(QStringLiteral("link"), {}, Alerte::Ton::note)),
       apercu_(new ApercuMessage),
       envoyer_(new QPushButton(Icone::icone(QStringLiteral("envelope")), tr("Ouvrir dans Mail"))),
@@ -68,10 +70,8 @@ VueReponse::VueReponse(const Catalogue &catalogue, Commande &commande, Aujourdhu
                                    tr("Une réponse par vendeur : séparez les livres de Davrel et ceux de Mireva.")));
     meubler(langue_, pages_);
     envoyer_->setDefault(true); // only now does it have a sheet to be the default of
-    teinter();
 
-    connect(langue_, &ChoixSegmente::choisi, this,
-            [this](int indice) { commande_.setLangue(indice == 0 ? Langue::francais : Langue::anglais); });
+    connect(langue_, &ChoixLangue::choisie, &commande_, &Commande::setLangue);
     connect(lien_, &QLineEdit::textChanged, this, &VueReponse::actualiser);
     connect(adresse_, &QLineEdit::textChanged, this, &VueReponse::actualiser);
     connect(&commande_, &Commande::change, this, &VueReponse::actualiser);
@@ -123,7 +123,7 @@ QWidget *VueReponse::message()
 std::optional<ReponseType> VueReponse::reponse() const
 {
     const Calcul calcul(catalogue_, commande_, aujourdhui_());
-    return ::reponse(calcul, catalogue_.reglages(), commande_, lien_->text());
+    return ReponseType::de(calcul, catalogue_.reglages(), commande_, lien_->text());
 }
 
 void VueReponse::actualiser()
@@ -134,16 +134,10 @@ void VueReponse::actualiser()
         passerA(page);
     if (!message)
         return;
-    langue_->montrer(message->langue == Langue::francais ? 0 : 1);
-    lienAbsent_->montrer(lien_->text().trimmed().isEmpty()
-                             ? tr("Collez le lien de paiement : sinon le message garde « %1 » à remplacer.")
-                                   .arg(ReponseType::placeDuLien(message->langue))
-                             : QString());
-    const QString adresse = adresse_->text();
-    adresseRefusee_->montrer(adresse.trimmed().isEmpty() || Mail::estUneAdresse(adresse)
-                                 ? QString()
-                                 : tr("Ce n’est pas une adresse seule : le message s’ouvrira sans destinataire."));
-    apercu_->montrer(*message, adresse);
+    langue_->montrer(message->langue);
+    lienAbsent_->montrer(TextesReponse::lienAbsent(*message));
+    adresseRefusee_->montrer(TextesReponse::adresseRefusee(adresse_->text()));
+    apercu_->montrer(*message, adresse_->text());
 }
 
 void VueReponse::passerA(Page page)
@@ -165,25 +159,15 @@ void VueReponse::ouvrirDansMail()
         return;
     try {
         Mail::ecrire(adresse_->text(), message->sujet(), message->corps(), message->ligneTotal());
-    } catch (const Mail::Erreur &erreur) {
-        QMessageBox::warning(this, windowTitle(), erreur.texte());
+    } catch (const Echec &echec) {
+        QMessageBox::warning(this, windowTitle(), echec.texte());
     }
-}
-
-// Examples are fainter than any text, so that they are never taken for one.
-void VueReponse::teinter()
-{
-    QPalette pale;
-    pale.setColor(QPalette::PlaceholderText, palette().color(QPalette::Disabled, QPalette::Text));
-    lien_->setPalette(pale);
-    adresse_->setPalette(pale);
 }
 
 void VueReponse::changeEvent(QEvent *evenement)
 {
     Feuille::changeEvent(evenement);
-    if (evenement->type() == QEvent::PaletteChange && pages_->count() == 2) {
-        teinter();
+    if (evenement->type() == QEvent::PaletteChange) {
         actualiser(); // the preview's colours are written in its text
     }
 }

@@ -3,10 +3,12 @@
 #include "ui/Aujourdhui.h"
 #include "ui/commun/Feuille.h"
 
+#include <optional>
+
 class Alerte;
 class ApercuMessage;
 class Catalogue;
-class ChoixSegmente;
+class ChoixLangue;
 class Commande;
 struct ReponseType;
 class QLineEdit;
@@ -31,14 +33,13 @@ private:
     QWidget *message();
     void actualiser();
     void passerA(Page page);
-    void teinter();
     void ouvrirDansMail();
     [[nodiscard]] std::optional<ReponseType> reponse() const;
 
     const Catalogue &catalogue_;
     Commande &commande_;
     Aujourdhui aujourdhui_;
-    ChoixSegmente *langue_;
+    ChoixLangue *langue_;
     QLineEdit *lien_;
     QLineEdit *adresse_;
     Alerte *adresseRefusee_;

@@ -1,0 +1,37 @@
+#include "tests/BancEcran.h"
+
+#include "visite/Dialogues.h"
+#include "visite/Ecran.h"
+
+#include <QDialog>
+#include <QTest>
+
+void BancEcran::demarrer()
+{
+    demarrer(donnees.preferences());
+}
+
+void BancEcran::demarrer(const Preferences &preferences)
+{
+    app.reset();
+    donnees.deposer();
+    app =
+        std::make_unique<QuilletApp>(donnees.ressources(), donnees.stockage(), preferences, [] { return jourDuBanc; });
+    app->fenetre().show();
+    if (!QTest::qWaitForWindowActive(&app->fenetre()))
+        qFatal("La fenêtre ne s’ouvre pas");
+}
+
+void BancEcran::commander(const QString &destination) const
+{
+    app->commande().ajuster(donnees.livres[0], 2);
+    app->commande().setCodeDestination(destination);
+}
+
+QDialog *BancEcran::ouvrir(const QString &bouton) const
+{
+    QDialog *feuille = Ecran::cliquer(&app->fenetre(), bouton) ? Dialogues::devant() : nullptr;
+    if (!feuille || !QTest::qWaitForWindowActive(feuille))
+        qFatal("Aucune feuille après : %s", qPrintable(bouton));
+    return feuille;
+}

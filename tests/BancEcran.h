@@ -1,0 +1,22 @@
+#pragma once
+
+#include "tests/Banc.h"
+#include "ui/Fenetre.h"
+#include "ui/QuilletApp.h"
+
+class QDialog;
+
+// The real window over a small catalogue.
+struct BancEcran
+{
+    Banc donnees;
+    std::unique_ptr<QuilletApp> app;
+
+    // Starts the program, again if need be, on `donnees` as they are now.
+    void demarrer();
+    void demarrer(const Preferences &preferences);
+    // Two copies of the first book.
+    void commander(const QString &destination) const;
+    // The sheet behind a button of the window.
+    [[nodiscard]] QDialog *ouvrir(const QString &bouton) const;
+};

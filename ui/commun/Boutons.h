@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+class QPushButton;
+
+namespace Boutons {
+
+// A button of a sheet, which never becomes its default one by having the focus.
+QPushButton *deFeuille(const QString &texte, const QString &symbole = {});
+
+} // namespace Boutons

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QSize>
+
+class QWidget;
+
+namespace Place {
+
+// What a window may take of its screen, its frame left out: the frame is not known before the window shows.
+QSize surLEcran(const QWidget *fenetre);
+
+} // namespace Place

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+// What a PDF says of itself. Its metadata packet (XMP) is the only place where a QPdfWriter takes an author.
+namespace MetadonneesPdf {
+
+QByteArray paquet(const QString &titre, const QString &auteur);
+
+} // namespace MetadonneesPdf

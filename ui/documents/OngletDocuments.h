@@ -1,0 +1,4 @@
+#pragma once
+
+// The tabs of the documents that go with the parcel, in their order.
+enum class OngletDocuments { douane, facture };

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <initializer_list>
+
+class QDialog;
+class QWidget;
+
+// The sheets and dialogs that open over a window, and how a person answers those that hold the program up.
+namespace Dialogues {
+
+// The one in front; null when there is none.
+QDialog *devant();
+
+using Reponse = std::function<void(QDialog *)>;
+// Clicks the button, then answers the dialogs that it opens, one after the other. False when one did not come, or
+// one too many.
+bool cliquerPuisRepondre(QWidget *fenetre, const QString &bouton, std::initializer_list<Reponse> reponses);
+
+// Answers.
+Reponse renoncer();
+Reponse enregistrerSous(const QString &chemin);
+
+} // namespace Dialogues
