@@ -11,19 +11,24 @@
 
 namespace {
 
-constexpr int patience = 10'000; // ms that a server may stay silent
+constexpr int patience = 5'000; // ms that a server may stay silent
 const QString serviceMuet = QStringLiteral("le service d’impression ne répond pas");
 
 using Connexion = std::unique_ptr<http_t, decltype([](http_t *connexion) { httpClose(connexion); })>;
 
-// A server that hangs must not hold the window for ever.
+// None when the server does not answer a first, simple question: the calls that follow would wait for minutes.
 Connexion connecter()
 {
     Connexion connexion(
         httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, patience, nullptr));
-    if (connexion)
-        httpSetTimeout(
-            connexion.get(), patience / 1000.0, [](http_t *, void *) { return 0; }, nullptr);
+    if (!connexion)
+        return connexion;
+    const auto renoncer = [](http_t *, void *) { return 0; };
+    httpSetTimeout(connexion.get(), patience / 1000.0, renoncer, nullptr);
+    ipp_t *reponse = cupsDoRequest(connexion.get(), ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/");
+    if (!reponse)
+        connexion.reset();
+    ippDelete(reponse);
     return connexion;
 }
 
