@@ -18,4 +18,5 @@ endfunction()
 
 etage(model model)
 etage(documents documents model)
-etage(ui ui documents model)
+etage(watch watch model)
+etage(ui ui documents watch model)

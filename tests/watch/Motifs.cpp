@@ -1,0 +1,172 @@
+#include "tests/watch/Motifs.h"
+
+#include "model/Format.h"
+#include "watch/ErreurReleve.h"
+#include "watch/QuantiteLue.h"
+#include "watch/RelevePaypal.h"
+
+#include <QHash>
+
+#include <unicode/regex.h>
+
+#include <memory>
+
+namespace {
+
+const icu::RegexPattern &compile(const QString &motif)
+{
+    static QHash<QString, std::shared_ptr<icu::RegexPattern>> compiles;
+    auto &resultat = compiles[motif];
+    UErrorCode statut = U_ZERO_ERROR;
+    if (!resultat)
+        resultat.reset(icu::RegexPattern::compile(motif.utf16(), UREGEX_CASE_INSENSITIVE, statut));
+    if (U_FAILURE(statut))
+        qFatal("%s : %s", qPrintable(motif), u_errorName(statut));
+    return *resultat;
+}
+
+QString remplacer(const QString &texte, const QString &motif)
+{
+    UErrorCode statut = U_ZERO_ERROR;
+    const icu::UnicodeString entree(texte.utf16(), static_cast<int32_t>(texte.size()));
+    const std::unique_ptr<icu::RegexMatcher> recherche(compile(motif).matcher(entree, statut));
+    const icu::UnicodeString sortie = recherche->replaceAll(u" ", statut);
+    if (U_FAILURE(statut))
+        qFatal("%s : %s", qPrintable(motif), u_errorName(statut));
+    return QString::fromUtf16(sortie.getBuffer(), sortie.length());
+}
+
+QList<QStringList> groupes(const QString &texte, const QString &motif)
+{
+    UErrorCode statut = U_ZERO_ERROR;
+    const icu::UnicodeString entree(texte.utf16(), static_cast<int32_t>(texte.size()));
+    const std::unique_ptr<icu::RegexMatcher> recherche(compile(motif).matcher(entree, statut));
+    QList<QStringList> trouves;
+    while (recherche->find(statut)) {
+        QStringList groupes;
+        for (int32_t i = 0; i <= recherche->groupCount(); ++i) {
+            const icu::UnicodeString groupe = recherche->group(i, statut);
+            groupes.append(QString::fromUtf16(groupe.getBuffer(), groupe.length()));
+        }
+        trouves.append(groupes);
+    }
+    if (U_FAILURE(statut))
+        qFatal("%s : %s", qPrintable(motif), u_errorName(statut));
+    return trouves;
+}
+
+QString sansScripts(const QString &html)
+{
+    return remplacer(html, QStringLiteral(R"(<(script|style)\b[\s\S]*?</\1>)"));
+}
+
+bool enAscii(const QString &chiffres)
+{
+    return std::ranges::all_of(chiffres, [](QChar signe) { return signe < QChar(0x80); });
+}
+
+std::optional<qint64> nombre(const QString &entier, const QString &fraction, int decimales)
+{
+    const QString chiffres = entier + fraction.leftJustified(decimales, u'0', true);
+    bool tient = false;
+    const qint64 valeur = enAscii(chiffres) ? chiffres.toLongLong(&tient) : 0;
+    return tient ? std::optional(valeur) : std::nullopt;
+}
+
+} // namespace
+
+QString Motifs::texte(const QString &html)
+{
+    QString texte = TexteHTML::decoderEntites(remplacer(sansScripts(html), QStringLiteral("<[^>]*>")));
+    texte.replace(QChar(0x00A0), u' ').replace(QChar(0x202F), u' ');
+    texte = remplacer(texte, QStringLiteral(R"(\s+)"));
+    const auto bords = groupes(texte, QStringLiteral(R"(\A[ \t]*([\s\S]*?)[ \t]*\z)"));
+    return bords[0][1];
+}
+
+QList<TexteHTML::Tableau> Motifs::tableaux(const QString &html)
+{
+    QList<TexteHTML::Tableau> tableaux;
+    for (const QStringList &table : groupes(sansScripts(html), QStringLiteral(R"(<table\b[\s\S]*?</table>)"))) {
+        TexteHTML::Tableau tableau;
+        for (const QStringList &tr : groupes(table[0], QStringLiteral(R"(<tr\b[\s\S]*?</tr>)"))) {
+            TexteHTML::Rangee rangee;
+            for (const QStringList &cellule : groupes(tr[0], QStringLiteral(R"(<t[hd]\b[^>]*>([\s\S]*?)</t[hd]>)")))
+                rangee.append(texte(cellule[1]));
+            tableau.append(rangee);
+        }
+        tableaux.append(tableau);
+    }
+    return tableaux;
+}
+
+std::optional<qint64> Motifs::centiemes(const QString &texte)
+{
+    const auto trouves = groupes(texte, QStringLiteral(R"((\d+)(?:[,.](\d{1,2}))?)"));
+    return trouves.isEmpty() ? std::nullopt : nombre(trouves[0][1], trouves[0][2], 2);
+}
+
+std::optional<qint64> Motifs::grammes(const QString &texte)
+{
+    const auto trouves = groupes(texte, QStringLiteral(R"((\d+)(?:,(\d+))?\s*(kg|g)\b)"));
+    if (trouves.isEmpty())
+        return std::nullopt;
+    return nombre(trouves[0][1], trouves[0][2], trouves[0][3].toLower() == QStringLiteral("kg") ? 3 : 0);
+}
+
+std::optional<QString> Motifs::dateDEffet(const QString &texte)
+{
+    const QString mois =
+        QStringLiteral("janvier|février|mars|avril|mai|juin|juillet|août|septembre|octobre|novembre|décembre");
+    const QString jour =
+        QStringLiteral(R"(à partir du\s+(\d{1,2})\s*(?:er)?\s+()") + mois + QStringLiteral(R"()\s+(\d{4}))");
+    auto trouves = groupes(texte, QStringLiteral(R"(en vigueur,?\s+)") + jour);
+    if (trouves.isEmpty())
+        trouves = groupes(texte, jour);
+    if (trouves.isEmpty() || !enAscii(trouves[0][1] + trouves[0][3]))
+        return std::nullopt;
+    const qsizetype numero = mois.split(u'|').indexOf(trouves[0][2].toLower()) + 1;
+    const auto deuxChiffres = [](const QString &n) { return n.rightJustified(2, u'0'); };
+    return numero == 0 ? std::nullopt
+                       : std::optional(trouves[0][3] + u'-' + deuxChiffres(QString::number(numero)) + u'-'
+                                       + deuxChiffres(trouves[0][1]));
+}
+
+FraisPaypal Motifs::fraisPaypal(const QString &html, QDate releve)
+{
+    const QString page = texte(html);
+    const auto figure = [&](const char *motif, const char *nom) {
+        const auto trouves = groupes(page, QString::fromUtf8(motif));
+        if (trouves.isEmpty())
+            throw ErreurReleve::pageIllisible(QString::fromUtf8(nom) + QStringLiteral(" introuvable"));
+        return centiemes(trouves[0][1]);
+    };
+    const auto taux = figure(R"(Toutes les autres transactions commerciales\s+(\d+,\d+)\s*%)", "taux de base");
+    const auto fixe = figure(R"(Euro\s+(\d+,\d+)\s*EUR)", "part fixe en euros");
+    const auto eee = figure(R"(EEE\s+(Aucune commission|\d+,\d+\s*%))", "supplément EEE");
+    const auto uni = figure(R"(Royaume-Uni\s+(\d+,\d+)\s*%)", "supplément Royaume-Uni");
+    const auto autres = figure(R"(Tous les autres marchés\s+(\d+,\d+)\s*%)", "supplément des autres pays");
+    const auto tauxLu = [](const auto &valeur) { return quantiteLue<UniteCentiemeDePourcent>(valeur); };
+    const auto fixeLu = quantiteLue<UniteCentime>(fixe);
+    if (!tauxLu(taux) || !fixeLu || !tauxLu(uni) || !tauxLu(autres))
+        throw ErreurReleve::pageIllisible(QStringLiteral("chiffres illisibles"));
+    return {Format::iso(releve),
+            RelevePaypal::adresse(),
+            *tauxLu(taux),
+            *fixeLu,
+            {{QStringLiteral("eee"), tauxLu(eee).value_or(Taux{})},
+             {QStringLiteral("royaume-uni"), *tauxLu(uni)},
+             {QStringLiteral("autres"), *tauxLu(autres)}}};
+}
+
+QString Motifs::fragment(std::mt19937 &hasard, const QStringList &morceaux)
+{
+    const auto parmi = [&](qsizetype nombre) { return static_cast<qsizetype>(hasard()) % nombre; };
+    QString texte;
+    qsizetype place = parmi(morceaux.size());
+    for (qsizetype n = 1 + parmi(60); n > 0; --n) {
+        texte += morceaux[place];
+        place = parmi(6) == 0 ? parmi(morceaux.size()) : (place + 1) % morceaux.size();
+    }
+    return texte;
+}

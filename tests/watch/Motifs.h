@@ -1,0 +1,24 @@
+#pragma once
+
+#include "model/Reglages.h"
+#include "watch/TexteHTML.h"
+
+#include <QDate>
+
+#include <random>
+
+// What TexteHTML promises, said with the patterns themselves and run by ICU's engine: slow, and true.
+namespace Motifs {
+
+QString texte(const QString &html);
+QList<TexteHTML::Tableau> tableaux(const QString &html);
+std::optional<qint64> centiemes(const QString &texte);
+std::optional<qint64> grammes(const QString &texte);
+std::optional<QString> dateDEffet(const QString &texte);
+FraisPaypal fraisPaypal(const QString &html, QDate releve);
+
+// A text to read in both ways: from one piece to the next, and now and then to any other, so that openings meet their
+// closings, but not always.
+QString fragment(std::mt19937 &hasard, const QStringList &morceaux);
+
+} // namespace Motifs

@@ -1,0 +1,138 @@
+#include "watch/ReleveColissimo.h"
+
+#include "model/Format.h"
+#include "watch/ErreurReleve.h"
+#include "watch/QuantiteLue.h"
+#include "watch/TexteHTML.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <functional>
+
+namespace {
+
+using PaliersParCode = QHash<QString, QList<Palier>>;
+
+struct Colonne
+{
+    qsizetype place;
+    QString code;
+};
+
+QList<Colonne> colonnes(const TexteHTML::Rangee &entetes)
+{
+    QList<Colonne> trouvees;
+    for (qsizetype i = 0; i < entetes.size(); ++i)
+        if (const auto code = ReleveColissimo::code(entetes[i]))
+            trouvees.append({i, *code});
+    return trouvees;
+}
+
+void lireTableau(const TexteHTML::Tableau &tableau, PaliersParCode &paliers)
+{
+    const QList<Colonne> grilles = colonnes(tableau.first());
+    for (const TexteHTML::Rangee &rangee : tableau.sliced(1)) {
+        const auto poids =
+            rangee.isEmpty() ? std::nullopt : quantiteLue<UniteGramme>(TexteHTML::grammes(rangee.first()));
+        if (!poids)
+            continue;
+        for (const Colonne &colonne : grilles) {
+            if (colonne.place >= rangee.size())
+                break; // columns stand in order: a short row must not cost a wide header
+            if (const auto prix = quantiteLue<UniteCentime>(TexteHTML::centiemes(rangee[colonne.place])))
+                paliers[colonne.code].append({*poids, *prix});
+        }
+    }
+}
+
+GrilleColissimo lireGrille(const GrilleColissimo &modele, const PaliersParCode &paliers)
+{
+    const QString nom = QStringLiteral("grille « ") + modele.nomCourt + QStringLiteral(" » ");
+    GrilleColissimo grille = modele;
+    grille.paliers = paliers.value(modele.code);
+    if (grille.paliers.isEmpty())
+        throw ErreurReleve::pageIllisible(nom + QStringLiteral("introuvable"));
+    if (std::ranges::adjacent_find(grille.paliers, std::ranges::greater_equal{}, &Palier::jusqua)
+        != grille.paliers.end())
+        throw ErreurReleve::pageIllisible(QStringLiteral("paliers de la ") + nom + QStringLiteral("dans le désordre"));
+    return grille;
+}
+
+bool enChiffres(const QString &texte)
+{
+    return std::ranges::all_of(texte, [](QChar signe) { return signe >= u'0' && signe <= u'9'; });
+}
+
+} // namespace
+
+QUrl ReleveColissimo::adresse()
+{
+    return QUrl(QStringLiteral("https://www.laposte.fr/tarif-colissimo"));
+}
+
+std::optional<QString> ReleveColissimo::code(const QString &entete)
+{
+    const QString texte = entete.toLower();
+    const auto dit = [&](QStringView mots) { return texte.contains(mots); };
+    if (dit(u"colissimo eco") || dit(u"retrait") || dit(u"prêt-à-envoyer"))
+        return std::nullopt;
+    if (dit(u"om 1"))
+        return QStringLiteral("om1");
+    if (dit(u"om 2"))
+        return QStringLiteral("om2");
+    if (dit(u"domicile") && dit(u"france"))
+        return QStringLiteral("france-domicile");
+    if (dit(u"royaume-uni"))
+        return QStringLiteral("royaume-uni");
+    if (dit(u"suisse") && dit(u"ue"))
+        return QStringLiteral("ue-suisse");
+    if (dit(u"zone b"))
+        return QStringLiteral("zone-b");
+    if (dit(u"zone c"))
+        return QStringLiteral("zone-c");
+    return std::nullopt;
+}
+
+std::optional<QString> ReleveColissimo::dateDEffet(const QString &texte)
+{
+    static const QStringList mois{QStringLiteral("janvier"), QStringLiteral("février"),  QStringLiteral("mars"),
+                                  QStringLiteral("avril"),   QStringLiteral("mai"),      QStringLiteral("juin"),
+                                  QStringLiteral("juillet"), QStringLiteral("août"),     QStringLiteral("septembre"),
+                                  QStringLiteral("octobre"), QStringLiteral("novembre"), QStringLiteral("décembre")};
+    // "\s*(?:er)?\s+" in a form that does not try every way of sharing blanks between its two ends.
+    static const QString jour = QStringLiteral(R"(à partir du[\s]+([\d]{1,2})(?:[\s]*er)?[\s]+()") + mois.join(u'|')
+                                + QStringLiteral(R"()[\s]+([\d]{4}))");
+    static const QString enVigueur = QStringLiteral(R"(en vigueur,?[\s]+)") + jour;
+
+    auto trouves = TexteHTML::groupes(enVigueur, texte, 1);
+    if (trouves.isEmpty())
+        trouves = TexteHTML::groupes(jour, texte, 1);
+    if (trouves.isEmpty())
+        return std::nullopt;
+    const QStringList &date = trouves.first();
+    // Without case, a pattern takes more letters than lower case gives back.
+    const qsizetype numero = mois.indexOf(date[2].toLower()) + 1;
+    if (numero == 0 || !enChiffres(date[1]) || !enChiffres(date[3]))
+        return std::nullopt;
+    return QStringLiteral("%1-%2-%3")
+        .arg(date[3])
+        .arg(numero, 2, 10, QLatin1Char('0'))
+        .arg(date[1], 2, QLatin1Char('0'));
+}
+
+ReleveColissimo ReleveColissimo::analyser(const QString &page, const TarifsColissimo &modele, QDate releve)
+{
+    PaliersParCode paliers;
+    for (const TexteHTML::Tableau &tableau : TexteHTML::tableaux(page))
+        if (!tableau.isEmpty())
+            lireTableau(tableau, paliers);
+    QList<GrilleColissimo> grilles;
+    for (const GrilleColissimo &grille : modele.grilles)
+        grilles.append(lireGrille(grille, paliers));
+
+    const QString jour = Format::iso(releve);
+    const auto date = dateDEffet(TexteHTML::texte(page));
+    return {{.validite = date.value_or(jour), .releve = jour, .source = adresse(), .grilles = grilles},
+            date.has_value()};
+}

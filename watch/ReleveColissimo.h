@@ -1,0 +1,27 @@
+#pragma once
+
+#include "model/Tarifs.h"
+
+#include <QDate>
+#include <QString>
+#include <QUrl>
+
+#include <optional>
+
+// One reading of La Poste's page of Colissimo tariffs.
+struct ReleveColissimo
+{
+    TarifsColissimo tarifs;
+    bool dateTrouvee = false; // else the day of the reading stands for the first day in force
+
+    static QUrl adresse();
+    // The grids of `modele`, with the tiers that the page shows. Throws ErreurReleve when a grid is missing or its
+    // weights do not rise.
+    static ReleveColissimo analyser(const QString &page, const TarifsColissimo &modele, QDate releve);
+    // The code of the grid that a column's header announces; none for other services.
+    static std::optional<QString> code(const QString &entete);
+    // The first day in force that a plain text announces, yyyy-mm-dd; it may not exist in the calendar.
+    static std::optional<QString> dateDEffet(const QString &texte);
+
+    bool operator==(const ReleveColissimo &) const = default;
+};
