@@ -1,0 +1,34 @@
+#include "watch/EcartTarif.h"
+
+#include <map>
+#include <utility>
+
+namespace {
+
+using AvantApres = std::pair<std::optional<Centimes>, std::optional<Centimes>>;
+
+} // namespace
+
+QString EcartTarif::id() const
+{
+    return grille.code + u'-' + QString::number(jusqua.valeur());
+}
+
+QList<EcartTarif> EcartTarif::ecarts(const TarifsColissimo &de, const TarifsColissimo &a)
+{
+    QList<EcartTarif> lignes;
+    for (const GrilleColissimo &nouvelle : a.grilles) {
+        std::map<Grammes, AvantApres> prix;
+        if (const GrilleColissimo *ancienne = de.grille(nouvelle.code))
+            for (const auto &[jusqua, montant] : ancienne->paliers)
+                if (auto &avant = prix[jusqua].first; !avant)
+                    avant = montant;
+        for (const auto &[jusqua, montant] : nouvelle.paliers)
+            if (auto &apres = prix[jusqua].second; !apres)
+                apres = montant;
+        for (const auto &[jusqua, montants] : prix)
+            if (montants.first != montants.second)
+                lignes.append({nouvelle, jusqua, montants.first, montants.second});
+    }
+    return lignes;
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "model/Tarifs.h"
+
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+// One tier whose price is not the same in two schedules.
+struct EcartTarif
+{
+    GrilleColissimo grille; // of the new schedule
+    Grammes jusqua;
+    std::optional<Centimes> avant; // none: the old schedule has no such tier
+    std::optional<Centimes> apres; // none: the new one has it no more
+
+    // "zone-b-2000": of one list, no two are the same.
+    [[nodiscard]] QString id() const;
+
+    // By grid of the new schedule, in its order, then by weight; a grid that only the old one holds is not reported.
+    // Where a grid holds two tiers of one weight, the first counts, as it does for prices.
+    static QList<EcartTarif> ecarts(const TarifsColissimo &de, const TarifsColissimo &a);
+
+    bool operator==(const EcartTarif &) const = default;
+};
