@@ -11,3 +11,5 @@ QList<Releve> mesurerEcran(Temoin &temoin);
 QList<Releve> mesurerCalcul();
 // One invoice as a PDF, in milliseconds and KiB.
 QList<Releve> mesurerFacture();
+// The two pages of the tariff watch, and pages made to be slow, in milliseconds.
+QList<Releve> mesurerPages();

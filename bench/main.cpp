@@ -43,5 +43,7 @@ int main(int argc, char **argv)
         releves += mesurerCalcul();
     if (demandee("facture"))
         releves += mesurerFacture();
+    if (demandee("pages"))
+        releves += mesurerPages();
     std::printf("Plateforme %s\n%s", qPrintable(Temoin::platformName()), qPrintable(tableau(releves)));
 }

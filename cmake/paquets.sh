@@ -5,7 +5,7 @@ paquets=(
     qt6-base-dev qt6-svg-dev libicu-dev libcups2-dev libglib2.0-dev pkg-config
     qt6-wayland qt6-translations-l10n
     fonts-inter fonts-linuxlibertine fonts-dejavu-core
-    poppler-utils
+    poppler-utils libgumbo-dev
 )
 
 # Touches the system only when a package is missing.
