@@ -7,6 +7,7 @@
 #include "ui/commun/ChampEntier.h"
 #include "ui/commun/Ressort.h"
 #include "visite/Ecran.h"
+#include "visite/HorsReseau.h"
 
 #include <QScrollArea>
 #include <QScrollBar>
@@ -32,7 +33,8 @@ class Scene
 public:
     Scene(Temoin &temoin, const Ressources &ressources, Stockage stockage, const Preferences &preferences)
         : temoin_(temoin),
-          quillet_(ressources, std::move(stockage), preferences, [] { return jour; }),
+          quillet_(
+              ressources, std::move(stockage), preferences, [] { return jour; }, horsReseau()),
           fenetre_(quillet_.fenetre())
     {
         fenetre_.show();

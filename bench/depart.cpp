@@ -2,6 +2,7 @@
 #include "ui/Fenetre.h"
 #include "ui/InstanceUnique.h"
 #include "ui/QuilletApp.h"
+#include "visite/HorsReseau.h"
 
 #include <QFile>
 #include <QTimer>
@@ -76,7 +77,9 @@ int main(int argc, char **argv)
     InstanceUnique instance;
     if (!instance.prendreLaPlace())
         return 1;
-    QuilletApp quillet(Ressources::duProgramme(), Stockage::deLUtilisateur(), Preferences::deLUtilisateur());
+    QuilletApp quillet(
+        Ressources::duProgramme(), Stockage::deLUtilisateur(), Preferences::deLUtilisateur(),
+        [] { return QDate::currentDate(); }, horsReseau());
     quillet.fenetre().show();
     return attendreEtRapporter(temoin, depart);
 }

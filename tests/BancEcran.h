@@ -3,6 +3,7 @@
 #include "tests/Banc.h"
 #include "ui/Fenetre.h"
 #include "ui/QuilletApp.h"
+#include "visite/HorsReseau.h"
 
 class QDialog;
 
@@ -10,6 +11,7 @@ class QDialog;
 struct BancEcran
 {
     Banc donnees;
+    PagesSurveillees pages = horsReseau();
     std::unique_ptr<QuilletApp> app;
 
     // Starts the program, again if need be, on `donnees` as they are now.

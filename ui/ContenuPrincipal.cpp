@@ -11,12 +11,15 @@
 #include "ui/livres/VueLivres.h"
 #include "ui/tarifs/TextesTarifs.h"
 #include "ui/tarifs/VueTarifs.h"
+#include "watch/Verifications.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace {
 
@@ -26,11 +29,13 @@ constexpr int barreMaximum = 260;
 
 } // namespace
 
-ContenuPrincipal::ContenuPrincipal(Catalogue &catalogue, Commande &commande, ImagesCouvertures &images,
-                                   const Preferences &preferences, Aujourdhui aujourdhui, QWidget *parent)
+ContenuPrincipal::ContenuPrincipal(Catalogue &catalogue, Commande &commande, Verifications &verifications,
+                                   ImagesCouvertures &images, const Preferences &preferences, Aujourdhui aujourdhui,
+                                   QWidget *parent)
     : QWidget(parent),
       catalogue_(catalogue),
       commande_(commande),
+      verifications_(verifications),
       images_(images),
       preferences_(preferences),
       aujourdhui_(std::move(aujourdhui)),
@@ -51,6 +56,7 @@ ContenuPrincipal::ContenuPrincipal(Catalogue &catalogue, Commande &commande, Ima
         actualiser();
     });
     connect(&catalogue_, &Catalogue::change, this, &ContenuPrincipal::actualiser);
+    connect(&verifications_, &Verifications::change, this, &ContenuPrincipal::actualiser);
     actualiser();
     montrer(Rubrique::commande);
 }
@@ -105,7 +111,7 @@ QWidget *ContenuPrincipal::ecran(Rubrique rubrique)
             place = new VueCommande(catalogue_, commande_, images_, preferences_, aujourdhui_);
             break;
         case Rubrique::tarifs:
-            place = new VueTarifs(catalogue_, aujourdhui_);
+            place = new VueTarifs(catalogue_, commande_, verifications_, aujourdhui_);
             break;
         case Rubrique::livres:
             place = new VueLivres(catalogue_, images_);
@@ -120,6 +126,7 @@ void ContenuPrincipal::actualiser()
 {
     const TarifsColissimo &tarifs = catalogue_.tarifs(Format::iso(aujourdhui_()));
     enVigueur_->setText(TextesTarifs::enVigueur(tarifs));
+    rubriques_->setPastille(static_cast<int>(Rubrique::tarifs), verifications_.nombreASignaler());
 }
 
 // A window left open overnight comes back on another day.
@@ -128,4 +135,12 @@ bool ContenuPrincipal::event(QEvent *evenement)
     if (evenement->type() == QEvent::WindowActivate)
         actualiser();
     return QWidget::event(evenement);
+}
+
+// The weekly checks are looked at once, when there is a window to tell their outcome.
+void ContenuPrincipal::showEvent(QShowEvent *evenement)
+{
+    QWidget::showEvent(evenement);
+    if (!std::exchange(dejaMontre_, true))
+        verifications_.verifierSiNecessaire(catalogue_);
 }

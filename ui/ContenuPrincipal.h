@@ -11,8 +11,9 @@ class Catalogue;
 class Commande;
 class ImagesCouvertures;
 class Libelle;
-class QListWidget;
+class ListeRubriques;
 class QStackedWidget;
+class Verifications;
 
 // The sections of the window, in the sidebar's order.
 enum class Rubrique { commande, tarifs, livres };
@@ -23,7 +24,7 @@ class ContenuPrincipal : public QWidget
     Q_OBJECT
 
 public:
-    ContenuPrincipal(Catalogue &catalogue, Commande &commande, ImagesCouvertures &images,
+    ContenuPrincipal(Catalogue &catalogue, Commande &commande, Verifications &verifications, ImagesCouvertures &images,
                      const Preferences &preferences, Aujourdhui aujourdhui, QWidget *parent = nullptr);
 
     // No section at all shows the order.
@@ -32,6 +33,7 @@ public:
 
 protected:
     bool event(QEvent *evenement) override;
+    void showEvent(QShowEvent *evenement) override;
 
 private:
     QWidget *barreLaterale();
@@ -41,11 +43,13 @@ private:
 
     Catalogue &catalogue_;
     Commande &commande_;
+    Verifications &verifications_;
     ImagesCouvertures &images_;
     Preferences preferences_;
     Aujourdhui aujourdhui_;
-    QListWidget *rubriques_;
+    ListeRubriques *rubriques_;
     Libelle *enVigueur_;
     QStackedWidget *detail_;
+    bool dejaMontre_ = false;
     QList<QWidget *> ecrans_; // by section; a screen is built when it is first shown
 };

@@ -18,9 +18,9 @@ constexpr QSize tailleMinimale(980, 640);
 
 } // namespace
 
-Fenetre::Fenetre(Catalogue &catalogue, Commande &commande, ImagesCouvertures &images, const Preferences &preferences,
-                 Aujourdhui aujourdhui)
-    : contenu_(new ContenuPrincipal(catalogue, commande, images, preferences, std::move(aujourdhui)))
+Fenetre::Fenetre(Catalogue &catalogue, Commande &commande, Verifications &verifications, ImagesCouvertures &images,
+                 const Preferences &preferences, Aujourdhui aujourdhui)
+    : contenu_(new ContenuPrincipal(catalogue, commande, verifications, images, preferences, std::move(aujourdhui)))
 {
     setObjectName(QStringLiteral("quillet"));
     setWindowTitle(QStringLiteral("Quillet"));

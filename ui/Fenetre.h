@@ -9,6 +9,7 @@ class Commande;
 class ContenuPrincipal;
 class ImagesCouvertures;
 class Preferences;
+class Verifications;
 
 // The one window and its menu. Closing it ends the program.
 class Fenetre : public QMainWindow
@@ -16,8 +17,8 @@ class Fenetre : public QMainWindow
     Q_OBJECT
 
 public:
-    Fenetre(Catalogue &catalogue, Commande &commande, ImagesCouvertures &images, const Preferences &preferences,
-            Aujourdhui aujourdhui);
+    Fenetre(Catalogue &catalogue, Commande &commande, Verifications &verifications, ImagesCouvertures &images,
+            const Preferences &preferences, Aujourdhui aujourdhui);
 
     // What it opens at, on a screen that is large enough.
     [[nodiscard]] QSize tailleParDefaut() const;

@@ -12,8 +12,25 @@
 namespace {
 
 constexpr int roleSymbole = Qt::UserRole;
+constexpr int rolePastille = Qt::UserRole + 1;
 constexpr int hauteur = 38;
 constexpr int coteSymbole = 20;
+
+// Returns the width it takes at the right of the row.
+double peindrePastille(QPainter &peintre, const QStyleOptionViewItem &option, const QRectF &cadre, int nombre)
+{
+    peintre.setFont(Theme::enGras(Theme::legende()));
+    const QString texte = QString::number(nombre);
+    const double haut = peintre.fontMetrics().height() + 4;
+    const double large = std::max(haut, peintre.fontMetrics().horizontalAdvance(texte) + 12.0);
+    const QRectF capsule(cadre.right() - 10 - large, cadre.center().y() - haut / 2, large, haut);
+    peintre.setPen(Qt::NoPen);
+    peintre.setBrush(Theme::accent(option.palette));
+    peintre.drawRoundedRect(capsule, haut / 2, haut / 2);
+    peintre.setPen(option.palette.color(QPalette::HighlightedText));
+    peintre.drawText(capsule, Qt::AlignCenter, texte);
+    return large + 8;
+}
 
 class Delegue : public QStyledItemDelegate
 {
@@ -48,9 +65,11 @@ public:
         Icone::peindre(*peintre, indice.data(roleSymbole).toString(),
                        QRectF(cadre.left() + 10, cadre.center().y() - coteSymbole / 2.0, coteSymbole, coteSymbole),
                        couleur);
+        const int nombre = indice.data(rolePastille).toInt();
+        const double reserve = nombre > 0 ? peindrePastille(*peintre, option, cadre, nombre) : 0;
         peintre->setFont(choisie ? Theme::enGras(option.font) : option.font);
         peintre->setPen(couleur);
-        const QRectF place = cadre.adjusted(10 + coteSymbole + 10, 0, -8, 0);
+        const QRectF place = cadre.adjusted(10 + coteSymbole + 10, 0, -8 - reserve, 0);
         peintre->drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
                           peintre->fontMetrics().elidedText(indice.data().toString(), Qt::ElideRight,
                                                             static_cast<int>(place.width())));
@@ -73,4 +92,12 @@ ListeRubriques::ListeRubriques(const QList<Entree> &entrees, QWidget *parent) : 
         ligne->setData(roleSymbole, entree.symbole);
         ligne->setToolTip(tr("%1 (Ctrl+%2)").arg(entree.libelle, QString::number(count())));
     }
+}
+
+void ListeRubriques::setPastille(int rang, int nombre)
+{
+    QListWidgetItem *ligne = item(rang);
+    ligne->setData(rolePastille, nombre);
+    ligne->setData(Qt::AccessibleTextRole,
+                   nombre > 0 ? tr("%1, %2 à voir").arg(ligne->text(), QString::number(nombre)) : ligne->text());
 }

@@ -15,4 +15,6 @@ public:
     };
 
     explicit ListeRubriques(const QList<Entree> &entrees, QWidget *parent = nullptr);
+    // What waits in a section; 0 shows nothing.
+    void setPastille(int rang, int nombre);
 };

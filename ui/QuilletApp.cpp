@@ -26,10 +26,13 @@ void QuilletApp::preparer(std::optional<Theme::Mode> mode)
 }
 
 QuilletApp::QuilletApp(const Ressources &ressources, Stockage stockage, const Preferences &preferences,
-                       Aujourdhui aujourdhui)
+                       Aujourdhui aujourdhui, const PagesSurveillees &pages)
     : catalogue_(Catalogue::charge(ressources, std::move(stockage))),
+      verifications_(
+          preferences, [aujourdhui] { return QDateTime(aujourdhui(), QTime::currentTime()); }, pages),
       images_(QDir(ressources.chemin(QStringLiteral("couvertures")))),
-      fenetre_(std::make_unique<Fenetre>(*catalogue_, commande_, images_, preferences, std::move(aujourdhui)))
+      fenetre_(std::make_unique<Fenetre>(*catalogue_, commande_, verifications_, images_, preferences,
+                                         std::move(aujourdhui)))
 {
 }
 

@@ -6,13 +6,14 @@
 #include "ui/Aujourdhui.h"
 #include "ui/Theme.h"
 #include "ui/commande/ImagesCouvertures.h"
+#include "watch/Verifications.h"
 
 #include <memory>
 #include <optional>
 
 class Fenetre;
 
-// Owns what lives from start to exit: the catalogue, the one order, the window.
+// Owns what lives from start to exit: the catalogue, the one order, the weekly checks, the window.
 class QuilletApp
 {
 public:
@@ -22,7 +23,7 @@ public:
     // Throws RessourceIllisible.
     QuilletApp(
         const Ressources &ressources, Stockage stockage, const Preferences &preferences,
-        Aujourdhui aujourdhui = [] { return QDate::currentDate(); });
+        Aujourdhui aujourdhui = [] { return QDate::currentDate(); }, const PagesSurveillees &pages = {});
     ~QuilletApp();
     Q_DISABLE_COPY_MOVE(QuilletApp)
 
@@ -32,6 +33,7 @@ public:
 private:
     std::unique_ptr<Catalogue> catalogue_;
     Commande commande_;
+    Verifications verifications_;
     ImagesCouvertures images_;
     std::unique_ptr<Fenetre> fenetre_;
 };

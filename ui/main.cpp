@@ -6,11 +6,12 @@
 #include <QMessageBox>
 
 #include <cstdio>
+#include <cstdlib>
 
-int main(int argc, char **argv)
+namespace {
+
+int ouvrir()
 {
-    QApplication programme(argc, argv);
-    QuilletApp::preparer();
     InstanceUnique instance;
     if (!instance.prendreLaPlace())
         return 0;
@@ -25,4 +26,16 @@ int main(int argc, char **argv)
             QMessageBox::critical(nullptr, QStringLiteral("Quillet"), erreur.texte());
         return 1;
     }
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication programme(argc, argv);
+    QuilletApp::preparer();
+    const int code = ouvrir();
+    // All is put away. Leaving by the way of QApplication could wait seconds for a name server that does not answer.
+    std::fflush(nullptr);
+    std::_Exit(code);
 }

@@ -16,14 +16,44 @@ namespace {
 const QDate jourDeLaVisite(2026, 3, 2);
 constexpr int tempsDesRessorts = 900; // ms
 
+template <typename T>
+T livre(const QString &nom)
+{
+    QFile fichier(Ressources::duProgramme().chemin(nom));
+    if (!fichier.open(QIODevice::ReadOnly))
+        qFatal("%s", qPrintable(fichier.errorString()));
+    return Json::decoder<T>(fichier.readAll(), nom);
+}
+
+// What the pages of the tour announce: every third tier dearer, and another rate.
+TarifsColissimo augmentes()
+{
+    auto tarifs = livre<TarifsColissimo>(QStringLiteral("tarifs-colissimo-2026-01-01.json"));
+    int rang = 0;
+    for (GrilleColissimo &grille : tarifs.grilles)
+        for (Palier &palier : grille.paliers)
+            if (rang++ % 3 == 0)
+                palier.prix = palier.prix + Centimes{25 + rang};
+    return tarifs;
+}
+
+FraisPaypal renegocies()
+{
+    FraisPaypal frais = livre<Reglages>(QStringLiteral("reglages.json")).fraisPaypal;
+    frais.taux = Taux{320};
+    return frais;
+}
+
 } // namespace
 
 Parcours::Parcours(const QDir &dossier, QString suffixe, bool bavard)
     : dossier_(dossier),
       suffixe_(std::move(suffixe)),
       bavard_(bavard),
-      quillet_(Ressources::duProgramme(), Stockage(QDir(donnees_.filePath(QStringLiteral("Quillet")))),
-               Preferences(donnees_.filePath(QStringLiteral("Quillet.ini"))), [] { return jourDeLaVisite; })
+      site_(SiteDeLaVisite::page(augmentes(), QStringLiteral("1er avril 2026")), SiteDeLaVisite::page(renegocies())),
+      quillet_(
+          Ressources::duProgramme(), Stockage(QDir(donnees_.filePath(QStringLiteral("Quillet")))),
+          Preferences(donnees_.filePath(QStringLiteral("Quillet.ini"))), [] { return jourDeLaVisite; }, site_.pages())
 {
 }
 
@@ -52,7 +82,7 @@ bool Parcours::jouer()
         return false;
 
     fenetre.contenu()->montrer(Rubrique::tarifs);
-    if (!photographier(QStringLiteral("tarifs")))
+    if (!accepterLesNouveautes())
         return false;
     fenetre.contenu()->montrer(Rubrique::livres);
     return photographier(QStringLiteral("livres"));
@@ -107,6 +137,22 @@ bool Parcours::preparerLesDocuments()
                                           {Dialogues::enregistrerSous(pdf)})
            && QFile::exists(pdf) && photographier(QStringLiteral("facture"))
            && Ecran::cliquer(documents, QStringLiteral("Fermer"));
+}
+
+bool Parcours::accepterLesNouveautes()
+{
+    if (!photographier(QStringLiteral("tarifs")))
+        return false;
+    const QDialog *tarifs = ouvrir(QStringLiteral("Voir les changements, Tarifs Colissimo"), {720, 640});
+    if (!tarifs || !photographier(QStringLiteral("nouveaux-tarifs"))
+        || !Ecran::cliquer(Dialogues::devant(), QStringLiteral("Enregistrer ces tarifs")))
+        return false;
+    const QDialog *frais = ouvrir(QStringLiteral("Voir les changements, Frais PayPal"), {520, 400});
+    if (!frais || !photographier(QStringLiteral("nouveaux-frais"))
+        || !Ecran::cliquer(Dialogues::devant(), QStringLiteral("Plus tard")))
+        return false;
+    return Ecran::cliquer(&quillet_.fenetre(), QStringLiteral("À partir du 1er avril 2026"))
+           && photographier(QStringLiteral("tarifs-a-venir"));
 }
 
 void Parcours::raconter(const QString &etape)

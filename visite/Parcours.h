@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/QuilletApp.h"
+#include "visite/SiteDeLaVisite.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -26,11 +27,13 @@ private:
     QDialog *ouvrir(const QString &bouton, QSize taille);
     bool repondreALAcheteur();
     bool preparerLesDocuments();
+    bool accepterLesNouveautes();
     bool photographier(const QString &nom);
 
     QDir dossier_;
     QString suffixe_;
     bool bavard_;
     QTemporaryDir donnees_;
+    SiteDeLaVisite site_;
     QuilletApp quillet_;
 };

@@ -4,6 +4,7 @@
 #include "ui/QuilletApp.h"
 #include "ui/commande/TransitionCartes.h"
 #include "visite/Ecran.h"
+#include "visite/HorsReseau.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -80,8 +81,8 @@ void TestCommande::init()
     banc_ = std::make_unique<Banc>();
     banc_->livres.append(unLivre(5, Vendeur::davrel, Centimes{1200}, Grammes{180})); // after the one sold out
     banc_->deposer();
-    app_ = std::make_unique<QuilletApp>(banc_->ressources(), banc_->stockage(), banc_->preferences(),
-                                        [] { return jourDuBanc; });
+    app_ = std::make_unique<QuilletApp>(
+        banc_->ressources(), banc_->stockage(), banc_->preferences(), [] { return jourDuBanc; }, horsReseau());
     app_->fenetre().show();
     QVERIFY(QTest::qWaitForWindowActive(&app_->fenetre()));
 }

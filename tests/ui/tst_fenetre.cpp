@@ -4,6 +4,7 @@
 #include "ui/InstanceUnique.h"
 #include "ui/QuilletApp.h"
 #include "visite/Ecran.h"
+#include "visite/HorsReseau.h"
 
 #include <QApplication>
 #include <QMenuBar>
@@ -43,8 +44,8 @@ void TestFenetre::initTestCase()
 std::unique_ptr<QuilletApp> TestFenetre::ouvrir(const Banc &banc)
 {
     banc.deposer();
-    auto app =
-        std::make_unique<QuilletApp>(banc.ressources(), banc.stockage(), banc.preferences(), [this] { return jour_; });
+    auto app = std::make_unique<QuilletApp>(
+        banc.ressources(), banc.stockage(), banc.preferences(), [this] { return jour_; }, horsReseau());
     app->fenetre().show();
     if (!QTest::qWaitForWindowActive(&app->fenetre()))
         qFatal("La fenêtre ne s’ouvre pas");

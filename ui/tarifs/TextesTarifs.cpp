@@ -2,7 +2,15 @@
 
 #include "model/Format.h"
 
+#include <set>
+
 namespace {
+
+using TextesTarifs::Famille;
+using TextesTarifs::Palier;
+using TextesTarifs::Prix;
+
+const QString absent = QStringLiteral("—");
 
 QString titre(FamilleTarifs famille)
 {
@@ -19,12 +27,34 @@ QString titre(FamilleTarifs famille)
     Q_UNREACHABLE();
 }
 
-TextesTarifs::Grille enTextes(const GrilleColissimo &grille)
+Prix prix(const GrilleColissimo &grille, Grammes jusqua, const std::optional<Calcul> &commande)
 {
-    TextesTarifs::Grille textes{grille.nomCourt, grille.pays().value_or(QString()), {}};
-    for (const Palier &palier : grille.paliers)
-        textes.paliers.append({QStringLiteral("jusqu’à ") + Format::palier(palier.jusqua), Format::euros(palier.prix)});
-    return textes;
+    const auto palier = std::ranges::find(grille.paliers, jusqua, &::Palier::jusqua);
+    if (palier == grille.paliers.end())
+        return {absent};
+    const bool enCours = commande && commande->grille && commande->grille->code == grille.code && commande->palier
+                         && commande->palier->jusqua == jusqua;
+    return {Format::euros(palier->prix), enCours};
+}
+
+Famille tableau(const QString &titre, const QList<GrilleColissimo> &grilles, const std::optional<Calcul> &commande)
+{
+    Famille famille{titre, {}, {}, {}};
+    std::set<Grammes> poids;
+    for (const GrilleColissimo &grille : grilles) {
+        famille.zones.append(grille.nomCourt);
+        if (const auto pays = grille.pays())
+            famille.pays.append(grille.nomCourt + QStringLiteral(" : ") + *pays);
+        for (const ::Palier &palier : grille.paliers)
+            poids.insert(palier.jusqua);
+    }
+    for (const Grammes jusqua : poids) {
+        Palier palier{QStringLiteral("jusqu’à ") + Format::palier(jusqua), {}};
+        for (const GrilleColissimo &grille : grilles)
+            palier.prix.append(prix(grille, jusqua, commande));
+        famille.paliers.append(palier);
+    }
+    return famille;
 }
 
 } // namespace
@@ -34,16 +64,30 @@ QString TextesTarifs::enVigueur(const TarifsColissimo &tarifs)
     return QStringLiteral("en vigueur au ") + Format::date(tarifs.validite);
 }
 
-QList<TextesTarifs::Famille> TextesTarifs::familles(const TarifsColissimo &tarifs)
+QString TextesTarifs::aPartirDu(const TarifsColissimo &tarifs)
+{
+    return QStringLiteral("À partir du ") + Format::date(tarifs.validite);
+}
+
+QList<Famille> TextesTarifs::familles(const TarifsColissimo &tarifs, const std::optional<Calcul> &commande)
 {
     QList<Famille> familles;
     for (const auto &[famille, brut] : Json::valeursBrutes<FamilleTarifs>) {
-        Famille textes{titre(famille), {}};
+        QList<GrilleColissimo> grilles;
         for (const GrilleColissimo &grille : tarifs.grilles)
             if (grille.famille == QLatin1String(brut))
-                textes.grilles.append(enTextes(grille));
-        if (!textes.grilles.isEmpty())
-            familles.append(textes);
+                grilles.append(grille);
+        if (!grilles.isEmpty())
+            familles.append(tableau(titre(famille), grilles, commande));
     }
     return familles;
+}
+
+QList<TextesTarifs::Frais> TextesTarifs::frais(const FraisPaypal &frais)
+{
+    return {{QStringLiteral("Taux de base"), Format::pourcentage(frais.taux)},
+            {QStringLiteral("Part fixe"), Format::euros(frais.fixe)},
+            {QStringLiteral("Europe (EEE)"), Format::pourcentage(frais.supplement(RegionPaypal::eee))},
+            {QStringLiteral("Royaume-Uni"), Format::pourcentage(frais.supplement(RegionPaypal::royaumeUni))},
+            {QStringLiteral("Autre pays"), Format::pourcentage(frais.supplement(RegionPaypal::autres))}};
 }

@@ -1,140 +1,160 @@
 #include "ui/tarifs/VueTarifs.h"
 
 #include "model/Catalogue.h"
+#include "model/Commande.h"
 #include "model/Format.h"
 #include "ui/Theme.h"
-#include "ui/commun/Defilement.h"
-#include "ui/commun/Dessin.h"
+#include "ui/commun/ChoixSegmente.h"
 #include "ui/commun/EnTete.h"
+#include "ui/commun/Formulaire.h"
 #include "ui/commun/Libelle.h"
-#include "ui/tarifs/CarteGrille.h"
+#include "ui/tarifs/CarteFamille.h"
+#include "ui/tarifs/CarteNouveauxFrais.h"
+#include "ui/tarifs/CarteNouveauxTarifs.h"
+#include "ui/tarifs/LigneVerification.h"
+#include "ui/tarifs/PageAuClavier.h"
+#include "ui/tarifs/TextesVerifications.h"
 
-#include <QGridLayout>
-#include <QKeyEvent>
-#include <QPainter>
+#include <QEvent>
+#include <QHBoxLayout>
 #include <QScrollBar>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <utility>
 
 namespace {
 
-constexpr int colonnes = 2;
+constexpr int entreSections = 32;
 
-// Nothing on this page takes the focus: the page itself does, so that the keys scroll it.
-class Page : public Defilement
+Libelle *titre(const QString &texte)
 {
-public:
-    Page() { setFocusPolicy(Qt::StrongFocus); }
-
-protected:
-    void keyPressEvent(QKeyEvent *touche) override
-    {
-        if (touche->key() == Qt::Key_Home)
-            verticalScrollBar()->triggerAction(QAbstractSlider::SliderToMinimum);
-        else if (touche->key() == Qt::Key_End)
-            verticalScrollBar()->triggerAction(QAbstractSlider::SliderToMaximum);
-        else
-            Defilement::keyPressEvent(touche);
-    }
-
-    void focusInEvent(QFocusEvent *evenement) override
-    {
-        Defilement::focusInEvent(evenement);
-        viewport()->update();
-    }
-
-    void focusOutEvent(QFocusEvent *evenement) override
-    {
-        Defilement::focusOutEvent(evenement);
-        viewport()->update();
-    }
-
-    void paintEvent(QPaintEvent *evenement) override
-    {
-        Defilement::paintEvent(evenement);
-        if (!Dessin::focusVisible(this))
-            return;
-        QPainter peintre(viewport());
-        peintre.setRenderHint(QPainter::Antialiasing);
-        Dessin::anneauDeFocus(peintre, QRectF(viewport()->rect()).adjusted(6, 6, -6, -6), Theme::rayonControle,
-                              Theme::accentTexte(palette()));
-    }
-};
-
-// A card that is alone on its row takes all of it.
-QWidget *famille(const TextesTarifs::Famille &textes)
-{
-    auto *section = new QWidget;
-    section->setAccessibleName(textes.titre);
-    auto *titre = new Libelle(textes.titre);
+    auto *titre = new Libelle(texte);
     titre->setFont(Theme::titreSection());
-    auto *cartes = new QGridLayout(section);
-    cartes->setContentsMargins(0, 0, 0, 0);
-    cartes->setHorizontalSpacing(16);
-    cartes->setVerticalSpacing(12);
-    cartes->addWidget(titre, 0, 0, 1, colonnes);
-    for (int i = 0; i < textes.grilles.size(); ++i) {
-        const int colonne = i % colonnes;
-        const bool seule = colonne == 0 && i == textes.grilles.size() - 1;
-        const int largeur = seule ? colonnes : 1;
-        cartes->addWidget(new CarteGrille(textes.grilles[i], largeur), 1 + i / colonnes, colonne, 1, largeur);
-    }
-    for (int i = 0; i < colonnes; ++i)
-        cartes->setColumnStretch(i, 1);
-    return section;
+    return titre;
 }
 
-QWidget *page(const QList<TextesTarifs::Famille> &familles, int ascenseur)
+QWidget *tableaux(const QList<TextesTarifs::Famille> &familles, const QList<TextesTarifs::Frais> &frais)
 {
-    auto *contenu = new QWidget;
-    contenu->setMaximumWidth(Theme::largeurDePage);
-    auto *sections = new QVBoxLayout(contenu);
-    sections->setContentsMargins(0, 0, 0, 0);
-    sections->setSpacing(32);
-    for (const TextesTarifs::Famille &textes : familles)
-        sections->addWidget(famille(textes));
-    sections->addStretch(1);
-
-    auto *page = new QWidget;
-    auto *marges = new QHBoxLayout(page);
-    marges->setContentsMargins(Theme::margeDePage, 24, Theme::margeDePage - ascenseur, 28);
-    marges->addWidget(contenu, 1);
-    marges->addStretch(0);
-    return page;
+    auto *tableaux = new QWidget;
+    auto *colonne = new QVBoxLayout(tableaux);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(12);
+    for (const TextesTarifs::Famille &famille : familles) {
+        colonne->addWidget(titre(famille.titre));
+        colonne->addWidget(new CarteFamille(famille));
+        colonne->addSpacing(entreSections - 12);
+    }
+    auto *section = new Formulaire::Section(VueTarifs::tr("Frais PayPal"));
+    for (const auto &[libelle, valeur] : frais)
+        section->groupe()->ajouter(new Formulaire::Rangee(libelle, new Libelle(valeur)));
+    colonne->addWidget(section);
+    return tableaux;
 }
 
 } // namespace
 
-VueTarifs::VueTarifs(const Catalogue &catalogue, Aujourdhui aujourdhui, QWidget *parent)
+VueTarifs::VueTarifs(Catalogue &catalogue, const Commande &commande, Verifications &verifications,
+                     Aujourdhui aujourdhui, QWidget *parent)
     : QWidget(parent),
       catalogue_(catalogue),
+      commande_(commande),
+      verifications_(verifications),
       aujourdhui_(std::move(aujourdhui)),
       enTete_(new EnTete(tr("Tarifs Colissimo"))),
-      defilement_(new Page)
+      laPoste_(new LigneVerification(tr("Tarifs Colissimo"))),
+      paypal_(new LigneVerification(tr("Frais PayPal"))),
+      defilement_(new PageAuClavier)
 {
-    defilement_->setAccessibleName(tr("Grilles en vigueur"));
+    auto *contenu = new QWidget;
+    contenu->setMaximumWidth(Theme::largeurDePage);
+    sections_ = new QVBoxLayout(contenu);
+    sections_->setContentsMargins(0, 0, 0, 0);
+    sections_->setSpacing(entreSections);
+    sections_->addWidget(controles());
+    sections_->addStretch(1);
+    auto *page = new QWidget;
+    auto *marges = new QHBoxLayout(page);
+    const int ascenseur = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    marges->setContentsMargins(Theme::margeDePage, 24, Theme::margeDePage - ascenseur, 28);
+    marges->addWidget(contenu, 1);
+    marges->addStretch(0);
+    defilement_->setAccessibleName(tr("Tarifs et frais"));
     defilement_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    defilement_->setWidget(page);
+    page->setAutoFillBackground(false); // the focus ring is painted behind it
+
     auto *colonne = new QVBoxLayout(this);
     colonne->setContentsMargins(0, 0, 0, 0);
     colonne->setSpacing(0);
     colonne->addWidget(enTete_);
     colonne->addWidget(defilement_, 1);
     connect(&catalogue_, &Catalogue::change, this, &VueTarifs::actualiser);
+    connect(&commande_, &Commande::change, this, &VueTarifs::actualiser);
+    connect(&verifications_, &Verifications::change, this, &VueTarifs::actualiser);
     actualiser();
+}
+
+QWidget *VueTarifs::controles()
+{
+    auto *section = new Formulaire::Section(
+        tr("Vérifications"),
+        tr("Vérifiés d’eux-mêmes au lancement de l’app, une fois par semaine. Rien ne change sans votre accord."));
+    section->groupe()->ajouter(laPoste_);
+    section->groupe()->ajouter(paypal_);
+    connect(laPoste_, &LigneVerification::verificationDemandee, this,
+            [this] { verifications_.verifierLaPoste(catalogue_); });
+    connect(paypal_, &LigneVerification::verificationDemandee, this,
+            [this] { verifications_.verifierPaypal(catalogue_); });
+    connect(laPoste_, &LigneVerification::changementsDemandes, this,
+            [this] { (new CarteNouveauxTarifs(catalogue_, verifications_, window()))->ouvrir(); });
+    connect(paypal_, &LigneVerification::changementsDemandes, this,
+            [this] { (new CarteNouveauxFrais(catalogue_, verifications_, window()))->ouvrir(); });
+    return section;
 }
 
 void VueTarifs::actualiser()
 {
-    const TarifsColissimo &tarifs = catalogue_.tarifs(Format::iso(aujourdhui_()));
-    enTete_->setSousTitre(TextesTarifs::enVigueur(tarifs));
-    // A change of the books leaves the page, and its place in it, alone.
-    const auto familles = TextesTarifs::familles(tarifs);
-    if (familles == familles_)
+    const QDate jour = aujourdhui_();
+    const auto suivants = catalogue_.tarifsAVenir(jour);
+    offrirLeChoix(suivants);
+    const TarifsColissimo tarifs = suivants_ ? *suivants : catalogue_.tarifs(Format::iso(jour));
+    enTete_->setSousTitre(suivants_ ? TextesTarifs::aPartirDu(tarifs) : TextesTarifs::enVigueur(tarifs));
+    laPoste_->montrer(TextesVerifications::laPoste(verifications_, catalogue_, jour));
+    paypal_->montrer(TextesVerifications::paypal(verifications_, catalogue_));
+
+    // What says the same stays: the page keeps its place.
+    std::optional<Calcul> enCours;
+    if (!commande_.estVide())
+        enCours.emplace(catalogue_, commande_, jour);
+    const auto familles = TextesTarifs::familles(tarifs, enCours);
+    const auto frais = TextesTarifs::frais(catalogue_.reglages().fraisPaypal);
+    if (tableaux_ && familles == familles_ && frais == frais_)
         return;
     familles_ = familles;
-    defilement_->setWidget(page(familles_, defilement_->verticalScrollBar()->sizeHint().width()));
-    defilement_->widget()->setAutoFillBackground(false); // the focus ring is painted behind it
+    frais_ = frais;
+    QWidget *avant = std::exchange(tableaux_, tableaux(familles_, frais_));
+    sections_->insertWidget(1, tableaux_);
+    delete avant;
+}
+
+void VueTarifs::offrirLeChoix(const std::optional<TarifsColissimo> &suivants)
+{
+    const QString offert = suivants ? TextesTarifs::aPartirDu(*suivants) : QString();
+    if (offert == choixOffert_)
+        return;
+    choixOffert_ = offert;
+    suivants_ = false;
+    delete std::exchange(choix_, nullptr);
+    if (!suivants)
+        return;
+    choix_ = new ChoixSegmente({tr("En vigueur"), offert}, {.police = font()});
+    enTete_->ajouter(choix_);
+    connect(choix_, &ChoixSegmente::choisi, this, [this](int indice) {
+        suivants_ = indice == 1;
+        actualiser();
+    });
+    choix_->montrer(0);
 }
 
 // Another day may have come since the screen was last seen.

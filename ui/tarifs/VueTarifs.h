@@ -6,26 +6,44 @@
 #include <QWidget>
 
 class Catalogue;
+class ChoixSegmente;
+class Commande;
 class EnTete;
+class LigneVerification;
 class QScrollArea;
+class QVBoxLayout;
+class Verifications;
 
-// The grids in force, by family of destinations.
+// The schedule in force or the next one, PayPal's fees, and the two weekly checks.
 class VueTarifs : public QWidget
 {
     Q_OBJECT
 
 public:
-    VueTarifs(const Catalogue &catalogue, Aujourdhui aujourdhui, QWidget *parent = nullptr);
+    VueTarifs(Catalogue &catalogue, const Commande &commande, Verifications &verifications, Aujourdhui aujourdhui,
+              QWidget *parent = nullptr);
 
 protected:
     bool event(QEvent *evenement) override;
 
 private:
+    QWidget *controles();
     void actualiser();
+    void offrirLeChoix(const std::optional<TarifsColissimo> &suivants);
 
-    const Catalogue &catalogue_;
+    Catalogue &catalogue_;
+    const Commande &commande_;
+    Verifications &verifications_;
     Aujourdhui aujourdhui_;
     EnTete *enTete_;
+    ChoixSegmente *choix_ = nullptr; // null without a next schedule
+    QString choixOffert_;            // its second option
+    bool suivants_ = false;          // the next schedule is shown
+    LigneVerification *laPoste_;
+    LigneVerification *paypal_;
     QScrollArea *defilement_;
+    QVBoxLayout *sections_ = nullptr;
+    QWidget *tableaux_ = nullptr;
     QList<TextesTarifs::Famille> familles_; // as shown
+    QList<TextesTarifs::Frais> frais_;      // the same
 };

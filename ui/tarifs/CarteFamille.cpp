@@ -1,0 +1,98 @@
+#include "ui/tarifs/CarteFamille.h"
+
+#include "ui/Theme.h"
+#include "ui/commun/Dessin.h"
+#include "ui/commun/Libelle.h"
+#include "ui/commun/NombreRoulant.h"
+#include "ui/tarifs/RangeeDeTableau.h"
+
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int partDuPoids = 3;
+constexpr int partDUneZone = 2;
+
+// A figure that never rolls, its digits level with those above; the one that the order in progress pays is tinted.
+class CasePrix : public NombreRoulant
+{
+public:
+    CasePrix(const TextesTarifs::Prix &prix, const QString &zone, const QString &poids) : enCours_(prix.enCours)
+    {
+        afficher(prix.texte);
+        setFont(Theme::enGras(font(), enCours_ ? QFont::DemiBold : QFont::Medium));
+        setAccessibleName(enCours_ ? tr("%1, %2 : %3, palier de la commande en cours").arg(zone, poids, prix.texte)
+                                   : tr("%1, %2 : %3").arg(zone, poids, prix.texte));
+        if (enCours_)
+            setToolTip(tr("Palier de la commande en cours"));
+    }
+
+protected:
+    void paintEvent(QPaintEvent *evenement) override
+    {
+        if (enCours_) {
+            QPainter peintre(this);
+            peintre.setRenderHint(QPainter::Antialiasing);
+            QColor fond = Theme::accentTexte(palette());
+            fond.setAlphaF(0.16F);
+            peintre.setPen(Qt::NoPen);
+            peintre.setBrush(fond);
+            const int largeur = sizeHint().width() + 12;
+            peintre.drawRoundedRect(QRect(width() - largeur, 0, largeur, height()), 6, 6);
+        }
+        NombreRoulant::paintEvent(evenement);
+    }
+
+private:
+    bool enCours_;
+};
+
+QWidget *tetes(const TextesTarifs::Famille &famille)
+{
+    const auto tete = [](const QString &texte, Qt::Alignment alignement) {
+        auto *libelle = new Libelle(texte, Libelle::Rang::secondaire);
+        libelle->setFont(Theme::enGras(Theme::encadre()));
+        libelle->setWordWrap(true);
+        libelle->setAlignment(alignement | Qt::AlignBottom);
+        return libelle;
+    };
+    QList<RangeeDeTableau::Cellule> cellules{{tete(CarteFamille::tr("Poids"), Qt::AlignLeft), partDuPoids}};
+    for (const QString &zone : famille.zones)
+        cellules.append({tete(zone, Qt::AlignRight), partDUneZone});
+    return new RangeeDeTableau(cellules);
+}
+
+QWidget *rangee(const TextesTarifs::Palier &palier, const QStringList &zones)
+{
+    QList<RangeeDeTableau::Cellule> cellules{{new Libelle(palier.poids), partDuPoids}};
+    for (qsizetype i = 0; i < zones.size(); ++i)
+        cellules.append({new CasePrix(palier.prix[i], zones[i], palier.poids), partDUneZone});
+    return new RangeeDeTableau(cellules);
+}
+
+} // namespace
+
+CarteFamille::CarteFamille(const TextesTarifs::Famille &famille, QWidget *parent) : QWidget(parent)
+{
+    auto *colonne = new QVBoxLayout(this);
+    colonne->setContentsMargins(18, 8, 18, 12);
+    colonne->setSpacing(0);
+    colonne->addWidget(tetes(famille));
+    for (const TextesTarifs::Palier &palier : famille.paliers)
+        colonne->addWidget(rangee(palier, famille.zones));
+    for (const QString &pays : famille.pays) {
+        auto *note = new Libelle(pays, Libelle::Rang::secondaire);
+        note->setFont(Theme::legende());
+        note->setWordWrap(true);
+        colonne->addSpacing(6);
+        colonne->addWidget(note);
+    }
+    setAccessibleName(famille.titre);
+}
+
+void CarteFamille::paintEvent(QPaintEvent *)
+{
+    QPainter peintre(this);
+    Dessin::carte(peintre, rect(), palette());
+}

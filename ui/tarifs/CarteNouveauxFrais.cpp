@@ -1,0 +1,73 @@
+#include "ui/tarifs/CarteNouveauxFrais.h"
+
+#include "model/Catalogue.h"
+#include "ui/Theme.h"
+#include "ui/commun/Icone.h"
+#include "ui/commun/Libelle.h"
+#include "ui/commun/NombreRoulant.h"
+#include "ui/tarifs/RangeeDeTableau.h"
+#include "ui/tarifs/TextesTarifs.h"
+#include "watch/Verifications.h"
+
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr QSize taille(520, 400);
+constexpr int marge = 24;
+
+class Fleche : public QWidget
+{
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        constexpr int cote = 16;
+        QPainter peintre(this);
+        Icone::peindre(peintre, QStringLiteral("arrow.right"),
+                       QRectF((width() - cote) / 2.0, (height() - cote) / 2.0, cote, cote),
+                       Theme::secondaire(palette()));
+    }
+};
+
+QWidget *ligne(const TextesTarifs::Frais &avant, const TextesTarifs::Frais &apres)
+{
+    const auto valeur = [](const QString &texte, bool change) {
+        auto *nombre = new NombreRoulant;
+        nombre->afficher(texte);
+        if (change)
+            nombre->setFont(Theme::enGras(nombre->font()));
+        return nombre;
+    };
+    return new RangeeDeTableau({{new Libelle(avant.libelle), 3},
+                                {valeur(avant.valeur, false), 2},
+                                {new Fleche, 1},
+                                {valeur(apres.valeur, avant != apres), 2}});
+}
+
+} // namespace
+
+CarteNouveauxFrais::CarteNouveauxFrais(Catalogue &catalogue, Verifications &verifications, QWidget *parent)
+    : FeuilleDeReleve(tr("Nouveaux frais PayPal"), parent)
+{
+    auto *titre = new Libelle(windowTitle());
+    titre->setFont(Theme::titreSection());
+    auto *origine =
+        new Libelle(tr("Relevés sur paypal.com, tarifs marchands pour la France"), Libelle::Rang::secondaire);
+    auto *page = new QWidget;
+    auto *colonne = new QVBoxLayout(page);
+    colonne->setContentsMargins(marge, marge, marge, marge);
+    colonne->setSpacing(0);
+    colonne->addWidget(titre);
+    colonne->addSpacing(6);
+    colonne->addWidget(origine);
+    colonne->addSpacing(14);
+    const auto avant = TextesTarifs::frais(catalogue.reglages().fraisPaypal);
+    const auto apres = TextesTarifs::frais(*verifications.nouveauxFrais());
+    for (qsizetype i = 0; i < avant.size(); ++i)
+        colonne->addWidget(ligne(avant[i], apres[i]));
+    colonne->addStretch(1);
+    composer(page, tr("Enregistrer ces frais"),
+             [&catalogue, &verifications] { verifications.accepterFrais(catalogue); });
+    prendreLaTaille(taille);
+}

@@ -1,0 +1,115 @@
+#include "ui/tarifs/CarteNouveauxTarifs.h"
+
+#include "ui/Theme.h"
+#include "ui/commun/Alerte.h"
+#include "ui/commun/Defilement.h"
+#include "ui/commun/EtatVide.h"
+#include "ui/commun/Libelle.h"
+#include "ui/commun/NombreRoulant.h"
+#include "ui/tarifs/RangeeDeTableau.h"
+#include "ui/tarifs/TextesVerifications.h"
+
+#include <QVBoxLayout>
+
+#include <array>
+
+namespace {
+
+constexpr QSize taille(720, 640);
+constexpr QSize tailleVide(440, 300);
+constexpr int marge = 24;
+constexpr std::array parts{4, 2, 2, 2, 4}; // of the columns
+
+QWidget *texte(const QString &texte, Qt::Alignment alignement)
+{
+    auto *libelle = new Libelle(texte);
+    libelle->setAlignment(alignement | Qt::AlignVCenter);
+    return libelle;
+}
+
+QWidget *chiffres(const QString &texte)
+{
+    auto *nombre = new NombreRoulant;
+    nombre->afficher(texte);
+    return nombre;
+}
+
+QWidget *tetes()
+{
+    const auto tete = [](const QString &texte, Qt::Alignment alignement) {
+        auto *libelle = new Libelle(texte, Libelle::Rang::secondaire);
+        libelle->setFont(Theme::enGras(Theme::encadre()));
+        libelle->setAlignment(alignement);
+        return libelle;
+    };
+    return new RangeeDeTableau({{tete(CarteNouveauxTarifs::tr("Zone"), Qt::AlignLeft), parts[0]},
+                                {tete(CarteNouveauxTarifs::tr("Jusqu’à"), Qt::AlignRight), parts[1]},
+                                {tete(CarteNouveauxTarifs::tr("Avant"), Qt::AlignRight), parts[2]},
+                                {tete(CarteNouveauxTarifs::tr("Après"), Qt::AlignRight), parts[3]},
+                                {tete(CarteNouveauxTarifs::tr("Écart"), Qt::AlignRight), parts[4]}});
+}
+
+QWidget *tableau(const QList<TextesVerifications::Ecart> &ecarts)
+{
+    auto *tableau = new QWidget;
+    auto *colonne = new QVBoxLayout(tableau);
+    colonne->setContentsMargins(marge, 0, marge, marge);
+    colonne->setSpacing(0);
+    colonne->addWidget(tetes());
+    for (const TextesVerifications::Ecart &ecart : ecarts)
+        colonne->addWidget(new RangeeDeTableau({{texte(ecart.zone, Qt::AlignLeft), parts[0]},
+                                                {texte(ecart.jusqua, Qt::AlignRight), parts[1]},
+                                                {chiffres(ecart.avant), parts[2]},
+                                                {chiffres(ecart.apres), parts[3]},
+                                                {chiffres(ecart.ecart), parts[4]}}));
+    colonne->addStretch(1);
+    return tableau;
+}
+
+} // namespace
+
+CarteNouveauxTarifs::CarteNouveauxTarifs(Catalogue &catalogue, Verifications &verifications, QWidget *parent)
+    : FeuilleDeReleve(tr("Nouveaux tarifs Colissimo"), parent)
+{
+    const ReleveColissimo &releve = *verifications.nouveauxTarifs();
+    const TarifsColissimo &avant = catalogue.tarifs(TextesVerifications::veille(releve.tarifs.validite));
+    const auto ecarts = EcartTarif::ecarts(avant, releve.tarifs);
+    if (ecarts.isEmpty()) {
+        composerVide(new EtatVide(QStringLiteral("checkmark.seal"), tr("Pas de changement"),
+                                  tr("Les tarifs de laposte.fr sont ceux de l’app.")));
+        prendreLaTaille(tailleVide);
+        return;
+    }
+
+    auto *titre = new Libelle(windowTitle());
+    titre->setFont(Theme::titreSection());
+    auto *dates = new Libelle(TextesVerifications::dates(releve.tarifs), Libelle::Rang::secondaire);
+    dates->setWordWrap(true);
+    auto *tete = new QVBoxLayout;
+    tete->setContentsMargins(marge, marge, marge, 14);
+    tete->setSpacing(6);
+    tete->addWidget(titre);
+    tete->addWidget(dates);
+    if (!releve.dateTrouvee)
+        tete->addWidget(new Alerte(QStringLiteral("calendar.badge.exclamationmark"),
+                                   tr("Date d’effet introuvable sur la page : c’est le jour du relevé qui est retenu."),
+                                   Alerte::Ton::avertissement));
+    auto *defilement = new Defilement;
+    defilement->setWidget(tableau(TextesVerifications::ecarts(ecarts)));
+    defilement->setFocusPolicy(Qt::StrongFocus); // the arrows scroll
+    defilement->setAccessibleName(tr("Paliers qui changent"));
+    auto *compte = new Libelle(TextesVerifications::compte(ecarts, releve.tarifs));
+    compte->setContentsMargins(marge, 10, marge, 0);
+
+    auto *page = new QWidget;
+    auto *colonne = new QVBoxLayout(page);
+    colonne->setContentsMargins(0, 0, 0, 12);
+    colonne->setSpacing(0);
+    colonne->addLayout(tete);
+    colonne->addWidget(defilement, 1);
+    colonne->addWidget(filet(Qt::Horizontal));
+    colonne->addWidget(compte);
+    composer(page, tr("Enregistrer ces tarifs"),
+             [&catalogue, &verifications] { verifications.accepterTarifs(catalogue); });
+    prendreLaTaille(taille);
+}

@@ -1,0 +1,92 @@
+#include "ui/tarifs/LigneVerification.h"
+
+#include "ui/Theme.h"
+#include "ui/commun/Icone.h"
+#include "ui/commun/Libelle.h"
+#include "ui/commun/Lien.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int coteSymbole = 22;
+constexpr int coteEtat = 16;
+constexpr int espace = 12;
+
+} // namespace
+
+LigneVerification::LigneVerification(const QString &nom, QWidget *parent)
+    : QWidget(parent),
+      titre_(new Libelle({})),
+      detail_(new Libelle({}, Libelle::Rang::secondaire)),
+      etat_(new Libelle({})),
+      progres_(new QProgressBar),
+      changements_(new QPushButton(tr("Voir les changements"))),
+      page_(new QPushButton(Icone::icone(QStringLiteral("arrow.up.forward.app")), tr("Ouvrir la page"))),
+      verifier_(new QPushButton(Icone::icone(QStringLiteral("arrow.counterclockwise")), tr("Vérifier")))
+{
+    titre_->setFont(Theme::enGras(font()));
+    detail_->setFont(Theme::encadre());
+    detail_->setWordWrap(true);
+    etat_->setFont(Theme::encadre());
+    etat_->setWordWrap(true);
+    progres_->setRange(0, 0);
+    progres_->setTextVisible(false);
+    progres_->setFixedSize(72, 5);
+    progres_->setAccessibleName(tr("%1 : mise à jour en cours").arg(nom));
+    for (QPushButton *bouton : {changements_, page_, verifier_})
+        bouton->setAccessibleName(QStringLiteral("%1, %2").arg(bouton->text(), nom));
+    changements_->setDefault(true); // filled: it is what the line asks for
+
+    auto *situation = new QHBoxLayout;
+    situation->setContentsMargins(coteEtat + 6, 0, 0, 0);
+    situation->addWidget(etat_, 1);
+    situation->addWidget(progres_, 0, Qt::AlignVCenter);
+    auto *textes = new QVBoxLayout;
+    textes->setSpacing(3);
+    textes->addWidget(titre_);
+    textes->addWidget(detail_);
+    textes->addLayout(situation);
+    auto *rangee = new QHBoxLayout(this);
+    rangee->setSpacing(8);
+    rangee->addSpacing(coteSymbole + espace);
+    rangee->addLayout(textes, 1);
+    for (QPushButton *bouton : {changements_, page_, verifier_})
+        rangee->addWidget(bouton, 0, Qt::AlignVCenter);
+
+    connect(changements_, &QPushButton::clicked, this, &LigneVerification::changementsDemandes);
+    connect(verifier_, &QPushButton::clicked, this, &LigneVerification::verificationDemandee);
+    connect(page_, &QPushButton::clicked, this, [this] { Lien::ouvrir(ligne_.page, this); });
+}
+
+void LigneVerification::montrer(const TextesVerifications::Ligne &ligne)
+{
+    ligne_ = ligne;
+    titre_->setText(ligne.titre);
+    detail_->setText(ligne.detail);
+    etat_->setText(ligne.etat);
+    progres_->setVisible(ligne.enCours);
+    changements_->setVisible(ligne.changement);
+    page_->setVisible(ligne.echec);
+    verifier_->setEnabled(!ligne.enCours);
+    update();
+}
+
+void LigneVerification::paintEvent(QPaintEvent *)
+{
+    QPainter peintre(this);
+    Icone::peindre(peintre, ligne_.symbole, QRectF(0, titre_->y(), coteSymbole, coteSymbole),
+                   Theme::secondaire(palette()));
+    if (ligne_.symboleEtat.isEmpty())
+        return;
+    const bool alerte = ligne_.echec || ligne_.symboleEtat.startsWith(QLatin1String("clock"));
+    const QColor couleur = alerte              ? Theme::orange(palette())
+                           : ligne_.changement ? Theme::accentTexte(palette())
+                                               : Theme::secondaire(palette());
+    const int haut = etat_->y() + (etat_->fontMetrics().height() - coteEtat) / 2;
+    Icone::peindre(peintre, ligne_.symboleEtat, QRectF(etat_->x() - coteEtat - 6, haut, coteEtat, coteEtat), couleur);
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "ui/tarifs/TextesVerifications.h"
+
+#include <QWidget>
+
+class Libelle;
+class QProgressBar;
+class QPushButton;
+
+// One check of the tariff watch: where it stands, and what can be done about it.
+class LigneVerification : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // `nom` tells its buttons from the other check's, for who hears them.
+    explicit LigneVerification(const QString &nom, QWidget *parent = nullptr);
+    void montrer(const TextesVerifications::Ligne &ligne);
+
+signals:
+    void verificationDemandee();
+    void changementsDemandes();
+
+protected:
+    void paintEvent(QPaintEvent *evenement) override;
+
+private:
+    TextesVerifications::Ligne ligne_;
+    Libelle *titre_;
+    Libelle *detail_;
+    Libelle *etat_;
+    QProgressBar *progres_;
+    QPushButton *changements_;
+    QPushButton *page_;
+    QPushButton *verifier_;
+};

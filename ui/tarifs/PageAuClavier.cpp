@@ -1,0 +1,46 @@
+#include "ui/tarifs/PageAuClavier.h"
+
+#include "ui/Theme.h"
+#include "ui/commun/Dessin.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+PageAuClavier::PageAuClavier(QWidget *parent) : Defilement(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void PageAuClavier::keyPressEvent(QKeyEvent *touche)
+{
+    if (touche->key() == Qt::Key_Home)
+        verticalScrollBar()->triggerAction(QAbstractSlider::SliderToMinimum);
+    else if (touche->key() == Qt::Key_End)
+        verticalScrollBar()->triggerAction(QAbstractSlider::SliderToMaximum);
+    else
+        Defilement::keyPressEvent(touche);
+}
+
+void PageAuClavier::focusInEvent(QFocusEvent *evenement)
+{
+    Defilement::focusInEvent(evenement);
+    viewport()->update();
+}
+
+void PageAuClavier::focusOutEvent(QFocusEvent *evenement)
+{
+    Defilement::focusOutEvent(evenement);
+    viewport()->update();
+}
+
+void PageAuClavier::paintEvent(QPaintEvent *evenement)
+{
+    Defilement::paintEvent(evenement);
+    if (!Dessin::focusVisible(this))
+        return;
+    QPainter peintre(viewport());
+    peintre.setRenderHint(QPainter::Antialiasing);
+    Dessin::anneauDeFocus(peintre, QRectF(viewport()->rect()).adjusted(6, 6, -6, -6), Theme::rayonControle,
+                          Theme::accentTexte(palette()));
+}

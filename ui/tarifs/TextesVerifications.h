@@ -1,0 +1,52 @@
+#pragma once
+
+#include "model/Catalogue.h"
+#include "watch/EcartTarif.h"
+#include "watch/Verifications.h"
+
+#include <QList>
+#include <QString>
+
+// What the screens say of the two weekly checks, and of what they found: texts only, laid out by the widgets.
+namespace TextesVerifications {
+
+// One check: what it watches, and where it stands.
+struct Ligne
+{
+    QString symbole;
+    QString titre;
+    QString detail;
+    QString symboleEtat; // may be empty
+    QString etat;
+    bool enCours = false;
+    bool echec = false;
+    bool changement = false;
+    QUrl page; // the one that was read
+
+    bool operator==(const Ligne &) const = default;
+};
+
+Ligne laPoste(const Verifications &verifications, const Catalogue &catalogue, QDate jour);
+Ligne paypal(const Verifications &verifications, const Catalogue &catalogue);
+
+// One tier whose price changes.
+struct Ecart
+{
+    QString zone;
+    QString jusqua;
+    QString avant;
+    QString apres;
+    QString ecart; // "+0,50 € (+5,32 %)", or that the tier is new or gone
+
+    bool operator==(const Ecart &) const = default;
+};
+
+// The day before, in the same form; a text that is no day comes back unchanged.
+QString veille(const QString &iso);
+QList<Ecart> ecarts(const QList<EcartTarif> &ecarts);
+// "3 paliers sur 84 changent."
+QString compte(const QList<EcartTarif> &ecarts, const TarifsColissimo &nouveaux);
+// From when they are in force, and when they were read.
+QString dates(const TarifsColissimo &nouveaux);
+
+} // namespace TextesVerifications

@@ -1,0 +1,156 @@
+#include "watch/Verifications.h"
+
+#include "model/Format.h"
+
+#include <utility>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto uneSemaine = 604'800s;
+constexpr auto troisMois = 7'776'000s;
+
+using Cas = Verifications::Etat::Cas;
+
+bool memesFrais(const FraisPaypal &a, const FraisPaypal &b)
+{
+    return a.taux == b.taux && a.fixe == b.fixe && a.supplements == b.supplements;
+}
+
+} // namespace
+
+Verifications::Verifications(const Preferences &preferences, Horloge maintenant, const PagesSurveillees &pages,
+                             QObject *parent)
+    : QObject(parent), preferences_(preferences), maintenant_(std::move(maintenant))
+{
+    laPoste_.cle = QStringLiteral("verification.laPoste");
+    laPoste_.adresse = pages.laPoste;
+    laPoste_.verifie = lire(laPoste_.cle);
+    paypal_.cle = QStringLiteral("verification.paypal");
+    paypal_.adresse = pages.paypal;
+    paypal_.verifie = lire(paypal_.cle);
+}
+
+int Verifications::nombreASignaler() const
+{
+    return static_cast<int>(laPoste_.nouveau || laPosteAVerifier())
+           + static_cast<int>(paypal_.nouveau || paypalAVerifier());
+}
+
+void Verifications::verifierSiNecessaire(Catalogue &catalogue)
+{
+    const auto puisPaypal = [this, &catalogue] {
+        if (plusVieuxQue(paypal_.verifie, uneSemaine))
+            verifierPaypal(catalogue);
+    };
+    if (laPoste_.etat.cas == Cas::enCours || !plusVieuxQue(laPoste_.verifie, uneSemaine)) {
+        puisPaypal();
+        return;
+    }
+    suite_ = puisPaypal;
+    verifierLaPoste(catalogue);
+}
+
+void Verifications::verifierLaPoste(Catalogue &catalogue)
+{
+    lancer(laPoste_, [this, &catalogue](const QString &page) -> std::optional<ReleveColissimo> {
+        const QDate jour = maintenant_().date();
+        const auto releve = ReleveColissimo::analyser(page, catalogue.tarifs(Format::iso(jour)), jour);
+        return catalogue.connait(releve.tarifs) ? std::nullopt : std::optional(releve);
+    });
+}
+
+void Verifications::verifierPaypal(Catalogue &catalogue)
+{
+    lancer(paypal_, [this, &catalogue](const QString &page) -> std::optional<FraisPaypal> {
+        const FraisPaypal frais = RelevePaypal::analyser(page, maintenant_().date());
+        return memesFrais(frais, catalogue.reglages().fraisPaypal) ? std::nullopt : std::optional(frais);
+    });
+}
+
+void Verifications::accepterTarifs(Catalogue &catalogue)
+{
+    if (!laPoste_.nouveau)
+        return;
+    catalogue.enregistrer(laPoste_.nouveau->tarifs);
+    accepter(laPoste_);
+}
+
+void Verifications::accepterFrais(Catalogue &catalogue)
+{
+    if (!paypal_.nouveau)
+        return;
+    catalogue.enregistrer(*paypal_.nouveau);
+    accepter(paypal_);
+}
+
+template <typename Releve, typename Analyse>
+void Verifications::lancer(Controle<Releve> &controle, Analyse analyser)
+{
+    if (controle.etat.cas == Cas::enCours)
+        return;
+    controle.telechargement.disconnect(this);
+    connect(&controle.telechargement, &Telechargement::echouee, this, [this, &controle](const ErreurReleve &erreur) {
+        conclure(controle, {Cas::erreur, erreur.texte()});
+    });
+    connect(&controle.telechargement, &Telechargement::lue, this, [this, &controle, analyser](const QString &page) {
+        try {
+            auto nouveau = analyser(page);
+            noter(controle);
+            controle.nouveau = std::move(nouveau);
+            conclure(controle, {controle.nouveau ? Cas::changement : Cas::aJour, {}});
+        } catch (const ErreurReleve &erreur) {
+            conclure(controle, {Cas::erreur, erreur.texte()});
+        }
+    });
+    controle.etat = {Cas::enCours, {}};
+    controle.telechargement.page(controle.adresse);
+    emit change();
+}
+
+template <typename Releve>
+void Verifications::conclure(Controle<Releve> &controle, const Etat &etat)
+{
+    controle.etat = etat;
+    emit change();
+    if constexpr (std::is_same_v<Releve, ReleveColissimo>)
+        if (const auto suite = std::exchange(suite_, nullptr))
+            suite();
+}
+
+template <typename Releve>
+void Verifications::accepter(Controle<Releve> &controle)
+{
+    controle.nouveau.reset();
+    controle.etat = {Cas::aJour, {}};
+    emit change();
+}
+
+// A success that cannot be written down counts for this run of the program: the next one checks again.
+template <typename Releve>
+void Verifications::noter(Controle<Releve> &controle)
+{
+    controle.verifie = maintenant_();
+    try {
+        preferences_.ecrire(controle.cle, controle.verifie->toUTC().toString(Qt::ISODate));
+    } catch (const ErreurStockage &erreur) {
+        qWarning("%s", erreur.what());
+    }
+}
+
+std::optional<QDateTime> Verifications::lire(const QString &cle) const
+{
+    const QDateTime date = QDateTime::fromString(preferences_.texte(cle), Qt::ISODate);
+    return date.isValid() ? std::optional(date) : std::nullopt;
+}
+
+bool Verifications::plusVieuxQue(const std::optional<QDateTime> &date, std::chrono::seconds duree) const
+{
+    return !date || date->msecsTo(maintenant_()) > std::chrono::milliseconds(duree).count();
+}
+
+bool Verifications::perime(const std::optional<QDateTime> &date) const
+{
+    return plusVieuxQue(date, troisMois);
+}

@@ -1,0 +1,99 @@
+#pragma once
+
+#include "model/Catalogue.h"
+#include "model/Preferences.h"
+#include "watch/ReleveColissimo.h"
+#include "watch/RelevePaypal.h"
+#include "watch/Telechargement.h"
+
+#include <QDateTime>
+#include <QObject>
+
+#include <functional>
+#include <optional>
+
+// Where the public pages are; a test puts its own in their place.
+struct PagesSurveillees
+{
+    QUrl laPoste = ReleveColissimo::adresse();
+    QUrl paypal = RelevePaypal::adresse();
+};
+
+// The two checks of the tariff watch: they read La Poste's and PayPal's pages, hold what differs from the data in use,
+// and change nothing until it is accepted. The dates of the last successes are kept between runs of the program.
+class Verifications : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Etat
+    {
+        enum class Cas { erreur, inconnu, enCours, aJour, changement };
+
+        Cas cas = Cas::inconnu;
+        QString message; // of an error
+
+        bool operator==(const Etat &) const = default;
+    };
+    using Horloge = std::function<QDateTime()>;
+    Verifications(const Preferences &preferences, Horloge maintenant, const PagesSurveillees &pages = {},
+                  QObject *parent = nullptr);
+
+    [[nodiscard]] const Etat &etatLaPoste() const { return laPoste_.etat; }
+    [[nodiscard]] const Etat &etatPaypal() const { return paypal_.etat; }
+    [[nodiscard]] const std::optional<ReleveColissimo> &nouveauxTarifs() const { return laPoste_.nouveau; }
+    [[nodiscard]] const std::optional<FraisPaypal> &nouveauxFrais() const { return paypal_.nouveau; }
+    // When the check last succeeded, whatever it found.
+    [[nodiscard]] const std::optional<QDateTime> &verifieLaPoste() const { return laPoste_.verifie; }
+    [[nodiscard]] const std::optional<QDateTime> &verifiePaypal() const { return paypal_.verifie; }
+
+    // The last success is too old to be trusted, or never was.
+    [[nodiscard]] bool laPosteAVerifier() const { return perime(laPoste_.verifie); }
+    [[nodiscard]] bool paypalAVerifier() const { return perime(paypal_.verifie); }
+    // 0 to 2: what the user should look at.
+    [[nodiscard]] int nombreASignaler() const;
+
+    // All return at once; `change` tells the rest. The catalogue must live until the check has ended. A check that runs
+    // is not started again.
+    void verifierSiNecessaire(Catalogue &catalogue); // La Poste's, then PayPal's, each when a week has passed
+    void verifierLaPoste(Catalogue &catalogue);
+    void verifierPaypal(Catalogue &catalogue);
+
+    // Store what was found. Throw ErreurStockage; what was found is then still to be accepted.
+    void accepterTarifs(Catalogue &catalogue);
+    void accepterFrais(Catalogue &catalogue);
+
+signals:
+    void change();
+
+private:
+    template <typename Releve>
+    struct Controle
+    {
+        QString cle; // of the last success in the preferences
+        QUrl adresse;
+        Etat etat;
+        std::optional<Releve> nouveau;
+        std::optional<QDateTime> verifie;
+        Telechargement telechargement;
+    };
+
+    // `analyser` returns what differs from the data in use, none when nothing does; it throws ErreurReleve.
+    template <typename Releve, typename Analyse>
+    void lancer(Controle<Releve> &controle, Analyse analyser);
+    template <typename Releve>
+    void conclure(Controle<Releve> &controle, const Etat &etat);
+    template <typename Releve>
+    void accepter(Controle<Releve> &controle);
+    template <typename Releve>
+    void noter(Controle<Releve> &controle);
+    [[nodiscard]] std::optional<QDateTime> lire(const QString &cle) const;
+    [[nodiscard]] bool plusVieuxQue(const std::optional<QDateTime> &date, std::chrono::seconds duree) const;
+    [[nodiscard]] bool perime(const std::optional<QDateTime> &date) const;
+
+    Preferences preferences_;
+    Horloge maintenant_;
+    Controle<ReleveColissimo> laPoste_;
+    Controle<FraisPaypal> paypal_;
+    std::function<void()> suite_; // once La Poste's check has ended
+};
