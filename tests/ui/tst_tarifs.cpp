@@ -1,86 +1,264 @@
-#include "tests/Banc.h"
-#include "ui/QuilletApp.h"
+#include "tests/BancEcran.h"
+#include "tests/serveur/ServeurLocal.h"
+#include "ui/ContenuPrincipal.h"
 #include "ui/tarifs/TextesTarifs.h"
-#include "ui/tarifs/VueTarifs.h"
+#include "ui/tarifs/TextesVerifications.h"
+#include "visite/Dialogues.h"
+#include "visite/Ecran.h"
+#include "visite/SiteDeLaVisite.h"
 
-#include <QLabel>
+#include <QAbstractButton>
+#include <QDialog>
+#include <QListWidget>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
 
-#include <algorithm>
-
-// What the tariffs' screen says, and when it says something else.
+// The tariffs screen, its sheets, and what they say.
 class TestTarifs : public QObject
 {
     Q_OBJECT
 
 private slots:
     void initTestCase() { QuilletApp::preparer(Theme::Mode::clair); }
+    void init();
+    void cleanup() { banc_.reset(); }
 
-    void famillesDansLOrdre();
-    void suitLesGrillesEnVigueur();
+    void tableaux();
+    void lignes_data();
+    void lignes();
+    void ecarts_data();
+    void ecarts();
+    void compteEtVeille();
+    void laPageGardeSaPlace();
+    void changementsEnregistres();
+    void fraisRemisAPlusTard();
+    void enregistrementManque();
+    void verificationManquee();
+
+private:
+    // Starts on these pages, and waits until both were checked.
+    void demarrer(const TarifsColissimo &tarifs, const FraisPaypal &frais);
+    [[nodiscard]] QString rubrique() const
+    {
+        return banc_->app->fenetre().findChild<QListWidget *>()->item(1)->data(Qt::AccessibleTextRole).toString();
+    }
+
+    ServeurLocal serveur_;
+    std::unique_ptr<BancEcran> banc_;
 };
 
 namespace {
 
-bool montre(const QWidget &vue, const QString &texte)
-{
-    const auto libelles = vue.findChildren<QLabel *>();
-    return std::ranges::any_of(
-        libelles, [&](const QLabel *libelle) { return libelle->isVisible() && lisible(libelle->text()) == texte; });
-}
+const QString voirTarifs = QStringLiteral("Voir les changements, Tarifs Colissimo");
+const QString voirFrais = QStringLiteral("Voir les changements, Frais PayPal");
+const QString enregistrer = QStringLiteral("Enregistrer ces tarifs");
 
 } // namespace
 
-void TestTarifs::famillesDansLOrdre()
+void TestTarifs::init()
 {
-    TarifsColissimo tarifs = desTarifs(QStringLiteral("2026-01-01"), Centimes{549});
-    std::swap(tarifs.grilles[0], tarifs.grilles[1]);
+    banc_ = std::make_unique<BancEcran>();
+    banc_->donnees.reglages.fraisPaypal.supplements = {{QStringLiteral("eee"), Taux{0}},
+                                                       {QStringLiteral("royaume-uni"), Taux{129}},
+                                                       {QStringLiteral("autres"), Taux{199}}};
+}
+
+void TestTarifs::demarrer(const TarifsColissimo &tarifs, const FraisPaypal &frais)
+{
+    serveur_.servir(QStringLiteral("/poste"),
+                    http("200 OK", SiteDeLaVisite::page(tarifs, QStringLiteral("1er avril 2026")).toUtf8()));
+    serveur_.servir(QStringLiteral("/paypal"), http("200 OK", SiteDeLaVisite::page(frais).toUtf8()));
+    banc_->pages = {serveur_.adresse(QStringLiteral("/poste")), serveur_.adresse(QStringLiteral("/paypal"))};
+    banc_->demarrer();
+    banc_->app->fenetre().contenu()->montrer(Rubrique::tarifs);
+    QTRY_VERIFY(!banc_->donnees.preferences().texte(QStringLiteral("verification.paypal")).isEmpty());
+}
+
+void TestTarifs::tableaux()
+{
+    Banc &donnees = banc_->donnees;
+    TarifsColissimo &tarifs = donnees.tarifs.last();
+    GrilleColissimo lointaine = tarifs.grilles[1];
+    lointaine.code = QStringLiteral("royaume-uni");
+    lointaine.nomCourt = lointaine.nom = QStringLiteral("Royaume-Uni");
+    lointaine.paliers.removeAt(1);
     GrilleColissimo ailleurs = tarifs.grilles[0];
     ailleurs.famille = QStringLiteral("lune");
-    tarifs.grilles.append(ailleurs);
-    GrilleColissimo sansPays = tarifs.grilles[0];
-    sansPays.nom = sansPays.nomCourt = QStringLiteral("Royaume-Uni");
-    tarifs.grilles.append(sansPays);
+    tarifs.grilles += {lointaine, ailleurs};
+    const auto catalogue = donnees.charger();
+    Commande commande;
+    commande.ajuster(donnees.livres[0], 2);
+    commande.setCodeDestination(QStringLiteral("ue"));
 
-    const auto familles = TextesTarifs::familles(tarifs);
+    const auto familles = TextesTarifs::familles(tarifs, Calcul(*catalogue, commande, jourDuBanc));
     QStringList titres;
     for (const auto &famille : familles)
         titres.append(famille.titre);
     QCOMPARE(titres, (QStringList{QStringLiteral("France métropolitaine, Monaco, Andorre"), QStringLiteral("Europe")}));
-    QCOMPARE(familles[1].grilles.size(), 2);
-    QCOMPARE(familles[1].grilles[0].pays, QStringLiteral("ici et là"));
-    QCOMPARE(familles[1].grilles[1].pays, QString());
-    QCOMPARE(familles[0].grilles[0].paliers[2].poids, QStringLiteral("jusqu’à 2 kg"));
-    QCOMPARE(familles[0].grilles[0].paliers[0].prix.left(4), QStringLiteral("5,49"));
+    const auto &europe = familles[1];
+    QCOMPARE(europe.zones, (QStringList{QStringLiteral("UE et Suisse"), QStringLiteral("Royaume-Uni")}));
+    QCOMPARE(europe.pays, QStringList{QStringLiteral("UE et Suisse : ici et là")});
+    QCOMPARE(europe.paliers.size(), 3);
+    QCOMPARE(europe.paliers[2].poids, QStringLiteral("jusqu’à 2 kg"));
+    const auto &moyen = europe.paliers[1].prix;
+    QCOMPARE(lisible(moyen[0].texte), QStringLiteral("7,59 €"));
+    QVERIFY(moyen[0].enCours); // 440 g for the Union
+    QCOMPARE(moyen[1], (TextesTarifs::Prix{QStringLiteral("—"), false}));
+    QVERIFY(!familles[0].paliers[1].prix[0].enCours && !europe.paliers[0].prix[0].enCours);
 }
 
-void TestTarifs::suitLesGrillesEnVigueur()
+void TestTarifs::lignes_data()
 {
-    const Banc banc;
-    const auto catalogue = banc.charger();
-    VueTarifs vue(*catalogue, [] { return QDate(2026, 3, 2); });
-    vue.resize(800, 300);
-    vue.show();
-    auto *page = vue.findChild<QScrollArea *>();
-    QVERIFY(montre(vue, QStringLiteral("5,49 €")));
-    QVERIFY(montre(vue, QStringLiteral("en vigueur au 1er janvier 2026")));
+    QTest::addColumn<QString>("verifie"); // as kept
+    QTest::addColumn<QString>("symbole");
+    QTest::addColumn<QString>("etat");
+    QTest::newRow("jamais") << QString() << QString() << QStringLiteral("Pas encore vérifiés depuis l’app");
+    QTest::newRow("récemment") << QStringLiteral("2026-03-01T12:00:00Z") << QStringLiteral("checkmark.circle")
+                               << QStringLiteral("Vérifiés le 1er mars 2026");
+    QTest::newRow("il y a longtemps") << QStringLiteral("2025-11-03T12:00:00Z")
+                                      << QStringLiteral("clock.badge.exclamationmark")
+                                      << QStringLiteral("Vérifiés le 3 novembre 2025 : à revérifier");
+}
 
+void TestTarifs::lignes()
+{
+    QFETCH(QString, verifie);
+    QFETCH(QString, symbole);
+    QFETCH(QString, etat);
+    Preferences preferences = banc_->donnees.preferences();
+    preferences.ecrire(QStringLiteral("verification.laPoste"), verifie);
+    banc_->donnees.tarifs.append(desTarifs(QStringLiteral("2026-04-01"), Centimes{600}));
+    const auto catalogue = banc_->donnees.charger();
+    const Verifications verifications(
+        preferences, [] { return QDateTime(jourDuBanc, QTime(10, 0)); }, horsReseau());
+    const auto ligne = TextesVerifications::laPoste(verifications, *catalogue, jourDuBanc);
+    QCOMPARE(ligne.detail, QStringLiteral("en vigueur au 1er janvier 2026, nouvelle grille au 1er avril 2026"));
+    QCOMPARE(ligne.symboleEtat, symbole);
+    QCOMPARE(ligne.etat, etat);
+    QCOMPARE(lisible(TextesVerifications::paypal(verifications, *catalogue).detail),
+             QStringLiteral("2,90 % + 0,35 € ; Royaume-Uni + 1,29 %, autres pays + 1,99 %"));
+}
+
+void TestTarifs::ecarts_data()
+{
+    QTest::addColumn<qint64>("avant"); // -1: none
+    QTest::addColumn<qint64>("apres");
+    QTest::addColumn<QString>("ecart");
+    QTest::newRow("hausse") << qint64{940} << qint64{990} << QStringLiteral("+0,50 € (+5,32 %)");
+    QTest::newRow("baisse") << qint64{990} << qint64{940} << QStringLiteral("-0,50 € (-5,05 %)");
+    QTest::newRow("gratuit avant") << qint64{0} << qint64{940} << QStringLiteral("+9,40 €");
+    QTest::newRow("nouveau") << qint64{-1} << qint64{940} << QStringLiteral("nouveau palier");
+    QTest::newRow("supprimé") << qint64{940} << qint64{-1} << QStringLiteral("palier supprimé");
+}
+
+void TestTarifs::ecarts()
+{
+    QFETCH(qint64, avant);
+    QFETCH(qint64, apres);
+    QFETCH(QString, ecart);
+    const auto prix = [](qint64 centimes) { return centimes < 0 ? std::nullopt : std::optional(Centimes{centimes}); };
+    const auto texte = TextesVerifications::ecarts(
+        {{banc_->donnees.tarifs.last().grilles[1], Grammes{2000}, prix(avant), prix(apres)}});
+    QCOMPARE(texte[0].zone, QStringLiteral("UE et Suisse"));
+    QCOMPARE(texte[0].jusqua, QStringLiteral("2 kg"));
+    QCOMPARE(texte[0].avant == QStringLiteral("—"), avant < 0);
+    QCOMPARE(lisible(texte[0].ecart), ecart);
+}
+
+void TestTarifs::compteEtVeille()
+{
+    const TarifsColissimo tarifs = desTarifs(QStringLiteral("2026-04-01"), Centimes{600});
+    const QList<EcartTarif> un(1);
+    QCOMPARE(TextesVerifications::compte(un, tarifs), QStringLiteral("1 palier sur 6 changent."));
+    QCOMPARE(TextesVerifications::compte(un + un, tarifs), QStringLiteral("2 paliers sur 6 changent."));
+    QCOMPARE(TextesVerifications::veille(QStringLiteral("2028-03-01")), QStringLiteral("2028-02-29"));
+    QCOMPARE(TextesVerifications::veille(QStringLiteral("2026-02-31")), QStringLiteral("2026-02-31"));
+}
+
+void TestTarifs::laPageGardeSaPlace()
+{
+    const TarifsColissimo tarifs = banc_->donnees.tarifs.last();
+    demarrer(tarifs, banc_->donnees.reglages.fraisPaypal);
+    const Fenetre &fenetre = banc_->app->fenetre();
+    QVERIFY(Ecran::montre(&fenetre, QStringLiteral("en vigueur au 1er janvier 2026")));
+    auto *page = qobject_cast<QScrollArea *>(Ecran::controle(&fenetre, QStringLiteral("Tarifs et frais")));
     QTest::keyClick(page, Qt::Key_End);
     const int bas = page->verticalScrollBar()->value();
     QVERIFY(bas > 0);
-    Livre livre = banc.livres[0];
-    livre.prix = Centimes{1234};
-    catalogue->modifier(livre);
-    catalogue->enregistrer(desTarifs(QStringLiteral("2026-03-03"), Centimes{888}));
-    QVERIFY(montre(vue, QStringLiteral("5,49 €")));
+    banc_->app->commande().setPaysLivraison(QStringLiteral("la Lune")); // nothing here says so
     QCOMPARE(page->verticalScrollBar()->value(), bas);
+    QCOMPARE(rubrique(), QStringLiteral("Tarifs Colissimo"));
+}
 
-    catalogue->enregistrer(desTarifs(QStringLiteral("2026-03-02"), Centimes{777}));
-    QTRY_VERIFY(montre(vue, QStringLiteral("7,77 €")));
-    QVERIFY(!montre(vue, QStringLiteral("5,49 €")));
-    QVERIFY(montre(vue, QStringLiteral("en vigueur au 2 mars 2026")));
+void TestTarifs::changementsEnregistres()
+{
+    TarifsColissimo tarifs = banc_->donnees.tarifs.last();
+    tarifs.grilles[0].paliers[0].prix = Centimes{600};
+    demarrer(tarifs, banc_->donnees.reglages.fraisPaypal);
+    Fenetre &fenetre = banc_->app->fenetre();
+    QCOMPARE(rubrique(), QStringLiteral("Tarifs Colissimo, 1 à voir"));
+    QVERIFY(Ecran::montre(&fenetre, QStringLiteral("Nouveaux tarifs sur laposte.fr")));
+    QVERIFY(!Ecran::controle(&fenetre, voirFrais));
+
+    QDialog *feuille = banc_->ouvrir(voirTarifs);
+    QVERIFY(Ecran::montre(feuille, QStringLiteral("En vigueur à partir du 1er avril 2026 · relevés sur laposte.fr le 2 "
+                                                  "mars 2026")));
+    QVERIFY(Ecran::montre(feuille, QStringLiteral("1 palier sur 6 changent.")));
+    QVERIFY(Ecran::cliquer(feuille, enregistrer));
+    QTRY_VERIFY(!Dialogues::devant());
+    QCOMPARE(rubrique(), QStringLiteral("Tarifs Colissimo"));
+    QVERIFY(
+        Ecran::montre(&fenetre, QStringLiteral("en vigueur au 1er janvier 2026, nouvelle grille au 1er avril 2026")));
+    QVERIFY(Ecran::cliquer(&fenetre, QStringLiteral("À partir du 1er avril 2026")));
+    QTRY_VERIFY(Ecran::montre(&fenetre, QStringLiteral("À partir du 1er avril 2026")));
+    QTRY_COMPARE(lisible(Ecran::valeurEnFaceDe(&fenetre, QStringLiteral("jusqu’à 250 g"))), QStringLiteral("6,00 €"));
+}
+
+void TestTarifs::fraisRemisAPlusTard()
+{
+    FraisPaypal frais = banc_->donnees.reglages.fraisPaypal;
+    frais.taux = Taux{320};
+    demarrer(banc_->donnees.tarifs.last(), frais);
+    QDialog *feuille = banc_->ouvrir(voirFrais);
+    QVERIFY(Ecran::montre(feuille, QStringLiteral("Relevés sur paypal.com, tarifs marchands pour la France")));
+    QCOMPARE(lisible(Ecran::valeurEnFaceDe(feuille, QStringLiteral("Taux de base"))), QStringLiteral("2,90 %"));
+    QVERIFY(Ecran::cliquer(feuille, QStringLiteral("Plus tard")));
+    QTRY_VERIFY(!Dialogues::devant());
+    QCOMPARE(rubrique(), QStringLiteral("Tarifs Colissimo, 1 à voir")); // still there
+    QVERIFY(Ecran::cliquer(banc_->ouvrir(voirFrais), QStringLiteral("Enregistrer ces frais")));
+    QTRY_VERIFY(!Dialogues::devant());
+    QCOMPARE(rubrique(), QStringLiteral("Tarifs Colissimo"));
+}
+
+void TestTarifs::enregistrementManque()
+{
+    TarifsColissimo tarifs = banc_->donnees.tarifs.last();
+    tarifs.grilles[0].paliers[0].prix = Centimes{600};
+    demarrer(tarifs, banc_->donnees.reglages.fraisPaypal);
+    banc_->donnees.ecrireUtilisateur(QStringLiteral("tarifs-colissimo-2026-04-01.json/obstacle"), "un dossier");
+    QDialog *feuille = banc_->ouvrir(voirTarifs);
+    QVERIFY(Ecran::cliquer(feuille, enregistrer));
+    QCOMPARE(Dialogues::devant(), feuille); // still open
+    QVERIFY(Ecran::montre(feuille, QDir::toNativeSeparators(banc_->donnees.cheminUtilisateur(
+                                       QStringLiteral("tarifs-colissimo-2026-04-01.json")))
+                                       + QStringLiteral(" : un dossier occupe la place du fichier")));
+    QCOMPARE(rubrique(), QStringLiteral("Tarifs Colissimo, 1 à voir"));
+}
+
+void TestTarifs::verificationManquee()
+{
+    banc_->demarrer(); // on pages that nobody serves
+    Fenetre &fenetre = banc_->app->fenetre();
+    fenetre.contenu()->montrer(Rubrique::tarifs);
+    QTRY_VERIFY(Ecran::controle(&fenetre, QStringLiteral("Ouvrir la page, Frais PayPal")));
+    QVERIFY(Ecran::montre(&fenetre, QStringLiteral("Page inaccessible : connexion refusée.")));
+    QCOMPARE(rubrique(), QStringLiteral("Tarifs Colissimo, 2 à voir"));
+    const QString verifier = QStringLiteral("Vérifier, Tarifs Colissimo");
+    QVERIFY(Ecran::cliquer(&fenetre, verifier));
+    QVERIFY(!Ecran::controle(&fenetre, verifier)->isEnabled());
+    QVERIFY(Ecran::montre(&fenetre, QStringLiteral("Mise à jour en cours…")));
+    QTRY_VERIFY(Ecran::controle(&fenetre, verifier)->isEnabled());
 }
 
 QTEST_MAIN(TestTarifs)

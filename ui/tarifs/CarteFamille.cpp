@@ -13,6 +13,8 @@ namespace {
 
 constexpr int partDuPoids = 3;
 constexpr int partDUneZone = 2;
+constexpr int largeurDuPoids = 260;
+constexpr int largeurDUneZone = 190;
 
 // A figure that never rolls, its digits level with those above; the one that the order in progress pays is tinted.
 class CasePrix : public NombreRoulant
@@ -60,7 +62,7 @@ QWidget *tetes(const TextesTarifs::Famille &famille)
     QList<RangeeDeTableau::Cellule> cellules{{tete(CarteFamille::tr("Poids"), Qt::AlignLeft), partDuPoids}};
     for (const QString &zone : famille.zones)
         cellules.append({tete(zone, Qt::AlignRight), partDUneZone});
-    return new RangeeDeTableau(cellules);
+    return new RangeeDeTableau(cellules, RangeeDeTableau::Filet::aucun);
 }
 
 QWidget *rangee(const TextesTarifs::Palier &palier, const QStringList &zones)
@@ -88,6 +90,8 @@ CarteFamille::CarteFamille(const TextesTarifs::Famille &famille, QWidget *parent
         colonne->addSpacing(6);
         colonne->addWidget(note);
     }
+    // A price stays within sight of its weight.
+    setMaximumWidth(largeurDuPoids + largeurDUneZone * static_cast<int>(famille.zones.size()));
     setAccessibleName(famille.titre);
 }
 

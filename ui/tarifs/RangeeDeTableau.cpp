@@ -5,7 +5,8 @@
 #include <QHBoxLayout>
 #include <QPainter>
 
-RangeeDeTableau::RangeeDeTableau(const QList<Cellule> &cellules, QWidget *parent) : QWidget(parent)
+RangeeDeTableau::RangeeDeTableau(const QList<Cellule> &cellules, Filet filet, QWidget *parent)
+    : QWidget(parent), filet_(filet)
 {
     auto *rangee = new QHBoxLayout(this);
     rangee->setContentsMargins(0, 6, 0, 6);
@@ -19,5 +20,6 @@ RangeeDeTableau::RangeeDeTableau(const QList<Cellule> &cellules, QWidget *parent
 
 void RangeeDeTableau::paintEvent(QPaintEvent *)
 {
-    QPainter(this).fillRect(0, 0, width(), 1, Theme::filet(palette()));
+    if (filet_ == Filet::dessus)
+        QPainter(this).fillRect(0, 0, width(), 1, Theme::filet(palette()));
 }

@@ -3,7 +3,8 @@
 #include <QList>
 #include <QWidget>
 
-// A row of a table under a hairline. Rows that are given the same parts have their columns at the same places.
+// A row of a table, under a hairline unless it is the first. Rows that are given the same parts have their columns at
+// the same places.
 class RangeeDeTableau : public QWidget
 {
     Q_OBJECT
@@ -15,8 +16,13 @@ public:
         int part; // of the row's width
     };
 
-    explicit RangeeDeTableau(const QList<Cellule> &cellules, QWidget *parent = nullptr);
+    enum class Filet { aucun, dessus };
+
+    explicit RangeeDeTableau(const QList<Cellule> &cellules, Filet filet = Filet::dessus, QWidget *parent = nullptr);
 
 protected:
     void paintEvent(QPaintEvent *evenement) override;
+
+private:
+    Filet filet_;
 };

@@ -155,6 +155,7 @@ void VueTarifs::offrirLeChoix(const std::optional<TarifsColissimo> &suivants)
         actualiser();
     });
     choix_->montrer(0);
+    choix_->show(); // a widget that joins a window already shown waits for its turn otherwise
 }
 
 // Another day may have come since the screen was last seen.

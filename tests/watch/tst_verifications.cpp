@@ -1,0 +1,268 @@
+#include "tests/Banc.h"
+#include "tests/serveur/ServeurLocal.h"
+#include "visite/SiteDeLaVisite.h"
+#include "watch/Verifications.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+// The two checks, against a real server on this machine, by a clock of the test's own.
+class TestVerifications : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void premierLancement();
+    void quandUneSemaineAPasse_data();
+    void quandUneSemaineAPasse();
+    void dejaConnus_data();
+    void dejaConnus();
+    void changementsAcceptes();
+    void ecritureManquee();
+    void echecs_data();
+    void echecs();
+    void uneSeuleALaFois();
+    void interrompues();
+
+private:
+    using Cas = Verifications::Etat::Cas;
+
+    void servir(const TarifsColissimo &tarifs, const FraisPaypal &frais);
+    std::unique_ptr<Verifications> verifications();
+    [[nodiscard]] QStringList demandees() const;
+    static bool terminees(const Verifications &v)
+    {
+        return v.etatLaPoste().cas != Cas::enCours && v.etatPaypal().cas != Cas::enCours;
+    }
+
+    QDateTime maintenant_;
+    std::unique_ptr<Banc> banc_;
+    std::unique_ptr<Catalogue> catalogue_;
+    std::unique_ptr<ServeurLocal> serveur_;
+};
+
+namespace {
+
+const QString cleLaPoste = QStringLiteral("verification.laPoste");
+const QString clePaypal = QStringLiteral("verification.paypal");
+const QString laPoste = QStringLiteral("/poste");
+const QString paypal = QStringLiteral("/paypal");
+
+} // namespace
+
+void TestVerifications::init()
+{
+    maintenant_ = QDateTime(jourDuBanc, QTime(10, 0), Qt::UTC);
+    banc_ = std::make_unique<Banc>();
+    banc_->reglages.fraisPaypal.supplements = {{QStringLiteral("eee"), Taux{0}},
+                                               {QStringLiteral("royaume-uni"), Taux{129}},
+                                               {QStringLiteral("autres"), Taux{199}}};
+    catalogue_ = banc_->charger();
+    serveur_ = std::make_unique<ServeurLocal>();
+    servir(catalogue_->tarifs(QStringLiteral("2026-03-02")), catalogue_->reglages().fraisPaypal);
+}
+
+void TestVerifications::servir(const TarifsColissimo &tarifs, const FraisPaypal &frais)
+{
+    serveur_->servir(laPoste, http("200 OK", SiteDeLaVisite::page(tarifs, QStringLiteral("1er avril 2026")).toUtf8()));
+    serveur_->servir(paypal, http("200 OK", SiteDeLaVisite::page(frais).toUtf8()));
+}
+
+std::unique_ptr<Verifications> TestVerifications::verifications()
+{
+    return std::make_unique<Verifications>(
+        banc_->preferences(), [this] { return maintenant_; },
+        PagesSurveillees{serveur_->adresse(laPoste), serveur_->adresse(paypal)});
+}
+
+QStringList TestVerifications::demandees() const
+{
+    QStringList chemins;
+    for (const QByteArray &tete : serveur_->requetes())
+        chemins.append(QString::fromLatin1(tete.split(' ').at(1)));
+    return chemins;
+}
+
+void TestVerifications::premierLancement()
+{
+    const auto v = verifications();
+    QCOMPARE(v->etatLaPoste(), (Verifications::Etat{}));
+    QCOMPARE(v->nombreASignaler(), 2); // never checked
+    v->verifierSiNecessaire(*catalogue_);
+    QCOMPARE(v->etatLaPoste().cas, Cas::enCours);
+    QCOMPARE(v->etatPaypal().cas, Cas::inconnu); // its turn comes next
+    QTRY_COMPARE(v->etatPaypal().cas, Cas::aJour);
+    QCOMPARE(v->etatLaPoste().cas, Cas::aJour);
+    QCOMPARE(demandees(), (QStringList{laPoste, paypal}));
+    QCOMPARE(v->nombreASignaler(), 0);
+    QCOMPARE(banc_->preferences().texte(cleLaPoste), QStringLiteral("2026-03-02T10:00:00Z"));
+    QCOMPARE(verifications()->verifiePaypal(), std::optional(maintenant_)); // of the next run of the program
+}
+
+void TestVerifications::quandUneSemaineAPasse_data()
+{
+    QTest::addColumn<QString>("poste"); // what is kept of each
+    QTest::addColumn<QString>("paypal");
+    QTest::addColumn<QStringList>("attendues");
+    QTest::addColumn<int>("pastille");
+    const auto cas = [](const char *nom, const char *poste, const char *autre, const QStringList &attendues,
+                        int pastille) {
+        QTest::newRow(nom) << QString::fromLatin1(poste) << QString::fromLatin1(autre) << attendues << pastille;
+    };
+    cas("six jours et 23 heures", "2026-02-23T11:00:00Z", "2026-02-23T11:00:00Z", {}, 0);
+    cas("sept jours juste", "2026-02-23T10:00:00Z", "2026-02-23T10:00:00Z", {}, 0);
+    cas("sept jours et une seconde", "2026-02-23T09:59:59Z", "2026-02-23T09:59:59Z", {laPoste, ::paypal}, 0);
+    cas("La Poste seule", "2026-02-01T00:00:00Z", "2026-03-01T00:00:00Z", {laPoste}, 0);
+    cas("PayPal seul", "2026-03-01T00:00:00Z", "2026-02-01T00:00:00Z", {::paypal}, 0);
+    cas("ce n’est pas une date", "hier", "2026-03-01T00:00:00Z", {laPoste}, 1);
+    cas("90 jours juste", "2025-12-02T10:00:00Z", "2026-03-01T00:00:00Z", {laPoste}, 0);
+    cas("90 jours et une seconde", "2025-12-02T09:59:59Z", "2025-12-02T09:59:59Z", {laPoste, ::paypal}, 2);
+}
+
+void TestVerifications::quandUneSemaineAPasse()
+{
+    QFETCH(QString, poste);
+    QFETCH(QString, paypal);
+    QFETCH(QStringList, attendues);
+    QFETCH(int, pastille);
+    Preferences preferences = banc_->preferences();
+    preferences.ecrire(cleLaPoste, poste);
+    preferences.ecrire(clePaypal, paypal);
+    const auto v = verifications();
+    QCOMPARE(v->nombreASignaler(), pastille);
+    v->verifierSiNecessaire(*catalogue_);
+    QTRY_VERIFY(terminees(*v) && demandees().size() >= attendues.size());
+    QCOMPARE(demandees(), attendues);
+}
+
+void TestVerifications::dejaConnus_data()
+{
+    QTest::addColumn<bool>("memesTarifs");
+    QTest::addColumn<bool>("memesFrais");
+    QTest::newRow("tout est connu, à d’autres dates") << true << true;
+    QTest::newRow("un prix change") << false << true;
+    QTest::newRow("un taux change") << true << false;
+}
+
+void TestVerifications::dejaConnus()
+{
+    QFETCH(bool, memesTarifs);
+    QFETCH(bool, memesFrais);
+    TarifsColissimo tarifs = catalogue_->tarifs(QStringLiteral("2026-03-02"));
+    FraisPaypal frais = catalogue_->reglages().fraisPaypal;
+    if (!memesTarifs)
+        tarifs.grilles[1].paliers[0].prix = Centimes{1};
+    if (!memesFrais)
+        frais.supplements[QStringLiteral("royaume-uni")] = Taux{130};
+    servir(tarifs, frais);
+    const auto v = verifications();
+    v->verifierLaPoste(*catalogue_);
+    v->verifierPaypal(*catalogue_);
+    QTRY_VERIFY(terminees(*v));
+    QCOMPARE(v->etatLaPoste().cas, memesTarifs ? Cas::aJour : Cas::changement);
+    QCOMPARE(v->nouveauxTarifs().has_value(), !memesTarifs);
+    QCOMPARE(v->etatPaypal().cas, memesFrais ? Cas::aJour : Cas::changement);
+    QCOMPARE(v->nouveauxFrais().has_value(), !memesFrais);
+    QCOMPARE(v->nombreASignaler(), (memesTarifs ? 0 : 1) + (memesFrais ? 0 : 1));
+}
+
+void TestVerifications::changementsAcceptes()
+{
+    TarifsColissimo tarifs = catalogue_->tarifs(QStringLiteral("2026-03-02"));
+    tarifs.grilles[0].paliers[0].prix = Centimes{600};
+    FraisPaypal frais = catalogue_->reglages().fraisPaypal;
+    frais.taux = Taux{320};
+    servir(tarifs, frais);
+    const auto v = verifications();
+    v->verifierSiNecessaire(*catalogue_);
+    QTRY_COMPARE(v->etatPaypal().cas, Cas::changement);
+    QVERIFY(!catalogue_->tarifsAVenir(jourDuBanc)); // nothing has changed yet
+    const auto verifie = v->verifieLaPoste();
+    maintenant_ = maintenant_.addSecs(60);
+
+    v->accepterTarifs(*catalogue_);
+    QCOMPARE(v->etatLaPoste().cas, Cas::aJour);
+    QVERIFY(!v->nouveauxTarifs());
+    QCOMPARE(v->verifieLaPoste(), verifie);
+    QCOMPARE(v->nombreASignaler(), 1);
+    QCOMPARE(catalogue_->tarifs(QStringLiteral("2026-04-01")).grilles[0].paliers[0].prix, Centimes{600});
+    QCOMPARE(catalogue_->tarifs(QStringLiteral("2026-03-31")).grilles[0].paliers[0].prix, Centimes{549});
+    v->accepterFrais(*catalogue_);
+    QCOMPARE(catalogue_->reglages().fraisPaypal.taux, Taux{320});
+    QCOMPARE(v->nombreASignaler(), 0);
+
+    v->verifierLaPoste(*catalogue_);
+    QTRY_COMPARE(v->etatLaPoste().cas, Cas::aJour); // the page still shows what is known now
+}
+
+void TestVerifications::ecritureManquee()
+{
+    TarifsColissimo tarifs = catalogue_->tarifs(QStringLiteral("2026-03-02"));
+    tarifs.grilles[0].paliers[0].prix = Centimes{600};
+    servir(tarifs, catalogue_->reglages().fraisPaypal);
+    const auto v = verifications();
+    v->verifierLaPoste(*catalogue_);
+    QTRY_COMPARE(v->etatLaPoste().cas, Cas::changement);
+    banc_->ecrireUtilisateur(QStringLiteral("tarifs-colissimo-2026-04-01.json/obstacle"), "un dossier à cette place");
+    QVERIFY_THROWS_EXCEPTION(ErreurStockage, v->accepterTarifs(*catalogue_));
+    QCOMPARE(v->etatLaPoste().cas, Cas::changement);
+    QVERIFY(v->nouveauxTarifs());
+    QVERIFY(!catalogue_->tarifsAVenir(jourDuBanc));
+}
+
+void TestVerifications::echecs_data()
+{
+    QTest::addColumn<QByteArray>("statut");
+    QTest::addColumn<QByteArray>("corps");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("absente") << QByteArray("404 Not Found") << QByteArray()
+                             << QStringLiteral("Page inaccessible : réponse 404 de localhost.");
+    QTest::newRow("sans tableau")
+        << QByteArray("200 OK") << QByteArray("<p>En travaux</p>")
+        << QStringLiteral("La page a changé de forme : grille « France » introuvable. Vérifiez à la main.");
+}
+
+void TestVerifications::echecs()
+{
+    QFETCH(QByteArray, statut);
+    QFETCH(QByteArray, corps);
+    QFETCH(QString, message);
+    const QString avant = QStringLiteral("2026-02-01T00:00:00Z");
+    banc_->preferences().ecrire(cleLaPoste, avant);
+    serveur_->servir(laPoste, http(statut, corps));
+    const auto v = verifications();
+    v->verifierSiNecessaire(*catalogue_);
+    QTRY_COMPARE(v->etatPaypal().cas, Cas::aJour); // checked all the same
+    QCOMPARE(v->etatLaPoste(), (Verifications::Etat{Cas::erreur, message}));
+    QCOMPARE(banc_->preferences().texte(cleLaPoste), avant);
+}
+
+void TestVerifications::uneSeuleALaFois()
+{
+    const auto v = verifications();
+    QSignalSpy changements(v.get(), &Verifications::change);
+    v->verifierLaPoste(*catalogue_);
+    v->verifierLaPoste(*catalogue_);
+    QCOMPARE(changements.size(), 1);
+    QTRY_VERIFY(terminees(*v));
+    QCOMPARE(demandees(), QStringList{laPoste});
+}
+
+// The window closes while a page comes.
+void TestVerifications::interrompues()
+{
+    Reponse lente = http("200 OK", QByteArray(1000, 'x'));
+    lente.parOctet = std::chrono::milliseconds(20);
+    serveur_->servir(laPoste, lente);
+    auto v = verifications();
+    v->verifierSiNecessaire(*catalogue_);
+    QTRY_COMPARE(serveur_->requetes().size(), 1);
+    v.reset();
+    QTRY_COMPARE(serveur_->ouvertes(), 0);
+    QCOMPARE(banc_->preferences().texte(cleLaPoste), QString());
+}
+
+QTEST_GUILESS_MAIN(TestVerifications)
+#include "tst_verifications.moc"
