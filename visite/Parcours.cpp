@@ -152,6 +152,7 @@ bool Parcours::accepterLesNouveautes()
         || !Ecran::cliquer(Dialogues::devant(), QStringLiteral("Plus tard")))
         return false;
     return Ecran::cliquer(&quillet_.fenetre(), QStringLiteral("À partir du 1er avril 2026"))
+           && Ecran::defiler(&quillet_.fenetre(), QStringLiteral("Europe"))
            && photographier(QStringLiteral("tarifs-a-venir"));
 }
 
