@@ -38,6 +38,7 @@ QLabel *etiquette(const QWidget *fenetre, const QString &texte)
 
 void montrer(QWidget *controle)
 {
+    QCoreApplication::processEvents(); // what has just changed is laid out first
     for (QWidget *parent = controle->parentWidget(); parent; parent = parent->parentWidget())
         if (auto *defilement = qobject_cast<QScrollArea *>(parent))
             defilement->ensureWidgetVisible(controle);

@@ -13,8 +13,7 @@ namespace {
 
 constexpr int partDuPoids = 3;
 constexpr int partDUneZone = 2;
-constexpr int largeurDuPoids = 260;
-constexpr int largeurDUneZone = 190;
+constexpr int retrait = 7; // of the figures, for the tint of the one that counts
 
 // A figure that never rolls, its digits level with those above; the one that the order in progress pays is tinted.
 class CasePrix : public NombreRoulant
@@ -23,6 +22,7 @@ public:
     CasePrix(const TextesTarifs::Prix &prix, const QString &zone, const QString &poids) : enCours_(prix.enCours)
     {
         afficher(prix.texte);
+        setContentsMargins(0, 0, retrait, 0);
         setFont(Theme::enGras(font(), enCours_ ? QFont::DemiBold : QFont::Medium));
         setAccessibleName(enCours_ ? tr("%1, %2 : %3, palier de la commande en cours").arg(zone, poids, prix.texte)
                                    : tr("%1, %2 : %3").arg(zone, poids, prix.texte));
@@ -40,7 +40,7 @@ protected:
             fond.setAlphaF(0.16F);
             peintre.setPen(Qt::NoPen);
             peintre.setBrush(fond);
-            const int largeur = sizeHint().width() + 12;
+            const int largeur = sizeHint().width() + 2 * retrait;
             peintre.drawRoundedRect(QRect(width() - largeur, 0, largeur, height()), 6, 6);
         }
         NombreRoulant::paintEvent(evenement);
@@ -57,6 +57,7 @@ QWidget *tetes(const TextesTarifs::Famille &famille)
         libelle->setFont(Theme::enGras(Theme::encadre()));
         libelle->setWordWrap(true);
         libelle->setAlignment(alignement | Qt::AlignBottom);
+        libelle->setContentsMargins(0, 0, alignement == Qt::AlignRight ? retrait : 0, 0);
         return libelle;
     };
     QList<RangeeDeTableau::Cellule> cellules{{tete(CarteFamille::tr("Poids"), Qt::AlignLeft), partDuPoids}};
@@ -90,8 +91,6 @@ CarteFamille::CarteFamille(const TextesTarifs::Famille &famille, QWidget *parent
         colonne->addSpacing(6);
         colonne->addWidget(note);
     }
-    // A price stays within sight of its weight.
-    setMaximumWidth(largeurDuPoids + largeurDUneZone * static_cast<int>(famille.zones.size()));
     setAccessibleName(famille.titre);
 }
 

@@ -21,6 +21,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -34,6 +35,17 @@ Libelle *titre(const QString &texte)
     return titre;
 }
 
+// A price stays within sight of its weight, however few zones share the page's width.
+QLayout *aSaLargeur(const TextesTarifs::Famille &famille)
+{
+    constexpr int page = 100;
+    const int prise = std::min(page, 27 + 20 * static_cast<int>(famille.zones.size()));
+    auto *rangee = new QHBoxLayout;
+    rangee->addWidget(new CarteFamille(famille), prise);
+    rangee->addStretch(page - prise);
+    return rangee;
+}
+
 QWidget *tableaux(const QList<TextesTarifs::Famille> &familles, const QList<TextesTarifs::Frais> &frais)
 {
     auto *tableaux = new QWidget;
@@ -42,7 +54,7 @@ QWidget *tableaux(const QList<TextesTarifs::Famille> &familles, const QList<Text
     colonne->setSpacing(12);
     for (const TextesTarifs::Famille &famille : familles) {
         colonne->addWidget(titre(famille.titre));
-        colonne->addWidget(new CarteFamille(famille));
+        colonne->addLayout(aSaLargeur(famille));
         colonne->addSpacing(entreSections - 12);
     }
     auto *section = new Formulaire::Section(VueTarifs::tr("Frais PayPal"));
@@ -135,6 +147,7 @@ void VueTarifs::actualiser()
     frais_ = frais;
     QWidget *avant = std::exchange(tableaux_, tableaux(familles_, frais_));
     sections_->insertWidget(1, tableaux_);
+    tableaux_->show(); // what joins a window already shown would wait for its turn
     delete avant;
 }
 
@@ -155,7 +168,7 @@ void VueTarifs::offrirLeChoix(const std::optional<TarifsColissimo> &suivants)
         actualiser();
     });
     choix_->montrer(0);
-    choix_->show(); // a widget that joins a window already shown waits for its turn otherwise
+    choix_->show();
 }
 
 // Another day may have come since the screen was last seen.
