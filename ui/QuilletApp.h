@@ -31,6 +31,7 @@ public:
     [[nodiscard]] Fenetre &fenetre() { return *fenetre_; }
 
 private:
+    // In this order: a check under way reads the catalogue, the window reads all.
     std::unique_ptr<Catalogue> catalogue_;
     Commande commande_;
     Verifications verifications_;

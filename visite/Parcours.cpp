@@ -16,19 +16,10 @@ namespace {
 const QDate jourDeLaVisite(2026, 3, 2);
 constexpr int tempsDesRessorts = 900; // ms
 
-template <typename T>
-T livre(const QString &nom)
-{
-    QFile fichier(Ressources::duProgramme().chemin(nom));
-    if (!fichier.open(QIODevice::ReadOnly))
-        qFatal("%s", qPrintable(fichier.errorString()));
-    return Json::decoder<T>(fichier.readAll(), nom);
-}
-
 // What the pages of the tour announce: every third tier dearer, and another rate.
 TarifsColissimo augmentes()
 {
-    auto tarifs = livre<TarifsColissimo>(QStringLiteral("tarifs-colissimo-2026-01-01.json"));
+    auto tarifs = Ressources::duProgramme().lire<TarifsColissimo>(QStringLiteral("tarifs-colissimo-2026-01-01"));
     int rang = 0;
     for (GrilleColissimo &grille : tarifs.grilles)
         for (Palier &palier : grille.paliers)
@@ -39,7 +30,7 @@ TarifsColissimo augmentes()
 
 FraisPaypal renegocies()
 {
-    FraisPaypal frais = livre<Reglages>(QStringLiteral("reglages.json")).fraisPaypal;
+    FraisPaypal frais = Ressources::duProgramme().lire<Reglages>(QStringLiteral("reglages")).fraisPaypal;
     frais.taux = Taux{320};
     return frais;
 }
@@ -147,7 +138,7 @@ bool Parcours::accepterLesNouveautes()
     if (!tarifs || !photographier(QStringLiteral("nouveaux-tarifs"))
         || !Ecran::cliquer(Dialogues::devant(), QStringLiteral("Enregistrer ces tarifs")))
         return false;
-    const QDialog *frais = ouvrir(QStringLiteral("Voir les changements, Frais PayPal"), {520, 400});
+    const QDialog *frais = ouvrir(QStringLiteral("Voir les changements, Frais PayPal"), {520, 340});
     if (!frais || !photographier(QStringLiteral("nouveaux-frais"))
         || !Ecran::cliquer(Dialogues::devant(), QStringLiteral("Plus tard")))
         return false;

@@ -9,6 +9,15 @@ using AvantApres = std::pair<std::optional<Centimes>, std::optional<Centimes>>;
 
 } // namespace
 
+std::optional<Taux> EcartTarif::variation() const
+{
+    if (!avant || !apres || *avant == Centimes{})
+        return std::nullopt;
+    const qint64 base = avant->valeur();
+    const qint64 dixMilliemes = (*apres - *avant).valeur() * 10'000;
+    return Taux{(dixMilliemes + (dixMilliemes < 0 ? -base : base) / 2) / base};
+}
+
 QString EcartTarif::id() const
 {
     return grille.code + u'-' + QString::number(jusqua.valeur());

@@ -15,6 +15,9 @@ struct EcartTarif
     std::optional<Centimes> avant; // none: the old schedule has no such tier
     std::optional<Centimes> apres; // none: the new one has it no more
 
+    // Of the old price, to the nearest hundredth of a percent, halves away from zero. None without both prices, or
+    // from a price of nothing.
+    [[nodiscard]] std::optional<Taux> variation() const;
     // "zone-b-2000": of one list, no two are the same.
     [[nodiscard]] QString id() const;
 

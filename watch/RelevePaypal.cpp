@@ -82,7 +82,7 @@ FraisPaypal RelevePaypal::analyser(const QString &page, QDate releve)
             .fixe = exiger<UniteCentime>(fixe),
             .supplements = {
                 // No commission is no number.
-                {Json::brut(RegionPaypal::eee), quantiteLue<UniteCentiemeDePourcent>(eee).value_or(Taux{})},
+                {Json::brut(RegionPaypal::eee), eee ? exiger<UniteCentiemeDePourcent>(eee) : Taux{}},
                 {Json::brut(RegionPaypal::royaumeUni), exiger<UniteCentiemeDePourcent>(royaumeUni)},
                 {Json::brut(RegionPaypal::autres), exiger<UniteCentiemeDePourcent>(autres)},
             }};

@@ -18,6 +18,11 @@ QString tropVolumineuse()
     return QStringLiteral("page trop volumineuse");
 }
 
+QString contenuIllisible()
+{
+    return QStringLiteral("contenu compressé illisible");
+}
+
 // In our own words: the platform's are English in part, and sentences.
 QString cause(QNetworkReply::NetworkError erreur)
 {
@@ -67,7 +72,7 @@ QByteArray deplier(const QByteArray &gzip, qint64 taille)
 {
     z_stream flux{};
     if (inflateInit2(&flux, MAX_WBITS + 16) != Z_OK)
-        throw std::bad_alloc();
+        throw ErreurReleve::reseau(contenuIllisible());
     const auto fin = qScopeGuard([&] { inflateEnd(&flux); });
     flux.next_in = reinterpret_cast<const Bytef *>(gzip.constData());
     flux.avail_in = static_cast<uInt>(gzip.size());
@@ -84,7 +89,7 @@ QByteArray deplier(const QByteArray &gzip, qint64 taille)
             throw ErreurReleve::reseau(tropVolumineuse());
     }
     if (etat != Z_STREAM_END || flux.avail_in > 0)
-        throw ErreurReleve::reseau(QStringLiteral("contenu compressé illisible"));
+        throw ErreurReleve::reseau(contenuIllisible());
     return clair;
 }
 
@@ -96,14 +101,12 @@ QByteArray decoder(const QByteArray &corps, const QByteArray &codage, qint64 tai
         return corps;
     if (codage == "gzip" || codage == "x-gzip")
         return deplier(corps, taille);
-    throw ErreurReleve::reseau(QStringLiteral("contenu compressé illisible"));
+    throw ErreurReleve::reseau(contenuIllisible());
 }
 
 } // namespace
 
-Telechargement::Telechargement(QObject *parent) : Telechargement(Limites{}, parent) {}
-
-Telechargement::Telechargement(const Limites &limites, QObject *parent) : QObject(parent), limites_(limites)
+Telechargement::Telechargement(const Limites &limites) : limites_(limites)
 {
     // Not the platform's own time-out: it ends with the first redirection.
     silence_.setSingleShot(true);
@@ -121,8 +124,6 @@ Telechargement::~Telechargement()
 void Telechargement::page(const QUrl &url)
 {
     Q_ASSERT_X(!enCours(), "Telechargement::page", "one page at a time");
-    if (enCours())
-        return;
     QNetworkRequest requete(url);
     requete.setHeader(QNetworkRequest::UserAgentHeader,
                       QStringLiteral("Mozilla/5.0 (Macintosh; Intel Mac OS X 10_15_7) AppleWebKit/605.1.15 "
@@ -136,7 +137,7 @@ void Telechargement::page(const QUrl &url)
     entete_ = false;
     interruption_.clear();
     reponse_ = reseau_.get(requete);
-    reponse_->setReadBufferSize(tampon); // else the network runs far ahead of the limit
+    reponse_->setReadBufferSize(limites_.taille); // a redirection's own body is never read, and must go by
     // Queued: a reply is neither aborted nor destroyed while its own signal is under way.
     connect(reponse_, &QNetworkReply::metaDataChanged, this, &Telechargement::recevoirEntete, Qt::QueuedConnection);
     connect(
@@ -153,6 +154,9 @@ void Telechargement::recevoirEntete()
         return;
     entete_ = true;
     silence_.start();
+    if (statut(*reponse_) / 100 == 3)
+        return;
+    reponse_->setReadBufferSize(tampon); // else the network runs far ahead of the limit
     if (reponse_->header(QNetworkRequest::ContentLengthHeader).toLongLong() > limites_.taille)
         interrompre(tropVolumineuse());
 }

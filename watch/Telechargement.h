@@ -25,14 +25,13 @@ class Telechargement : public QObject
     Q_OBJECT
 
 public:
-    explicit Telechargement(QObject *parent = nullptr);
-    explicit Telechargement(const Limites &limites, QObject *parent = nullptr);
+    explicit Telechargement(const Limites &limites = {});
     ~Telechargement() override;
     Q_DISABLE_COPY_MOVE(Telechargement)
 
     [[nodiscard]] bool enCours() const { return reponse_; }
     // Exactly one of the signals follows, never before this returns; whoever hears it may ask for the next page or
-    // destroy this object. One page at a time: a call while `enCours` stops a debug build and is ignored by others.
+    // destroy this object. Not to be called while `enCours`.
     void page(const QUrl &url);
 
 signals:

@@ -20,16 +20,11 @@ bool memesFrais(const FraisPaypal &a, const FraisPaypal &b)
 
 } // namespace
 
-Verifications::Verifications(const Preferences &preferences, Horloge maintenant, const PagesSurveillees &pages,
-                             QObject *parent)
-    : QObject(parent), preferences_(preferences), maintenant_(std::move(maintenant))
+Verifications::Verifications(const Preferences &preferences, Horloge maintenant, const PagesSurveillees &pages)
+    : preferences_(preferences), maintenant_(std::move(maintenant))
 {
-    laPoste_.cle = QStringLiteral("verification.laPoste");
-    laPoste_.adresse = pages.laPoste;
-    laPoste_.verifie = lire(laPoste_.cle);
-    paypal_.cle = QStringLiteral("verification.paypal");
-    paypal_.adresse = pages.paypal;
-    paypal_.verifie = lire(paypal_.cle);
+    preparer(laPoste_, QStringLiteral("verification.laPoste"), pages.laPoste);
+    preparer(paypal_, QStringLiteral("verification.paypal"), pages.paypal);
 }
 
 int Verifications::nombreASignaler() const
@@ -48,25 +43,27 @@ void Verifications::verifierSiNecessaire(Catalogue &catalogue)
         puisPaypal();
         return;
     }
-    suite_ = puisPaypal;
+    laPoste_.suite = puisPaypal;
     verifierLaPoste(catalogue);
 }
 
 void Verifications::verifierLaPoste(Catalogue &catalogue)
 {
-    lancer(laPoste_, [this, &catalogue](const QString &page) -> std::optional<ReleveColissimo> {
+    laPoste_.analyser = [this, &catalogue](const QString &page) -> std::optional<ReleveColissimo> {
         const QDate jour = maintenant_().date();
         const auto releve = ReleveColissimo::analyser(page, catalogue.tarifs(Format::iso(jour)), jour);
         return catalogue.connait(releve.tarifs) ? std::nullopt : std::optional(releve);
-    });
+    };
+    lancer(laPoste_);
 }
 
 void Verifications::verifierPaypal(Catalogue &catalogue)
 {
-    lancer(paypal_, [this, &catalogue](const QString &page) -> std::optional<FraisPaypal> {
+    paypal_.analyser = [this, &catalogue](const QString &page) -> std::optional<FraisPaypal> {
         const FraisPaypal frais = RelevePaypal::analyser(page, maintenant_().date());
         return memesFrais(frais, catalogue.reglages().fraisPaypal) ? std::nullopt : std::optional(frais);
-    });
+    };
+    lancer(paypal_);
 }
 
 void Verifications::accepterTarifs(Catalogue &catalogue)
@@ -85,28 +82,42 @@ void Verifications::accepterFrais(Catalogue &catalogue)
     accepter(paypal_);
 }
 
-template <typename Releve, typename Analyse>
-void Verifications::lancer(Controle<Releve> &controle, Analyse analyser)
+template <typename Releve>
+void Verifications::preparer(Controle<Releve> &controle, const QString &cle, const QUrl &adresse)
 {
-    if (controle.etat.cas == Cas::enCours)
-        return;
-    controle.telechargement.disconnect(this);
+    controle.cle = cle;
+    controle.adresse = adresse;
+    controle.verifie = lire(cle);
+    connect(&controle.telechargement, &Telechargement::lue, this,
+            [this, &controle](const QString &page) { recevoir(controle, page); });
     connect(&controle.telechargement, &Telechargement::echouee, this, [this, &controle](const ErreurReleve &erreur) {
         conclure(controle, {Cas::erreur, erreur.texte()});
     });
-    connect(&controle.telechargement, &Telechargement::lue, this, [this, &controle, analyser](const QString &page) {
-        try {
-            auto nouveau = analyser(page);
-            noter(controle);
-            controle.nouveau = std::move(nouveau);
-            conclure(controle, {controle.nouveau ? Cas::changement : Cas::aJour, {}});
-        } catch (const ErreurReleve &erreur) {
-            conclure(controle, {Cas::erreur, erreur.texte()});
-        }
-    });
+}
+
+template <typename Releve>
+void Verifications::lancer(Controle<Releve> &controle)
+{
+    if (controle.etat.cas == Cas::enCours)
+        return;
     controle.etat = {Cas::enCours, {}};
     controle.telechargement.page(controle.adresse);
     emit change();
+}
+
+template <typename Releve>
+void Verifications::recevoir(Controle<Releve> &controle, const QString &page)
+{
+    Etat etat;
+    try {
+        controle.nouveau = controle.analyser(page);
+        controle.verifie = maintenant_();
+        noter(controle.cle, *controle.verifie);
+        etat.cas = controle.nouveau ? Cas::changement : Cas::aJour;
+    } catch (const ErreurReleve &erreur) {
+        etat = {Cas::erreur, erreur.texte()};
+    }
+    conclure(controle, etat);
 }
 
 template <typename Releve>
@@ -114,9 +125,8 @@ void Verifications::conclure(Controle<Releve> &controle, const Etat &etat)
 {
     controle.etat = etat;
     emit change();
-    if constexpr (std::is_same_v<Releve, ReleveColissimo>)
-        if (const auto suite = std::exchange(suite_, nullptr))
-            suite();
+    if (const auto suite = std::exchange(controle.suite, nullptr))
+        suite();
 }
 
 template <typename Releve>
@@ -128,12 +138,10 @@ void Verifications::accepter(Controle<Releve> &controle)
 }
 
 // A success that cannot be written down counts for this run of the program: the next one checks again.
-template <typename Releve>
-void Verifications::noter(Controle<Releve> &controle)
+void Verifications::noter(const QString &cle, const QDateTime &date)
 {
-    controle.verifie = maintenant_();
     try {
-        preferences_.ecrire(controle.cle, controle.verifie->toUTC().toString(Qt::ISODate));
+        preferences_.ecrire(cle, date.toUTC().toString(Qt::ISODate));
     } catch (const ErreurStockage &erreur) {
         qWarning("%s", erreur.what());
     }

@@ -36,8 +36,7 @@ public:
         bool operator==(const Etat &) const = default;
     };
     using Horloge = std::function<QDateTime()>;
-    Verifications(const Preferences &preferences, Horloge maintenant, const PagesSurveillees &pages = {},
-                  QObject *parent = nullptr);
+    Verifications(const Preferences &preferences, Horloge maintenant, const PagesSurveillees &pages = {});
 
     [[nodiscard]] const Etat &etatLaPoste() const { return laPoste_.etat; }
     [[nodiscard]] const Etat &etatPaypal() const { return paypal_.etat; }
@@ -72,21 +71,26 @@ private:
     {
         QString cle; // of the last success in the preferences
         QUrl adresse;
+        // What differs from the data in use, none when nothing does. Throws ErreurReleve.
+        std::function<std::optional<Releve>(const QString &page)> analyser;
+        std::function<void()> suite; // once this run has ended
         Etat etat;
         std::optional<Releve> nouveau;
         std::optional<QDateTime> verifie;
         Telechargement telechargement;
     };
 
-    // `analyser` returns what differs from the data in use, none when nothing does; it throws ErreurReleve.
-    template <typename Releve, typename Analyse>
-    void lancer(Controle<Releve> &controle, Analyse analyser);
+    template <typename Releve>
+    void preparer(Controle<Releve> &controle, const QString &cle, const QUrl &adresse);
+    template <typename Releve>
+    void lancer(Controle<Releve> &controle);
+    template <typename Releve>
+    void recevoir(Controle<Releve> &controle, const QString &page);
     template <typename Releve>
     void conclure(Controle<Releve> &controle, const Etat &etat);
     template <typename Releve>
     void accepter(Controle<Releve> &controle);
-    template <typename Releve>
-    void noter(Controle<Releve> &controle);
+    void noter(const QString &cle, const QDateTime &date);
     [[nodiscard]] std::optional<QDateTime> lire(const QString &cle) const;
     [[nodiscard]] bool plusVieuxQue(const std::optional<QDateTime> &date, std::chrono::seconds duree) const;
     [[nodiscard]] bool perime(const std::optional<QDateTime> &date) const;
@@ -95,5 +99,4 @@ private:
     Horloge maintenant_;
     Controle<ReleveColissimo> laPoste_;
     Controle<FraisPaypal> paypal_;
-    std::function<void()> suite_; // once La Poste's check has ended
 };

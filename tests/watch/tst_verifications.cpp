@@ -20,11 +20,9 @@ private slots:
     void dejaConnus_data();
     void dejaConnus();
     void changementsAcceptes();
-    void ecritureManquee();
     void echecs_data();
     void echecs();
     void uneSeuleALaFois();
-    void interrompues();
 
 private:
     using Cas = Verifications::Etat::Cas;
@@ -197,21 +195,6 @@ void TestVerifications::changementsAcceptes()
     QTRY_COMPARE(v->etatLaPoste().cas, Cas::aJour); // the page still shows what is known now
 }
 
-void TestVerifications::ecritureManquee()
-{
-    TarifsColissimo tarifs = catalogue_->tarifs(QStringLiteral("2026-03-02"));
-    tarifs.grilles[0].paliers[0].prix = Centimes{600};
-    servir(tarifs, catalogue_->reglages().fraisPaypal);
-    const auto v = verifications();
-    v->verifierLaPoste(*catalogue_);
-    QTRY_COMPARE(v->etatLaPoste().cas, Cas::changement);
-    banc_->ecrireUtilisateur(QStringLiteral("tarifs-colissimo-2026-04-01.json/obstacle"), "un dossier à cette place");
-    QVERIFY_THROWS_EXCEPTION(ErreurStockage, v->accepterTarifs(*catalogue_));
-    QCOMPARE(v->etatLaPoste().cas, Cas::changement);
-    QVERIFY(v->nouveauxTarifs());
-    QVERIFY(!catalogue_->tarifsAVenir(jourDuBanc));
-}
-
 void TestVerifications::echecs_data()
 {
     QTest::addColumn<QByteArray>("statut");
@@ -248,20 +231,6 @@ void TestVerifications::uneSeuleALaFois()
     QCOMPARE(changements.size(), 1);
     QTRY_VERIFY(terminees(*v));
     QCOMPARE(demandees(), QStringList{laPoste});
-}
-
-// The window closes while a page comes.
-void TestVerifications::interrompues()
-{
-    Reponse lente = http("200 OK", QByteArray(1000, 'x'));
-    lente.parOctet = std::chrono::milliseconds(20);
-    serveur_->servir(laPoste, lente);
-    auto v = verifications();
-    v->verifierSiNecessaire(*catalogue_);
-    QTRY_COMPARE(serveur_->requetes().size(), 1);
-    v.reset();
-    QTRY_COMPARE(serveur_->ouvertes(), 0);
-    QCOMPARE(banc_->preferences().texte(cleLaPoste), QString());
 }
 
 QTEST_GUILESS_MAIN(TestVerifications)

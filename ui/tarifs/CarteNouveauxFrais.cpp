@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr QSize taille(520, 400);
+constexpr QSize taille(520, 340);
 constexpr int marge = 24;
 
 class Fleche : public QWidget
@@ -39,7 +39,7 @@ QWidget *ligne(const TextesTarifs::Frais &avant, const TextesTarifs::Frais &apre
             nombre->setFont(Theme::enGras(nombre->font()));
         return nombre;
     };
-    return new RangeeDeTableau({{new Libelle(avant.libelle), 3},
+    return new RangeeDeTableau({{new Libelle(avant.libelle), 5},
                                 {valeur(avant.valeur, false), 2},
                                 {new Fleche, 1},
                                 {valeur(apres.valeur, avant != apres), 2}});

@@ -2,13 +2,14 @@
 
 #include "ui/Theme.h"
 #include "ui/commun/Alerte.h"
-#include "ui/commun/Defilement.h"
 #include "ui/commun/EtatVide.h"
 #include "ui/commun/Libelle.h"
 #include "ui/commun/NombreRoulant.h"
+#include "ui/commun/PageAuClavier.h"
 #include "ui/tarifs/RangeeDeTableau.h"
 #include "ui/tarifs/TextesVerifications.h"
 
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <array>
@@ -18,7 +19,7 @@ namespace {
 constexpr QSize taille(720, 640);
 constexpr QSize tailleVide(440, 300);
 constexpr int marge = 24;
-constexpr std::array parts{4, 2, 2, 2, 4}; // of the columns
+constexpr std::array parts{5, 2, 2, 2, 3, 2}; // of the columns; the last two are one, under its head
 
 QWidget *texte(const QString &texte, Qt::Alignment alignement)
 {
@@ -46,22 +47,25 @@ QWidget *tetes()
                                 {tete(CarteNouveauxTarifs::tr("Jusqu’à"), Qt::AlignRight), parts[1]},
                                 {tete(CarteNouveauxTarifs::tr("Avant"), Qt::AlignRight), parts[2]},
                                 {tete(CarteNouveauxTarifs::tr("Après"), Qt::AlignRight), parts[3]},
-                                {tete(CarteNouveauxTarifs::tr("Écart"), Qt::AlignRight), parts[4]}});
+                                {tete(CarteNouveauxTarifs::tr("Écart"), Qt::AlignRight), parts[4]},
+                                {tete({}, Qt::AlignRight), parts[5]}},
+                               RangeeDeTableau::Filet::aucun);
 }
 
 QWidget *tableau(const QList<TextesVerifications::Ecart> &ecarts)
 {
     auto *tableau = new QWidget;
     auto *colonne = new QVBoxLayout(tableau);
-    colonne->setContentsMargins(marge, 0, marge, marge);
+    const int ascenseur = tableau->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    colonne->setContentsMargins(marge, 0, marge - ascenseur, marge);
     colonne->setSpacing(0);
-    colonne->addWidget(tetes());
     for (const TextesVerifications::Ecart &ecart : ecarts)
         colonne->addWidget(new RangeeDeTableau({{texte(ecart.zone, Qt::AlignLeft), parts[0]},
                                                 {texte(ecart.jusqua, Qt::AlignRight), parts[1]},
                                                 {chiffres(ecart.avant), parts[2]},
                                                 {chiffres(ecart.apres), parts[3]},
-                                                {chiffres(ecart.ecart), parts[4]}}));
+                                                {chiffres(ecart.ecart), parts[4]},
+                                                {chiffres(ecart.variation), parts[5]}}));
     colonne->addStretch(1);
     return tableau;
 }
@@ -86,7 +90,7 @@ CarteNouveauxTarifs::CarteNouveauxTarifs(Catalogue &catalogue, Verifications &ve
     auto *dates = new Libelle(TextesVerifications::dates(releve.tarifs), Libelle::Rang::secondaire);
     dates->setWordWrap(true);
     auto *tete = new QVBoxLayout;
-    tete->setContentsMargins(marge, marge, marge, 14);
+    tete->setContentsMargins(marge, marge, marge, 0);
     tete->setSpacing(6);
     tete->addWidget(titre);
     tete->addWidget(dates);
@@ -94,9 +98,12 @@ CarteNouveauxTarifs::CarteNouveauxTarifs(Catalogue &catalogue, Verifications &ve
         tete->addWidget(new Alerte(QStringLiteral("calendar.badge.exclamationmark"),
                                    tr("Date d’effet introuvable sur la page : c’est le jour du relevé qui est retenu."),
                                    Alerte::Ton::avertissement));
-    auto *defilement = new Defilement;
+    tete->addSpacing(8);
+    tete->addWidget(tetes());
+    auto *defilement = new PageAuClavier;
+    defilement->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // the heads above leave room for it
     defilement->setWidget(tableau(TextesVerifications::ecarts(ecarts)));
-    defilement->setFocusPolicy(Qt::StrongFocus); // the arrows scroll
+    defilement->widget()->setAutoFillBackground(false); // the focus ring is painted behind it
     defilement->setAccessibleName(tr("Paliers qui changent"));
     auto *compte = new Libelle(TextesVerifications::compte(ecarts, releve.tarifs));
     compte->setContentsMargins(marge, 10, marge, 0);

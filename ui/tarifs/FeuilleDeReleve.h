@@ -4,7 +4,6 @@
 
 #include <functional>
 
-class Alerte;
 class Catalogue;
 class Verifications;
 

@@ -43,7 +43,6 @@ LigneVerification::LigneVerification(const QString &nom, QWidget *parent)
     changements_->setDefault(true); // filled: it is what the line asks for
 
     auto *situation = new QHBoxLayout;
-    situation->setContentsMargins(coteEtat + 6, 0, 0, 0);
     situation->addWidget(etat_, 1);
     situation->addWidget(progres_, 0, Qt::AlignVCenter);
     auto *textes = new QVBoxLayout;
@@ -69,10 +68,12 @@ void LigneVerification::montrer(const TextesVerifications::Ligne &ligne)
     titre_->setText(ligne.titre);
     detail_->setText(ligne.detail);
     etat_->setText(ligne.etat);
-    progres_->setVisible(ligne.enCours);
-    changements_->setVisible(ligne.changement);
-    page_->setVisible(ligne.echec);
-    verifier_->setEnabled(!ligne.enCours);
+    // No symbol, no room for one.
+    etat_->setContentsMargins(ligne.symboleEtat.isEmpty() ? 0 : coteEtat + 6, 0, 0, 0);
+    // The button stays enabled while the check runs: it would lose the focus to a neighbour.
+    progres_->setVisible(ligne.cas == Verifications::Etat::Cas::enCours);
+    page_->setVisible(ligne.cas == Verifications::Etat::Cas::erreur);
+    changements_->setVisible(ligne.trouvaille && ligne.cas != Verifications::Etat::Cas::enCours);
     update();
 }
 
@@ -83,10 +84,9 @@ void LigneVerification::paintEvent(QPaintEvent *)
                    Theme::secondaire(palette()));
     if (ligne_.symboleEtat.isEmpty())
         return;
-    const bool alerte = ligne_.echec || ligne_.symboleEtat.startsWith(QLatin1String("clock"));
-    const QColor couleur = alerte              ? Theme::orange(palette())
-                           : ligne_.changement ? Theme::accentTexte(palette())
-                                               : Theme::secondaire(palette());
+    const QColor couleur = ligne_.ton == TextesVerifications::Ligne::Ton::alerte   ? Theme::orange(palette())
+                           : ligne_.ton == TextesVerifications::Ligne::Ton::accent ? Theme::accentTexte(palette())
+                                                                                   : Theme::secondaire(palette());
     const int haut = etat_->y() + (etat_->fontMetrics().height() - coteEtat) / 2;
-    Icone::peindre(peintre, ligne_.symboleEtat, QRectF(etat_->x() - coteEtat - 6, haut, coteEtat, coteEtat), couleur);
+    Icone::peindre(peintre, ligne_.symboleEtat, QRectF(etat_->x(), haut, coteEtat, coteEtat), couleur);
 }

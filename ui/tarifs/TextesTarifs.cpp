@@ -32,8 +32,9 @@ Prix prix(const GrilleColissimo &grille, Grammes jusqua, const std::optional<Cal
     const auto palier = std::ranges::find(grille.paliers, jusqua, &::Palier::jusqua);
     if (palier == grille.paliers.end())
         return {absent};
-    const bool enCours = commande && commande->grille && commande->grille->code == grille.code && commande->palier
-                         && commande->palier->jusqua == jusqua;
+    // A schedule to come may cut its tiers otherwise: what counts is the parcel.
+    const bool enCours = commande && commande->palier && commande->grille->code == grille.code
+                         && grille.palier(commande->poidsRetenu) == *palier;
     return {Format::euros(palier->prix), enCours};
 }
 
@@ -85,9 +86,12 @@ QList<Famille> TextesTarifs::familles(const TarifsColissimo &tarifs, const std::
 
 QList<TextesTarifs::Frais> TextesTarifs::frais(const FraisPaypal &frais)
 {
+    const auto supplement = [&](RegionPaypal region) {
+        return frais.supplements.contains(Json::brut(region)) ? Format::pourcentage(frais.supplement(region)) : absent;
+    };
     return {{QStringLiteral("Taux de base"), Format::pourcentage(frais.taux)},
             {QStringLiteral("Part fixe"), Format::euros(frais.fixe)},
-            {QStringLiteral("Europe (EEE)"), Format::pourcentage(frais.supplement(RegionPaypal::eee))},
-            {QStringLiteral("Royaume-Uni"), Format::pourcentage(frais.supplement(RegionPaypal::royaumeUni))},
-            {QStringLiteral("Autre pays"), Format::pourcentage(frais.supplement(RegionPaypal::autres))}};
+            {QStringLiteral("Europe (EEE)"), supplement(RegionPaypal::eee)},
+            {QStringLiteral("Royaume-Uni"), supplement(RegionPaypal::royaumeUni)},
+            {QStringLiteral("Autre pays"), supplement(RegionPaypal::autres)}};
 }

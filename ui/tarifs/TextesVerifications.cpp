@@ -11,25 +11,26 @@ using Cas = Verifications::Etat::Cas;
 const QString siteLaPoste = QStringLiteral("laposte.fr");
 const QString sitePaypal = QStringLiteral("paypal.com");
 
-// Where the check stands; `trouve` is what a change reads.
+// Where the check stands; `changement` is what a change reads.
 void direLEtat(Ligne &ligne, const Verifications::Etat &etat, const std::optional<QDateTime> &verifie, bool perime,
-               const QString &trouve)
+               const QString &changement)
 {
-    ligne.enCours = etat.cas == Cas::enCours;
-    ligne.echec = etat.cas == Cas::erreur;
-    ligne.changement = etat.cas == Cas::changement;
-    if (ligne.enCours) {
+    ligne.cas = etat.cas;
+    if (etat.cas == Cas::enCours) {
         ligne.etat = QStringLiteral("Mise à jour en cours…");
-    } else if (ligne.echec) {
+    } else if (etat.cas == Cas::erreur) {
         ligne.symboleEtat = QStringLiteral("exclamationmark.triangle");
+        ligne.ton = Ligne::Ton::alerte;
         ligne.etat = etat.message;
-    } else if (ligne.changement) {
+    } else if (etat.cas == Cas::changement) {
         ligne.symboleEtat = QStringLiteral("info.circle");
-        ligne.etat = trouve;
+        ligne.ton = Ligne::Ton::accent;
+        ligne.etat = changement;
     } else if (!verifie) {
         ligne.etat = QStringLiteral("Pas encore vérifiés depuis l’app");
     } else {
         ligne.symboleEtat = perime ? QStringLiteral("clock.badge.exclamationmark") : QStringLiteral("checkmark.circle");
+        ligne.ton = perime ? Ligne::Ton::alerte : Ligne::Ton::neutre;
         ligne.etat = QStringLiteral("Vérifiés le ") + Format::date(verifie->toLocalTime().date())
                      + (perime ? QStringLiteral(" : à revérifier") : QString());
     }
@@ -40,9 +41,9 @@ QString prix(const std::optional<Centimes> &montant)
     return montant ? Format::euros(*montant) : QStringLiteral("—");
 }
 
-QString signe(Centimes difference)
+QString signe(bool hausse)
 {
-    return difference > Centimes{} ? QStringLiteral("+") : QString();
+    return hausse ? QStringLiteral("+") : QString();
 }
 
 QString difference(const EcartTarif &ecart)
@@ -52,14 +53,13 @@ QString difference(const EcartTarif &ecart)
     if (!ecart.apres)
         return QStringLiteral("palier supprimé");
     const Centimes difference = *ecart.apres - *ecart.avant;
-    const QString euros = signe(difference) + Format::euros(difference);
-    if (*ecart.avant == Centimes{})
-        return euros;
-    // Hundredths of a percent, to the nearest; halves away from zero.
-    const qint64 base = ecart.avant->valeur();
-    const qint64 dixMilliemes = difference.valeur() * 10'000;
-    const qint64 taux = (dixMilliemes + (dixMilliemes < 0 ? -base : base) / 2) / base;
-    return QStringLiteral("%1 (%2%3)").arg(euros, signe(difference), Format::pourcentage(Taux{taux}));
+    return signe(difference > Centimes{}) + Format::euros(difference);
+}
+
+QString variation(const EcartTarif &ecart)
+{
+    const auto taux = ecart.variation();
+    return taux ? signe(*taux > Taux{}) + Format::pourcentage(*taux) : QString();
 }
 
 } // namespace
@@ -72,6 +72,7 @@ Ligne TextesVerifications::laPoste(const Verifications &verifications, const Cat
     Ligne ligne{.symbole = QStringLiteral("shippingbox"),
                 .titre = QStringLiteral("Tarifs Colissimo"),
                 .detail = detail,
+                .trouvaille = verifications.nouveauxTarifs().has_value(),
                 .page = ReleveColissimo::adresse()};
     direLEtat(ligne, verifications.etatLaPoste(), verifications.verifieLaPoste(), verifications.laPosteAVerifier(),
               QStringLiteral("Nouveaux tarifs sur ") + siteLaPoste);
@@ -88,6 +89,7 @@ Ligne TextesVerifications::paypal(const Verifications &verifications, const Cata
     Ligne ligne{.symbole = QStringLiteral("creditcard"),
                 .titre = QStringLiteral("Frais PayPal"),
                 .detail = detail,
+                .trouvaille = verifications.nouveauxFrais().has_value(),
                 .page = RelevePaypal::adresse()};
     direLEtat(ligne, verifications.etatPaypal(), verifications.verifiePaypal(), verifications.paypalAVerifier(),
               QStringLiteral("Frais différents sur ") + sitePaypal);
@@ -105,7 +107,7 @@ QList<TextesVerifications::Ecart> TextesVerifications::ecarts(const QList<EcartT
     QList<Ecart> textes;
     for (const EcartTarif &ecart : ecarts)
         textes.append({ecart.grille.nomCourt, Format::palier(ecart.jusqua), prix(ecart.avant), prix(ecart.apres),
-                       difference(ecart)});
+                       difference(ecart), variation(ecart)});
     return textes;
 }
 

@@ -13,17 +13,17 @@ namespace TextesVerifications {
 // One check: what it watches, and where it stands.
 struct Ligne
 {
+    enum class Ton { neutre, accent, alerte };
+
     QString symbole;
     QString titre;
     QString detail;
     QString symboleEtat; // may be empty
     QString etat;
-    bool enCours = false;
-    bool echec = false;
-    bool changement = false;
-    QUrl page; // the one that was read
-
-    bool operator==(const Ligne &) const = default;
+    Ton ton = Ton::neutre; // of the state's symbol
+    Verifications::Etat::Cas cas = Verifications::Etat::Cas::inconnu;
+    bool trouvaille = false; // there is something to show, be it of an earlier run
+    QUrl page;               // the one that was read
 };
 
 Ligne laPoste(const Verifications &verifications, const Catalogue &catalogue, QDate jour);
@@ -36,9 +36,8 @@ struct Ecart
     QString jusqua;
     QString avant;
     QString apres;
-    QString ecart; // "+0,50 € (+5,32 %)", or that the tier is new or gone
-
-    bool operator==(const Ecart &) const = default;
+    QString ecart;     // "+0,50 €", or that the tier is new or gone
+    QString variation; // "+5,32 %"; may be empty
 };
 
 // The day before, in the same form; a text that is no day comes back unchanged.

@@ -8,11 +8,11 @@
 #include "ui/commun/EnTete.h"
 #include "ui/commun/Formulaire.h"
 #include "ui/commun/Libelle.h"
+#include "ui/commun/PageAuClavier.h"
 #include "ui/tarifs/CarteFamille.h"
 #include "ui/tarifs/CarteNouveauxFrais.h"
 #include "ui/tarifs/CarteNouveauxTarifs.h"
 #include "ui/tarifs/LigneVerification.h"
-#include "ui/tarifs/PageAuClavier.h"
 #include "ui/tarifs/TextesVerifications.h"
 
 #include <QEvent>
@@ -36,12 +36,12 @@ Libelle *titre(const QString &texte)
 }
 
 // A price stays within sight of its weight, however few zones share the page's width.
-QLayout *aSaLargeur(const TextesTarifs::Famille &famille)
+QLayout *aSaLargeur(QWidget *tableau, qsizetype zones)
 {
     constexpr int page = 100;
-    const int prise = std::min(page, 27 + 20 * static_cast<int>(famille.zones.size()));
+    const int prise = std::min(page, 27 + 20 * static_cast<int>(zones));
     auto *rangee = new QHBoxLayout;
-    rangee->addWidget(new CarteFamille(famille), prise);
+    rangee->addWidget(tableau, prise);
     rangee->addStretch(page - prise);
     return rangee;
 }
@@ -54,13 +54,14 @@ QWidget *tableaux(const QList<TextesTarifs::Famille> &familles, const QList<Text
     colonne->setSpacing(12);
     for (const TextesTarifs::Famille &famille : familles) {
         colonne->addWidget(titre(famille.titre));
-        colonne->addLayout(aSaLargeur(famille));
+        colonne->addLayout(aSaLargeur(new CarteFamille(famille), famille.zones.size()));
         colonne->addSpacing(entreSections - 12);
     }
-    auto *section = new Formulaire::Section(VueTarifs::tr("Frais PayPal"));
+    auto *groupe = new Formulaire::Groupe;
     for (const auto &[libelle, valeur] : frais)
-        section->groupe()->ajouter(new Formulaire::Rangee(libelle, new Libelle(valeur)));
-    colonne->addWidget(section);
+        groupe->ajouter(new Formulaire::Rangee(libelle, new Libelle(valeur)));
+    colonne->addWidget(titre(VueTarifs::tr("Frais PayPal")));
+    colonne->addLayout(aSaLargeur(groupe, 1));
     return tableaux;
 }
 
@@ -104,16 +105,25 @@ VueTarifs::VueTarifs(Catalogue &catalogue, const Commande &commande, Verificatio
     connect(&catalogue_, &Catalogue::change, this, &VueTarifs::actualiser);
     connect(&commande_, &Commande::change, this, &VueTarifs::actualiser);
     connect(&verifications_, &Verifications::change, this, &VueTarifs::actualiser);
-    actualiser();
 }
 
 QWidget *VueTarifs::controles()
 {
-    auto *section = new Formulaire::Section(
-        tr("Vérifications"),
-        tr("Vérifiés d’eux-mêmes au lancement de l’app, une fois par semaine. Rien ne change sans votre accord."));
-    section->groupe()->ajouter(laPoste_);
-    section->groupe()->ajouter(paypal_);
+    auto *groupe = new Formulaire::Groupe;
+    groupe->ajouter(laPoste_);
+    groupe->ajouter(paypal_);
+    auto *note = new Libelle(
+        tr("Vérifiés d’eux-mêmes au lancement de l’app, une fois par semaine. Rien ne change sans votre accord."),
+        Libelle::Rang::secondaire);
+    note->setFont(Theme::legende());
+    note->setWordWrap(true);
+    auto *section = new QWidget;
+    auto *colonne = new QVBoxLayout(section);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(12);
+    colonne->addWidget(titre(tr("Vérifications")));
+    colonne->addWidget(groupe);
+    colonne->addWidget(note);
     connect(laPoste_, &LigneVerification::verificationDemandee, this,
             [this] { verifications_.verifierLaPoste(catalogue_); });
     connect(paypal_, &LigneVerification::verificationDemandee, this,
@@ -127,11 +137,13 @@ QWidget *VueTarifs::controles()
 
 void VueTarifs::actualiser()
 {
+    if (!isVisible())
+        return; // up to date again when it shows
     const QDate jour = aujourdhui_();
     const auto suivants = catalogue_.tarifsAVenir(jour);
     offrirLeChoix(suivants);
-    const TarifsColissimo tarifs = suivants_ ? *suivants : catalogue_.tarifs(Format::iso(jour));
-    enTete_->setSousTitre(suivants_ ? TextesTarifs::aPartirDu(tarifs) : TextesTarifs::enVigueur(tarifs));
+    const TarifsColissimo tarifs = montreLesSuivants_ ? *suivants : catalogue_.tarifs(Format::iso(jour));
+    enTete_->setSousTitre(montreLesSuivants_ ? TextesTarifs::aPartirDu(tarifs) : TextesTarifs::enVigueur(tarifs));
     laPoste_->montrer(TextesVerifications::laPoste(verifications_, catalogue_, jour));
     paypal_->montrer(TextesVerifications::paypal(verifications_, catalogue_));
 
@@ -157,14 +169,17 @@ void VueTarifs::offrirLeChoix(const std::optional<TarifsColissimo> &suivants)
     if (offert == choixOffert_)
         return;
     choixOffert_ = offert;
-    suivants_ = false;
-    delete std::exchange(choix_, nullptr);
+    montreLesSuivants_ = false;
+    if (auto *ancien = std::exchange(choix_, nullptr)) {
+        ancien->hide();
+        ancien->deleteLater(); // it may be the one that was just clicked
+    }
     if (!suivants)
         return;
     choix_ = new ChoixSegmente({tr("En vigueur"), offert}, {.police = font()});
     enTete_->ajouter(choix_);
     connect(choix_, &ChoixSegmente::choisi, this, [this](int indice) {
-        suivants_ = indice == 1;
+        montreLesSuivants_ = indice == 1;
         actualiser();
     });
     choix_->montrer(0);

@@ -38,7 +38,7 @@ private:
     EnTete *enTete_;
     ChoixSegmente *choix_ = nullptr; // null without a next schedule
     QString choixOffert_;            // its second option
-    bool suivants_ = false;          // the next schedule is shown
+    bool montreLesSuivants_ = false;
     LigneVerification *laPoste_;
     LigneVerification *paypal_;
     QScrollArea *defilement_;

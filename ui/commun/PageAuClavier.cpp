@@ -1,4 +1,4 @@
-#include "ui/tarifs/PageAuClavier.h"
+#include "ui/commun/PageAuClavier.h"
 
 #include "ui/Theme.h"
 #include "ui/commun/Dessin.h"
