@@ -41,8 +41,6 @@ std::unique_ptr<QTcpServer> serveurPour(ServeurLocal::Certificat certificat)
         return serveurChiffre(QStringLiteral("sur"));
     case ServeurLocal::Certificat::inconnu:
         return serveurChiffre(QStringLiteral("inconnu"));
-    case ServeurLocal::Certificat::perime:
-        return serveurChiffre(QStringLiteral("perime"));
     }
     return std::make_unique<QTcpServer>();
 }
@@ -78,10 +76,10 @@ ServeurLocal::ServeurLocal(Certificat certificat)
         qFatal("%s", qPrintable(serveur_->errorString()));
 }
 
-QUrl ServeurLocal::adresse(const QString &chemin, const QString &hote) const
+QUrl ServeurLocal::adresse(const QString &chemin) const
 {
-    return QUrl(QStringLiteral("%1://%2:%3%4")
-                    .arg(chiffre_ ? QStringLiteral("https") : QStringLiteral("http"), hote)
+    return QUrl(QStringLiteral("%1://localhost:%2%3")
+                    .arg(chiffre_ ? QStringLiteral("https") : QStringLiteral("http"))
                     .arg(serveur_->serverPort())
                     .arg(chemin));
 }

@@ -27,14 +27,14 @@ class ServeurLocal : public QObject
 
 public:
     // Of the files of this folder; `aucun` speaks plain HTTP. All are made out to "localhost".
-    enum class Certificat { aucun, sur, inconnu, perime };
-    // The whole program trusts the authority of `sur` and `perime`, and no other.
+    enum class Certificat { aucun, sur, inconnu };
+    // The whole program trusts the authority of `sur`, and no other.
     static void faireConfiance();
 
     explicit ServeurLocal(Certificat certificat = Certificat::aucun);
 
     void servir(const QString &chemin, const Reponse &reponse) { reponses_.insert(chemin, reponse); }
-    [[nodiscard]] QUrl adresse(const QString &chemin, const QString &hote = QStringLiteral("localhost")) const;
+    [[nodiscard]] QUrl adresse(const QString &chemin) const;
 
     // Heads of the requests received, in order.
     [[nodiscard]] const QByteArrayList &requetes() const { return requetes_; }

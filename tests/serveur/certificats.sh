@@ -2,7 +2,6 @@
 # Makes the certificates of the local server again. One key serves them all and is public: they protect nothing.
 #   autorite   what the tests trust
 #   sur        signed by it, for "localhost"
-#   perime     the same, out of date since 2020
 #   inconnu    signed by nobody else
 set -e
 cd "$(dirname "$0")"
@@ -29,14 +28,13 @@ FIN
 echo 01 >"$travail/serie"
 openssl ecparam -genkey -name prime256v1 -noout | openssl pkcs8 -topk8 -nocrypt -out cle.pem
 
-certificat() { # name, last day, extensions, how it is signed
-    nom=$1 fin=$2 extensions=$3
-    shift 3
+certificat() { # name, extensions, how it is signed
+    nom=$1 extensions=$2
+    shift 2
     openssl req -new -config "$travail/conf" -key cle.pem -subj "/CN=Quillet $nom" -out "$travail/$nom.csr"
     openssl ca -name ca -batch -notext -config "$travail/conf" -keyfile cle.pem -in "$travail/$nom.csr" -out "$nom.pem" \
-        -startdate 20190101000000Z -enddate "$fin" -extensions "$extensions" "$@"
+        -startdate 20190101000000Z -enddate 21200101000000Z -extensions "$extensions" "$@"
 }
-certificat autorite 21200101000000Z autorite -selfsign
-certificat sur 21200101000000Z local -cert autorite.pem
-certificat perime 20200101000000Z local -cert autorite.pem
-certificat inconnu 21200101000000Z local -selfsign
+certificat autorite autorite -selfsign
+certificat sur local -cert autorite.pem
+certificat inconnu local -selfsign

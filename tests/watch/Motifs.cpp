@@ -1,10 +1,5 @@
 #include "tests/watch/Motifs.h"
 
-#include "model/Format.h"
-#include "watch/ErreurReleve.h"
-#include "watch/QuantiteLue.h"
-#include "watch/RelevePaypal.h"
-
 #include <QHash>
 
 #include <unicode/regex.h>
@@ -112,51 +107,6 @@ std::optional<qint64> Motifs::grammes(const QString &texte)
     if (trouves.isEmpty())
         return std::nullopt;
     return nombre(trouves[0][1], trouves[0][2], trouves[0][3].toLower() == QStringLiteral("kg") ? 3 : 0);
-}
-
-std::optional<QString> Motifs::dateDEffet(const QString &texte)
-{
-    const QString mois =
-        QStringLiteral("janvier|février|mars|avril|mai|juin|juillet|août|septembre|octobre|novembre|décembre");
-    const QString jour =
-        QStringLiteral(R"(à partir du\s+(\d{1,2})\s*(?:er)?\s+()") + mois + QStringLiteral(R"()\s+(\d{4}))");
-    auto trouves = groupes(texte, QStringLiteral(R"(en vigueur,?\s+)") + jour);
-    if (trouves.isEmpty())
-        trouves = groupes(texte, jour);
-    if (trouves.isEmpty() || !enAscii(trouves[0][1] + trouves[0][3]))
-        return std::nullopt;
-    const qsizetype numero = mois.split(u'|').indexOf(trouves[0][2].toLower()) + 1;
-    const auto deuxChiffres = [](const QString &n) { return n.rightJustified(2, u'0'); };
-    return numero == 0 ? std::nullopt
-                       : std::optional(trouves[0][3] + u'-' + deuxChiffres(QString::number(numero)) + u'-'
-                                       + deuxChiffres(trouves[0][1]));
-}
-
-FraisPaypal Motifs::fraisPaypal(const QString &html, QDate releve)
-{
-    const QString page = texte(html);
-    const auto figure = [&](const char *motif, const char *nom) {
-        const auto trouves = groupes(page, QString::fromUtf8(motif));
-        if (trouves.isEmpty())
-            throw ErreurReleve::pageIllisible(QString::fromUtf8(nom) + QStringLiteral(" introuvable"));
-        return centiemes(trouves[0][1]);
-    };
-    const auto taux = figure(R"(Toutes les autres transactions commerciales\s+(\d+,\d+)\s*%)", "taux de base");
-    const auto fixe = figure(R"(Euro\s+(\d+,\d+)\s*EUR)", "part fixe en euros");
-    const auto eee = figure(R"(EEE\s+(Aucune commission|\d+,\d+\s*%))", "supplément EEE");
-    const auto uni = figure(R"(Royaume-Uni\s+(\d+,\d+)\s*%)", "supplément Royaume-Uni");
-    const auto autres = figure(R"(Tous les autres marchés\s+(\d+,\d+)\s*%)", "supplément des autres pays");
-    const auto tauxLu = [](const auto &valeur) { return quantiteLue<UniteCentiemeDePourcent>(valeur); };
-    const auto fixeLu = quantiteLue<UniteCentime>(fixe);
-    if (!tauxLu(taux) || !fixeLu || !tauxLu(uni) || !tauxLu(autres))
-        throw ErreurReleve::pageIllisible(QStringLiteral("chiffres illisibles"));
-    return {Format::iso(releve),
-            RelevePaypal::adresse(),
-            *tauxLu(taux),
-            *fixeLu,
-            {{QStringLiteral("eee"), tauxLu(eee).value_or(Taux{})},
-             {QStringLiteral("royaume-uni"), *tauxLu(uni)},
-             {QStringLiteral("autres"), *tauxLu(autres)}}};
 }
 
 QString Motifs::fragment(std::mt19937 &hasard, const QStringList &morceaux)

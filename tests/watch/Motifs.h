@@ -1,9 +1,6 @@
 #pragma once
 
-#include "model/Reglages.h"
 #include "watch/TexteHTML.h"
-
-#include <QDate>
 
 #include <random>
 
@@ -14,8 +11,6 @@ QString texte(const QString &html);
 QList<TexteHTML::Tableau> tableaux(const QString &html);
 std::optional<qint64> centiemes(const QString &texte);
 std::optional<qint64> grammes(const QString &texte);
-std::optional<QString> dateDEffet(const QString &texte);
-FraisPaypal fraisPaypal(const QString &html, QDate releve);
 
 // A text to read in both ways: from one piece to the next, and now and then to any other, so that openings meet their
 // closings, but not always.
