@@ -8,6 +8,12 @@
 
 namespace {
 
+// As they stand: QString::fromUtf16 would take a leading U+FEFF for a byte-order mark.
+QString enQString(const icu::UnicodeString &texte)
+{
+    return QString(reinterpret_cast<const QChar *>(texte.getBuffer()), texte.length());
+}
+
 const icu::RegexPattern &compile(const QString &motif)
 {
     static QHash<QString, std::shared_ptr<icu::RegexPattern>> compiles;
@@ -28,7 +34,7 @@ QString remplacer(const QString &texte, const QString &motif)
     const icu::UnicodeString sortie = recherche->replaceAll(u" ", statut);
     if (U_FAILURE(statut))
         qFatal("%s : %s", qPrintable(motif), u_errorName(statut));
-    return QString::fromUtf16(sortie.getBuffer(), sortie.length());
+    return enQString(sortie);
 }
 
 QList<QStringList> groupes(const QString &texte, const QString &motif)
@@ -41,7 +47,7 @@ QList<QStringList> groupes(const QString &texte, const QString &motif)
         QStringList groupes;
         for (int32_t i = 0; i <= recherche->groupCount(); ++i) {
             const icu::UnicodeString groupe = recherche->group(i, statut);
-            groupes.append(QString::fromUtf16(groupe.getBuffer(), groupe.length()));
+            groupes.append(enQString(groupe));
         }
         trouves.append(groupes);
     }

@@ -234,6 +234,7 @@ void TestReleves::paypalChange_data()
     ajouter("pas d’autres marchés", "Tous les autres", "Les autres", "supplément des autres pays introuvable");
     ajouter("figures dans un script", "main>", "script>", "taux de base introuvable");
     ajouter("chiffres d’ailleurs", "0,35\u00A0EUR", "٣,٣٥ EUR", "chiffres illisibles");
+    ajouter("supplément démesuré pour l’EEE", "Aucune commission", "150,00 %", "chiffres illisibles");
     ajouter("taux démesuré", "2,90\u00A0%", "290,00 %", "chiffres illisibles");
 }
 

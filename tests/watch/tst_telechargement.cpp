@@ -140,6 +140,9 @@ void TestTelechargement::reponses_data()
     cas("codage inconnu", {compressee("bonjour", "br")}, malCompressee);
 
     cas("redirigée", {http("301 Moved Permanently", "parti", "Location: /1\r\n"), http("200 OK", "bonjour")}, bonjour);
+    cas("redirigée, d’une longue page",
+        {http("301 Moved Permanently", QByteArray(1 << 20, 'a'), "Location: /1\r\n"), http("200 OK", "bonjour")},
+        bonjour);
     cas("vers rien", {vers("/1")}, absente);
     cas("en rond", {vers("/1"), vers("/0")}, inaccessible("trop de redirections"));
     cas("nulle part", {brute("301 Moved Permanently")}, inaccessible("réponse 301 de localhost"));

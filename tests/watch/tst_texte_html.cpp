@@ -39,7 +39,8 @@ const QStringList &morceaux()
             "-->|&#x|41;|&#|65|;|&lt;|&gt;|\"|'|"
             "\u00A0|\u202F|\n|\u00AD|\u0301|123456789012345678|٣|\U0001D7D8|g|\u200B|G|gr|\U0001F4E6|2|g")
             .split(u'|')
-        + QStringList{QString(QChar(0xD835)), QString(QChar(0xDFD8)), QString(QChar(0)), QStringLiteral("|")};
+        + QStringList{QString(QChar(0xD835)), QString(QChar(0xDFD8)), QString(QChar(0)), QString(QChar(0xFEFF)),
+                      QStringLiteral("|")};
     return liste;
 }
 
