@@ -48,7 +48,8 @@ void NombreRoulant::paintEvent(QPaintEvent *)
     };
 
     // Characters face each other from the right: units stay over units when a number gains a digit.
-    double x = alignment() & Qt::AlignHCenter ? (width() + Chiffres::largeur(fontMetrics(), texte)) / 2.0 : contentsRect().right() + 1.0;
+    double x = alignment() & Qt::AlignHCenter ? (width() + Chiffres::largeur(fontMetrics(), texte)) / 2.0
+                                              : contentsRect().right() + 1.0;
     const qsizetype longueur = progres < 1 ? std::max(texte.size(), precedent_.size()) : texte.size();
     for (qsizetype rang = 1; rang <= longueur; ++rang) {
         const QChar nouveau = rang <= texte.size() ? texte[texte.size() - rang] : QChar();
