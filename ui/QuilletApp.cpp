@@ -1,5 +1,6 @@
 #include "ui/QuilletApp.h"
 
+#include "ui/ComplementFrancais.h"
 #include "ui/Fenetre.h"
 #include "ui/commun/Style.h"
 
@@ -21,6 +22,7 @@ void QuilletApp::preparer(std::optional<Theme::Mode> mode)
     if (francais->load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
                        QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(francais);
+    QApplication::installTranslator(new ComplementFrancais(qApp));
     QApplication::setStyle(new Style(mode));
     QApplication::setFont(Theme::policeDeDepart());
 }

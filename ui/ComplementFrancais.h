@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QTranslator>
+
+// What Qt's own French leaves in English, in the dialogs that Quillet opens.
+class ComplementFrancais : public QTranslator
+{
+    Q_OBJECT
+
+public:
+    using QTranslator::QTranslator;
+
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char *contexte, const char *texte, const char *precision,
+                                    int nombre) const override;
+};
