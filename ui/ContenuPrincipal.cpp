@@ -17,8 +17,10 @@
 #include <QHBoxLayout>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
+#include <chrono>
 #include <utility>
 
 namespace {
@@ -26,6 +28,7 @@ namespace {
 constexpr int barreMinimum = 190;
 constexpr int barreIdeale = 210;
 constexpr int barreMaximum = 260;
+constexpr auto apresLaPremiereImage = std::chrono::milliseconds(150); // the network's own start must not delay it
 
 } // namespace
 
@@ -142,5 +145,5 @@ void ContenuPrincipal::showEvent(QShowEvent *evenement)
 {
     QWidget::showEvent(evenement);
     if (!std::exchange(dejaMontre_, true))
-        verifications_.verifierSiNecessaire(catalogue_);
+        QTimer::singleShot(apresLaPremiereImage, this, [this] { verifications_.verifierSiNecessaire(catalogue_); });
 }
