@@ -4,11 +4,13 @@
 
 #include <QString>
 
+#include <utility>
+
 // What the user's habits leave behind: texts of one line by key, in one INI file.
 class Preferences
 {
 public:
-    explicit Preferences(const QString &fichier) : fichier_(fichier) {}
+    explicit Preferences(QString fichier) : fichier_(std::move(fichier)) {}
     // The file of the platform's per-user configuration.
     static Preferences deLUtilisateur();
 

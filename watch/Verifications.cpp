@@ -20,8 +20,8 @@ bool memesFrais(const FraisPaypal &a, const FraisPaypal &b)
 
 } // namespace
 
-Verifications::Verifications(const Preferences &preferences, Horloge maintenant, const PagesSurveillees &pages)
-    : preferences_(preferences), maintenant_(std::move(maintenant))
+Verifications::Verifications(Preferences preferences, Horloge maintenant, const PagesSurveillees &pages)
+    : preferences_(std::move(preferences)), maintenant_(std::move(maintenant))
 {
     preparer(laPoste_, QStringLiteral("verification.laPoste"), pages.laPoste);
     preparer(paypal_, QStringLiteral("verification.paypal"), pages.paypal);

@@ -36,7 +36,7 @@ public:
         bool operator==(const Etat &) const = default;
     };
     using Horloge = std::function<QDateTime()>;
-    Verifications(const Preferences &preferences, Horloge maintenant, const PagesSurveillees &pages = {});
+    Verifications(Preferences preferences, Horloge maintenant, const PagesSurveillees &pages = {});
 
     [[nodiscard]] const Etat &etatLaPoste() const { return laPoste_.etat; }
     [[nodiscard]] const Etat &etatPaypal() const { return paypal_.etat; }

@@ -17,9 +17,9 @@ Alerte::Alerte(const QString &texte, QWidget *parent)
 {
 }
 
-Alerte::Alerte(const QString &symbole, const QString &texte, Ton ton, QWidget *parent)
+Alerte::Alerte(QString symbole, const QString &texte, Ton ton, QWidget *parent)
     : QWidget(parent),
-      symbole_(symbole),
+      symbole_(std::move(symbole)),
       ton_(ton),
       texte_(new Libelle({}, ton == Ton::note ? Libelle::Rang::secondaire : Libelle::Rang::principal))
 {

@@ -15,7 +15,7 @@ public:
 
     // A warning with its own symbol, a triangle.
     explicit Alerte(const QString &texte = {}, QWidget *parent = nullptr);
-    Alerte(const QString &symbole, const QString &texte, Ton ton, QWidget *parent = nullptr);
+    Alerte(QString symbole, const QString &texte, Ton ton, QWidget *parent = nullptr);
     // No text hides the line.
     void montrer(const QString &texte);
 

@@ -27,11 +27,10 @@ const QString cleDossier = QStringLiteral("dossierDesFactures");
 
 } // namespace
 
-FicheFacture::FicheFacture(const Reglages &reglages, const Preferences &preferences, Aujourdhui aujourdhui,
-                           QWidget *parent)
+FicheFacture::FicheFacture(const Reglages &reglages, Preferences preferences, Aujourdhui aujourdhui, QWidget *parent)
     : QStackedWidget(parent),
       reglages_(reglages),
-      preferences_(preferences),
+      preferences_(std::move(preferences)),
       aujourdhui_(std::move(aujourdhui)),
       impossible_(new EtatVide),
       numero_(new QLineEdit),

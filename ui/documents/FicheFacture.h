@@ -23,8 +23,7 @@ class FicheFacture : public QStackedWidget
 
 public:
     // `reglages` is read each time the screen is brought up to date.
-    FicheFacture(const Reglages &reglages, const Preferences &preferences, Aujourdhui aujourdhui,
-                 QWidget *parent = nullptr);
+    FicheFacture(const Reglages &reglages, Preferences preferences, Aujourdhui aujourdhui, QWidget *parent = nullptr);
     void montrer(const Calcul &calcul);
 
 private:

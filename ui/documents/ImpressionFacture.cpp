@@ -99,7 +99,7 @@ std::optional<QString> ImpressionFacture::enregistrer(const Facture &facture, co
     dialogue.selectFile(facture.nomDeFichier());
     if (dialogue.exec() != QDialog::Accepted)
         return std::nullopt;
-    const auto chemin = enPdf(dialogue.selectedFiles().constFirst(), parent);
+    auto chemin = enPdf(dialogue.selectedFiles().constFirst(), parent);
     if (chemin)
         ecrire(*chemin, pdf(facture));
     return chemin;

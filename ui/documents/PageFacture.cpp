@@ -94,7 +94,7 @@ private:
 
     // A block of text; returns its height and leaves `y_` where it is.
     double bloc(const QString &texte, const Caractere &caractere, double x, double y, double largeur,
-                Qt::Alignment alignement = Qt::AlignLeft) const;
+                Qt::Alignment alignement = Qt::AlignLeft);
     void filet(const QColor &couleur) const;
     void entreSections();
     [[nodiscard]] double finDesDesignations() const { return largeur_ - colonneDesPrix - colonneDesMontants; }
@@ -108,7 +108,7 @@ private:
 };
 
 double Composition::bloc(const QString &texte, const Caractere &caractere, double x, double y, double largeur,
-                         Qt::Alignment alignement) const
+                         Qt::Alignment alignement)
 {
     const QString paragraphes = texte.normalized(QString::NormalizationForm_C).replace(u'\n', QChar::LineSeparator);
     QTextLayout mise(paragraphes, police(caractere, paragraphes));
