@@ -1,6 +1,5 @@
 #include "tests/BancEcran.h"
 #include "tests/DisquePlein.h"
-#include "ui/documents/FileImpression.h"
 #include "visite/Dialogues.h"
 #include "visite/Ecran.h"
 
@@ -12,7 +11,6 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPrinter>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
@@ -36,8 +34,6 @@ private slots:
     void impressionDansUnFichier();
     void nomSansSuffixe_data();
     void nomSansSuffixe();
-    void optionsDuTravail();
-    void refusDeLaFile();
     void etatsDeLaFacture();
 
 private:
@@ -287,30 +283,6 @@ void TestVueDocuments::impressionDansUnFichier()
     QCOMPARE(exemplaires, 2);
     QVERIFY(contenu(chemin).startsWith("%PDF-"));
     QCOMPARE(retenu(), QStringLiteral("2026-001"));
-}
-
-void TestVueDocuments::optionsDuTravail()
-{
-    QPrinter choix;
-    choix.setCopyCount(3);
-    choix.setColorMode(QPrinter::GrayScale);
-    const QList<std::pair<QByteArray, QByteArray>> attendues{
-        {"copies", "3"},          {"media", "iso_a4_210x297mm"},
-        {"print-scaling", "fit"}, {"orientation-requested", "3"},
-        {"sides", "one-sided"},   {"print-color-mode", "monochrome"}};
-    QCOMPARE(FileImpression::options(choix), attendues);
-}
-
-void TestVueDocuments::refusDeLaFile()
-{
-    const QPrinter choix;
-    try {
-        FileImpression::envoyer("%PDF-", QStringLiteral("Facture.pdf"), choix);
-        QFAIL("no server, and yet a job");
-    } catch (const Echec &refus) {
-        QVERIFY2(refus.texte().contains(QStringLiteral("le service d’impression ne répond pas")),
-                 qPrintable(refus.texte()));
-    }
 }
 
 void TestVueDocuments::etatsDeLaFacture()

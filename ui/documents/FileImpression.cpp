@@ -100,9 +100,9 @@ void FileImpression::envoyer(const QByteArray &pdf, const QString &titre, const 
         throw Echec(
             QStringLiteral("Impression impossible : le dossier des fichiers temporaires est plein ou protégé."));
 
-    const auto refuser = [&](const QString &raison) {
+    const auto refuser = [&](const QString &pourquoi) {
         throw Echec(
-            QStringLiteral("L’imprimante « %1 » n’a pas pris la facture : %2.").arg(choix.printerName(), raison));
+            QStringLiteral("L’imprimante « %1 » n’a pas pris la facture : %2.").arg(choix.printerName(), pourquoi));
     };
     const Connexion connexion = connecter();
     if (!connexion)

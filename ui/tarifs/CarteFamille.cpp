@@ -52,17 +52,13 @@ private:
 
 QWidget *tetes(const TextesTarifs::Famille &famille)
 {
-    const auto tete = [](const QString &texte, Qt::Alignment alignement) {
-        auto *libelle = new Libelle(texte, Libelle::Rang::secondaire);
-        libelle->setFont(Theme::enGras(Theme::encadre()));
-        libelle->setWordWrap(true);
-        libelle->setAlignment(alignement | Qt::AlignBottom);
-        libelle->setContentsMargins(0, 0, alignement == Qt::AlignRight ? retrait : 0, 0);
-        return libelle;
-    };
-    QList<RangeeDeTableau::Cellule> cellules{{tete(CarteFamille::tr("Poids"), Qt::AlignLeft), partDuPoids}};
-    for (const QString &zone : famille.zones)
-        cellules.append({tete(zone, Qt::AlignRight), partDUneZone});
+    QList<RangeeDeTableau::Cellule> cellules{
+        {RangeeDeTableau::tete(CarteFamille::tr("Poids"), Qt::AlignLeft), partDuPoids}};
+    for (const QString &zone : famille.zones) {
+        QWidget *tete = RangeeDeTableau::tete(zone, Qt::AlignRight);
+        tete->setContentsMargins(0, 0, retrait, 0);
+        cellules.append({tete, partDUneZone});
+    }
     return new RangeeDeTableau(cellules, RangeeDeTableau::Filet::aucun);
 }
 

@@ -37,18 +37,12 @@ QWidget *chiffres(const QString &texte)
 
 QWidget *tetes()
 {
-    const auto tete = [](const QString &texte, Qt::Alignment alignement) {
-        auto *libelle = new Libelle(texte, Libelle::Rang::secondaire);
-        libelle->setFont(Theme::enGras(Theme::encadre()));
-        libelle->setAlignment(alignement);
-        return libelle;
-    };
-    return new RangeeDeTableau({{tete(CarteNouveauxTarifs::tr("Zone"), Qt::AlignLeft), parts[0]},
-                                {tete(CarteNouveauxTarifs::tr("Jusqu’à"), Qt::AlignRight), parts[1]},
-                                {tete(CarteNouveauxTarifs::tr("Avant"), Qt::AlignRight), parts[2]},
-                                {tete(CarteNouveauxTarifs::tr("Après"), Qt::AlignRight), parts[3]},
-                                {tete(CarteNouveauxTarifs::tr("Écart"), Qt::AlignRight), parts[4]},
-                                {tete({}, Qt::AlignRight), parts[5]}},
+    return new RangeeDeTableau({{RangeeDeTableau::tete(CarteNouveauxTarifs::tr("Zone"), Qt::AlignLeft), parts[0]},
+                                {RangeeDeTableau::tete(CarteNouveauxTarifs::tr("Jusqu’à"), Qt::AlignRight), parts[1]},
+                                {RangeeDeTableau::tete(CarteNouveauxTarifs::tr("Avant"), Qt::AlignRight), parts[2]},
+                                {RangeeDeTableau::tete(CarteNouveauxTarifs::tr("Après"), Qt::AlignRight), parts[3]},
+                                {RangeeDeTableau::tete(CarteNouveauxTarifs::tr("Écart"), Qt::AlignRight), parts[4]},
+                                {RangeeDeTableau::tete({}, Qt::AlignRight), parts[5]}},
                                RangeeDeTableau::Filet::aucun);
 }
 

@@ -18,6 +18,9 @@ public:
 
     enum class Filet { aucun, dessus };
 
+    // The head of a column.
+    static QWidget *tete(const QString &texte, Qt::Alignment alignement);
+
     explicit RangeeDeTableau(const QList<Cellule> &cellules, Filet filet = Filet::dessus, QWidget *parent = nullptr);
 
 protected:

@@ -76,8 +76,7 @@ VueTarifs::VueTarifs(Catalogue &catalogue, const Commande &commande, Verificatio
       aujourdhui_(std::move(aujourdhui)),
       enTete_(new EnTete(tr("Tarifs Colissimo"))),
       laPoste_(new LigneVerification(tr("Tarifs Colissimo"))),
-      paypal_(new LigneVerification(tr("Frais PayPal"))),
-      defilement_(new PageAuClavier)
+      paypal_(new LigneVerification(tr("Frais PayPal")))
 {
     auto *contenu = new QWidget;
     contenu->setMaximumWidth(Theme::largeurDePage);
@@ -92,16 +91,17 @@ VueTarifs::VueTarifs(Catalogue &catalogue, const Commande &commande, Verificatio
     marges->setContentsMargins(Theme::margeDePage, 24, Theme::margeDePage - ascenseur, 28);
     marges->addWidget(contenu, 1);
     marges->addStretch(0);
-    defilement_->setAccessibleName(tr("Tarifs et frais"));
-    defilement_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    defilement_->setWidget(page);
+    auto *defilement = new PageAuClavier;
+    defilement->setAccessibleName(tr("Tarifs et frais"));
+    defilement->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    defilement->setWidget(page);
     page->setAutoFillBackground(false); // the focus ring is painted behind it
 
     auto *colonne = new QVBoxLayout(this);
     colonne->setContentsMargins(0, 0, 0, 0);
     colonne->setSpacing(0);
     colonne->addWidget(enTete_);
-    colonne->addWidget(defilement_, 1);
+    colonne->addWidget(defilement, 1);
     connect(&catalogue_, &Catalogue::change, this, &VueTarifs::actualiser);
     connect(&commande_, &Commande::change, this, &VueTarifs::actualiser);
     connect(&verifications_, &Verifications::change, this, &VueTarifs::actualiser);

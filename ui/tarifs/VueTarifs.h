@@ -10,7 +10,6 @@ class ChoixSegmente;
 class Commande;
 class EnTete;
 class LigneVerification;
-class QScrollArea;
 class QVBoxLayout;
 class Verifications;
 
@@ -41,7 +40,6 @@ private:
     bool montreLesSuivants_ = false;
     LigneVerification *laPoste_;
     LigneVerification *paypal_;
-    QScrollArea *defilement_;
     QVBoxLayout *sections_ = nullptr;
     QWidget *tableaux_ = nullptr;
     QList<TextesTarifs::Famille> familles_; // as shown
