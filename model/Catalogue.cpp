@@ -119,6 +119,12 @@ std::optional<Destination> Catalogue::destination(const QString &code) const
     return trouvee == destinations_.end() ? std::nullopt : std::optional(*trouvee);
 }
 
+QList<PrixBouton> Catalogue::boutons(const Livre &livre, const TarifsColissimo &tarifs) const
+{
+    const Grammes emballage = reglages_.emballages.isEmpty() ? Grammes{} : reglages_.emballages.first().poids;
+    return PrixBouton::calculer(livre, tarifs, destinations_, emballage);
+}
+
 template <typename T>
 void Catalogue::adopter(T &champ, const T &valeur)
 {
@@ -148,9 +154,12 @@ void Catalogue::enregistrerLivres()
     ecrireLivres(livres_);
 }
 
-void Catalogue::modifier(const Livre &livre)
+void Catalogue::modifier(const QList<Livre> &livres)
 {
-    ecrireLivres(avecModification(livres_, livre.id, [&](Livre &ancien) { ancien = livre; }));
+    QList<Livre> modifies = livres_;
+    for (const Livre &livre : livres)
+        modifies = avecModification(std::move(modifies), livre.id, [&](Livre &ancien) { ancien = livre; });
+    ecrireLivres(modifies);
 }
 
 void Catalogue::garder(const Livre &livre, const PrixBouton &ligne)
@@ -176,9 +185,14 @@ void Catalogue::reporter(const Livre &livre, const QList<PrixBouton> &lignes)
 
 void Catalogue::revenirAuxValeursLivrees()
 {
-    const auto livres = ressources_.lire<QList<Livre>>(QStringLiteral("livres"));
+    const QList<Livre> livres = valeursLivrees();
     stockage_.effacer(fichierDesLivres());
     adopter(livres_, livres);
+}
+
+QList<Livre> Catalogue::valeursLivrees() const
+{
+    return ressources_.lire<QList<Livre>>(QStringLiteral("livres"));
 }
 
 void Catalogue::ecrireLivres(const QList<Livre> &livres)

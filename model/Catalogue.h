@@ -36,19 +36,23 @@ public:
     // Whether a known schedule has the same grids at the same prices, whatever its dates.
     [[nodiscard]] bool connait(const TarifsColissimo &tarifs) const;
     [[nodiscard]] std::optional<Destination> destination(const QString &code) const;
+    // The book's buttons under a schedule: sent alone, in the default packaging.
+    [[nodiscard]] QList<PrixBouton> boutons(const Livre &livre, const TarifsColissimo &tarifs) const;
 
     // Each writes a user's file and throws ErreurStockage.
     void enregistrer(const TarifsColissimo &tarifs);
     void enregistrer(const FraisPaypal &frais);
     void enregistrerLivres();
-    // Replaces the book of the same id.
-    void modifier(const Livre &livre);
+    // Replaces the books of the same ids.
+    void modifier(const QList<Livre> &livres);
     // The button of this line stays as it is, although the grid gives another price.
     void garder(const Livre &livre, const PrixBouton &ligne);
     // The buttons of these lines now charge their computed price.
     void reporter(const Livre &livre, const QList<PrixBouton> &lignes);
     // Also throws RessourceIllisible.
     void revenirAuxValeursLivrees();
+    // The books without the user's changes; throws RessourceIllisible.
+    [[nodiscard]] QList<Livre> valeursLivrees() const;
 
 signals:
     void change();

@@ -44,3 +44,9 @@ QList<PrixBouton> PrixBouton::calculer(const Livre &livre, const TarifsColissimo
     }
     return boutons;
 }
+
+QList<PrixBouton> PrixBouton::aReporter(QList<PrixBouton> boutons)
+{
+    boutons.removeIf([](const PrixBouton &bouton) { return bouton.etat() != Etat::aReporter; });
+    return boutons;
+}

@@ -23,6 +23,8 @@ struct PrixBouton
 
     static QList<PrixBouton> calculer(const Livre &livre, const TarifsColissimo &tarifs,
                                       const QList<Destination> &destinations, Grammes emballage);
+    // Those whose price the seller has to change in PayPal.
+    static QList<PrixBouton> aReporter(QList<PrixBouton> boutons);
 
     bool operator==(const PrixBouton &) const = default;
 };

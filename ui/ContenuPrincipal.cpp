@@ -117,7 +117,7 @@ QWidget *ContenuPrincipal::ecran(Rubrique rubrique)
             place = new VueTarifs(catalogue_, commande_, verifications_, aujourdhui_);
             break;
         case Rubrique::livres:
-            place = new VueLivres(catalogue_, images_);
+            place = new VueLivres(catalogue_, images_, aujourdhui_);
             break;
         }
         detail_->addWidget(place);

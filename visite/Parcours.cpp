@@ -76,7 +76,7 @@ bool Parcours::jouer()
     if (!accepterLesNouveautes())
         return false;
     fenetre.contenu()->montrer(Rubrique::livres);
-    return photographier(QStringLiteral("livres"));
+    return reporterDesPrix();
 }
 
 bool Parcours::composerLaCommande()
@@ -145,6 +145,15 @@ bool Parcours::accepterLesNouveautes()
     return Ecran::cliquer(&quillet_.fenetre(), QStringLiteral("À partir du 1er avril 2026"))
            && Ecran::defiler(&quillet_.fenetre(), QStringLiteral("Europe"))
            && photographier(QStringLiteral("tarifs-a-venir"));
+}
+
+bool Parcours::reporterDesPrix()
+{
+    Fenetre &fenetre = quillet_.fenetre();
+    return Ecran::cliquer(&fenetre, QStringLiteral("Livre suivant à reporter"))
+           && Ecran::cliquer(&fenetre, QStringLiteral("Reporter, Union européenne / EU"))
+           && Ecran::cliquer(&fenetre, QStringLiteral("Garder, Suisse / Switzerland"))
+           && photographier(QStringLiteral("livres"));
 }
 
 void Parcours::raconter(const QString &etape)

@@ -28,6 +28,7 @@ private:
     bool repondreALAcheteur();
     bool preparerLesDocuments();
     bool accepterLesNouveautes();
+    bool reporterDesPrix();
     bool photographier(const QString &nom);
 
     QDir dossier_;

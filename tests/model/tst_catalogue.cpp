@@ -221,7 +221,7 @@ void TestCatalogue::retourAuxValeursLivrees()
     Livre change = catalogue->livres()[1];
     change.prix = Centimes{1};
     change.poids = Grammes{333};
-    catalogue->modifier(change);
+    catalogue->modifier({change});
     QCOMPARE(catalogue->livres()[1], change);
     QSignalSpy signal(catalogue.get(), &Catalogue::change);
     catalogue->revenirAuxValeursLivrees();

@@ -25,7 +25,7 @@ QString erreurALaModification(Catalogue &catalogue)
     Livre livre = catalogue.livres()[0];
     livre.prix = Centimes{4200};
     try {
-        catalogue.modifier(livre);
+        catalogue.modifier({livre});
     } catch (const ErreurStockage &erreur) {
         return erreur.texte();
     }

@@ -115,7 +115,7 @@ void TestLivres::unLivreChange()
     cas.liste->setCurrentIndex(cas.liste->model()->index(1, 0));
     Livre livre = cas.banc.livres[1];
     livre.poids = Grammes{410};
-    cas.catalogue->modifier(livre);
+    cas.catalogue->modifier({livre});
     QCOMPARE(cas.courant(), QStringLiteral("Livre 2"));
     QVERIFY2(cas.enMots().contains(QStringLiteral("410 g")), qPrintable(cas.enMots()));
 }

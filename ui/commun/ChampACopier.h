@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QTimer>
 #include <QWidget>
 
 #include <optional>
 
+class BoutonCopier;
 class Libelle;
-class QToolButton;
 
 // One value the seller copies elsewhere: its title, what is shown, and a button that puts the value on the clipboard.
 class ChampACopier : public QWidget
@@ -22,16 +21,8 @@ public:
     // `affichage` is shown instead of the value when it is not empty.
     void montrer(const QString &valeur, const QString &affichage = {});
 
-    // Just copied: the button shows a check mark.
-    [[nodiscard]] bool copie() const { return retour_.isActive(); }
-
 private:
-    void copier();
-    void montrerEtat();
-
     QString titre_;
-    QString valeur_;
     Libelle *affichage_;
-    QToolButton *bouton_;
-    QTimer retour_;
+    BoutonCopier *bouton_;
 };

@@ -1,6 +1,10 @@
 #include "ui/commun/Defilement.h"
 
+#include <QApplication>
+#include <QEvent>
 #include <QScrollBar>
+
+#include <algorithm>
 
 Defilement::Defilement(QWidget *parent) : QScrollArea(parent)
 {
@@ -9,4 +13,27 @@ Defilement::Defilement(QWidget *parent) : QScrollArea(parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     verticalScrollBar()->setSingleStep(40);
     setFocusPolicy(Qt::NoFocus);
+    // Qt follows Tab only: a focus that a control hands on must not go out of sight either.
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget *, QWidget *nouveau) {
+        if (nouveau && widget() && widget()->isAncestorOf(nouveau)
+            && window()->testAttribute(Qt::WA_KeyboardFocusChange))
+            ensureWidgetVisible(nouveau);
+    });
+}
+
+QSize Defilement::minimumSizeHint() const
+{
+    const QSize aire = QScrollArea::minimumSizeHint();
+    if (!widget())
+        return aire;
+    const int ascenseur =
+        verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOn ? verticalScrollBar()->sizeHint().width() : 0;
+    return {std::max(aire.width(), widget()->minimumSizeHint().width() + ascenseur), aire.height()};
+}
+
+bool Defilement::eventFilter(QObject *objet, QEvent *evenement)
+{
+    if (objet == widget() && evenement->type() == QEvent::LayoutRequest)
+        updateGeometry();
+    return QScrollArea::eventFilter(objet, evenement);
 }

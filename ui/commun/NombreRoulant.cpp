@@ -7,9 +7,9 @@
 
 #include <algorithm>
 
-NombreRoulant::NombreRoulant(QWidget *parent) : QLabel(parent), progres_(new Ressort(Ressorts::action, this))
+NombreRoulant::NombreRoulant(QWidget *parent)
+    : LibelleChiffre({}, Rang::principal, parent), progres_(new Ressort(Ressorts::action, this))
 {
-    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     progres_->placer(1);
 }
 
@@ -22,16 +22,6 @@ void NombreRoulant::afficher(const QString &texte, int sens)
     setText(texte);
     progres_->placer(precedent_.isEmpty() ? 1 : 0);
     progres_->vers(1);
-}
-
-QSize NombreRoulant::sizeHint() const
-{
-    return {Chiffres::largeur(fontMetrics(), text()), fontMetrics().height()};
-}
-
-QSize NombreRoulant::minimumSizeHint() const
-{
-    return sizeHint();
 }
 
 void NombreRoulant::paintEvent(QPaintEvent *)

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QLabel>
+#include "ui/commun/LibelleChiffre.h"
 
 class Ressort;
 
 // A short text of digits, all of one width; when it changes, the characters that differ roll over.
-class NombreRoulant : public QLabel
+class NombreRoulant : public LibelleChiffre
 {
     Q_OBJECT
 
@@ -14,9 +14,6 @@ public:
 
     // `sens` is 1 when the number grows (digits roll upward), -1 when it shrinks.
     void afficher(const QString &texte, int sens = 1);
-
-    [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *evenement) override;

@@ -5,6 +5,15 @@
 
 #include <QStringList>
 
+namespace {
+
+QString vendu(const Livre &livre)
+{
+    return QStringLiteral("vendu par ") + NomsVendeurs::court(livre.vendeur);
+}
+
+} // namespace
+
 QString TextesLivres::nombre(qsizetype livres)
 {
     if (livres == 0)
@@ -16,6 +25,16 @@ QString TextesLivres::fabrication(const Livre &livre)
 {
     const QString pages = livre.pages > 1 ? QStringLiteral("%1 pages") : QStringLiteral("%1 page");
     return QStringLiteral("%1 · %2").arg(livre.format, pages.arg(livre.pages));
+}
+
+QString TextesLivres::origine(const Livre &livre)
+{
+    return QStringLiteral("%1 · %2").arg(livre.auteur, vendu(livre));
+}
+
+QString TextesLivres::edition(const Livre &livre)
+{
+    return QStringLiteral("%1 · ISBN %2").arg(fabrication(livre), livre.isbn);
 }
 
 QString TextesLivres::poids(const Livre &livre)
@@ -30,9 +49,8 @@ QString TextesLivres::epuise()
 
 QString TextesLivres::enMots(const Livre &livre)
 {
-    QStringList mots{livre.titre,        livre.auteur,
-                     fabrication(livre), QStringLiteral("vendu par ") + NomsVendeurs::court(livre.vendeur),
-                     poids(livre),       Format::euros(livre.prix)};
+    QStringList mots{livre.titre,  livre.auteur, fabrication(livre),
+                     vendu(livre), poids(livre), Format::euros(livre.prix)};
     if (!livre.disponible)
         mots.append(epuise());
     return mots.join(QStringLiteral(", "));

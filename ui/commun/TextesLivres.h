@@ -11,6 +11,10 @@ namespace TextesLivres {
 QString nombre(qsizetype livres);
 // "14 × 21 cm, broché · 288 pages"
 QString fabrication(const Livre &livre);
+// "Anselme Davrel · vendu par Davrel"
+QString origine(const Livre &livre);
+// How it was made, and its ISBN.
+QString edition(const Livre &livre);
 // "355 g", or that the book was never weighed.
 QString poids(const Livre &livre);
 QString epuise();

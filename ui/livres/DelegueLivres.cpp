@@ -8,6 +8,7 @@
 #include "ui/commun/NomsVendeurs.h"
 #include "ui/commun/TextesLivres.h"
 #include "ui/livres/ModeleLivres.h"
+#include "ui/livres/TextesBoutons.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -16,28 +17,27 @@
 
 namespace {
 
-constexpr QSize couverture(44, 66);
-constexpr int marge = 16;  // inside a group
-constexpr int retrait = 5; // of the current row's mark
-constexpr int espace = 20; // between the columns
-constexpr int avantLEtiquette = 10;
-constexpr int sousLeTitre = 10;   // between a group's title and the group
-constexpr int avantUnGroupe = 28; // and after the last one
+constexpr QSize couverture(40, 60);
+constexpr int marge = 12;  // inside a group
+constexpr int retrait = 4; // of the current row's mark
+constexpr int avantLEtiquette = 8;
+constexpr int sousLeTitre = 8;    // between a group's title and the group
+constexpr int avantUnGroupe = 20; // and after the last one
 constexpr int jeu = 2;            // drawing may round a little wider than it measured
 
 int hauteurDuTitre()
 {
-    return avantUnGroupe + QFontMetrics(Theme::titreSection()).height() + sousLeTitre;
+    return avantUnGroupe + QFontMetrics(Theme::titreCarte()).height() + sousLeTitre;
 }
 
 QFont policeDuPrix()
 {
-    return Theme::enGras(QApplication::font());
+    return Theme::enGras(Theme::encadre());
 }
 
 int hauteurDuTexte()
 {
-    return QFontMetrics(Theme::titreLivre()).height() + 2 * QFontMetrics(Theme::encadre()).height() + 4;
+    return QFontMetrics(Theme::titreLivre()).height() + 2 * QFontMetrics(Theme::encadre()).height() + 6;
 }
 
 void ecrire(QPainter &peintre, const QRect &cadre, const QString &texte, Qt::Alignment cote = Qt::AlignLeft)
@@ -46,24 +46,22 @@ void ecrire(QPainter &peintre, const QRect &cadre, const QString &texte, Qt::Ali
                      peintre.fontMetrics().elidedText(texte, Qt::ElideRight, cadre.width()));
 }
 
-// A quiet capsule behind a title of this width; gives what it leaves to the title.
-QRect peindreEtiquette(QPainter &peintre, const QRect &ligne, const QString &texte, int largeurDuTitre,
-                       const QPalette &palette)
+// A capsule at the right end of a line; gives what it leaves to the rest.
+QRect peindreEtiquette(QPainter &peintre, const QRect &ligne, const QString &texte, const QColor &encre,
+                       const QColor &fond)
 {
     const QFont police = Theme::enGras(Theme::legende(), QFont::Medium);
     const QFontMetrics mesures(police);
-    const QSize taille(mesures.horizontalAdvance(texte) + 16, mesures.height() + 4);
-    const int gauche = std::min(ligne.left() + largeurDuTitre + avantLEtiquette, ligne.right() + 1 - taille.width());
-    const QRect etiquette(QPoint(gauche, ligne.center().y() + 1 - taille.height() / 2), taille);
+    const QSize taille(mesures.horizontalAdvance(texte) + 14, mesures.height() + 4);
+    const QRect etiquette(QPoint(ligne.right() + 1 - taille.width(), ligne.center().y() + 1 - taille.height() / 2),
+                          taille);
     peintre.setPen(Qt::NoPen);
-    peintre.setBrush(Theme::remplissage(palette));
+    peintre.setBrush(fond);
     peintre.drawRoundedRect(etiquette, 6, 6);
     peintre.setFont(police);
-    peintre.setPen(Theme::secondaire(palette));
+    peintre.setPen(encre);
     peintre.drawText(etiquette, Qt::AlignCenter, texte);
-    QRect titre = ligne;
-    titre.setRight(gauche - avantLEtiquette - 1);
-    return titre;
+    return ligne.adjusted(0, 0, -taille.width() - avantLEtiquette, 0);
 }
 
 } // namespace
@@ -76,7 +74,7 @@ DelegueLivres::DelegueLivres(const ModeleLivres &modele, ImagesCouvertures &imag
 QSize DelegueLivres::sizeHint(const QStyleOptionViewItem &, const QModelIndex &indice) const
 {
     const int rang = indice.row();
-    const int livre = std::max(couverture.height(), hauteurDuTexte()) + 2 * 12;
+    const int livre = std::max(couverture.height(), hauteurDuTexte()) + 2 * marge;
     return {0, livre + (modele_.ouvreUnGroupe(rang) ? hauteurDuTitre() : 0)
                    + (rang == modele_.rowCount() - 1 ? avantUnGroupe : 0)};
 }
@@ -86,7 +84,6 @@ void DelegueLivres::paint(QPainter *peintre, const QStyleOptionViewItem &option,
     const int rang = indice.row();
     const Livre &livre = modele_.livre(rang);
     QRect cadre = option.rect;
-    cadre.setWidth(std::min(cadre.width(), Theme::largeurDePage));
     peintre->save();
     peintre->setRenderHint(QPainter::Antialiasing);
     if (modele_.ouvreUnGroupe(rang)) {
@@ -109,7 +106,7 @@ void DelegueLivres::paint(QPainter *peintre, const QStyleOptionViewItem &option,
     if (option.state.testFlag(QStyle::State_HasFocus) && option.widget && Dessin::focusVisible(option.widget))
         Dessin::anneauDeFocus(*peintre, marque.adjusted(2, 2, -2, -2), Theme::rayonControle - 2,
                               Theme::accentTexte(option.palette));
-    peindreLivre(*peintre, cadre.adjusted(marge, 0, -marge, 0), livre, option.palette);
+    peindreLivre(*peintre, cadre.adjusted(marge, 0, -marge, 0), rang, option.palette);
     peintre->restore();
 }
 
@@ -117,9 +114,9 @@ void DelegueLivres::peindreTitre(QPainter &peintre, const QRect &cadre, const Li
                                  const QPalette &palette) const
 {
     const QString nom = NomsVendeurs::court(premier.vendeur);
-    const QFontMetrics mesures(Theme::titreSection());
+    const QFontMetrics mesures(Theme::titreCarte());
     const int base = cadre.bottom() - mesures.descent();
-    peintre.setFont(Theme::titreSection());
+    peintre.setFont(Theme::titreCarte());
     peintre.setPen(palette.color(QPalette::WindowText));
     peintre.drawText(cadre.left(), base, nom);
     peintre.setFont(Theme::encadre());
@@ -142,9 +139,9 @@ void DelegueLivres::peindreCarte(QPainter &peintre, const QRect &cadre, int rang
     peintre.restore();
 }
 
-void DelegueLivres::peindreLivre(QPainter &peintre, const QRect &cadre, const Livre &livre,
-                                 const QPalette &palette) const
+void DelegueLivres::peindreLivre(QPainter &peintre, const QRect &cadre, int rang, const QPalette &palette) const
 {
+    const Livre &livre = modele_.livre(rang);
     const QColor texte = palette.color(QPalette::WindowText);
     const QColor secondaire = Theme::secondaire(palette);
     const QPoint image(cadre.left(), cadre.center().y() + 1 - couverture.height() / 2);
@@ -153,42 +150,36 @@ void DelegueLivres::peindreLivre(QPainter &peintre, const QRect &cadre, const Li
         image, DessinCouverture::dessin(livre, couverture, couverture, peintre.device()->devicePixelRatioF(), images_));
     peintre.setOpacity(1);
 
-    peintre.setFont(policeDuPrix());
-    peintre.setPen(livre.disponible ? texte : secondaire);
-    const QString prix = Format::euros(livre.prix);
-    const QFontMetrics mesuresDuPrix = peintre.fontMetrics();
-    const int largeurDuPrix = jeu
-                              + std::max(Chiffres::largeur(mesuresDuPrix, QStringLiteral("000,00 €")),
-                                         Chiffres::largeur(mesuresDuPrix, prix));
-    QRect colonne(cadre.right() + 1 - largeurDuPrix, cadre.top(), largeurDuPrix, cadre.height());
-    Chiffres::peindre(peintre, colonne, Qt::AlignRight, prix);
-
-    peintre.setFont(livre.poids ? Theme::encadre() : Theme::enGras(Theme::encadre(), QFont::Medium));
-    peintre.setPen(livre.poids ? secondaire : Theme::orange(palette));
-    const int largeurDuPoids = peintre.fontMetrics().horizontalAdvance(QStringLiteral("Poids à peser")) + jeu;
-    colonne.setRect(colonne.left() - espace - largeurDuPoids, cadre.top(), largeurDuPoids, cadre.height());
-    if (livre.poids)
-        Chiffres::peindre(peintre, colonne, Qt::AlignRight, TextesLivres::poids(livre));
-    else
-        ecrire(peintre, colonne, TextesLivres::poids(livre), Qt::AlignRight);
-
-    const QFontMetrics mesures(Theme::titreLivre());
     QRect ligne(image.x() + couverture.width() + marge, cadre.center().y() + 1 - hauteurDuTexte() / 2, 0,
-                mesures.height());
-    ligne.setRight(colonne.left() - espace);
+                QFontMetrics(Theme::titreLivre()).height());
+    ligne.setRight(cadre.right());
     QRect titre = ligne;
     if (!livre.disponible)
-        titre = peindreEtiquette(peintre, ligne, TextesLivres::epuise(), mesures.horizontalAdvance(livre.titre) + jeu,
-                                 palette);
+        titre = peindreEtiquette(peintre, ligne, TextesLivres::epuise(), secondaire, Theme::remplissage(palette));
     peintre.setFont(Theme::titreLivre());
     peintre.setPen(texte);
     ecrire(peintre, titre, livre.titre);
 
+    ligne.moveTop(ligne.bottom() + 2);
+    ligne.setHeight(QFontMetrics(Theme::encadre()).height());
+    QRect auteur = ligne;
+    if (const qsizetype aReporter = modele_.aReporter(rang); aReporter > 0) {
+        const QColor orange = Theme::orange(palette);
+        QColor fond = orange;
+        fond.setAlphaF(0.13F);
+        auteur = peindreEtiquette(peintre, ligne, TextesBoutons::aReporter(aReporter), orange, fond);
+    }
     peintre.setFont(Theme::encadre());
     peintre.setPen(secondaire);
-    for (const QString &suivante : {livre.auteur, TextesLivres::fabrication(livre)}) {
-        ligne.moveTop(ligne.bottom() + 3);
-        ligne.setHeight(peintre.fontMetrics().height());
-        ecrire(peintre, ligne, suivante);
-    }
+    ecrire(peintre, auteur, livre.auteur);
+
+    ligne.moveTop(ligne.bottom() + 4);
+    peintre.setFont(policeDuPrix());
+    peintre.setPen(livre.disponible ? texte : secondaire);
+    const QString prix = Format::euros(livre.prix);
+    Chiffres::peindre(peintre, ligne, Qt::AlignLeft, prix);
+    ligne.setLeft(ligne.left() + Chiffres::largeur(peintre.fontMetrics(), prix));
+    peintre.setFont(Theme::encadre());
+    peintre.setPen(livre.poids ? secondaire : Theme::orange(palette));
+    Chiffres::peindre(peintre, ligne, Qt::AlignLeft, QStringLiteral("  ·  ") + TextesLivres::poids(livre));
 }

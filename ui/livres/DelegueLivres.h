@@ -20,7 +20,7 @@ public:
 private:
     void peindreTitre(QPainter &peintre, const QRect &cadre, const Livre &premier, const QPalette &palette) const;
     void peindreCarte(QPainter &peintre, const QRect &cadre, int rang, const QPalette &palette) const;
-    void peindreLivre(QPainter &peintre, const QRect &cadre, const Livre &livre, const QPalette &palette) const;
+    void peindreLivre(QPainter &peintre, const QRect &cadre, int rang, const QPalette &palette) const;
 
     const ModeleLivres &modele_;
     ImagesCouvertures &images_;

@@ -2,20 +2,57 @@
 
 #include "model/Catalogue.h"
 #include "ui/commun/TextesLivres.h"
+#include "ui/livres/TextesBoutons.h"
 
 #include <algorithm>
 
 ModeleLivres::ModeleLivres(const Catalogue &catalogue, QObject *parent)
-    : QAbstractListModel(parent), catalogue_(catalogue), rangs_(ranger())
+    : QAbstractListModel(parent), catalogue_(catalogue)
 {
+    actualiser();
     connect(&catalogue, &Catalogue::change, this, &ModeleLivres::actualiser);
 }
 
-QList<ModeleLivres::Rang> ModeleLivres::ranger() const
+void ModeleLivres::setFiltre(const FiltreLivres &filtre)
+{
+    if (filtre == filtre_)
+        return;
+    filtre_ = filtre;
+    retenus_.clear();
+    actualiser();
+}
+
+void ModeleLivres::setTarifs(const TarifsColissimo &tarifs)
+{
+    if (tarifs == tarifs_)
+        return;
+    tarifs_ = tarifs;
+    retenus_.clear();
+    actualiser();
+}
+
+void ModeleLivres::retenir(qint64 id)
+{
+    if (rang(id))
+        return;
+    retenus_.insert(id);
+    actualiser();
+}
+
+QList<ModeleLivres::Rang> ModeleLivres::ranger()
 {
     QList<Rang> rangs;
-    for (const Livre &livre : catalogue_.livres())
-        rangs.append({livre.vendeur, livre.id, rangs.size()});
+    aReporter_ = 0;
+    const QList<Livre> &livres = catalogue_.livres();
+    for (qsizetype place = 0; place < livres.size(); ++place) {
+        const Livre &livre = livres[place];
+        const qsizetype aReporter = tarifs_ ? PrixBouton::aReporter(catalogue_.boutons(livre, *tarifs_)).size() : 0;
+        aReporter_ += aReporter;
+        if (!retenus_.contains(livre.id) && !filtre_.retient(livre, aReporter))
+            continue;
+        retenus_.insert(livre.id);
+        rangs.append({livre.vendeur, livre.id, place, aReporter});
+    }
     std::ranges::stable_sort(rangs, {}, &Rang::vendeur);
     return rangs;
 }
@@ -24,8 +61,9 @@ QList<ModeleLivres::Rang> ModeleLivres::ranger() const
 void ModeleLivres::actualiser()
 {
     const QList<Rang> rangs = ranger();
-    if (rangs == rangs_) {
-        if (!rangs_.isEmpty())
+    if (std::ranges::equal(rangs, rangs_, {}, &Rang::id, &Rang::id)) {
+        rangs_ = rangs;
+        if (!rangs.isEmpty())
             emit dataChanged(index(0), index(rowCount() - 1));
         return;
     }
@@ -37,6 +75,21 @@ void ModeleLivres::actualiser()
 const Livre &ModeleLivres::livre(int rang) const
 {
     return catalogue_.livres()[rangs_[rang].place];
+}
+
+std::optional<int> ModeleLivres::rang(qint64 id) const
+{
+    const auto trouve = std::ranges::find(rangs_, id, &Rang::id);
+    return trouve == rangs_.end() ? std::nullopt : std::optional(static_cast<int>(trouve - rangs_.begin()));
+}
+
+std::optional<int> ModeleLivres::suivantAReporter(int rang) const
+{
+    const int nombre = rowCount();
+    for (int pas = 1; pas < nombre; ++pas)
+        if (const int suivant = (rang + pas) % nombre; aReporter(suivant) > 0)
+            return suivant;
+    return std::nullopt;
 }
 
 bool ModeleLivres::ouvreUnGroupe(int rang) const
@@ -59,6 +112,12 @@ int ModeleLivres::rowCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : static_cast<int>(rangs_.size());
 }
 
+QString ModeleLivres::enMots(int rang) const
+{
+    const QString mots = TextesLivres::enMots(livre(rang));
+    return aReporter(rang) == 0 ? mots : mots + QStringLiteral(", ") + TextesBoutons::nombreAReporter(aReporter(rang));
+}
+
 QVariant ModeleLivres::data(const QModelIndex &indice, int role) const
 {
     const Livre &livre = this->livre(indice.row());
@@ -68,7 +127,7 @@ QVariant ModeleLivres::data(const QModelIndex &indice, int role) const
     case Qt::ToolTipRole:
         return livre.titreComplet;
     case Qt::AccessibleTextRole:
-        return TextesLivres::enMots(livre);
+        return enMots(indice.row());
     default:
         return {};
     }

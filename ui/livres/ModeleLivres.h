@@ -1,12 +1,16 @@
 #pragma once
 
 #include "model/Livre.h"
+#include "model/Tarifs.h"
+#include "ui/livres/FiltreLivres.h"
 
 #include <QAbstractListModel>
+#include <QSet>
 
 class Catalogue;
 
-// The catalogue's books, one seller's after the other's, each in the catalogue's order.
+// The books that the filter retains, one seller's after the other's, each in the catalogue's order. A book that the
+// seller's own work takes out of the filter stays until the filter changes: the list does not move under the hand.
 class ModeleLivres : public QAbstractListModel
 {
     Q_OBJECT
@@ -14,7 +18,21 @@ class ModeleLivres : public QAbstractListModel
 public:
     explicit ModeleLivres(const Catalogue &catalogue, QObject *parent = nullptr);
 
+    void setFiltre(const FiltreLivres &filtre);
+    // The schedule against which buttons are counted; nothing is counted before there is one.
+    void setTarifs(const TarifsColissimo &tarifs);
+    // Shows this book whatever the filter says.
+    void retenir(qint64 id);
+
     [[nodiscard]] const Livre &livre(int rang) const;
+    // How many of the book's buttons wait for a new price.
+    [[nodiscard]] qsizetype aReporter(int rang) const { return rangs_[rang].aReporter; }
+    // The same for the whole catalogue.
+    [[nodiscard]] qsizetype aReporter() const { return aReporter_; }
+    // The place of a book; none when it is not shown.
+    [[nodiscard]] std::optional<int> rang(qint64 id) const;
+    // The next book with buttons to change, from the top again after the last; none but itself: none.
+    [[nodiscard]] std::optional<int> suivantAReporter(int rang) const;
     // Whether the book opens or closes its seller's group.
     [[nodiscard]] bool ouvreUnGroupe(int rang) const;
     [[nodiscard]] bool fermeUnGroupe(int rang) const;
@@ -29,12 +47,17 @@ private:
         Vendeur vendeur;
         qint64 id;
         qsizetype place; // in the catalogue's list
-        bool operator==(const Rang &) const = default;
+        qsizetype aReporter;
     };
 
-    [[nodiscard]] QList<Rang> ranger() const;
+    [[nodiscard]] QList<Rang> ranger();
+    [[nodiscard]] QString enMots(int rang) const;
     void actualiser();
 
     const Catalogue &catalogue_;
+    std::optional<TarifsColissimo> tarifs_;
+    FiltreLivres filtre_;
+    QSet<qint64> retenus_; // shown since the filter changed
     QList<Rang> rangs_;
+    qsizetype aReporter_ = 0;
 };

@@ -2,59 +2,190 @@
 
 #include "model/Catalogue.h"
 #include "ui/Theme.h"
-#include "ui/commande/ImagesCouvertures.h"
+#include "ui/commun/Alerte.h"
+#include "ui/commun/Boutons.h"
+#include "ui/commun/Defilement.h"
 #include "ui/commun/EnTete.h"
-#include "ui/commun/TextesLivres.h"
-#include "ui/livres/DelegueLivres.h"
-#include "ui/livres/ModeleLivres.h"
+#include "ui/commun/EtatVide.h"
+#include "ui/commun/Icone.h"
+#include "ui/commun/Partage.h"
+#include "ui/livres/FicheLivre.h"
+#include "ui/livres/RetourAuxValeurs.h"
+#include "ui/livres/TextesBoutons.h"
+#include "ui/livres/VoletLivres.h"
+#include "ui/tarifs/ChoixTarifs.h"
 
-#include <QListView>
+#include <QAction>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QPushButton>
 #include <QScrollBar>
+#include <QShortcut>
+#include <QSplitter>
+#include <QStackedWidget>
 #include <QStyle>
+#include <QToolButton>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace {
 
-// The margins belong to the list: its scroll bar stands at the edge of the screen.
-class Liste : public QListView
+constexpr int largeurDuVolet = 340;
+constexpr int largeurMinimaleDuVolet = 220;
+constexpr int marge = 24;
+
+// The command in words, with what it would act on; nothing to act on disables it.
+void dire(QAction *commande, const QString &nom, const QString &geste)
 {
-public:
-    Liste()
-    {
-        setViewportMargins(Theme::margeDePage, 0, Theme::margeDePage - style()->pixelMetric(QStyle::PM_ScrollBarExtent),
-                           0);
-    }
-};
+    commande->setEnabled(!geste.isEmpty());
+    commande->setText(geste.isEmpty() ? nom : QStringLiteral("%1 : %2").arg(nom, geste));
+    commande->setToolTip(
+        QStringLiteral("%1 (%2)").arg(commande->text(), commande->shortcut().toString(QKeySequence::NativeText)));
+}
 
 } // namespace
 
-VueLivres::VueLivres(const Catalogue &catalogue, ImagesCouvertures &images, QWidget *parent)
-    : QWidget(parent), catalogue_(catalogue), enTete_(new EnTete(tr("Livres")))
+VueLivres::VueLivres(Catalogue &catalogue, ImagesCouvertures &images, Aujourdhui aujourdhui, QWidget *parent)
+    : QWidget(parent),
+      catalogue_(catalogue),
+      historique_(catalogue),
+      aujourdhui_(std::move(aujourdhui)),
+      enTete_(new EnTete(tr("Livres"))),
+      choix_(new ChoixTarifs),
+      volet_(new VoletLivres(catalogue, images)),
+      fiche_(new FicheLivre(images)),
+      echec_(new Alerte),
+      annuler_(commande(QStringLiteral("arrow.uturn.backward"), QKeySequence::Undo)),
+      retablir_(commande(QStringLiteral("arrow.uturn.forward"), QKeySequence::Redo))
 {
-    auto *liste = new Liste;
-    auto *modele = new ModeleLivres(catalogue, liste);
-    liste->setModel(modele);
-    liste->setItemDelegate(new DelegueLivres(*modele, images, liste));
-    liste->setAccessibleName(tr("Livres"));
-    liste->setFrameShape(QFrame::NoFrame);
-    liste->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    liste->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    liste->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    liste->verticalScrollBar()->setSingleStep(40);
-    liste->viewport()->setAutoFillBackground(false);
-    connect(&images, &ImagesCouvertures::prete, liste->viewport(), qOverload<>(&QWidget::update));
+    enTete_->ajouter(choix_);
+    auto *colonne = new QVBoxLayout(this);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(0);
+    colonne->addWidget(enTete_);
+    QWidget *liste = gauche();
+    colonne->addWidget(Partage::entre(liste, droite(), liste, largeurDuVolet), 1);
 
-    auto *page = new QVBoxLayout(this);
-    page->setContentsMargins(0, 0, 0, 0);
-    page->setSpacing(0);
-    page->addWidget(enTete_);
-    page->addWidget(liste, 1);
-
+    connect(annuler_, &QAction::triggered, this,
+            [this] { tenter([this] { volet_->choisir(historique_.annuler()); }); });
+    connect(retablir_, &QAction::triggered, this,
+            [this] { tenter([this] { volet_->choisir(historique_.retablir()); }); });
+    connect(fiche_, &FicheLivre::modification, this,
+            [this](const Livre &livre, const QString &geste) { tenter([&] { historique_.modifier(livre, geste); }); });
+    connect(fiche_, &FicheLivre::aReporter, this, [this](const QList<PrixBouton> &boutons) {
+        const Livre livre = *volet_->choisi();
+        tenter([&] { historique_.reporter(livre, boutons, TextesBoutons::report(livre, boutons.size())); });
+    });
+    connect(fiche_, &FicheLivre::aGarder, this, [this](const PrixBouton &bouton) {
+        const Livre livre = *volet_->choisi();
+        tenter([&] { historique_.garder(livre, bouton, tr("prix gardé de « %1 »").arg(livre.titre)); });
+    });
+    connect(fiche_, &FicheLivre::livreSuivant, volet_, &VoletLivres::passerAuSuivant);
+    connect(volet_, &VoletLivres::change, this, &VueLivres::actualiser);
+    connect(choix_, &ChoixTarifs::choisi, this, &VueLivres::actualiser);
     connect(&catalogue_, &Catalogue::change, this, &VueLivres::actualiser);
-    actualiser();
+    auto *chercher = new QShortcut(QKeySequence::Find, this);
+    chercher->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(chercher, &QShortcut::activated, volet_, &VoletLivres::chercher);
+}
+
+// Also a button of the head.
+QAction *VueLivres::commande(const QString &symbole, QKeySequence::StandardKey touches)
+{
+    auto *action = new QAction(Icone::icone(symbole), {}, this);
+    action->setShortcut(touches);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    addAction(action);
+    auto *bouton = new QToolButton;
+    bouton->setDefaultAction(action);
+    bouton->setAutoRaise(true);
+    bouton->setFocusPolicy(Qt::StrongFocus);
+    enTete_->ajouter(bouton);
+    return action;
+}
+
+QWidget *VueLivres::gauche()
+{
+    QPushButton *revenir = Boutons::deFeuille(tr("Revenir aux valeurs d’origine…"));
+    connect(revenir, &QPushButton::clicked, this, &VueLivres::revenir);
+    auto *pied = new QHBoxLayout;
+    pied->setContentsMargins(20, 10, 20, 14);
+    pied->addWidget(revenir, 1);
+    auto *gauche = new QWidget;
+    gauche->setMinimumWidth(largeurMinimaleDuVolet);
+    auto *colonne = new QVBoxLayout(gauche);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(0);
+    colonne->addWidget(volet_, 1);
+    colonne->addLayout(pied);
+    return gauche;
+}
+
+QWidget *VueLivres::droite()
+{
+    auto *page = new QWidget;
+    auto *marges = new QVBoxLayout(page);
+    marges->setContentsMargins(marge, 24, marge - style()->pixelMetric(QStyle::PM_ScrollBarExtent), 28);
+    marges->addWidget(fiche_);
+    auto *defilement = new Defilement;
+    defilement->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    defilement->setWidget(page);
+    place_ = new QStackedWidget;
+    place_->addWidget(defilement);
+    place_->addWidget(new EtatVide(QStringLiteral("books.vertical"), tr("Aucun livre choisi")));
+
+    // What failed is said above the page, in sight wherever the page stands.
+    echec_->setContentsMargins(marge, 14, marge, 0);
+    auto *droite = new QWidget;
+    auto *colonne = new QVBoxLayout(droite);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(0);
+    colonne->addWidget(echec_);
+    colonne->addWidget(place_, 1);
+    return droite;
 }
 
 void VueLivres::actualiser()
 {
-    enTete_->setSousTitre(TextesLivres::nombre(catalogue_.livres().size()));
+    if (!isVisible())
+        return; // up to date again when it shows
+    const TarifsColissimo tarifs = choix_->tarifs(catalogue_, aujourdhui_());
+    volet_->setTarifs(tarifs);
+    enTete_->setSousTitre(TextesBoutons::bilan(catalogue_.livres().size(), volet_->aReporter()));
+    const Livre *choisi = volet_->choisi();
+    place_->setCurrentIndex(choisi ? 0 : 1);
+    if (choisi)
+        fiche_->montrer(*choisi, catalogue_.boutons(*choisi, tarifs), tarifs, volet_->aUnSuivant());
+    dire(annuler_, tr("Annuler"), historique_.aAnnuler());
+    dire(retablir_, tr("Rétablir"), historique_.aRetablir());
+}
+
+// Screen, memory and file agree afterwards, whatever came of it.
+void VueLivres::tenter(const std::function<void()> &geste)
+{
+    QString echec;
+    try {
+        geste();
+    } catch (const Echec &erreur) {
+        echec = tr("Modification non enregistrée : %1").arg(erreur.texte());
+    }
+    echec_->montrer(echec);
+    actualiser();
+}
+
+void VueLivres::revenir()
+{
+    tenter([this] {
+        if (RetourAuxValeurs::accepte(catalogue_.livres(), catalogue_.valeursLivrees(), this))
+            historique_.revenirAuxValeursLivrees(tr("retour aux valeurs d’origine"));
+    });
+}
+
+// Another day may have come since the screen was last seen.
+bool VueLivres::event(QEvent *evenement)
+{
+    if (evenement->type() == QEvent::Show || evenement->type() == QEvent::WindowActivate)
+        actualiser();
+    return QWidget::event(evenement);
 }

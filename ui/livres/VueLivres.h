@@ -1,22 +1,52 @@
 #pragma once
 
+#include "model/HistoriqueLivres.h"
+#include "ui/Aujourdhui.h"
+
+#include <QKeySequence>
 #include <QWidget>
 
-class Catalogue;
-class EnTete;
-class ImagesCouvertures;
+#include <functional>
 
-// The list of books of both sellers.
+class Alerte;
+class Catalogue;
+class ChoixTarifs;
+class EnTete;
+class FicheLivre;
+class ImagesCouvertures;
+class QAction;
+class QStackedWidget;
+class VoletLivres;
+
+// Both sellers' books: their list on the left, the chosen one beside it to edit. Every change is saved at once and can
+// be undone until the program closes.
 class VueLivres : public QWidget
 {
     Q_OBJECT
 
 public:
-    VueLivres(const Catalogue &catalogue, ImagesCouvertures &images, QWidget *parent = nullptr);
+    VueLivres(Catalogue &catalogue, ImagesCouvertures &images, Aujourdhui aujourdhui, QWidget *parent = nullptr);
+
+protected:
+    bool event(QEvent *evenement) override;
 
 private:
+    QWidget *gauche();
+    QWidget *droite();
+    QAction *commande(const QString &symbole, QKeySequence::StandardKey touches);
     void actualiser();
+    void tenter(const std::function<void()> &geste);
+    void revenir();
 
-    const Catalogue &catalogue_;
+    Catalogue &catalogue_;
+    HistoriqueLivres historique_;
+    Aujourdhui aujourdhui_;
     EnTete *enTete_;
+    ChoixTarifs *choix_;
+    VoletLivres *volet_;
+    FicheLivre *fiche_;
+    Alerte *echec_;
+    QStackedWidget *place_ = nullptr;
+    QAction *annuler_;
+    QAction *retablir_;
 };

@@ -3,7 +3,7 @@
 #include "ui/Theme.h"
 #include "ui/commun/Dessin.h"
 #include "ui/commun/Libelle.h"
-#include "ui/commun/NombreRoulant.h"
+#include "ui/commun/LibelleChiffre.h"
 #include "ui/tarifs/RangeeDeTableau.h"
 
 #include <QPainter>
@@ -15,13 +15,13 @@ constexpr int partDuPoids = 3;
 constexpr int partDUneZone = 2;
 constexpr int retrait = 7; // of the figures, for the tint of the one that counts
 
-// A figure that never rolls, its digits level with those above; the one that the order in progress pays is tinted.
-class CasePrix : public NombreRoulant
+// A figure; the one that the order in progress pays is tinted.
+class CasePrix : public LibelleChiffre
 {
 public:
-    CasePrix(const TextesTarifs::Prix &prix, const QString &zone, const QString &poids) : enCours_(prix.enCours)
+    CasePrix(const TextesTarifs::Prix &prix, const QString &zone, const QString &poids)
+        : LibelleChiffre(prix.texte), enCours_(prix.enCours)
     {
-        afficher(prix.texte);
         setContentsMargins(0, 0, retrait, 0);
         setFont(Theme::enGras(font(), enCours_ ? QFont::DemiBold : QFont::Medium));
         setAccessibleName(enCours_ ? tr("%1, %2 : %3, palier de la commande en cours").arg(zone, poids, prix.texte)
@@ -43,7 +43,7 @@ protected:
             const int largeur = sizeHint().width() + 2 * retrait;
             peintre.drawRoundedRect(QRect(width() - largeur, 0, largeur, height()), 6, 6);
         }
-        NombreRoulant::paintEvent(evenement);
+        LibelleChiffre::paintEvent(evenement);
     }
 
 private:

@@ -4,7 +4,7 @@
 #include "ui/Theme.h"
 #include "ui/commun/Icone.h"
 #include "ui/commun/Libelle.h"
-#include "ui/commun/NombreRoulant.h"
+#include "ui/commun/LibelleChiffre.h"
 #include "ui/tarifs/RangeeDeTableau.h"
 #include "ui/tarifs/TextesTarifs.h"
 #include "watch/Verifications.h"
@@ -33,8 +33,7 @@ protected:
 QWidget *ligne(const TextesTarifs::Frais &avant, const TextesTarifs::Frais &apres)
 {
     const auto valeur = [](const QString &texte, bool change) {
-        auto *nombre = new NombreRoulant;
-        nombre->afficher(texte);
+        auto *nombre = new LibelleChiffre(texte);
         if (change)
             nombre->setFont(Theme::enGras(nombre->font()));
         return nombre;

@@ -4,7 +4,7 @@
 #include "ui/commun/Alerte.h"
 #include "ui/commun/EtatVide.h"
 #include "ui/commun/Libelle.h"
-#include "ui/commun/NombreRoulant.h"
+#include "ui/commun/LibelleChiffre.h"
 #include "ui/commun/PageAuClavier.h"
 #include "ui/tarifs/RangeeDeTableau.h"
 #include "ui/tarifs/TextesVerifications.h"
@@ -28,13 +28,6 @@ QWidget *texte(const QString &texte, Qt::Alignment alignement)
     return libelle;
 }
 
-QWidget *chiffres(const QString &texte)
-{
-    auto *nombre = new NombreRoulant;
-    nombre->afficher(texte);
-    return nombre;
-}
-
 QWidget *tetes()
 {
     return new RangeeDeTableau({{RangeeDeTableau::tete(CarteNouveauxTarifs::tr("Zone"), Qt::AlignLeft), parts[0]},
@@ -56,10 +49,10 @@ QWidget *tableau(const QList<TextesVerifications::Ecart> &ecarts)
     for (const TextesVerifications::Ecart &ecart : ecarts)
         colonne->addWidget(new RangeeDeTableau({{texte(ecart.zone, Qt::AlignLeft), parts[0]},
                                                 {texte(ecart.jusqua, Qt::AlignRight), parts[1]},
-                                                {chiffres(ecart.avant), parts[2]},
-                                                {chiffres(ecart.apres), parts[3]},
-                                                {chiffres(ecart.ecart), parts[4]},
-                                                {chiffres(ecart.variation), parts[5]}}));
+                                                {new LibelleChiffre(ecart.avant), parts[2]},
+                                                {new LibelleChiffre(ecart.apres), parts[3]},
+                                                {new LibelleChiffre(ecart.ecart), parts[4]},
+                                                {new LibelleChiffre(ecart.variation), parts[5]}}));
     colonne->addStretch(1);
     return tableau;
 }

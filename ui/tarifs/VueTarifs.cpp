@@ -2,9 +2,7 @@
 
 #include "model/Catalogue.h"
 #include "model/Commande.h"
-#include "model/Format.h"
 #include "ui/Theme.h"
-#include "ui/commun/ChoixSegmente.h"
 #include "ui/commun/EnTete.h"
 #include "ui/commun/Formulaire.h"
 #include "ui/commun/Libelle.h"
@@ -12,6 +10,7 @@
 #include "ui/tarifs/CarteFamille.h"
 #include "ui/tarifs/CarteNouveauxFrais.h"
 #include "ui/tarifs/CarteNouveauxTarifs.h"
+#include "ui/tarifs/ChoixTarifs.h"
 #include "ui/tarifs/LigneVerification.h"
 #include "ui/tarifs/TextesVerifications.h"
 
@@ -75,6 +74,7 @@ VueTarifs::VueTarifs(Catalogue &catalogue, const Commande &commande, Verificatio
       verifications_(verifications),
       aujourdhui_(std::move(aujourdhui)),
       enTete_(new EnTete(tr("Tarifs Colissimo"))),
+      choix_(new ChoixTarifs),
       laPoste_(new LigneVerification(tr("Tarifs Colissimo"))),
       paypal_(new LigneVerification(tr("Frais PayPal")))
 {
@@ -102,6 +102,8 @@ VueTarifs::VueTarifs(Catalogue &catalogue, const Commande &commande, Verificatio
     colonne->setSpacing(0);
     colonne->addWidget(enTete_);
     colonne->addWidget(defilement, 1);
+    enTete_->ajouter(choix_);
+    connect(choix_, &ChoixTarifs::choisi, this, &VueTarifs::actualiser);
     connect(&catalogue_, &Catalogue::change, this, &VueTarifs::actualiser);
     connect(&commande_, &Commande::change, this, &VueTarifs::actualiser);
     connect(&verifications_, &Verifications::change, this, &VueTarifs::actualiser);
@@ -140,10 +142,9 @@ void VueTarifs::actualiser()
     if (!isVisible())
         return; // up to date again when it shows
     const QDate jour = aujourdhui_();
-    const auto suivants = catalogue_.tarifsAVenir(jour);
-    offrirLeChoix(suivants);
-    const TarifsColissimo tarifs = montreLesSuivants_ ? *suivants : catalogue_.tarifs(Format::iso(jour));
-    enTete_->setSousTitre(montreLesSuivants_ ? TextesTarifs::aPartirDu(tarifs) : TextesTarifs::enVigueur(tarifs));
+    const TarifsColissimo tarifs = choix_->tarifs(catalogue_, jour);
+    enTete_->setSousTitre(choix_->montreLesSuivants() ? TextesTarifs::aPartirDu(tarifs)
+                                                      : TextesTarifs::enVigueur(tarifs));
     laPoste_->montrer(TextesVerifications::laPoste(verifications_, catalogue_, jour));
     paypal_->montrer(TextesVerifications::paypal(verifications_, catalogue_));
 
@@ -161,29 +162,6 @@ void VueTarifs::actualiser()
     sections_->insertWidget(1, tableaux_);
     tableaux_->show(); // what joins a window already shown would wait for its turn
     delete avant;
-}
-
-void VueTarifs::offrirLeChoix(const std::optional<TarifsColissimo> &suivants)
-{
-    const QString offert = suivants ? TextesTarifs::aPartirDu(*suivants) : QString();
-    if (offert == choixOffert_)
-        return;
-    choixOffert_ = offert;
-    montreLesSuivants_ = false;
-    if (auto *ancien = std::exchange(choix_, nullptr)) {
-        ancien->hide();
-        ancien->deleteLater(); // it may be the one that was just clicked
-    }
-    if (!suivants)
-        return;
-    choix_ = new ChoixSegmente({tr("En vigueur"), offert}, {.police = font()});
-    enTete_->ajouter(choix_);
-    connect(choix_, &ChoixSegmente::choisi, this, [this](int indice) {
-        montreLesSuivants_ = indice == 1;
-        actualiser();
-    });
-    choix_->montrer(0);
-    choix_->show();
 }
 
 // Another day may have come since the screen was last seen.

@@ -6,7 +6,7 @@
 #include <QWidget>
 
 class Catalogue;
-class ChoixSegmente;
+class ChoixTarifs;
 class Commande;
 class EnTete;
 class LigneVerification;
@@ -28,16 +28,13 @@ protected:
 private:
     QWidget *controles();
     void actualiser();
-    void offrirLeChoix(const std::optional<TarifsColissimo> &suivants);
 
     Catalogue &catalogue_;
     const Commande &commande_;
     Verifications &verifications_;
     Aujourdhui aujourdhui_;
     EnTete *enTete_;
-    ChoixSegmente *choix_ = nullptr; // null without a next schedule
-    QString choixOffert_;            // its second option
-    bool montreLesSuivants_ = false;
+    ChoixTarifs *choix_;
     LigneVerification *laPoste_;
     LigneVerification *paypal_;
     QVBoxLayout *sections_ = nullptr;

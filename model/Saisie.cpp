@@ -1,0 +1,83 @@
+#include "model/Saisie.h"
+
+#include "model/Format.h"
+
+#include <QLocale>
+
+#include <algorithm>
+
+namespace {
+
+QString sansEspaces(QString texte)
+{
+    texte.removeIf([](QChar c) { return c.isSpace(); });
+    return texte;
+}
+
+bool queDesChiffres(const QString &texte)
+{
+    return std::ranges::all_of(texte, [](QChar c) { return c >= u'0' && c <= u'9'; });
+}
+
+bool estNegatif(const QString &texte)
+{
+    return texte.startsWith(u'-') || texte.startsWith(u'\u2212');
+}
+
+// None above what a data file may hold.
+template <typename Unite>
+std::optional<Quantite<Unite>> quantite(const QString &chiffres)
+{
+    bool tient = false;
+    const qint64 valeur = chiffres.toLongLong(&tient);
+    return tient && valeur <= Unite::maximum ? std::optional(Quantite<Unite>{valeur}) : std::nullopt;
+}
+
+} // namespace
+
+Saisie::Lecture<Centimes> Saisie::prix(const QString &texte)
+{
+    QString saisi = sansEspaces(texte).replace(u'.', u',');
+    if (saisi.endsWith(u'€'))
+        saisi.chop(1);
+    if (saisi.isEmpty())
+        return Refus{QStringLiteral("Il faut un prix.")};
+    if (estNegatif(saisi))
+        return Refus{QStringLiteral("Un prix ne peut pas être négatif.")};
+    const QString euros = saisi.section(u',', 0, 0);
+    const QString decimales = saisi.section(u',', 1);
+    if (!queDesChiffres(euros + decimales) || (euros + decimales).isEmpty())
+        return Refus{QStringLiteral("Un prix s’écrit en chiffres, comme 18,50.")};
+    if (decimales.size() > 2)
+        return Refus{QStringLiteral("Deux décimales au plus, comme 18,50.")};
+    if (const auto prix = quantite<UniteCentime>(euros + decimales.leftJustified(2, u'0')))
+        return *prix;
+    return Refus{QStringLiteral("Un prix va jusqu’à %1.").arg(Format::euros(Centimes{UniteCentime::maximum}))};
+}
+
+Saisie::Lecture<std::optional<Grammes>> Saisie::poids(const QString &texte)
+{
+    QString saisi = sansEspaces(texte);
+    if (saisi.endsWith(u'g', Qt::CaseInsensitive) && !saisi.endsWith(QStringLiteral("kg"), Qt::CaseInsensitive))
+        saisi.chop(1);
+    if (saisi.isEmpty())
+        return std::optional<Grammes>();
+    if (estNegatif(saisi))
+        return Refus{QStringLiteral("Un poids ne peut pas être négatif.")};
+    if (!queDesChiffres(saisi))
+        return Refus{QStringLiteral("Un poids s’écrit en grammes entiers, comme 355.")};
+    if (const auto poids = quantite<UniteGramme>(saisi))
+        return poids;
+    return Refus{QStringLiteral("Un poids va jusqu’à %1.").arg(Format::poids(Grammes{UniteGramme::maximum}))};
+}
+
+QString Saisie::ecrit(Centimes prix)
+{
+    return Format::montant(prix);
+}
+
+QString Saisie::ecrit(const std::optional<Grammes> &poids)
+{
+    static const QLocale francais(QLocale::French, QLocale::France);
+    return poids ? francais.toString(poids->valeur()) : QString();
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "model/Quantite.h"
+
+#include <QString>
+
+#include <optional>
+#include <variant>
+
+// What a seller typed into a field, read as a quantity, or the sentence that refuses it.
+namespace Saisie {
+
+struct Refus
+{
+    QString raison;
+};
+
+template <typename T>
+using Lecture = std::variant<T, Refus>;
+
+// Euros with comma or point, at most two decimals: "18,5", "1 234.50 €".
+Lecture<Centimes> prix(const QString &texte);
+// Whole grams; nothing typed: not weighed.
+Lecture<std::optional<Grammes>> poids(const QString &texte);
+
+// How the field shows them: "18,50", "1 250".
+QString ecrit(Centimes prix);
+QString ecrit(const std::optional<Grammes> &poids);
+
+} // namespace Saisie

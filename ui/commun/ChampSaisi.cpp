@@ -1,0 +1,86 @@
+#include "ui/commun/ChampSaisi.h"
+
+#include "ui/commun/Alerte.h"
+#include "ui/commun/Libelle.h"
+#include "ui/commun/LigneDeTexte.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+ChampSaisi::ChampSaisi(const QString &libelle, const Unite &unite, Refus refus, QWidget *parent)
+    : QWidget(parent), refus_(std::move(refus)), champ_(new LigneDeTexte), alerte_(new Alerte)
+{
+    auto *titre = new Libelle(libelle);
+    titre->setBuddy(champ_);
+    auto *mesure = new Libelle(unite.symbole, Libelle::Rang::secondaire);
+    mesure->setFixedWidth(mesure->fontMetrics().horizontalAdvance(u'€') + 4); // fields line up whatever their unit
+    champ_->setAlignment(Qt::AlignRight);
+    champ_->setFixedWidth(champ_->fontMetrics().horizontalAdvance(QStringLiteral("99 999,99")) + 32);
+    champ_->setAccessibleName(tr("%1, en %2").arg(libelle, unite.nom));
+    champ_->installEventFilter(this);
+    connect(champ_, &QLineEdit::textEdited, this, [this](const QString &texte) { alerte_->montrer(refus_(texte)); });
+    connect(champ_, &QLineEdit::returnPressed, this, [this] {
+        conclure();
+        champ_->selectAll();
+    });
+
+    auto *rangee = new QHBoxLayout;
+    rangee->setSpacing(8);
+    rangee->addWidget(titre, 1);
+    rangee->addWidget(champ_);
+    rangee->addWidget(mesure);
+    auto *colonne = new QVBoxLayout(this);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(4);
+    colonne->addLayout(rangee);
+    colonne->addWidget(alerte_);
+}
+
+void ChampSaisi::setInvite(const QString &invite)
+{
+    champ_->setPlaceholderText(invite);
+}
+
+void ChampSaisi::montrer(const QString &valeur)
+{
+    if (valeur == valeur_)
+        return;
+    valeur_ = valeur;
+    oublier();
+}
+
+void ChampSaisi::oublier()
+{
+    champ_->setText(valeur_);
+    alerte_->montrer({});
+}
+
+void ChampSaisi::conclure()
+{
+    const QString texte = champ_->text();
+    if (texte == valeur_)
+        return;
+    champ_->setText(valeur_); // until somebody shows another
+    const QString refus = refus_(texte);
+    alerte_->montrer(refus);
+    if (refus.isEmpty())
+        emit saisi(texte);
+}
+
+bool ChampSaisi::eventFilter(QObject *objet, QEvent *evenement)
+{
+    if (evenement->type() == QEvent::FocusOut
+        && static_cast<QFocusEvent *>(evenement)->reason() != Qt::PopupFocusReason)
+        conclure();
+    if (evenement->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(evenement)->key() == Qt::Key_Escape)
+        oublier();
+    return QWidget::eventFilter(objet, evenement);
+}
+
+// The window may close with the focus still in the field.
+void ChampSaisi::hideEvent(QHideEvent *evenement)
+{
+    QWidget::hideEvent(evenement);
+    conclure();
+}

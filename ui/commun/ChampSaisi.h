@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QWidget>
+
+#include <functional>
+
+class Alerte;
+class Libelle;
+class LigneDeTexte;
+
+// A labelled value that is taken when the typist leaves the field or presses Enter. What is refused is said under the
+// field while it is typed, and the last good value comes back; Escape brings it back too.
+class ChampSaisi : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // `refus` says why a text is refused; empty: it is not.
+    using Refus = std::function<QString(const QString &)>;
+
+    struct Unite
+    {
+        QString symbole; // behind the field: "€"
+        QString nom;     // as it is spoken: "euros"
+    };
+
+    ChampSaisi(const QString &libelle, const Unite &unite, Refus refus, QWidget *parent = nullptr);
+
+    void setInvite(const QString &invite); // what an empty field means
+    // Leaves what is being typed alone while the value stays the same.
+    void montrer(const QString &valeur);
+    // Gives up what is being typed, and what was said of it.
+    void oublier();
+
+signals:
+    void saisi(const QString &texte);
+
+protected:
+    bool eventFilter(QObject *objet, QEvent *evenement) override;
+    void hideEvent(QHideEvent *evenement) override;
+
+private:
+    void conclure();
+
+    Refus refus_;
+    QString valeur_; // as shown
+    LigneDeTexte *champ_;
+    Alerte *alerte_;
+};

@@ -1,0 +1,203 @@
+#include "ui/livres/FicheLivre.h"
+
+#include "model/Saisie.h"
+#include "ui/Theme.h"
+#include "ui/commande/DessinCouverture.h"
+#include "ui/commande/ImagesCouvertures.h"
+#include "ui/commun/Boutons.h"
+#include "ui/commun/ChampSaisi.h"
+#include "ui/commun/Formulaire.h"
+#include "ui/commun/Icone.h"
+#include "ui/commun/Interrupteur.h"
+#include "ui/commun/Libelle.h"
+#include "ui/commun/Lien.h"
+#include "ui/commun/TextesLivres.h"
+#include "ui/livres/TableauBoutons.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr QSize couverture(112, 168);
+constexpr int entreSections = 28;
+
+template <typename T>
+QString refus(const Saisie::Lecture<T> &lecture)
+{
+    const auto *refuse = std::get_if<Saisie::Refus>(&lecture);
+    return refuse ? refuse->raison : QString();
+}
+
+Libelle *ligneDiscrete()
+{
+    auto *ligne = new Libelle({}, Libelle::Rang::secondaire);
+    ligne->setFont(Theme::encadre());
+    ligne->setWordWrap(true);
+    return ligne;
+}
+
+} // namespace
+
+// The cover, in grey when the book is sold out.
+class FicheLivre::Image : public QWidget
+{
+public:
+    explicit Image(ImagesCouvertures &images) : images_(images)
+    {
+        setFixedSize(couverture);
+        connect(&images, &ImagesCouvertures::prete, this, qOverload<>(&QWidget::update));
+    }
+
+    void montrer(const Livre &livre)
+    {
+        livre_ = livre;
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter peintre(this);
+        if (!livre_.disponible)
+            peintre.setOpacity(DessinCouverture::opaciteIndisponible);
+        peintre.drawPixmap(0, 0, DessinCouverture::dessin(livre_, size(), size(), devicePixelRatioF(), images_));
+    }
+
+private:
+    ImagesCouvertures &images_;
+    Livre livre_;
+};
+
+FicheLivre::FicheLivre(ImagesCouvertures &images, QWidget *parent)
+    : QWidget(parent),
+      titre_(new Libelle({})),
+      auteur_(ligneDiscrete()),
+      fabrication_(ligneDiscrete()),
+      disponible_(new Interrupteur),
+      situation_(new Libelle({})),
+      page_(Boutons::deFeuille(tr("Ouvrir la page PayPal"), QStringLiteral("arrow.up.forward.app"))),
+      toutReporter_(Boutons::deFeuille(tr("Tout reporter"))),
+      suivant_(Boutons::deFeuille(tr("Livre suivant à reporter"), QStringLiteral("arrow.right"))),
+      tableau_(new TableauBoutons)
+{
+    auto *colonne = new QVBoxLayout(this);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(entreSections);
+    colonne->addWidget(entete(images));
+    colonne->addWidget(boutonsPaypal());
+    colonne->addStretch(1);
+}
+
+QWidget *FicheLivre::entete(ImagesCouvertures &images)
+{
+    image_ = new Image(images);
+    titre_->setFont(Theme::titreSection());
+    titre_->setWordWrap(true);
+    auto *textes = new QVBoxLayout;
+    textes->setSpacing(2);
+    textes->addWidget(titre_);
+    textes->addWidget(auteur_);
+    textes->addWidget(fabrication_);
+    textes->addSpacing(14);
+    textes->addWidget(reglages());
+    textes->addStretch(1);
+    auto *entete = new QWidget;
+    auto *rangee = new QHBoxLayout(entete);
+    rangee->setContentsMargins(0, 0, 0, 0);
+    rangee->setSpacing(24);
+    rangee->addWidget(image_, 0, Qt::AlignTop);
+    rangee->addLayout(textes, 1);
+    return entete;
+}
+
+QWidget *FicheLivre::reglages()
+{
+    prix_ = new ChampSaisi(tr("Prix"), {QStringLiteral("€"), tr("euros")},
+                           [](const QString &texte) { return refus(Saisie::prix(texte)); });
+    poids_ = new ChampSaisi(tr("Poids"), {QStringLiteral("g"), tr("grammes")},
+                            [](const QString &texte) { return refus(Saisie::poids(texte)); });
+    poids_->setInvite(tr("à peser"));
+    connect(prix_, &ChampSaisi::saisi, this, [this](const QString &texte) {
+        Livre livre = livre_;
+        livre.prix = std::get<Centimes>(Saisie::prix(texte));
+        emit modification(livre, tr("prix de « %1 »").arg(livre.titre));
+    });
+    connect(poids_, &ChampSaisi::saisi, this, [this](const QString &texte) {
+        Livre livre = livre_;
+        livre.poids = std::get<std::optional<Grammes>>(Saisie::poids(texte));
+        emit modification(livre, tr("poids de « %1 »").arg(livre.titre));
+    });
+    connect(disponible_, &QCheckBox::clicked, this, [this](bool disponible) {
+        Livre livre = livre_;
+        livre.disponible = disponible;
+        emit modification(livre, tr("disponibilité de « %1 »").arg(livre.titre));
+    });
+    auto *groupe = new Formulaire::Groupe;
+    groupe->ajouter(prix_);
+    groupe->ajouter(poids_);
+    groupe->ajouter(new Formulaire::Rangee(tr("Disponible"), disponible_));
+    return groupe;
+}
+
+QWidget *FicheLivre::boutonsPaypal()
+{
+    auto *titre = new Libelle(tr("Boutons PayPal"));
+    titre->setFont(Theme::titreSection());
+    auto *note = new Libelle(tr("Le livre envoyé seul, dans l’emballage habituel. Frais PayPal non compris."),
+                             Libelle::Rang::secondaire);
+    note->setFont(Theme::legende());
+    note->setWordWrap(true);
+    situation_->setWordWrap(true);
+    connect(page_, &QPushButton::clicked, this, [this] { Lien::ouvrir(*livre_.lienPaypal, this); });
+    connect(toutReporter_, &QPushButton::clicked, this, [this] { emit aReporter(PrixBouton::aReporter(boutons_)); });
+    connect(suivant_, &QPushButton::clicked, this, &FicheLivre::livreSuivant);
+    connect(tableau_, &TableauBoutons::reporter, this, [this](int rang) { emit aReporter({boutons_[rang]}); });
+    connect(tableau_, &TableauBoutons::garder, this, [this](int rang) { emit aGarder(boutons_[rang]); });
+    connect(tableau_, &TableauBoutons::termine, suivant_, qOverload<>(&QWidget::setFocus));
+
+    auto *tete = new QHBoxLayout;
+    tete->addWidget(titre, 1);
+    tete->addWidget(page_);
+    auto *etat = new QHBoxLayout;
+    etat->addWidget(situation_, 1);
+    etat->addWidget(toutReporter_);
+    etat->addWidget(suivant_);
+    auto *section = new QWidget;
+    auto *colonne = new QVBoxLayout(section);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(10);
+    colonne->addLayout(tete);
+    colonne->addLayout(etat);
+    colonne->addWidget(tableau_);
+    colonne->addWidget(note);
+    return section;
+}
+
+void FicheLivre::montrer(const Livre &livre, const QList<PrixBouton> &boutons, const TarifsColissimo &tarifs,
+                         bool suivant)
+{
+    const bool unAutre = livre.id != livre_.id;
+    livre_ = livre;
+    boutons_ = boutons;
+    image_->montrer(livre);
+    titre_->setText(livre.titreComplet);
+    auteur_->setText(TextesLivres::origine(livre));
+    fabrication_->setText(TextesLivres::edition(livre));
+    prix_->montrer(Saisie::ecrit(livre.prix));
+    poids_->montrer(Saisie::ecrit(livre.poids));
+    if (unAutre) {
+        prix_->oublier();
+        poids_->oublier();
+    }
+    disponible_->setChecked(livre.disponible);
+    page_->setVisible(livre.lienPaypal.has_value());
+
+    const qsizetype enAttente = PrixBouton::aReporter(boutons).size();
+    situation_->setText(TextesBoutons::situation(livre, enAttente));
+    suivant_->setVisible(enAttente == 0 && suivant);
+    tableau_->montrer(TextesBoutons::lignes(boutons, livre, tarifs));
+    toutReporter_->setVisible(enAttente > 0);
+}

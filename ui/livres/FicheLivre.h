@@ -1,0 +1,54 @@
+#pragma once
+
+#include "model/Livre.h"
+#include "model/PrixBouton.h"
+#include "model/Tarifs.h"
+
+#include <QWidget>
+
+class ChampSaisi;
+class ImagesCouvertures;
+class Interrupteur;
+class Libelle;
+class QPushButton;
+class TableauBoutons;
+
+// One book: its price, weight and availability to edit, and its PayPal buttons to keep in step.
+class FicheLivre : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FicheLivre(ImagesCouvertures &images, QWidget *parent = nullptr);
+
+    // `suivant` tells whether another book has prices to report.
+    void montrer(const Livre &livre, const QList<PrixBouton> &boutons, const TarifsColissimo &tarifs, bool suivant);
+
+signals:
+    // The book as it should become, and what that does: "prix de « Le Phare de sel »".
+    void modification(const Livre &livre, const QString &geste);
+    void aReporter(const QList<PrixBouton> &boutons);
+    void aGarder(const PrixBouton &bouton);
+    void livreSuivant();
+
+private:
+    QWidget *entete(ImagesCouvertures &images);
+    QWidget *reglages();
+    QWidget *boutonsPaypal();
+
+    Livre livre_;
+    QList<PrixBouton> boutons_;
+    class Image;
+    Image *image_ = nullptr;
+    Libelle *titre_;
+    Libelle *auteur_;
+    Libelle *fabrication_;
+    ChampSaisi *prix_ = nullptr;
+    ChampSaisi *poids_ = nullptr;
+    Interrupteur *disponible_;
+    Libelle *situation_; // of the buttons, in a line
+    QPushButton *page_;
+    QPushButton *toutReporter_;
+    QPushButton *suivant_;
+    TableauBoutons *tableau_;
+};

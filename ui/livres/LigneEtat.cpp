@@ -1,0 +1,64 @@
+#include "ui/livres/LigneEtat.h"
+
+#include "ui/Theme.h"
+#include "ui/commun/Icone.h"
+
+#include <QPainter>
+
+namespace {
+
+constexpr int coteSymbole = 16;
+constexpr int espace = 6;
+
+QString symbole(PrixBouton::Etat etat)
+{
+    switch (etat) {
+    case PrixBouton::Etat::sansPrix:
+        return QStringLiteral("minus");
+    case PrixBouton::Etat::aJour:
+        return QStringLiteral("checkmark.circle");
+    case PrixBouton::Etat::garde:
+        return QStringLiteral("bookmark");
+    case PrixBouton::Etat::aReporter:
+        return QStringLiteral("arrow.right");
+    }
+    Q_UNREACHABLE();
+}
+
+QColor couleur(PrixBouton::Etat etat, const QPalette &palette)
+{
+    switch (etat) {
+    case PrixBouton::Etat::aJour:
+        return Theme::accentTexte(palette);
+    case PrixBouton::Etat::aReporter:
+        return Theme::orange(palette);
+    default:
+        return Theme::secondaire(palette);
+    }
+}
+
+} // namespace
+
+LigneEtat::LigneEtat(QWidget *parent) : Libelle({}, Rang::secondaire, parent)
+{
+    setFont(Theme::enGras(Theme::encadre(), QFont::Medium));
+    setContentsMargins(coteSymbole + espace, 0, 0, 0);
+    setWordWrap(true);
+}
+
+void LigneEtat::montrer(PrixBouton::Etat etat, const QString &enMots)
+{
+    etat_ = etat;
+    setText(enMots);
+    setRang(etat == PrixBouton::Etat::aReporter ? Rang::principal : Rang::secondaire);
+    update();
+}
+
+void LigneEtat::paintEvent(QPaintEvent *evenement)
+{
+    Libelle::paintEvent(evenement);
+    QPainter peintre(this);
+    const int premiereLigne = (height() - heightForWidth(width())) / 2 + fontMetrics().height() / 2;
+    Icone::peindre(peintre, symbole(etat_), QRectF(0, premiereLigne - coteSymbole / 2.0, coteSymbole, coteSymbole),
+                   couleur(etat_, palette()));
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "model/PrixBouton.h"
+#include "ui/commun/Libelle.h"
+
+// The state of a PayPal button, in words behind its symbol.
+class LigneEtat : public Libelle
+{
+    Q_OBJECT
+
+public:
+    explicit LigneEtat(QWidget *parent = nullptr);
+    void montrer(PrixBouton::Etat etat, const QString &enMots);
+
+protected:
+    void paintEvent(QPaintEvent *evenement) override;
+
+private:
+    PrixBouton::Etat etat_ = PrixBouton::Etat::sansPrix;
+};

@@ -1,0 +1,167 @@
+#include "ui/livres/RangeeBouton.h"
+
+#include "ui/Theme.h"
+#include "ui/commun/BoutonCopier.h"
+#include "ui/commun/Boutons.h"
+#include "ui/commun/Chiffres.h"
+#include "ui/commun/LibelleChiffre.h"
+#include "ui/livres/LigneEtat.h"
+
+#include <QApplication>
+#include <QGridLayout>
+#include <QPushButton>
+
+#include <memory>
+
+namespace {
+
+enum Colonne { destination, actuel, calcule, copie, etat };
+
+constexpr int margeVerticale = 9;
+constexpr int entreActions = 6;
+constexpr int largeurMinimaleDuNom = 96; // of a destination
+
+QFont policeDuPrix()
+{
+    return Theme::enGras(QApplication::font(), QFont::Medium);
+}
+
+QString texteReporter()
+{
+    return RangeeBouton::tr("Reporter");
+}
+
+QString texteGarder()
+{
+    return RangeeBouton::tr("Garder");
+}
+
+QPushButton *action(const QString &texte)
+{
+    QPushButton *action = Boutons::deFeuille(texte);
+    action->setFont(Theme::encadre());
+    action->setFixedWidth(action->fontMetrics().horizontalAdvance(texte) + 24);
+    return action;
+}
+
+int largeurDesActions()
+{
+    const std::unique_ptr<QPushButton> reporter(action(texteReporter()));
+    const std::unique_ptr<QPushButton> garder(action(texteGarder()));
+    return reporter->width() + entreActions + garder->width();
+}
+
+// A cell of the grid, its lines centred one above the other.
+QWidget *cellule(const QList<QWidget *> &lignes, int espace)
+{
+    auto *cellule = new QWidget;
+    auto *colonne = new QVBoxLayout(cellule);
+    colonne->setContentsMargins(0, margeVerticale, 0, margeVerticale);
+    colonne->setSpacing(espace);
+    colonne->addStretch(1);
+    for (QWidget *ligne : lignes)
+        colonne->addWidget(ligne);
+    colonne->addStretch(1);
+    return cellule;
+}
+
+} // namespace
+
+void RangeeBouton::placerLesTetes(QGridLayout &grille)
+{
+    const auto tete = [&grille](Colonne colonne, const QString &texte, Qt::Alignment cote) {
+        auto *libelle = new Libelle(texte, Libelle::Rang::secondaire);
+        libelle->setFont(Theme::enGras(Theme::encadre()));
+        libelle->setContentsMargins(0, margeVerticale, 0, margeVerticale);
+        grille.addWidget(libelle, 0, colonne, cote);
+    };
+    tete(destination, tr("Destination"), Qt::AlignLeft);
+    tete(actuel, tr("Actuel"), Qt::AlignRight);
+    tete(calcule, tr("Calculé"), Qt::AlignRight);
+    tete(etat, tr("État"), Qt::AlignLeft);
+    grille.setColumnStretch(destination, 1);
+    // Columns stand still from one book to the next.
+    const int prix = Chiffres::largeur(QFontMetrics(policeDuPrix()), QStringLiteral("000,00 €"));
+    grille.setColumnMinimumWidth(destination, largeurMinimaleDuNom);
+    grille.setColumnMinimumWidth(actuel, prix);
+    grille.setColumnMinimumWidth(calcule, prix);
+    grille.setColumnMinimumWidth(etat, largeurDesActions());
+}
+
+RangeeBouton::RangeeBouton(QGridLayout &grille, int ligne, QObject *parent)
+    : QObject(parent),
+      destination_(new Libelle({})),
+      palier_(new Libelle({}, Libelle::Rang::secondaire)),
+      actuel_(new LibelleChiffre),
+      calcule_(new LibelleChiffre),
+      ecart_(new LibelleChiffre({}, Libelle::Rang::secondaire)),
+      copier_(new BoutonCopier),
+      etat_(new LigneEtat),
+      reporter_(action(texteReporter())),
+      garder_(action(texteGarder()))
+{
+    destination_->setWordWrap(true);
+    palier_->setWordWrap(true);
+    palier_->setFont(Theme::legende());
+    calcule_->setFont(policeDuPrix());
+    ecart_->setFont(Theme::legende());
+    copier_->setToolTip(tr("Copier le prix calculé"));
+
+    auto *actions = new QWidget;
+    auto *boutons = new QHBoxLayout(actions);
+    boutons->setContentsMargins(0, 0, 0, 0);
+    boutons->setSpacing(entreActions);
+    boutons->addWidget(reporter_);
+    boutons->addWidget(garder_);
+    boutons->addStretch(1);
+
+    cellules_ = {cellule({destination_, palier_}, 2), cellule({actuel_}, 0), cellule({calcule_, ecart_}, 2), copier_,
+                 cellule({etat_, actions}, 5)};
+    for (int colonne = 0; colonne < cellules_.size(); ++colonne)
+        grille.addWidget(cellules_[colonne], ligne, colonne, colonne == copie ? Qt::AlignVCenter : Qt::Alignment());
+    connect(reporter_, &QPushButton::clicked, this, &RangeeBouton::reporter);
+    connect(garder_, &QPushButton::clicked, this, &RangeeBouton::garder);
+}
+
+void RangeeBouton::montrer(const TextesBoutons::Ligne &ligne)
+{
+    aReporter_ = ligne.etat == PrixBouton::Etat::aReporter;
+    destination_->setText(ligne.destination);
+    palier_->setText(ligne.palier);
+    palier_->setVisible(!ligne.palier.isEmpty());
+    actuel_->setText(ligne.actuel);
+    calcule_->setText(ligne.calcule);
+    ecart_->setText(ligne.ecart);
+    ecart_->setVisible(!ligne.ecart.isEmpty());
+    etat_->montrer(ligne.etat, ligne.etatEnMots);
+    copier_->setValeur(ligne.aCopier);
+    copier_->setEnabled(!ligne.aCopier.isEmpty());
+    reporter_->setVisible(aReporter_ || ligne.etat == PrixBouton::Etat::garde);
+    garder_->setVisible(aReporter_);
+    reporter_->parentWidget()->setVisible(!reporter_->isHidden());
+
+    // A screen reader hears the row with the figure to copy.
+    actuel_->setAccessibleName(tr("Actuel : %1").arg(ligne.actuel));
+    calcule_->setAccessibleName(tr("Calculé : %1").arg(ligne.calcule));
+    copier_->setAccessibleName(tr("Copier %1, %2, %3").arg(ligne.aCopier, ligne.destination, ligne.etatEnMots));
+    reporter_->setToolTip(tr("Le bouton PayPal demande maintenant %1").arg(ligne.calcule));
+    reporter_->setAccessibleName(tr("Reporter, %1").arg(ligne.destination));
+    garder_->setToolTip(tr("Le bouton PayPal garde son prix, tant que le calcul donne %1").arg(ligne.calcule));
+    garder_->setAccessibleName(tr("Garder, %1").arg(ligne.destination));
+}
+
+void RangeeBouton::setVisible(bool visible)
+{
+    for (QWidget *cellule : cellules_)
+        cellule->setVisible(visible);
+}
+
+bool RangeeBouton::aLeFocus() const
+{
+    return copier_->hasFocus() || reporter_->hasFocus() || garder_->hasFocus();
+}
+
+void RangeeBouton::prendreLeFocus()
+{
+    copier_->setFocus();
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "ui/livres/TextesBoutons.h"
+
+#include <QWidget>
+
+class BoutonCopier;
+class Libelle;
+class LigneEtat;
+class QGridLayout;
+class QPushButton;
+
+// One PayPal button of a book, as a row of a grid: what it charges, what it should charge, and what to do about it.
+class RangeeBouton : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Row 0: the heads of the columns.
+    static void placerLesTetes(QGridLayout &grille);
+
+    RangeeBouton(QGridLayout &grille, int ligne, QObject *parent);
+    void montrer(const TextesBoutons::Ligne &ligne);
+    void setVisible(bool visible);
+    [[nodiscard]] int haut() const { return cellules_.first()->y(); }
+    [[nodiscard]] bool aReporter() const { return aReporter_; }
+    // Whether the focus is on one of its controls.
+    [[nodiscard]] bool aLeFocus() const;
+    void prendreLeFocus();
+
+signals:
+    void reporter();
+    void garder();
+
+private:
+    bool aReporter_ = false;
+    QList<QWidget *> cellules_;
+    Libelle *destination_;
+    Libelle *palier_;
+    Libelle *actuel_;
+    Libelle *calcule_;
+    Libelle *ecart_;
+    BoutonCopier *copier_;
+    LigneEtat *etat_;
+    QPushButton *reporter_;
+    QPushButton *garder_;
+};

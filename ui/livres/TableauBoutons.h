@@ -1,0 +1,35 @@
+#pragma once
+
+#include "ui/livres/TextesBoutons.h"
+
+#include <QWidget>
+
+class QGridLayout;
+class RangeeBouton;
+
+// A book's PayPal buttons, one row a destination, in a raised group.
+class TableauBoutons : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit TableauBoutons(QWidget *parent = nullptr);
+    void montrer(const QList<TextesBoutons::Ligne> &lignes);
+
+signals:
+    // The row's place in what was last shown.
+    void reporter(int rang);
+    void garder(int rang);
+    // The last row that waited for the seller was dealt with.
+    void termine();
+
+protected:
+    void paintEvent(QPaintEvent *evenement) override;
+
+private:
+    [[nodiscard]] qsizetype rangeeTraitee(const QList<TextesBoutons::Ligne> &lignes) const;
+
+    QGridLayout *grille_;
+    QList<RangeeBouton *> rangees_;
+    QList<TextesBoutons::Ligne> lignes_; // as shown
+};

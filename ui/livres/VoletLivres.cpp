@@ -1,0 +1,171 @@
+#include "ui/livres/VoletLivres.h"
+
+#include "ui/Theme.h"
+#include "ui/commande/ImagesCouvertures.h"
+#include "ui/commun/Choix.h"
+#include "ui/commun/ChoixSegmente.h"
+#include "ui/commun/EtatVide.h"
+#include "ui/commun/Icone.h"
+#include "ui/commun/LigneDeTexte.h"
+#include "ui/commun/NomsVendeurs.h"
+#include "ui/livres/DelegueLivres.h"
+#include "ui/livres/ModeleLivres.h"
+
+#include <QAction>
+#include <QListView>
+#include <QScrollBar>
+#include <QStackedWidget>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int marge = 20;
+
+// The margins belong to the list: its scroll bar stands at the edge of the pane.
+class Liste : public QListView
+{
+public:
+    Liste() { setViewportMargins(marge, 0, marge - style()->pixelMetric(QStyle::PM_ScrollBarExtent), 0); }
+};
+
+QString cle(FiltreLivres::Etat etat)
+{
+    return QString::number(static_cast<int>(etat));
+}
+
+} // namespace
+
+VoletLivres::VoletLivres(const Catalogue &catalogue, ImagesCouvertures &images, QWidget *parent)
+    : QWidget(parent),
+      modele_(new ModeleLivres(catalogue, this)),
+      recherche_(new LigneDeTexte),
+      liste_(new Liste),
+      place_(new QStackedWidget)
+{
+    liste_->setModel(modele_);
+    liste_->setItemDelegate(new DelegueLivres(*modele_, images, liste_));
+    liste_->setAccessibleName(tr("Livres"));
+    liste_->setFrameShape(QFrame::NoFrame);
+    liste_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    liste_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    liste_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    liste_->verticalScrollBar()->setSingleStep(40);
+    liste_->viewport()->setAutoFillBackground(false);
+    connect(&images, &ImagesCouvertures::prete, liste_->viewport(), qOverload<>(&QWidget::update));
+    connect(liste_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex &indice) {
+        if (!indice.isValid())
+            return; // the list is being filled again
+        choisi_ = modele_->livre(indice.row()).id;
+        emit change();
+    });
+    connect(modele_, &QAbstractItemModel::modelReset, this, &VoletLivres::seReplacer);
+
+    place_->addWidget(liste_);
+    place_->addWidget(new EtatVide(QStringLiteral("magnifyingglass"), tr("Aucun livre"),
+                                   tr("Aucun livre ne répond à la recherche et aux filtres.")));
+    auto *colonne = new QVBoxLayout(this);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(0);
+    colonne->addWidget(filtres());
+    colonne->addWidget(place_, 1);
+    seReplacer();
+}
+
+QWidget *VoletLivres::filtres()
+{
+    recherche_->setPlaceholderText(tr("Titre, auteur, ISBN"));
+    recherche_->setAccessibleName(tr("Chercher un livre"));
+    recherche_->setClearButtonEnabled(true);
+    recherche_->addAction(Icone::icone(QStringLiteral("magnifyingglass")), QLineEdit::LeadingPosition);
+    QStringList vendeurs{tr("Tous")};
+    for (const auto &[vendeur, brut] : Json::valeursBrutes<Vendeur>)
+        vendeurs.append(NomsVendeurs::court(vendeur));
+    auto *vendeur = new ChoixSegmente(vendeurs, {.police = Theme::encadre(), .hauteur = 26});
+    vendeur->setAccessibleName(tr("Vendeur"));
+    vendeur->montrer(0);
+    auto *etat = new Choix;
+    etat->setAccessibleName(tr("État"));
+    etat->ajouter(tr("Tous les livres"), cle(FiltreLivres::Etat::tous));
+    etat->ajouter(tr("À reporter"), cle(FiltreLivres::Etat::aReporter));
+    etat->ajouter(tr("À peser"), cle(FiltreLivres::Etat::aPeser));
+    etat->ajouter(tr("Épuisés"), cle(FiltreLivres::Etat::epuises));
+
+    connect(recherche_, &QLineEdit::textChanged, this, [this](const QString &texte) {
+        filtre_.recherche = texte;
+        filtrer();
+    });
+    connect(vendeur, &ChoixSegmente::choisi, this, [this](int choisi) {
+        filtre_.vendeur = choisi == 0 ? std::nullopt : std::optional(Json::valeursBrutes<Vendeur>[choisi - 1].cas);
+        filtrer();
+    });
+    connect(etat, &Choix::choisi, this, [this](const QString &choisi) {
+        filtre_.etat = static_cast<FiltreLivres::Etat>(choisi.toInt());
+        filtrer();
+    });
+
+    auto *filtres = new QWidget;
+    auto *colonne = new QVBoxLayout(filtres);
+    colonne->setContentsMargins(marge, 16, marge, 4);
+    colonne->setSpacing(8);
+    colonne->addWidget(recherche_);
+    colonne->addWidget(vendeur);
+    colonne->addWidget(etat);
+    return filtres;
+}
+
+void VoletLivres::setTarifs(const TarifsColissimo &tarifs)
+{
+    modele_->setTarifs(tarifs);
+}
+
+const Livre *VoletLivres::choisi() const
+{
+    const QModelIndex indice = liste_->currentIndex();
+    return indice.isValid() ? &modele_->livre(indice.row()) : nullptr;
+}
+
+void VoletLivres::choisir(qint64 id)
+{
+    modele_->retenir(id);
+    if (const auto rang = modele_->rang(id))
+        liste_->setCurrentIndex(modele_->index(*rang));
+}
+
+qsizetype VoletLivres::aReporter() const
+{
+    return modele_->aReporter();
+}
+
+bool VoletLivres::aUnSuivant() const
+{
+    return modele_->suivantAReporter(liste_->currentIndex().row()).has_value();
+}
+
+void VoletLivres::passerAuSuivant()
+{
+    if (const auto suivant = modele_->suivantAReporter(liste_->currentIndex().row()))
+        liste_->setCurrentIndex(modele_->index(*suivant));
+}
+
+void VoletLivres::chercher()
+{
+    recherche_->setFocus(Qt::ShortcutFocusReason);
+    recherche_->selectAll();
+}
+
+void VoletLivres::filtrer()
+{
+    modele_->setFiltre(filtre_);
+}
+
+// The list was filled again: the same book when it is still there, else the first one.
+void VoletLivres::seReplacer()
+{
+    const bool vide = modele_->rowCount() == 0;
+    place_->setCurrentIndex(vide ? 1 : 0);
+    if (vide)
+        emit change();
+    else
+        liste_->setCurrentIndex(modele_->index(modele_->rang(choisi_).value_or(0)));
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "model/Tarifs.h"
+#include "ui/livres/FiltreLivres.h"
+
+#include <QWidget>
+
+class Catalogue;
+class EtatVide;
+class ImagesCouvertures;
+class ModeleLivres;
+class QLineEdit;
+class QListView;
+class QStackedWidget;
+
+// The list of books, with what narrows it down: words, seller, state.
+class VoletLivres : public QWidget
+{
+    Q_OBJECT
+
+public:
+    VoletLivres(const Catalogue &catalogue, ImagesCouvertures &images, QWidget *parent = nullptr);
+
+    void setTarifs(const TarifsColissimo &tarifs);
+    // The book chosen in the list; null when the list is empty.
+    [[nodiscard]] const Livre *choisi() const;
+    // Whatever the filters say.
+    void choisir(qint64 id);
+    // How many buttons of the whole catalogue wait for a new price.
+    [[nodiscard]] qsizetype aReporter() const;
+    // Whether another book of the list has prices to report; goes to it.
+    [[nodiscard]] bool aUnSuivant() const;
+    void passerAuSuivant();
+    void chercher();
+
+signals:
+    // Another book, or none.
+    void change();
+
+private:
+    QWidget *filtres();
+    void filtrer();
+    void seReplacer();
+
+    FiltreLivres filtre_;
+    ModeleLivres *modele_;
+    QLineEdit *recherche_;
+    QListView *liste_;
+    QStackedWidget *place_;
+    qint64 choisi_ = 0; // id of the book last chosen
+};
