@@ -94,7 +94,7 @@ VueLivres::VueLivres(Catalogue &catalogue, ImagesCouvertures &images, Aujourdhui
 QAction *VueLivres::commande(const QString &symbole, QKeySequence::StandardKey touches)
 {
     auto *action = new QAction(Icone::icone(symbole), {}, this);
-    action->setShortcut(touches);
+    action->setShortcuts(touches);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     addAction(action);
     auto *bouton = new QToolButton;
