@@ -66,7 +66,7 @@ bool Parcours::jouer()
     if (!changerDeDestination(QStringLiteral("Suisse")))
         return false;
     raconter(QStringLiteral("Le même colis vers la Suisse"));
-    if (!Ecran::defiler(&fenetre, QStringLiteral("Copier Description"))
+    if (!Ecran::defiler(&fenetre, QStringLiteral("Copier URL de redirection"))
         || !photographier(QStringLiteral("lien-paypal")))
         return false;
     if (!repondreALAcheteur() || !preparerLesDocuments())
