@@ -6,6 +6,7 @@ paquets=(
     qt6-wayland qt6-translations-l10n
     fonts-inter fonts-linuxlibertine fonts-dejavu-core
     poppler-utils libgumbo-dev
+    python3 desktop-file-utils appstream
 )
 
 # Touches the system only when a package is missing.

@@ -1,0 +1,50 @@
+"""The notes of a version and Debian's changelog, from the shipped metainfo and from one full of markup."""
+
+import os
+import re
+import sys
+import tempfile
+import unittest
+import xml.etree.ElementTree as ET
+from pathlib import Path
+
+PACKAGING = Path(__file__).resolve().parents[2] / "packaging"
+sys.path.insert(0, str(PACKAGING))
+import parution  # noqa: E402
+
+METAINFO = PACKAGING / "org.quillet.Quillet.metainfo.xml"
+HOSTILE = """<component><releases>
+  <release version="2.0" date="2026-12-24"><description>
+    <p>A &lt;b&gt; &amp; ]]&gt;</p><p xml:lang="fr">Le prix &lt;b&gt; &amp; ]]&gt;
+      suit</p><ul><li>One</li><li xml:lang="fr">Un</li></ul>
+  </description></release>
+  <release version="1.0" date="2026-01-02"><description><p>Old</p></description></release>
+</releases></component>"""
+
+
+class Parution(unittest.TestCase):
+    def setUp(self):
+        dossier = tempfile.TemporaryDirectory()
+        self.addCleanup(dossier.cleanup)
+        self.metainfo = os.path.join(dossier.name, "metainfo.xml")
+        Path(self.metainfo).write_text(HOSTILE, encoding="utf-8")
+
+    def test_this_version_has_its_notes_and_heads_the_changelog(self):
+        version = os.environ["QUILLET_VERSION"]
+        for langue in ("fr", None):
+            self.assertTrue(parution.notes(METAINFO, version, langue))
+        self.assertTrue(parution.journal(METAINFO, "A <a@b.example>").startswith(f"quillet ({version}) "))
+
+    def test_notes_are_of_one_version_and_one_language(self):
+        self.assertEqual(parution.notes(self.metainfo, "2.0"), "Le prix <b> & ]]> suit\n• Un")
+        for version in ("1.0", "3.0"):
+            with self.assertRaisesRegex(parution.Refus, re.escape(version)):
+                parution.notes(self.metainfo, version)
+
+    def test_changelog_has_the_day_and_the_form_debian_wants(self):
+        attendu = "  * Old\n\n -- A <a@b.example>  Fri, 02 Jan 2026 00:00:00 +0000\n"
+        self.assertTrue(parution.journal(self.metainfo, "A <a@b.example>").endswith(attendu))
+
+
+if __name__ == "__main__":
+    unittest.main()
