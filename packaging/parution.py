@@ -1,12 +1,16 @@
-"""What a release says of itself: its notes, kept in the metainfo; Debian's changelog is made of them."""
+"""What a release says of itself: its notes, kept in the metainfo, for Debian's changelog and for the appcast."""
 
+import os
 import sys
 import xml.etree.ElementTree as ET
 from datetime import datetime, timezone
 from email.utils import format_datetime
 from textwrap import fill
 
+SPARKLE = "http://www.andymatuschak.org/xml-namespaces/sparkle"
 LANGUE = "{http://www.w3.org/XML/1998/namespace}lang"
+
+ET.register_namespace("sparkle", SPARKLE)
 
 
 class Refus(Exception):
@@ -47,6 +51,53 @@ def journal(metainfo, contact):
             + f"\n\n -- {contact}  {format_datetime(jour)}\n"
         )
     return "\n".join(entrees)
+
+
+def _canal(appcast):
+    return ET.parse(appcast).getroot().find("channel")
+
+
+def refuser_si_parue(appcast, version):
+    if os.path.exists(appcast) and version in (
+        element.text for element in _canal(appcast).iterfind(f"item/{{{SPARKLE}}}version")
+    ):
+        raise Refus(f"La version {version} est déjà dans {appcast}.")
+
+
+def inscrire(appcast, version, notes_de_version, url, longueur, signature):
+    """Puts a version at the head of the appcast, which is made if there is none; an incomplete file is never seen."""
+    refuser_si_parue(appcast, version)
+    if os.path.exists(appcast):
+        canal = _canal(appcast)
+    else:
+        canal = ET.Element("channel")
+        ET.SubElement(canal, "title").text = "Quillet"
+        ET.SubElement(canal, "description").text = "Les mises à jour de Quillet"
+        ET.SubElement(canal, "language").text = "fr"
+    entree = ET.Element("item")
+    ET.SubElement(entree, "title").text = f"Quillet {version}"
+    ET.SubElement(entree, "pubDate").text = format_datetime(datetime.now(timezone.utc))
+    ET.SubElement(entree, f"{{{SPARKLE}}}version").text = version
+    ET.SubElement(entree, f"{{{SPARKLE}}}shortVersionString").text = version
+    ET.SubElement(entree, "description").text = notes_de_version
+    ET.SubElement(
+        entree,
+        "enclosure",
+        {
+            "url": url,
+            "length": str(longueur),
+            "type": "application/vnd.debian.binary-package",
+            f"{{{SPARKLE}}}edSignature": signature,
+        },
+    )
+    rang = next((i for i, element in enumerate(canal) if element.tag == "item"), len(canal))
+    canal.insert(rang, entree)
+    racine = ET.Element("rss", {"version": "2.0"})
+    racine.append(canal)
+    ET.indent(racine)
+    provisoire = f"{appcast}.nouveau"
+    ET.ElementTree(racine).write(provisoire, encoding="utf-8", xml_declaration=True)
+    os.replace(provisoire, appcast)
 
 
 if __name__ == "__main__":

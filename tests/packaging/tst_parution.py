@@ -1,4 +1,4 @@
-"""The notes of a version and Debian's changelog, from the shipped metainfo and from one full of markup."""
+"""The notes of a version, Debian's changelog and the appcast, from the shipped metainfo and from one full of markup."""
 
 import os
 import re
@@ -20,14 +20,19 @@ HOSTILE = """<component><releases>
   </description></release>
   <release version="1.0" date="2026-01-02"><description><p>Old</p></description></release>
 </releases></component>"""
+SPARKLE = "{http://www.andymatuschak.org/xml-namespaces/sparkle}"
 
 
 class Parution(unittest.TestCase):
     def setUp(self):
         dossier = tempfile.TemporaryDirectory()
         self.addCleanup(dossier.cleanup)
+        self.appcast = os.path.join(dossier.name, "appcast.xml")
         self.metainfo = os.path.join(dossier.name, "metainfo.xml")
         Path(self.metainfo).write_text(HOSTILE, encoding="utf-8")
+
+    def inscrire(self, version, notes):
+        parution.inscrire(self.appcast, version, notes, "https://telecharger.example/a.deb", 12, "c2lnbmF0dXJl")
 
     def test_this_version_has_its_notes_and_heads_the_changelog(self):
         version = os.environ["QUILLET_VERSION"]
@@ -44,6 +49,23 @@ class Parution(unittest.TestCase):
     def test_changelog_has_the_day_and_the_form_debian_wants(self):
         attendu = "  * Old\n\n -- A <a@b.example>  Fri, 02 Jan 2026 00:00:00 +0000\n"
         self.assertTrue(parution.journal(self.metainfo, "A <a@b.example>").endswith(attendu))
+
+    def test_appcast_puts_the_newest_first_and_gives_its_text_back(self):
+        self.inscrire("1.0", "Ancienne")
+        self.inscrire("2.0", parution.notes(self.metainfo, "2.0"))
+        entrees = ET.parse(self.appcast).findall("channel/item")
+        self.assertEqual([entree.findtext(SPARKLE + "version") for entree in entrees], ["2.0", "1.0"])
+        self.assertEqual(entrees[0].findtext("description"), "Le prix <b> & ]]> suit\n• Un")
+        enclosure = entrees[0].find("enclosure")
+        self.assertEqual(enclosure.get("length"), "12")
+        self.assertEqual(enclosure.get(SPARKLE + "edSignature"), "c2lnbmF0dXJl")
+
+    def test_a_version_appears_once(self):
+        self.inscrire("1.0", "Ancienne")
+        avant = Path(self.appcast).read_bytes()
+        with self.assertRaises(parution.Refus):
+            self.inscrire("1.0", "Encore")
+        self.assertEqual(Path(self.appcast).read_bytes(), avant)
 
 
 if __name__ == "__main__":
