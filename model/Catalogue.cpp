@@ -2,6 +2,8 @@
 
 #include "model/Format.h"
 
+#include <QThread>
+
 #include <algorithm>
 
 namespace {
@@ -128,6 +130,7 @@ QList<PrixBouton> Catalogue::boutons(const Livre &livre, const TarifsColissimo &
 template <typename T>
 void Catalogue::adopter(T &champ, const T &valeur)
 {
+    Q_ASSERT(QThread::currentThread() == thread());
     if (champ == valeur)
         return;
     champ = valeur;

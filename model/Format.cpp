@@ -118,10 +118,15 @@ QString Format::kilos(Grammes poids)
     return formater(formateur, poids.valeur(), 3);
 }
 
-QString Format::poids(Grammes poids)
+QString Format::grammes(Grammes poids)
 {
     static const LocalizedNumberFormatter formateur = avecDecimales(0);
-    return formater(formateur, poids.valeur(), 0) + QStringLiteral(" g");
+    return formater(formateur, poids.valeur(), 0);
+}
+
+QString Format::poids(Grammes poids)
+{
+    return grammes(poids) + QStringLiteral(" g");
 }
 
 QString Format::palier(Grammes jusqua)

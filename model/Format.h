@@ -12,6 +12,7 @@ QString euros(Centimes montant);        // 1 234,50 €
 QString eurosAnglais(Centimes montant); // €1,234.50
 QString montant(Centimes montant);      // 1 234,50: two decimals, no currency sign
 QString kilos(Grammes poids);           // 1,250: three decimals, no unit
+QString grammes(Grammes poids);         // 1 250: no unit
 QString poids(Grammes poids);           // 1 250 g
 QString palier(Grammes jusqua);         // 2 kg for whole kilograms, else 1500 g: never grouped
 QString pourcentage(Taux taux);         // 3,49 %

@@ -21,7 +21,8 @@ HistoriqueLivres::HistoriqueLivres(Catalogue &catalogue, QObject *parent) : QObj
 
 void HistoriqueLivres::modifier(const Livre &livre, const QString &nom)
 {
-    executer(nom, [this, livre] { catalogue_.modifier({livre}); });
+    if (!catalogue_.livres().contains(livre)) // else a value was typed again: nothing to write
+        executer(nom, [this, livre] { catalogue_.modifier({livre}); });
 }
 
 void HistoriqueLivres::garder(const Livre &livre, const PrixBouton &ligne, const QString &nom)

@@ -3,7 +3,7 @@
 #include "model/Livre.h"
 
 #include <QObject>
-#include <QStringList>
+#include <QString>
 
 #include <functional>
 

@@ -171,7 +171,8 @@ void lire(const QJsonValue &json, const Lieu &lieu, Quantite<Unite> &valeur)
 {
     qint64 nombre = 0;
     lire(json, lieu, nombre);
-    if (nombre < -Unite::maximum || nombre > Unite::maximum)
+    constexpr qint64 borne = 2 * Unite::maximum; // what is written may be a sum: a book and its postage
+    if (nombre < -borne || nombre > borne)
         lieu.refuser(QStringLiteral("valeur hors limites"));
     valeur = Quantite<Unite>{nombre};
 }

@@ -2,8 +2,6 @@
 
 #include "model/Format.h"
 
-#include <QLocale>
-
 #include <algorithm>
 
 namespace {
@@ -78,6 +76,5 @@ QString Saisie::ecrit(Centimes prix)
 
 QString Saisie::ecrit(const std::optional<Grammes> &poids)
 {
-    static const QLocale francais(QLocale::French, QLocale::France);
-    return poids ? francais.toString(poids->valeur()) : QString();
+    return poids ? Format::grammes(*poids) : QString();
 }

@@ -75,6 +75,12 @@ std::optional<Rubrique> ContenuPrincipal::rubrique() const
     return choisies.isEmpty() ? std::nullopt : std::optional(static_cast<Rubrique>(choisies.first().row()));
 }
 
+bool ContenuPrincipal::conclure()
+{
+    auto *livres = qobject_cast<VueLivres *>(detail_->currentWidget());
+    return !livres || livres->conclure();
+}
+
 QWidget *ContenuPrincipal::barreLaterale()
 {
     auto *barre = new QWidget;

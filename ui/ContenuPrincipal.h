@@ -30,6 +30,8 @@ public:
     // No section at all shows the order.
     void montrer(std::optional<Rubrique> rubrique);
     [[nodiscard]] std::optional<Rubrique> rubrique() const;
+    // Ends the edit under way; false when it could not be saved, which its screen says.
+    [[nodiscard]] bool conclure();
 
 protected:
     bool event(QEvent *evenement) override;

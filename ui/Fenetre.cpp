@@ -4,6 +4,7 @@
 #include "ui/commun/Place.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QShortcut>
@@ -43,6 +44,12 @@ bool Fenetre::eventFilter(QObject *objet, QEvent *evenement)
     if (evenement->type() == QEvent::MouseButtonPress && objet->isWidgetType())
         static_cast<QWidget *>(objet)->window()->setAttribute(Qt::WA_KeyboardFocusChange, false);
     return QMainWindow::eventFilter(objet, evenement);
+}
+
+// What could not be saved stays in sight; closing again leaves it.
+void Fenetre::closeEvent(QCloseEvent *evenement)
+{
+    evenement->setAccepted(contenu_->conclure());
 }
 
 void Fenetre::ramener()

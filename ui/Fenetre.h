@@ -27,6 +27,7 @@ public:
     void ramener();
 
 protected:
+    void closeEvent(QCloseEvent *evenement) override;
     bool eventFilter(QObject *objet, QEvent *evenement) override;
 
 private:

@@ -3,6 +3,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+Q_DECLARE_METATYPE(PrixBouton::Etat)
+
 class TestCatalogue : public QObject
 {
     Q_OBJECT
@@ -17,7 +19,9 @@ private slots:
     void ressourceManquante_data();
     void ressourceManquante();
     void fraisEnregistres();
+    void prixDesBoutons_data();
     void prixDesBoutons();
+    void leBoutonLePlusCher();
     void garderPuisReporter();
     void retourAuxValeursLivrees();
 };
@@ -169,30 +173,64 @@ void TestCatalogue::fraisEnregistres()
     QCOMPARE(banc.charger()->reglages().fraisPaypal, banc.reglages.fraisPaypal);
 }
 
+void TestCatalogue::prixDesBoutons_data()
+{
+    using Etat = PrixBouton::Etat;
+    using Prix = std::optional<Centimes>;
+    const Prix aucun;
+    QTest::addColumn<std::optional<Grammes>>("poids");
+    QTest::addColumn<int>("emballage"); // g; -1: no packaging at all
+    QTest::addColumn<QString>("destination");
+    QTest::addColumn<Prix>("actuel");
+    QTest::addColumn<Prix>("ecarte");
+    QTest::addColumn<Prix>("calcule");
+    QTest::addColumn<Etat>("etat");
+    const auto cas = [&](const char *nom, std::optional<Grammes> poids, int emballage, const char *destination,
+                         Prix actuel, Prix ecarte, Prix calcule, Etat etat) {
+        QTest::newRow(nom) << poids << emballage << QString::fromLatin1(destination) << actuel << ecarte << calcule
+                           << etat;
+    };
+    const Prix leger(Centimes{2049});
+    const Prix lourd(Centimes{2259});
+    const Prix autre(Centimes{2000});
+    cas("à jour", Grammes{210}, 40, "france", leger, aucun, leger, Etat::aJour);
+    cas("à jour, écarté naguère", Grammes{210}, 40, "france", leger, leger, leger, Etat::aJour);
+    cas("gardé", Grammes{210}, 40, "ue", autre, leger, leger, Etat::garde);
+    cas("gardé sans bouton", Grammes{210}, 40, "ue", aucun, leger, leger, Etat::garde);
+    cas("à reporter", Grammes{210}, 40, "suisse", autre, aucun, leger, Etat::aReporter);
+    cas("sans bouton", Grammes{210}, 40, "suisse", aucun, aucun, leger, Etat::aReporter);
+    cas("un gramme de trop", Grammes{210}, 41, "france", leger, aucun, lourd, Etat::aReporter);
+    cas("un autre prix était gardé", Grammes{210}, 41, "ue", autre, leger, lourd, Etat::aReporter);
+    cas("aucun emballage", Grammes{250}, -1, "france", leger, aucun, leger, Etat::aJour);
+    cas("trop lourd", Grammes{1961}, 40, "france", leger, aucun, aucun, Etat::sansPrix);
+    cas("pas de grille", Grammes{210}, 40, "lune", autre, aucun, aucun, Etat::sansPrix);
+    cas("jamais pesé", std::nullopt, 40, "france", autre, aucun, aucun, Etat::sansPrix);
+}
+
 void TestCatalogue::prixDesBoutons()
 {
-    const Banc banc;
-    Livre livre = banc.livres[0];
-    livre.poids = Grammes{210};
-    livre.prixPaypal = {{QStringLiteral("france"), Centimes{2049}}, {QStringLiteral("lune"), Centimes{9}}};
-    livre.prixEcartes = {{QStringLiteral("ue"), Centimes{2049}}, {QStringLiteral("suisse"), Centimes{1}}};
-    using Etat = PrixBouton::Etat;
-    const auto etats = [&](const Livre &du, Grammes emballage) {
-        QList<Etat> liste;
-        for (const auto &ligne : PrixBouton::calculer(du, banc.tarifs[0], banc.destinations, emballage))
-            liste.append(ligne.etat());
-        return liste;
-    };
-    QCOMPARE(etats(livre, Grammes{40}), (QList{Etat::aJour, Etat::garde, Etat::aReporter, Etat::sansPrix}));
-    QCOMPARE(etats(livre, Grammes{41}), (QList{Etat::aReporter, Etat::aReporter, Etat::aReporter, Etat::sansPrix}));
-    QCOMPARE(etats(livre, Grammes{3000}), QList<Etat>(4, Etat::sansPrix));
-    const auto france = PrixBouton::calculer(livre, banc.tarifs[0], banc.destinations, Grammes{40})[0];
-    QCOMPARE(france.palier, Grammes{250});
-    QCOMPARE(france.envoi, Centimes{549});
-    livre.poids.reset();
-    const auto nonPese = PrixBouton::calculer(livre, banc.tarifs[0], banc.destinations, Grammes{40});
-    QVERIFY(!nonPese[0].palier && !nonPese[0].envoi && !nonPese[0].calcule);
-    QCOMPARE(nonPese[0].actuel, Centimes{2049});
+    QFETCH(std::optional<Grammes>, poids);
+    QFETCH(int, emballage);
+    QFETCH(QString, destination);
+    QFETCH(std::optional<Centimes>, actuel);
+    QFETCH(std::optional<Centimes>, ecarte);
+    Banc banc;
+    banc.livres[0].poids = poids;
+    if (actuel)
+        banc.livres[0].prixPaypal = {{destination, *actuel}};
+    if (ecarte)
+        banc.livres[0].prixEcartes = {{destination, *ecarte}};
+    banc.reglages.emballages.clear();
+    if (emballage >= 0)
+        banc.reglages.emballages = {{QStringLiteral("Enveloppe"), Grammes{emballage}}};
+    const auto catalogue = banc.charger();
+    const auto boutons = catalogue->boutons(catalogue->livres()[0], banc.tarifs[0]);
+    const auto bouton =
+        std::ranges::find(boutons, destination, [](const PrixBouton &du) { return du.destination.code; });
+    QTEST(bouton->calcule, "calcule");
+    QTEST(bouton->etat(), "etat");
+    QCOMPARE(bouton->actuel, actuel);
+    QCOMPARE(bouton->envoi.has_value() && bouton->palier.has_value(), bouton->calcule.has_value());
 }
 
 void TestCatalogue::garderPuisReporter()
@@ -211,6 +249,19 @@ void TestCatalogue::garderPuisReporter()
     QVERIFY(!lignes()[0].ecarte);
     QCOMPARE(lignes()[1].etat(), PrixBouton::Etat::garde);
     QVERIFY(!lignes()[3].actuel);
+    QCOMPARE(banc.charger()->livres(), catalogue->livres());
+}
+
+// What a button may be reported at can be read back: one unreadable figure would lose every edit of every book.
+void TestCatalogue::leBoutonLePlusCher()
+{
+    const Banc banc;
+    const auto catalogue = banc.charger();
+    Livre livre = catalogue->livres()[0];
+    livre.prix = Centimes{UniteCentime::maximum};
+    catalogue->modifier({livre});
+    const auto boutons = catalogue->boutons(livre, desTarifs(QStringLiteral("2026-01-01"), livre.prix));
+    catalogue->reporter(livre, boutons);
     QCOMPARE(banc.charger()->livres(), catalogue->livres());
 }
 

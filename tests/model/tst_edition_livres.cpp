@@ -107,6 +107,8 @@ void TestEditionLivres::annulerEtRetablir()
     const Banc banc;
     const auto catalogue = banc.charger();
     HistoriqueLivres historique(*catalogue);
+    historique.modifier(catalogue->livres()[0], QStringLiteral("rien"));
+    QVERIFY(!QFile::exists(banc.cheminUtilisateur(QStringLiteral("livres-modifies.json"))));
     QList<QList<Livre>> etapes{catalogue->livres()};
     const auto boutons = [&] { return catalogue->boutons(catalogue->livres()[0], banc.tarifs[0]); };
     Livre livre = catalogue->livres()[0];
@@ -117,7 +119,6 @@ void TestEditionLivres::annulerEtRetablir()
     etapes.append(catalogue->livres());
     historique.reporter(livre, PrixBouton::aReporter(boutons()), QStringLiteral("reportés"));
     etapes.append(catalogue->livres());
-    historique.modifier(catalogue->livres()[0], QStringLiteral("rien"));
     historique.revenirAuxValeursLivrees(QStringLiteral("retour"));
     etapes.append(catalogue->livres());
     QCOMPARE(etapes.last(), etapes.first());

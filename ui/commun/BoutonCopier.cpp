@@ -10,6 +10,7 @@ using namespace std::chrono_literals;
 BoutonCopier::BoutonCopier(QWidget *parent) : QToolButton(parent)
 {
     setAutoRaise(true);
+    setFocusPolicy(Qt::StrongFocus); // a click ends what is being typed elsewhere, and may change what is copied
     retour_.setSingleShot(true);
     retour_.setInterval(1500ms);
     connect(this, &QToolButton::clicked, this, &BoutonCopier::copier);

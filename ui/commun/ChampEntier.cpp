@@ -1,7 +1,8 @@
 #include "ui/commun/ChampEntier.h"
 
+#include "model/Format.h"
+
 #include <QEvent>
-#include <QLocale>
 #include <QToolTip>
 #include <QValidator>
 
@@ -17,8 +18,7 @@ QString sansEspaces(QString texte)
 
 QString ecrit(std::optional<qint64> valeur)
 {
-    static const QLocale francais(QLocale::French, QLocale::France);
-    return valeur ? francais.toString(*valeur) : QString();
+    return valeur ? Format::grammes(Grammes{*valeur}) : QString();
 }
 
 class EntierBorne : public QValidator

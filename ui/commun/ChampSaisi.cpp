@@ -19,7 +19,7 @@ ChampSaisi::ChampSaisi(const QString &libelle, const Unite &unite, Refus refus, 
     champ_->setFixedWidth(champ_->fontMetrics().horizontalAdvance(QStringLiteral("99 999,99")) + 32);
     champ_->setAccessibleName(tr("%1, en %2").arg(libelle, unite.nom));
     champ_->installEventFilter(this);
-    connect(champ_, &QLineEdit::textEdited, this, [this](const QString &texte) { alerte_->montrer(refus_(texte)); });
+    connect(champ_, &QLineEdit::textEdited, this, [this](const QString &texte) { direLeRefus(refus_(texte)); });
     connect(champ_, &QLineEdit::returnPressed, this, [this] {
         conclure();
         champ_->selectAll();
@@ -53,7 +53,13 @@ void ChampSaisi::montrer(const QString &valeur)
 void ChampSaisi::oublier()
 {
     champ_->setText(valeur_);
-    alerte_->montrer({});
+    direLeRefus({});
+}
+
+void ChampSaisi::direLeRefus(const QString &refus)
+{
+    alerte_->montrer(refus);
+    champ_->setAccessibleDescription(refus);
 }
 
 void ChampSaisi::conclure()
@@ -63,16 +69,22 @@ void ChampSaisi::conclure()
         return;
     champ_->setText(valeur_); // until somebody shows another
     const QString refus = refus_(texte);
-    alerte_->montrer(refus);
+    direLeRefus(refus);
     if (refus.isEmpty())
         emit saisi(texte);
 }
 
 bool ChampSaisi::eventFilter(QObject *objet, QEvent *evenement)
 {
-    if (evenement->type() == QEvent::FocusOut
-        && static_cast<QFocusEvent *>(evenement)->reason() != Qt::PopupFocusReason)
+    // A look at another window leaves the typing as it stands.
+    const auto passager = [evenement] {
+        const auto raison = static_cast<QFocusEvent *>(evenement)->reason();
+        return raison == Qt::ActiveWindowFocusReason || raison == Qt::PopupFocusReason;
+    };
+    if (evenement->type() == QEvent::FocusOut && !passager())
         conclure();
+    if (evenement->type() == QEvent::FocusIn && !passager())
+        direLeRefus({}); // of an earlier try
     if (evenement->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(evenement)->key() == Qt::Key_Escape)
         oublier();
     return QWidget::eventFilter(objet, evenement);

@@ -41,6 +41,7 @@ protected:
 
 private:
     void conclure();
+    void direLeRefus(const QString &refus);
 
     Refus refus_;
     QString valeur_; // as shown

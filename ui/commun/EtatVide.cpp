@@ -4,6 +4,7 @@
 #include "ui/commun/Icone.h"
 #include "ui/commun/Libelle.h"
 
+#include <QHBoxLayout>
 #include <QPainter>
 #include <QVBoxLayout>
 
@@ -21,15 +22,19 @@ EtatVide::EtatVide(const QString &symbole, const QString &titre, const QString &
     titre_->setFont(Theme::titreSection());
     raison_->setWordWrap(true);
     raison_->setAlignment(Qt::AlignHCenter);
-    raison_->setFixedWidth(largeurDuTexte);
+    raison_->setMaximumWidth(largeurDuTexte);
 
+    auto *milieu = new QHBoxLayout;
+    milieu->addStretch(1);
+    milieu->addWidget(raison_, largeurDuTexte); // all that there is, up to its own width
+    milieu->addStretch(1);
     auto *colonne = new QVBoxLayout(this);
     colonne->setContentsMargins(20, 20, 20, 28);
     colonne->setSpacing(8);
     colonne->addStretch(1);
     colonne->addWidget(place_, 0, Qt::AlignHCenter);
     colonne->addWidget(titre_, 0, Qt::AlignHCenter);
-    colonne->addWidget(raison_, 0, Qt::AlignHCenter);
+    colonne->addLayout(milieu);
     colonne->addStretch(1);
     montrer(symbole, titre, raison);
 }

@@ -7,7 +7,7 @@ bool LigneDeTexte::event(QEvent *evenement)
     if (evenement->type() == QEvent::ShortcutOverride) {
         const auto *touche = static_cast<QKeyEvent *>(evenement);
         if ((touche->matches(QKeySequence::Undo) && !isUndoAvailable())
-            || (touche->matches(QKeySequence::Redo) && !isRedoAvailable())) {
+            || (touche->matches(QKeySequence::Redo) && !isRedoAvailable() && !isUndoAvailable())) {
             evenement->ignore();
             return false;
         }

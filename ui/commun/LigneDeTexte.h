@@ -2,8 +2,8 @@
 
 #include <QLineEdit>
 
-// A line of text that keeps undo to itself only while it has typing of its own to undo: otherwise its screen's undo
-// answers to the same keys.
+// A line of text that keeps undo and redo to itself only while it has typing of its own: otherwise its screen's answer
+// to the same keys.
 class LigneDeTexte : public QLineEdit
 {
     Q_OBJECT

@@ -178,8 +178,10 @@ void DelegueLivres::peindreLivre(QPainter &peintre, const QRect &cadre, int rang
     peintre.setPen(livre.disponible ? texte : secondaire);
     const QString prix = Format::euros(livre.prix);
     Chiffres::peindre(peintre, ligne, Qt::AlignLeft, prix);
-    ligne.setLeft(ligne.left() + Chiffres::largeur(peintre.fontMetrics(), prix));
+    ligne.setLeft(ligne.left() + Chiffres::largeur(peintre.fontMetrics(), prix) + 6);
     peintre.setFont(Theme::encadre());
     peintre.setPen(livre.poids ? secondaire : Theme::orange(palette));
-    Chiffres::peindre(peintre, ligne, Qt::AlignLeft, QStringLiteral("  ·  ") + TextesLivres::poids(livre));
+    Chiffres::peindre(peintre, ligne, Qt::AlignLeft,
+                      peintre.fontMetrics().elidedText(QStringLiteral("· ") + TextesLivres::poids(livre),
+                                                       Qt::ElideRight, ligne.width()));
 }

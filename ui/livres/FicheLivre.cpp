@@ -13,6 +13,7 @@
 #include "ui/commun/Lien.h"
 #include "ui/commun/TextesLivres.h"
 #include "ui/livres/TableauBoutons.h"
+#include "ui/livres/TextesGestes.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -123,17 +124,17 @@ QWidget *FicheLivre::reglages()
     connect(prix_, &ChampSaisi::saisi, this, [this](const QString &texte) {
         Livre livre = livre_;
         livre.prix = std::get<Centimes>(Saisie::prix(texte));
-        emit modification(livre, tr("prix de « %1 »").arg(livre.titre));
+        emit modification(livre, TextesGestes::prix(livre));
     });
     connect(poids_, &ChampSaisi::saisi, this, [this](const QString &texte) {
         Livre livre = livre_;
         livre.poids = std::get<std::optional<Grammes>>(Saisie::poids(texte));
-        emit modification(livre, tr("poids de « %1 »").arg(livre.titre));
+        emit modification(livre, TextesGestes::poids(livre));
     });
     connect(disponible_, &QCheckBox::clicked, this, [this](bool disponible) {
         Livre livre = livre_;
         livre.disponible = disponible;
-        emit modification(livre, tr("disponibilité de « %1 »").arg(livre.titre));
+        emit modification(livre, TextesGestes::disponibilite(livre));
     });
     auto *groupe = new Formulaire::Groupe;
     groupe->ajouter(prix_);
@@ -152,11 +153,16 @@ QWidget *FicheLivre::boutonsPaypal()
     note->setWordWrap(true);
     situation_->setWordWrap(true);
     connect(page_, &QPushButton::clicked, this, [this] { Lien::ouvrir(*livre_.lienPaypal, this); });
-    connect(toutReporter_, &QPushButton::clicked, this, [this] { emit aReporter(PrixBouton::aReporter(boutons_)); });
+    toutReporter_->setFocusPolicy(Qt::TabFocus); // as the rows' own buttons
+    connect(toutReporter_, &QPushButton::clicked, this,
+            [this] { emit reporter(livre_, PrixBouton::aReporter(boutons_)); });
     connect(suivant_, &QPushButton::clicked, this, &FicheLivre::livreSuivant);
-    connect(tableau_, &TableauBoutons::reporter, this, [this](int rang) { emit aReporter({boutons_[rang]}); });
-    connect(tableau_, &TableauBoutons::garder, this, [this](int rang) { emit aGarder(boutons_[rang]); });
-    connect(tableau_, &TableauBoutons::termine, suivant_, qOverload<>(&QWidget::setFocus));
+    connect(tableau_, &TableauBoutons::reporter, this, [this](int rang) { emit reporter(livre_, {boutons_[rang]}); });
+    connect(tableau_, &TableauBoutons::garder, this, [this](int rang) { emit garder(livre_, boutons_[rang]); });
+    connect(tableau_, &TableauBoutons::termine, this, [this] {
+        if (suivant_->isVisible())
+            suivant_->setFocus();
+    });
 
     auto *tete = new QHBoxLayout;
     tete->addWidget(titre, 1);

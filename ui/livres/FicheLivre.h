@@ -26,9 +26,9 @@ public:
 
 signals:
     // The book as it should become, and what that does: "prix de « Le Phare de sel »".
-    void modification(const Livre &livre, const QString &geste);
-    void aReporter(const QList<PrixBouton> &boutons);
-    void aGarder(const PrixBouton &bouton);
+    void modification(Livre livre, const QString &geste);
+    void reporter(Livre livre, const QList<PrixBouton> &boutons);
+    void garder(Livre livre, PrixBouton bouton);
     void livreSuivant();
 
 private:

@@ -1,7 +1,5 @@
 #include "ui/livres/FiltreLivres.h"
 
-#include <QStringList>
-
 #include <algorithm>
 
 namespace {
@@ -23,23 +21,26 @@ QString simplifie(const QString &texte)
     return simple;
 }
 
-bool trouve(const QString &recherche, const Livre &livre)
-{
-    const QString ou = simplifie(QStringList{livre.titre, livre.titreComplet, livre.auteur, livre.isbn,
-                                             QString(livre.isbn).remove(u'-').remove(u' ')}
-                                     .join(u'\n'));
-    const QStringList mots = simplifie(recherche).split(u' ', Qt::SkipEmptyParts);
-    return std::ranges::all_of(mots, [&](const QString &mot) { return ou.contains(mot); });
-}
-
 } // namespace
 
-bool FiltreLivres::retient(const Livre &livre, qsizetype aReporter) const
+QStringList FiltreLivres::mots(const QString &recherche)
 {
+    return simplifie(recherche).split(u' ', Qt::SkipEmptyParts);
+}
+
+QString FiltreLivres::texteCherche(const Livre &livre)
+{
+    const QString sansTirets = QString(livre.isbn).remove(u'-').remove(u' ');
+    return simplifie(QStringList{livre.titre, livre.titreComplet, livre.auteur, livre.isbn, sansTirets}.join(u'\n'));
+}
+
+bool FiltreLivres::retient(const Candidat &candidat) const
+{
+    const auto &[livre, texte, boutonsAReporter] = candidat;
     if (vendeur && livre.vendeur != *vendeur)
         return false;
-    if ((etat == Etat::aReporter && aReporter == 0) || (etat == Etat::aPeser && livre.poids)
+    if ((etat == Etat::aReporter && boutonsAReporter == 0) || (etat == Etat::aPeser && livre.poids)
         || (etat == Etat::epuises && livre.disponible))
         return false;
-    return recherche.isEmpty() || trouve(recherche, livre);
+    return std::ranges::all_of(recherche, [&](const QString &mot) { return texte.contains(mot); });
 }

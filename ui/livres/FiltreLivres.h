@@ -2,7 +2,7 @@
 
 #include "model/Livre.h"
 
-#include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -11,12 +11,24 @@ struct FiltreLivres
 {
     enum class Etat { tous, aReporter, aPeser, epuises };
 
-    QString recherche; // words of the title, the author or the ISBN, whatever their case and accents
+    // What one book is judged by.
+    struct Candidat
+    {
+        const Livre &livre;
+        const QString &texte;       // of `texteCherche`
+        qsizetype boutonsAReporter; // how many of its buttons are to be changed
+    };
+
+    // Words of a title, an author or an ISBN, whatever their case and accents.
+    static QStringList mots(const QString &recherche);
+    // Where these words are looked for.
+    static QString texteCherche(const Livre &livre);
+
+    QStringList recherche; // of `mots`
     std::optional<Vendeur> vendeur;
     Etat etat = Etat::tous;
 
-    // `aReporter` is the number of the book's buttons to change.
-    [[nodiscard]] bool retient(const Livre &livre, qsizetype aReporter) const;
+    [[nodiscard]] bool retient(const Candidat &candidat) const;
 
     bool operator==(const FiltreLivres &) const = default;
 };

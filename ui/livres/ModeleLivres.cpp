@@ -9,8 +9,12 @@
 ModeleLivres::ModeleLivres(const Catalogue &catalogue, QObject *parent)
     : QAbstractListModel(parent), catalogue_(catalogue)
 {
-    actualiser();
-    connect(&catalogue, &Catalogue::change, this, &ModeleLivres::actualiser);
+    compter();
+    rangs_ = ranger();
+    connect(&catalogue, &Catalogue::change, this, [this] {
+        compter();
+        filtrer();
+    });
 }
 
 void ModeleLivres::setFiltre(const FiltreLivres &filtre)
@@ -19,7 +23,7 @@ void ModeleLivres::setFiltre(const FiltreLivres &filtre)
         return;
     filtre_ = filtre;
     retenus_.clear();
-    actualiser();
+    filtrer();
 }
 
 void ModeleLivres::setTarifs(const TarifsColissimo &tarifs)
@@ -28,39 +32,45 @@ void ModeleLivres::setTarifs(const TarifsColissimo &tarifs)
         return;
     tarifs_ = tarifs;
     retenus_.clear();
-    actualiser();
+    compter();
+    filtrer();
 }
 
 void ModeleLivres::retenir(qint64 id)
 {
-    if (rang(id))
-        return;
     retenus_.insert(id);
-    actualiser();
+    if (!rang(id))
+        filtrer();
 }
 
-QList<ModeleLivres::Rang> ModeleLivres::ranger()
+void ModeleLivres::compter()
+{
+    comptes_.clear();
+    for (const Livre &livre : catalogue_.livres())
+        comptes_.append({tarifs_ ? PrixBouton::aReporter(catalogue_.boutons(livre, *tarifs_)).size() : 0,
+                         FiltreLivres::texteCherche(livre)});
+}
+
+QList<ModeleLivres::Rang> ModeleLivres::ranger() const
 {
     QList<Rang> rangs;
-    aReporter_ = 0;
     const QList<Livre> &livres = catalogue_.livres();
     for (qsizetype place = 0; place < livres.size(); ++place) {
         const Livre &livre = livres[place];
-        const qsizetype aReporter = tarifs_ ? PrixBouton::aReporter(catalogue_.boutons(livre, *tarifs_)).size() : 0;
-        aReporter_ += aReporter;
-        if (!retenus_.contains(livre.id) && !filtre_.retient(livre, aReporter))
-            continue;
-        retenus_.insert(livre.id);
-        rangs.append({livre.vendeur, livre.id, place, aReporter});
+        const Compte &compte = comptes_[place];
+        if (retenus_.contains(livre.id) || filtre_.retient({livre, compte.texteCherche, compte.aReporter}))
+            rangs.append({livre.vendeur, livre.id, place});
     }
     std::ranges::stable_sort(rangs, {}, &Rang::vendeur);
     return rangs;
 }
 
 // The same books in the same order keep the current row and the place in the list.
-void ModeleLivres::actualiser()
+void ModeleLivres::filtrer()
 {
     const QList<Rang> rangs = ranger();
+    for (const Rang &rang : rangs)
+        retenus_.insert(rang.id);
     if (std::ranges::equal(rangs, rangs_, {}, &Rang::id, &Rang::id)) {
         rangs_ = rangs;
         if (!rangs.isEmpty())
@@ -70,6 +80,14 @@ void ModeleLivres::actualiser()
     beginResetModel();
     rangs_ = rangs;
     endResetModel();
+}
+
+qsizetype ModeleLivres::aReporter() const
+{
+    qsizetype somme = 0;
+    for (const Compte &compte : comptes_)
+        somme += compte.aReporter;
+    return somme;
 }
 
 const Livre &ModeleLivres::livre(int rang) const

@@ -7,6 +7,8 @@
 #include <QAbstractListModel>
 #include <QSet>
 
+#include <optional>
+
 class Catalogue;
 
 // The books that the filter retains, one seller's after the other's, each in the catalogue's order. A book that the
@@ -26,9 +28,9 @@ public:
 
     [[nodiscard]] const Livre &livre(int rang) const;
     // How many of the book's buttons wait for a new price.
-    [[nodiscard]] qsizetype aReporter(int rang) const { return rangs_[rang].aReporter; }
+    [[nodiscard]] qsizetype aReporter(int rang) const { return comptes_[rangs_[rang].place].aReporter; }
     // The same for the whole catalogue.
-    [[nodiscard]] qsizetype aReporter() const { return aReporter_; }
+    [[nodiscard]] qsizetype aReporter() const;
     // The place of a book; none when it is not shown.
     [[nodiscard]] std::optional<int> rang(qint64 id) const;
     // The next book with buttons to change, from the top again after the last; none but itself: none.
@@ -42,22 +44,28 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex &indice, int role) const override;
 
 private:
+    // What is worked out of a book of the catalogue's list.
+    struct Compte
+    {
+        qsizetype aReporter;
+        QString texteCherche;
+    };
     struct Rang
     {
         Vendeur vendeur;
         qint64 id;
         qsizetype place; // in the catalogue's list
-        qsizetype aReporter;
     };
 
-    [[nodiscard]] QList<Rang> ranger();
+    void compter();
+    void filtrer();
+    [[nodiscard]] QList<Rang> ranger() const;
     [[nodiscard]] QString enMots(int rang) const;
-    void actualiser();
 
     const Catalogue &catalogue_;
     std::optional<TarifsColissimo> tarifs_;
     FiltreLivres filtre_;
-    QSet<qint64> retenus_; // shown since the filter changed
+    QSet<qint64> retenus_;  // shown since the filter changed
+    QList<Compte> comptes_; // in the catalogue's order
     QList<Rang> rangs_;
-    qsizetype aReporter_ = 0;
 };

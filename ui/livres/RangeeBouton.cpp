@@ -11,8 +11,6 @@
 #include <QGridLayout>
 #include <QPushButton>
 
-#include <memory>
-
 namespace {
 
 enum Colonne { destination, actuel, calcule, copie, etat };
@@ -36,19 +34,17 @@ QString texteGarder()
     return RangeeBouton::tr("Garder");
 }
 
-QPushButton *action(const QString &texte)
+int largeur(const QString &action)
 {
-    QPushButton *action = Boutons::deFeuille(texte);
-    action->setFont(Theme::encadre());
-    action->setFixedWidth(action->fontMetrics().horizontalAdvance(texte) + 24);
-    return action;
+    return QFontMetrics(Theme::encadre()).horizontalAdvance(action) + 24;
 }
 
-int largeurDesActions()
+QPushButton *bouton(const QString &action)
 {
-    const std::unique_ptr<QPushButton> reporter(action(texteReporter()));
-    const std::unique_ptr<QPushButton> garder(action(texteGarder()));
-    return reporter->width() + entreActions + garder->width();
+    QPushButton *bouton = Boutons::deFeuille(action);
+    bouton->setFont(Theme::encadre());
+    bouton->setFixedWidth(largeur(action));
+    return bouton;
 }
 
 // A cell of the grid, its lines centred one above the other.
@@ -85,7 +81,7 @@ void RangeeBouton::placerLesTetes(QGridLayout &grille)
     grille.setColumnMinimumWidth(destination, largeurMinimaleDuNom);
     grille.setColumnMinimumWidth(actuel, prix);
     grille.setColumnMinimumWidth(calcule, prix);
-    grille.setColumnMinimumWidth(etat, largeurDesActions());
+    grille.setColumnMinimumWidth(etat, largeur(texteReporter()) + entreActions + largeur(texteGarder()));
 }
 
 RangeeBouton::RangeeBouton(QGridLayout &grille, int ligne, QObject *parent)
@@ -97,8 +93,8 @@ RangeeBouton::RangeeBouton(QGridLayout &grille, int ligne, QObject *parent)
       ecart_(new LibelleChiffre({}, Libelle::Rang::secondaire)),
       copier_(new BoutonCopier),
       etat_(new LigneEtat),
-      reporter_(action(texteReporter())),
-      garder_(action(texteGarder()))
+      reporter_(bouton(texteReporter())),
+      garder_(bouton(texteGarder()))
 {
     destination_->setWordWrap(true);
     palier_->setWordWrap(true);
@@ -119,6 +115,9 @@ RangeeBouton::RangeeBouton(QGridLayout &grille, int ligne, QObject *parent)
                  cellule({etat_, actions}, 5)};
     for (int colonne = 0; colonne < cellules_.size(); ++colonne)
         grille.addWidget(cellules_[colonne], ligne, colonne, colonne == copie ? Qt::AlignVCenter : Qt::Alignment());
+    // A click reports the price that is read on the row: it must not end an edit that changes it.
+    for (QPushButton *action : {reporter_, garder_})
+        action->setFocusPolicy(Qt::TabFocus);
     connect(reporter_, &QPushButton::clicked, this, &RangeeBouton::reporter);
     connect(garder_, &QPushButton::clicked, this, &RangeeBouton::garder);
 }
@@ -136,14 +135,22 @@ void RangeeBouton::montrer(const TextesBoutons::Ligne &ligne)
     etat_->montrer(ligne.etat, ligne.etatEnMots);
     copier_->setValeur(ligne.aCopier);
     copier_->setEnabled(!ligne.aCopier.isEmpty());
-    reporter_->setVisible(aReporter_ || ligne.etat == PrixBouton::Etat::garde);
-    garder_->setVisible(aReporter_);
-    reporter_->parentWidget()->setVisible(!reporter_->isHidden());
+    reporter_->setVisible(ligne.peutReporter);
+    garder_->setVisible(ligne.peutGarder);
+    reporter_->parentWidget()->setVisible(ligne.peutReporter);
 
-    // A screen reader hears the row with the figure to copy.
+    // A screen reader hears the whole row with the figure to copy.
+    QStringList mots{ligne.destination, ligne.etatEnMots, tr("Actuel : %1").arg(ligne.actuel), ligne.ecart,
+                     ligne.palier};
+    mots.removeAll(QString());
+    const QString enMots = mots.join(QStringLiteral(", "));
     actuel_->setAccessibleName(tr("Actuel : %1").arg(ligne.actuel));
     calcule_->setAccessibleName(tr("Calculé : %1").arg(ligne.calcule));
-    copier_->setAccessibleName(tr("Copier %1, %2, %3").arg(ligne.aCopier, ligne.destination, ligne.etatEnMots));
+    copier_->setAccessibleName(ligne.aCopier.isEmpty() ? tr("Rien à copier, %1").arg(enMots)
+                                                       : tr("Copier %1, %2").arg(ligne.aCopier, enMots));
+    etat_->setAccessibleName(enMots);
+    // A row without a price to copy is read there.
+    etat_->setFocusPolicy(ligne.aCopier.isEmpty() ? Qt::TabFocus : Qt::NoFocus);
     reporter_->setToolTip(tr("Le bouton PayPal demande maintenant %1").arg(ligne.calcule));
     reporter_->setAccessibleName(tr("Reporter, %1").arg(ligne.destination));
     garder_->setToolTip(tr("Le bouton PayPal garde son prix, tant que le calcul donne %1").arg(ligne.calcule));

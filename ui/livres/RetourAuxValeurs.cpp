@@ -72,17 +72,17 @@ bool RetourAuxValeurs::accepte(const QList<Livre> &actuels, const QList<Livre> &
     const QStringList perdus = pertes(actuels, livres);
     if (perdus.isEmpty()) {
         QMessageBox::information(parent, QStringLiteral("Quillet"),
-                                 QMessageBox::tr("Les livres ont déjà leurs valeurs d’origine."));
-        return false;
+                                 QStringLiteral("Les livres ont déjà leurs valeurs d’origine."));
+        return true;
     }
     QMessageBox question(QMessageBox::Question, QStringLiteral("Quillet"),
-                         QMessageBox::tr("Revenir aux valeurs d’origine ?"), QMessageBox::NoButton, parent);
+                         QStringLiteral("Revenir aux valeurs d’origine ?"), QMessageBox::NoButton, parent);
     question.setInformativeText(
-        QMessageBox::tr("Ces valeurs seront perdues :\n\n%1\n\nVous pourrez annuler tant que Quillet reste ouvert.")
+        QStringLiteral("Ces valeurs seront perdues :\n\n%1\n\nVous pourrez annuler tant que Quillet reste ouvert.")
             .arg(perdus.join(u'\n')));
     const QPushButton *revenir =
-        question.addButton(QMessageBox::tr("Revenir aux valeurs d’origine"), QMessageBox::AcceptRole);
-    QPushButton *garder = question.addButton(QMessageBox::tr("Garder mes valeurs"), QMessageBox::RejectRole);
+        question.addButton(QStringLiteral("Revenir aux valeurs d’origine"), QMessageBox::AcceptRole);
+    QPushButton *garder = question.addButton(QStringLiteral("Garder mes valeurs"), QMessageBox::RejectRole);
     question.setDefaultButton(garder);
     question.exec();
     return question.clickedButton() == revenir;

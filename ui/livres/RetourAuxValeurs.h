@@ -2,6 +2,8 @@
 
 #include "model/Livre.h"
 
+#include <QStringList>
+
 class QWidget;
 
 // The return of every book to its shipped values.
@@ -9,7 +11,7 @@ namespace RetourAuxValeurs {
 
 // What would be lost, a line a book, the first few of them; empty: nothing.
 QStringList pertes(const QList<Livre> &actuels, const QList<Livre> &livres);
-// Says what would be lost, and asks.
+// Says what would be lost, and asks; when nothing would, says so and is true.
 bool accepte(const QList<Livre> &actuels, const QList<Livre> &livres, QWidget *parent);
 
 } // namespace RetourAuxValeurs

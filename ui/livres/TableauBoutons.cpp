@@ -47,8 +47,8 @@ void TableauBoutons::montrer(const QList<TextesBoutons::Ligne> &lignes)
     }
     const qsizetype traitee = rangeeTraitee(lignes);
     const qsizetype suivante = traitee < 0 ? -1 : aReporterApres(traitee, lignes);
-    if (suivante >= 0)
-        rangees_[suivante]->prendreLeFocus(); // before its button hides: Qt would give the focus to a neighbour
+    if (traitee >= 0) // before its button hides: Qt would give the focus to a neighbour
+        rangees_[suivante >= 0 ? suivante : traitee]->prendreLeFocus();
     lignes_ = lignes;
     for (qsizetype rang = 0; rang < rangees_.size(); ++rang) {
         rangees_[rang]->setVisible(rang < lignes.size());

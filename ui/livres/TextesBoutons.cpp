@@ -55,7 +55,9 @@ QList<TextesBoutons::Ligne> TextesBoutons::lignes(const QList<PrixBouton> &bouto
                     .ecart = ecart(bouton),
                     .etat = bouton.etat(),
                     .etatEnMots = etatEnMots(bouton, livre, tarifs),
-                    .aCopier = {}};
+                    .aCopier = {},
+                    .peutReporter = bouton.calcule && bouton.calcule != bouton.actuel,
+                    .peutGarder = bouton.etat() == PrixBouton::Etat::aReporter};
         if (bouton.calcule) {
             ligne.palier = QStringLiteral("jusqu’à %1 · envoi %2")
                                .arg(Format::palier(*bouton.palier), Format::euros(*bouton.envoi));
@@ -81,12 +83,6 @@ QString TextesBoutons::situation(const Livre &livre, qsizetype aReporter)
     if (aReporter > 0)
         return nombreAReporter(aReporter);
     return livre.poids ? QStringLiteral("Rien à reporter") : QStringLiteral("Pesez le livre pour calculer ses prix.");
-}
-
-QString TextesBoutons::report(const Livre &livre, qsizetype boutons)
-{
-    return boutons == 1 ? QStringLiteral("prix reporté de « %1 »").arg(livre.titre)
-                        : QStringLiteral("%1 prix reportés de « %2 »").arg(boutons).arg(livre.titre);
 }
 
 QString TextesBoutons::bilan(qsizetype livres, qsizetype aReporter)

@@ -17,7 +17,9 @@ struct Ligne
     QString ecart;       // "+0,15 €"; empty when there is nothing to compare
     PrixBouton::Etat etat = PrixBouton::Etat::sansPrix;
     QString etatEnMots;
-    QString aCopier; // the computed price as PayPal takes it
+    QString aCopier; // the computed price as PayPal takes it; empty without one
+    bool peutReporter = false;
+    bool peutGarder = false;
 
     bool operator==(const Ligne &) const = default;
 };
@@ -29,8 +31,6 @@ QString aReporter(qsizetype boutons);
 QString nombreAReporter(qsizetype boutons);
 // The same for one book, or why there is nothing to report.
 QString situation(const Livre &livre, qsizetype aReporter);
-// "3 prix reportés de « Le Phare de sel »"
-QString report(const Livre &livre, qsizetype boutons);
 // "14 livres · 12 prix à reporter", of the whole catalogue.
 QString bilan(qsizetype livres, qsizetype aReporter);
 

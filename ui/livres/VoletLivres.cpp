@@ -1,5 +1,6 @@
 #include "ui/livres/VoletLivres.h"
 
+#include "model/Catalogue.h"
 #include "ui/Theme.h"
 #include "ui/commande/ImagesCouvertures.h"
 #include "ui/commun/Choix.h"
@@ -20,13 +21,15 @@
 
 namespace {
 
-constexpr int marge = 20;
-
 // The margins belong to the list: its scroll bar stands at the edge of the pane.
 class Liste : public QListView
 {
 public:
-    Liste() { setViewportMargins(marge, 0, marge - style()->pixelMetric(QStyle::PM_ScrollBarExtent), 0); }
+    Liste()
+    {
+        setViewportMargins(VoletLivres::marge, 0, VoletLivres::marge - style()->pixelMetric(QStyle::PM_ScrollBarExtent),
+                           0);
+    }
 };
 
 QString cle(FiltreLivres::Etat etat)
@@ -38,9 +41,11 @@ QString cle(FiltreLivres::Etat etat)
 
 VoletLivres::VoletLivres(const Catalogue &catalogue, ImagesCouvertures &images, QWidget *parent)
     : QWidget(parent),
+      catalogue_(catalogue),
       modele_(new ModeleLivres(catalogue, this)),
       recherche_(new LigneDeTexte),
       liste_(new Liste),
+      vide_(new EtatVide),
       place_(new QStackedWidget)
 {
     liste_->setModel(modele_);
@@ -57,13 +62,12 @@ VoletLivres::VoletLivres(const Catalogue &catalogue, ImagesCouvertures &images, 
         if (!indice.isValid())
             return; // the list is being filled again
         choisi_ = modele_->livre(indice.row()).id;
-        emit change();
+        emit choixChange();
     });
     connect(modele_, &QAbstractItemModel::modelReset, this, &VoletLivres::seReplacer);
 
     place_->addWidget(liste_);
-    place_->addWidget(new EtatVide(QStringLiteral("magnifyingglass"), tr("Aucun livre"),
-                                   tr("Aucun livre ne répond à la recherche et aux filtres.")));
+    place_->addWidget(vide_);
     auto *colonne = new QVBoxLayout(this);
     colonne->setContentsMargins(0, 0, 0, 0);
     colonne->setSpacing(0);
@@ -92,7 +96,7 @@ QWidget *VoletLivres::filtres()
     etat->ajouter(tr("Épuisés"), cle(FiltreLivres::Etat::epuises));
 
     connect(recherche_, &QLineEdit::textChanged, this, [this](const QString &texte) {
-        filtre_.recherche = texte;
+        filtre_.recherche = FiltreLivres::mots(texte);
         filtrer();
     });
     connect(vendeur, &ChoixSegmente::choisi, this, [this](int choisi) {
@@ -165,7 +169,11 @@ void VoletLivres::seReplacer()
     const bool vide = modele_->rowCount() == 0;
     place_->setCurrentIndex(vide ? 1 : 0);
     if (vide)
-        emit change();
+        vide_->montrer(QStringLiteral("magnifyingglass"), tr("Aucun livre"),
+                       catalogue_.livres().isEmpty() ? tr("Le catalogue est vide.")
+                                                     : tr("Aucun livre ne répond à la recherche et aux filtres."));
+    if (vide)
+        emit choixChange();
     else
         liste_->setCurrentIndex(modele_->index(modele_->rang(choisi_).value_or(0)));
 }

@@ -19,6 +19,8 @@ class VoletLivres : public QWidget
     Q_OBJECT
 
 public:
+    static constexpr int marge = 16; // px, on either side
+
     VoletLivres(const Catalogue &catalogue, ImagesCouvertures &images, QWidget *parent = nullptr);
 
     void setTarifs(const TarifsColissimo &tarifs);
@@ -35,17 +37,19 @@ public:
 
 signals:
     // Another book, or none.
-    void change();
+    void choixChange();
 
 private:
     QWidget *filtres();
     void filtrer();
     void seReplacer();
 
+    const Catalogue &catalogue_;
     FiltreLivres filtre_;
     ModeleLivres *modele_;
     QLineEdit *recherche_;
     QListView *liste_;
+    EtatVide *vide_;
     QStackedWidget *place_;
     qint64 choisi_ = 0; // id of the book last chosen
 };

@@ -12,6 +12,7 @@
 #include "ui/livres/FicheLivre.h"
 #include "ui/livres/RetourAuxValeurs.h"
 #include "ui/livres/TextesBoutons.h"
+#include "ui/livres/TextesGestes.h"
 #include "ui/livres/VoletLivres.h"
 #include "ui/tarifs/ChoixTarifs.h"
 
@@ -19,7 +20,6 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -32,16 +32,16 @@
 namespace {
 
 constexpr int largeurDuVolet = 340;
-constexpr int largeurMinimaleDuVolet = 220;
 constexpr int marge = 24;
 
-// The command in words, with what it would act on; nothing to act on disables it.
-void dire(QAction *commande, const QString &nom, const QString &geste)
+// The button in words, with what it would act on; nothing to act on disables it.
+void dire(QToolButton *bouton, const QString &nom, const QString &geste)
 {
-    commande->setEnabled(!geste.isEmpty());
-    commande->setText(geste.isEmpty() ? nom : QStringLiteral("%1 : %2").arg(nom, geste));
-    commande->setToolTip(
-        QStringLiteral("%1 (%2)").arg(commande->text(), commande->shortcut().toString(QKeySequence::NativeText)));
+    QAction *action = bouton->defaultAction();
+    const QString texte = geste.isEmpty() ? nom : QStringLiteral("%1 : %2").arg(nom, geste);
+    action->setEnabled(!geste.isEmpty());
+    action->setToolTip(QStringLiteral("%1 (%2)").arg(texte, action->shortcut().toString(QKeySequence::NativeText)));
+    bouton->setAccessibleName(texte);
 }
 
 } // namespace
@@ -56,8 +56,8 @@ VueLivres::VueLivres(Catalogue &catalogue, ImagesCouvertures &images, Aujourdhui
       volet_(new VoletLivres(catalogue, images)),
       fiche_(new FicheLivre(images)),
       echec_(new Alerte),
-      annuler_(commande(QStringLiteral("arrow.uturn.backward"), QKeySequence::Undo)),
-      retablir_(commande(QStringLiteral("arrow.uturn.forward"), QKeySequence::Redo))
+      annuler_(creerBouton(QStringLiteral("arrow.uturn.backward"), QKeySequence::Undo)),
+      retablir_(creerBouton(QStringLiteral("arrow.uturn.forward"), QKeySequence::Redo))
 {
     enTete_->ajouter(choix_);
     auto *colonne = new QVBoxLayout(this);
@@ -67,42 +67,40 @@ VueLivres::VueLivres(Catalogue &catalogue, ImagesCouvertures &images, Aujourdhui
     QWidget *liste = gauche();
     colonne->addWidget(Partage::entre(liste, droite(), liste, largeurDuVolet), 1);
 
-    connect(annuler_, &QAction::triggered, this,
+    connect(annuler_->defaultAction(), &QAction::triggered, this,
             [this] { tenter([this] { volet_->choisir(historique_.annuler()); }); });
-    connect(retablir_, &QAction::triggered, this,
+    connect(retablir_->defaultAction(), &QAction::triggered, this,
             [this] { tenter([this] { volet_->choisir(historique_.retablir()); }); });
     connect(fiche_, &FicheLivre::modification, this,
             [this](const Livre &livre, const QString &geste) { tenter([&] { historique_.modifier(livre, geste); }); });
-    connect(fiche_, &FicheLivre::aReporter, this, [this](const QList<PrixBouton> &boutons) {
-        const Livre livre = *volet_->choisi();
-        tenter([&] { historique_.reporter(livre, boutons, TextesBoutons::report(livre, boutons.size())); });
+    connect(fiche_, &FicheLivre::reporter, this, [this](const Livre &livre, const QList<PrixBouton> &boutons) {
+        tenter([&] { historique_.reporter(livre, boutons, TextesGestes::report(livre, boutons.size())); });
     });
-    connect(fiche_, &FicheLivre::aGarder, this, [this](const PrixBouton &bouton) {
-        const Livre livre = *volet_->choisi();
-        tenter([&] { historique_.garder(livre, bouton, tr("prix gardé de « %1 »").arg(livre.titre)); });
+    connect(fiche_, &FicheLivre::garder, this, [this](const Livre &livre, const PrixBouton &bouton) {
+        tenter([&] { historique_.garder(livre, bouton, TextesGestes::garde(livre)); });
     });
+    connect(&historique_, &HistoriqueLivres::change, this, &VueLivres::direLesGestes);
     connect(fiche_, &FicheLivre::livreSuivant, volet_, &VoletLivres::passerAuSuivant);
-    connect(volet_, &VoletLivres::change, this, &VueLivres::actualiser);
+    connect(volet_, &VoletLivres::choixChange, this, &VueLivres::actualiser);
     connect(choix_, &ChoixTarifs::choisi, this, &VueLivres::actualiser);
     connect(&catalogue_, &Catalogue::change, this, &VueLivres::actualiser);
+    direLesGestes();
     auto *chercher = new QShortcut(QKeySequence::Find, this);
-    chercher->setContext(Qt::WidgetWithChildrenShortcut);
     connect(chercher, &QShortcut::activated, volet_, &VoletLivres::chercher);
 }
 
-// Also a button of the head.
-QAction *VueLivres::commande(const QString &symbole, QKeySequence::StandardKey touches)
+// A button of the head, also reached by keys.
+QToolButton *VueLivres::creerBouton(const QString &symbole, QKeySequence::StandardKey touches)
 {
     auto *action = new QAction(Icone::icone(symbole), {}, this);
     action->setShortcuts(touches);
-    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     addAction(action);
     auto *bouton = new QToolButton;
     bouton->setDefaultAction(action);
     bouton->setAutoRaise(true);
     bouton->setFocusPolicy(Qt::StrongFocus);
     enTete_->ajouter(bouton);
-    return action;
+    return bouton;
 }
 
 QWidget *VueLivres::gauche()
@@ -110,10 +108,9 @@ QWidget *VueLivres::gauche()
     QPushButton *revenir = Boutons::deFeuille(tr("Revenir aux valeurs d’origine…"));
     connect(revenir, &QPushButton::clicked, this, &VueLivres::revenir);
     auto *pied = new QHBoxLayout;
-    pied->setContentsMargins(20, 10, 20, 14);
+    pied->setContentsMargins(VoletLivres::marge, 10, VoletLivres::marge, 14);
     pied->addWidget(revenir, 1);
     auto *gauche = new QWidget;
-    gauche->setMinimumWidth(largeurMinimaleDuVolet);
     auto *colonne = new QVBoxLayout(gauche);
     colonne->setContentsMargins(0, 0, 0, 0);
     colonne->setSpacing(0);
@@ -150,15 +147,37 @@ void VueLivres::actualiser()
 {
     if (!isVisible())
         return; // up to date again when it shows
-    const TarifsColissimo tarifs = choix_->tarifs(catalogue_, aujourdhui_());
+    choix_->actualiser(catalogue_, aujourdhui_());
+    const TarifsColissimo &tarifs = choix_->tarifs();
     volet_->setTarifs(tarifs);
     enTete_->setSousTitre(TextesBoutons::bilan(catalogue_.livres().size(), volet_->aReporter()));
     const Livre *choisi = volet_->choisi();
+    if (choisi && std::exchange(montre_, choisi->id) != choisi->id)
+        echec_->montrer({}); // it was about another book
     place_->setCurrentIndex(choisi ? 0 : 1);
     if (choisi)
         fiche_->montrer(*choisi, catalogue_.boutons(*choisi, tarifs), tarifs, volet_->aUnSuivant());
+}
+
+// A disabled button would hand the focus to a neighbour that has nothing to do with it.
+void VueLivres::direLesGestes()
+{
+    annuler_->setEnabled(true);
+    retablir_->setEnabled(true);
+    if (annuler_->hasFocus() && historique_.aAnnuler().isEmpty())
+        retablir_->setFocus();
+    else if (retablir_->hasFocus() && historique_.aRetablir().isEmpty())
+        annuler_->setFocus();
     dire(annuler_, tr("Annuler"), historique_.aAnnuler());
     dire(retablir_, tr("Rétablir"), historique_.aRetablir());
+}
+
+bool VueLivres::conclure()
+{
+    echec_->montrer({});
+    if (QWidget *champ = focusWidget(); champ && isAncestorOf(champ))
+        champ->clearFocus();
+    return echec_->isHidden();
 }
 
 // Screen, memory and file agree afterwards, whatever came of it.
@@ -171,14 +190,15 @@ void VueLivres::tenter(const std::function<void()> &geste)
         echec = tr("Modification non enregistrée : %1").arg(erreur.texte());
     }
     echec_->montrer(echec);
-    actualiser();
+    if (!echec.isEmpty())
+        actualiser();
 }
 
 void VueLivres::revenir()
 {
     tenter([this] {
         if (RetourAuxValeurs::accepte(catalogue_.livres(), catalogue_.valeursLivrees(), this))
-            historique_.revenirAuxValeursLivrees(tr("retour aux valeurs d’origine"));
+            historique_.revenirAuxValeursLivrees(TextesGestes::retour());
     });
 }
 

@@ -14,8 +14,8 @@ class ChoixTarifs;
 class EnTete;
 class FicheLivre;
 class ImagesCouvertures;
-class QAction;
 class QStackedWidget;
+class QToolButton;
 class VoletLivres;
 
 // Both sellers' books: their list on the left, the chosen one beside it to edit. Every change is saved at once and can
@@ -27,14 +27,18 @@ class VueLivres : public QWidget
 public:
     VueLivres(Catalogue &catalogue, ImagesCouvertures &images, Aujourdhui aujourdhui, QWidget *parent = nullptr);
 
+    // Ends the edit under way; false when it could not be saved, which the screen says.
+    [[nodiscard]] bool conclure();
+
 protected:
     bool event(QEvent *evenement) override;
 
 private:
     QWidget *gauche();
     QWidget *droite();
-    QAction *commande(const QString &symbole, QKeySequence::StandardKey touches);
+    QToolButton *creerBouton(const QString &symbole, QKeySequence::StandardKey touches);
     void actualiser();
+    void direLesGestes();
     void tenter(const std::function<void()> &geste);
     void revenir();
 
@@ -47,6 +51,7 @@ private:
     FicheLivre *fiche_;
     Alerte *echec_;
     QStackedWidget *place_ = nullptr;
-    QAction *annuler_;
-    QAction *retablir_;
+    qint64 montre_ = 0; // id of the book shown
+    QToolButton *annuler_;
+    QToolButton *retablir_;
 };

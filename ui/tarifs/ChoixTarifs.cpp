@@ -6,42 +6,32 @@
 #include "ui/tarifs/TextesTarifs.h"
 
 #include <QHBoxLayout>
+#include <QRadioButton>
 
-#include <utility>
-
-ChoixTarifs::ChoixTarifs(QWidget *parent) : QWidget(parent), place_(new QHBoxLayout(this))
+// The choice stands from the start, hidden: what is added later would come last in the keyboard's order.
+ChoixTarifs::ChoixTarifs(QWidget *parent)
+    : QWidget(parent), choix_(new ChoixSegmente({tr("En vigueur"), {}}, {.police = font()}))
 {
-    place_->setContentsMargins(0, 0, 0, 0);
+    auto *place = new QHBoxLayout(this);
+    place->setContentsMargins(0, 0, 0, 0);
+    place->addWidget(choix_);
     hide();
-}
-
-TarifsColissimo ChoixTarifs::tarifs(const Catalogue &catalogue, QDate jour)
-{
-    const auto suivants = catalogue.tarifsAVenir(jour);
-    offrir(suivants);
-    return montreLesSuivants_ ? *suivants : catalogue.tarifs(Format::iso(jour));
-}
-
-void ChoixTarifs::offrir(const std::optional<TarifsColissimo> &suivants)
-{
-    const QString offert = suivants ? TextesTarifs::aPartirDu(*suivants) : QString();
-    if (offert == offert_)
-        return;
-    offert_ = offert;
-    montreLesSuivants_ = false;
-    setVisible(suivants.has_value());
-    if (auto *ancien = std::exchange(choix_, nullptr)) {
-        ancien->hide();
-        ancien->deleteLater(); // it may be the one that was just clicked
-    }
-    if (!suivants)
-        return;
-    choix_ = new ChoixSegmente({tr("En vigueur"), offert}, {.police = font()});
-    place_->addWidget(choix_);
     connect(choix_, &ChoixSegmente::choisi, this, [this](int indice) {
         montreLesSuivants_ = indice == 1;
         emit choisi();
     });
-    choix_->montrer(0);
-    choix_->show();
+}
+
+void ChoixTarifs::actualiser(const Catalogue &catalogue, QDate jour)
+{
+    const auto suivants = catalogue.tarifsAVenir(jour);
+    const QString offert = suivants ? TextesTarifs::aPartirDu(*suivants) : QString();
+    if (offert != offert_) {
+        offert_ = offert;
+        montreLesSuivants_ = false;
+        choix_->bouton(1)->setText(offert);
+        choix_->montrer(0);
+        setVisible(suivants.has_value());
+    }
+    tarifs_ = montreLesSuivants_ ? *suivants : catalogue.tarifs(Format::iso(jour));
 }

@@ -7,7 +7,6 @@
 
 class Catalogue;
 class ChoixSegmente;
-class QHBoxLayout;
 
 // Which schedule a screen shows: the one in force, or the next one when there is one to look at.
 class ChoixTarifs : public QWidget
@@ -17,18 +16,18 @@ class ChoixTarifs : public QWidget
 public:
     explicit ChoixTarifs(QWidget *parent = nullptr);
 
-    // The schedule chosen; the choice offers what the catalogue knows on that day.
-    TarifsColissimo tarifs(const Catalogue &catalogue, QDate jour);
+    // Offers what the catalogue knows on that day; when that is something else, the schedule in force is shown again.
+    void actualiser(const Catalogue &catalogue, QDate jour);
+    [[nodiscard]] const TarifsColissimo &tarifs() const { return tarifs_; }
     [[nodiscard]] bool montreLesSuivants() const { return montreLesSuivants_; }
 
 signals:
+    // By the user; to be followed by `actualiser`.
     void choisi();
 
 private:
-    void offrir(const std::optional<TarifsColissimo> &suivants);
-
-    QHBoxLayout *place_;
-    ChoixSegmente *choix_ = nullptr; // null without a next schedule
-    QString offert_;                 // its second option
+    ChoixSegmente *choix_;
+    QString offert_; // its second option; empty: there is none
     bool montreLesSuivants_ = false;
+    TarifsColissimo tarifs_;
 };

@@ -142,7 +142,8 @@ void VueTarifs::actualiser()
     if (!isVisible())
         return; // up to date again when it shows
     const QDate jour = aujourdhui_();
-    const TarifsColissimo tarifs = choix_->tarifs(catalogue_, jour);
+    choix_->actualiser(catalogue_, jour);
+    const TarifsColissimo &tarifs = choix_->tarifs();
     enTete_->setSousTitre(choix_->montreLesSuivants() ? TextesTarifs::aPartirDu(tarifs)
                                                       : TextesTarifs::enVigueur(tarifs));
     laPoste_->montrer(TextesVerifications::laPoste(verifications_, catalogue_, jour));
