@@ -3,28 +3,42 @@
 #include <QJsonDocument>
 #include <QJsonParseError>
 
+namespace {
+
+QString raison(QJsonParseError::ParseError erreur)
+{
+    switch (erreur) {
+    case QJsonParseError::UnterminatedObject:
+        return QStringLiteral("virgule, guillemet ou accolade manquante");
+    case QJsonParseError::MissingNameSeparator:
+        return QStringLiteral("deux-points manquant");
+    case QJsonParseError::UnterminatedArray:
+    case QJsonParseError::MissingValueSeparator:
+        return QStringLiteral("virgule ou crochet manquant");
+    case QJsonParseError::UnterminatedString:
+        return QStringLiteral("guillemet fermant manquant");
+    case QJsonParseError::MissingObject:
+        return QStringLiteral("virgule en trop");
+    case QJsonParseError::IllegalUTF8String:
+        return QStringLiteral("texte qui n’est pas en UTF-8");
+    case QJsonParseError::GarbageAtEnd:
+        return QStringLiteral("texte en trop après la fin");
+    default:
+        return QStringLiteral("valeur illisible ou absente");
+    }
+}
+
+QString placeEtRaison(const QByteArray &octets, const QJsonParseError &erreur)
+{
+    const QByteArray lus = octets.left(erreur.offset);
+    const qsizetype colonne = QString::fromUtf8(lus.mid(lus.lastIndexOf('\n') + 1)).size();
+    return QStringLiteral("ligne %1, colonne %2 : %3")
+        .arg(QString::number(lus.count('\n') + 1), QString::number(qMax<qsizetype>(1, colonne)), raison(erreur.error));
+}
+
+} // namespace
+
 namespace Json {
-
-QString Lieu::chemin() const
-{
-    if (!parent_)
-        return nom_;
-    return indice_ >= 0 ? QStringLiteral("%1[%2]").arg(parent_->chemin(), QString::number(indice_))
-                        : QStringLiteral("%1.%2").arg(parent_->chemin(), nom_);
-}
-
-void Lieu::refuser(const QString &raison) const
-{
-    throw Erreur(QStringLiteral("%1 : %2").arg(chemin(), raison));
-}
-
-void Lieu::exiger(bool bonne, const QJsonValue &json, const QString &attendu) const
-{
-    if (json.isUndefined())
-        refuser(QStringLiteral("valeur manquante"));
-    if (!bonne)
-        refuser(attendu);
-}
 
 void lire(const QJsonValue &json, const Lieu &lieu, qint64 &valeur)
 {
@@ -55,14 +69,12 @@ void lire(const QJsonValue &json, const Lieu &lieu, QUrl &valeur)
         lieu.refuser(QStringLiteral("adresse web complète attendue"));
 }
 
-QJsonValue analyser(const QByteArray &octets, const QString &nom)
+QJsonValue analyser(const QByteArray &octets, const Lieu &fichier)
 {
     QJsonParseError erreur;
     const QJsonDocument document = QJsonDocument::fromJson(octets, &erreur);
-    if (document.isNull()) {
-        const auto ligne = octets.left(erreur.offset).count('\n') + 1;
-        Lieu(nom).refuser(QStringLiteral("JSON illisible, ligne %1").arg(ligne));
-    }
+    if (document.isNull())
+        fichier.refuser(QStringLiteral("JSON illisible, ") + placeEtRaison(octets, erreur));
     return document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
 }
 

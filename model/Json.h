@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Echec.h"
+#include "model/LieuJson.h"
 #include "model/Quantite.h"
 
 #include <QByteArray>
@@ -51,33 +51,6 @@ concept EstEnregistrement = !std::same_as<decltype(champs<T>), const std::nullpt
 
 template <typename T>
 concept EstEnumeration = std::is_enum_v<T> && !std::same_as<decltype(valeursBrutes<T>), const std::nullptr_t>;
-
-// Says where and what was expected, in words for the user: "livres[3].prix : entier attendu".
-class Erreur : public Echec
-{
-public:
-    using Echec::Echec;
-};
-
-// The way from the root of a file to the value being read; it lives on the stack of the calls that descend.
-class Lieu
-{
-public:
-    explicit Lieu(QString racine) : nom_(std::move(racine)) {}
-    Lieu(const Lieu &parent, QString cle) : parent_(&parent), nom_(std::move(cle)) {}
-    Lieu(const Lieu &parent, qsizetype indice) : parent_(&parent), indice_(indice) {}
-
-    [[noreturn]] void refuser(const QString &raison) const;
-    // Refuses a value of the wrong kind; one that is not there reads better as missing.
-    void exiger(bool bonne, const QJsonValue &json, const QString &attendu) const;
-
-private:
-    [[nodiscard]] QString chemin() const;
-
-    const Lieu *parent_ = nullptr;
-    QString nom_;
-    qsizetype indice_ = -1;
-};
 
 template <EstEnumeration Enum>
 QString brut(Enum cas)
@@ -146,8 +119,8 @@ QJsonValue ecrire(const QList<T> &valeur);
 template <typename T>
 QJsonValue ecrire(const QMap<QString, T> &valeur);
 
-// Throws Erreur when the bytes are not JSON; `nom` heads its text.
-QJsonValue analyser(const QByteArray &octets, const QString &nom);
+// Throws Erreur when the bytes are not JSON.
+QJsonValue analyser(const QByteArray &octets, const Lieu &fichier);
 // Indented, keys sorted, "/" left as it is.
 QByteArray rediger(const QJsonValue &json);
 
@@ -155,8 +128,9 @@ QByteArray rediger(const QJsonValue &json);
 template <typename T>
 T decoder(const QByteArray &octets, const QString &nom)
 {
+    const Lieu racine(nom);
     T valeur{};
-    lire(analyser(octets, nom), Lieu(nom), valeur);
+    lire(analyser(octets, racine), racine, valeur);
     return valeur;
 }
 
@@ -188,6 +162,17 @@ void lire(const QJsonValue &json, const Lieu &lieu, Enum &valeur)
     valeur = *cas;
 }
 
+// Reading passes over such a key: a misspelled optional field would be lost without a word.
+template <EstEnregistrement Enregistrement>
+void noterClesInconnues(const QJsonObject &objet, const Lieu &lieu)
+{
+    for (const QString &cle : objet.keys()) {
+        const auto nommee = [&](const auto &...champ) { return ((cle == QLatin1String(champ.cle)) || ...); };
+        if (!std::apply(nommee, champs<Enregistrement>))
+            Lieu(lieu, cle).noter(QStringLiteral("clé inconnue"));
+    }
+}
+
 template <EstEnregistrement Enregistrement>
 void lire(const QJsonValue &json, const Lieu &lieu, Enregistrement &valeur)
 {
@@ -195,9 +180,11 @@ void lire(const QJsonValue &json, const Lieu &lieu, Enregistrement &valeur)
     const QJsonObject objet = json.toObject();
     const auto lireChamp = [&](const auto &champ) {
         const QString cle = QString::fromLatin1(champ.cle);
-        lire(objet.value(cle), Lieu(lieu, cle), valeur.*champ.membre);
+        lieu.tenter([&] { lire(objet.value(cle), Lieu(lieu, cle), valeur.*champ.membre); });
     };
     std::apply([&](const auto &...champ) { (lireChamp(champ), ...); }, champs<Enregistrement>);
+    if (lieu.collecte())
+        noterClesInconnues<Enregistrement>(objet, lieu);
 }
 
 template <typename T>
@@ -216,7 +203,7 @@ void lire(const QJsonValue &json, const Lieu &lieu, QList<T> &valeur)
     const QJsonArray liste = json.toArray();
     valeur.resize(liste.size());
     for (qsizetype i = 0; i < liste.size(); ++i)
-        lire(liste.at(i), Lieu(lieu, i), valeur[i]);
+        lieu.tenter([&] { lire(liste.at(i), Lieu(lieu, i), valeur[i]); });
 }
 
 template <typename T>
@@ -225,7 +212,7 @@ void lire(const QJsonValue &json, const Lieu &lieu, QMap<QString, T> &valeur)
     lieu.exiger(json.isObject(), json, QStringLiteral("objet attendu"));
     const QJsonObject objet = json.toObject();
     for (auto entree = objet.begin(); entree != objet.end(); ++entree)
-        lire(entree.value(), Lieu(lieu, entree.key()), valeur[entree.key()]);
+        lieu.tenter([&] { lire(entree.value(), Lieu(lieu, entree.key()), valeur[entree.key()]); });
 }
 
 template <typename Unite>

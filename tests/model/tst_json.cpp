@@ -58,7 +58,7 @@ void TestJson::refusDitOu_data()
         "livres[1].prixPaypal.france : entier attendu");
     cas("adresse relative", R"("id":7)", R"("id":7,"lienPaypal":"/ici")",
         "livres[1].lienPaypal : adresse web complète attendue");
-    cas("JSON coupé", "[1,2,3]}", "[1,2", "livres : JSON illisible, ligne 4");
+    cas("JSON coupé", "[1,2,3]}", "[1,2", "livres : JSON illisible, ligne 4, colonne 102 : virgule, guillemet ou accolade manquante");
 }
 
 void TestJson::refusDitOu()

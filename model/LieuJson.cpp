@@ -1,0 +1,52 @@
+#include "model/LieuJson.h"
+
+#include <algorithm>
+
+namespace Json {
+
+void Refus::noter(const QString &lieu, const QString &raison)
+{
+    if (couvre(lieu))
+        return;
+    lieux_.append(lieu);
+    textes_.append(QStringLiteral("%1 : %2").arg(lieu, raison));
+}
+
+bool Refus::couvre(const QString &lieu) const
+{
+    return std::ranges::any_of(lieux_, [&](const QString &refuse) {
+        const QString suite = lieu.startsWith(refuse) ? lieu.mid(refuse.size(), 1) : QStringLiteral("x");
+        return suite.isEmpty() || suite == QLatin1String(".") || suite == QLatin1String("[");
+    });
+}
+
+QString Lieu::chemin() const
+{
+    if (!parent_)
+        return nom_;
+    return indice_ >= 0 ? QStringLiteral("%1[%2]").arg(parent_->chemin(), QString::number(indice_))
+                        : QStringLiteral("%1.%2").arg(parent_->chemin(), nom_);
+}
+
+void Lieu::refuser(const QString &raison) const
+{
+    if (refus_)
+        refus_->noter(chemin(), raison);
+    throw Erreur(QStringLiteral("%1 : %2").arg(chemin(), raison));
+}
+
+void Lieu::exiger(bool bonne, const QJsonValue &json, const QString &attendu) const
+{
+    if (json.isUndefined())
+        refuser(QStringLiteral("valeur manquante"));
+    if (!bonne)
+        refuser(attendu);
+}
+
+void Lieu::noter(const QString &raison) const
+{
+    Q_ASSERT(refus_);
+    refus_->noter(chemin(), raison);
+}
+
+} // namespace Json

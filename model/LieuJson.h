@@ -1,0 +1,74 @@
+#pragma once
+
+#include "model/Echec.h"
+
+#include <QJsonValue>
+#include <QString>
+#include <QStringList>
+
+#include <utility>
+
+namespace Json {
+
+// Says where and what was expected, in words for the user: "livres[3].prix : entier attendu".
+class Erreur : public Echec
+{
+public:
+    using Echec::Echec;
+};
+
+// What a reading that goes on after a mistake has to say of one file. One mistake a place: what repeats it, or lies
+// inside a refused value, adds nothing.
+class Refus
+{
+public:
+    void noter(const QString &lieu, const QString &raison);
+    [[nodiscard]] const QStringList &textes() const { return textes_; }
+
+private:
+    [[nodiscard]] bool couvre(const QString &lieu) const;
+
+    QStringList lieux_;
+    QStringList textes_;
+};
+
+// The way from the root of a file to the value being read; it lives on the stack of the calls that descend.
+class Lieu
+{
+public:
+    // With a list of refusals, which must outlive the place, reading goes on after a mistake.
+    explicit Lieu(QString racine, Refus *refus = nullptr) : refus_(refus), nom_(std::move(racine)) {}
+    Lieu(const Lieu &parent, QString cle) : parent_(&parent), refus_(parent.refus_), nom_(std::move(cle)) {}
+    Lieu(const Lieu &parent, qsizetype indice) : parent_(&parent), refus_(parent.refus_), indice_(indice) {}
+
+    [[nodiscard]] QString chemin() const;
+
+    // Throws Erreur.
+    [[noreturn]] void refuser(const QString &raison) const;
+    // Refuses a value of the wrong kind; one that is not there reads better as missing.
+    void exiger(bool bonne, const QJsonValue &json, const QString &attendu) const;
+
+    // Whether refusals are collected; else the first one ends the reading.
+    [[nodiscard]] bool collecte() const { return refus_; }
+    // A mistake that does not keep the value from being read. Only where refusals are collected.
+    void noter(const QString &raison) const;
+    // Reads one of several values, so that its refusal does not hide the others' where refusals are collected.
+    template <typename Lecture>
+    void tenter(Lecture lecture) const
+    {
+        if (!collecte())
+            return lecture();
+        try {
+            lecture();
+        } catch (const Erreur &) { // noted where it was refused
+        }
+    }
+
+private:
+    const Lieu *parent_ = nullptr;
+    Refus *refus_ = nullptr;
+    QString nom_;
+    qsizetype indice_ = -1;
+};
+
+} // namespace Json
