@@ -8,32 +8,58 @@
 
 Ressources Ressources::duProgramme()
 {
-    const QDir programme(QCoreApplication::applicationDirPath());
+    return autourDe(QDir(QCoreApplication::applicationDirPath()));
+}
+
+Ressources Ressources::autourDe(const QDir &programme)
+{
+    const QFileInfo propres(programme.filePath(QStringLiteral("../share/quillet-donnees")));
+    if (propres.exists() || propres.isSymLink()) { // a link may lead to a disk that is not there today
+        Ressources ressources(QDir(QDir::cleanPath(propres.absoluteFilePath())));
+        ressources.duVendeur_ = true;
+        return ressources;
+    }
     for (const QString &dossier : {QStringLiteral("../share/quillet"), QStringLiteral("resources")})
         if (programme.exists(dossier + QStringLiteral("/livres.json")))
             return Ressources(QDir(programme.filePath(dossier)));
     throw RessourceIllisible(QStringLiteral("livres.json : fichier introuvable"));
 }
 
+QStringList Ressources::nomsDesTarifs() const
+{
+    QStringList noms =
+        dossier_.entryList({TarifsColissimo::motifDeFichier()}, QDir::Files | QDir::CaseSensitive, QDir::Name);
+    for (QString &nom : noms)
+        nom = QFileInfo(nom).completeBaseName();
+    return noms;
+}
+
 QList<TarifsColissimo> Ressources::tarifs() const
 {
     QList<TarifsColissimo> tarifs;
-    const QStringList fichiers =
-        dossier_.entryList({TarifsColissimo::motifDeFichier()}, QDir::Files | QDir::CaseSensitive, QDir::Name);
-    for (const QString &fichier : fichiers)
-        tarifs.append(lire<TarifsColissimo>(QFileInfo(fichier).completeBaseName()));
+    for (const QString &nom : nomsDesTarifs())
+        tarifs.append(lire<TarifsColissimo>(nom));
     if (tarifs.isEmpty())
-        throw RessourceIllisible(QStringLiteral("tarifs-colissimo-….json : fichier introuvable"));
+        refuser(QStringLiteral("tarifs-colissimo-….json : fichier introuvable"));
     return tarifs;
 }
 
-QByteArray Ressources::octets(const QString &fichier) const
+QByteArray Ressources::octets(const Json::Lieu &fichier) const
 {
-    QFile source(dossier_.filePath(fichier));
+    QFile source(dossier_.filePath(fichier.chemin()));
     QByteArray contenu;
     if (source.open(QIODevice::ReadOnly))
         contenu = source.readAll();
     if (source.error() != QFile::NoError)
-        throw RessourceIllisible(fichier + QStringLiteral(" : ") + CauseSysteme::enFrancais(source.errorString()));
+        fichier.refuser(CauseSysteme::enFrancais(source.errorString()));
     return contenu;
+}
+
+void Ressources::refuser(const QString &raison) const
+{
+    if (!duVendeur_)
+        throw RessourceIllisible(raison);
+    const QString conseil = QStringLiteral("%1\n\nCe sont vos propres données, dans %2.\nPour voir tout ce qui est à "
+                                           "corriger, dans un terminal :\nquillet --verifier \"%2\"");
+    throw RessourceIllisible(conseil.arg(raison, dossier_.path()));
 }

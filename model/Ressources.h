@@ -6,39 +6,68 @@
 #include <QDir>
 #include <QString>
 
-// Shipped data that cannot be read: the program cannot go on.
+#include <optional>
+
+// Data that cannot be read: the program cannot go on.
 class RessourceIllisible : public Echec
 {
 public:
     explicit RessourceIllisible(const QString &raison) : Echec(QStringLiteral("Ressource illisible : ") + raison) {}
 };
 
-// The read-only folder of shipped data.
+// The read-only folder of books, covers, destinations, settings and schedules.
 class Ressources
 {
 public:
     explicit Ressources(const QDir &dossier) : dossier_(dossier) {}
     // Found relative to the executable; throws RessourceIllisible when there is none.
     static Ressources duProgramme();
+    // The same around any folder of a program: the sellers' own data as soon as they are there, whatever their state,
+    // for an invoice must never leave with the example's names; else the shipped ones.
+    static Ressources autourDe(const QDir &programme);
 
     // Reads `nom`.json; throws RessourceIllisible.
     template <typename T>
     [[nodiscard]] T lire(const QString &nom) const
     {
         try {
-            return Json::decoder<T>(octets(nom + QStringLiteral(".json")), nom);
+            return decoder<T>(nom, nullptr);
         } catch (const Json::Erreur &erreur) {
-            throw RessourceIllisible(erreur.texte());
+            refuser(erreur.texte());
         }
     }
 
-    // Every shipped schedule, by file name; at least one, or throws RessourceIllisible.
+    // Reads what can be read of `nom`.json and collects all the rest; none when nothing can be read.
+    template <typename T>
+    [[nodiscard]] std::optional<T> examiner(const QString &nom, Json::Refus &refus) const
+    {
+        try {
+            return decoder<T>(nom, &refus);
+        } catch (const Json::Erreur &) { // noted where it was refused
+            return std::nullopt;
+        }
+    }
+
+    // Every schedule, by file name; at least one, or throws RessourceIllisible.
     [[nodiscard]] QList<TarifsColissimo> tarifs() const;
+    // Their files, without ".json"; maybe none.
+    [[nodiscard]] QStringList nomsDesTarifs() const;
     // Path of a file or folder in here, whether it exists or not.
     [[nodiscard]] QString chemin(const QString &nom) const { return dossier_.filePath(nom); }
 
 private:
-    [[nodiscard]] QByteArray octets(const QString &fichier) const;
+    template <typename T>
+    [[nodiscard]] T decoder(const QString &nom, Json::Refus *refus) const
+    {
+        const Json::Lieu fichier(nom + QStringLiteral(".json"), refus);
+        const QJsonValue json = Json::analyser(octets(fichier), fichier);
+        T valeur{};
+        Json::lire(json, Json::Lieu(nom, refus), valeur);
+        return valeur;
+    }
+    [[nodiscard]] QByteArray octets(const Json::Lieu &fichier) const;
+    [[noreturn]] void refuser(const QString &raison) const;
 
     QDir dossier_;
+    bool duVendeur_ = false;
 };
