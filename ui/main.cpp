@@ -1,5 +1,6 @@
 #include "ui/Fenetre.h"
 #include "ui/InstanceUnique.h"
+#include "ui/LigneDeCommande.h"
 #include "ui/QuilletApp.h"
 
 #include <QApplication>
@@ -28,10 +29,22 @@ int ouvrir()
     }
 }
 
+QStringList enTextes(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return arguments;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
+    if (const auto reponse = LigneDeCommande::repondre(enTextes(argc, argv))) {
+        std::fputs(reponse->texte.toUtf8().constData(), reponse->code == 2 ? stderr : stdout);
+        return reponse->code;
+    }
     QApplication programme(argc, argv);
     QuilletApp::preparer();
     const int code = ouvrir();

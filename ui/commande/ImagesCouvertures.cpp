@@ -1,5 +1,7 @@
 #include "ui/commande/ImagesCouvertures.h"
 
+#include "model/Couvertures.h"
+
 #include <QElapsedTimer>
 #include <QImageReader>
 
@@ -10,12 +12,6 @@ namespace {
 constexpr int memoireKio = 64 * 1024;
 constexpr int tempsDeLecture = 8; // ms
 
-QString nomDeBase(const QString &fichier)
-{
-    const qsizetype point = fichier.lastIndexOf(u'.');
-    return point > 0 ? fichier.left(point) : fichier;
-}
-
 QString cle(const QString &couverture, const QSize &pixels)
 {
     return QStringLiteral("%1/%2x%3")
@@ -25,17 +21,15 @@ QString cle(const QString &couverture, const QSize &pixels)
 } // namespace
 
 ImagesCouvertures::ImagesCouvertures(const QDir &dossier, QObject *parent)
-    : QObject(parent), dossier_(dossier), images_(memoireKio)
+    : QObject(parent), dossier_(dossier), fichiers_(Couvertures::fichiers(dossier)), images_(memoireKio)
 {
-    for (const QString &fichier : dossier_.entryList(QDir::Files))
-        fichiers_.insert(nomDeBase(fichier), fichier);
     lecture_.setSingleShot(true);
     connect(&lecture_, &QTimer::timeout, this, &ImagesCouvertures::lireLesSuivantes);
 }
 
 QImage ImagesCouvertures::image(const QString &couverture, const QSize &pixels)
 {
-    if (!fichiers_.contains(nomDeBase(couverture)) || pixels.isEmpty())
+    if (!fichiers_.contains(Couvertures::nom(couverture)) || pixels.isEmpty())
         return {};
     if (const QImage *lue = images_.object(cle(couverture, pixels)))
         return *lue;
@@ -60,7 +54,7 @@ void ImagesCouvertures::lireUneFois(const Demande &demande)
 {
     const QImage image = lire(demande);
     if (image.isNull())
-        fichiers_.remove(nomDeBase(demande.couverture)); // a damaged picture: the coloured cover stands in
+        fichiers_.remove(Couvertures::nom(demande.couverture)); // a damaged picture: the coloured cover stands in
     else
         images_.insert(cle(demande.couverture, demande.pixels), new QImage(image),
                        std::max<qsizetype>(1, image.sizeInBytes() / 1024));
@@ -69,7 +63,7 @@ void ImagesCouvertures::lireUneFois(const Demande &demande)
 
 QImage ImagesCouvertures::lire(const Demande &demande) const
 {
-    QImageReader lecteur(dossier_.filePath(fichiers_.value(nomDeBase(demande.couverture))));
+    QImageReader lecteur(dossier_.filePath(fichiers_.value(Couvertures::nom(demande.couverture))));
     const QSize originale = lecteur.size();
     if (originale.isEmpty())
         return {};

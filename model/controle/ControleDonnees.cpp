@@ -1,0 +1,114 @@
+#include "model/controle/ControleDonnees.h"
+
+#include "model/Couvertures.h"
+#include "model/Ressources.h"
+#include "model/controle/Regles.h"
+#include "model/controle/ReglesCommunes.h"
+
+#include <QFileInfo>
+
+#include <optional>
+#include <vector>
+
+namespace {
+
+// None: it can be entered.
+std::optional<QString> obstacle(const QDir &dossier)
+{
+    const QFileInfo info(dossier.path());
+    if (!info.exists())
+        return QStringLiteral("dossier introuvable");
+    if (!info.isDir())
+        return QStringLiteral("ce n’est pas un dossier");
+    if (!info.isReadable() || !info.isExecutable())
+        return QStringLiteral("l’accès n’est pas permis");
+    return std::nullopt;
+}
+
+// One file: what could be read of it, and what is wrong with it.
+template <typename T>
+class FichierControle
+{
+public:
+    FichierControle(const Ressources &ressources, const QString &nom)
+        : nom_(nom), lu_(ressources.examiner<T>(nom, refus_)), valeur_(lu_.value_or(T{}))
+    {
+    }
+
+    [[nodiscard]] const T &valeur() const { return valeur_; }
+    [[nodiscard]] const QString &nom() const { return nom_; }
+    [[nodiscard]] const QStringList &erreurs() const { return refus_.textes(); }
+
+    // Nothing to say of the content of a file that could not be read at all.
+    template <typename Regle, typename... Reperes>
+    void controler(Regle regle, const Reperes &...reperes)
+    {
+        if (!lu_)
+            return;
+        const Json::Lieu racine(nom_, &refus_);
+        ReglesCommunes::controler(valeur_, racine);
+        regle(valeur_, reperes..., racine);
+    }
+
+private:
+    QString nom_;
+    Json::Refus refus_;
+    std::optional<T> lu_;
+    T valeur_;
+};
+
+QString compte(qsizetype nombre, const QString &un, const QString &plusieurs)
+{
+    return QStringLiteral("%1 %2").arg(QString::number(nombre), nombre > 1 ? plusieurs : un);
+}
+
+} // namespace
+
+ControleDonnees ControleDonnees::de(const QDir &dossier)
+{
+    if (const auto raison = obstacle(dossier))
+        return {.erreurs = {QStringLiteral("%1 : %2").arg(QDir::toNativeSeparators(dossier.path()), *raison)}};
+
+    const Ressources ressources(dossier);
+    FichierControle<QList<Livre>> livres(ressources, QStringLiteral("livres"));
+    FichierControle<QList<Destination>> destinations(ressources, QStringLiteral("destinations"));
+    FichierControle<Reglages> reglages(ressources, QStringLiteral("reglages"));
+    const QStringList noms = ressources.nomsDesTarifs();
+    std::vector<FichierControle<TarifsColissimo>> tarifs;
+    for (const QString &nom : noms)
+        tarifs.emplace_back(ressources, nom);
+
+    Regles::Jeux jeux;
+    for (FichierControle<TarifsColissimo> &jeu : tarifs) {
+        jeu.controler(Regles::tarifs, jeux);
+        jeux.append({jeu.nom(), jeu.valeur()});
+    }
+    reglages.controler(Regles::reglages);
+    destinations.controler(Regles::destinations, jeux);
+    livres.controler(Regles::livres,
+                     Regles::Reperes{ReglesCommunes::codes(destinations.valeur()), reglages.valeur().vendeurs.keys(),
+                                     Couvertures::fichiers(QDir(ressources.chemin(QStringLiteral("couvertures"))))});
+
+    ControleDonnees controle{
+        .livres = livres.valeur().size(), .tarifs = noms.size(), .destinations = destinations.valeur().size()};
+    controle.erreurs = livres.erreurs() + destinations.erreurs() + reglages.erreurs();
+    for (const FichierControle<TarifsColissimo> &jeu : tarifs)
+        controle.erreurs += jeu.erreurs();
+    if (noms.isEmpty())
+        controle.erreurs.append(QStringLiteral("tarifs-colissimo-….json : fichier introuvable"));
+    return controle;
+}
+
+QString ControleDonnees::bilan() const
+{
+    if (erreurs.isEmpty())
+        return QStringLiteral("%1, %2, %3 : rien à corriger.")
+            .arg(compte(livres, QStringLiteral("livre"), QStringLiteral("livres")),
+                 compte(tarifs, QStringLiteral("grille tarifaire"), QStringLiteral("grilles tarifaires")),
+                 compte(destinations, QStringLiteral("destination"), QStringLiteral("destinations")));
+    const QString bilan =
+        compte(erreurs.size(), QStringLiteral("erreur"), QStringLiteral("erreurs")) + QStringLiteral(" à corriger.");
+    const bool deListe = erreurs.join(QString()).contains(u'[');
+    return deListe ? bilan + QStringLiteral(" Les listes se comptent à partir de 0 : livres[0] est le premier livre.")
+                   : bilan;
+}

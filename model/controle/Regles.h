@@ -1,0 +1,37 @@
+#pragma once
+
+#include "model/Destination.h"
+#include "model/LieuJson.h"
+#include "model/Livre.h"
+#include "model/Reglages.h"
+#include "model/Tarifs.h"
+
+#include <QHash>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <utility>
+
+// What the content of each file must keep to, beyond ReglesCommunes: what the program takes for granted, and what would
+// go wrong without a word. Each notes its mistakes at their place.
+namespace Regles {
+
+// Schedules by the name of their file.
+using Jeux = QList<std::pair<QString, TarifsColissimo>>;
+
+// What books name of the other files; an empty list says that there is nothing to compare with.
+struct Reperes
+{
+    QStringList destinations;            // codes
+    QStringList vendeurs;                // raw values
+    QHash<QString, QString> couvertures; // files by name
+};
+
+// `precedents`: the schedules of the files before this one.
+void tarifs(const TarifsColissimo &tarifs, const Jeux &precedents, const Json::Lieu &lieu);
+void reglages(const Reglages &reglages, const Json::Lieu &lieu);
+void destinations(const QList<Destination> &destinations, const Jeux &tarifs, const Json::Lieu &lieu);
+void livres(const QList<Livre> &livres, const Reperes &reperes, const Json::Lieu &lieu);
+
+} // namespace Regles

@@ -1,0 +1,113 @@
+#pragma once
+
+#include "model/Json.h"
+#include "model/Livre.h"
+
+#include <QDate>
+#include <QHash>
+
+// What holds for every value of its kind, wherever it stands: texts say something, quantities are not negative, links
+// open (the program follows https only).
+namespace ReglesCommunes {
+
+// The one text that a record may leave empty.
+template <typename Enregistrement>
+inline constexpr const char *texteFacultatif = "";
+template <>
+inline constexpr const char *texteFacultatif<Livre> = "couverture"; // a book without picture
+
+template <typename T>
+void controler(const T &, const Json::Lieu &)
+{
+}
+
+inline void controler(const QString &texte, const Json::Lieu &lieu)
+{
+    if (texte.trimmed().isEmpty())
+        lieu.noter(QStringLiteral("texte vide"));
+}
+
+inline void controler(const QUrl &adresse, const Json::Lieu &lieu)
+{
+    if (adresse.scheme() != QLatin1String("https"))
+        lieu.noter(QStringLiteral("adresse https attendue"));
+}
+
+template <typename Unite>
+void controler(const Quantite<Unite> &quantite, const Json::Lieu &lieu)
+{
+    if (quantite < Quantite<Unite>{})
+        lieu.noter(QStringLiteral("nombre négatif"));
+}
+
+template <Json::EstEnregistrement Enregistrement>
+void controler(const Enregistrement &valeur, const Json::Lieu &lieu);
+template <typename T>
+void controler(const QList<T> &valeurs, const Json::Lieu &lieu);
+template <typename T>
+void controler(const QMap<QString, T> &valeurs, const Json::Lieu &lieu);
+
+template <typename T>
+void controler(const std::optional<T> &valeur, const Json::Lieu &lieu)
+{
+    if (valeur)
+        controler(*valeur, lieu);
+}
+
+template <Json::EstEnregistrement Enregistrement>
+void controler(const Enregistrement &valeur, const Json::Lieu &lieu)
+{
+    const auto controlerChamp = [&](const auto &champ) {
+        if (QLatin1String(champ.cle) != QLatin1String(texteFacultatif<Enregistrement>))
+            controler(valeur.*champ.membre, Json::Lieu(lieu, QString::fromLatin1(champ.cle)));
+    };
+    std::apply([&](const auto &...champ) { (controlerChamp(champ), ...); }, Json::champs<Enregistrement>);
+}
+
+template <typename T>
+void controler(const QList<T> &valeurs, const Json::Lieu &lieu)
+{
+    for (qsizetype i = 0; i < valeurs.size(); ++i)
+        controler(valeurs[i], Json::Lieu(lieu, i));
+}
+
+template <typename T>
+void controler(const QMap<QString, T> &valeurs, const Json::Lieu &lieu)
+{
+    for (auto entree = valeurs.begin(); entree != valeurs.end(); ++entree)
+        controler(entree.value(), Json::Lieu(lieu, entree.key()));
+}
+
+// A day of the calendar, as schedules and fees write it.
+inline void jour(const QString &texte, const Json::Lieu &lieu)
+{
+    if (QDate::fromString(texte, Qt::ISODate).toString(Qt::ISODate) != texte)
+        lieu.noter(QStringLiteral("jour attendu, de la forme 2026-01-31"));
+}
+
+// The program takes the first of two: the second would never be found.
+template <typename T, typename Valeur>
+void sansDoublon(const QList<T> &liste, const char *cle, Valeur T::*membre, const Json::Lieu &lieu)
+{
+    QHash<Valeur, qsizetype> premiers;
+    for (qsizetype i = 0; i < liste.size(); ++i) {
+        const auto premier = premiers.constFind(liste[i].*membre);
+        if (premier == premiers.constEnd())
+            premiers.insert(liste[i].*membre, i);
+        else
+            Json::Lieu(Json::Lieu(lieu, i), QString::fromLatin1(cle))
+                .noter(QStringLiteral("déjà pris par %1").arg(Json::Lieu(lieu, *premier).chemin()));
+    }
+}
+
+// Every code of a list; none as soon as one is empty, for it may be the one that others name.
+template <typename T>
+QStringList codes(const QList<T> &liste)
+{
+    QStringList codes;
+    for (const T &element : liste)
+        codes.append(element.code);
+    return codes.contains(QString()) ? QStringList() : codes;
+}
+
+} // namespace ReglesCommunes

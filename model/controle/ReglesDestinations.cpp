@@ -1,0 +1,36 @@
+#include "model/Commande.h"
+#include "model/controle/Regles.h"
+#include "model/controle/ReglesCommunes.h"
+
+namespace {
+
+QStringList jeuxSans(const QString &grille, const Regles::Jeux &jeux)
+{
+    QStringList noms;
+    for (const auto &[nom, tarifs] : jeux)
+        if (const QStringList codes = ReglesCommunes::codes(tarifs.grilles);
+            !codes.isEmpty() && !codes.contains(grille))
+            noms.append(nom);
+    return noms;
+}
+
+} // namespace
+
+void Regles::destinations(const QList<Destination> &destinations, const Jeux &tarifs, const Json::Lieu &lieu)
+{
+    ReglesCommunes::sansDoublon(destinations, "code", &Destination::code, lieu);
+    for (qsizetype i = 0; i < destinations.size(); ++i) {
+        const Destination &destination = destinations[i];
+        const Json::Lieu place(lieu, i);
+        if (const QStringList jeux = jeuxSans(destination.grille, tarifs); !jeux.isEmpty())
+            Json::Lieu(place, QStringLiteral("grille"))
+                .noter(QStringLiteral("pas de grille « %1 » dans %2")
+                           .arg(destination.grille, jeux.join(QStringLiteral(", "))));
+        if (destination.douane && destination.douaneSauf)
+            Json::Lieu(place, QStringLiteral("douaneSauf")).noter(QStringLiteral("sans effet, douane étant true"));
+    }
+    const QStringList codes = ReglesCommunes::codes(destinations);
+    const QString deDepart = Commande().codeDestination();
+    if (codes.size() == destinations.size() && !codes.contains(deDepart))
+        lieu.noter(QStringLiteral("aucune n’a le code « %1 », celui d’une nouvelle commande").arg(deDepart));
+}

@@ -1,0 +1,73 @@
+#include "model/Couvertures.h"
+#include "model/controle/NumeroDeControle.h"
+#include "model/controle/Regles.h"
+#include "model/controle/ReglesCommunes.h"
+
+#include <QFileInfo>
+
+namespace {
+
+using Json::Lieu;
+using Regles::Reperes;
+
+void couverture(const QString &couverture, const QHash<QString, QString> &fichiers, const Lieu &lieu)
+{
+    static const QStringList formats{QStringLiteral("svg"),  QStringLiteral("png"), QStringLiteral("jpg"),
+                                     QStringLiteral("jpeg"), QStringLiteral("gif"), QStringLiteral("bmp")};
+    if (couverture.isEmpty())
+        return;
+    const QString fichier = fichiers.value(Couvertures::nom(couverture));
+    if (fichier.isEmpty())
+        lieu.noter(QStringLiteral("pas d’image « %1 » dans couvertures").arg(couverture));
+    else if (!formats.contains(QFileInfo(fichier).suffix().toLower()))
+        lieu.noter(
+            QStringLiteral("couvertures/%1 n’est pas une image %2").arg(fichier, formats.join(QStringLiteral(", "))));
+}
+
+void teinte(const QList<qint64> &teinte, const Lieu &lieu)
+{
+    if (teinte.size() != 3)
+        lieu.noter(QStringLiteral("trois nombres attendus : rouge, vert, bleu"));
+    for (qsizetype i = 0; i < teinte.size(); ++i)
+        if (teinte[i] < 0 || teinte[i] > 255)
+            Lieu(lieu, i).noter(QStringLiteral("nombre de 0 à 255 attendu"));
+}
+
+void prixParDestination(const std::optional<PrixParDestination> &prix, const QStringList &codes, const Lieu &lieu)
+{
+    if (!prix || codes.isEmpty())
+        return;
+    for (const QString &code : prix->keys())
+        if (!codes.contains(code))
+            Lieu(lieu, code).noter(QStringLiteral("aucune destination n’a ce code"));
+}
+
+void livre(const Livre &livre, const Reperes &reperes, const Lieu &lieu)
+{
+    if (const QString vendeur = Json::brut(livre.vendeur);
+        !reperes.vendeurs.isEmpty() && !reperes.vendeurs.contains(vendeur))
+        Lieu(lieu, QStringLiteral("vendeur"))
+            .noter(QStringLiteral("« %1 » n’a pas d’identité dans reglages.vendeurs").arg(vendeur));
+    if (livre.poids && *livre.poids == Grammes{})
+        Lieu(lieu, QStringLiteral("poids")).noter(QStringLiteral("0 g ; laissez-le absent tant qu’il n’est pas pesé"));
+    if (!NumeroDeControle::isbn(livre.isbn))
+        Lieu(lieu, QStringLiteral("isbn"))
+            .noter(QStringLiteral("« %1 » n’est pas un ISBN : un chiffre manque ou est faux").arg(livre.isbn));
+    if (livre.pages <= 0)
+        Lieu(lieu, QStringLiteral("pages")).noter(QStringLiteral("au moins une page attendue"));
+    couverture(livre.couverture, reperes.couvertures, Lieu(lieu, QStringLiteral("couverture")));
+    teinte(livre.teinte, Lieu(lieu, QStringLiteral("teinte")));
+    prixParDestination(livre.prixPaypal, reperes.destinations, Lieu(lieu, QStringLiteral("prixPaypal")));
+    prixParDestination(livre.prixEcartes, reperes.destinations, Lieu(lieu, QStringLiteral("prixEcartes")));
+}
+
+} // namespace
+
+void Regles::livres(const QList<Livre> &livres, const Reperes &reperes, const Lieu &lieu)
+{
+    if (livres.isEmpty())
+        lieu.noter(QStringLiteral("aucun livre"));
+    ReglesCommunes::sansDoublon(livres, "id", &Livre::id, lieu);
+    for (qsizetype i = 0; i < livres.size(); ++i)
+        livre(livres[i], reperes, Lieu(lieu, i));
+}

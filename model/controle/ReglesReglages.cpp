@@ -1,0 +1,70 @@
+#include "model/Commande.h"
+#include "model/controle/NumeroDeControle.h"
+#include "model/controle/Regles.h"
+#include "model/controle/ReglesCommunes.h"
+
+#include <algorithm>
+
+namespace {
+
+using Json::Lieu;
+
+// `Enum` lists the keys that are ever looked up.
+template <Json::EstEnumeration Enum, typename T>
+void clesParmi(const QMap<QString, T> &table, const Lieu &lieu)
+{
+    for (const QString &cle : table.keys())
+        if (!Json::depuisBrut<Enum>(cle))
+            Lieu(lieu, cle).noter(QStringLiteral("clé inconnue"));
+}
+
+void emballages(const QList<Emballage> &emballages, const Lieu &lieu)
+{
+    if (emballages.isEmpty())
+        return; // sellers who weigh every parcel need none
+    ReglesCommunes::sansDoublon(emballages, "nom", &Emballage::nom, lieu);
+    for (qsizetype i = 0; i < emballages.size(); ++i)
+        if (emballages[i].nom == Commande::autrePoids())
+            Lieu(Lieu(lieu, i), QStringLiteral("nom")).noter(QStringLiteral("nom réservé au poids que l’on tape"));
+    if (emballages.first().poids == Grammes{})
+        Lieu(Lieu(lieu, 0), QStringLiteral("poids"))
+            .noter(QStringLiteral("plus de 0 g attendus, ce poids compte dans les prix des boutons PayPal"));
+    const QString deDepart = Commande().emballage();
+    if (std::ranges::find(emballages, deDepart, &Emballage::nom) == emballages.end())
+        lieu.noter(QStringLiteral("aucun ne s’appelle « %1 », l’emballage d’une nouvelle commande : il compterait 0 g")
+                       .arg(deDepart));
+}
+
+bool estUnNomDeSite(const QString &site)
+{
+    return QUrl(QStringLiteral("https://") + site, QUrl::StrictMode).host() == site.toLower() && site.contains(u'.');
+}
+
+void vendeur(const IdentiteVendeur &identite, const Lieu &lieu)
+{
+    if (identite.adresse.isEmpty())
+        Lieu(lieu, QStringLiteral("adresse")).noter(QStringLiteral("aucune ligne"));
+    if (identite.siret && !NumeroDeControle::siret(*identite.siret))
+        Lieu(lieu, QStringLiteral("siret")).noter(QStringLiteral("ce n’est pas un numéro SIRET"));
+    if (identite.retourPaypal)
+        ReglesCommunes::controler(QUrl(*identite.retourPaypal), Lieu(lieu, QStringLiteral("retourPaypal")));
+    if (identite.site && !estUnNomDeSite(*identite.site))
+        Lieu(lieu, QStringLiteral("site")).noter(QStringLiteral("nom de site attendu, sans https:// ni page"));
+}
+
+} // namespace
+
+void Regles::reglages(const Reglages &reglages, const Lieu &lieu)
+{
+    const Lieu frais(lieu, QStringLiteral("fraisPaypal"));
+    ReglesCommunes::jour(reglages.fraisPaypal.releve, Lieu(frais, QStringLiteral("releve")));
+    clesParmi<RegionPaypal>(reglages.fraisPaypal.supplements, Lieu(frais, QStringLiteral("supplements")));
+    emballages(reglages.emballages, Lieu(lieu, QStringLiteral("emballages")));
+
+    const Lieu vendeurs(lieu, QStringLiteral("vendeurs"));
+    if (reglages.vendeurs.isEmpty())
+        vendeurs.noter(QStringLiteral("aucun vendeur"));
+    clesParmi<Vendeur>(reglages.vendeurs, vendeurs);
+    for (auto entree = reglages.vendeurs.begin(); entree != reglages.vendeurs.end(); ++entree)
+        vendeur(entree.value(), Lieu(vendeurs, entree.key()));
+}

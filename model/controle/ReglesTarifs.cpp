@@ -1,0 +1,64 @@
+#include "model/controle/Regles.h"
+#include "model/controle/ReglesCommunes.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+// The grids of La Poste's page. Any other could not be found there, and every weekly reading would fail.
+constexpr std::array codes{"france-domicile", "om1", "om2", "ue-suisse", "royaume-uni", "zone-b", "zone-c"};
+
+QString liste(const auto &valeurs, auto texte)
+{
+    QStringList textes;
+    for (const auto &valeur : valeurs)
+        textes.append(QString::fromLatin1(texte(valeur)));
+    return textes.join(QStringLiteral(", "));
+}
+
+void paliers(const QList<Palier> &paliers, const Json::Lieu &lieu)
+{
+    if (paliers.isEmpty())
+        lieu.noter(QStringLiteral("aucun palier"));
+    Grammes precedent;
+    for (qsizetype i = 0; i < paliers.size(); ++i) {
+        if (paliers[i].jusqua <= precedent)
+            Json::Lieu(Json::Lieu(lieu, i), QStringLiteral("jusqua"))
+                .noter(QStringLiteral("plus de %1 g attendus, les paliers vont en montant").arg(precedent.valeur()));
+        precedent = paliers[i].jusqua;
+    }
+}
+
+void grille(const GrilleColissimo &grille, const Json::Lieu &lieu)
+{
+    if (std::ranges::none_of(codes, [&](const char *code) { return grille.code == QLatin1String(code); }))
+        Json::Lieu(lieu, QStringLiteral("code"))
+            .noter(QStringLiteral("grille inconnue « %1 » ; celles de La Poste : %2")
+                       .arg(grille.code, liste(codes, [](const char *code) { return code; })));
+    if (!Json::depuisBrut<FamilleTarifs>(grille.famille))
+        Json::Lieu(lieu, QStringLiteral("famille"))
+            .noter(QStringLiteral("famille inconnue « %1 », la grille ne serait pas montrée ; attendu : %2")
+                       .arg(grille.famille, liste(Json::valeursBrutes<FamilleTarifs>,
+                                                  [](const auto &famille) { return famille.texte; })));
+    paliers(grille.paliers, Json::Lieu(lieu, QStringLiteral("paliers")));
+}
+
+} // namespace
+
+void Regles::tarifs(const TarifsColissimo &tarifs, const Jeux &precedents, const Json::Lieu &lieu)
+{
+    const Json::Lieu validite(lieu, QStringLiteral("validite"));
+    ReglesCommunes::jour(tarifs.validite, validite);
+    ReglesCommunes::jour(tarifs.releve, Json::Lieu(lieu, QStringLiteral("releve")));
+    for (const auto &[nom, precedent] : precedents)
+        if (precedent.validite == tarifs.validite)
+            validite.noter(QStringLiteral("déjà pris par %1").arg(nom));
+
+    const Json::Lieu grilles(lieu, QStringLiteral("grilles"));
+    if (tarifs.grilles.isEmpty())
+        grilles.noter(QStringLiteral("aucune grille"));
+    ReglesCommunes::sansDoublon(tarifs.grilles, "code", &GrilleColissimo::code, grilles);
+    for (qsizetype i = 0; i < tarifs.grilles.size(); ++i)
+        grille(tarifs.grilles[i], Json::Lieu(grilles, i));
+}

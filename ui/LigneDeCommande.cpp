@@ -1,0 +1,85 @@
+#include "ui/LigneDeCommande.h"
+
+#include "model/controle/ControleDonnees.h"
+
+#include <QCommandLineParser>
+
+namespace {
+
+using LigneDeCommande::Reponse;
+
+QString usage()
+{
+    return QStringLiteral("Usage : quillet [--verifier DOSSIER]\n");
+}
+
+QString texteDAide()
+{
+    return usage() + QStringLiteral(R"(
+Sans option, ouvre la fenêtre de Quillet.
+
+  --verifier DOSSIER  contrôle un dossier de données (livres, couvertures, destinations,
+                      réglages, tarifs) et nomme chaque erreur avec sa place, sans écran
+  -v, --version       donne la version
+  -h, --help          montre cette aide
+
+Code de sortie : 0 si tout va bien, 1 s’il y a des erreurs à corriger,
+2 si la ligne de commande n’est pas comprise.
+)");
+}
+
+// Qt takes these for itself when it opens the display; they are none of our business.
+void accepterCellesDeQt(QCommandLineParser &analyseur)
+{
+    for (const char *nom : {"platform", "platformpluginpath", "platformtheme", "plugin", "qwindowgeometry",
+                            "qwindowicon", "qwindowtitle", "session", "display", "style", "stylesheet"})
+        analyseur.addOption({QString::fromLatin1(nom), QString(), QStringLiteral("valeur")});
+    analyseur.addOption(QCommandLineOption(QStringLiteral("reverse")));
+}
+
+// None: understood.
+std::optional<QString> malComprise(QCommandLineParser &analyseur, const QCommandLineOption &verifier,
+                                   const QStringList &arguments)
+{
+    const bool lue = analyseur.parse(arguments);
+    if (const QStringList inconnues = analyseur.unknownOptionNames(); !inconnues.isEmpty())
+        return QStringLiteral("option inconnue « %1 »").arg(inconnues.first());
+    if (arguments.last() == QLatin1String("--verifier")
+        || (analyseur.isSet(verifier) && analyseur.value(verifier).isEmpty()))
+        return QStringLiteral("« --verifier » attend un dossier");
+    if (!lue)
+        return QStringLiteral("il manque une valeur à une option, ou elle n’en attend pas");
+    if (const QStringList autres = analyseur.positionalArguments(); !autres.isEmpty())
+        return QStringLiteral("argument inattendu « %1 »").arg(autres.first());
+    return std::nullopt;
+}
+
+Reponse controle(const QString &dossier)
+{
+    const auto controle = ControleDonnees::de(QDir(dossier));
+    const QStringList lignes = controle.erreurs + QStringList{controle.bilan()};
+    return {controle.erreurs.isEmpty() ? 0 : 1, lignes.join(u'\n') + u'\n'};
+}
+
+} // namespace
+
+std::optional<Reponse> LigneDeCommande::repondre(const QStringList &arguments)
+{
+    const QCommandLineOption verifier(QStringLiteral("verifier"), QString(), QStringLiteral("DOSSIER"));
+    const QCommandLineOption version(QStringList{QStringLiteral("v"), QStringLiteral("version")});
+    const QCommandLineOption aide(QStringList{QStringLiteral("h"), QStringLiteral("help")});
+    QCommandLineParser analyseur;
+    analyseur.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    analyseur.addOptions({verifier, version, aide});
+    accepterCellesDeQt(analyseur);
+
+    if (const auto raison = malComprise(analyseur, verifier, arguments))
+        return Reponse{2, QStringLiteral("quillet : %1\n%2").arg(*raison, usage())};
+    if (analyseur.isSet(aide))
+        return Reponse{0, texteDAide()};
+    if (analyseur.isSet(version))
+        return Reponse{0, QStringLiteral("Quillet " QUILLET_VERSION "\n")};
+    if (analyseur.isSet(verifier))
+        return controle(analyseur.value(verifier));
+    return std::nullopt;
+}
