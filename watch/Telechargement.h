@@ -1,23 +1,6 @@
 #pragma once
 
-#include "watch/ErreurReleve.h"
-
-#include <QNetworkAccessManager>
-#include <QObject>
-#include <QTimer>
-#include <QUrl>
-
-#include <chrono>
-
-class QNetworkReply;
-
-// What a page may cost.
-struct Limites
-{
-    std::chrono::milliseconds silence{std::chrono::seconds{30}}; // since the last sign of the server
-    std::chrono::milliseconds duree{std::chrono::seconds{60}};   // in all
-    qint64 taille = qint64{16} << 20;                            // bytes of the body, packed or not
-};
+#include "watch/Transfert.h"
 
 // Fetches a public page as text, without waiting for it. Destroying it gives the download up at once, without a signal.
 class Telechargement : public QObject
@@ -25,33 +8,21 @@ class Telechargement : public QObject
     Q_OBJECT
 
 public:
-    explicit Telechargement(const Limites &limites = {});
-    ~Telechargement() override;
-    Q_DISABLE_COPY_MOVE(Telechargement)
+    explicit Telechargement(const Limites &limites = {}, Transfert::Cookies cookies = Transfert::Cookies::gardes);
 
-    [[nodiscard]] bool enCours() const { return reponse_; }
+    [[nodiscard]] bool enCours() const { return transfert_.enCours(); }
     // Exactly one of the signals follows, never before this returns; whoever hears it may ask for the next page or
     // destroy this object. Not to be called while `enCours`.
-    void page(const QUrl &url);
+    void page(const QUrl &url) { transfert_.demander(url, "gzip"); }
 
 signals:
     void lue(const QString &texte);
     void echouee(const ErreurReleve &erreur);
 
 private:
-    void recevoirEntete();
-    void recevoir();
-    void interrompre(const QString &raison);
-    void conclure();
-    [[nodiscard]] QString texte(const QNetworkReply &reponse, const QByteArray &corps) const;
+    void conclure(const QByteArray &codage);
 
-    Limites limites_;
-    QNetworkAccessManager reseau_;
-    QTimer silence_;
-    QTimer duree_;
-    QNetworkReply *reponse_ = nullptr; // owned by `reseau_`
-    QUrl adresse_;
-    bool entete_ = false; // of the last answer asked for: a redirection takes it back
+    qint64 taille_;
     QByteArray corps_;
-    QString interruption_; // why the download was broken off here; empty when it was not
+    Transfert transfert_;
 };
