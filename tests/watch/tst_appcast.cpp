@@ -1,0 +1,163 @@
+#include "watch/Appcast.h"
+#include "watch/ErreurMiseAJour.h"
+
+#include <QTest>
+
+#include <sodium.h>
+
+// The feed of updates: what it says, what it may not say, which version comes after which, and who signed.
+class TestAppcast : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void ordre_data();
+    void ordre();
+    void numerosIllisibles();
+    void flux_data();
+    void flux();
+    void notes();
+    void signatures();
+};
+
+namespace {
+
+const QString paquet = QStringLiteral("<enclosure url='https://a.invalid/q.deb' length='15' sparkle:edSignature='%1'/>")
+                           .arg(QString(86, u'A') + QStringLiteral("=="));
+
+QString rss(const QString &items, const QString &avant = {})
+{
+    return avant
+           + QStringLiteral("<rss xmlns:sparkle='http://www.andymatuschak.org/xml-namespaces/sparkle'>"
+                            "<channel><title>Quillet</title>%1</channel></rss>")
+                 .arg(items);
+}
+
+QString version(const char *numero, const QString &reste = paquet)
+{
+    return QStringLiteral("<item><sparkle:version>%1</sparkle:version>%2</item>").arg(QLatin1String(numero), reste);
+}
+
+// What the user would read.
+QString offre(const QString &flux)
+{
+    try {
+        const auto parution = Appcast::aProposer(Appcast::lire(flux), *NumeroDeVersion::lire(QStringLiteral("1.1")));
+        return parution ? QStringLiteral("%1 %2 %3 %4")
+                              .arg(parution->nom, parution->paquet.toString(), QString::number(parution->longueur),
+                                   parution->notes)
+                        : QStringLiteral("à jour");
+    } catch (const ErreurMiseAJour &erreur) {
+        return erreur.texte();
+    }
+}
+
+} // namespace
+
+void TestAppcast::ordre_data()
+{
+    QTest::addColumn<QString>("ordre");
+    for (const char *ordre :
+         {"1.9 < 1.10", "1.2 < 1.2.1", "1.10-beta.2 < 1.10-beta.10", "1.2-alpha < 1.2-beta", "1.2-rc < 1.2-rc.1",
+          "1.2-rc9 < 1.2rc10", "1.2~rc1 < 1.2", "1.1 < 1.2b1", "1.2-a.1 < 1.2-a.b", "1.2 = 1.2.0", "1.2+7 = 1.2+9"})
+        QTest::newRow(ordre) << QString::fromLatin1(ordre);
+}
+
+void TestAppcast::ordre()
+{
+    QFETCH(QString, ordre);
+    const auto a = NumeroDeVersion::lire(ordre.section(u' ', 0, 0));
+    const auto b = NumeroDeVersion::lire(ordre.section(u' ', 2));
+    QVERIFY(a && b);
+    QCOMPARE(*a < *b, ordre.contains(u'<'));
+    QCOMPARE(*a == *b, ordre.contains(u'='));
+}
+
+void TestAppcast::numerosIllisibles()
+{
+    for (const char *texte : {"", "beta", "1.2-3", "1..2", "1.99999999999"})
+        QVERIFY2(!NumeroDeVersion::lire(QString::fromLatin1(texte)), texte);
+}
+
+void TestAppcast::flux_data()
+{
+    QTest::addColumn<QString>("flux");
+    QTest::addColumn<QString>("attendu");
+    const auto cas = [](const char *nom, const QString &flux, const char *attendu) {
+        QTest::newRow(nom) << flux << QString::fromUtf8(attendu);
+    };
+    const auto avec = [](const char *avant, const char *apres) {
+        return rss(version("1.2", QString(paquet).replace(QLatin1String(avant), QLatin1String(apres))));
+    };
+    const char *offerte = "1.2 https://a.invalid/q.deb 15 ";
+    cas("simple", rss(version("1.2"), QStringLiteral("<?xml version='1.0' encoding='utf-8'?>\n")), offerte);
+    cas("nom et notes à part",
+        rss(version("120", QStringLiteral("<description> Plus\n vite </description>"
+                                          "<sparkle:shortVersionString>1.2</sparkle:shortVersionString>")
+                               + paquet)),
+        "1.2 https://a.invalid/q.deb 15 Plus\n vite");
+    cas("en attributs",
+        avec("/>", " sparkle:shortVersionString='1.2'/>").replace(QStringLiteral(">1.2<"), QStringLiteral(">12<")),
+        offerte);
+    cas("autres éléments",
+        rss(version("1.2",
+                    QStringLiteral("<version>9</version><sparkle:deltas><enclosure/></sparkle:deltas>") + paquet)),
+        offerte);
+    cas("la plus récente", rss(version("1.1.5") + version("1.2") + version("1.2-rc1")), offerte);
+    cas("plus ancienne, même mal faite", rss(version("1.0", {})), "à jour");
+    cas("sans numéro", rss(version("")), "La liste des mises à jour est illisible : une version est sans numéro.");
+    cas("en HTTP", avec("https", "http"), "Mise à jour refusée : son adresse n’est pas sécurisée.");
+    cas("signature courte", avec("AAAA", ""), "Mise à jour refusée : elle n’est pas signée.");
+    cas("sans longueur", avec("'15'", "'-1'"), "Mise à jour refusée : sa longueur n’est pas annoncée.");
+    cas("démesurée", avec("'15'", "'268435457'"), "Mise à jour refusée : elle est trop volumineuse.");
+    const char *coupe = "La liste des mises à jour est illisible : le document est coupé ou mal formé.";
+    cas("coupé", rss(version("1.2")).chopped(6), coupe);
+    cas("rien", {}, coupe);
+    cas("page", QStringLiteral("<html/>"),
+        "La liste des mises à jour est illisible : ce n’est pas un flux de mises à jour.");
+    cas("bombe", rss(version("&b;"), QStringLiteral("<!DOCTYPE rss [<!ENTITY a '1.2'><!ENTITY b '&a;&a;&a;&a;'>]>")),
+        "La liste des mises à jour est illisible : un type de document n’y a pas sa place.");
+    QString attributs;
+    for (int rang = 0; rang < 501; ++rang)
+        attributs += QStringLiteral(" a%1='>'").arg(rang);
+    cas("bombe d’attributs", rss(QStringLiteral("<a%1/>").arg(attributs)),
+        "La liste des mises à jour est illisible : une balise a trop d’attributs.");
+}
+
+void TestAppcast::flux()
+{
+    QFETCH(QString, flux);
+    QFETCH(QString, attendu);
+    QCOMPARE(offre(flux), attendu);
+}
+
+void TestAppcast::notes()
+{
+    QCOMPARE(Appcast::notes(QStringLiteral(" a < b\n\n- <c> &amp; d ")), QStringLiteral("a < b\n\n- <c> &amp; d"));
+    QCOMPARE(Appcast::notes(QStringLiteral("<h2>Neuf</h2><p>a <b>b</b><br/>c &amp; d</p><UL class='x'><li>un</li>\n"
+                                           "<LI>deux<li></ul><script>f('<p>')</script>")),
+             QStringLiteral("Neuf\na b\nc & d\n• un\n• deux"));
+    QCOMPARE(Appcast::notes(QString(20'000, u'a')), QString(10'000, u'a') + u'…');
+}
+
+void TestAppcast::signatures()
+{
+    SignatureEd25519::Cle cle{};
+    SignatureEd25519::Signature signature{};
+    std::array<unsigned char, crypto_sign_SECRETKEYBYTES> secret{};
+    std::array<unsigned char, 1000> octets{};
+    crypto_sign_keypair(cle.data(), secret.data());
+    crypto_sign_detached(signature.data(), nullptr, octets.data(), octets.size(), secret.data());
+    const QByteArray texte = QByteArray(reinterpret_cast<const char *>(cle.data()), 32).toBase64();
+    QCOMPARE(SignatureEd25519::cle(texte), cle);
+    for (const QByteArray &autre : {texte.chopped(4), texte + texte, texte.chopped(2) + "!="})
+        QVERIFY2(!SignatureEd25519::cle(autre), autre.constData());
+
+    QVERIFY(SignatureEd25519::estDe(cle, signature, octets));
+    QVERIFY(!SignatureEd25519::estDe(cle, signature, std::span(octets).first(999)));
+    octets[999] ^= 1;
+    QVERIFY(!SignatureEd25519::estDe(cle, signature, octets));
+}
+
+QTEST_GUILESS_MAIN(TestAppcast)
+#include "tst_appcast.moc"

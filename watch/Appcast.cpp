@@ -1,0 +1,172 @@
+#include "watch/Appcast.h"
+
+#include "watch/ErreurMiseAJour.h"
+#include "watch/TexteHTML.h"
+
+#include <QRegularExpression>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+
+namespace {
+
+using Appcast::Parution;
+
+constexpr qint64 longueurMaximale = qint64{256} << 20; // of a package: checking it takes a second
+constexpr qsizetype attributsMaximaux = 500;
+constexpr qsizetype nomMaximal = 32;
+constexpr qsizetype notesMaximales = 10'000;
+
+// Private characters, which no note needs, stand for what HTML breaks the line with while its tags are taken out.
+constexpr QChar ligne(0xE000);
+constexpr QChar puce(0xE001);
+
+const QString &sparkle()
+{
+    static const QString espace = QStringLiteral("http://www.andymatuschak.org/xml-namespaces/sparkle");
+    return espace;
+}
+
+// The XML reader compares each attribute of a tag to all others: ten thousand would hold it for seconds. No "<" stands
+// within a tag; one that opens with "!" is none.
+bool tropDAttributs(QStringView flux)
+{
+    qsizetype egales = 0;
+    bool balise = false;
+    for (qsizetype place = 0; place < flux.size(); ++place) {
+        if (flux[place] == u'<') {
+            balise = place + 1 < flux.size() && flux[place + 1] != u'!';
+            egales = 0;
+        } else if (balise && flux[place] == u'=' && ++egales > attributsMaximaux) {
+            return true;
+        }
+    }
+    return false;
+}
+
+struct Element
+{
+    QString version;
+    QString nom;
+    QString description;
+    QXmlStreamAttributes paquet;
+};
+
+Element element(QXmlStreamReader &xml)
+{
+    Element lu;
+    while (xml.readNextStartElement()) {
+        const bool deSparkle = xml.namespaceUri() == sparkle();
+        const bool duFlux = xml.namespaceUri().isEmpty();
+        if (deSparkle && xml.name() == u"version") {
+            lu.version = xml.readElementText(QXmlStreamReader::SkipChildElements);
+        } else if (deSparkle && xml.name() == u"shortVersionString") {
+            lu.nom = xml.readElementText(QXmlStreamReader::SkipChildElements);
+        } else if (duFlux && xml.name() == u"description") {
+            lu.description = xml.readElementText(QXmlStreamReader::SkipChildElements);
+        } else {
+            if (duFlux && xml.name() == u"enclosure")
+                lu.paquet = xml.attributes();
+            xml.skipCurrentElement();
+        }
+    }
+    return lu;
+}
+
+Parution parution(const Element &lu)
+{
+    const auto attribut = [&](const QString &nom) { return lu.paquet.value(sparkle(), nom).toString(); };
+    const QString version = lu.version.isEmpty() ? attribut(QStringLiteral("version")) : lu.version;
+    const QString nom = lu.nom.isEmpty() ? attribut(QStringLiteral("shortVersionString")) : lu.nom;
+    const auto numero = NumeroDeVersion::lire(version);
+    if (!numero)
+        throw ErreurMiseAJour::listeIllisible(QStringLiteral("une version est sans numéro"));
+    return {.numero = *numero,
+            .nom = (nom.isEmpty() ? version : nom).simplified().left(nomMaximal),
+            .notes = Appcast::notes(lu.description),
+            .paquet = QUrl(lu.paquet.value(QLatin1String("url")).toString().trimmed(), QUrl::StrictMode),
+            .longueur = lu.paquet.value(QLatin1String("length")).toLongLong(),
+            .signature = SignatureEd25519::signature(attribut(QStringLiteral("edSignature")).toLatin1())};
+}
+
+// To the root's beginning, past nothing but comments: a document type can only be there, and brings entities.
+void entrer(QXmlStreamReader &xml)
+{
+    while (!xml.atEnd() && !xml.isStartElement()) {
+        xml.readNext();
+        if (xml.isDTD())
+            throw ErreurMiseAJour::listeIllisible(QStringLiteral("un type de document n’y a pas sa place"));
+    }
+    if (!xml.hasError() && xml.name() != u"rss")
+        throw ErreurMiseAJour::listeIllisible(QStringLiteral("ce n’est pas un flux de mises à jour"));
+}
+
+} // namespace
+
+QList<Parution> Appcast::lire(const QString &flux)
+{
+    if (tropDAttributs(flux))
+        throw ErreurMiseAJour::listeIllisible(QStringLiteral("une balise a trop d’attributs"));
+    QXmlStreamReader xml(flux);
+    entrer(xml);
+    QList<Element> lus;
+    while (xml.readNextStartElement()) {
+        if (xml.name() != u"channel") {
+            xml.skipCurrentElement();
+            continue;
+        }
+        while (xml.readNextStartElement()) {
+            if (xml.name() == u"item")
+                lus.append(element(xml));
+            else
+                xml.skipCurrentElement();
+        }
+    }
+    while (!xml.atEnd())
+        xml.readNext(); // what follows the root must be sound too
+    if (xml.hasError())
+        throw ErreurMiseAJour::listeIllisible(QStringLiteral("le document est coupé ou mal formé"));
+    QList<Parution> parutions;
+    for (const Element &lu : lus)
+        parutions.append(parution(lu));
+    return parutions;
+}
+
+std::optional<Parution> Appcast::aProposer(const QList<Parution> &parutions, const NumeroDeVersion &installee)
+{
+    const auto derniere = std::ranges::max_element(parutions, {}, &Parution::numero);
+    if (derniere == parutions.end() || derniere->numero <= installee)
+        return std::nullopt;
+    if (derniere->paquet.scheme() != u"https" || derniere->paquet.host().isEmpty())
+        throw ErreurMiseAJour::refusee(QStringLiteral("son adresse n’est pas sécurisée"));
+    if (!derniere->signature)
+        throw ErreurMiseAJour::refusee(QStringLiteral("elle n’est pas signée"));
+    if (derniere->longueur <= 0)
+        throw ErreurMiseAJour::refusee(QStringLiteral("sa longueur n’est pas annoncée"));
+    if (derniere->longueur > longueurMaximale)
+        throw ErreurMiseAJour::refusee(QStringLiteral("elle est trop volumineuse"));
+    return *derniere;
+}
+
+QString Appcast::notes(const QString &description)
+{
+    // What is no HTML tag, like "<nom>", may stand in a plain text.
+    static const QRegularExpression balise(
+        QStringLiteral("</?(?:p|br|div|span|[ou]l|li|h[1-6]|table|tr|a|b|i|u|em|strong|code|pre|blockquote|hr|img|"
+                       "script|style|html|body)\\b[^<>]*>"),
+        QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression item(QStringLiteral("<li\\b[^<>]*>"), QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression bloc(QStringLiteral("</?(?:p|br|div|[ou]l|h[1-6]|tr|blockquote|pre|hr)\\b[^<>]*>"),
+                                         QRegularExpression::CaseInsensitiveOption);
+    QString texte = description.trimmed();
+    if (texte.contains(balise)) {
+        texte.replace(item, puce);
+        texte.replace(bloc, ligne);
+        QStringList lignes;
+        for (const QString &morceau : TexteHTML::texte(texte).replace(puce, ligne + QStringLiteral("• ")).split(ligne))
+            if (const QString epure = morceau.trimmed(); !epure.isEmpty() && epure != u"•")
+                lignes.append(epure);
+        texte = lignes.join(u'\n');
+    }
+    return texte.size() > notesMaximales ? texte.left(notesMaximales) + u'…' : texte;
+}

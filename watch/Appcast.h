@@ -1,0 +1,33 @@
+#pragma once
+
+#include "watch/NumeroDeVersion.h"
+#include "watch/SignatureEd25519.h"
+
+#include <QList>
+#include <QString>
+#include <QUrl>
+
+// The feed of updates, in Sparkle's format.
+namespace Appcast {
+
+// One version that the feed announces; what it says of the package is not to be trusted before `aProposer`.
+struct Parution
+{
+    NumeroDeVersion numero;
+    QString nom;   // as shown: "1.2"
+    QString notes; // plain text of several lines; may be empty
+    QUrl paquet;
+    qint64 longueur = 0; // bytes
+    std::optional<SignatureEd25519::Signature> signature;
+};
+
+// Every version, in the feed's order. Throws ErreurMiseAJour.
+QList<Parution> lire(const QString &flux);
+// The latest, none when it is not after the installed one. Throws ErreurMiseAJour when its package must not be
+// fetched: not at an https address, not signed, or of no sensible length.
+std::optional<Parution> aProposer(const QList<Parution> &parutions, const NumeroDeVersion &installee);
+
+// What is new, as plain text: HTML loses its tags, its paragraphs and lists become lines.
+QString notes(const QString &description);
+
+} // namespace Appcast

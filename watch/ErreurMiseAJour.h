@@ -1,0 +1,23 @@
+#pragma once
+
+#include "model/Echec.h"
+
+// Why an update could not be found or was not taken: the whole sentence that the user reads. `detail` is a short
+// phrase in lower case.
+class ErreurMiseAJour : public Echec
+{
+public:
+    // The feed is not what it should be.
+    static ErreurMiseAJour listeIllisible(const QString &detail)
+    {
+        return {QStringLiteral("La liste des mises à jour est illisible : %1.").arg(detail)};
+    }
+    // What it offers must not be installed.
+    static ErreurMiseAJour refusee(const QString &detail)
+    {
+        return {QStringLiteral("Mise à jour refusée : %1.").arg(detail)};
+    }
+
+private:
+    ErreurMiseAJour(const QString &texte) : Echec(texte) {}
+};
