@@ -16,7 +16,7 @@ void BancEcran::demarrer(const Preferences &preferences)
     app.reset();
     donnees.deposer();
     app = std::make_unique<QuilletApp>(
-        donnees.ressources(), donnees.stockage(), preferences, [] { return jourDuBanc; }, pages);
+        donnees.ressources(), donnees.stockage(), preferences, [] { return jourDuBanc; }, pages, misesAJour);
     app->fenetre().show();
     if (!QTest::qWaitForWindowActive(&app->fenetre()))
         qFatal("La fenêtre ne s’ouvre pas");

@@ -12,6 +12,7 @@ struct BancEcran
 {
     Banc donnees;
     PagesSurveillees pages = horsReseau();
+    SourceMisesAJour misesAJour;
     std::unique_ptr<QuilletApp> app;
 
     // Starts the program, again if need be, on `donnees` as they are now.

@@ -1,7 +1,9 @@
 #include "ui/Fenetre.h"
 
 #include "ui/ContenuPrincipal.h"
+#include "ui/MisesAJour.h"
 #include "ui/commun/Place.h"
+#include "ui/misesajour/FeuilleMiseAJour.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -19,15 +21,15 @@ constexpr QSize tailleMinimale(980, 640);
 
 } // namespace
 
-Fenetre::Fenetre(Catalogue &catalogue, Commande &commande, Verifications &verifications, ImagesCouvertures &images,
-                 const Preferences &preferences, Aujourdhui aujourdhui)
+Fenetre::Fenetre(Catalogue &catalogue, Commande &commande, Verifications &verifications, MisesAJour &misesAJour,
+                 ImagesCouvertures &images, const Preferences &preferences, Aujourdhui aujourdhui)
     : contenu_(new ContenuPrincipal(catalogue, commande, verifications, images, preferences, std::move(aujourdhui)))
 {
     setObjectName(QStringLiteral("quillet"));
     setWindowTitle(QStringLiteral("Quillet"));
     contenu_->setMinimumSize(tailleMinimale);
     setCentralWidget(contenu_);
-    creerMenu();
+    creerMenu(misesAJour);
     creerRaccourcis();
     qApp->installEventFilter(this);
     resize(tailleParDefaut().boundedTo(Place::surLEcran(this)).expandedTo(minimumSizeHint()));
@@ -60,10 +62,16 @@ void Fenetre::ramener()
     activateWindow();
 }
 
-void Fenetre::creerMenu()
+void Fenetre::creerMenu(MisesAJour &misesAJour)
 {
     QMenu *menu = menuBar()->addMenu(tr("&Quillet"));
     menu->addAction(tr("À &propos de Quillet"), this, &Fenetre::aPropos)->setMenuRole(QAction::AboutRole);
+    QAction *rechercher = menu->addAction(tr("&Rechercher les mises à jour…"), this,
+                                          [this, &misesAJour] { (new FeuilleMiseAJour(misesAJour, this))->ouvrir(); });
+    rechercher->setMenuRole(QAction::ApplicationSpecificRole);
+    const auto suivre = [rechercher, &misesAJour] { rechercher->setEnabled(misesAJour.peutVerifier()); };
+    connect(&misesAJour, &MisesAJour::change, rechercher, suivre);
+    suivre();
     menu->addSeparator();
     QAction *quitter = menu->addAction(tr("&Quitter"), this, &QWidget::close);
     quitter->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));

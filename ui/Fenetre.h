@@ -8,6 +8,7 @@ class Catalogue;
 class Commande;
 class ContenuPrincipal;
 class ImagesCouvertures;
+class MisesAJour;
 class Preferences;
 class Verifications;
 
@@ -17,8 +18,8 @@ class Fenetre : public QMainWindow
     Q_OBJECT
 
 public:
-    Fenetre(Catalogue &catalogue, Commande &commande, Verifications &verifications, ImagesCouvertures &images,
-            const Preferences &preferences, Aujourdhui aujourdhui);
+    Fenetre(Catalogue &catalogue, Commande &commande, Verifications &verifications, MisesAJour &misesAJour,
+            ImagesCouvertures &images, const Preferences &preferences, Aujourdhui aujourdhui);
 
     // What it opens at, on a screen that is large enough.
     [[nodiscard]] QSize tailleParDefaut() const;
@@ -31,7 +32,7 @@ protected:
     bool eventFilter(QObject *objet, QEvent *evenement) override;
 
 private:
-    void creerMenu();
+    void creerMenu(MisesAJour &misesAJour);
     void creerRaccourcis();
     void aPropos();
 

@@ -28,12 +28,13 @@ void QuilletApp::preparer(std::optional<Theme::Mode> mode)
 }
 
 QuilletApp::QuilletApp(const Ressources &ressources, Stockage stockage, const Preferences &preferences,
-                       Aujourdhui aujourdhui, const PagesSurveillees &pages)
+                       Aujourdhui aujourdhui, const PagesSurveillees &pages, const SourceMisesAJour &misesAJour)
     : catalogue_(Catalogue::charge(ressources, std::move(stockage))),
       verifications_(
           preferences, [aujourdhui] { return QDateTime(aujourdhui(), QTime::currentTime()); }, pages),
+      misesAJour_(misesAJour),
       images_(QDir(ressources.chemin(QStringLiteral("couvertures")))),
-      fenetre_(std::make_unique<Fenetre>(*catalogue_, commande_, verifications_, images_, preferences,
+      fenetre_(std::make_unique<Fenetre>(*catalogue_, commande_, verifications_, misesAJour_, images_, preferences,
                                          std::move(aujourdhui)))
 {
 }

@@ -4,6 +4,7 @@
 #include "model/Commande.h"
 #include "model/Preferences.h"
 #include "ui/Aujourdhui.h"
+#include "ui/MisesAJour.h"
 #include "ui/Theme.h"
 #include "ui/commande/ImagesCouvertures.h"
 #include "watch/Verifications.h"
@@ -13,17 +14,18 @@
 
 class Fenetre;
 
-// Owns what lives from start to exit: the catalogue, the one order, the weekly checks, the window.
+// Owns what lives from start to exit: the catalogue, the one order, the weekly checks, the updates, the window.
 class QuilletApp
 {
 public:
     // Style, fonts and French for the whole program; without a mode, light or dark follows the platform.
     static void preparer(std::optional<Theme::Mode> mode = std::nullopt);
 
-    // Throws RessourceIllisible.
+    // Throws RessourceIllisible. Without a source there are no updates.
     QuilletApp(
         const Ressources &ressources, Stockage stockage, const Preferences &preferences,
-        Aujourdhui aujourdhui = [] { return QDate::currentDate(); }, const PagesSurveillees &pages = {});
+        Aujourdhui aujourdhui = [] { return QDate::currentDate(); }, const PagesSurveillees &pages = {},
+        const SourceMisesAJour &misesAJour = {});
     ~QuilletApp();
     Q_DISABLE_COPY_MOVE(QuilletApp)
 
@@ -35,6 +37,7 @@ private:
     std::unique_ptr<Catalogue> catalogue_;
     Commande commande_;
     Verifications verifications_;
+    MisesAJour misesAJour_;
     ImagesCouvertures images_;
     std::unique_ptr<Fenetre> fenetre_;
 };

@@ -17,7 +17,9 @@ int ouvrir()
     if (!instance.prendreLaPlace())
         return 0;
     try {
-        QuilletApp quillet(Ressources::duProgramme(), Stockage::deLUtilisateur(), Preferences::deLUtilisateur());
+        QuilletApp quillet(
+            Ressources::duProgramme(), Stockage::deLUtilisateur(), Preferences::deLUtilisateur(),
+            [] { return QDate::currentDate(); }, PagesSurveillees(), SourceMisesAJour::duProgramme());
         QObject::connect(&instance, &InstanceUnique::appelee, &quillet.fenetre(), &Fenetre::ramener);
         quillet.fenetre().show();
         return QApplication::exec();

@@ -72,7 +72,8 @@ void TestFenetre::menu()
     for (const QAction *action : app->fenetre().menuBar()->actions().value(0)->menu()->actions())
         if (!action->isSeparator())
             textes.append(QString(action->text()).remove(u'&'));
-    QCOMPARE(textes, (QStringList{QStringLiteral("À propos de Quillet"), QStringLiteral("Quitter")}));
+    QCOMPARE(textes, (QStringList{QStringLiteral("À propos de Quillet"), QStringLiteral("Rechercher les mises à jour…"),
+                                  QStringLiteral("Quitter")}));
 }
 
 void TestFenetre::raccourcis_data()

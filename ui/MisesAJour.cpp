@@ -1,0 +1,121 @@
+#include "ui/MisesAJour.h"
+
+#include "watch/ErreurMiseAJour.h"
+#include "watch/Telechargement.h"
+
+#include <QDesktopServices>
+#include <QStandardPaths>
+
+#include <utility>
+
+namespace {
+
+constexpr Limites limitesDuFlux{.taille = qint64{256} << 10};
+
+using Cas = MisesAJour::Etat::Cas;
+
+} // namespace
+
+SourceMisesAJour SourceMisesAJour::duProgramme()
+{
+    return {.flux = QUrl(QStringLiteral(QUILLET_FLUX)),
+            .clePublique = QByteArrayLiteral(QUILLET_CLE_PUBLIQUE),
+            .installee = QStringLiteral(QUILLET_VERSION),
+            .cache = QDir(QStandardPaths::writableLocation(QStandardPaths::CacheLocation)),
+            .installer = [](const QString &chemin) { return QDesktopServices::openUrl(QUrl::fromLocalFile(chemin)); }};
+}
+
+MisesAJour::MisesAJour(SourceMisesAJour source)
+    : source_(std::move(source)),
+      cle_(SignatureEd25519::cle(source_.clePublique)),
+      numero_(NumeroDeVersion::lire(source_.installee)),
+      actif_(!source_.flux.isEmpty() && cle_ && numero_ && !qEnvironmentVariableIsSet("XCTestConfigurationFilePath"))
+{
+    passerA({});
+}
+
+MisesAJour::~MisesAJour() = default;
+
+void MisesAJour::verifier()
+{
+    if (!peutVerifier_)
+        return;
+    if (source_.flux.scheme() != u"https")
+        return echouer(QStringLiteral("Recherche impossible : l’adresse des mises à jour n’est pas sécurisée."));
+    recherche_ = std::make_unique<Telechargement>(limitesDuFlux, Transfert::Cookies::refuses);
+    connect(recherche_.get(), &Telechargement::lue, this, &MisesAJour::lire);
+    connect(recherche_.get(), &Telechargement::echouee, this, [this](const ErreurReleve &erreur) {
+        echouer(QStringLiteral("Recherche impossible : %1.").arg(erreur.detail()));
+    });
+    recherche_->page(source_.flux);
+    passerA({.cas = Cas::recherche});
+}
+
+void MisesAJour::lire(const QString &flux)
+{
+    std::optional<Appcast::Parution> parution;
+    try {
+        parution = Appcast::aProposer(Appcast::lire(flux), *numero_);
+    } catch (const ErreurMiseAJour &erreur) {
+        return echouer(erreur.texte());
+    }
+    passerA({.cas = parution ? Cas::disponible : Cas::aJour, .parution = parution});
+}
+
+void MisesAJour::telecharger()
+{
+    if (etat_.cas != Cas::disponible)
+        return;
+    const QDir dossier(source_.cache.filePath(QStringLiteral("mises-a-jour")));
+    paquet_ = std::make_unique<TelechargementPaquet>(*etat_.parution, *cle_, dossier);
+    connect(paquet_.get(), &TelechargementPaquet::pret, this, &MisesAJour::installer);
+    connect(paquet_.get(), &TelechargementPaquet::echoue, this, &MisesAJour::echouer);
+    // Queued: whoever hears of the change may give the package up.
+    const auto avancer = [this](qint64 octets) {
+        etat_.octets = octets;
+        emit change();
+    };
+    connect(paquet_.get(), &TelechargementPaquet::progresse, paquet_.get(), avancer, Qt::QueuedConnection);
+    try {
+        paquet_->commencer();
+    } catch (const ErreurStockage &erreur) {
+        return echouer(erreur.texte());
+    }
+    passerA({.cas = Cas::telechargement, .parution = etat_.parution});
+}
+
+void MisesAJour::installer(const QString &chemin)
+{
+    if (source_.installer(chemin))
+        return passerA({.cas = Cas::pret, .parution = etat_.parution});
+    echouer(QStringLiteral("Aucun programme n’a pu ouvrir la mise à jour. Elle est prête : %1.")
+                .arg(QDir::toNativeSeparators(chemin)));
+}
+
+void MisesAJour::annuler()
+{
+    if (etat_.cas == Cas::telechargement)
+        passerA({.cas = Cas::disponible, .parution = etat_.parution});
+}
+
+void MisesAJour::abandonner()
+{
+    passerA({});
+}
+
+void MisesAJour::echouer(const QString &message)
+{
+    passerA({.cas = Cas::echec, .message = message});
+}
+
+// What the state has no use for is given up, with what it left on the disk.
+void MisesAJour::passerA(Etat etat)
+{
+    etat_ = std::move(etat);
+    if (etat_.cas != Cas::recherche)
+        recherche_.reset();
+    if (etat_.cas != Cas::telechargement)
+        paquet_.reset();
+    peutVerifier_ = actif_ && !recherche_ && !paquet_;
+    emit change();
+}

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "watch/TelechargementPaquet.h"
+
+#include <QDir>
+#include <QObject>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+class Telechargement;
+
+// Where updates come from and where they go. Given when the program is packaged; a test gives its own.
+struct SourceMisesAJour
+{
+    QUrl flux;              // empty: no updates
+    QByteArray clePublique; // Ed25519, in base64
+    QString installee;      // the version that runs
+    QDir cache;             // the package goes to a folder of its own in there
+    // Hands a verified package to the platform. False when nothing there takes it.
+    std::function<bool(const QString &chemin)> installer;
+
+    // As this program was packaged.
+    static SourceMisesAJour duProgramme();
+};
+
+// Looks for a newer version, fetches it and hands it over, each step only when it is asked for.
+class MisesAJour : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Etat
+    {
+        enum class Cas { auRepos, recherche, aJour, disponible, telechargement, pret, echec };
+
+        Cas cas = Cas::auRepos;
+        std::optional<Appcast::Parution> parution; // what is available, on its way or ready
+        qint64 octets = 0;                         // of the package, here already
+        QString message;                           // of a failure
+    };
+    explicit MisesAJour(SourceMisesAJour source);
+    ~MisesAJour() override;
+    Q_DISABLE_COPY_MOVE(MisesAJour)
+
+    // Never in a program under test by XCTest, nor without a feed and its key; else whenever nothing is under way.
+    [[nodiscard]] bool peutVerifier() const { return peutVerifier_; }
+    [[nodiscard]] const Etat &etat() const { return etat_; }
+    [[nodiscard]] const QString &installee() const { return source_.installee; }
+
+    // All return at once; `change` tells the rest.
+    void verifier();    // nothing when it cannot
+    void telecharger(); // what is available
+    void annuler();     // the download; what is available remains
+    void abandonner();  // all of it
+
+signals:
+    void change();
+
+private:
+    void lire(const QString &flux);
+    void installer(const QString &chemin);
+    void echouer(const QString &message);
+    void passerA(Etat etat);
+
+    SourceMisesAJour source_;
+    std::optional<SignatureEd25519::Cle> cle_;
+    std::optional<NumeroDeVersion> numero_; // of the version that runs
+    bool actif_;
+    bool peutVerifier_ = false;
+    Etat etat_;
+    std::unique_ptr<Telechargement> recherche_; // each check has its own: nothing is left of the one before
+    std::unique_ptr<TelechargementPaquet> paquet_;
+};

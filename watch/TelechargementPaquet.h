@@ -1,0 +1,45 @@
+#pragma once
+
+#include "model/Fichier.h"
+#include "watch/Appcast.h"
+#include "watch/Transfert.h"
+
+#include <QDir>
+#include <QTemporaryFile>
+
+// Fetches the package of an update. It gets its name in the folder only once its length and its signature are right;
+// whatever else happens, giving up included, nothing of it stays on the disk.
+class TelechargementPaquet : public QObject
+{
+    Q_OBJECT
+
+public:
+    // The folder is this program's own, made when needed and emptied of earlier packages.
+    TelechargementPaquet(Appcast::Parution parution, const SignatureEd25519::Cle &cle, const QDir &dossier);
+
+    // To be called once. `pret` or `echoue` follows, never before this returns; whoever hears it may destroy this
+    // object. Throws ErreurStockage.
+    void commencer();
+
+signals:
+    void progresse(qint64 octets);     // not a place to destroy this object
+    void pret(const QString &chemin);  // the file stays
+    void echoue(const QString &texte); // a sentence for the user
+
+private:
+    void ecrire(const QByteArray &morceau);
+    void conclure(const QByteArray &codage);
+    // Throws ErreurMiseAJour, ErreurStockage.
+    QString garder(const QByteArray &codage);
+    [[nodiscard]] bool signe();
+    [[nodiscard]] ErreurStockage refusDuDisque() const;
+    [[nodiscard]] QString raison(const ErreurReleve &erreur) const;
+
+    Appcast::Parution parution_;
+    SignatureEd25519::Cle cle_;
+    QDir dossier_;
+    QTemporaryFile fichier_;
+    qint64 octets_ = 0;
+    QString ecritureManquee_; // a sentence; empty when all could be written
+    Transfert transfert_;
+};
