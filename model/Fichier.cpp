@@ -5,6 +5,11 @@
 #include <QDir>
 #include <QSaveFile>
 
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+
 namespace {
 
 // A full disk first takes a part of the bytes and says why only when asked to take the rest; a buffered QSaveFile
@@ -21,12 +26,21 @@ bool toutEcrire(QIODevice &fichier, const QByteArray &octets)
     return true;
 }
 
+// Some disks say only now that they are full or failing, and QSaveFile does not listen. Gives the error's number, 0 for
+// none; a file system that knows no such request is none.
+int synchroniser(const QSaveFile &fichier)
+{
+    return fdatasync(fichier.handle()) == 0 || errno == EINVAL ? 0 : errno;
+}
+
 // QSaveFile words the refusal of an existing file itself; opening that file says what the system holds against it.
 QString raisonDuRefus(const QSaveFile &fichier)
 {
     QFile existant(fichier.fileName());
     if (existant.exists() && !existant.open(QIODevice::ReadWrite))
         return CauseSysteme::enFrancais(existant.errorString());
+    if (fichier.error() == QFileDevice::WriteError) // it was refused a moment ago
+        return CauseSysteme::enFrancais(std::make_error_code(std::errc::permission_denied));
     return CauseSysteme::enFrancais(fichier.errorString());
 }
 
@@ -37,11 +51,41 @@ ErreurStockage::ErreurStockage(const QString &chemin, const QString &raison)
 {
 }
 
+bool Fichier::existe(const QString &chemin)
+{
+    std::error_code erreur;
+    const auto statut = std::filesystem::status(chemin.toStdString(), erreur);
+    if (statut.type() == std::filesystem::file_type::none)
+        throw ErreurStockage(chemin, CauseSysteme::enFrancais(erreur));
+    return statut.type() != std::filesystem::file_type::not_found;
+}
+
+std::optional<QByteArray> Fichier::lire(const QString &chemin)
+{
+    QFile fichier(chemin);
+    if (!fichier.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    const QByteArray contenu = fichier.readAll();
+    return fichier.error() == QFile::NoError ? std::optional(contenu) : std::nullopt;
+}
+
+void Fichier::creerDossier(const QString &chemin)
+{
+    std::error_code erreur;
+    std::filesystem::create_directories(chemin.toStdString(), erreur);
+    if (erreur)
+        throw ErreurStockage(chemin, CauseSysteme::enFrancais(erreur));
+}
+
 void Fichier::ecrire(const QString &chemin, const QByteArray &octets)
 {
     QSaveFile fichier(chemin);
     if (!fichier.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         throw ErreurStockage(chemin, raisonDuRefus(fichier));
-    if (!toutEcrire(fichier, octets) || !fichier.commit())
+    if (!toutEcrire(fichier, octets))
+        throw ErreurStockage(chemin, CauseSysteme::enFrancais(fichier.errorString()));
+    if (const int erreur = synchroniser(fichier))
+        throw ErreurStockage(chemin, CauseSysteme::enFrancais(std::error_code(erreur, std::generic_category())));
+    if (!fichier.commit())
         throw ErreurStockage(chemin, CauseSysteme::enFrancais(fichier.errorString()));
 }

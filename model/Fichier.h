@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <optional>
+
 // A user's file could not be written or deleted; the text names it and says why, in French.
 class ErreurStockage : public Echec
 {
@@ -15,7 +17,14 @@ public:
 
 namespace Fichier {
 
-// Replaces or creates the file, whole or not at all. Throws ErreurStockage; what stood there is then as it was.
+// Throws ErreurStockage when the system does not tell.
+bool existe(const QString &chemin);
+// None when the file is missing or cannot be read to its end.
+std::optional<QByteArray> lire(const QString &chemin);
+// With any missing parents; throws ErreurStockage.
+void creerDossier(const QString &chemin);
+// Replaces or creates the file, whole or not at all, and returns once the disk has taken it. Throws ErreurStockage;
+// what stood there is then as it was.
 void ecrire(const QString &chemin, const QByteArray &octets);
 
 } // namespace Fichier

@@ -2,24 +2,10 @@
 
 #include "model/CauseSysteme.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 
 #include <filesystem>
-
-namespace {
-
-bool existe(const QString &chemin)
-{
-    std::error_code erreur;
-    const auto statut = std::filesystem::status(chemin.toStdString(), erreur);
-    if (statut.type() == std::filesystem::file_type::none)
-        throw ErreurStockage(chemin, CauseSysteme::enFrancais(erreur));
-    return statut.type() != std::filesystem::file_type::not_found;
-}
-
-} // namespace
 
 Stockage Stockage::deLUtilisateur()
 {
@@ -38,22 +24,9 @@ QList<TarifsColissimo> Stockage::grillesEnregistrees()
     return grilles;
 }
 
-std::optional<QByteArray> Stockage::octets(const QString &nom) const
-{
-    QFile fichier(dossier_.filePath(nom));
-    if (!fichier.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    const QByteArray contenu = fichier.readAll();
-    return fichier.error() == QFile::NoError ? std::optional(contenu) : std::nullopt;
-}
-
 void Stockage::remplacer(const QString &nom, const QByteArray &octets)
 {
-    const QString chemin = dossier_.absolutePath();
-    std::error_code erreur;
-    std::filesystem::create_directories(chemin.toStdString(), erreur);
-    if (erreur)
-        throw ErreurStockage(chemin, CauseSysteme::enFrancais(erreur));
+    Fichier::creerDossier(dossier_.absolutePath());
     preserver(nom);
     Fichier::ecrire(dossier_.filePath(nom), octets);
     compris_.insert(nom, octets);
@@ -73,9 +46,9 @@ void Stockage::effacer(const QString &nom)
 void Stockage::preserver(const QString &nom) const
 {
     const QString chemin = dossier_.filePath(nom);
-    if (!existe(chemin))
+    if (!Fichier::existe(chemin))
         return;
-    const auto contenu = octets(nom);
+    const auto contenu = Fichier::lire(chemin);
     if (!contenu)
         throw ErreurStockage(chemin,
                              QFileInfo(chemin).isDir()
@@ -84,8 +57,8 @@ void Stockage::preserver(const QString &nom) const
     if (const auto connu = compris_.constFind(nom); connu != compris_.constEnd() && *connu == *contenu)
         return;
     QString copie = nom + QStringLiteral(".illisible");
-    for (int numero = 2; existe(dossier_.filePath(copie)); ++numero) {
-        if (octets(copie) == contenu)
+    for (int numero = 2; Fichier::existe(dossier_.filePath(copie)); ++numero) {
+        if (Fichier::lire(dossier_.filePath(copie)) == contenu)
             return; // already kept, by an attempt whose write then failed
         copie = QStringLiteral("%1.illisible-%2").arg(nom, QString::number(numero));
     }

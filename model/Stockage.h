@@ -23,7 +23,7 @@ public:
     template <typename T>
     [[nodiscard]] std::optional<T> lire(const QString &nom)
     {
-        const auto contenu = octets(nom);
+        const auto contenu = Fichier::lire(dossier_.filePath(nom));
         if (!contenu)
             return std::nullopt;
         try {
@@ -49,7 +49,6 @@ public:
     [[nodiscard]] QList<TarifsColissimo> grillesEnregistrees();
 
 private:
-    [[nodiscard]] std::optional<QByteArray> octets(const QString &nom) const;
     void remplacer(const QString &nom, const QByteArray &octets);
     void preserver(const QString &nom) const;
 
