@@ -53,7 +53,7 @@ void NumerotationFactures::retenir(const QString &numero, Vendeur vendeur)
     const auto retenu = decomposer(numero);
     if (!retenu)
         return;
-    const auto dernier = decomposer(preferences.texte(cle(vendeur)));
+    const auto dernier = decomposer(preferences.texteOuErreur(cle(vendeur)));
     if (!dernier || *dernier < *retenu)
         preferences.ecrire(cle(vendeur), numero);
 }

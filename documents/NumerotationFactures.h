@@ -16,7 +16,8 @@ struct NumerotationFactures
     // To propose; asking consumes nothing.
     [[nodiscard]] QString prochain(Vendeur vendeur, QDate date) const;
     // The invoice has left: the series goes on after it. An older number, or one that is none, changes nothing.
-    // Throws ErreurStockage when the preferences could not be written; the series is then where it was.
+    // Throws ErreurStockage when the preferences could not be read or written; the series is then where
+    // it was.
     void retenir(const QString &numero, Vendeur vendeur);
 
     // The year a number belongs to; none for a text that `retenir` cannot understand.

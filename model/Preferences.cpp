@@ -1,35 +1,40 @@
 #include "model/Preferences.h"
 
 #include <QDir>
-#include <QFileDevice>
-#include <QSettings>
+#include <QFileInfo>
+#include <QMap>
 #include <QStandardPaths>
 
 namespace {
 
-bool lire(QIODevice &fichier, QSettings::SettingsMap &valeurs)
+using Valeurs = QMap<QString, QString>;
+
+Valeurs decoder(const QByteArray &octets)
 {
-    while (!fichier.atEnd()) {
-        const QString ligne = QString::fromUtf8(fichier.readLine()).remove(u'\n');
+    Valeurs valeurs;
+    for (const QString &ligne : QString::fromUtf8(octets).split(u'\n'))
         if (const qsizetype egal = ligne.indexOf(u'='); egal > 0)
             valeurs.insert(ligne.first(egal), ligne.sliced(egal + 1));
-    }
-    return true;
+    return valeurs;
 }
 
-bool ecrireTout(QIODevice &fichier, const QSettings::SettingsMap &valeurs)
+QByteArray encoder(const Valeurs &valeurs)
 {
     QByteArray octets = "[General]\n";
     for (const auto &[cle, valeur] : valeurs.asKeyValueRange())
-        octets += cle.toUtf8() + '=' + valeur.toString().replace(u'\n', u' ').toUtf8() + '\n';
-    return fichier.write(octets) == octets.size() && static_cast<QFileDevice &>(fichier).flush();
+        octets += cle.toUtf8() + '=' + QString(valeur).replace(u'\n', u' ').toUtf8() + '\n';
+    return octets;
 }
 
-// INI with a writer of our own: Qt's leaves its last bytes in a buffer, and a disk that is full by then cuts the file.
-QSettings::Format format()
+Valeurs lireOuRefuser(const QString &chemin)
 {
-    static const QSettings::Format ini = QSettings::registerFormat(QStringLiteral("ini"), lire, ecrireTout);
-    return ini;
+    if (!Fichier::existe(chemin))
+        return {};
+    const auto contenu = Fichier::lire(chemin);
+    if (!contenu)
+        throw ErreurStockage(chemin,
+                             QStringLiteral("ce qui s’y trouve ne peut pas être lu, et n’est donc pas remplacé"));
+    return decoder(*contenu);
 }
 
 } // namespace
@@ -42,23 +47,18 @@ Preferences Preferences::deLUtilisateur()
 
 QString Preferences::texte(const QString &cle) const
 {
-    return QSettings(fichier_, format()).value(cle).toString();
+    return decoder(Fichier::lire(fichier_).value_or(QByteArray())).value(cle);
+}
+
+QString Preferences::texteOuErreur(const QString &cle) const
+{
+    return lireOuRefuser(fichier_).value(cle);
 }
 
 void Preferences::ecrire(const QString &cle, const QString &texte)
 {
-    // One of its own for each writing: a QSettings never forgets that one failed.
-    QSettings ini(fichier_, format());
-    const QVariant avant = ini.value(cle);
-    ini.setValue(cle, texte);
-    ini.sync();
-    if (ini.status() == QSettings::NoError)
-        return;
-    // All QSettings of one file share what is still to be written.
-    if (avant.isValid())
-        ini.setValue(cle, avant);
-    else
-        ini.remove(cle);
-    throw ErreurStockage(fichier_,
-                         QStringLiteral("écriture impossible, le dossier est protégé ou le disque est plein"));
+    Fichier::creerDossier(QFileInfo(fichier_).absolutePath());
+    Valeurs valeurs = lireOuRefuser(fichier_);
+    valeurs.insert(cle, texte);
+    Fichier::ecrire(fichier_, encoder(valeurs));
 }

@@ -16,6 +16,8 @@ public:
 
     // Empty when there is none.
     [[nodiscard]] QString texte(const QString &cle) const;
+    // The same, but throws ErreurStockage when the file is there and cannot be read.
+    [[nodiscard]] QString texteOuErreur(const QString &cle) const;
     // Returns once the text is on the disk. Throws ErreurStockage; what was kept before still is.
     void ecrire(const QString &cle, const QString &texte);
 

@@ -2,6 +2,7 @@
 #include "tests/Banc.h"
 #include "tests/DisquePlein.h"
 
+#include <QElapsedTimer>
 #include <QTest>
 
 class TestNumerotation : public QObject
@@ -16,6 +17,7 @@ private slots:
     void unVendeurAPart();
     void disquePlein();
     void dossierInterdit();
+    void restesDUnArret();
 };
 
 namespace {
@@ -101,7 +103,7 @@ void TestNumerotation::unVendeurAPart()
     QCOMPARE(numerotation.prochain(Vendeur::mireva, jourDuBanc), QStringLiteral("2026-001"));
 }
 
-// The disk takes the lock of the preferences, but not the whole of their file.
+// The disk takes a part of the file.
 void TestNumerotation::disquePlein()
 {
     const Banc banc;
@@ -126,6 +128,20 @@ void TestNumerotation::dossierInterdit()
     NumerotationFactures numerotation{Preferences(banc.cheminUtilisateur(QStringLiteral("obstacle/Quillet.ini")))};
     QVERIFY_THROWS_EXCEPTION(ErreurStockage, numerotation.retenir(QStringLiteral("2026-001"), Vendeur::davrel));
     QCOMPARE(numerotation.prochain(Vendeur::davrel, jourDuBanc), QStringLiteral("2026-001"));
+}
+
+// A program that was killed while it wrote holds nobody back, and what it left is not read.
+void TestNumerotation::restesDUnArret()
+{
+    const Banc banc;
+    NumerotationFactures numerotation{Preferences(banc.cheminUtilisateur(QStringLiteral("Quillet.ini")))};
+    banc.ecrireUtilisateur(QStringLiteral("Quillet.ini.lock"), {});
+    banc.ecrireUtilisateur(QStringLiteral("Quillet.ini.rPhpgm"), "[General]\nderniereFacture.davrel=2026-041\n");
+    QElapsedTimer duree;
+    duree.start();
+    numerotation.retenir(QStringLiteral("2026-001"), Vendeur::davrel);
+    QCOMPARE_LT(duree.elapsed(), 5000);
+    QCOMPARE(numerotation.prochain(Vendeur::davrel, jourDuBanc), QStringLiteral("2026-002"));
 }
 
 QTEST_GUILESS_MAIN(TestNumerotation)
