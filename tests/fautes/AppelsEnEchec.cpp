@@ -1,0 +1,120 @@
+#include "tests/fautes/Appels.h"
+#include "tests/fautes/Essai.h"
+#include "tests/fautes/Parties.h"
+#include "tests/fautes/Processus.h"
+
+#include <sys/wait.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+struct Bilan
+{
+    int reussis = 0;
+    int refuses = 0;
+    int fautes = 0;
+    QMap<QByteArray, int> parAppel;
+
+    void compter(Essai::Issue issue)
+    {
+        ++(issue == Essai::Issue::reussi ? reussis : issue == Essai::Issue::refuse ? refuses : fautes);
+    }
+};
+
+QString dossierDEssai(const QString &travail)
+{
+    const QString dossier = QDir(travail).filePath(QStringLiteral("Quillet"));
+    QDir(dossier).removeRecursively();
+    return dossier;
+}
+
+Appels::Suivi jouerSousSuivi(const Essai &essai, const QString &dossier, Appels::Disque disque, int rang, int erreur)
+{
+    const auto armer = [] {
+        Appels::seLaisserSuivre();
+        Appels::borne();
+    };
+    const pid_t enfant = lancer([&] { return int(essai.jouer(dossier, armer, Appels::borne)); });
+    return Appels::suivre(enfant, disque, rang, erreur);
+}
+
+Essai::Issue issue(const Essai &essai, const Appels::Suivi &suivi)
+{
+    const int fin = WIFEXITED(suivi.statut) ? WEXITSTATUS(suivi.statut) : -1;
+    if (fin == int(Essai::Issue::reussi) && suivi.enSuspens) {
+        std::fprintf(stderr, "%s : réussi, sans que le disque ait tout pris\n", qPrintable(essai.nom()));
+        return Essai::Issue::faute;
+    }
+    return fin == int(Essai::Issue::reussi) || fin == int(Essai::Issue::refuse) ? Essai::Issue(fin)
+                                                                                : Essai::Issue::faute;
+}
+
+void dire(const char *quoi, const Bilan &bilan)
+{
+    int appels = 0;
+    QByteArray detail;
+    for (const auto &[nom, nombre] : bilan.parAppel.asKeyValueRange()) {
+        appels += nombre;
+        detail += ' ' + nom + ' ' + QByteArray::number(nombre);
+    }
+    std::printf("%d %s (%s) : %d réussis, %d refusés, %d fautes\n", appels, quoi, detail.trimmed().constData(),
+                bilan.reussis, bilan.refuses, bilan.fautes);
+}
+
+constexpr Appels::Disque disques[] = {Appels::Disque::local, Appels::Disque::sansAnonymes};
+
+} // namespace
+
+int appelsEnEchec(const Ressources &ressources, const QString &travail)
+{
+    Bilan bilan;
+    const auto mettreEnEchec = [&](const Essai &essai, Appels::Disque disque, int erreur) {
+        for (int rang = 1;; ++rang) {
+            const auto suivi = jouerSousSuivi(essai, dossierDEssai(travail), disque, rang, erreur);
+            const auto trouve = issue(essai, suivi);
+            bilan.compter(trouve);
+            if (trouve == Essai::Issue::faute)
+                std::fprintf(stderr, "  appel %d, %s, %s\n", rang, Appels::nom(suivi.appel).constData(),
+                             strerrorname_np(erreur));
+            if (suivi.appel < 0)
+                break; // there were fewer calls: all went well
+            ++bilan.parAppel[Appels::nom(suivi.appel)];
+        }
+    };
+    for (const Essai &essai : essais(ressources, dossierDEssai(travail)))
+        for (const Appels::Disque disque : disques)
+            for (const int erreur : {ENOSPC, EIO, EACCES, EMFILE})
+                mettreEnEchec(essai, disque, erreur);
+    dire("appels mis en échec", bilan);
+    return bilan.fautes;
+}
+
+int arretsAChaqueAppel(const Ressources &ressources, const QString &travail)
+{
+    Bilan bilan;
+    int restes = 0;
+    const auto arreter = [&](const Essai &essai, Appels::Disque disque) {
+        for (int rang = 1;; ++rang) {
+            const QString dossier = dossierDEssai(travail);
+            const auto suivi = jouerSousSuivi(essai, dossier, disque, rang, 0);
+            if (suivi.appel < 0)
+                break;
+            ++bilan.parAppel[Appels::nom(suivi.appel)];
+            restes += nombreDeRestes(dossier);
+            const int trouve = dansUnProcessus([&] { return int(essai.releverApresArret(dossier)); });
+            const bool juste = trouve == int(Essai::Issue::reussi) || trouve == int(Essai::Issue::refuse);
+            bilan.compter(juste ? Essai::Issue(trouve) : Essai::Issue::faute);
+            if (!juste)
+                std::fprintf(stderr, "  arrêté à l’appel %d, %s\n", rang, Appels::nom(suivi.appel).constData());
+        }
+    };
+    for (const Essai &essai : essais(ressources, dossierDEssai(travail)))
+        for (const Appels::Disque disque : disques)
+            arreter(essai, disque);
+    dire("arrêts, un à chaque appel", bilan);
+    std::printf("    %d laissent un reste temporaire\n", restes);
+    return bilan.fautes;
+}

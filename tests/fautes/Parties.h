@@ -1,0 +1,12 @@
+#pragma once
+
+#include "model/Ressources.h"
+
+#include <QString>
+
+// Each part tells its totals and gives how many faults it found; `travail` is an empty folder of its own.
+int arretsAuHasard(const Ressources &ressources, const QString &travail);
+int arretsAChaqueAppel(const Ressources &ressources, const QString &travail);
+int appelsEnEchec(const Ressources &ressources, const QString &travail);
+int disquesPleins(const Ressources &ressources, const QString &travail);
+int dossiersPerdus(const Ressources &ressources, const QString &travail);

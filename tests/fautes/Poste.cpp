@@ -1,0 +1,124 @@
+#include "tests/fautes/Poste.h"
+
+#include "tests/Banc.h"
+
+namespace {
+
+const QString fichierLivres = QStringLiteral("livres-modifies.json");
+const QString fichierTarifs = QStringLiteral("tarifs-colissimo-2099-01-01.json");
+const QString fichierFrais = QStringLiteral("frais-paypal.json");
+const QString fichierNumeros = QStringLiteral("Quillet.ini");
+
+void rien(Poste &) {}
+
+void changerUnPrix(Poste &poste, int rang)
+{
+    Livre livre = poste.catalogue->livres().first();
+    livre.prix = Centimes{1000 + rang};
+    poste.historique.modifier(livre, QStringLiteral("prix"));
+}
+
+// Every book, so that a mixture of two writings shows.
+void changerLesPrix(Poste &poste, int rang)
+{
+    QList<Livre> livres = poste.catalogue->livres();
+    for (Livre &livre : livres) {
+        livre.prix = Centimes{1000 + rang};
+        livre.prixPaypal = {{QStringLiteral("france"), Centimes{rang}}};
+    }
+    poste.catalogue->modifier(livres);
+}
+
+void enregistrerLesTarifs(Poste &poste, int rang)
+{
+    poste.catalogue->enregistrer(desTarifs(QStringLiteral("2099-01-01"), Centimes{1 + rang}));
+}
+
+void enregistrerLesFrais(Poste &poste, int rang)
+{
+    const QUrl page(QStringLiteral("https://paypal.example/frais"));
+    poste.catalogue->enregistrer(
+        FraisPaypal{QStringLiteral("2026-07-24"), page, Taux{290}, Centimes{1 + rang}, {{page.host(), Taux{rang}}}});
+}
+
+void retenirUnNumero(Poste &poste, int rang)
+{
+    poste.numeros.retenir(QStringLiteral("2026-%1").arg(rang, 3, 10, QLatin1Char('0')), Vendeur::davrel);
+}
+
+// Prices that no grid gives, so that the buttons have something to take over.
+void fausserLesBoutons(Poste &poste)
+{
+    changerLesPrix(poste, 7);
+}
+
+QList<PrixBouton> boutons(const Poste &poste)
+{
+    const Catalogue &catalogue = *poste.catalogue;
+    return catalogue.boutons(catalogue.livres().first(), catalogue.grillesConnues().first());
+}
+
+} // namespace
+
+Poste::Poste(const Ressources &ressources, const QString &dossier)
+    : catalogue(Catalogue::charge(ressources, Stockage(QDir(dossier)))),
+      historique(*catalogue),
+      numeros{Preferences(QDir(dossier).filePath(fichierNumeros))}
+{
+}
+
+Contenu::Contenu(const Poste &poste)
+    : livres(poste.catalogue->livres()),
+      frais(poste.catalogue->reglages().fraisPaypal),
+      aAnnuler(poste.historique.aAnnuler())
+{
+    for (const TarifsColissimo &jeu : poste.catalogue->grillesConnues())
+        tarifs.insert(jeu.validite, jeu);
+    for (const Vendeur vendeur : {Vendeur::davrel, Vendeur::mireva})
+        numeros.append(poste.numeros.prochain(vendeur, QDate(2026, 3, 2)));
+}
+
+bool Contenu::memesDonnees(const Contenu &autre) const
+{
+    return livres == autre.livres && tarifs == autre.tarifs && frais == autre.frais && numeros == autre.numeros;
+}
+
+QList<Geste> gestes()
+{
+    const auto changer = [](Poste &poste) { changerUnPrix(poste, 7); };
+    return {
+        {"changer un prix", fichierLivres, rien, changerUnPrix},
+        {"garder un bouton", fichierLivres, fausserLesBoutons,
+         [](Poste &poste, int) {
+             poste.historique.garder(poste.catalogue->livres().first(), boutons(poste).first(),
+                                     QStringLiteral("garde"));
+         }},
+        {"reporter les boutons", fichierLivres, fausserLesBoutons,
+         [](Poste &poste, int) {
+             poste.historique.reporter(poste.catalogue->livres().first(), boutons(poste), QStringLiteral("report"));
+         }},
+        {"revenir aux valeurs livrées", fichierLivres, rien,
+         [](Poste &poste, int) { poste.historique.revenirAuxValeursLivrees(QStringLiteral("retour")); }},
+        {"annuler", fichierLivres, changer, [](Poste &poste, int) { poste.historique.annuler(); }},
+        {"rétablir", fichierLivres,
+         [](Poste &poste) {
+             changerUnPrix(poste, 7);
+             poste.historique.annuler();
+         },
+         [](Poste &poste, int) { poste.historique.retablir(); }},
+        {"enregistrer des tarifs", fichierTarifs, rien, enregistrerLesTarifs},
+        {"enregistrer des frais", fichierFrais, rien, enregistrerLesFrais},
+        {"retenir un numéro", fichierNumeros, rien, retenirUnNumero},
+        {"réimprimer un ancien numéro", fichierNumeros, rien, [](Poste &poste, int) { retenirUnNumero(poste, 1); }},
+    };
+}
+
+QList<Geste> gestesEntiers()
+{
+    return {
+        {"les livres", fichierLivres, rien, changerLesPrix},
+        {"les tarifs", fichierTarifs, rien, enregistrerLesTarifs},
+        {"les frais", fichierFrais, rien, enregistrerLesFrais},
+        {"un numéro", fichierNumeros, rien, retenirUnNumero},
+    };
+}
