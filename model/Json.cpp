@@ -64,7 +64,7 @@ void lire(const QJsonValue &json, const Lieu &lieu, QUrl &valeur)
 {
     QString texte;
     lire(json, lieu, texte);
-    valeur = QUrl(texte);
+    valeur = QUrl::fromEncoded(QUrl(texte).toEncoded()); // as it will be read back, half characters mended
     if (!valeur.isValid() || valeur.scheme().isEmpty() || valeur.host().isEmpty())
         lieu.refuser(QStringLiteral("adresse web complète attendue"));
 }

@@ -16,6 +16,8 @@ private slots:
     void entiers();
     void champsAbsents();
     void alleRetour();
+    void adresses_data();
+    void adresses();
     void ecritureTrieeEtLisible();
 };
 
@@ -112,6 +114,21 @@ void TestJson::alleRetour()
     QCOMPARE(Json::decoder<TarifsColissimo>(Json::encoder(banc.tarifs[0]), QStringLiteral("x")), banc.tarifs[0]);
     QCOMPARE(Json::decoder<QList<Destination>>(Json::encoder(banc.destinations), QStringLiteral("x")),
              banc.destinations);
+}
+
+void TestJson::adresses_data()
+{
+    QTest::addColumn<QByteArray>("lue");
+    QTest::newRow("accents") << QByteArray("https://é.example/é?à=ù#ç");
+    QTest::newRow("demi-caractère") << QByteArray(R"(https://a.example/b\ud800c)");
+}
+
+// What was read is what will be read of what is written.
+void TestJson::adresses()
+{
+    QFETCH(QByteArray, lue);
+    const auto adresses = Json::decoder<QList<QUrl>>("[\"" + lue + "\"]", QStringLiteral("x"));
+    QCOMPARE(Json::decoder<QList<QUrl>>(Json::encoder(adresses), QStringLiteral("x")), adresses);
 }
 
 void TestJson::ecritureTrieeEtLisible()
