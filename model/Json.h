@@ -88,6 +88,8 @@ template <typename T>
 void lire(const QJsonValue &json, const Lieu &lieu, QList<T> &valeur);
 template <typename T>
 void lire(const QJsonValue &json, const Lieu &lieu, QMap<QString, T> &valeur);
+template <typename Unite>
+void lire(const QJsonValue &json, const Lieu &lieu, QMap<QString, Quantite<Unite>> &valeur);
 
 inline QJsonValue ecrire(qint64 valeur)
 {
@@ -141,14 +143,19 @@ QByteArray encoder(const T &valeur)
 }
 
 template <typename Unite>
-void lire(const QJsonValue &json, const Lieu &lieu, Quantite<Unite> &valeur)
+void lireBornee(const QJsonValue &json, const Lieu &lieu, Quantite<Unite> &valeur, qint64 borne)
 {
     qint64 nombre = 0;
     lire(json, lieu, nombre);
-    constexpr qint64 borne = 2 * Unite::maximum; // what is written may be a sum: a book and its postage
     if (nombre < -borne || nombre > borne)
         lieu.refuser(QStringLiteral("valeur hors limites"));
     valeur = Quantite<Unite>{nombre};
+}
+
+template <typename Unite>
+void lire(const QJsonValue &json, const Lieu &lieu, Quantite<Unite> &valeur)
+{
+    lireBornee(json, lieu, valeur, Unite::maximum);
 }
 
 template <EstEnumeration Enum>
@@ -206,13 +213,29 @@ void lire(const QJsonValue &json, const Lieu &lieu, QList<T> &valeur)
         lieu.tenter([&] { lire(liste.at(i), Lieu(lieu, i), valeur[i]); });
 }
 
-template <typename T>
-void lire(const QJsonValue &json, const Lieu &lieu, QMap<QString, T> &valeur)
+template <typename T, typename Lecture>
+void lireTable(const QJsonValue &json, const Lieu &lieu, QMap<QString, T> &valeur, Lecture lireEntree)
 {
     lieu.exiger(json.isObject(), json, QStringLiteral("objet attendu"));
     const QJsonObject objet = json.toObject();
     for (auto entree = objet.begin(); entree != objet.end(); ++entree)
-        lieu.tenter([&] { lire(entree.value(), Lieu(lieu, entree.key()), valeur[entree.key()]); });
+        lieu.tenter([&] { lireEntree(entree.value(), Lieu(lieu, entree.key()), valeur[entree.key()]); });
+}
+
+template <typename T>
+void lire(const QJsonValue &json, const Lieu &lieu, QMap<QString, T> &valeur)
+{
+    lireTable(json, lieu, valeur,
+              [](const QJsonValue &entree, const Lieu &place, T &lue) { lire(entree, place, lue); });
+}
+
+// What a table of quantities holds may be a sum of two: a book and its postage.
+template <typename Unite>
+void lire(const QJsonValue &json, const Lieu &lieu, QMap<QString, Quantite<Unite>> &valeur)
+{
+    lireTable(json, lieu, valeur, [](const QJsonValue &entree, const Lieu &place, Quantite<Unite> &lue) {
+        lireBornee(entree, place, lue, 2 * Unite::maximum);
+    });
 }
 
 template <typename Unite>

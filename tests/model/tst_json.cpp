@@ -51,7 +51,9 @@ void TestJson::refusDitOu_data()
     cas("texte pour entier", R"("prix":1500)", R"("prix":"1500")", "livres[1].prix : entier attendu");
     cas("fraction", R"("prix":1500)", R"("prix":15.5)", "livres[1].prix : entier attendu");
     cas("dépassement", R"("prix":1500)", R"("prix":9223372036854775808)", "livres[1].prix : entier attendu");
-    cas("prix démesuré", R"("prix":1500)", R"("prix":19999999)", "livres[1].prix : valeur hors limites");
+    cas("prix démesuré", R"("prix":1500)", R"("prix":10000000)", "livres[1].prix : valeur hors limites");
+    cas("somme démesurée", R"("id":7)", R"("id":7,"prixPaypal":{"om1":19999998,"om2":19999999})",
+        "livres[1].prixPaypal.om2 : valeur hors limites");
     cas("vendeur inconnu", R"("mireva")", R"("Mireva")", "livres[1].vendeur : valeur inconnue « Mireva »");
     cas("booléen", R"("disponible":true)", R"("disponible":1)", "livres[1].disponible : true ou false attendu");
     cas("dans une liste", "[1,2,3]", R"([1,"2",3])", "livres[1].teinte[1] : entier attendu");
@@ -60,7 +62,8 @@ void TestJson::refusDitOu_data()
         "livres[1].prixPaypal.france : entier attendu");
     cas("adresse relative", R"("id":7)", R"("id":7,"lienPaypal":"/ici")",
         "livres[1].lienPaypal : adresse web complète attendue");
-    cas("JSON coupé", "[1,2,3]}", "[1,2", "livres : JSON illisible, ligne 4, colonne 102 : virgule, guillemet ou accolade manquante");
+    cas("JSON coupé", "[1,2,3]}", "[1,2",
+        "livres : JSON illisible, ligne 4, colonne 102 : virgule, guillemet ou accolade manquante");
 }
 
 void TestJson::refusDitOu()
