@@ -44,6 +44,13 @@ bool tropDAttributs(QStringView flux)
     return false;
 }
 
+// Never half a character.
+QString debut(const QString &texte, qsizetype auPlus)
+{
+    const bool coupe = auPlus < texte.size() && texte[auPlus].isLowSurrogate();
+    return texte.left(coupe ? auPlus - 1 : auPlus);
+}
+
 struct Element
 {
     QString version;
@@ -82,7 +89,7 @@ Parution parution(const Element &lu)
     if (!numero)
         throw ErreurMiseAJour::listeIllisible(QStringLiteral("une version est sans numéro"));
     return {.numero = *numero,
-            .nom = (nom.isEmpty() ? version : nom).simplified().left(nomMaximal),
+            .nom = debut((nom.isEmpty() ? version : nom).simplified(), nomMaximal),
             .notes = Appcast::notes(lu.description),
             .paquet = QUrl(lu.paquet.value(QLatin1String("url")).toString().trimmed(), QUrl::StrictMode),
             .longueur = lu.paquet.value(QLatin1String("length")).toLongLong(),
@@ -168,5 +175,5 @@ QString Appcast::notes(const QString &description)
                 lignes.append(epure);
         texte = lignes.join(u'\n');
     }
-    return texte.size() > notesMaximales ? texte.left(notesMaximales) + u'…' : texte;
+    return texte.size() > notesMaximales ? debut(texte, notesMaximales) + u'…' : texte;
 }

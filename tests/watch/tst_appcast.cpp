@@ -99,6 +99,8 @@ void TestAppcast::flux_data()
     cas("en attributs",
         avec("/>", " sparkle:shortVersionString='1.2'/>").replace(QStringLiteral(">1.2<"), QStringLiteral(">12<")),
         offerte);
+    cas("nom trop long", avec("/>", " sparkle:shortVersionString='1%1'/>").arg(QStringLiteral("📖").repeated(20)),
+        qUtf8Printable(u'1' + QStringLiteral("📖").repeated(15) + QString::fromLatin1(offerte).sliced(3)));
     cas("autres éléments",
         rss(version("1.2",
                     QStringLiteral("<version>9</version><sparkle:deltas><enclosure/></sparkle:deltas>") + paquet)),
@@ -138,6 +140,8 @@ void TestAppcast::notes()
                                            "<LI>deux<li></ul><script>f('<p>')</script>")),
              QStringLiteral("Neuf\na b\nc & d\n• un\n• deux"));
     QCOMPARE(Appcast::notes(QString(20'000, u'a')), QString(10'000, u'a') + u'…');
+    const QString livre = QStringLiteral("📖");
+    QCOMPARE(Appcast::notes(u'a' + livre.repeated(5'000)), u'a' + livre.repeated(4'999) + u'…');
 }
 
 void TestAppcast::signatures()
