@@ -1,4 +1,4 @@
-#include "tests/fautes/Parties.h"
+#include "bench/fautes/Parties.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>

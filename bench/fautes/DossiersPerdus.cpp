@@ -1,6 +1,6 @@
-#include "tests/fautes/Essai.h"
-#include "tests/fautes/Parties.h"
-#include "tests/fautes/Processus.h"
+#include "bench/fautes/Essai.h"
+#include "bench/fautes/Parties.h"
+#include "bench/fautes/Processus.h"
 
 #include <unistd.h>
 

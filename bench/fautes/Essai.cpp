@@ -1,4 +1,4 @@
-#include "tests/fautes/Essai.h"
+#include "bench/fautes/Essai.h"
 
 #include <QFile>
 

@@ -1,4 +1,4 @@
-#include "tests/fautes/Appels.h"
+#include "bench/fautes/Appels.h"
 
 #include <fcntl.h>
 #include <sys/ptrace.h>

@@ -1,4 +1,4 @@
-#include "tests/fautes/Processus.h"
+#include "bench/fautes/Processus.h"
 
 #include <sys/wait.h>
 #include <unistd.h>

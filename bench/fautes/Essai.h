@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/fautes/Poste.h"
+#include "bench/fautes/Poste.h"
 
 #include <QMap>
 

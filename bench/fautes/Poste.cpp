@@ -1,4 +1,4 @@
-#include "tests/fautes/Poste.h"
+#include "bench/fautes/Poste.h"
 
 #include "tests/Banc.h"
 

@@ -1,7 +1,7 @@
-#include "tests/fautes/Appels.h"
-#include "tests/fautes/Essai.h"
-#include "tests/fautes/Parties.h"
-#include "tests/fautes/Processus.h"
+#include "bench/fautes/Appels.h"
+#include "bench/fautes/Essai.h"
+#include "bench/fautes/Parties.h"
+#include "bench/fautes/Processus.h"
 
 #include <sys/wait.h>
 
