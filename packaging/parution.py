@@ -54,7 +54,13 @@ def journal(metainfo, contact):
 
 
 def _canal(appcast):
-    return ET.parse(appcast).getroot().find("channel")
+    try:
+        canal = ET.parse(appcast).getroot().find("channel")
+    except ET.ParseError as erreur:
+        raise Refus(f"{appcast} est illisible : {erreur}") from erreur
+    if canal is None:
+        raise Refus(f"{appcast} n’est pas un appcast.")
+    return canal
 
 
 def refuser_si_parue(appcast, version):

@@ -45,7 +45,8 @@ std::optional<QString> malComprise(QCommandLineParser &analyseur, const QCommand
     if (const QStringList inconnues = analyseur.unknownOptionNames(); !inconnues.isEmpty())
         return QStringLiteral("option inconnue « %1 »").arg(inconnues.first());
     if (arguments.last() == QLatin1String("--verifier")
-        || (analyseur.isSet(verifier) && analyseur.value(verifier).isEmpty()))
+        || (analyseur.isSet(verifier)
+            && (analyseur.value(verifier).isEmpty() || analyseur.value(verifier).startsWith(u'-'))))
         return QStringLiteral("« --verifier » attend un dossier");
     if (!lue)
         return QStringLiteral("il manque une valeur à une option, ou elle n’en attend pas");

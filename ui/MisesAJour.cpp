@@ -3,6 +3,7 @@
 #include "watch/ErreurMiseAJour.h"
 #include "watch/Telechargement.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QStandardPaths>
 
@@ -18,7 +19,8 @@ using Cas = MisesAJour::Etat::Cas;
 
 SourceMisesAJour SourceMisesAJour::duProgramme()
 {
-    return {.flux = QUrl(QStringLiteral(QUILLET_FLUX)),
+    const bool installe = QCoreApplication::applicationDirPath() == u"/usr/bin";
+    return {.flux = installe ? QUrl(QStringLiteral(QUILLET_FLUX)) : QUrl(),
             .clePublique = QByteArrayLiteral(QUILLET_CLE_PUBLIQUE),
             .installee = QStringLiteral(QUILLET_VERSION),
             .cache = QDir(QStandardPaths::writableLocation(QStandardPaths::CacheLocation)),
@@ -87,7 +89,7 @@ void MisesAJour::telecharger()
 void MisesAJour::installer(const QString &chemin)
 {
     if (source_.installer(chemin))
-        return passerA({.cas = Cas::pret, .parution = etat_.parution});
+        return passerA({.cas = Cas::pret, .parution = etat_.parution, .chemin = chemin});
     echouer(QStringLiteral("Aucun programme n’a pu ouvrir la mise à jour. Elle est prête : %1.")
                 .arg(QDir::toNativeSeparators(chemin)));
 }

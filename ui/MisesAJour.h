@@ -21,7 +21,8 @@ struct SourceMisesAJour
     // Hands a verified package to the platform. False when nothing there takes it.
     std::function<bool(const QString &chemin)> installer;
 
-    // As this program was packaged.
+    // As this program was packaged; no feed unless it runs from where the package puts it: an update of another copy
+    // would stand beside it.
     static SourceMisesAJour duProgramme();
 };
 
@@ -38,6 +39,7 @@ public:
         Cas cas = Cas::auRepos;
         std::optional<Appcast::Parution> parution; // what is available, on its way or ready
         qint64 octets = 0;                         // of the package, here already
+        QString chemin;                            // of the package, once ready
         QString message;                           // of a failure
     };
     explicit MisesAJour(SourceMisesAJour source);

@@ -12,7 +12,6 @@ namespace {
 
 using Appcast::Parution;
 
-constexpr qint64 longueurMaximale = qint64{256} << 20; // of a package: checking it takes a second
 constexpr qsizetype attributsMaximaux = 500;
 constexpr qsizetype nomMaximal = 32;
 constexpr qsizetype notesMaximales = 10'000;
@@ -51,6 +50,13 @@ QString debut(const QString &texte, qsizetype auPlus)
     return texte.left(coupe ? auPlus - 1 : auPlus);
 }
 
+// A feed may serve several systems.
+bool pourIci(const QXmlStreamAttributes &paquet)
+{
+    const QStringView systeme = paquet.value(sparkle(), QStringLiteral("os"));
+    return systeme.isEmpty() || systeme == u"linux";
+}
+
 struct Element
 {
     QString version;
@@ -70,9 +76,9 @@ Element element(QXmlStreamReader &xml)
         } else if (deSparkle && xml.name() == u"shortVersionString") {
             lu.nom = xml.readElementText(QXmlStreamReader::SkipChildElements);
         } else if (duFlux && xml.name() == u"description") {
-            lu.description = xml.readElementText(QXmlStreamReader::SkipChildElements);
+            lu.description = xml.readElementText(QXmlStreamReader::IncludeChildElements);
         } else {
-            if (duFlux && xml.name() == u"enclosure")
+            if (duFlux && xml.name() == u"enclosure" && pourIci(xml.attributes()))
                 lu.paquet = xml.attributes();
             xml.skipCurrentElement();
         }
@@ -80,30 +86,26 @@ Element element(QXmlStreamReader &xml)
     return lu;
 }
 
-Parution parution(const Element &lu)
+// None without a number that is understood: an item from another time must not hide those that follow.
+std::optional<Parution> parution(const Element &lu)
 {
     const auto attribut = [&](const QString &nom) { return lu.paquet.value(sparkle(), nom).toString(); };
     const QString version = lu.version.isEmpty() ? attribut(QStringLiteral("version")) : lu.version;
     const QString nom = lu.nom.isEmpty() ? attribut(QStringLiteral("shortVersionString")) : lu.nom;
     const auto numero = NumeroDeVersion::lire(version);
     if (!numero)
-        throw ErreurMiseAJour::listeIllisible(QStringLiteral("une version est sans numéro"));
-    return {.numero = *numero,
-            .nom = debut((nom.isEmpty() ? version : nom).simplified(), nomMaximal),
-            .notes = Appcast::notes(lu.description),
-            .paquet = QUrl(lu.paquet.value(QLatin1String("url")).toString().trimmed(), QUrl::StrictMode),
-            .longueur = lu.paquet.value(QLatin1String("length")).toLongLong(),
-            .signature = SignatureEd25519::signature(attribut(QStringLiteral("edSignature")).toLatin1())};
+        return std::nullopt;
+    return Parution{.numero = *numero,
+                    .nom = debut((nom.isEmpty() ? version : nom).simplified(), nomMaximal),
+                    .notes = Appcast::notes(lu.description),
+                    .paquet = QUrl(lu.paquet.value(QLatin1String("url")).toString().trimmed(), QUrl::StrictMode),
+                    .longueur = lu.paquet.value(QLatin1String("length")).toLongLong(),
+                    .signature = SignatureEd25519::signature(attribut(QStringLiteral("edSignature")).toLatin1())};
 }
 
-// To the root's beginning, past nothing but comments: a document type can only be there, and brings entities.
 void entrer(QXmlStreamReader &xml)
 {
-    while (!xml.atEnd() && !xml.isStartElement()) {
-        xml.readNext();
-        if (xml.isDTD())
-            throw ErreurMiseAJour::listeIllisible(QStringLiteral("un type de document n’y a pas sa place"));
-    }
+    xml.readNextStartElement();
     if (!xml.hasError() && xml.name() != u"rss")
         throw ErreurMiseAJour::listeIllisible(QStringLiteral("ce n’est pas un flux de mises à jour"));
 }
@@ -114,6 +116,9 @@ QList<Parution> Appcast::lire(const QString &flux)
 {
     if (tropDAttributs(flux))
         throw ErreurMiseAJour::listeIllisible(QStringLiteral("une balise a trop d’attributs"));
+    // It brings entities, and reading it may take as long as its author likes.
+    if (flux.contains(QStringLiteral("<!DOCTYPE")))
+        throw ErreurMiseAJour::listeIllisible(QStringLiteral("un type de document n’y a pas sa place"));
     QXmlStreamReader xml(flux);
     entrer(xml);
     QList<Element> lus;
@@ -135,7 +140,10 @@ QList<Parution> Appcast::lire(const QString &flux)
         throw ErreurMiseAJour::listeIllisible(QStringLiteral("le document est coupé ou mal formé"));
     QList<Parution> parutions;
     for (const Element &lu : lus)
-        parutions.append(parution(lu));
+        if (const auto comprise = parution(lu))
+            parutions.append(*comprise);
+    if (parutions.isEmpty() && !lus.isEmpty())
+        throw ErreurMiseAJour::listeIllisible(QStringLiteral("aucun numéro de version n’y est compris"));
     return parutions;
 }
 

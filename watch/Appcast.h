@@ -10,6 +10,9 @@
 // The feed of updates, in Sparkle's format.
 namespace Appcast {
 
+// Of a package, in bytes: the signature is checked over the whole of it, in memory.
+inline constexpr qint64 longueurMaximale = qint64{64} << 20;
+
 // One version that the feed announces; what it says of the package is not to be trusted before `aProposer`.
 struct Parution
 {
@@ -21,7 +24,7 @@ struct Parution
     std::optional<SignatureEd25519::Signature> signature;
 };
 
-// Every version, in the feed's order. Throws ErreurMiseAJour.
+// Every version whose number is understood, in the feed's order. Throws ErreurMiseAJour, also when none is.
 QList<Parution> lire(const QString &flux);
 // The latest, none when it is not after the installed one. Throws ErreurMiseAJour when its package must not be
 // fetched: not at an https address, not signed, or of no sensible length.

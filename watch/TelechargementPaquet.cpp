@@ -3,24 +3,13 @@
 #include "model/CauseSysteme.h"
 #include "watch/ErreurMiseAJour.h"
 
-#include <QRegularExpression>
-
 #include <filesystem>
 #include <utility>
 
 namespace {
 
-// A package may be large and the line slow; its size is bounded by what the feed announces.
-constexpr Limites limites{.duree = std::chrono::hours{2}, .taille = qint64{1} << 30};
-
-// As at its address, with nothing that a folder or a command could take amiss.
-QString nomDuPaquet(const Appcast::Parution &parution)
-{
-    static const QRegularExpression autres(QStringLiteral("[^A-Za-z0-9._+~-]"));
-    static const QRegularExpression debut(QStringLiteral("^[^A-Za-z0-9]+"));
-    const QString nom = parution.paquet.fileName(QUrl::FullyDecoded).remove(debut).replace(autres, QStringLiteral("-"));
-    return nom.isEmpty() ? QStringLiteral("quillet") : nom.right(100);
-}
+// The line may be slow; the size is bounded by what the feed announces.
+constexpr Limites limites{.duree = std::chrono::hours{2}, .taille = Appcast::longueurMaximale};
 
 ErreurMiseAJour mauvaiseLongueur()
 {
@@ -44,9 +33,14 @@ TelechargementPaquet::TelechargementPaquet(Appcast::Parution parution, const Sig
 
 void TelechargementPaquet::commencer()
 {
-    dossier_.removeRecursively();
+    const std::filesystem::path chemin(dossier_.path().toStdString());
     std::error_code erreur;
-    std::filesystem::create_directories(dossier_.path().toStdString(), erreur);
+    std::filesystem::remove_all(chemin, erreur); // a link goes, not what it leads to
+    if (!erreur)
+        std::filesystem::create_directories(chemin, erreur);
+    // Nobody else may put another package in the place of one that was checked.
+    if (!erreur)
+        std::filesystem::permissions(chemin, std::filesystem::perms::owner_all, erreur);
     if (erreur)
         throw ErreurStockage(dossier_.path(), CauseSysteme::enFrancais(erreur));
     if (!fichier_.open())
@@ -107,7 +101,7 @@ QString TelechargementPaquet::garder(const QByteArray &codage)
         throw refusDuDisque();
     if (!signe())
         throw ErreurMiseAJour::refusee(QStringLiteral("sa signature n’est pas celle de Quillet"));
-    QString chemin = dossier_.filePath(nomDuPaquet(parution_));
+    QString chemin = dossier_.filePath(QStringLiteral("quillet.deb"));
     if (!fichier_.rename(chemin))
         throw refusDuDisque();
     fichier_.setAutoRemove(false);
@@ -118,7 +112,10 @@ QString TelechargementPaquet::garder(const QByteArray &codage)
 // What stands on the disk, not what came from the line.
 bool TelechargementPaquet::signe()
 {
-    const uchar *octets = fichier_.size() == parution_.longueur ? fichier_.map(0, parution_.longueur) : nullptr;
-    return octets
-           && SignatureEd25519::estDe(cle_, *parution_.signature, {octets, static_cast<size_t>(parution_.longueur)});
+    fichier_.seek(0);
+    const QByteArray octets = fichier_.readAll();
+    return octets.size() == parution_.longueur
+           && SignatureEd25519::estDe(
+               cle_, *parution_.signature,
+               {reinterpret_cast<const uchar *>(octets.data()), static_cast<size_t>(octets.size())});
 }

@@ -21,7 +21,7 @@ std::optional<Chiffres> chiffres(const QString &numero, bool (*separe)(QChar))
         const QChar signe = numero[i];
         if (signe >= u'0' && signe <= u'9')
             chiffres.push_back(signe.unicode() - u'0');
-        else if (signe == u'X' && chiffres.size() == 9 && i == numero.size() - 1)
+        else if (signe.toUpper() == u'X' && chiffres.size() == 9 && i == numero.size() - 1)
             chiffres.push_back(10);
         else if (!separe(signe))
             return std::nullopt;

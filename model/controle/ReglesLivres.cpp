@@ -57,6 +57,8 @@ void livre(const Livre &livre, const Reperes &reperes, const Lieu &lieu)
         Lieu(lieu, QStringLiteral("pages")).noter(QStringLiteral("au moins une page attendue"));
     couverture(livre.couverture, reperes.couvertures, Lieu(lieu, QStringLiteral("couverture")));
     teinte(livre.teinte, Lieu(lieu, QStringLiteral("teinte")));
+    if (livre.prix == Centimes{})
+        Lieu(lieu, QStringLiteral("prix")).noter(QStringLiteral("plus de 0 attendu"));
     prixParDestination(livre.prixPaypal, reperes.destinations, Lieu(lieu, QStringLiteral("prixPaypal")));
     prixParDestination(livre.prixEcartes, reperes.destinations, Lieu(lieu, QStringLiteral("prixEcartes")));
 }

@@ -188,7 +188,7 @@ void TestMisesAJour::bonPaquet()
         QVERIFY(Ecran::cliquer(feuille, telecharger));
         QTRY_COMPARE(installes_.size(), fois);
         QVERIFY(Ecran::montre(feuille, fois < 3 ? QStringLiteral("Quillet 1.2 est prêt à installer") : manque));
-        QCOMPARE(surLeDisque(), QStringList{cache_->filePath(QStringLiteral("mises-a-jour/quillet_1.2.deb"))});
+        QCOMPARE(surLeDisque(), QStringList{cache_->filePath(QStringLiteral("mises-a-jour/quillet.deb"))});
         QCOMPARE(installes_.last(), surLeDisque()[0]);
         QFile fichier(installes_.last());
         QVERIFY(fichier.open(QIODevice::ReadOnly) && fichier.readAll() == paquet_);

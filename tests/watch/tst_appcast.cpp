@@ -106,8 +106,13 @@ void TestAppcast::flux_data()
                     QStringLiteral("<version>9</version><sparkle:deltas><enclosure/></sparkle:deltas>") + paquet)),
         offerte);
     cas("la plus récente", rss(version("1.1.5") + version("1.2") + version("1.2-rc1")), offerte);
+    cas("après une qui n’est pas comprise", rss(version("1.2-3") + version("1.2")), offerte);
+    cas("aussi pour un autre système",
+        rss(version("1.2", paquet + QStringLiteral("<enclosure sparkle:os='macos' url='https://a.invalid/q.dmg'/>"))),
+        offerte);
     cas("plus ancienne, même mal faite", rss(version("1.0", {})), "à jour");
-    cas("sans numéro", rss(version("")), "La liste des mises à jour est illisible : une version est sans numéro.");
+    cas("sans numéro", rss(version("")),
+        "La liste des mises à jour est illisible : aucun numéro de version n’y est compris.");
     cas("en HTTP", avec("https", "http"), "Mise à jour refusée : son adresse n’est pas sécurisée.");
     cas("signature courte", avec("AAAA", ""), "Mise à jour refusée : elle n’est pas signée.");
     cas("sans longueur", avec("'15'", "'-1'"), "Mise à jour refusée : sa longueur n’est pas annoncée.");

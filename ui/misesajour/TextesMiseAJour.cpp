@@ -1,5 +1,6 @@
 #include "ui/misesajour/TextesMiseAJour.h"
 
+#include <QDir>
 #include <QLocale>
 
 #include <algorithm>
@@ -52,8 +53,9 @@ Page TextesMiseAJour::page(const MisesAJour::Etat &etat, const QString &installe
         return telechargement(*etat.parution, etat.octets);
     case Cas::pret:
         return {.titre = QStringLiteral("Quillet %1 est prêt à installer").arg(etat.parution->nom),
-                .detail = QStringLiteral("L’installation continue dans le programme qui vient d’ouvrir la mise à jour. "
-                                         "Relancez Quillet quand elle est finie."),
+                .detail = QStringLiteral("L’installation continue dans le programme qui vient de s’ouvrir. S’il ne "
+                                         "l’installe pas : sudo apt install %1\n\nRelancez Quillet ensuite.")
+                              .arg(QDir::toNativeSeparators(etat.chemin)),
                 .retrait = fermer};
     case Cas::echec:
         return {.titre = QStringLiteral("Mise à jour impossible"), .alerte = etat.message, .retrait = fermer};
