@@ -137,9 +137,10 @@ void TestCatalogue::ressourceManquante_data()
                                          << QByteArray(R"({"fraisPaypal":{"releve":"x"}})")
                                          << QStringLiteral(
                                                 "Ressource illisible : reglages.fraisPaypal.source : valeur manquante");
-    QTest::newRow("tarifs abîmés")
-        << QStringLiteral("tarifs-colissimo-2026-01-01.json") << QByteArray("{")
-        << QStringLiteral("Ressource illisible : tarifs-colissimo-2026-01-01.json : JSON illisible, ligne 1, colonne 1 : virgule, guillemet ou accolade manquante");
+    QTest::newRow("tarifs abîmés") << QStringLiteral("tarifs-colissimo-2026-01-01.json") << QByteArray("{")
+                                   << QStringLiteral(
+                                          "Ressource illisible : tarifs-colissimo-2026-01-01.json : JSON illisible, "
+                                          "ligne 1, colonne 1 : virgule, guillemet ou accolade manquante");
     QTest::newRow("livres absents") << QStringLiteral("livres.json") << QByteArray()
                                     << QStringLiteral("Ressource illisible : livres.json : fichier introuvable");
 }
