@@ -282,6 +282,7 @@ void TestLivres::annulerAuClavier()
 {
     const Cas cas;
     QVERIFY(cas.cliquer(QStringLiteral("Disponible")));
+    QVERIFY(!Ecran::controle(cas.fenetre(), QStringLiteral("Rétablir"))->isEnabled());
     cas.champ(prix)->setFocus();
     QVERIFY(Ecran::taper(cas.fenetre(), prix, QStringLiteral("16")));
     QTest::keyClick(cas.champ(prix), Qt::Key_Return);

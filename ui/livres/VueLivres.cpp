@@ -162,8 +162,8 @@ void VueLivres::actualiser()
 // A disabled button would hand the focus to a neighbour that has nothing to do with it.
 void VueLivres::direLesGestes()
 {
-    annuler_->setEnabled(true);
-    retablir_->setEnabled(true);
+    for (const QToolButton *bouton : {annuler_, retablir_})
+        bouton->defaultAction()->setEnabled(true);
     if (annuler_->hasFocus() && historique_.aAnnuler().isEmpty())
         retablir_->setFocus();
     else if (retablir_->hasFocus() && historique_.aRetablir().isEmpty())
