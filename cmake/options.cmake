@@ -33,6 +33,12 @@ target_compile_definitions(quillet-options INTERFACE
 if(QUILLET_SANITIZE)
     set(sanitiseurs -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     # GCC loses track of initialisation in sanitized code and warns where nothing is wrong.
-    target_compile_options(quillet-options INTERFACE ${sanitiseurs} -Wno-maybe-uninitialized)
+    target_compile_options(quillet-options INTERFACE ${sanitiseurs} $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     target_link_options(quillet-options INTERFACE ${sanitiseurs})
+endif()
+
+if(QUILLET_FUZZ)
+    # Says which edges an input takes; only the fuzzed programs get libFuzzer's own `main`.
+    target_compile_options(quillet-options INTERFACE -fsanitize=fuzzer-no-link)
+    target_link_options(quillet-options INTERFACE -fsanitize=fuzzer-no-link)
 endif()

@@ -1,0 +1,61 @@
+// Each line is the number of an invoice that has left: whatever was typed, the series goes on. A first line of its own
+// is what the preferences hold already.
+#include "documents/NumerotationFactures.h"
+#include "fuzz/Cible.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <limits>
+
+namespace {
+
+qint64 rang(const QString &numero)
+{
+    return numero.section(u'-', 1).toLongLong();
+}
+
+// Nothing comes after a number of a year to come, nor after the last rank that can be read.
+bool finDeSerie(const NumerotationFactures &numerotation, QDate date)
+{
+    const QString numero = numerotation.preferences.texte(QStringLiteral("derniereFacture.davrel"));
+    return NumerotationFactures::annee(numero) > date.year()
+           || numero.contains(QString::number(std::numeric_limits<qint64>::max()));
+}
+
+void verifier(NumerotationFactures &numerotation, const QString &numero, QDate date)
+{
+    const QString avant = numerotation.prochain(Vendeur::davrel, date);
+    const QString autre = numerotation.prochain(Vendeur::mireva, date);
+    exiger(NumerotationFactures::annee(avant) == date.year(), "un numero de l'annee");
+    numerotation.retenir(numero, Vendeur::davrel);
+    const QString apres = numerotation.prochain(Vendeur::davrel, date);
+    exiger(NumerotationFactures::annee(apres) == date.year(), "toujours un numero de l'annee");
+    exiger(NumerotationFactures::annee(numero) || apres == avant, "ce qui n'est pas un numero ne change rien");
+    const bool fini = finDeSerie(numerotation, date);
+    exiger(rang(apres) >= rang(avant) || fini, "une serie ne recule pas");
+    exiger(numero != avant || apres != avant || fini, "un numero emis n'est plus propose");
+    exiger(numerotation.prochain(Vendeur::mireva, date) == autre, "chaque vendeur a sa serie");
+    numerotation.retenir(numero, Vendeur::davrel);
+    exiger(numerotation.prochain(Vendeur::davrel, date) == apres, "retenu une fois pour toutes");
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *octets, std::size_t taille)
+{
+    static const QTemporaryDir dossier;
+    static int tour = 0;
+    const QStringList lignes = QString::fromUtf8(contenu(octets, taille)).split(u'\n').mid(0, 8);
+    // A file of its own for each: Qt remembers those it has seen.
+    const QString fichier = dossier.filePath(QStringLiteral("%1.ini").arg(++tour));
+    QFile preferences(fichier);
+    exiger(preferences.open(QIODevice::WriteOnly), "preferences");
+    preferences.write("[General]\nderniereFacture.davrel=" + lignes.first().toUtf8() + '\n');
+    preferences.close();
+    NumerotationFactures numerotation{Preferences(fichier)};
+    for (const QString &numero : lignes.mid(1))
+        verifier(numerotation, numero, QDate(2026, 3, 2));
+    preferences.remove();
+    return 0;
+}

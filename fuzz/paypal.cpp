@@ -1,0 +1,22 @@
+// PayPal's page. Only ErreurReleve may come out of the reader.
+#include "fuzz/Cible.h"
+#include "watch/ErreurReleve.h"
+#include "watch/RelevePaypal.h"
+#include "watch/TexteHTML.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *octets, std::size_t taille)
+{
+    const auto page = QString::fromUtf8(contenu(octets, taille));
+    const QString texte = TexteHTML::texte(page);
+    exiger(texte == texte.simplified(), "une ligne");
+    try {
+        const FraisPaypal frais = RelevePaypal::analyser(page, QDate(2026, 3, 2));
+        exiger(frais.supplements.size() == std::ssize(Json::valeursBrutes<RegionPaypal>), "chaque region");
+        exiger(Json::decoder<FraisPaypal>(Json::encoder(frais), QStringLiteral("lus")) == frais, "aller et retour");
+        for (const auto region : {RegionPaypal::eee, RegionPaypal::royaumeUni, RegionPaypal::autres})
+            exiger(frais.frais(Centimes{UniteCentime::maximum}, region) >= frais.frais(Centimes{}, region), "frais");
+    } catch (const ErreurReleve &erreur) {
+        exiger(erreur.cas() == ErreurReleve::Cas::pageIllisible && !erreur.detail().isEmpty(), "erreur sans texte");
+    }
+    return 0;
+}
