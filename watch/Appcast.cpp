@@ -152,7 +152,8 @@ std::optional<Parution> Appcast::aProposer(const QList<Parution> &parutions, con
     const auto derniere = std::ranges::max_element(parutions, {}, &Parution::numero);
     if (derniere == parutions.end() || derniere->numero <= installee)
         return std::nullopt;
-    if (derniere->paquet.scheme() != u"https" || derniere->paquet.host().isEmpty())
+    // An address may be malformed and still have these.
+    if (!derniere->paquet.isValid() || derniere->paquet.scheme() != u"https" || derniere->paquet.host().isEmpty())
         throw ErreurMiseAJour::refusee(QStringLiteral("son adresse n’est pas sécurisée"));
     if (!derniere->signature)
         throw ErreurMiseAJour::refusee(QStringLiteral("elle n’est pas signée"));

@@ -114,6 +114,7 @@ void TestAppcast::flux_data()
     cas("sans numéro", rss(version("")),
         "La liste des mises à jour est illisible : aucun numéro de version n’y est compris.");
     cas("en HTTP", avec("https", "http"), "Mise à jour refusée : son adresse n’est pas sécurisée.");
+    cas("adresse mal formée", avec("q.deb", "%zz"), "Mise à jour refusée : son adresse n’est pas sécurisée.");
     cas("signature courte", avec("AAAA", ""), "Mise à jour refusée : elle n’est pas signée.");
     cas("sans longueur", avec("'15'", "'-1'"), "Mise à jour refusée : sa longueur n’est pas annoncée.");
     cas("démesurée", avec("'15'", "'268435457'"), "Mise à jour refusée : elle est trop volumineuse.");
