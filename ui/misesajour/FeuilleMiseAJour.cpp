@@ -35,6 +35,7 @@ FeuilleMiseAJour::FeuilleMiseAJour(MisesAJour &misesAJour, QWidget *parent)
     titre_->setFont(Theme::titreSection());
     for (Libelle *texte : {titre_, detail_})
         texte->setWordWrap(true);
+    detail_->setTextInteractionFlags(Qt::TextSelectableByMouse); // it may hold a command to type
     progres_->setTextVisible(false);
     progres_->setFixedHeight(6);
     progres_->setAccessibleName(tr("Progression"));

@@ -54,7 +54,7 @@ Page TextesMiseAJour::page(const MisesAJour::Etat &etat, const QString &installe
     case Cas::pret:
         return {.titre = QStringLiteral("Quillet %1 est prêt à installer").arg(etat.parution->nom),
                 .detail = QStringLiteral("L’installation continue dans le programme qui vient de s’ouvrir. S’il ne "
-                                         "l’installe pas : sudo apt install %1\n\nRelancez Quillet ensuite.")
+                                         "l’installe pas :\n\nsudo apt install %1\n\nRelancez Quillet ensuite.")
                               .arg(QDir::toNativeSeparators(etat.chemin)),
                 .retrait = fermer};
     case Cas::echec:
