@@ -26,6 +26,7 @@ private slots:
     void menu_data();
     void menu();
     void rienDEnvoye();
+    void dossierDuPaquet();
     void bonPaquet();
     void refus_data();
     void refus();
@@ -175,6 +176,22 @@ void TestMisesAJour::rienDEnvoye()
     chercher(nouvelle);
     QCOMPARE(serveur_->requetes().size(), 2);
     QVERIFY(!serveur_->requetes()[1].toLower().contains("cookie"));
+}
+
+// Where a link leads stays as it is; the package's own folder is closed to anybody else.
+void TestMisesAJour::dossierDuPaquet()
+{
+    const QTemporaryDir ailleurs;
+    QFile temoin(ailleurs.filePath(QStringLiteral("témoin")));
+    QVERIFY(temoin.open(QIODevice::WriteOnly));
+    const QString dossier = cache_->filePath(QStringLiteral("mises-a-jour"));
+    QVERIFY(QFile::link(ailleurs.path(), dossier));
+    QVERIFY(Ecran::cliquer(chercher(nouvelle), telecharger));
+    QTRY_COMPARE(installes_.size(), 1);
+    QVERIFY(temoin.exists());
+    const auto autres =
+        QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+    QVERIFY(!QFileInfo(dossier).isSymLink() && !(QFile::permissions(dossier) & autres));
 }
 
 // Twice, then once with no program to take it: each package takes the place of the one before.
