@@ -1,6 +1,7 @@
 #include "watch/TelechargementPaquet.h"
 
 #include "model/CauseSysteme.h"
+#include "model/Fichier.h"
 #include "watch/ErreurMiseAJour.h"
 
 #include <filesystem>
@@ -36,8 +37,7 @@ void TelechargementPaquet::commencer()
     const std::filesystem::path chemin(dossier_.path().toStdString());
     std::error_code erreur;
     std::filesystem::remove_all(chemin, erreur); // a link goes, not what it leads to
-    if (!erreur)
-        std::filesystem::create_directories(chemin, erreur);
+    Fichier::creerDossier(dossier_.path());
     // Nobody else may put another package in the place of one that was checked.
     if (!erreur)
         std::filesystem::permissions(chemin, std::filesystem::perms::owner_all, erreur);
