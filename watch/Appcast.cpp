@@ -62,8 +62,16 @@ struct Element
     QString version;
     QString nom;
     QString description;
+    QString canal;
     QXmlStreamAttributes paquet;
+    bool autreSysteme = false; // has a package that is not for this one
 };
+
+// Not of another system alone, nor of a channel, which nobody here has joined.
+bool pourNous(const Element &lu)
+{
+    return lu.canal.isEmpty() && (!lu.autreSysteme || !lu.paquet.isEmpty());
+}
 
 Element element(QXmlStreamReader &xml)
 {
@@ -75,11 +83,15 @@ Element element(QXmlStreamReader &xml)
             lu.version = xml.readElementText(QXmlStreamReader::SkipChildElements);
         } else if (deSparkle && xml.name() == u"shortVersionString") {
             lu.nom = xml.readElementText(QXmlStreamReader::SkipChildElements);
+        } else if (deSparkle && xml.name() == u"channel") {
+            lu.canal = xml.readElementText(QXmlStreamReader::SkipChildElements).trimmed();
         } else if (duFlux && xml.name() == u"description") {
             lu.description = xml.readElementText(QXmlStreamReader::IncludeChildElements);
         } else {
             if (duFlux && xml.name() == u"enclosure" && pourIci(xml.attributes()))
                 lu.paquet = xml.attributes();
+            else if (duFlux && xml.name() == u"enclosure")
+                lu.autreSysteme = true;
             xml.skipCurrentElement();
         }
     }
@@ -138,6 +150,7 @@ QList<Parution> Appcast::lire(const QString &flux)
         xml.readNext(); // what follows the root must be sound too
     if (xml.hasError())
         throw ErreurMiseAJour::listeIllisible(QStringLiteral("le document est coupé ou mal formé"));
+    lus.removeIf([](const Element &lu) { return !pourNous(lu); });
     QList<Parution> parutions;
     for (const Element &lu : lus)
         if (const auto comprise = parution(lu))

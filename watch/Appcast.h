@@ -24,7 +24,8 @@ struct Parution
     std::optional<SignatureEd25519::Signature> signature;
 };
 
-// Every version whose number is understood, in the feed's order. Throws ErreurMiseAJour, also when none is.
+// Every version for this system whose number is understood, in the feed's order; those of a channel are for whoever
+// joined it. Throws ErreurMiseAJour, also when there are some and no number is understood.
 QList<Parution> lire(const QString &flux);
 // The latest, none when it is not after the installed one. Throws ErreurMiseAJour when its package must not be
 // fetched: not at an https address, not signed, or of no sensible length.

@@ -107,8 +107,11 @@ void TestAppcast::flux_data()
         offerte);
     cas("la plus récente", rss(version("1.1.5") + version("1.2") + version("1.2-rc1")), offerte);
     cas("après une qui n’est pas comprise", rss(version("1.2-3") + version("1.2")), offerte);
-    cas("aussi pour un autre système",
-        rss(version("1.2", paquet + QStringLiteral("<enclosure sparkle:os='macos' url='https://a.invalid/q.dmg'/>"))),
+    const QString ailleurs = QStringLiteral("<enclosure sparkle:os='macos' url='https://a.invalid/q.dmg'/>");
+    cas("aussi pour un autre système", rss(version("1.2", paquet + ailleurs)), offerte);
+    cas("d’abord pour un autre système seul", rss(version("1.3", ailleurs) + version("1.2")), offerte);
+    cas("d’abord pour un canal d’essai",
+        rss(version("1.3", paquet + QStringLiteral("<sparkle:channel>essai</sparkle:channel>")) + version("1.2")),
         offerte);
     cas("plus ancienne, même mal faite", rss(version("1.0", {})), "à jour");
     cas("sans numéro", rss(version("")),
