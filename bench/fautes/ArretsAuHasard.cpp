@@ -7,6 +7,7 @@
 
 #include <sys/mman.h>
 #include <sys/syscall.h>
+#include <sys/wait.h>
 
 #include <array>
 #include <atomic>
@@ -80,6 +81,13 @@ std::chrono::nanoseconds delai()
     return std::chrono::nanoseconds(qint64(1000 * microsecondes));
 }
 
+// A child that has ended still takes signals until it is waited for.
+bool court(pid_t enfant)
+{
+    siginfo_t fin{};
+    return waitid(P_PID, static_cast<id_t>(enfant), &fin, WEXITED | WNOHANG | WNOWAIT) == 0 && fin.si_pid == 0;
+}
+
 // Whether the process is, as far as the kernel tells without stopping it, in a call that writes or waits for the disk.
 bool ecrit(pid_t enfant)
 {
@@ -101,12 +109,13 @@ int arretsAuHasard(const Ressources &ressources, const QString &travail)
     for (int arret = 0; arret < arrets; ++arret) {
         journal.pret = false;
         const pid_t enfant = lancer([&] { return enregistrerSansFin(ressources, dossier, temoin, journal); });
-        while (!journal.pret && kill(enfant, 0) == 0)
+        while (!journal.pret && court(enfant))
             std::this_thread::yield();
         std::this_thread::sleep_for(delai());
         dansUnAppel += ecrit(enfant);
+        const bool debout = court(enfant);
         kill(enfant, SIGKILL);
-        if (attendre(enfant) >= 0)
+        if (attendre(enfant) >= 0 || !debout)
             ++fautes;
         bool dedans = false;
         for (std::size_t i = 0; i < journal.tenus.size(); ++i)
