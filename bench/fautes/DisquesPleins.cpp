@@ -96,6 +96,6 @@ int disquesPleins(const Ressources &ressources, const QString &travail)
 {
     int fautes = 0;
     for (const Disque &disque : disques)
-        fautes += dansUnProcessus([&] { return remplir(ressources, travail, disque); });
+        fautes += dansUnProcessus([&] { return remplir(ressources, travail, disque); }) != 0;
     return fautes;
 }

@@ -95,12 +95,12 @@ int sansDroits(const Ressources &ressources, const QString &travail)
         }
     std::printf("dossiers protégés, illisibles ou disparus : %d réussis, %d refusés, %d fautes\n", comptes[1],
                 comptes[2], comptes[0]);
-    return comptes[0];
+    return comptes[0] > 0;
 }
 
 } // namespace
 
 int dossiersPerdus(const Ressources &ressources, const QString &travail)
 {
-    return dansUnProcessus([&] { return sansDroits(ressources, travail); });
+    return dansUnProcessus([&] { return sansDroits(ressources, travail); }) != 0;
 }

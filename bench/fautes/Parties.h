@@ -4,7 +4,7 @@
 
 #include <QString>
 
-// Each part tells its totals and gives how many faults it found; `travail` is an empty folder of its own.
+// Each part tells its totals and gives 0 when it found no fault, else more; `travail` is an empty folder of its own.
 int arretsAuHasard(const Ressources &ressources, const QString &travail);
 int arretsAChaqueAppel(const Ressources &ressources, const QString &travail);
 int appelsEnEchec(const Ressources &ressources, const QString &travail);
