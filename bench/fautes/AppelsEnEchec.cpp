@@ -1,5 +1,5 @@
 #include "bench/fautes/Appels.h"
-#include "bench/fautes/Essai.h"
+#include "bench/fautes/Bilan.h"
 #include "bench/fautes/Parties.h"
 #include "bench/fautes/Processus.h"
 
@@ -11,18 +11,7 @@
 
 namespace {
 
-struct Bilan
-{
-    int reussis = 0;
-    int refuses = 0;
-    int fautes = 0;
-    QMap<QByteArray, int> parAppel;
-
-    void compter(Essai::Issue issue)
-    {
-        ++(issue == Essai::Issue::reussi ? reussis : issue == Essai::Issue::refuse ? refuses : fautes);
-    }
-};
+using ParAppel = QMap<QByteArray, int>; // how often each was touched
 
 QString dossierDEssai(const QString &travail)
 {
@@ -41,27 +30,24 @@ Appels::Suivi jouerSousSuivi(const Essai &essai, const QString &dossier, Appels:
     return Appels::suivre(enfant, disque, rang, erreur);
 }
 
-Essai::Issue issue(const Essai &essai, const Appels::Suivi &suivi)
+int fin(const Essai &essai, const Appels::Suivi &suivi)
 {
     const int fin = WIFEXITED(suivi.statut) ? WEXITSTATUS(suivi.statut) : -1;
-    if (fin == int(Essai::Issue::reussi) && suivi.enSuspens) {
-        std::fprintf(stderr, "%s : réussi, sans que le disque ait tout pris\n", qPrintable(essai.nom()));
-        return Essai::Issue::faute;
-    }
-    return fin == int(Essai::Issue::reussi) || fin == int(Essai::Issue::refuse) ? Essai::Issue(fin)
-                                                                                : Essai::Issue::faute;
+    if (fin != int(Essai::Issue::reussi) || !suivi.enSuspens)
+        return fin;
+    std::fprintf(stderr, "%s : réussi, sans que le disque ait tout pris\n", qPrintable(essai.nom()));
+    return int(Essai::Issue::faute);
 }
 
-void dire(const char *quoi, const Bilan &bilan)
+void dire(const char *quoi, const ParAppel &parAppel, const Bilan &bilan)
 {
     int appels = 0;
     QByteArray detail;
-    for (const auto &[nom, nombre] : bilan.parAppel.asKeyValueRange()) {
+    for (const auto &[nom, nombre] : parAppel.asKeyValueRange()) {
         appels += nombre;
         detail += ' ' + nom + ' ' + QByteArray::number(nombre);
     }
-    std::printf("%d %s (%s) : %d réussis, %d refusés, %d fautes\n", appels, quoi, detail.trimmed().constData(),
-                bilan.reussis, bilan.refuses, bilan.fautes);
+    std::printf("%d %s (%s) : %s\n", appels, quoi, detail.trimmed().constData(), bilan.texte().constData());
 }
 
 constexpr Appels::Disque disques[] = {Appels::Disque::local, Appels::Disque::sansAnonymes};
@@ -71,30 +57,30 @@ constexpr Appels::Disque disques[] = {Appels::Disque::local, Appels::Disque::san
 int appelsEnEchec(const Ressources &ressources, const QString &travail)
 {
     Bilan bilan;
+    ParAppel parAppel;
     const auto mettreEnEchec = [&](const Essai &essai, Appels::Disque disque, int erreur) {
         for (int rang = 1;; ++rang) {
             const auto suivi = jouerSousSuivi(essai, dossierDEssai(travail), disque, rang, erreur);
-            const auto trouve = issue(essai, suivi);
-            bilan.compter(trouve);
-            if (trouve == Essai::Issue::faute)
+            if (!bilan.compter(fin(essai, suivi)))
                 std::fprintf(stderr, "  appel %d, %s, %s\n", rang, Appels::nom(suivi.appel).constData(),
                              strerrorname_np(erreur));
             if (suivi.appel < 0)
                 break; // there were fewer calls: all went well
-            ++bilan.parAppel[Appels::nom(suivi.appel)];
+            ++parAppel[Appels::nom(suivi.appel)];
         }
     };
     for (const Essai &essai : essais(ressources, dossierDEssai(travail)))
         for (const Appels::Disque disque : disques)
             for (const int erreur : {ENOSPC, EIO, EACCES, EMFILE})
                 mettreEnEchec(essai, disque, erreur);
-    dire("appels mis en échec", bilan);
+    dire("appels mis en échec", parAppel, bilan);
     return bilan.fautes;
 }
 
 int arretsAChaqueAppel(const Ressources &ressources, const QString &travail)
 {
     Bilan bilan;
+    ParAppel parAppel;
     int restes = 0;
     const auto arreter = [&](const Essai &essai, Appels::Disque disque) {
         for (int rang = 1;; ++rang) {
@@ -102,19 +88,16 @@ int arretsAChaqueAppel(const Ressources &ressources, const QString &travail)
             const auto suivi = jouerSousSuivi(essai, dossier, disque, rang, 0);
             if (suivi.appel < 0)
                 break;
-            ++bilan.parAppel[Appels::nom(suivi.appel)];
+            ++parAppel[Appels::nom(suivi.appel)];
             restes += nombreDeRestes(dossier);
-            const int trouve = dansUnProcessus([&] { return int(essai.releverApresArret(dossier)); });
-            const bool juste = trouve == int(Essai::Issue::reussi) || trouve == int(Essai::Issue::refuse);
-            bilan.compter(juste ? Essai::Issue(trouve) : Essai::Issue::faute);
-            if (!juste)
+            if (!bilan.compter(dansUnProcessus([&] { return int(essai.releverApresArret(dossier)); })))
                 std::fprintf(stderr, "  arrêté à l’appel %d, %s\n", rang, Appels::nom(suivi.appel).constData());
         }
     };
     for (const Essai &essai : essais(ressources, dossierDEssai(travail)))
         for (const Appels::Disque disque : disques)
             arreter(essai, disque);
-    dire("arrêts, un à chaque appel", bilan);
+    dire("arrêts, un à chaque appel", parAppel, bilan);
     std::printf("    %d laissent un reste temporaire\n", restes);
     return bilan.fautes;
 }

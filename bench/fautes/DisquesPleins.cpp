@@ -1,4 +1,4 @@
-#include "bench/fautes/Essai.h"
+#include "bench/fautes/Bilan.h"
 #include "bench/fautes/Parties.h"
 #include "bench/fautes/Processus.h"
 
@@ -72,7 +72,7 @@ int remplir(const Ressources &ressources, const QString &travail, const Disque &
     }
     const QString dossier = place + QStringLiteral("/Quillet");
     const Lest lest(place);
-    int comptes[3] = {};
+    Bilan bilan;
     const QList<Essai> tous = essais(ressources, QDir(travail).filePath(QStringLiteral("temoin")));
     for (const Essai &essai : tous)
         for (int niveau = 0; niveau < disque.niveaux; ++niveau) {
@@ -81,13 +81,12 @@ int remplir(const Ressources &ressources, const QString &travail, const Disque &
                 return int(essai.jouer(
                     dossier, [&] { lest.laisser(niveau * disque.pas); }, [&] { lest.laisser(64 * 1024); }));
             });
-            ++comptes[trouve > 0 && trouve <= 2 ? trouve : 0];
-            if (trouve <= 0 || trouve > 2)
+            if (!bilan.compter(trouve))
                 std::fprintf(stderr, "  %s, %d libres\n", disque.nom, niveau);
         }
-    std::printf("%s : %d niveaux pour chacun de %d essais : %d réussis, %d refusés, %d fautes\n", disque.nom,
-                disque.niveaux, int(tous.size()), comptes[1], comptes[2], comptes[0]);
-    return comptes[0] > 0;
+    std::printf("%s : %d niveaux pour chacun de %d essais : %s\n", disque.nom, disque.niveaux, int(tous.size()),
+                bilan.texte().constData());
+    return bilan.fautes > 0;
 }
 
 } // namespace

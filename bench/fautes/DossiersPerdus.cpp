@@ -1,4 +1,4 @@
-#include "bench/fautes/Essai.h"
+#include "bench/fautes/Bilan.h"
 #include "bench/fautes/Parties.h"
 #include "bench/fautes/Processus.h"
 
@@ -63,10 +63,9 @@ int sansDroits(const Ressources &ressources, const QString &travail)
     if (geteuid() == 0 && (chown(qPrintable(travail), personne, personne) != 0 || setgid(personne) || setuid(personne)))
         throw std::runtime_error("setuid");
     const QString dossier = QDir(travail).filePath(QStringLiteral("essai/Quillet"));
-    int comptes[3] = {};
+    Bilan bilan;
     const auto compter = [&](int trouve, const char *quoi) {
-        ++comptes[trouve > 0 && trouve <= 2 ? trouve : 0];
-        if (trouve <= 0 || trouve > 2)
+        if (!bilan.compter(trouve))
             std::fprintf(stderr, "  %s\n", quoi);
     };
     for (const Essai &essai : essais(ressources, QDir(travail).filePath(QStringLiteral("temoin"))))
@@ -93,9 +92,8 @@ int sansDroits(const Ressources &ressources, const QString &travail)
             };
             compter(dansUnProcessus(faire), "dossier disparu");
         }
-    std::printf("dossiers protégés, illisibles ou disparus : %d réussis, %d refusés, %d fautes\n", comptes[1],
-                comptes[2], comptes[0]);
-    return comptes[0] > 0;
+    std::printf("dossiers protégés, illisibles ou disparus : %s\n", bilan.texte().constData());
+    return bilan.fautes > 0;
 }
 
 } // namespace
