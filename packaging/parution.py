@@ -63,16 +63,26 @@ def _canal(appcast):
     return canal
 
 
-def refuser_si_parue(appcast, version):
-    if os.path.exists(appcast) and version in (
-        element.text for element in _canal(appcast).iterfind(f"item/{{{SPARKLE}}}version")
-    ):
-        raise Refus(f"La version {version} est déjà dans {appcast}.")
+def _nombres(version):
+    """In the program's own order, where "1.2" is "1.2.0"."""
+    try:
+        return tuple(int(nombre) for nombre in f"{version}.0.0.0".split(".")[:4])
+    except ValueError as erreur:
+        raise Refus(f"La version {version} n’est pas faite de nombres.") from erreur
+
+
+def refuser_si_depassee(appcast, version):
+    """A version that does not come after all those of the appcast would be offered to nobody."""
+    if not os.path.exists(appcast):
+        return
+    for element in _canal(appcast).iterfind(f"item/{{{SPARKLE}}}version"):
+        if _nombres(element.text) >= _nombres(version):
+            raise Refus(f"La version {version} ne vient pas après {element.text}, qui est dans {appcast}.")
 
 
 def inscrire(appcast, version, notes_de_version, url, longueur, signature):
     """Puts a version at the head of the appcast, which is made if there is none; an incomplete file is never seen."""
-    refuser_si_parue(appcast, version)
+    refuser_si_depassee(appcast, version)
     if os.path.exists(appcast):
         canal = _canal(appcast)
     else:

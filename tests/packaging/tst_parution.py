@@ -60,11 +60,13 @@ class Parution(unittest.TestCase):
         self.assertEqual(enclosure.get("length"), "12")
         self.assertEqual(enclosure.get(SPARKLE + "edSignature"), "c2lnbmF0dXJl")
 
-    def test_a_version_appears_once(self):
-        self.inscrire("1.0", "Ancienne")
+    def test_a_version_comes_after_all_others(self):
+        self.inscrire("1.9", "Ancienne")
+        self.inscrire("1.10", "Suivante")
         avant = Path(self.appcast).read_bytes()
-        with self.assertRaises(parution.Refus):
-            self.inscrire("1.0", "Encore")
+        for version in ("1.10", "1.10.0", "1.9.5", "1.11-rc1"):
+            with self.assertRaisesRegex(parution.Refus, re.escape(version)):
+                self.inscrire(version, "Encore")
         self.assertEqual(Path(self.appcast).read_bytes(), avant)
 
 
