@@ -3,12 +3,14 @@
 #include "model/CauseSysteme.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QSaveFile>
 
 #include <unistd.h>
 
 #include <cerrno>
 #include <filesystem>
+#include <utility>
 
 namespace {
 
@@ -46,8 +48,8 @@ QString raisonDuRefus(const QSaveFile &fichier)
 
 } // namespace
 
-ErreurStockage::ErreurStockage(const QString &chemin, const QString &raison)
-    : Echec(QStringLiteral("%1 : %2").arg(QDir::toNativeSeparators(chemin), raison))
+ErreurStockage::ErreurStockage(const QString &chemin, QString raison)
+    : Echec(QStringLiteral("%1 : %2").arg(QDir::toNativeSeparators(chemin), raison)), raison_(std::move(raison))
 {
 }
 
@@ -67,6 +69,21 @@ std::optional<QByteArray> Fichier::lire(const QString &chemin)
         return std::nullopt;
     const QByteArray contenu = fichier.readAll();
     return fichier.error() == QFile::NoError ? std::optional(contenu) : std::nullopt;
+}
+
+std::optional<QByteArray> Fichier::lireOuRefuser(const QString &chemin)
+{
+    if (!existe(chemin))
+        return std::nullopt;
+    if (QFileInfo(chemin).isDir()) // which Qt refuses in words of its own
+        throw ErreurStockage(chemin, CauseSysteme::enFrancais(std::make_error_code(std::errc::is_a_directory)));
+    QFile fichier(chemin);
+    QByteArray contenu;
+    if (fichier.open(QIODevice::ReadOnly))
+        contenu = fichier.readAll();
+    if (fichier.error() != QFile::NoError)
+        throw ErreurStockage(chemin, CauseSysteme::enFrancais(fichier.errorString()));
+    return contenu;
 }
 
 void Fichier::creerDossier(const QString &chemin)

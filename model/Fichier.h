@@ -7,12 +7,15 @@
 
 #include <optional>
 
-// A user's file could not be written or deleted; the text names it and says why, in French.
+// A file could not be read, written or deleted; the text names it and says why, in French.
 class ErreurStockage : public Echec
 {
 public:
-    using Echec::Echec;
-    ErreurStockage(const QString &chemin, const QString &raison);
+    ErreurStockage(const QString &chemin, QString raison);
+    [[nodiscard]] const QString &raison() const { return raison_; }
+
+private:
+    QString raison_;
 };
 
 namespace Fichier {
@@ -21,6 +24,8 @@ namespace Fichier {
 bool existe(const QString &chemin);
 // None when the file is missing or cannot be read to its end.
 std::optional<QByteArray> lire(const QString &chemin);
+// None when there is no file. Throws ErreurStockage when it is there and cannot be read to its end.
+std::optional<QByteArray> lireOuRefuser(const QString &chemin);
 // With any missing parents; throws ErreurStockage.
 void creerDossier(const QString &chemin);
 // Replaces or creates the file, whole or not at all, and returns once the disk has taken it. Throws ErreurStockage;

@@ -26,17 +26,6 @@ QByteArray encoder(const Valeurs &valeurs)
     return octets;
 }
 
-Valeurs lireOuRefuser(const QString &chemin)
-{
-    if (!Fichier::existe(chemin))
-        return {};
-    const auto contenu = Fichier::lire(chemin);
-    if (!contenu)
-        throw ErreurStockage(chemin,
-                             QStringLiteral("ce qui s’y trouve ne peut pas être lu, et n’est donc pas remplacé"));
-    return decoder(*contenu);
-}
-
 } // namespace
 
 Preferences Preferences::deLUtilisateur()
@@ -52,13 +41,13 @@ QString Preferences::texte(const QString &cle) const
 
 QString Preferences::texteOuErreur(const QString &cle) const
 {
-    return lireOuRefuser(fichier_).value(cle);
+    return decoder(Fichier::lireOuRefuser(fichier_).value_or(QByteArray())).value(cle);
 }
 
 void Preferences::ecrire(const QString &cle, const QString &texte)
 {
     Fichier::creerDossier(QFileInfo(fichier_).absolutePath());
-    Valeurs valeurs = lireOuRefuser(fichier_);
+    Valeurs valeurs = decoder(Fichier::lireOuRefuser(fichier_).value_or(QByteArray()));
     valeurs.insert(cle, texte);
     Fichier::ecrire(fichier_, encoder(valeurs));
 }

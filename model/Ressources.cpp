@@ -1,9 +1,8 @@
 #include "model/Ressources.h"
 
-#include "model/CauseSysteme.h"
+#include "model/Fichier.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
 
 Ressources Ressources::duProgramme()
@@ -46,13 +45,13 @@ QList<TarifsColissimo> Ressources::tarifs() const
 
 QByteArray Ressources::octets(const Json::Lieu &fichier) const
 {
-    QFile source(dossier_.filePath(fichier.chemin()));
-    QByteArray contenu;
-    if (source.open(QIODevice::ReadOnly))
-        contenu = source.readAll();
-    if (source.error() != QFile::NoError)
-        fichier.refuser(CauseSysteme::enFrancais(source.errorString()));
-    return contenu;
+    try {
+        if (const auto contenu = Fichier::lireOuRefuser(dossier_.filePath(fichier.chemin())))
+            return *contenu;
+    } catch (const ErreurStockage &erreur) {
+        fichier.refuser(erreur.raison());
+    }
+    fichier.refuser(QStringLiteral("fichier introuvable"));
 }
 
 void Ressources::refuser(const QString &raison) const

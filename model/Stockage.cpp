@@ -2,7 +2,6 @@
 
 #include "model/CauseSysteme.h"
 
-#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <filesystem>
@@ -46,14 +45,9 @@ void Stockage::effacer(const QString &nom)
 void Stockage::preserver(const QString &nom) const
 {
     const QString chemin = dossier_.filePath(nom);
-    if (!Fichier::existe(chemin))
-        return;
-    const auto contenu = Fichier::lire(chemin);
+    const auto contenu = Fichier::lireOuRefuser(chemin);
     if (!contenu)
-        throw ErreurStockage(chemin,
-                             QFileInfo(chemin).isDir()
-                                 ? QStringLiteral("un dossier occupe la place du fichier")
-                                 : QStringLiteral("ce qui s’y trouve ne peut pas être lu, et n’est donc pas remplacé"));
+        return;
     if (const auto connu = compris_.constFind(nom); connu != compris_.constEnd() && *connu == *contenu)
         return;
     QString copie = nom + QStringLiteral(".illisible");

@@ -16,7 +16,6 @@ private slots:
     void connaitParLesPrix();
     void modificationsAppliquees_data();
     void modificationsAppliquees();
-    void ressourceManquante_data();
     void ressourceManquante();
     void fraisEnregistres();
     void prixDesBoutons_data();
@@ -128,38 +127,18 @@ void TestCatalogue::modificationsAppliquees()
     QCOMPARE(*livre.prixEcartes, ecartes);
 }
 
-void TestCatalogue::ressourceManquante_data()
-{
-    QTest::addColumn<QString>("fichier");
-    QTest::addColumn<QByteArray>("contenu");
-    QTest::addColumn<QString>("erreur");
-    QTest::newRow("réglages incomplets") << QStringLiteral("reglages.json")
-                                         << QByteArray(R"({"fraisPaypal":{"releve":"x"}})")
-                                         << QStringLiteral(
-                                                "Ressource illisible : reglages.fraisPaypal.source : valeur manquante");
-    QTest::newRow("tarifs abîmés") << QStringLiteral("tarifs-colissimo-2026-01-01.json") << QByteArray("{")
-                                   << QStringLiteral(
-                                          "Ressource illisible : tarifs-colissimo-2026-01-01.json : JSON illisible, "
-                                          "ligne 1, colonne 1 : virgule, guillemet ou accolade manquante");
-    QTest::newRow("livres absents") << QStringLiteral("livres.json") << QByteArray()
-                                    << QStringLiteral("Ressource illisible : livres.json : fichier introuvable");
-}
-
 void TestCatalogue::ressourceManquante()
 {
-    QFETCH(QString, fichier);
-    QFETCH(QByteArray, contenu);
-    QFETCH(QString, erreur);
     const Banc banc;
-    banc.charger();
-    banc.ecrireRessource(fichier, contenu);
-    if (contenu.isEmpty())
-        QVERIFY(QFile::remove(banc.ressources().chemin(fichier)));
+    banc.deposer();
+    QVERIFY(QFile::remove(banc.ressources().chemin(QStringLiteral("livres.json"))));
+    banc.ecrireRessource(QStringLiteral("livres.json/obstacle"), {});
     try {
         Catalogue::charge(banc.ressources(), banc.stockage());
         QFAIL("chargement accepté");
     } catch (const RessourceIllisible &illisible) {
-        QCOMPARE(illisible.texte(), erreur);
+        QCOMPARE(illisible.texte(),
+                 QStringLiteral("Ressource illisible : livres.json : un dossier occupe la place du fichier"));
     }
 }
 

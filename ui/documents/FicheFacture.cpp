@@ -187,7 +187,7 @@ void FicheFacture::retenir(const QString &numero)
     try {
         NumerotationFactures{preferences_}.retenir(numero, vendeur_);
     } catch (const ErreurStockage &erreur) {
-        throw ErreurStockage(
+        throw Echec(
             tr("La facture %1 est partie, mais son numéro n’a pas été retenu.\n%2").arg(numero, erreur.texte()));
     }
 }
