@@ -43,7 +43,7 @@ std::optional<Numero> decomposer(const QString &numero)
 
 QString NumerotationFactures::prochain(Vendeur vendeur, QDate date) const
 {
-    const auto dernier = decomposer(preferences.texte(cle(vendeur)));
+    const auto dernier = decomposer(preferences.texteOuErreur(cle(vendeur)));
     const bool suite = dernier && dernier->annee == date.year() && dernier->rang < std::numeric_limits<qint64>::max();
     return QStringLiteral("%1-%2").arg(date.year()).arg(suite ? dernier->rang + 1 : 1, 3, 10, QLatin1Char('0'));
 }

@@ -13,7 +13,7 @@ struct NumerotationFactures
 {
     Preferences preferences;
 
-    // To propose; asking consumes nothing.
+    // To propose; asking consumes nothing. Throws ErreurStockage when the last number could not be read.
     [[nodiscard]] QString prochain(Vendeur vendeur, QDate date) const;
     // The invoice has left: the series goes on after it. An older number, or one that is none, changes nothing.
     // Throws ErreurStockage when the preferences could not be read or written; the series is then where

@@ -31,6 +31,7 @@ private slots:
     void enregistrementManque_data();
     void enregistrementManque();
     void numeroSansTrace();
+    void numeroIllisible();
     void impressionDansUnFichier();
     void nomSansSuffixe_data();
     void nomSansSuffixe();
@@ -259,6 +260,19 @@ void TestVueDocuments::numeroSansTrace()
         message.startsWith(QStringLiteral("La facture 2026-001 est partie, mais son numéro n’a pas été retenu.\n")),
         qPrintable(message));
     QVERIFY(QFile::exists(chemin));
+}
+
+// Rather no number than the first of the year once more.
+void TestVueDocuments::numeroIllisible()
+{
+    const QString chemin = banc_->donnees.cheminUtilisateur(QStringLiteral("Quillet.ini"));
+    QVERIFY(QDir().mkpath(chemin));
+    banc_->demarrer(Preferences(chemin));
+    banc_->commander(QStringLiteral("suisse"));
+    QDialog *feuille = banc_->ouvrir(facture);
+    QCOMPARE(qobject_cast<QLineEdit *>(Ecran::controle(feuille, numero))->text(), QString());
+    QVERIFY(Ecran::montre(feuille, QStringLiteral("Le dernier numéro n’a pas pu être lu.\n") + chemin
+                                       + QStringLiteral(" : un dossier occupe la place du fichier")));
 }
 
 void TestVueDocuments::impressionDansUnFichier()

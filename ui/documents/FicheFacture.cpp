@@ -118,9 +118,19 @@ void FicheFacture::montrer(const Calcul &calcul)
     }
     vendeur_ = *calcul.vendeurs().begin();
     if (!numero_->isModified() && numero_->text().isEmpty())
-        numero_->setText(NumerotationFactures{preferences_}.prochain(vendeur_, aujourdhui_()));
+        proposer();
     facture_ = Facture::de(calcul, reglages_, {}, aujourdhui_(), {});
     completer();
+}
+
+void FicheFacture::proposer()
+{
+    try {
+        numero_->setText(NumerotationFactures{preferences_}.prochain(vendeur_, aujourdhui_()));
+        sansProposition_.clear();
+    } catch (const ErreurStockage &erreur) {
+        sansProposition_ = tr("Le dernier numéro n’a pas pu être lu.\n%1").arg(erreur.texte());
+    }
 }
 
 // Brings the invoice shown up to what is typed.
@@ -130,7 +140,9 @@ void FicheFacture::completer()
         return;
     facture_->numero = numero_->text();
     facture_->acheteur = acheteur_->toPlainText();
-    remarque_->montrer(TextesDocuments::remarqueSurLeNumero(facture_->numero, facture_->date));
+    remarque_->montrer(facture_->numero.isEmpty() && !sansProposition_.isEmpty()
+                           ? sansProposition_
+                           : TextesDocuments::remarqueSurLeNumero(facture_->numero, facture_->date));
     identite_->setText(TextesDocuments::vendeur(facture_->vendeur));
     sansSiret_->montrer(TextesDocuments::sansSiret(facture_->vendeur));
     apercu_->montrer(*facture_);

@@ -29,6 +29,7 @@ public:
 private:
     QWidget *formulaire();
     QWidget *sorties();
+    void proposer();
     void completer();
     void imprimer();
     void enregistrer();
@@ -44,6 +45,7 @@ private:
     std::optional<Facture> facture_; // the one shown
     EtatVide *impossible_;
     QLineEdit *numero_;
+    QString sansProposition_; // why there is no number to propose; empty when there is one
     Alerte *remarque_;
     ZoneDeTexte *acheteur_;
     Alerte *sansSiret_;
