@@ -44,7 +44,7 @@ void MisesAJour::verifier()
         return;
     if (source_.flux.scheme() != u"https")
         return echouer(QStringLiteral("Recherche impossible : l’adresse des mises à jour n’est pas sécurisée."));
-    recherche_ = std::make_unique<Telechargement>(limitesDuFlux, Transfert::Cookies::refuses);
+    recherche_ = std::make_unique<Telechargement>(limitesDuFlux, Transfert::Usage::miseAJour);
     connect(recherche_.get(), &Telechargement::lue, this, &MisesAJour::lire);
     connect(recherche_.get(), &Telechargement::echouee, this, [this](const ErreurReleve &erreur) {
         echouer(QStringLiteral("Recherche impossible : %1.").arg(erreur.detail()));

@@ -62,8 +62,8 @@ QString texte(const QByteArray &corps, const QByteArray &codage, qint64 taille)
 
 } // namespace
 
-Telechargement::Telechargement(const Limites &limites, Transfert::Cookies cookies)
-    : taille_(limites.taille), transfert_(limites, cookies)
+Telechargement::Telechargement(const Limites &limites, Transfert::Usage usage)
+    : taille_(limites.taille), transfert_(limites, usage)
 {
     connect(&transfert_, &Transfert::recu, this, [this](const QByteArray &morceau) { corps_ += morceau; });
     connect(&transfert_, &Transfert::termine, this, &Telechargement::conclure);

@@ -8,7 +8,7 @@ class Telechargement : public QObject
     Q_OBJECT
 
 public:
-    explicit Telechargement(const Limites &limites = {}, Transfert::Cookies cookies = Transfert::Cookies::gardes);
+    explicit Telechargement(const Limites &limites = {}, Transfert::Usage usage = Transfert::Usage::pagePublique);
 
     [[nodiscard]] bool enCours() const { return transfert_.enCours(); }
     // Exactly one of the signals follows, never before this returns; whoever hears it may ask for the next page or

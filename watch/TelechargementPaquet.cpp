@@ -25,7 +25,7 @@ TelechargementPaquet::TelechargementPaquet(Appcast::Parution parution, const Sig
       cle_(cle),
       dossier_(dossier),
       fichier_(dossier.filePath(QStringLiteral(".paquet-XXXXXX"))),
-      transfert_(limites, Transfert::Cookies::refuses)
+      transfert_(limites, Transfert::Usage::miseAJour)
 {
     connect(&transfert_, &Transfert::recu, this, &TelechargementPaquet::ecrire);
     connect(&transfert_, &Transfert::termine, this, &TelechargementPaquet::conclure);

@@ -47,6 +47,15 @@ QString cause(QNetworkReply::NetworkError erreur)
     }
 }
 
+QString agent(Transfert::Usage usage)
+{
+    return usage == Transfert::Usage::miseAJour
+               ? QStringLiteral("Quillet")
+               : QStringLiteral(
+                   "Mozilla/5.0 (Macintosh; Intel Mac OS X 10_15_7) AppleWebKit/605.1.15 (KHTML, like Gecko) "
+                   "Version/18.0 Safari/605.1.15");
+}
+
 int statut(const QNetworkReply &reponse)
 {
     // The platform gives a local file the status 200.
@@ -57,7 +66,7 @@ int statut(const QNetworkReply &reponse)
 
 } // namespace
 
-Transfert::Transfert(const Limites &limites, Cookies cookies) : limites_(limites), cookies_(cookies)
+Transfert::Transfert(const Limites &limites, Usage usage) : limites_(limites), usage_(usage)
 {
     // Not the platform's own time-out: it ends with the first redirection.
     silence_.setSingleShot(true);
@@ -81,17 +90,15 @@ void Transfert::demander(const QUrl &url, const QByteArray &codages)
 {
     Q_ASSERT_X(!enCours(), "Transfert::demander", "one answer at a time");
     QNetworkRequest requete(url);
-    requete.setHeader(QNetworkRequest::UserAgentHeader,
-                      QStringLiteral("Mozilla/5.0 (Macintosh; Intel Mac OS X 10_15_7) AppleWebKit/605.1.15 "
-                                     "(KHTML, like Gecko) Version/18.0 Safari/605.1.15"));
+    requete.setHeader(QNetworkRequest::UserAgentHeader, agent(usage_));
     requete.setRawHeader("Accept-Language", "fr-FR,fr;q=0.9");
     requete.setRawHeader("Accept-Encoding", codages); // said here, unpacking is ours
     requete.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
     requete.setMaximumRedirectsAllowed(redirectionsMaximales);
-    if (cookies_ == Cookies::refuses)
-        for (const auto usage :
+    if (usage_ == Usage::miseAJour)
+        for (const auto cookies :
              {QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::CookieSaveControlAttribute})
-            requete.setAttribute(usage, QNetworkRequest::Manual);
+            requete.setAttribute(cookies, QNetworkRequest::Manual);
 
     adresse_ = url;
     entete_ = false;

@@ -27,12 +27,14 @@ class Transfert : public QObject
     Q_OBJECT
 
 public:
-    enum class Cookies { gardes, refuses }; // kept as long as this object, or neither kept nor sent
+    // A public page is asked for as a browser would, and its cookies are kept as long as this object. An update is
+    // asked for in our own name, without any.
+    enum class Usage { pagePublique, miseAJour };
 
     // The detail of an error, also for what is too large once unpacked.
     static QString tropVolumineuse();
 
-    Transfert(const Limites &limites, Cookies cookies);
+    Transfert(const Limites &limites, Usage usage);
     ~Transfert() override;
     Q_DISABLE_COPY_MOVE(Transfert)
 
@@ -56,7 +58,7 @@ private:
     [[nodiscard]] std::optional<ErreurReleve> erreur(const QNetworkReply &reponse) const;
 
     Limites limites_;
-    Cookies cookies_;
+    Usage usage_;
     QNetworkAccessManager reseau_;
     QTimer silence_;
     QTimer duree_;

@@ -164,7 +164,8 @@ void TestMisesAJour::menu()
     QCOMPARE(commande()->isEnabled(), manque.isEmpty());
 }
 
-// Nothing before the user asks; then two requests, and no cookie, though one is offered on the way.
+// Nothing before the user asks; then two requests in Quillet's own name, and no cookie, though one is offered on the
+// way.
 void TestMisesAJour::rienDEnvoye()
 {
     serveur_->servir(QStringLiteral("/ailleurs"),
@@ -175,6 +176,7 @@ void TestMisesAJour::rienDEnvoye()
     QVERIFY(serveur_->requetes().isEmpty());
     chercher(nouvelle);
     QCOMPARE(serveur_->requetes().size(), 2);
+    QVERIFY(serveur_->requetes()[1].contains("\r\nUser-Agent: Quillet\r\n"));
     QVERIFY(!serveur_->requetes()[1].toLower().contains("cookie"));
 }
 
