@@ -31,7 +31,8 @@ void verifier(const QList<Appcast::Parution> &parutions)
             verifierLOrdre(a.numero, b.numero, parutions.last().numero);
     if (const auto offerte = Appcast::aProposer(parutions, installee)) {
         exiger(offerte->paquet.isValid() && offerte->paquet.scheme() == u"https", "https");
-        exiger(offerte->signature && offerte->longueur > 0 && offerte->longueur <= qint64{256} << 20, "paquet sur");
+        exiger(offerte->signature && offerte->longueur > 0 && offerte->longueur <= Appcast::longueurMaximale,
+               "paquet sur");
         for (const auto &parution : parutions)
             exiger(parution.numero <= offerte->numero && offerte->numero > installee, "la derniere");
     }

@@ -120,7 +120,7 @@ void TestAppcast::flux_data()
     cas("adresse mal formée", avec("q.deb", "%zz"), "Mise à jour refusée : son adresse n’est pas sécurisée.");
     cas("signature courte", avec("AAAA", ""), "Mise à jour refusée : elle n’est pas signée.");
     cas("sans longueur", avec("'15'", "'-1'"), "Mise à jour refusée : sa longueur n’est pas annoncée.");
-    cas("démesurée", avec("'15'", "'268435457'"), "Mise à jour refusée : elle est trop volumineuse.");
+    cas("démesurée", avec("'15'", "'67108865'"), "Mise à jour refusée : elle est trop volumineuse.");
     const char *coupe = "La liste des mises à jour est illisible : le document est coupé ou mal formé.";
     cas("coupé", rss(version("1.2")).chopped(6), coupe);
     cas("rien", {}, coupe);
