@@ -14,20 +14,6 @@
 
 namespace {
 
-// A full disk first takes a part of the bytes and says why only when asked to take the rest; a buffered QSaveFile
-// would even commit that part.
-bool toutEcrire(QIODevice &fichier, const QByteArray &octets)
-{
-    qint64 ecrits = 0;
-    while (ecrits < octets.size()) {
-        const qint64 pris = fichier.write(octets.constData() + ecrits, octets.size() - ecrits);
-        if (pris <= 0)
-            return false;
-        ecrits += pris;
-    }
-    return true;
-}
-
 // Some disks say only now that they are full or failing, and QSaveFile does not listen. Gives the error's number, 0 for
 // none; a file system that knows no such request is none.
 int synchroniser(const QSaveFile &fichier)
@@ -94,10 +80,22 @@ void Fichier::creerDossier(const QString &chemin)
         throw ErreurStockage(chemin, CauseSysteme::enFrancais(erreur));
 }
 
+// A full disk first takes a part, and says why only when asked to take the rest.
+bool Fichier::toutEcrire(QIODevice &fichier, QByteArrayView octets)
+{
+    while (!octets.isEmpty()) {
+        const qint64 pris = fichier.write(octets.data(), octets.size());
+        if (pris <= 0)
+            return false;
+        octets = octets.sliced(pris);
+    }
+    return true;
+}
+
 void Fichier::ecrire(const QString &chemin, const QByteArray &octets)
 {
     QSaveFile fichier(chemin);
-    if (!fichier.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+    if (!fichier.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) // buffered, it commits a cut file on a full disk
         throw ErreurStockage(chemin, raisonDuRefus(fichier));
     if (!toutEcrire(fichier, octets))
         throw ErreurStockage(chemin, CauseSysteme::enFrancais(fichier.errorString()));

@@ -3,9 +3,12 @@
 #include "model/Echec.h"
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 
 #include <optional>
+
+class QIODevice;
 
 // A file could not be read, written or deleted; the text names it and says why, in French.
 class ErreurStockage : public Echec
@@ -28,6 +31,8 @@ std::optional<QByteArray> lire(const QString &chemin);
 std::optional<QByteArray> lireOuRefuser(const QString &chemin);
 // With any missing parents; throws ErreurStockage.
 void creerDossier(const QString &chemin);
+// False when not all could be written; the device's own error says why.
+bool toutEcrire(QIODevice &fichier, QByteArrayView octets);
 // Replaces or creates the file, whole or not at all, and returns once the disk has taken it. Throws ErreurStockage;
 // what stood there is then as it was.
 void ecrire(const QString &chemin, const QByteArray &octets);

@@ -55,14 +55,9 @@ void TelechargementPaquet::ecrire(const QByteArray &morceau)
         return transfert_.interrompre(mauvaiseLongueur().texte());
     if (!ecritureManquee_.isEmpty())
         return;
-    // A full disk takes a part, and says why only when asked to take the rest.
-    for (QByteArrayView reste = morceau; !reste.isEmpty();) {
-        const qint64 pris = fichier_.write(reste.data(), reste.size());
-        if (pris <= 0) {
-            ecritureManquee_ = refusDuDisque().texte();
-            return transfert_.interrompre(ecritureManquee_);
-        }
-        reste = reste.sliced(pris);
+    if (!Fichier::toutEcrire(fichier_, morceau)) {
+        ecritureManquee_ = refusDuDisque().texte();
+        return transfert_.interrompre(ecritureManquee_);
     }
     emit progresse(octets_);
 }
