@@ -67,9 +67,9 @@ Telechargement::Telechargement(const Limites &limites, Transfert::Usage usage)
 {
     connect(&transfert_, &Transfert::recu, this, [this](const QByteArray &morceau) { corps_ += morceau; });
     connect(&transfert_, &Transfert::termine, this, &Telechargement::conclure);
-    connect(&transfert_, &Transfert::echoue, this, [this](const ErreurReleve &erreur) {
+    connect(&transfert_, &Transfert::echoue, this, [this](const QString &raison) {
         corps_.clear();
-        emit echouee(erreur);
+        emit echouee(ErreurReleve::reseau(raison));
     });
 }
 

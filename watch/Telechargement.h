@@ -1,5 +1,6 @@
 #pragma once
 
+#include "watch/ErreurReleve.h"
 #include "watch/Transfert.h"
 
 // Fetches a public page as text, without waiting for it. Destroying it gives the download up at once, without a signal.

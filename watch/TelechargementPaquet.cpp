@@ -29,7 +29,9 @@ TelechargementPaquet::TelechargementPaquet(Appcast::Parution parution, const Sig
 {
     connect(&transfert_, &Transfert::recu, this, &TelechargementPaquet::ecrire);
     connect(&transfert_, &Transfert::termine, this, &TelechargementPaquet::conclure);
-    connect(&transfert_, &Transfert::echoue, this, [this](const ErreurReleve &erreur) { emit echoue(raison(erreur)); });
+    connect(&transfert_, &Transfert::echoue, this, [this](const QString &raison) {
+        emit echoue(refus_.isEmpty() ? QStringLiteral("Téléchargement impossible : %1.").arg(raison) : refus_);
+    });
 }
 
 void TelechargementPaquet::commencer()
@@ -50,15 +52,13 @@ void TelechargementPaquet::commencer()
 
 void TelechargementPaquet::ecrire(const QByteArray &morceau)
 {
+    if (!refus_.isEmpty())
+        return;
     octets_ += morceau.size();
     if (octets_ > parution_.longueur) // of no use any more, whatever follows
-        return transfert_.interrompre(mauvaiseLongueur().texte());
-    if (!ecritureManquee_.isEmpty())
-        return;
-    if (!Fichier::toutEcrire(fichier_, morceau)) {
-        ecritureManquee_ = refusDuDisque().texte();
-        return transfert_.interrompre(ecritureManquee_);
-    }
+        return refuser(mauvaiseLongueur());
+    if (!Fichier::toutEcrire(fichier_, morceau))
+        return refuser(refusDuDisque());
     emit progresse(octets_);
 }
 
@@ -67,13 +67,10 @@ ErreurStockage TelechargementPaquet::refusDuDisque() const
     return {dossier_.path(), CauseSysteme::enFrancais(fichier_.errorString())};
 }
 
-QString TelechargementPaquet::raison(const ErreurReleve &erreur) const
+void TelechargementPaquet::refuser(const Echec &raison)
 {
-    if (octets_ > parution_.longueur)
-        return mauvaiseLongueur().texte();
-    if (!ecritureManquee_.isEmpty())
-        return ecritureManquee_;
-    return QStringLiteral("Téléchargement impossible : %1.").arg(erreur.detail());
+    refus_ = raison.texte();
+    transfert_.interrompre(refus_);
 }
 
 void TelechargementPaquet::conclure(const QByteArray &codage)
@@ -90,9 +87,11 @@ void TelechargementPaquet::conclure(const QByteArray &codage)
 
 QString TelechargementPaquet::garder(const QByteArray &codage)
 {
+    if (!refus_.isEmpty()) // too late to break the transfer off
+        throw Echec(refus_);
     if (octets_ != parution_.longueur || (!codage.isEmpty() && codage != "identity"))
         throw mauvaiseLongueur();
-    if (!ecritureManquee_.isEmpty() || !fichier_.flush())
+    if (!fichier_.flush())
         throw refusDuDisque();
     if (!signe())
         throw ErreurMiseAJour::refusee(QStringLiteral("sa signature n’est pas celle de Quillet"));

@@ -29,17 +29,17 @@ signals:
 private:
     void ecrire(const QByteArray &morceau);
     void conclure(const QByteArray &codage);
-    // Throws ErreurMiseAJour, ErreurStockage.
+    // Throws Echec.
     QString garder(const QByteArray &codage);
     [[nodiscard]] bool signe();
     [[nodiscard]] ErreurStockage refusDuDisque() const;
-    [[nodiscard]] QString raison(const ErreurReleve &erreur) const;
+    void refuser(const Echec &raison);
 
     Appcast::Parution parution_;
     SignatureEd25519::Cle cle_;
     QDir dossier_;
     QTemporaryFile fichier_;
     qint64 octets_ = 0;
-    QString ecritureManquee_; // a sentence; empty when all could be written
+    QString refus_; // the sentence that ended the transfer from here; empty when none did
     Transfert transfert_;
 };

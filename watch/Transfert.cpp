@@ -159,15 +159,15 @@ void Transfert::conclure()
     duree_.stop();
     QNetworkReply *reponse = std::exchange(reponse_, nullptr);
     reponse->deleteLater();
-    if (const auto manque = erreur(*reponse))
-        emit echoue(*manque);
+    if (const auto raison = raisonDEchec(*reponse))
+        emit echoue(*raison);
     else
         emit termine(reponse->rawHeader("Content-Encoding").trimmed().toLower());
 }
 
 // Qt 6.4 reports every cut body but one: in chunks, neither packed nor encrypted, it sometimes passes for whole. What
 // is read here is encrypted, and no redirection leaves that.
-std::optional<ErreurReleve> Transfert::erreur(const QNetworkReply &reponse) const
+std::optional<QString> Transfert::raisonDEchec(const QNetworkReply &reponse) const
 {
     const QNetworkReply::NetworkError erreur = reponse.error();
     const bool interrompue = !interruption_.isEmpty();
@@ -178,12 +178,12 @@ std::optional<ErreurReleve> Transfert::erreur(const QNetworkReply &reponse) cons
                          && (interrompue || erreur == QNetworkReply::InsecureRedirectError
                              || erreur == QNetworkReply::TooManyRedirectsError);
     if (!echec.isEmpty() && (!entete_ || enRoute))
-        return ErreurReleve::reseau(echec);
+        return echec;
     if (code != 200)
-        return ErreurReleve::reseau(QStringLiteral("réponse %1 de %2").arg(code).arg(adresse_.host()));
+        return QStringLiteral("réponse %1 de %2").arg(code).arg(adresse_.host());
     if (!echec.isEmpty())
-        return ErreurReleve::reseau(echec);
+        return echec;
     if (octets_ > limites_.taille) // all had come before it could be broken off
-        return ErreurReleve::reseau(tropVolumineuse());
+        return tropVolumineuse();
     return std::nullopt;
 }

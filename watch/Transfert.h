@@ -1,7 +1,5 @@
 #pragma once
 
-#include "watch/ErreurReleve.h"
-
 #include <QNetworkAccessManager>
 #include <QObject>
 #include <QTimer>
@@ -31,7 +29,7 @@ public:
     // asked for in our own name, without any.
     enum class Usage { pagePublique, miseAJour };
 
-    // The detail of an error, also for what is too large once unpacked.
+    // Why it failed, also for what is too large once unpacked.
     static QString tropVolumineuse();
 
     Transfert(const Limites &limites, Usage usage);
@@ -49,13 +47,13 @@ signals:
     // A piece of an answer of status 200, as sent. Not a place to destroy this object.
     void recu(const QByteArray &morceau);
     void termine(const QByteArray &codage); // empty: none
-    void echoue(const ErreurReleve &erreur);
+    void echoue(const QString &raison);     // a short phrase in lower case, or what `interrompre` was told
 
 private:
     void recevoirEntete();
     void recevoir();
     void conclure();
-    [[nodiscard]] std::optional<ErreurReleve> erreur(const QNetworkReply &reponse) const;
+    [[nodiscard]] std::optional<QString> raisonDEchec(const QNetworkReply &reponse) const;
 
     Limites limites_;
     Usage usage_;
