@@ -20,9 +20,12 @@ struct Palier
 
 enum class FamilleTarifs { france, outreMer, europe, monde };
 
+// The grids of La Poste's page. Any other could not be found there, and every weekly reading would fail.
+enum class ZoneColissimo { franceDomicile, om1, om2, ueSuisse, royaumeUni, zoneB, zoneC };
+
 struct GrilleColissimo
 {
-    QString code;
+    QString code; // raw value of a ZoneColissimo
     QString nomCourt;
     QString famille; // raw value of a FamilleTarifs; another text belongs to no family
     QString nom;
@@ -60,6 +63,17 @@ inline constexpr std::array Json::valeursBrutes<FamilleTarifs>{
     Json::ValeurBrute{FamilleTarifs::outreMer, "outre-mer"},
     Json::ValeurBrute{FamilleTarifs::europe, "europe"},
     Json::ValeurBrute{FamilleTarifs::monde, "monde"},
+};
+
+template <>
+inline constexpr std::array Json::valeursBrutes<ZoneColissimo>{
+    Json::ValeurBrute{ZoneColissimo::franceDomicile, "france-domicile"},
+    Json::ValeurBrute{ZoneColissimo::om1, "om1"},
+    Json::ValeurBrute{ZoneColissimo::om2, "om2"},
+    Json::ValeurBrute{ZoneColissimo::ueSuisse, "ue-suisse"},
+    Json::ValeurBrute{ZoneColissimo::royaumeUni, "royaume-uni"},
+    Json::ValeurBrute{ZoneColissimo::zoneB, "zone-b"},
+    Json::ValeurBrute{ZoneColissimo::zoneC, "zone-c"},
 };
 
 template <>

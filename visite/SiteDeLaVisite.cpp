@@ -10,15 +10,16 @@ namespace {
 // What La Poste writes over the column of each grid.
 QString entete(const QString &code)
 {
-    static const QHash<QString, QString> entetes{
-        {QStringLiteral("om1"), QStringLiteral("Outre-mer zone OM 1")},
-        {QStringLiteral("om2"), QStringLiteral("Outre-mer zone OM 2")},
-        {QStringLiteral("france-domicile"), QStringLiteral("France métropolitaine – livraison à domicile")},
-        {QStringLiteral("royaume-uni"), QStringLiteral("Royaume-Uni")},
-        {QStringLiteral("ue-suisse"), QStringLiteral("Union européenne (UE) et Suisse")},
-        {QStringLiteral("zone-b"), QStringLiteral("Zone B")},
-        {QStringLiteral("zone-c"), QStringLiteral("Zone C")}};
-    return entetes.value(code, code);
+    static const QHash<ZoneColissimo, QString> entetes{
+        {ZoneColissimo::franceDomicile, QStringLiteral("France métropolitaine – livraison à domicile")},
+        {ZoneColissimo::om1, QStringLiteral("Outre-mer zone OM 1")},
+        {ZoneColissimo::om2, QStringLiteral("Outre-mer zone OM 2")},
+        {ZoneColissimo::ueSuisse, QStringLiteral("Union européenne (UE) et Suisse")},
+        {ZoneColissimo::royaumeUni, QStringLiteral("Royaume-Uni")},
+        {ZoneColissimo::zoneB, QStringLiteral("Zone B")},
+        {ZoneColissimo::zoneC, QStringLiteral("Zone C")}};
+    const auto zone = Json::depuisBrut<ZoneColissimo>(code);
+    return zone ? entetes.value(*zone) : code;
 }
 
 QString euros(Centimes montant)

@@ -59,6 +59,28 @@ GrilleColissimo lireGrille(const GrilleColissimo &modele, const PaliersParCode &
     return grille;
 }
 
+std::optional<ZoneColissimo> zone(const QString &texte)
+{
+    const auto dit = [&](QStringView mots) { return texte.contains(mots); };
+    if (dit(u"colissimo eco") || dit(u"retrait") || dit(u"prêt-à-envoyer"))
+        return std::nullopt;
+    if (dit(u"om 1"))
+        return ZoneColissimo::om1;
+    if (dit(u"om 2"))
+        return ZoneColissimo::om2;
+    if (dit(u"domicile") && dit(u"france"))
+        return ZoneColissimo::franceDomicile;
+    if (dit(u"royaume-uni"))
+        return ZoneColissimo::royaumeUni;
+    if (dit(u"suisse") && dit(u"ue"))
+        return ZoneColissimo::ueSuisse;
+    if (dit(u"zone b"))
+        return ZoneColissimo::zoneB;
+    if (dit(u"zone c"))
+        return ZoneColissimo::zoneC;
+    return std::nullopt;
+}
+
 bool enChiffres(const QString &texte)
 {
     return std::ranges::all_of(texte, [](QChar signe) { return signe >= u'0' && signe <= u'9'; });
@@ -73,25 +95,8 @@ QUrl ReleveColissimo::adresse()
 
 std::optional<QString> ReleveColissimo::code(const QString &entete)
 {
-    const QString texte = entete.toLower();
-    const auto dit = [&](QStringView mots) { return texte.contains(mots); };
-    if (dit(u"colissimo eco") || dit(u"retrait") || dit(u"prêt-à-envoyer"))
-        return std::nullopt;
-    if (dit(u"om 1"))
-        return QStringLiteral("om1");
-    if (dit(u"om 2"))
-        return QStringLiteral("om2");
-    if (dit(u"domicile") && dit(u"france"))
-        return QStringLiteral("france-domicile");
-    if (dit(u"royaume-uni"))
-        return QStringLiteral("royaume-uni");
-    if (dit(u"suisse") && dit(u"ue"))
-        return QStringLiteral("ue-suisse");
-    if (dit(u"zone b"))
-        return QStringLiteral("zone-b");
-    if (dit(u"zone c"))
-        return QStringLiteral("zone-c");
-    return std::nullopt;
+    const auto annoncee = zone(entete.toLower());
+    return annoncee ? std::optional(Json::brut(*annoncee)) : std::nullopt;
 }
 
 std::optional<QString> ReleveColissimo::dateDEffet(const QString &texte)

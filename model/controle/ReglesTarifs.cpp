@@ -1,19 +1,14 @@
 #include "model/controle/Regles.h"
 #include "model/controle/ReglesCommunes.h"
 
-#include <algorithm>
-#include <array>
-
 namespace {
 
-// The grids of La Poste's page. Any other could not be found there, and every weekly reading would fail.
-constexpr std::array codes{"france-domicile", "om1", "om2", "ue-suisse", "royaume-uni", "zone-b", "zone-c"};
-
-QString liste(const auto &valeurs, auto texte)
+template <Json::EstEnumeration Enum>
+QString valeurs()
 {
     QStringList textes;
-    for (const auto &valeur : valeurs)
-        textes.append(QString::fromLatin1(texte(valeur)));
+    for (const auto &valeur : Json::valeursBrutes<Enum>)
+        textes.append(QString::fromLatin1(valeur.texte));
     return textes.join(QStringLiteral(", "));
 }
 
@@ -32,15 +27,14 @@ void paliers(const QList<Palier> &paliers, const Json::Lieu &lieu)
 
 void grille(const GrilleColissimo &grille, const Json::Lieu &lieu)
 {
-    if (std::ranges::none_of(codes, [&](const char *code) { return grille.code == QLatin1String(code); }))
+    if (!Json::depuisBrut<ZoneColissimo>(grille.code))
         Json::Lieu(lieu, QStringLiteral("code"))
             .noter(QStringLiteral("grille inconnue « %1 » ; celles de La Poste : %2")
-                       .arg(grille.code, liste(codes, [](const char *code) { return code; })));
+                       .arg(grille.code, valeurs<ZoneColissimo>()));
     if (!Json::depuisBrut<FamilleTarifs>(grille.famille))
         Json::Lieu(lieu, QStringLiteral("famille"))
             .noter(QStringLiteral("famille inconnue « %1 », la grille ne serait pas montrée ; attendu : %2")
-                       .arg(grille.famille, liste(Json::valeursBrutes<FamilleTarifs>,
-                                                  [](const auto &famille) { return famille.texte; })));
+                       .arg(grille.famille, valeurs<FamilleTarifs>()));
     paliers(grille.paliers, Json::Lieu(lieu, QStringLiteral("paliers")));
 }
 
