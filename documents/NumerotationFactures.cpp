@@ -1,6 +1,7 @@
 #include "documents/NumerotationFactures.h"
 
-#include <algorithm>
+#include "model/ChiffresAscii.h"
+
 #include <limits>
 
 namespace {
@@ -18,11 +19,11 @@ QString cle(Vendeur vendeur)
     return QStringLiteral("derniereFacture.") + Json::brut(vendeur);
 }
 
-// Base 10, nothing around the digits but a sign: Qt alone would also take blanks.
+// Base 10, nothing around the digits but a sign.
 std::optional<qint64> entier(QStringView texte)
 {
     const QStringView chiffres = texte.startsWith(u'+') ? texte.sliced(1) : texte;
-    if (!std::ranges::all_of(chiffres, [](QChar lettre) { return lettre >= u'0' && lettre <= u'9'; }))
+    if (!queDesChiffres(chiffres))
         return std::nullopt;
     bool lu = false;
     const qint64 valeur = chiffres.toLongLong(&lu);

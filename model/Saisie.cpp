@@ -1,8 +1,7 @@
 #include "model/Saisie.h"
 
+#include "model/ChiffresAscii.h"
 #include "model/Format.h"
-
-#include <algorithm>
 
 namespace {
 
@@ -10,11 +9,6 @@ QString sansEspaces(QString texte)
 {
     texte.removeIf([](QChar c) { return c.isSpace(); });
     return texte;
-}
-
-bool queDesChiffres(const QString &texte)
-{
-    return std::ranges::all_of(texte, [](QChar c) { return c >= u'0' && c <= u'9'; });
 }
 
 bool estNegatif(const QString &texte)

@@ -1,3 +1,4 @@
+#include "model/ChiffresAscii.h"
 #include "watch/Signes.h"
 #include "watch/TexteHTML.h"
 
@@ -12,7 +13,7 @@ std::optional<qint64> echelle(QStringView entier, QStringView fraction, qsizetyp
 {
     const QStringView gardee = fraction.first(std::min(decimales, fraction.size()));
     const QString chiffres = entier.toString() + gardee.toString().leftJustified(decimales, u'0');
-    if (!std::ranges::all_of(chiffres, [](QChar signe) { return signe >= u'0' && signe <= u'9'; }))
+    if (!queDesChiffres(chiffres))
         return std::nullopt;
     bool tient = false;
     const qint64 valeur = chiffres.toLongLong(&tient);

@@ -1,5 +1,6 @@
 #include "watch/ReleveColissimo.h"
 
+#include "model/ChiffresAscii.h"
 #include "model/Format.h"
 #include "watch/ErreurReleve.h"
 #include "watch/QuantiteLue.h"
@@ -81,11 +82,6 @@ std::optional<ZoneColissimo> zone(const QString &texte)
     return std::nullopt;
 }
 
-bool enChiffres(const QString &texte)
-{
-    return std::ranges::all_of(texte, [](QChar signe) { return signe >= u'0' && signe <= u'9'; });
-}
-
 } // namespace
 
 QUrl ReleveColissimo::adresse()
@@ -118,7 +114,7 @@ std::optional<QString> ReleveColissimo::dateDEffet(const QString &texte)
     const QStringList &date = trouves.first();
     // Without case, a pattern takes more letters than lower case gives back.
     const qsizetype numero = mois.indexOf(date[2].toLower()) + 1;
-    if (numero == 0 || !enChiffres(date[1]) || !enChiffres(date[3]))
+    if (numero == 0 || !queDesChiffres(date[1]) || !queDesChiffres(date[3]))
         return std::nullopt;
     return QStringLiteral("%1-%2-%3")
         .arg(date[3])
