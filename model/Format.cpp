@@ -80,18 +80,6 @@ std::unique_ptr<icu::SimpleDateFormat> formateurDeDate()
     return formateur;
 }
 
-QDate lireIso(const QString &texte)
-{
-    if (texte.size() != 10)
-        return {};
-    for (qsizetype i = 0; i < texte.size(); ++i) {
-        const bool tiret = i == 4 || i == 7;
-        if (tiret ? texte[i] != u'-' : (texte[i] < u'0' || texte[i] > u'9'))
-            return {};
-    }
-    return {texte.left(4).toInt(), texte.mid(5, 2).toInt(), texte.right(2).toInt()};
-}
-
 } // namespace
 
 QString Format::euros(Centimes montant)
@@ -157,8 +145,15 @@ QString Format::date(QDate jour)
     return texte.startsWith(QLatin1String("1 ")) ? QStringLiteral("1er ") + texte.mid(2) : texte;
 }
 
+// Qt also reads other forms.
+QDate Format::jour(const QString &iso)
+{
+    const QDate jour = QDate::fromString(iso, Qt::ISODate);
+    return Format::iso(jour) == iso ? jour : QDate();
+}
+
 QString Format::date(const QString &iso)
 {
-    const QDate jour = lireIso(iso);
-    return jour.isValid() ? date(jour) : iso;
+    const QDate lu = jour(iso);
+    return lu.isValid() ? date(lu) : iso;
 }

@@ -5,7 +5,7 @@
 #include <QDate>
 #include <QString>
 
-// Every conversion of amounts, weights, rates and days into text. Separators are those of the CLDR.
+// Every conversion of amounts, weights, rates and days into text, and of days back. Separators are those of the CLDR.
 namespace Format {
 
 QString euros(Centimes montant);        // 1 234,50 €
@@ -19,7 +19,9 @@ QString pourcentage(Taux taux);         // 3,49 %
 
 QString iso(QDate jour);  // 2025-03-14
 QString date(QDate jour); // 14 mars 2025, 1er mars 2025
-// A text that is not a day as yyyy-mm-dd comes back unchanged.
+// Invalid unless the text is a day of the calendar as `iso` writes it.
+QDate jour(const QString &iso);
+// A text that is not such a day comes back unchanged.
 QString date(const QString &iso);
 
 } // namespace Format

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "model/Format.h"
 #include "model/Json.h"
 #include "model/Livre.h"
 
-#include <QDate>
 #include <QHash>
 
 // What holds for every value of its kind, wherever it stands: texts say something, quantities are not negative, links
@@ -81,7 +81,7 @@ void controler(const QMap<QString, T> &valeurs, const Json::Lieu &lieu)
 // A day of the calendar, as schedules and fees write it.
 inline void jour(const QString &texte, const Json::Lieu &lieu)
 {
-    if (QDate::fromString(texte, Qt::ISODate).toString(Qt::ISODate) != texte)
+    if (!Format::jour(texte).isValid())
         lieu.noter(QStringLiteral("jour attendu, de la forme 2026-01-31"));
 }
 

@@ -98,7 +98,7 @@ Ligne TextesVerifications::paypal(const Verifications &verifications, const Cata
 
 QString TextesVerifications::veille(const QString &iso)
 {
-    const QDate jour = QDate::fromString(iso, Qt::ISODate);
+    const QDate jour = Format::jour(iso);
     return jour.isValid() ? Format::iso(jour.addDays(-1)) : iso;
 }
 
