@@ -39,8 +39,13 @@ QList<TarifsColissimo> Ressources::tarifs() const
     for (const QString &nom : nomsDesTarifs())
         tarifs.append(lire<TarifsColissimo>(nom));
     if (tarifs.isEmpty())
-        refuser(QStringLiteral("tarifs-colissimo-….json : fichier introuvable"));
+        refuser(tarifsIntrouvables());
     return tarifs;
+}
+
+QString Ressources::tarifsIntrouvables()
+{
+    return QStringLiteral("tarifs-colissimo-….json : fichier introuvable");
 }
 
 QByteArray Ressources::octets(const Json::Lieu &fichier) const

@@ -52,6 +52,8 @@ public:
     [[nodiscard]] QList<TarifsColissimo> tarifs() const;
     // Their files, without ".json"; maybe none.
     [[nodiscard]] QStringList nomsDesTarifs() const;
+    // What is said when there are none.
+    static QString tarifsIntrouvables();
     // Path of a file or folder in here, whether it exists or not.
     [[nodiscard]] QString chemin(const QString &nom) const { return dossier_.filePath(nom); }
 

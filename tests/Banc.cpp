@@ -97,7 +97,7 @@ void Banc::deposer() const
     ecrireRessource(QStringLiteral("destinations.json"), Json::encoder(destinations));
     ecrireRessource(QStringLiteral("reglages.json"), Json::encoder(reglages));
     for (const TarifsColissimo &jeu : tarifs)
-        ecrireRessource(QStringLiteral("tarifs-colissimo-%1.json").arg(jeu.validite), Json::encoder(jeu));
+        ecrireRessource(jeu.nomDeFichier(), Json::encoder(jeu));
 }
 
 std::unique_ptr<Catalogue> Banc::charger() const

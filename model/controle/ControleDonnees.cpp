@@ -95,7 +95,7 @@ ControleDonnees ControleDonnees::de(const QDir &dossier)
     for (const FichierControle<TarifsColissimo> &jeu : tarifs)
         controle.erreurs += jeu.erreurs();
     if (noms.isEmpty())
-        controle.erreurs.append(QStringLiteral("tarifs-colissimo-….json : fichier introuvable"));
+        controle.erreurs.append(Ressources::tarifsIntrouvables());
     return controle;
 }
 
