@@ -21,7 +21,7 @@ public:
         bool operator==(const Ligne &) const = default;
     };
 
-    Calcul(const Catalogue &catalogue, const Commande &commande, QDate aujourdhui = QDate::currentDate());
+    Calcul(const Catalogue &catalogue, const Commande &commande, QDate aujourdhui);
 
     const QList<Ligne> lignes; // in catalogue order
     const Centimes sousTotal;  // the books alone

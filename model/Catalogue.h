@@ -32,7 +32,7 @@ public:
     // The schedule in force on a day (yyyy-mm-dd); before the first one, the earliest.
     [[nodiscard]] const TarifsColissimo &tarifs(const QString &date) const;
     // The next schedule that is not yet in force.
-    [[nodiscard]] std::optional<TarifsColissimo> tarifsAVenir(QDate aujourdhui = QDate::currentDate()) const;
+    [[nodiscard]] std::optional<TarifsColissimo> tarifsAVenir(QDate aujourdhui) const;
     // Whether a known schedule has the same grids at the same prices, whatever its dates.
     [[nodiscard]] bool connait(const TarifsColissimo &tarifs) const;
     [[nodiscard]] std::optional<Destination> destination(const QString &code) const;
