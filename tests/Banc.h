@@ -6,10 +6,6 @@
 
 #include <QTemporaryDir>
 
-#include <sys/resource.h>
-
-#include <csignal>
-
 // A small catalogue on temporary folders, read and written by the real code. Change the records, then load.
 struct Banc
 {
