@@ -1,6 +1,6 @@
 #include "documents/Facture.h"
 
-#include "documents/ReponseType.h"
+#include "documents/VendeurUnique.h"
 
 #include <algorithm>
 

@@ -1,5 +1,6 @@
 #include "documents/ReponseType.h"
 
+#include "documents/VendeurUnique.h"
 #include "model/Commande.h"
 #include "model/Format.h"
 
@@ -138,12 +139,6 @@ Langue langueAcheteur(const Commande &commande, const Calcul &calcul)
         return *commande.langue();
     static const QStringList francophones{QStringLiteral("france"), QStringLiteral("om1"), QStringLiteral("om2")};
     return !calcul.destination || francophones.contains(calcul.destination->code) ? Langue::francais : Langue::anglais;
-}
-
-std::optional<IdentiteVendeur> vendeurUnique(const Calcul &calcul, const Reglages &reglages)
-{
-    const QSet<Vendeur> vendeurs = calcul.vendeurs();
-    return vendeurs.size() == 1 ? reglages.identite(*vendeurs.begin()) : std::nullopt;
 }
 
 std::optional<ReponseType> ReponseType::de(const Calcul &calcul, const Reglages &reglages, const Commande &commande,

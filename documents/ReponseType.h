@@ -36,5 +36,3 @@ struct ReponseType
 
 // The language chosen for the buyer or, until one is chosen, the destination's own.
 Langue langueAcheteur(const Commande &commande, const Calcul &calcul);
-// None unless all books of the order belong to one seller whose identity is known.
-std::optional<IdentiteVendeur> vendeurUnique(const Calcul &calcul, const Reglages &reglages);

@@ -3,7 +3,7 @@
 #include "documents/ArticleDouane.h"
 #include "documents/Facture.h"
 #include "documents/NumerotationFactures.h"
-#include "documents/ReponseType.h"
+#include "documents/VendeurUnique.h"
 #include "model/Format.h"
 #include "ui/commun/NomsVendeurs.h"
 

@@ -1,0 +1,7 @@
+#include "documents/VendeurUnique.h"
+
+std::optional<IdentiteVendeur> vendeurUnique(const Calcul &calcul, const Reglages &reglages)
+{
+    const QSet<Vendeur> vendeurs = calcul.vendeurs();
+    return vendeurs.size() == 1 ? reglages.identite(*vendeurs.begin()) : std::nullopt;
+}
