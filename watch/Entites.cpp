@@ -1,7 +1,8 @@
-#include "watch/TexteHTML.h"
+#include "watch/Entites.h"
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -37,7 +38,7 @@ std::optional<char32_t> caractereNumero(QStringView chiffres, unsigned base)
     return static_cast<char32_t>(numero);
 }
 
-std::optional<char32_t> decoder(QStringView nom)
+std::optional<char32_t> entite(QStringView nom)
 {
     if (nom.startsWith(u"#x") || nom.startsWith(u"#X"))
         return caractereNumero(nom.sliced(2), 16);
@@ -49,7 +50,7 @@ std::optional<char32_t> decoder(QStringView nom)
 
 } // namespace
 
-QString TexteHTML::decoderEntites(QStringView texte)
+QString Entites::decoder(QStringView texte)
 {
     if (!texte.contains(u'&'))
         return texte.toString();
@@ -61,7 +62,7 @@ QString TexteHTML::decoderEntites(QStringView texte)
         suite = place + 1;
         const qsizetype longueur =
             texte.sliced(suite).first(std::min(longueurMaximale + 1, texte.size() - suite)).indexOf(u';');
-        const auto caractere = longueur < 0 ? std::nullopt : decoder(texte.sliced(suite, longueur));
+        const auto caractere = longueur < 0 ? std::nullopt : entite(texte.sliced(suite, longueur));
         if (caractere) {
             resultat += QChar::fromUcs4(*caractere);
             suite += longueur + 1;

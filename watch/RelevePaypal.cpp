@@ -2,6 +2,7 @@
 
 #include "model/Format.h"
 #include "watch/ErreurReleve.h"
+#include "watch/Nombres.h"
 #include "watch/QuantiteLue.h"
 #include "watch/Signes.h"
 #include "watch/TexteHTML.h"
@@ -38,7 +39,7 @@ std::optional<qint64> chercher(const QString &texte, const Figure &figure)
     for (qsizetype place = texte.indexOf(debut, 0, Qt::CaseInsensitive); place >= 0;
          place = texte.indexOf(debut, place + 1, Qt::CaseInsensitive))
         if (const auto lue = lireFigure(QStringView(texte).sliced(place + debut.size()), figure); !lue.isEmpty())
-            return TexteHTML::centiemes(lue);
+            return Nombres::centiemes(lue);
     throw ErreurReleve::pageIllisible(figure.nom + QStringLiteral(" introuvable"));
 }
 

@@ -1,5 +1,6 @@
 #include "watch/TexteHTML.h"
 
+#include "watch/Entites.h"
 #include "watch/Signes.h"
 
 #include <QVarLengthArray>
@@ -125,7 +126,7 @@ QString TexteHTML::texte(QStringView html)
 {
     // What Qt calls a space is what "\s" takes, no-break spaces included.
     const QString contenu = html.contains(u'<') ? sansBalises(sansScripts(html)) : html.toString();
-    return decoderEntites(contenu).simplified();
+    return Entites::decoder(contenu).simplified();
 }
 
 QList<TexteHTML::Tableau> TexteHTML::tableaux(QStringView html)

@@ -5,9 +5,8 @@
 #include <QStringList>
 
 #include <limits>
-#include <optional>
 
-// Pages and their small French texts, read as a few regular expressions of ICU's dialect, without case, would read
+// Pages read as a few regular expressions of ICU's dialect, without case, would read
 // them: `tests/watch/tst_texte_html` holds these against their patterns. Time grows with the length of the text
 // alone, however the page is built, so that none can freeze the window.
 namespace TexteHTML {
@@ -24,11 +23,5 @@ QList<Tableau> tableaux(QStringView html);
 // stack, "[\d]+" and "[\s]+" take none.
 QList<QStringList> groupes(const QString &motif, const QString &texte,
                            qsizetype auPlus = std::numeric_limits<qsizetype>::max());
-// The first number, in hundredths: "4,9" and "4.90 €" are 490. None without one, or when it does not fit.
-std::optional<qint64> centiemes(QStringView texte);
-// The first weight, in grams: "Jusqu’à 0,5 kg" is 500. None without one, or when it does not fit.
-std::optional<qint64> grammes(QStringView texte);
-// "&eacute;", "&#233;" and "&#xE9;" become "é"; what is not known stays as written.
-QString decoderEntites(QStringView texte);
 
 } // namespace TexteHTML

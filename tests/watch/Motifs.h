@@ -4,7 +4,7 @@
 
 #include <random>
 
-// What TexteHTML promises, said with the patterns themselves and run by ICU's engine: slow, and true.
+// What TexteHTML and Nombres promise, said with the patterns themselves and run by ICU's engine: slow, and true.
 namespace Motifs {
 
 QString texte(const QString &html);

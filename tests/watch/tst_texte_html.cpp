@@ -1,4 +1,6 @@
 #include "tests/watch/Motifs.h"
+#include "watch/Entites.h"
+#include "watch/Nombres.h"
 
 #include <QTest>
 
@@ -101,7 +103,7 @@ void TestTexteHTML::entites()
 {
     QFETCH(QString, ecrit);
     QFETCH(QString, attendu);
-    QCOMPARE(TexteHTML::decoderEntites(ecrit), attendu);
+    QCOMPARE(Entites::decoder(ecrit), attendu);
 }
 
 void TestTexteHTML::nombres_data()
@@ -132,8 +134,8 @@ void TestTexteHTML::nombres()
     QFETCH(QString, texte);
     QFETCH(QString, centiemes);
     QFETCH(QString, grammes);
-    QCOMPARE(TexteHTML::centiemes(texte), lu(centiemes));
-    QCOMPARE(TexteHTML::grammes(texte), lu(grammes));
+    QCOMPARE(Nombres::centiemes(texte), lu(centiemes));
+    QCOMPARE(Nombres::grammes(texte), lu(grammes));
 }
 
 void TestTexteHTML::tableaux()
@@ -171,10 +173,10 @@ void TestTexteHTML::commeLesMotifs()
     for (int i = 0; i < 10'000; ++i) {
         const QString html = Motifs::fragment(hasard, morceaux());
         const auto tableaux = TexteHTML::tableaux(html);
-        const auto grammes = TexteHTML::grammes(html);
+        const auto grammes = Nombres::grammes(html);
         COMPARER(TexteHTML::texte(html), Motifs::texte(html), html);
         COMPARER(tableaux, Motifs::tableaux(html), html);
-        COMPARER(TexteHTML::centiemes(html), Motifs::centiemes(html), html);
+        COMPARER(Nombres::centiemes(html), Motifs::centiemes(html), html);
         COMPARER(grammes, Motifs::grammes(html), html);
         for (const auto &tableau : tableaux)
             for (const auto &rangee : tableau)
@@ -192,8 +194,8 @@ void TestTexteHTML::chaqueSigne()
         const QString texte = QStringLiteral("<style") + c + QStringLiteral("></") + c + QStringLiteral("tyle>5") + c
                               + QStringLiteral("g, 5g") + c;
         COMPARER(TexteHTML::texte(texte), Motifs::texte(texte), texte);
-        COMPARER(TexteHTML::centiemes(c), Motifs::centiemes(c), texte);
-        COMPARER(TexteHTML::grammes(texte), Motifs::grammes(texte), texte);
+        COMPARER(Nombres::centiemes(c), Motifs::centiemes(c), texte);
+        COMPARER(Nombres::grammes(texte), Motifs::grammes(texte), texte);
     }
 }
 
