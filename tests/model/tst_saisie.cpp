@@ -1,117 +1,99 @@
+#include "model/Saisie.h"
 #include "tests/Banc.h"
 
-#include <QSignalSpy>
 #include <QTest>
 
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <csignal>
-#include <functional>
-#include <limits>
-
-Q_DECLARE_METATYPE(std::function<Centimes(Centimes)>)
-
-// What the order holds, and the quantities it is counted in.
 class TestSaisie : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void ajuster_data();
-    void ajuster();
-    void viderEtSignaux();
-    void depassementArrete_data();
-    void depassementArrete();
+    void prix_data();
+    void prix();
+    void poids_data();
+    void poids();
 };
 
-void TestSaisie::ajuster_data()
+namespace {
+
+template <typename T>
+QString raison(const Saisie::Lecture<T> &lecture)
 {
-    QTest::addColumn<int>("depart");
-    QTest::addColumn<int>("pas");
-    QTest::addColumn<int>("arrivee");
-    QTest::newRow("+1 à 99") << 99 << 1 << 99;
-    QTest::newRow("-1 à 0") << 0 << -1 << 0;
-    QTest::newRow("+150") << 0 << 150 << 99;
-    QTest::newRow("pas démesuré") << 50 << std::numeric_limits<int>::max() << 99;
-    QTest::newRow("pas démesuré négatif") << 50 << std::numeric_limits<int>::min() << 0;
+    const auto *refus = std::get_if<Saisie::Refus>(&lecture);
+    return refus ? lisible(refus->raison) : QString();
 }
 
-void TestSaisie::ajuster()
+} // namespace
+
+void TestSaisie::prix_data()
 {
-    QFETCH(int, depart);
-    QFETCH(int, pas);
-    QFETCH(int, arrivee);
-    const Banc banc;
-    Commande commande;
-    commande.ajuster(banc.livres[0], depart);
-    commande.ajuster(banc.livres[0], pas);
-    QCOMPARE(commande.quantite(banc.livres[0]), arrivee);
-    QVERIFY(commande.quantites().contains(1));
-    QCOMPARE(commande.estVide(), arrivee == 0);
+    QTest::addColumn<QString>("saisie");
+    QTest::addColumn<qint64>("centimes");
+    QTest::addColumn<QString>("refus");
+    const auto accepte = [](const char *saisie, qint64 centimes) {
+        QTest::newRow(saisie) << QString::fromUtf8(saisie) << centimes << QString();
+    };
+    const auto refuse = [](const char *saisie, const char *refus) {
+        QTest::newRow(saisie) << QString::fromUtf8(saisie) << qint64{0} << QString::fromUtf8(refus);
+    };
+    accepte("18", 1800);
+    accepte("18,5", 1850);
+    accepte("18.05", 1805);
+    accepte(",5", 50);
+    accepte("7,", 700);
+    accepte("0", 0);
+    accepte(" 1\u202f234,50\u00a0€", 123450);
+    accepte("99 999,99", 9'999'999);
+    accepte("00000000000000000000012", 1200);
+    refuse("", "Il faut un prix.");
+    refuse("€", "Il faut un prix.");
+    refuse("-1", "Un prix ne peut pas être négatif.");
+    refuse("\u22121", "Un prix ne peut pas être négatif.");
+    refuse("18,555", "Deux décimales au plus, comme 18,50.");
+    refuse("100000", "Un prix va jusqu’à 99 999,99 €.");
+    refuse("99999999999999999999999", "Un prix va jusqu’à 99 999,99 €.");
+    for (const char *lettres : {"dix", "1,2,3", "1.234,5", ",", "1e3", "0x10", "\u0661\u0662", "+5", "5€€"})
+        refuse(lettres, "Un prix s’écrit en chiffres, comme 18,50.");
 }
 
-void TestSaisie::viderEtSignaux()
+void TestSaisie::prix()
 {
-    const Banc banc;
-    Commande commande;
-    QSignalSpy change(&commande, &Commande::change);
-    commande.setCodeDestination(QStringLiteral("ue"));
-    commande.setHorsUE(true);
-    commande.setPaysLivraison(QStringLiteral("l’Italie"));
-    commande.setLangue(Langue::anglais);
-    commande.setPoidsPese(Grammes{450});
-    commande.setEmballage(QStringLiteral("Carton"));
-    commande.ajuster(banc.livres[2], 3);
-    QCOMPARE(change.count(), 7);
-    commande.setEmballage(QStringLiteral("Carton"));
-    commande.setPoidsPese(Grammes{450});
-    commande.setCodeDestination(QStringLiteral("ue"));
-    commande.ajuster(banc.livres[2], 0);
-    QCOMPARE(change.count(), 7);
-    QVERIFY(commande.horsUE() && commande.langue());
-    commande.setVendeur(Vendeur::mireva);
-    QCOMPARE(commande.poidsEmballageLibre(), Grammes{100});
-    commande.setPoidsEmballageLibre(Grammes{60});
-
-    commande.vider();
-    QCOMPARE(change.count(), 10);
-    QCOMPARE(commande.vendeur(), Vendeur::mireva);
-    QCOMPARE(commande.poidsEmballageLibre(), Grammes{60});
-    QVERIFY(commande.estVide() && !commande.poidsPese() && !commande.horsUE() && !commande.langue());
-    QVERIFY(commande.paysLivraison().isEmpty());
-    QCOMPARE(commande.codeDestination(), QStringLiteral("ue"));
-    QCOMPARE(commande.emballage(), QStringLiteral("Carton"));
-
-    commande.setHorsUE(true);
-    commande.setPaysLivraison(QStringLiteral("Lugano"));
-    commande.setLangue(Langue::francais);
-    commande.setCodeDestination(QStringLiteral("suisse"));
-    QVERIFY(!commande.horsUE() && commande.paysLivraison().isEmpty() && !commande.langue());
-}
-
-void TestSaisie::depassementArrete_data()
-{
-    QTest::addColumn<std::function<Centimes(Centimes)>>("operation");
-    using Operation = std::function<Centimes(Centimes)>;
-    QTest::newRow("+") << Operation([](Centimes maximum) { return maximum + Centimes{1}; });
-    QTest::newRow("-") << Operation([](Centimes maximum) { return -maximum - Centimes{2}; });
-    QTest::newRow("*") << Operation([](Centimes maximum) { return maximum * 2; });
-}
-
-void TestSaisie::depassementArrete()
-{
-    QFETCH(std::function<Centimes(Centimes)>, operation);
-    if (const pid_t enfant = fork(); enfant == 0) {
-        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-        std::signal(SIGABRT, SIG_DFL);
-        operation(Centimes{std::numeric_limits<qint64>::max()});
-        _exit(0); // reached only if the overflow went on
-    } else {
-        int statut = 0;
-        waitpid(enfant, &statut, 0);
-        QVERIFY(WIFSIGNALED(statut) && WTERMSIG(statut) == SIGABRT);
+    QFETCH(QString, saisie);
+    QFETCH(qint64, centimes);
+    QFETCH(QString, refus);
+    const auto lu = Saisie::prix(saisie);
+    QCOMPARE(raison(lu), refus);
+    if (refus.isEmpty()) {
+        QCOMPARE(std::get<Centimes>(lu), Centimes{centimes});
+        QCOMPARE(std::get<Centimes>(Saisie::prix(Saisie::ecrit(Centimes{centimes}))), Centimes{centimes});
     }
+}
+
+void TestSaisie::poids_data()
+{
+    QTest::addColumn<QString>("saisie");
+    QTest::addColumn<std::optional<Grammes>>("poids");
+    QTest::addColumn<QString>("refus");
+    const QString entiers = QStringLiteral("Un poids s’écrit en grammes entiers, comme 355.");
+    const std::optional<Grammes> aucun;
+    QTest::newRow("grammes") << "355" << std::optional(Grammes{355}) << QString();
+    QTest::newRow("avec l’unité") << "1 250 g" << std::optional(Grammes{1250}) << QString();
+    QTest::newRow("à peser") << "  " << aucun << QString();
+    QTest::newRow("kilos") << "1kg" << aucun << entiers;
+    QTest::newRow("décimales") << "1,5" << aucun << entiers;
+    QTest::newRow("négatif") << "-3" << aucun << "Un poids ne peut pas être négatif.";
+    QTest::newRow("trop lourd") << "1000000" << aucun << "Un poids va jusqu’à 999 999 g.";
+}
+
+void TestSaisie::poids()
+{
+    QFETCH(QString, saisie);
+    QFETCH(std::optional<Grammes>, poids);
+    QFETCH(QString, refus);
+    const auto lu = Saisie::poids(saisie);
+    QCOMPARE(raison(lu), refus);
+    if (refus.isEmpty())
+        QCOMPARE(std::get<std::optional<Grammes>>(lu), poids);
 }
 
 QTEST_GUILESS_MAIN(TestSaisie)

@@ -15,7 +15,7 @@
 #include <QTest>
 
 // The real window, worked by clicks and keys.
-class TestCommande : public QObject
+class TestVueCommande : public QObject
 {
     Q_OBJECT
 
@@ -61,22 +61,22 @@ const QString reinitialiser = QStringLiteral("Tout réinitialiser");
 } // namespace
 
 template <typename Controle>
-Controle *TestCommande::controle(const QString &nom)
+Controle *TestVueCommande::controle(const QString &nom)
 {
     return qobject_cast<Controle *>(Ecran::controle(&app_->fenetre(), nom));
 }
 
-QString TestCommande::valeur(const QString &libelle)
+QString TestVueCommande::valeur(const QString &libelle)
 {
     return lisible(Ecran::valeurEnFaceDe(&app_->fenetre(), libelle));
 }
 
-void TestCommande::initTestCase()
+void TestVueCommande::initTestCase()
 {
     QuilletApp::preparer(Theme::Mode::clair);
 }
 
-void TestCommande::init()
+void TestVueCommande::init()
 {
     banc_ = std::make_unique<Banc>();
     banc_->livres.append(unLivre(5, Vendeur::davrel, Centimes{1200}, Grammes{180})); // after the one sold out
@@ -87,12 +87,12 @@ void TestCommande::init()
     QVERIFY(QTest::qWaitForWindowActive(&app_->fenetre()));
 }
 
-void TestCommande::cleanup()
+void TestVueCommande::cleanup()
 {
     app_.reset();
 }
 
-void TestCommande::cliquerUneCouverture()
+void TestVueCommande::cliquerUneCouverture()
 {
     QVERIFY(!controle<QAbstractButton>(reinitialiser)->isEnabled());
     cliquer(QStringLiteral("Livre 1"));
@@ -108,7 +108,7 @@ void TestCommande::cliquerUneCouverture()
     QCOMPARE(quantite(4), 0);
 }
 
-void TestCommande::compterAuxBornes()
+void TestVueCommande::compterAuxBornes()
 {
     const auto selecteur = [&](const QString &nom) { return controle<QAbstractButton>(nom); };
     auto *moins = selecteur(QStringLiteral("Retirer un exemplaire"));
@@ -125,7 +125,7 @@ void TestCommande::compterAuxBornes()
     QVERIFY(Ecran::montre(&app_->fenetre(), QStringLiteral("Aucun livre")));
 }
 
-void TestCommande::autrePoids()
+void TestVueCommande::autrePoids()
 {
     const QString champ = QStringLiteral("Poids de l’emballage, en grammes");
     QVERIFY(!controle(champ));
@@ -144,7 +144,7 @@ void TestCommande::autrePoids()
     QCOMPARE(valeur(QStringLiteral("Poids calculé")), QStringLiteral("180 g"));
 }
 
-void TestCommande::changerDeDestination()
+void TestVueCommande::changerDeDestination()
 {
     cliquer(QStringLiteral("Livre 1"));
     choisir(QStringLiteral("Envoi vers"), QStringLiteral("Union européenne"));
@@ -162,7 +162,7 @@ void TestCommande::changerDeDestination()
     QVERIFY(!controle(QStringLiteral("Colis pour les Canaries")));
 }
 
-void TestCommande::peserLeColis()
+void TestVueCommande::peserLeColis()
 {
     cliquer(QStringLiteral("Livre 2")); // never weighed
     QVERIFY(Ecran::montre(&app_->fenetre(), QStringLiteral("Livre 2 n’a pas encore été pesé : pesez le colis.")));
@@ -177,7 +177,7 @@ void TestCommande::peserLeColis()
     QCOMPARE(valeur(QStringLiteral("TOTAL À PAYER")), QStringLiteral("—"));
 }
 
-void TestCommande::saisieRefusee_data()
+void TestVueCommande::saisieRefusee_data()
 {
     QTest::addColumn<QString>("frappe");
     QTest::addColumn<QString>("garde");
@@ -186,7 +186,7 @@ void TestCommande::saisieRefusee_data()
     QTest::newRow("trop grand") << QStringLiteral("9999999") << QStringLiteral("999999");
 }
 
-void TestCommande::saisieRefusee()
+void TestVueCommande::saisieRefusee()
 {
     QFETCH(QString, frappe);
     QFETCH(QString, garde);
@@ -194,7 +194,7 @@ void TestCommande::saisieRefusee()
     QCOMPARE(app_->commande().poidsPese(), Grammes{garde.toLongLong()});
 }
 
-void TestCommande::toutReinitialiser()
+void TestVueCommande::toutReinitialiser()
 {
     cliquer(QStringLiteral("Livre 1"));
     choisir(QStringLiteral("Emballage"), QStringLiteral("Carton (180 g)"));
@@ -209,7 +209,7 @@ void TestCommande::toutReinitialiser()
     QVERIFY(!controle<QAbstractButton>(reinitialiser)->isEnabled());
 }
 
-void TestCommande::changerDeVendeur()
+void TestVueCommande::changerDeVendeur()
 {
     cliquer(QStringLiteral("Livre 1"));
     cliquer(QStringLiteral("Mireva")); // no identity: its short name
@@ -224,7 +224,7 @@ void TestCommande::changerDeVendeur()
 }
 
 // The second change comes while the first is still moving: one motion only, and nothing of it stays.
-void TestCommande::changerDeVendeurCoupSurCoup()
+void TestVueCommande::changerDeVendeurCoupSurCoup()
 {
     const auto transitions = [&] { return app_->fenetre().findChildren<TransitionCartes *>(); };
     cliquer(QStringLiteral("Mireva"));
@@ -238,7 +238,7 @@ void TestCommande::changerDeVendeurCoupSurCoup()
     QTRY_VERIFY_WITH_TIMEOUT(transitions().isEmpty(), 2000);
 }
 
-void TestCommande::copierUnChamp()
+void TestVueCommande::copierUnChamp()
 {
     cliquer(QStringLiteral("Livre 1"));
     const auto copie = [&](const QString &titre) {
@@ -255,7 +255,7 @@ void TestCommande::copierUnChamp()
     QVERIFY(copie(QStringLiteral("Nom de l’objet")));
 }
 
-void TestCommande::documentsEtReponse()
+void TestVueCommande::documentsEtReponse()
 {
     const auto actif = [this](const char *bouton) {
         return controle<QAbstractButton>(QString::fromUtf8(bouton))->isEnabled();
@@ -270,7 +270,7 @@ void TestCommande::documentsEtReponse()
     QVERIFY(!actif("Facture") && !actif("E-mail en français"));
 }
 
-void TestCommande::laMoletteNeChangeRien()
+void TestVueCommande::laMoletteNeChangeRien()
 {
     for (const QString &nom : {QStringLiteral("Emballage"), QStringLiteral("Envoi vers")}) {
         auto *choix = controle<QComboBox>(nom);
@@ -284,7 +284,7 @@ void TestCommande::laMoletteNeChangeRien()
 }
 
 // Tab alone reaches every control in the order in which they are read, and Space adds a copy.
-void TestCommande::auClavier()
+void TestVueCommande::auClavier()
 {
     cliquer(QStringLiteral("Mireva"));
     cliquer(QStringLiteral("davrel.example")); // the cards are new ones: they must keep their place
@@ -313,7 +313,7 @@ void TestCommande::auClavier()
     QVERIFY(!atteints.contains(QStringLiteral("Livre 4")));
 }
 
-void TestCommande::sansRubriqueLaCommande()
+void TestVueCommande::sansRubriqueLaCommande()
 {
     ContenuPrincipal *contenu = app_->fenetre().contenu();
     QTest::keyClick(&app_->fenetre(), Qt::Key_3, Qt::ControlModifier);
@@ -324,5 +324,5 @@ void TestCommande::sansRubriqueLaCommande()
     QVERIFY(controle(reinitialiser));
 }
 
-QTEST_MAIN(TestCommande)
-#include "tst_commande.moc"
+QTEST_MAIN(TestVueCommande)
+#include "tst_vue_commande.moc"
