@@ -78,13 +78,13 @@ ControleDonnees ControleDonnees::de(const QDir &dossier)
     for (const QString &nom : noms)
         tarifs.emplace_back(ressources, nom);
 
-    Regles::Jeux jeux;
-    for (FichierControle<TarifsColissimo> &jeu : tarifs) {
-        jeu.controler(Regles::tarifs, jeux);
-        jeux.append({jeu.nom(), jeu.valeur()});
+    Regles::TarifsParFichier tarifsLus;
+    for (FichierControle<TarifsColissimo> &fichier : tarifs) {
+        fichier.controler(Regles::tarifs, tarifsLus);
+        tarifsLus.append({fichier.nom(), fichier.valeur()});
     }
     reglages.controler(Regles::reglages);
-    destinations.controler(Regles::destinations, jeux);
+    destinations.controler(Regles::destinations, tarifsLus);
     livres.controler(Regles::livres,
                      Regles::Reperes{ReglesCommunes::codes(destinations.valeur()), reglages.valeur().vendeurs.keys(),
                                      Couvertures::fichiers(QDir(ressources.chemin(QStringLiteral("couvertures"))))});
@@ -92,8 +92,8 @@ ControleDonnees ControleDonnees::de(const QDir &dossier)
     ControleDonnees controle{
         .livres = livres.valeur().size(), .tarifs = noms.size(), .destinations = destinations.valeur().size()};
     controle.erreurs = livres.erreurs() + destinations.erreurs() + reglages.erreurs();
-    for (const FichierControle<TarifsColissimo> &jeu : tarifs)
-        controle.erreurs += jeu.erreurs();
+    for (const FichierControle<TarifsColissimo> &fichier : tarifs)
+        controle.erreurs += fichier.erreurs();
     if (noms.isEmpty())
         controle.erreurs.append(Ressources::tarifsIntrouvables());
     return controle;
@@ -104,7 +104,7 @@ QString ControleDonnees::bilan() const
     if (erreurs.isEmpty())
         return QStringLiteral("%1, %2, %3 : rien à corriger.")
             .arg(compte(livres, QStringLiteral("livre"), QStringLiteral("livres")),
-                 compte(tarifs, QStringLiteral("grille tarifaire"), QStringLiteral("grilles tarifaires")),
+                 compte(tarifs, QStringLiteral("fichier de tarifs"), QStringLiteral("fichiers de tarifs")),
                  compte(destinations, QStringLiteral("destination"), QStringLiteral("destinations")));
     const QString bilan =
         compte(erreurs.size(), QStringLiteral("erreur"), QStringLiteral("erreurs")) + QStringLiteral(" à corriger.");

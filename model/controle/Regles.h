@@ -18,7 +18,7 @@
 namespace Regles {
 
 // Schedules by the name of their file.
-using Jeux = QList<std::pair<QString, TarifsColissimo>>;
+using TarifsParFichier = QList<std::pair<QString, TarifsColissimo>>;
 
 // What books name of the other files; an empty list says that there is nothing to compare with.
 struct Reperes
@@ -29,9 +29,9 @@ struct Reperes
 };
 
 // `precedents`: the schedules of the files before this one.
-void tarifs(const TarifsColissimo &tarifs, const Jeux &precedents, const Json::Lieu &lieu);
+void tarifs(const TarifsColissimo &tarifs, const TarifsParFichier &precedents, const Json::Lieu &lieu);
 void reglages(const Reglages &reglages, const Json::Lieu &lieu);
-void destinations(const QList<Destination> &destinations, const Jeux &tarifs, const Json::Lieu &lieu);
+void destinations(const QList<Destination> &destinations, const TarifsParFichier &tarifs, const Json::Lieu &lieu);
 void livres(const QList<Livre> &livres, const Reperes &reperes, const Json::Lieu &lieu);
 
 } // namespace Regles

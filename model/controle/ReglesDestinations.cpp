@@ -4,10 +4,10 @@
 
 namespace {
 
-QStringList jeuxSans(const QString &grille, const Regles::Jeux &jeux)
+QStringList fichiersSans(const QString &grille, const Regles::TarifsParFichier &fichiers)
 {
     QStringList noms;
-    for (const auto &[nom, tarifs] : jeux)
+    for (const auto &[nom, tarifs] : fichiers)
         if (const QStringList codes = ReglesCommunes::codes(tarifs.grilles);
             !codes.isEmpty() && !codes.contains(grille))
             noms.append(nom);
@@ -16,16 +16,17 @@ QStringList jeuxSans(const QString &grille, const Regles::Jeux &jeux)
 
 } // namespace
 
-void Regles::destinations(const QList<Destination> &destinations, const Jeux &tarifs, const Json::Lieu &lieu)
+void Regles::destinations(const QList<Destination> &destinations, const TarifsParFichier &tarifs,
+                          const Json::Lieu &lieu)
 {
     ReglesCommunes::sansDoublon(destinations, "code", &Destination::code, lieu);
     for (qsizetype i = 0; i < destinations.size(); ++i) {
         const Destination &destination = destinations[i];
         const Json::Lieu place(lieu, i);
-        if (const QStringList jeux = jeuxSans(destination.grille, tarifs); !jeux.isEmpty())
+        if (const QStringList noms = fichiersSans(destination.grille, tarifs); !noms.isEmpty())
             Json::Lieu(place, QStringLiteral("grille"))
                 .noter(QStringLiteral("pas de grille « %1 » dans %2")
-                           .arg(destination.grille, jeux.join(QStringLiteral(", "))));
+                           .arg(destination.grille, noms.join(QStringLiteral(", "))));
         if (destination.douane && destination.douaneSauf)
             Json::Lieu(place, QStringLiteral("douaneSauf")).noter(QStringLiteral("sans effet, douane étant true"));
     }

@@ -40,7 +40,7 @@ void grille(const GrilleColissimo &grille, const Json::Lieu &lieu)
 
 } // namespace
 
-void Regles::tarifs(const TarifsColissimo &tarifs, const Jeux &precedents, const Json::Lieu &lieu)
+void Regles::tarifs(const TarifsColissimo &tarifs, const TarifsParFichier &precedents, const Json::Lieu &lieu)
 {
     const Json::Lieu validite(lieu, QStringLiteral("validite"));
     ReglesCommunes::jour(tarifs.validite, validite);

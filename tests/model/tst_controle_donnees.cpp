@@ -239,7 +239,7 @@ void TestControleDonnees::sansEcran_data()
             << arguments << code << QString::fromUtf8(sortie) << QString::fromUtf8(erreur);
     };
     const QString verifier = QStringLiteral("--verifier");
-    cas({verifier, livrees().path()}, 0, "14 livres, 2 grilles tarifaires, 10 destinations : rien à corriger.", "");
+    cas({verifier, livrees().path()}, 0, "14 livres, 2 fichiers de tarifs, 10 destinations : rien à corriger.", "");
     cas({verifier, QStringLiteral("/nulle/part")}, 1, "/nulle/part : dossier introuvable\n1 erreur à corriger.", "");
     cas({verifier}, 2, "", "quillet : « --verifier » attend un dossier\nUsage : ");
     cas({QStringLiteral("--bidon")}, 2, "", "quillet : option inconnue « bidon »\nUsage : ");
