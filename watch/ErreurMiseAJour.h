@@ -10,14 +10,14 @@ public:
     // The feed is not what it should be.
     static ErreurMiseAJour listeIllisible(const QString &detail)
     {
-        return {QStringLiteral("La liste des mises à jour est illisible : %1.").arg(detail)};
+        return ErreurMiseAJour(QStringLiteral("La liste des mises à jour est illisible : %1.").arg(detail));
     }
     // What it offers must not be installed.
     static ErreurMiseAJour refusee(const QString &detail)
     {
-        return {QStringLiteral("Mise à jour refusée : %1.").arg(detail)};
+        return ErreurMiseAJour(QStringLiteral("Mise à jour refusée : %1.").arg(detail));
     }
 
 private:
-    ErreurMiseAJour(const QString &texte) : Echec(texte) {}
+    explicit ErreurMiseAJour(const QString &texte) : Echec(texte) {}
 };

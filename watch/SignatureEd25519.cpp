@@ -29,7 +29,7 @@ std::optional<SignatureEd25519::Signature> SignatureEd25519::signature(const QBy
     return lire<Signature>(base64);
 }
 
-bool SignatureEd25519::estDe(const Cle &cle, const Signature &signature, std::span<const unsigned char> octets)
+bool SignatureEd25519::valide(const Cle &cle, const Signature &signature, std::span<const unsigned char> octets)
 {
     static_assert(std::tuple_size_v<Cle> == crypto_sign_PUBLICKEYBYTES);
     static_assert(std::tuple_size_v<Signature> == crypto_sign_BYTES);

@@ -15,6 +15,6 @@ using Signature = std::array<unsigned char, 64>;
 std::optional<Cle> cle(const QByteArray &base64);
 std::optional<Signature> signature(const QByteArray &base64);
 // Whether whoever holds the key's other half signed just these bytes.
-bool estDe(const Cle &cle, const Signature &signature, std::span<const unsigned char> octets);
+bool valide(const Cle &cle, const Signature &signature, std::span<const unsigned char> octets);
 
 } // namespace SignatureEd25519

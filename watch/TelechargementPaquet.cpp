@@ -109,7 +109,7 @@ bool TelechargementPaquet::signe()
     fichier_.seek(0);
     const QByteArray octets = fichier_.readAll();
     return octets.size() == parution_.longueur
-           && SignatureEd25519::estDe(
+           && SignatureEd25519::valide(
                cle_, *parution_.signature,
                {reinterpret_cast<const uchar *>(octets.data()), static_cast<size_t>(octets.size())});
 }

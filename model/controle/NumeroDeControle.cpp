@@ -60,8 +60,8 @@ bool NumeroDeControle::siret(const QString &numero)
         return false;
     int somme = 0;
     for (std::size_t rang = 0; rang < 14; ++rang) {
-        const int double_ = (rang % 2 == 0 ? 2 : 1) * (*lus)[rang];
-        somme += double_ > 9 ? double_ - 9 : double_;
+        const int produit = (rang % 2 == 0 ? 2 : 1) * (*lus)[rang];
+        somme += produit > 9 ? produit - 9 : produit;
     }
     return somme % 10 == 0;
 }

@@ -15,8 +15,8 @@ private slots:
 
 namespace {
 
-// Groups are parted by U+202F, a unit by U+00A0; rows read better with plain spaces.
-QString lisible(QString texte)
+// Groups are parted by U+202F, a unit by U+00A0: rows show them as _ and ~.
+QString marquee(QString texte)
 {
     return texte.replace(QChar(0x202F), u'_').replace(QChar(0x00A0), u'~');
 }
@@ -28,7 +28,7 @@ void TestFormat::nombres_data()
     QTest::addColumn<QString>("obtenu");
     QTest::addColumn<QString>("attendu");
     const auto cas = [](const char *attendu, const QString &obtenu) {
-        QTest::addRow("%s", attendu) << lisible(obtenu) << QString::fromUtf8(attendu);
+        QTest::addRow("%s", attendu) << marquee(obtenu) << QString::fromUtf8(attendu);
     };
     cas("12,50~€", Format::euros(Centimes{1250}));
     cas("1_234,50~€", Format::euros(Centimes{123450}));

@@ -15,7 +15,7 @@ private slots:
     void entiers_data();
     void entiers();
     void champsAbsents();
-    void alleRetour();
+    void allerRetour();
     void adresses_data();
     void adresses();
     void ecritureTrieeEtLisible();
@@ -105,7 +105,7 @@ void TestJson::champsAbsents()
         QVERIFY2(!ecrit.contains(cle), cle);
 }
 
-void TestJson::alleRetour()
+void TestJson::allerRetour()
 {
     const Banc banc;
     Livre livre = banc.livres[0];

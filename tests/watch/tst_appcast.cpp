@@ -166,10 +166,10 @@ void TestAppcast::signatures()
     for (const QByteArray &autre : {texte.chopped(4), texte + texte, texte.chopped(2) + "!="})
         QVERIFY2(!SignatureEd25519::cle(autre), autre.constData());
 
-    QVERIFY(SignatureEd25519::estDe(cle, signature, octets));
-    QVERIFY(!SignatureEd25519::estDe(cle, signature, std::span(octets).first(999)));
+    QVERIFY(SignatureEd25519::valide(cle, signature, octets));
+    QVERIFY(!SignatureEd25519::valide(cle, signature, std::span(octets).first(999)));
     octets[999] ^= 1;
-    QVERIFY(!SignatureEd25519::estDe(cle, signature, octets));
+    QVERIFY(!SignatureEd25519::valide(cle, signature, octets));
 }
 
 QTEST_GUILESS_MAIN(TestAppcast)
