@@ -14,7 +14,7 @@ Centimes Facture::sousTotal() const
 {
     Centimes somme;
     for (const Ligne &ligne : lignes)
-        somme = somme + ligne.montant();
+        somme += ligne.montant();
     return somme;
 }
 
