@@ -1,4 +1,4 @@
-# Sourced by `run` and `test`, from the root of the sources: what they need from Debian, and how they build.
+# Sourced by `run`, `test` and `fuzz/lancer`, from the root of the sources: what they need from Debian, and how they build.
 
 paquets=(
     g++ cmake ninja-build ccache

@@ -45,17 +45,13 @@ void verifier(NumerotationFactures &numerotation, const QString &numero, QDate d
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *octets, std::size_t taille)
 {
     static const QTemporaryDir dossier;
-    static int tour = 0;
     const QStringList lignes = QString::fromUtf8(contenu(octets, taille)).split(u'\n').mid(0, 8);
-    // A file of its own for each: Qt remembers those it has seen.
-    const QString fichier = dossier.filePath(QStringLiteral("%1.ini").arg(++tour));
-    QFile preferences(fichier);
+    QFile preferences(dossier.filePath(QStringLiteral("Quillet.ini")));
     exiger(preferences.open(QIODevice::WriteOnly), "preferences");
     preferences.write("[General]\nderniereFacture.davrel=" + lignes.first().toUtf8() + '\n');
     preferences.close();
-    NumerotationFactures numerotation{Preferences(fichier)};
+    NumerotationFactures numerotation{Preferences(preferences.fileName())};
     for (const QString &numero : lignes.mid(1))
         verifier(numerotation, numero, QDate(2026, 3, 2));
-    preferences.remove();
     return 0;
 }

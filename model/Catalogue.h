@@ -29,7 +29,8 @@ public:
     [[nodiscard]] const QList<Destination> &destinations() const { return destinations_; }
     [[nodiscard]] const Reglages &reglages() const { return reglages_; }
 
-    // The schedule in force on a day (yyyy-mm-dd); before the first one, the earliest.
+    // The schedule in force on a day (yyyy-mm-dd); before the first one, the earliest. It lives until a schedule is
+    // saved.
     [[nodiscard]] const TarifsColissimo &tarifs(const QString &date) const;
     // The next schedule that is not yet in force.
     [[nodiscard]] std::optional<TarifsColissimo> tarifsAVenir(QDate aujourdhui) const;

@@ -55,8 +55,8 @@ private:
     qint64 valeur_ = 0;
 };
 
-// The most that is taken of each unit, from a typist or a public page; a data file may hold twice as much, the sum of
-// two. What any order can make of it stays far below 64 bits.
+// The most that is taken of each unit, from a typist, a public page or a data file; only a table of prices may hold
+// twice as much, the sum of two. What any order can make of it stays far below 64 bits.
 struct UniteCentime
 {
     static constexpr qint64 maximum = 9'999'999;

@@ -4,6 +4,7 @@
 
 #include <array>
 
+// The two sellers' places; the names that documents show are data.
 enum class Vendeur { davrel, mireva };
 
 template <>
