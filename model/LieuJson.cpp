@@ -49,4 +49,9 @@ void Lieu::noter(const QString &raison) const
     refus_->noter(chemin(), raison);
 }
 
+void Lieu::noter(const char *cle, const QString &raison) const
+{
+    Lieu(*this, QString::fromLatin1(cle)).noter(raison);
+}
+
 } // namespace Json

@@ -52,6 +52,8 @@ public:
     [[nodiscard]] bool collecte() const { return refus_; }
     // A mistake that does not keep the value from being read. Only where refusals are collected.
     void noter(const QString &raison) const;
+    // The same of one of its keys.
+    void noter(const char *cle, const QString &raison) const;
     // Reads one of several values, so that its refusal does not hide the others' where refusals are collected.
     template <typename Lecture>
     void tenter(Lecture lecture) const

@@ -95,8 +95,7 @@ void sansDoublon(const QList<T> &liste, const char *cle, Valeur T::*membre, cons
         if (premier == premiers.constEnd())
             premiers.insert(liste[i].*membre, i);
         else
-            Json::Lieu(Json::Lieu(lieu, i), QString::fromLatin1(cle))
-                .noter(QStringLiteral("déjà pris par %1").arg(Json::Lieu(lieu, *premier).chemin()));
+            Json::Lieu(lieu, i).noter(cle, QStringLiteral("déjà pris par %1").arg(Json::Lieu(lieu, *premier).chemin()));
     }
 }
 

@@ -24,11 +24,10 @@ void Regles::destinations(const QList<Destination> &destinations, const TarifsPa
         const Destination &destination = destinations[i];
         const Json::Lieu place(lieu, i);
         if (const QStringList noms = fichiersSans(destination.grille, tarifs); !noms.isEmpty())
-            Json::Lieu(place, QStringLiteral("grille"))
-                .noter(QStringLiteral("pas de grille « %1 » dans %2")
-                           .arg(destination.grille, noms.join(QStringLiteral(", "))));
+            place.noter("grille", QStringLiteral("pas de grille « %1 » dans %2")
+                                      .arg(destination.grille, noms.join(QStringLiteral(", "))));
         if (destination.douane && destination.douaneSauf)
-            Json::Lieu(place, QStringLiteral("douaneSauf")).noter(QStringLiteral("sans effet, douane étant true"));
+            place.noter("douaneSauf", QStringLiteral("sans effet, douane étant true"));
     }
     const QStringList codes = ReglesCommunes::codes(destinations);
     const QString deDepart = Commande().codeDestination();

@@ -46,19 +46,17 @@ void livre(const Livre &livre, const Reperes &reperes, const Lieu &lieu)
 {
     if (const QString vendeur = Json::brut(livre.vendeur);
         !reperes.vendeurs.isEmpty() && !reperes.vendeurs.contains(vendeur))
-        Lieu(lieu, QStringLiteral("vendeur"))
-            .noter(QStringLiteral("« %1 » n’a pas d’identité dans reglages.vendeurs").arg(vendeur));
+        lieu.noter("vendeur", QStringLiteral("« %1 » n’a pas d’identité dans reglages.vendeurs").arg(vendeur));
     if (livre.poids && *livre.poids == Grammes{})
-        Lieu(lieu, QStringLiteral("poids")).noter(QStringLiteral("0 g ; laissez-le absent tant qu’il n’est pas pesé"));
+        lieu.noter("poids", QStringLiteral("0 g ; laissez-le absent tant qu’il n’est pas pesé"));
     if (!NumeroDeControle::isbn(livre.isbn))
-        Lieu(lieu, QStringLiteral("isbn"))
-            .noter(QStringLiteral("« %1 » n’est pas un ISBN : un chiffre manque ou est faux").arg(livre.isbn));
+        lieu.noter("isbn", QStringLiteral("« %1 » n’est pas un ISBN : un chiffre manque ou est faux").arg(livre.isbn));
     if (livre.pages <= 0)
-        Lieu(lieu, QStringLiteral("pages")).noter(QStringLiteral("au moins une page attendue"));
+        lieu.noter("pages", QStringLiteral("au moins une page attendue"));
     couverture(livre.couverture, reperes.couvertures, Lieu(lieu, QStringLiteral("couverture")));
     teinte(livre.teinte, Lieu(lieu, QStringLiteral("teinte")));
     if (livre.prix == Centimes{})
-        Lieu(lieu, QStringLiteral("prix")).noter(QStringLiteral("plus de 0 attendu"));
+        lieu.noter("prix", QStringLiteral("plus de 0 attendu"));
     prixParDestination(livre.prixPaypal, reperes.destinations, Lieu(lieu, QStringLiteral("prixPaypal")));
     prixParDestination(livre.prixEcartes, reperes.destinations, Lieu(lieu, QStringLiteral("prixEcartes")));
 }

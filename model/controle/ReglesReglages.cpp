@@ -25,10 +25,10 @@ void emballages(const QList<Emballage> &emballages, const Lieu &lieu)
     ReglesCommunes::sansDoublon(emballages, "nom", &Emballage::nom, lieu);
     for (qsizetype i = 0; i < emballages.size(); ++i)
         if (emballages[i].nom == Commande::autrePoids())
-            Lieu(Lieu(lieu, i), QStringLiteral("nom")).noter(QStringLiteral("nom réservé au poids que l’on tape"));
+            Lieu(lieu, i).noter("nom", QStringLiteral("nom réservé au poids que l’on tape"));
     if (emballages.first().poids == Grammes{})
-        Lieu(Lieu(lieu, 0), QStringLiteral("poids"))
-            .noter(QStringLiteral("plus de 0 g attendus, ce poids compte dans les prix des boutons PayPal"));
+        Lieu(lieu, 0).noter("poids",
+                            QStringLiteral("plus de 0 g attendus, ce poids compte dans les prix des boutons PayPal"));
     const QString deDepart = Commande().emballage();
     if (std::ranges::find(emballages, deDepart, &Emballage::nom) == emballages.end())
         lieu.noter(QStringLiteral("aucun ne s’appelle « %1 », l’emballage d’une nouvelle commande : il compterait 0 g")
@@ -43,13 +43,13 @@ bool estUnNomDeSite(const QString &site)
 void vendeur(const IdentiteVendeur &identite, const Lieu &lieu)
 {
     if (identite.adresse.isEmpty())
-        Lieu(lieu, QStringLiteral("adresse")).noter(QStringLiteral("aucune ligne"));
+        lieu.noter("adresse", QStringLiteral("aucune ligne"));
     if (identite.siret && !NumeroDeControle::siret(*identite.siret))
-        Lieu(lieu, QStringLiteral("siret")).noter(QStringLiteral("ce n’est pas un numéro SIRET"));
+        lieu.noter("siret", QStringLiteral("ce n’est pas un numéro SIRET"));
     if (identite.retourPaypal)
         ReglesCommunes::controler(QUrl(*identite.retourPaypal), Lieu(lieu, QStringLiteral("retourPaypal")));
     if (identite.site && !estUnNomDeSite(*identite.site))
-        Lieu(lieu, QStringLiteral("site")).noter(QStringLiteral("nom de site attendu, sans https:// ni page"));
+        lieu.noter("site", QStringLiteral("nom de site attendu, sans https:// ni page"));
 }
 
 } // namespace

@@ -19,8 +19,8 @@ void paliers(const QList<Palier> &paliers, const Json::Lieu &lieu)
     Grammes precedent;
     for (qsizetype i = 0; i < paliers.size(); ++i) {
         if (paliers[i].jusqua <= precedent)
-            Json::Lieu(Json::Lieu(lieu, i), QStringLiteral("jusqua"))
-                .noter(QStringLiteral("plus de %1 g attendus, les paliers vont en montant").arg(precedent.valeur()));
+            Json::Lieu(lieu, i).noter(
+                "jusqua", QStringLiteral("plus de %1 g attendus, les paliers vont en montant").arg(precedent.valeur()));
         precedent = paliers[i].jusqua;
     }
 }
@@ -28,13 +28,11 @@ void paliers(const QList<Palier> &paliers, const Json::Lieu &lieu)
 void grille(const GrilleColissimo &grille, const Json::Lieu &lieu)
 {
     if (!Json::depuisBrut<ZoneColissimo>(grille.code))
-        Json::Lieu(lieu, QStringLiteral("code"))
-            .noter(QStringLiteral("grille inconnue « %1 » ; celles de La Poste : %2")
-                       .arg(grille.code, valeurs<ZoneColissimo>()));
+        lieu.noter("code", QStringLiteral("grille inconnue « %1 » ; celles de La Poste : %2")
+                               .arg(grille.code, valeurs<ZoneColissimo>()));
     if (!Json::depuisBrut<FamilleTarifs>(grille.famille))
-        Json::Lieu(lieu, QStringLiteral("famille"))
-            .noter(QStringLiteral("famille inconnue « %1 », la grille ne serait pas montrée ; attendu : %2")
-                       .arg(grille.famille, valeurs<FamilleTarifs>()));
+        lieu.noter("famille", QStringLiteral("famille inconnue « %1 », la grille ne serait pas montrée ; attendu : %2")
+                                  .arg(grille.famille, valeurs<FamilleTarifs>()));
     paliers(grille.paliers, Json::Lieu(lieu, QStringLiteral("paliers")));
 }
 
