@@ -1,7 +1,9 @@
 #include "model/controle/ControleDonnees.h"
 
 #include "model/Couvertures.h"
+#include "model/Fichier.h"
 #include "model/Ressources.h"
+#include "model/controle/ClesDoublees.h"
 #include "model/controle/Regles.h"
 #include "model/controle/ReglesCommunes.h"
 
@@ -31,7 +33,10 @@ class FichierControle
 {
 public:
     FichierControle(const Ressources &ressources, const QString &nom)
-        : nom_(nom), lu_(ressources.examiner<T>(nom, refus_)), valeur_(lu_.value_or(T{}))
+        : nom_(nom),
+          chemin_(ressources.chemin(nom + QStringLiteral(".json"))),
+          lu_(ressources.examiner<T>(nom, refus_)),
+          valeur_(lu_.value_or(T{}))
     {
     }
 
@@ -45,6 +50,9 @@ public:
     {
         if (!lu_)
             return;
+        for (const auto &[ligne, cle] : ClesDoublees::dans(Fichier::lire(chemin_).value_or(QByteArray())))
+            Json::Lieu(QStringLiteral("%1.json, ligne %2").arg(nom_).arg(ligne), &refus_)
+                .noter(QStringLiteral("clé « %1 » écrite deux fois, la dernière compte").arg(cle));
         const Json::Lieu racine(nom_, &refus_);
         ReglesCommunes::controler(valeur_, racine);
         regle(valeur_, reperes..., racine);
@@ -52,6 +60,7 @@ public:
 
 private:
     QString nom_;
+    QString chemin_;
     Json::Refus refus_;
     std::optional<T> lu_;
     T valeur_;

@@ -71,6 +71,9 @@ void TestControleDonnees::erreurs_data()
     cas("destinations", R"("code" : "france")", R"("code" : 1)", "destinations[0].code : texte attendu");
     cas("tarifs-colissimo-2026-01-01", R"("code" : "om1")", R"("code" : 1)",
         "tarifs-colissimo-2026-01-01.grilles[1].code : texte attendu");
+    cas("reglages", R"("taux" : 290)", R"("taux" : 290, "fixe" : 0, "x\"{" : "taux")",
+        "reglages.fraisPaypal.x\"{ : clé inconnue\n"
+        "reglages.json, ligne 41 : clé « fixe » écrite deux fois, la dernière compte");
     // What holds everywhere.
     cas("livres", "Le Phare de sel\"", " \"", "livres[0].titre : texte vide");
     cas("livres", R"("france" : 1499)", R"("france" : -1)", "livres[1].prixPaypal.france : nombre négatif");
