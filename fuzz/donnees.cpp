@@ -59,7 +59,7 @@ public:
 
     [[nodiscard]] ControleDonnees controle() const
     {
-        return ControleDonnees::de(QDir(chemin(QStringLiteral("partage"))));
+        return ControleDonnees::de(QDir(chemin(QStringLiteral("partage"))), QDate(2026, 3, 2));
     }
 
 private:

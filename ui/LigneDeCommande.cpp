@@ -57,7 +57,7 @@ std::optional<QString> malComprise(QCommandLineParser &analyseur, const QCommand
 
 Reponse controle(const QString &dossier)
 {
-    const auto controle = ControleDonnees::de(QDir(dossier));
+    const auto controle = ControleDonnees::de(QDir(dossier), QDate::currentDate());
     const QStringList lignes = controle.erreurs + QStringList{controle.bilan()};
     return {controle.erreurs.isEmpty() ? 0 : 1, lignes.join(u'\n') + u'\n'};
 }

@@ -2,6 +2,7 @@
 
 #include "model/Couvertures.h"
 #include "model/Fichier.h"
+#include "model/Format.h"
 #include "model/Ressources.h"
 #include "model/controle/ClesDoublees.h"
 #include "model/controle/Regles.h"
@@ -9,6 +10,7 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -66,6 +68,16 @@ private:
     T valeur_;
 };
 
+// Before the first one, the earliest counts.
+bool aucunEnVigueur(const Regles::TarifsParFichier &fichiers, QDate aujourdhui)
+{
+    QStringList jours;
+    for (const auto &[nom, tarifs] : fichiers)
+        if (Format::jour(tarifs.validite).isValid())
+            jours.append(tarifs.validite);
+    return !jours.isEmpty() && std::ranges::min(jours) > Format::iso(aujourdhui);
+}
+
 QString compte(qsizetype nombre, const QString &un, const QString &plusieurs)
 {
     return QStringLiteral("%1 %2").arg(QString::number(nombre), nombre > 1 ? plusieurs : un);
@@ -73,7 +85,7 @@ QString compte(qsizetype nombre, const QString &un, const QString &plusieurs)
 
 } // namespace
 
-ControleDonnees ControleDonnees::de(const QDir &dossier)
+ControleDonnees ControleDonnees::de(const QDir &dossier, QDate aujourdhui)
 {
     if (const auto raison = obstacle(dossier))
         return {.erreurs = {QStringLiteral("%1 : %2").arg(QDir::toNativeSeparators(dossier.path()), *raison)}};
@@ -105,6 +117,9 @@ ControleDonnees ControleDonnees::de(const QDir &dossier)
         controle.erreurs += fichier.erreurs();
     if (noms.isEmpty())
         controle.erreurs.append(Ressources::tarifsIntrouvables());
+    if (aucunEnVigueur(tarifsLus, aujourdhui))
+        controle.erreurs.append(
+            QStringLiteral("tarifs-colissimo-….json : aucun n’est en vigueur, le premier compterait avant son jour"));
     return controle;
 }
 

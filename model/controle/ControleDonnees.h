@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDate>
 #include <QDir>
 #include <QString>
 #include <QStringList>
@@ -13,7 +14,7 @@ struct ControleDonnees
     qsizetype tarifs = 0;
     qsizetype destinations = 0;
 
-    static ControleDonnees de(const QDir &dossier);
+    static ControleDonnees de(const QDir &dossier, QDate aujourdhui);
     // One line that ends the report.
     [[nodiscard]] QString bilan() const;
 };

@@ -15,6 +15,7 @@ private slots:
     void erreurs_data();
     void erreurs();
     void dossierIllisible();
+    void aucunTarifEnVigueur();
     void numeros_data();
     void numeros();
     void dossierDuVendeur();
@@ -23,6 +24,8 @@ private slots:
 };
 
 namespace {
+
+const QDate jour(2026, 3, 2);
 
 QDir livrees()
 {
@@ -154,7 +157,7 @@ void TestControleDonnees::erreurs()
     copier(livrees().filePath(QStringLiteral("couvertures")), dossier.filePath(QStringLiteral("couvertures")));
     QFile(dossier.filePath(QStringLiteral("couvertures/notes.txt"))).open(QIODevice::WriteOnly);
     remplacer(dossier.filePath(fichier + QStringLiteral(".json")), avant, apres);
-    QString erreurs = ControleDonnees::de(dossier).erreurs.join(u'\n');
+    QString erreurs = ControleDonnees::de(dossier, jour).erreurs.join(u'\n');
     if (attendues.startsWith(u'…')) // the same said of many books comes first
         erreurs = u'…' + erreurs.right(attendues.size() - 1);
     QCOMPARE(erreurs, attendues);
@@ -164,12 +167,21 @@ void TestControleDonnees::dossierIllisible()
 {
     const QTemporaryDir dossier;
     const QString absent = dossier.filePath(QStringLiteral("absent"));
-    QCOMPARE(ControleDonnees::de(QDir(absent)).erreurs, QStringList{absent + QStringLiteral(" : dossier introuvable")});
-    QCOMPARE(ControleDonnees::de(QDir(dossier.path())).erreurs,
+    QCOMPARE(ControleDonnees::de(QDir(absent), jour).erreurs,
+             QStringList{absent + QStringLiteral(" : dossier introuvable")});
+    QCOMPARE(ControleDonnees::de(QDir(dossier.path()), jour).erreurs,
              (QStringList{QStringLiteral("livres.json : fichier introuvable"),
                           QStringLiteral("destinations.json : fichier introuvable"),
                           QStringLiteral("reglages.json : fichier introuvable"),
                           QStringLiteral("tarifs-colissimo-….json : fichier introuvable")}));
+}
+
+void TestControleDonnees::aucunTarifEnVigueur()
+{
+    QCOMPARE(ControleDonnees::de(livrees(), QDate(2024, 12, 31)).erreurs,
+             QStringList{QStringLiteral(
+                 "tarifs-colissimo-….json : aucun n’est en vigueur, le premier compterait avant son jour")});
+    QVERIFY(ControleDonnees::de(livrees(), QDate(2025, 1, 1)).erreurs.isEmpty());
 }
 
 void TestControleDonnees::numeros_data()
