@@ -21,6 +21,8 @@ void paliers(const QList<Palier> &paliers, const Json::Lieu &lieu)
         if (paliers[i].jusqua <= precedent)
             Json::Lieu(lieu, i).noter(
                 "jusqua", QStringLiteral("plus de %1 g attendus, les paliers vont en montant").arg(precedent.valeur()));
+        if (paliers[i].prix == Centimes{})
+            Json::Lieu(lieu, i).noter("prix", QStringLiteral("plus de 0 attendu"));
         precedent = paliers[i].jusqua;
     }
 }

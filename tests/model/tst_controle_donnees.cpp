@@ -136,6 +136,8 @@ void TestControleDonnees::erreurs_data()
     cas("tarifs-colissimo-2026-01-01", R"("jusqua" : 250,)", R"("jusqua" : 500,)",
         "tarifs-colissimo-2026-01-01.grilles[0].paliers[1].jusqua : plus de 500 g attendus, les paliers vont en "
         "montant");
+    cas("tarifs-colissimo-2026-01-01", R"("prix" : 549)", R"("prix" : 0)",
+        "tarifs-colissimo-2026-01-01.grilles[0].paliers[0].prix : plus de 0 attendu");
     cas("tarifs-colissimo-2026-01-01", R"("code" : "om1")", R"("code" : "om3")",
         "destinations[1].grille : pas de grille « om1 » dans "
         "tarifs-colissimo-2026-01-01\ntarifs-colissimo-2026-01-01.grilles[1].code : grille inconnue « om3 » ; celles "
