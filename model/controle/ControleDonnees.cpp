@@ -106,9 +106,10 @@ ControleDonnees ControleDonnees::de(const QDir &dossier, QDate aujourdhui)
     }
     reglages.controler(Regles::reglages);
     destinations.controler(Regles::destinations, tarifsLus);
+    const QDir couvertures(ressources.chemin(QStringLiteral("couvertures")));
     livres.controler(Regles::livres,
                      Regles::Reperes{ReglesCommunes::codes(destinations.valeur()), reglages.valeur().vendeurs.keys(),
-                                     Couvertures::fichiers(QDir(ressources.chemin(QStringLiteral("couvertures"))))});
+                                     couvertures, Couvertures::fichiers(couvertures)});
 
     ControleDonnees controle{
         .livres = livres.valeur().size(), .tarifs = noms.size(), .destinations = destinations.valeur().size()};

@@ -6,6 +6,7 @@
 #include "model/Reglages.h"
 #include "model/Tarifs.h"
 
+#include <QDir>
 #include <QHash>
 #include <QList>
 #include <QString>
@@ -23,9 +24,10 @@ using TarifsParFichier = QList<std::pair<QString, TarifsColissimo>>;
 // What books name of the other files; an empty list says that there is nothing to compare with.
 struct Reperes
 {
-    QStringList destinations;            // codes
-    QStringList vendeurs;                // raw values
-    QHash<QString, QString> couvertures; // files by name
+    QStringList destinations; // codes
+    QStringList vendeurs;     // raw values
+    QDir dossierDesCouvertures;
+    QHash<QString, QString> couvertures; // its files by name
 };
 
 // `precedents`: the schedules of the files before this one.

@@ -10,18 +10,20 @@ namespace {
 using Json::Lieu;
 using Regles::Reperes;
 
-void couverture(const QString &couverture, const QHash<QString, QString> &fichiers, const Lieu &lieu)
+void couverture(const QString &couverture, const Reperes &reperes, const Lieu &lieu)
 {
     static const QStringList formats{QStringLiteral("svg"),  QStringLiteral("png"), QStringLiteral("jpg"),
                                      QStringLiteral("jpeg"), QStringLiteral("gif"), QStringLiteral("bmp")};
     if (couverture.isEmpty())
         return;
-    const QString fichier = fichiers.value(Couvertures::nom(couverture));
+    const QString fichier = reperes.couvertures.value(Couvertures::nom(couverture));
     if (fichier.isEmpty())
         lieu.noter(QStringLiteral("pas d’image « %1 » dans couvertures").arg(couverture));
     else if (!formats.contains(QFileInfo(fichier).suffix().toLower()))
         lieu.noter(
             QStringLiteral("couvertures/%1 n’est pas une image %2").arg(fichier, formats.join(QStringLiteral(", "))));
+    else if (QFileInfo(reperes.dossierDesCouvertures.filePath(fichier)).size() == 0)
+        lieu.noter(QStringLiteral("couvertures/%1 est un fichier vide").arg(fichier));
 }
 
 void teinte(const QList<qint64> &teinte, const Lieu &lieu)
@@ -53,7 +55,7 @@ void livre(const Livre &livre, const Reperes &reperes, const Lieu &lieu)
         lieu.noter("isbn", QStringLiteral("« %1 » n’est pas un ISBN : un chiffre manque ou est faux").arg(livre.isbn));
     if (livre.pages <= 0)
         lieu.noter("pages", QStringLiteral("au moins une page attendue"));
-    couverture(livre.couverture, reperes.couvertures, Lieu(lieu, QStringLiteral("couverture")));
+    couverture(livre.couverture, reperes, Lieu(lieu, QStringLiteral("couverture")));
     teinte(livre.teinte, Lieu(lieu, QStringLiteral("teinte")));
     if (livre.prix == Centimes{})
         lieu.noter("prix", QStringLiteral("plus de 0 attendu"));

@@ -91,6 +91,7 @@ void TestControleDonnees::erreurs_data()
     cas("livres", "le-phare-de-sel.svg", "le-phare-de-sel", "");
     cas("livres", "le-phare-de-sel.svg", "notes.txt",
         "livres[0].couverture : couvertures/notes.txt n’est pas une image svg, png, jpg, jpeg, gif, bmp");
+    cas("livres", "le-phare-de-sel.svg", "vide.png", "livres[0].couverture : couvertures/vide.png est un fichier vide");
     cas("livres", "29,\n      74,\n      99", "29, 74",
         "livres[0].teinte : trois nombres attendus : rouge, vert, bleu");
     cas("livres", "29,\n      74,\n      99", "29, -1, 256",
@@ -157,7 +158,8 @@ void TestControleDonnees::erreurs()
     const QDir dossier(temporaire.path());
     copier(livrees(), dossier);
     copier(livrees().filePath(QStringLiteral("couvertures")), dossier.filePath(QStringLiteral("couvertures")));
-    QFile(dossier.filePath(QStringLiteral("couvertures/notes.txt"))).open(QIODevice::WriteOnly);
+    for (const char *vide : {"couvertures/notes.txt", "couvertures/vide.png"})
+        QVERIFY(QFile(dossier.filePath(QString::fromLatin1(vide))).open(QIODevice::WriteOnly));
     remplacer(dossier.filePath(fichier + QStringLiteral(".json")), avant, apres);
     QString erreurs = ControleDonnees::de(dossier, jour).erreurs.join(u'\n');
     if (attendues.startsWith(u'…')) // the same said of many books comes first
