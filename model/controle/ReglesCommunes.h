@@ -3,18 +3,24 @@
 #include "model/Format.h"
 #include "model/Json.h"
 #include "model/Livre.h"
+#include "model/Reglages.h"
 
 #include <QHash>
+
+#include <algorithm>
+#include <array>
 
 // What holds for every value of its kind, wherever it stands: texts say something, quantities are not negative, links
 // open (the program follows https only).
 namespace ReglesCommunes {
 
-// The one text that a record may leave empty.
+// The texts that a record may leave empty: a book may have neither picture nor ISBN.
 template <typename Enregistrement>
-inline constexpr const char *texteFacultatif = "";
+inline constexpr std::array<const char *, 0> textesFacultatifs{};
 template <>
-inline constexpr const char *texteFacultatif<Livre> = "couverture"; // a book without picture
+inline constexpr std::array textesFacultatifs<Livre>{"couverture", "isbn"};
+template <>
+inline constexpr std::array textesFacultatifs<IdentiteVendeur>{"mentionTva"};
 
 template <typename T>
 void controler(const T &, const Json::Lieu &)
@@ -58,7 +64,8 @@ template <Json::EstEnregistrement Enregistrement>
 void controler(const Enregistrement &valeur, const Json::Lieu &lieu)
 {
     const auto controlerChamp = [&](const auto &champ) {
-        if (QLatin1String(champ.cle) != QLatin1String(texteFacultatif<Enregistrement>))
+        const auto designe = [&](const char *cle) { return QLatin1String(cle) == QLatin1String(champ.cle); };
+        if (std::ranges::none_of(textesFacultatifs<Enregistrement>, designe))
             controler(valeur.*champ.membre, Json::Lieu(lieu, QString::fromLatin1(champ.cle)));
     };
     std::apply([&](const auto &...champ) { (controlerChamp(champ), ...); }, Json::champs<Enregistrement>);

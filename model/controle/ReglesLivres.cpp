@@ -51,7 +51,7 @@ void livre(const Livre &livre, const Reperes &reperes, const Lieu &lieu)
         lieu.noter("vendeur", QStringLiteral("« %1 » n’a pas d’identité dans reglages.vendeurs").arg(vendeur));
     if (livre.poids && *livre.poids == Grammes{})
         lieu.noter("poids", QStringLiteral("0 g ; laissez-le absent tant qu’il n’est pas pesé"));
-    if (!NumeroDeControle::isbn(livre.isbn))
+    if (!livre.isbn.isEmpty() && !NumeroDeControle::isbn(livre.isbn))
         lieu.noter("isbn", QStringLiteral("« %1 » n’est pas un ISBN : un chiffre manque ou est faux").arg(livre.isbn));
     if (livre.pages <= 0)
         lieu.noter("pages", QStringLiteral("au moins une page attendue"));

@@ -86,6 +86,7 @@ void TestControleDonnees::erreurs_data()
     cas("livres", R"("id" : 3,)", R"("id" : 1,)", "livres[2].id : déjà pris par livres[0]");
     cas("livres", "979-99-0417-001-8", "979-99-0417-001-9",
         "livres[0].isbn : « 979-99-0417-001-9 » n’est pas un ISBN : un chiffre manque ou est faux");
+    cas("livres", "979-99-0417-001-8", "", "");
     cas("livres", "le-phare-de-sel.svg", "le-phare.svg",
         "livres[0].couverture : pas d’image « le-phare.svg » dans couvertures");
     cas("livres", "le-phare-de-sel.svg", "le-phare-de-sel", "");
@@ -124,6 +125,7 @@ void TestControleDonnees::erreurs_data()
         "reglages.emballages[2].nom : nom réservé au poids que l’on tape");
     cas("reglages", R"("poids" : 40)", R"("poids" : 0)",
         "reglages.emballages[0].poids : plus de 0 g attendus, ce poids compte dans les prix des boutons PayPal");
+    cas("reglages", "TVA non applicable, art. 293 B du CGI", "", "");
     cas("reglages", "000 000 000 00000", "000 000 000 00001",
         "reglages.vendeurs.davrel.siret : ce n’est pas un numéro SIRET");
     cas("reglages", R"("site" : ")", R"("site" : "https://)",

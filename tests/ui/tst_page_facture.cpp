@@ -97,6 +97,9 @@ void TestPageFacture::textes()
     ligne("Marchandises : livres imprimés, origine France, code SH 490199 · Goods: printed books, made in France, HS "
           "code "
           "490199");
+    Facture sansIsbn = uneFacture();
+    sansIsbn.lignes[0].isbn.clear();
+    QVERIFY(lignesDe(ImpressionFacture::pdf(sansIsbn)).filter(QStringLiteral("ISBN")).isEmpty());
 }
 
 void TestPageFacture::document()

@@ -1,5 +1,7 @@
 #include "tests/Banc.h"
 #include "ui/commande/TextesRecapitulatif.h"
+#include "ui/commun/TextesLivres.h"
+#include "ui/documents/TextesDocuments.h"
 
 #include <QTest>
 
@@ -19,6 +21,7 @@ private slots:
     void lienDePaiementSelonLaLangue();
     void lienDePaiementAbsent_data();
     void lienDePaiementAbsent();
+    void champsVides();
 };
 
 namespace {
@@ -179,6 +182,15 @@ void TestTextes::lienDePaiementAbsent()
     if (livre > 0)
         cas.commande.ajuster(cas.banc.livres[livre - 1], 1);
     QVERIFY(!lienDePaiement(cas.calcul(), cas.banc.reglages, cas.commande));
+}
+
+void TestTextes::champsVides()
+{
+    Livre livre = unLivre(1, Vendeur::davrel, Centimes{1500}, Grammes{200});
+    livre.isbn.clear();
+    QCOMPARE(TextesLivres::edition(livre), QStringLiteral("14 × 21 cm · 200 pages"));
+    QCOMPARE(TextesDocuments::vendeur({.nom = QStringLiteral("Davrel"), .adresse = {QStringLiteral("1 rue Exemple")}}),
+             QStringLiteral("Davrel\n1 rue Exemple"));
 }
 
 QTEST_GUILESS_MAIN(TestTextes)

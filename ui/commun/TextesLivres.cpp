@@ -34,7 +34,7 @@ QString TextesLivres::origine(const Livre &livre)
 
 QString TextesLivres::edition(const Livre &livre)
 {
-    return QStringLiteral("%1 · ISBN %2").arg(fabrication(livre), livre.isbn);
+    return fabrication(livre) + (livre.isbn.isEmpty() ? QString() : QStringLiteral(" · ISBN ") + livre.isbn);
 }
 
 QString TextesLivres::poids(const Livre &livre)

@@ -194,7 +194,8 @@ void Composition::ligne(const Facture::Ligne &ligne)
     bloc(QString::number(ligne.quantite) + QStringLiteral(" × ") + Format::euros(ligne.prixUnitaire), discret_, fin, y_,
          colonneDesPrix, Qt::AlignRight);
     bloc(Format::euros(ligne.montant()), texte_, largeur_ - colonneDesMontants, y_, colonneDesMontants, Qt::AlignRight);
-    hauteur += bloc(QStringLiteral("ISBN ") + ligne.isbn, note_, 0, y_ + hauteur + 1, fin) + 1;
+    if (!ligne.isbn.isEmpty())
+        hauteur += bloc(QStringLiteral("ISBN ") + ligne.isbn, note_, 0, y_ + hauteur + 1, fin) + 1;
     y_ += hauteur + margeDeRangee;
 }
 

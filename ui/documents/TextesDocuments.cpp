@@ -115,7 +115,10 @@ QString TextesDocuments::remarqueSurLeNumero(const QString &numero, QDate jour)
 
 QString TextesDocuments::vendeur(const IdentiteVendeur &vendeur)
 {
-    return (QStringList{vendeur.nom} + coordonnees(vendeur) + QStringList{vendeur.mentionTva}).join(u'\n');
+    QStringList lignes = QStringList{vendeur.nom} + coordonnees(vendeur);
+    if (!vendeur.mentionTva.isEmpty())
+        lignes.append(vendeur.mentionTva);
+    return lignes.join(u'\n');
 }
 
 QString TextesDocuments::sansSiret(const IdentiteVendeur &vendeur)
