@@ -3,6 +3,7 @@
 #include "model/ChiffresAscii.h"
 
 #include <limits>
+#include <optional>
 
 namespace {
 
@@ -40,13 +41,18 @@ std::optional<Numero> decomposer(const QString &numero)
     return annee && rang ? std::optional(Numero{*annee, *rang}) : std::nullopt;
 }
 
+QString composer(const Numero &numero)
+{
+    return QStringLiteral("%1-%2").arg(numero.annee).arg(numero.rang, 3, 10, QLatin1Char('0'));
+}
+
 } // namespace
 
 QString NumerotationFactures::prochain(Vendeur vendeur, QDate date) const
 {
     const auto dernier = decomposer(preferences.texteOuErreur(cle(vendeur)));
     const bool suite = dernier && dernier->annee == date.year() && dernier->rang < std::numeric_limits<qint64>::max();
-    return QStringLiteral("%1-%2").arg(date.year()).arg(suite ? dernier->rang + 1 : 1, 3, 10, QLatin1Char('0'));
+    return suite ? composer({date.year(), dernier->rang + 1}) : premier(date);
 }
 
 void NumerotationFactures::retenir(const QString &numero, Vendeur vendeur)
@@ -59,8 +65,17 @@ void NumerotationFactures::retenir(const QString &numero, Vendeur vendeur)
         preferences.ecrire(cle(vendeur), numero);
 }
 
-std::optional<qint64> NumerotationFactures::annee(const QString &numero)
+NumerotationFactures::Rapport NumerotationFactures::rapport(const QString &numero, QDate date)
 {
     const auto lu = decomposer(numero);
-    return lu ? std::optional(lu->annee) : std::nullopt;
+    if (!lu)
+        return Rapport::aucun;
+    if (lu->annee == date.year())
+        return Rapport::dansLaSerie;
+    return lu->annee < date.year() ? Rapport::anterieur : Rapport::posterieur;
+}
+
+QString NumerotationFactures::premier(QDate date)
+{
+    return composer({date.year(), 1});
 }

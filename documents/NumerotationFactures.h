@@ -5,10 +5,8 @@
 
 #include <QDate>
 
-#include <optional>
-
 // Numbers of invoices, "2026-007": one series for each seller, starting again with each year. Only the last number of
-// each seller is kept.
+// each seller is kept: after one of a year to come, no earlier one is.
 struct NumerotationFactures
 {
     Preferences preferences;
@@ -20,6 +18,9 @@ struct NumerotationFactures
     // it was.
     void retenir(const QString &numero, Vendeur vendeur);
 
-    // The year a number belongs to; none for a text that `retenir` cannot understand.
-    static std::optional<qint64> annee(const QString &numero);
+    // How a number stands to the series of a day; `aucun` for a text that `retenir` cannot understand.
+    enum class Rapport { aucun, anterieur, dansLaSerie, posterieur };
+    static Rapport rapport(const QString &numero, QDate date);
+    // The first number of the day's series: "2026-001".
+    static QString premier(QDate date);
 };

@@ -10,6 +10,8 @@
 
 namespace {
 
+using Rapport = NumerotationFactures::Rapport;
+
 qint64 rang(const QString &numero)
 {
     return numero.section(u'-', 1).toLongLong();
@@ -19,7 +21,7 @@ qint64 rang(const QString &numero)
 bool finDeSerie(const NumerotationFactures &numerotation, QDate date)
 {
     const QString numero = numerotation.preferences.texte(QStringLiteral("derniereFacture.davrel"));
-    return NumerotationFactures::annee(numero) > date.year()
+    return NumerotationFactures::rapport(numero, date) == Rapport::posterieur
            || numero.contains(QString::number(std::numeric_limits<qint64>::max()));
 }
 
@@ -27,11 +29,12 @@ void verifier(NumerotationFactures &numerotation, const QString &numero, QDate d
 {
     const QString avant = numerotation.prochain(Vendeur::davrel, date);
     const QString autre = numerotation.prochain(Vendeur::mireva, date);
-    exiger(NumerotationFactures::annee(avant) == date.year(), "un numero de l'annee");
+    exiger(NumerotationFactures::rapport(avant, date) == Rapport::dansLaSerie, "un numero de l'annee");
     numerotation.retenir(numero, Vendeur::davrel);
     const QString apres = numerotation.prochain(Vendeur::davrel, date);
-    exiger(NumerotationFactures::annee(apres) == date.year(), "toujours un numero de l'annee");
-    exiger(NumerotationFactures::annee(numero) || apres == avant, "ce qui n'est pas un numero ne change rien");
+    exiger(NumerotationFactures::rapport(apres, date) == Rapport::dansLaSerie, "toujours un numero de l'annee");
+    exiger(NumerotationFactures::rapport(numero, date) != Rapport::aucun || apres == avant,
+           "ce qui n'est pas un numero ne change rien");
     const bool fini = finDeSerie(numerotation, date);
     exiger(rang(apres) >= rang(avant) || fini, "une serie ne recule pas");
     exiger(numero != avant || apres != avant || fini, "un numero emis n'est plus propose");

@@ -102,15 +102,20 @@ QString TextesDocuments::sansIdentite(const Calcul &calcul, const Reglages &regl
 
 QString TextesDocuments::remarqueSurLeNumero(const QString &numero, QDate jour)
 {
-    const auto annee = NumerotationFactures::annee(numero);
-    if (!annee)
-        return QStringLiteral("Ce numéro n’a pas la forme %1-001 : il ne sera pas retenu.").arg(jour.year());
-    if (*annee > jour.year())
+    using Rapport = NumerotationFactures::Rapport;
+    switch (NumerotationFactures::rapport(numero, jour)) {
+    case Rapport::aucun:
+        return QStringLiteral("Ce numéro n’a pas la forme %1 : il ne sera pas retenu.")
+            .arg(NumerotationFactures::premier(jour));
+    case Rapport::anterieur:
+        return QStringLiteral("Ce numéro est d’une année passée : la suite de %1 n’en change pas.").arg(jour.year());
+    case Rapport::posterieur:
         return QStringLiteral("Ce numéro est d’une année à venir : après lui, ceux de %1 ne seront plus retenus.")
             .arg(jour.year());
-    if (*annee < jour.year())
-        return QStringLiteral("Ce numéro est d’une année passée : la suite de %1 n’en change pas.").arg(jour.year());
-    return {};
+    case Rapport::dansLaSerie:
+        return {};
+    }
+    Q_UNREACHABLE();
 }
 
 QString TextesDocuments::vendeur(const IdentiteVendeur &vendeur)
