@@ -13,7 +13,6 @@ private slots:
     void pasDeFacture();
     void nomDeFichier_data();
     void nomDeFichier();
-    void articles();
 };
 
 void TestFacture::factureDeLaCommande()
@@ -40,6 +39,9 @@ void TestFacture::factureDeLaCommande()
                                 .codeSH = QStringLiteral("490199")}));
     QCOMPARE(facture->sousTotal(), Centimes{5200});
     QCOMPARE(facture->total(), Centimes{5959});
+    QCOMPARE(articlesDouane(calcul, QStringLiteral("490199")).value(0),
+             (ArticleDouane{1, QStringLiteral("Printed book – Livre 1"), 2, Grammes{200}, Centimes{1500},
+                            QStringLiteral("490199"), QStringLiteral("France")}));
 }
 
 void TestFacture::pasDeFacture()
@@ -83,22 +85,6 @@ void TestFacture::nomDeFichier()
     QFETCH(QString, nom);
     const Facture facture{.numero = QStringLiteral("2026-001"), .vendeur = {.nom = vendeur}};
     QCOMPARE(facture.nomDeFichier(), nom);
-}
-
-void TestFacture::articles()
-{
-    const Banc banc;
-    const auto catalogue = banc.charger();
-    Commande commande;
-    QVERIFY(articlesDouane(Calcul(*catalogue, commande, jourDuBanc), QStringLiteral("490199")).isEmpty());
-    commande.ajuster(banc.livres[0], 2);
-    commande.ajuster(banc.livres[1], 1);
-    const auto articles = articlesDouane(Calcul(*catalogue, commande, jourDuBanc), QStringLiteral("490199"));
-    const QString france = QStringLiteral("France");
-    const QString code = QStringLiteral("490199");
-    QCOMPARE(articles, (QList<ArticleDouane>{
-                           {1, QStringLiteral("Printed book – Livre 1"), 2, Grammes{200}, Centimes{1500}, code, france},
-                           {2, QStringLiteral("Printed book – Livre 2"), 1, Grammes{}, Centimes{2200}, code, france}}));
 }
 
 QTEST_GUILESS_MAIN(TestFacture)

@@ -2,7 +2,6 @@
 #include "tests/Banc.h"
 #include "tests/DisquePlein.h"
 
-#include <QElapsedTimer>
 #include <QTest>
 
 class TestNumerotation : public QObject
@@ -16,8 +15,6 @@ private slots:
     void retenir();
     void unVendeurAPart();
     void disquePlein();
-    void dossierInterdit();
-    void restesDUnArret();
 };
 
 namespace {
@@ -40,12 +37,9 @@ void TestNumerotation::prochain_data()
     cas("année à venir", "2027-002", "2026-001");
     cas("tirets en trop", "-2026--007-", "2026-008");
     cas("signe", "+2026-+7", "2026-008");
-    cas("une partie", "2026-", "2026-001");
-    cas("trois parties", "2026-007-1", "2026-001");
     cas("lettres", "abc", "2026-001");
     cas("espace", "2026- 7", "2026-001");
     cas("chiffres d’ailleurs", "2026-٧", "2026-001");
-    cas("signe seul", "2026-+", "2026-001");
     cas("trop grand pour être lu", "2026-99999999999999999999", "2026-001");
     cas("le dernier qui se lise", "2026-9223372036854775807", "2026-001");
 }
@@ -59,7 +53,6 @@ void TestNumerotation::prochain()
         banc.preferences().ecrire(cleDavrel, retenu);
     const NumerotationFactures numerotation{banc.preferences()};
     QCOMPARE(numerotation.prochain(Vendeur::davrel, jourDuBanc), propose);
-    QCOMPARE(numerotation.prochain(Vendeur::davrel, jourDuBanc), propose); // asking consumes nothing
 }
 
 void TestNumerotation::retenir_data()
@@ -119,29 +112,6 @@ void TestNumerotation::disquePlein()
     QCOMPARE(preferences.texte(QStringLiteral("dossier")).size(), 400);
     numerotation.retenir(QStringLiteral("2026-002"), Vendeur::davrel); // and goes on once there is room
     QCOMPARE(numerotation.prochain(Vendeur::davrel, jourDuBanc), QStringLiteral("2026-003"));
-}
-
-void TestNumerotation::dossierInterdit()
-{
-    const Banc banc;
-    banc.ecrireUtilisateur(QStringLiteral("obstacle"), "pas un dossier");
-    NumerotationFactures numerotation{Preferences(banc.cheminUtilisateur(QStringLiteral("obstacle/Quillet.ini")))};
-    QVERIFY_THROWS_EXCEPTION(ErreurStockage, numerotation.retenir(QStringLiteral("2026-001"), Vendeur::davrel));
-    QCOMPARE(numerotation.prochain(Vendeur::davrel, jourDuBanc), QStringLiteral("2026-001"));
-}
-
-// A program that was killed while it wrote holds nobody back, and what it left is not read.
-void TestNumerotation::restesDUnArret()
-{
-    const Banc banc;
-    NumerotationFactures numerotation{Preferences(banc.cheminUtilisateur(QStringLiteral("Quillet.ini")))};
-    banc.ecrireUtilisateur(QStringLiteral("Quillet.ini.lock"), {});
-    banc.ecrireUtilisateur(QStringLiteral("Quillet.ini.rPhpgm"), "[General]\nderniereFacture.davrel=2026-041\n");
-    QElapsedTimer duree;
-    duree.start();
-    numerotation.retenir(QStringLiteral("2026-001"), Vendeur::davrel);
-    QCOMPARE_LT(duree.elapsed(), 5000);
-    QCOMPARE(numerotation.prochain(Vendeur::davrel, jourDuBanc), QStringLiteral("2026-002"));
 }
 
 QTEST_GUILESS_MAIN(TestNumerotation)

@@ -22,7 +22,6 @@ private slots:
     void prixDesBoutons();
     void leBoutonLePlusCher();
     void garderPuisReporter();
-    void retourAuxValeursLivrees();
 };
 
 void TestCatalogue::tarifsDUnJour_data()
@@ -243,24 +242,6 @@ void TestCatalogue::leBoutonLePlusCher()
     const auto boutons = catalogue->boutons(livre, desTarifs(QStringLiteral("2026-01-01"), livre.prix));
     catalogue->reporter(livre, boutons);
     QCOMPARE(banc.charger()->livres(), catalogue->livres());
-}
-
-void TestCatalogue::retourAuxValeursLivrees()
-{
-    const Banc banc;
-    const auto catalogue = banc.charger();
-    Livre change = catalogue->livres()[1];
-    change.prix = Centimes{1};
-    change.poids = Grammes{333};
-    catalogue->modifier({change});
-    QCOMPARE(catalogue->livres()[1], change);
-    QSignalSpy signal(catalogue.get(), &Catalogue::change);
-    catalogue->revenirAuxValeursLivrees();
-    QCOMPARE(signal.count(), 1);
-    QCOMPARE(catalogue->livres(), banc.livres);
-    QVERIFY(!QFile::exists(banc.cheminUtilisateur(QStringLiteral("livres-modifies.json"))));
-    catalogue->revenirAuxValeursLivrees();
-    QCOMPARE(signal.count(), 1);
 }
 
 QTEST_GUILESS_MAIN(TestCatalogue)

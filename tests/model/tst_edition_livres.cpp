@@ -2,6 +2,7 @@
 #include "tests/Banc.h"
 #include "tests/DisquePlein.h"
 
+#include <QSignalSpy>
 #include <QTest>
 
 // What sellers change of their books, and the way back from it.
@@ -32,7 +33,9 @@ void TestEditionLivres::annulerEtRetablir()
     etapes.append(catalogue->livres());
     historique.reporter(livre, PrixBouton::aReporter(boutons()), QStringLiteral("reportés"));
     etapes.append(catalogue->livres());
+    QSignalSpy change(catalogue.get(), &Catalogue::change);
     historique.revenirAuxValeursLivrees(QStringLiteral("retour"));
+    QCOMPARE(change.count(), 1);
     etapes.append(catalogue->livres());
     QCOMPARE(etapes.last(), etapes.first());
 

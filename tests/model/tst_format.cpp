@@ -32,27 +32,19 @@ void TestFormat::nombres_data()
     };
     cas("12,50~€", Format::euros(Centimes{1250}));
     cas("1_234,50~€", Format::euros(Centimes{123450}));
-    cas("0,00~€", Format::euros(Centimes{0}));
     cas("-0,05~€", Format::euros(Centimes{-5}));
-    cas("-12,50~€", Format::euros(Centimes{-1250}));
     cas("92_233_720_368_547_758,07~€", Format::euros(Centimes{std::numeric_limits<qint64>::max()}));
     cas("-92_233_720_368_547_758,08~€", Format::euros(Centimes{std::numeric_limits<qint64>::min()}));
     cas("€12.50", Format::eurosAnglais(Centimes{1250}));
-    cas("€1,234.50", Format::eurosAnglais(Centimes{123450}));
     cas("-€0.05", Format::eurosAnglais(Centimes{-5}));
     cas("12,50", Format::montant(Centimes{1250}));
-    cas("0,05", Format::montant(Centimes{5}));
-    cas("12_345,00", Format::montant(Centimes{1234500}));
     cas("1,250", Format::kilos(Grammes{1250}));
     cas("0,080", Format::kilos(Grammes{80}));
-    cas("30,000", Format::kilos(Grammes{30000}));
     cas("1_250 g", Format::poids(Grammes{1250}));
-    cas("80 g", Format::poids(Grammes{80}));
     cas("0 g", Format::palier(Grammes{0}));
     cas("999 g", Format::palier(Grammes{999}));
     cas("1 kg", Format::palier(Grammes{1000}));
     cas("1500 g", Format::palier(Grammes{1500}));
-    cas("30 kg", Format::palier(Grammes{30000}));
     cas("3,49 %", Format::pourcentage(Taux{349}));
     cas("0,50 %", Format::pourcentage(Taux{50}));
 }

@@ -1,4 +1,3 @@
-#include "tests/Banc.h"
 #include "watch/EcartTarif.h"
 
 #include <QTest>
@@ -14,12 +13,17 @@ private slots:
 
 namespace {
 
-using Grilles = QList<GrilleColissimo>;
-
-// The bench's two grids: 250 g, 500 g and 2 kg each.
-TarifsColissimo tarifs()
+// "f 250:545 500:759, u 250:545": the grids, and the price of each tier.
+TarifsColissimo tarifs(const QString &texte)
 {
-    return desTarifs(QStringLiteral("2026-01-01"), Centimes{545});
+    TarifsColissimo tarifs;
+    for (const QString &grille : texte.split(QStringLiteral(", "))) {
+        tarifs.grilles.append({.code = grille.section(u' ', 0, 0)});
+        for (const QString &palier : grille.section(u' ', 1).split(u' '))
+            tarifs.grilles.last().paliers.append(
+                {Grammes{palier.section(u':', 0, 0).toLongLong()}, Centimes{palier.section(u':', 1).toLongLong()}});
+    }
+    return tarifs;
 }
 
 QString enTexte(const QList<EcartTarif> &ecarts)
@@ -37,60 +41,33 @@ QString enTexte(const QList<EcartTarif> &ecarts)
 
 void TestEcarts::ecarts_data()
 {
-    QTest::addColumn<TarifsColissimo>("de");
-    QTest::addColumn<TarifsColissimo>("a");
+    QTest::addColumn<QString>("de");
+    QTest::addColumn<QString>("a");
     QTest::addColumn<QString>("attendus");
-    const auto cas = [](const char *nom, void (*changer)(Grilles & de, Grilles & a), const char *attendus) {
-        TarifsColissimo de = tarifs();
-        TarifsColissimo a = tarifs();
-        a.validite = QStringLiteral("2027-01-01");
-        changer(de.grilles, a.grilles);
-        QTest::newRow(nom) << de << a << QString::fromUtf8(attendus);
+    const auto cas = [](const char *nom, const char *de, const char *a, const char *attendus) {
+        QTest::newRow(nom) << QString::fromLatin1(de) << QString::fromLatin1(a) << QString::fromUtf8(attendus);
     };
-    cas(
-        "aucun", [](Grilles &, Grilles &) {}, "");
-    cas(
-        "prix changé", [](Grilles &, Grilles &a) { a[0].paliers[0].prix = Centimes{560}; },
-        "france-domicile-250 545>560");
-    cas(
-        "palier nouveau, hors de son rang",
-        [](Grilles &, Grilles &a) {
-            a[1].paliers.prepend({Grammes{15000}, Centimes{3055}});
-            a[1].paliers.last().prix = Centimes{1};
-        },
-        "ue-suisse-2000 1119>1, ue-suisse-15000 –>3055");
-    cas(
-        "palier disparu", [](Grilles &, Grilles &a) { a[0].paliers.removeAt(1); }, "france-domicile-500 759>–");
-    cas(
-        "grille nouvelle", [](Grilles &de, Grilles &) { de.removeFirst(); },
-        "france-domicile-250 –>545, france-domicile-500 –>759, france-domicile-2000 –>1119");
-    cas(
-        "grille disparue", [](Grilles &, Grilles &a) { a.removeFirst(); }, "");
-    cas(
-        "grilles dans l’ordre des nouvelles",
-        [](Grilles &, Grilles &a) {
-            a.swapItemsAt(0, 1);
-            a[0].paliers[2].prix = a[1].paliers[0].prix = Centimes{2};
-        },
-        "ue-suisse-2000 1119>2, france-domicile-250 545>2");
-    cas(
-        "poids en double : le premier",
-        [](Grilles &de, Grilles &a) {
-            de[0].paliers.append({Grammes{250}, Centimes{1}});
-            a[0].paliers.prepend({Grammes{250}, Centimes{2}});
-        },
-        "france-domicile-250 545>2");
+    cas("aucun", "f 250:545 500:759", "f 250:545 500:759", "");
+    cas("prix changé", "f 250:545 500:759", "f 250:560 500:759", "f-250 545>560");
+    cas("palier nouveau, hors de son rang", "u 250:545 2000:1119", "u 15000:3055 250:545 2000:1",
+        "u-2000 1119>1, u-15000 –>3055");
+    cas("palier disparu", "f 250:545 500:759", "f 250:545", "f-500 759>–");
+    cas("grille nouvelle", "u 250:545", "f 250:545 500:759, u 250:545", "f-250 –>545, f-500 –>759");
+    cas("grille disparue", "f 250:545, u 250:545", "u 250:545", "");
+    cas("grilles dans l’ordre des nouvelles", "f 250:545, u 250:545", "u 250:2, f 250:3", "u-250 545>2, f-250 545>3");
+    cas("poids en double : le premier", "f 250:545 250:1", "f 250:2 250:545", "f-250 545>2");
 }
 
 void TestEcarts::ecarts()
 {
-    QFETCH(TarifsColissimo, de);
-    QFETCH(TarifsColissimo, a);
+    QFETCH(QString, de);
+    QFETCH(QString, a);
     QFETCH(QString, attendus);
-    const auto ecarts = EcartTarif::ecarts(de, a);
+    const TarifsColissimo nouveaux = tarifs(a);
+    const auto ecarts = EcartTarif::ecarts(tarifs(de), nouveaux);
     QCOMPARE(enTexte(ecarts), attendus);
     for (const EcartTarif &ecart : ecarts)
-        QCOMPARE(ecart.grille, *a.grille(ecart.grille.code));
+        QCOMPARE(ecart.grille, *nouveaux.grille(ecart.grille.code));
 }
 
 QTEST_GUILESS_MAIN(TestEcarts)

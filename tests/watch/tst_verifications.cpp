@@ -17,8 +17,6 @@ private slots:
     void premierLancement();
     void quandUneSemaineAPasse_data();
     void quandUneSemaineAPasse();
-    void dejaConnus_data();
-    void dejaConnus();
     void changementsAcceptes();
     void echecs_data();
     void echecs();
@@ -135,43 +133,12 @@ void TestVerifications::quandUneSemaineAPasse()
     QCOMPARE(demandees(), attendues);
 }
 
-void TestVerifications::dejaConnus_data()
-{
-    QTest::addColumn<bool>("memesTarifs");
-    QTest::addColumn<bool>("memesFrais");
-    QTest::newRow("tout est connu, à d’autres dates") << true << true;
-    QTest::newRow("un prix change") << false << true;
-    QTest::newRow("un taux change") << true << false;
-}
-
-void TestVerifications::dejaConnus()
-{
-    QFETCH(bool, memesTarifs);
-    QFETCH(bool, memesFrais);
-    TarifsColissimo tarifs = catalogue_->tarifs(QStringLiteral("2026-03-02"));
-    FraisPaypal frais = catalogue_->reglages().fraisPaypal;
-    if (!memesTarifs)
-        tarifs.grilles[1].paliers[0].prix = Centimes{1};
-    if (!memesFrais)
-        frais.supplements[QStringLiteral("royaume-uni")] = Taux{130};
-    servir(tarifs, frais);
-    const auto v = verifications();
-    v->verifierLaPoste(*catalogue_);
-    v->verifierPaypal(*catalogue_);
-    QTRY_VERIFY(terminees(*v));
-    QCOMPARE(v->etatLaPoste().cas, memesTarifs ? Cas::aJour : Cas::changement);
-    QCOMPARE(v->nouveauxTarifs().has_value(), !memesTarifs);
-    QCOMPARE(v->etatPaypal().cas, memesFrais ? Cas::aJour : Cas::changement);
-    QCOMPARE(v->nouveauxFrais().has_value(), !memesFrais);
-    QCOMPARE(v->nombreASignaler(), (memesTarifs ? 0 : 1) + (memesFrais ? 0 : 1));
-}
-
 void TestVerifications::changementsAcceptes()
 {
     TarifsColissimo tarifs = catalogue_->tarifs(QStringLiteral("2026-03-02"));
     tarifs.grilles[0].paliers[0].prix = Centimes{600};
     FraisPaypal frais = catalogue_->reglages().fraisPaypal;
-    frais.taux = Taux{320};
+    frais.supplements[QStringLiteral("royaume-uni")] = Taux{130};
     servir(tarifs, frais);
     const auto v = verifications();
     v->verifierSiNecessaire(*catalogue_);
@@ -188,7 +155,7 @@ void TestVerifications::changementsAcceptes()
     QCOMPARE(catalogue_->tarifs(QStringLiteral("2026-04-01")).grilles[0].paliers[0].prix, Centimes{600});
     QCOMPARE(catalogue_->tarifs(QStringLiteral("2026-03-31")).grilles[0].paliers[0].prix, Centimes{549});
     v->accepterFrais(*catalogue_);
-    QCOMPARE(catalogue_->reglages().fraisPaypal.taux, Taux{320});
+    QCOMPARE(catalogue_->reglages().fraisPaypal.supplement(RegionPaypal::royaumeUni), Taux{130});
     QCOMPARE(v->nombreASignaler(), 0);
 
     v->verifierLaPoste(*catalogue_);
