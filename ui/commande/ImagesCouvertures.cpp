@@ -2,7 +2,6 @@
 
 #include "model/Couvertures.h"
 
-#include <QElapsedTimer>
 #include <QImageReader>
 
 #include <algorithm>
@@ -10,7 +9,7 @@
 namespace {
 
 constexpr int memoireKio = 64 * 1024;
-constexpr int tempsDeLecture = 8; // ms
+constexpr int lecteursAuPlus = 2; // each holds a whole picture while it reads it
 
 QString cle(const QString &couverture, const QSize &pixels)
 {
@@ -18,58 +17,60 @@ QString cle(const QString &couverture, const QSize &pixels)
         .arg(couverture, QString::number(pixels.width()), QString::number(pixels.height()));
 }
 
+QImage lire(const QString &chemin, const QSize &pixels)
+{
+    QImageReader lecteur(chemin);
+    const QSize originale = lecteur.size();
+    if (originale.isEmpty())
+        return {};
+    const QSize remplie = originale.scaled(pixels, Qt::KeepAspectRatioByExpanding);
+    lecteur.setScaledSize(remplie);
+    const QPoint coin((remplie.width() - pixels.width()) / 2, (remplie.height() - pixels.height()) / 2);
+    const QImage image = lecteur.read();
+    return image.isNull() ? image : image.copy(QRect(coin, pixels));
+}
+
 } // namespace
 
 ImagesCouvertures::ImagesCouvertures(const QDir &dossier, QObject *parent)
     : QObject(parent), dossier_(dossier), fichiers_(Couvertures::fichiers(dossier)), images_(memoireKio)
 {
-    lecture_.setSingleShot(true);
-    connect(&lecture_, &QTimer::timeout, this, &ImagesCouvertures::lireLesSuivantes);
+    lecteurs_.setMaxThreadCount(lecteursAuPlus);
+}
+
+// Those being read are waited for: they hand their picture to this object.
+ImagesCouvertures::~ImagesCouvertures()
+{
+    lecteurs_.clear();
+    lecteurs_.waitForDone();
 }
 
 QImage ImagesCouvertures::image(const QString &couverture, const QSize &pixels)
 {
-    if (!fichiers_.contains(Couvertures::nom(couverture)) || pixels.isEmpty())
+    const auto fichier = fichiers_.constFind(Couvertures::nom(couverture));
+    if (fichier == fichiers_.constEnd() || pixels.isEmpty())
         return {};
-    if (const QImage *lue = images_.object(cle(couverture, pixels)))
+    const QString demande = cle(couverture, pixels);
+    if (const QImage *lue = images_.object(demande))
         return *lue;
-    if (const Demande demande{couverture, pixels}; !demandes_.contains(demande))
-        demandes_.append(demande);
-    lecture_.start(0);
+    if (!enLecture_.contains(demande)) {
+        enLecture_.insert(demande);
+        const auto travail = [this, couverture, pixels, demande, chemin = dossier_.filePath(*fichier)] {
+            QMetaObject::invokeMethod(
+                this, [=, this, image = lire(chemin, pixels)] { recevoir(couverture, demande, image); },
+                Qt::QueuedConnection);
+        };
+        lecteurs_.start(travail, ++rang_); // the last asked for is in sight, the first may have scrolled away
+    }
     return {};
 }
 
-// As many as half a frame holds: the window answers in between, and is not repainted for each.
-void ImagesCouvertures::lireLesSuivantes()
+void ImagesCouvertures::recevoir(const QString &couverture, const QString &cle, const QImage &image)
 {
-    QElapsedTimer chrono;
-    chrono.start();
-    while (!demandes_.isEmpty() && chrono.elapsed() < tempsDeLecture)
-        lireUneFois(demandes_.takeFirst());
-    if (!demandes_.isEmpty())
-        lecture_.start(0);
-}
-
-void ImagesCouvertures::lireUneFois(const Demande &demande)
-{
-    const QImage image = lire(demande);
+    enLecture_.remove(cle);
     if (image.isNull())
-        fichiers_.remove(Couvertures::nom(demande.couverture)); // a damaged picture: the coloured cover stands in
+        fichiers_.remove(Couvertures::nom(couverture)); // a damaged picture: the coloured cover stands in
     else
-        images_.insert(cle(demande.couverture, demande.pixels), new QImage(image),
-                       std::max<qsizetype>(1, image.sizeInBytes() / 1024));
-    emit prete(demande.couverture);
-}
-
-QImage ImagesCouvertures::lire(const Demande &demande) const
-{
-    QImageReader lecteur(dossier_.filePath(fichiers_.value(Couvertures::nom(demande.couverture))));
-    const QSize originale = lecteur.size();
-    if (originale.isEmpty())
-        return {};
-    const QSize remplie = originale.scaled(demande.pixels, Qt::KeepAspectRatioByExpanding);
-    lecteur.setScaledSize(remplie);
-    const QPoint coin((remplie.width() - demande.pixels.width()) / 2, (remplie.height() - demande.pixels.height()) / 2);
-    const QImage image = lecteur.read();
-    return image.isNull() ? image : image.copy(QRect(coin, demande.pixels));
+        images_.insert(cle, new QImage(image), std::max<qsizetype>(1, image.sizeInBytes() / 1024));
+    emit prete(couverture);
 }
