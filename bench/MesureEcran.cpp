@@ -4,7 +4,7 @@
 #include "ui/Fenetre.h"
 #include "ui/QuilletApp.h"
 #include "ui/commande/Couverture.h"
-#include "ui/commun/ChampEntier.h"
+#include "ui/commun/ChampGrammes.h"
 #include "ui/commun/Ressort.h"
 #include "visite/Ecran.h"
 #include "visite/HorsReseau.h"
@@ -132,7 +132,7 @@ QList<double> Scene::clics(int nombre)
 // A digit typed as the parcel's weight, then taken back.
 QList<double> Scene::frappes(int nombre)
 {
-    auto *champ = qobject_cast<ChampEntier *>(Ecran::controle(&fenetre_, QStringLiteral("Colis pesé, en grammes")));
+    auto *champ = qobject_cast<ChampGrammes *>(Ecran::controle(&fenetre_, QStringLiteral("Colis pesé, en grammes")));
     if (!champ)
         qFatal("Aucun champ pour le colis pesé");
     QList<double> durees;

@@ -4,7 +4,7 @@
 #include "ui/Theme.h"
 #include "ui/commande/TextesRecapitulatif.h"
 #include "ui/commun/Alerte.h"
-#include "ui/commun/ChampEntier.h"
+#include "ui/commun/ChampGrammes.h"
 #include "ui/commun/Choix.h"
 #include "ui/commun/Libelle.h"
 
@@ -12,15 +12,15 @@
 
 namespace {
 
-ChampEntier *champEnGrammes(const QString &nom)
+ChampGrammes *champ(const QString &nom)
 {
-    auto *champ = new ChampEntier(ChampEntier::tr("grammes"));
-    champ->setAccessibleName(ChampEntier::tr("%1, en grammes").arg(nom));
+    auto *champ = new ChampGrammes;
+    champ->setAccessibleName(QStringLiteral("%1, en grammes").arg(nom));
     return champ;
 }
 
 // The field with its unit behind it.
-QWidget *avecUnite(ChampEntier *champ)
+QWidget *avecUnite(ChampGrammes *champ)
 {
     auto *ensemble = new QWidget;
     auto *rangee = new QHBoxLayout(ensemble);
@@ -49,10 +49,10 @@ SectionPoids::SectionPoids(const QList<Emballage> &emballages, Commande &command
       commande_(commande),
       poidsLivres_(tr("Livres")),
       emballage_(choixDEmballage(emballages)),
-      poidsLibre_(champEnGrammes(tr("Poids de l’emballage"))),
+      poidsLibre_(champ(tr("Poids de l’emballage"))),
       rangeePoidsLibre_(new Formulaire::Rangee(tr("Poids de l’emballage"), avecUnite(poidsLibre_))),
       poidsCalcule_(tr("Poids calculé")),
-      poidsPese_(champEnGrammes(tr("Colis pesé"))),
+      poidsPese_(champ(tr("Colis pesé"))),
       avertissements_(new QWidget)
 {
     poidsPese_->setPlaceholderText(QStringLiteral("—"));
@@ -72,11 +72,10 @@ SectionPoids::SectionPoids(const QList<Emballage> &emballages, Commande &command
     groupe()->ajouter(avertissements_);
 
     connect(emballage_, &Choix::choisi, &commande_, &Commande::setEmballage);
-    connect(poidsLibre_, &ChampEntier::saisie, this,
-            [this](std::optional<qint64> grammes) { commande_.setPoidsEmballageLibre(Grammes{grammes.value_or(0)}); });
-    connect(poidsPese_, &ChampEntier::saisie, this, [this](std::optional<qint64> grammes) {
-        commande_.setPoidsPese(grammes ? std::optional(Grammes{*grammes}) : std::nullopt);
+    connect(poidsLibre_, &ChampGrammes::saisi, this, [this](const std::optional<Grammes> &poids) {
+        commande_.setPoidsEmballageLibre(poids.value_or(Grammes{0}));
     });
+    connect(poidsPese_, &ChampGrammes::saisi, &commande_, &Commande::setPoidsPese);
 }
 
 void SectionPoids::montrer(const Calcul &calcul)
@@ -84,10 +83,9 @@ void SectionPoids::montrer(const Calcul &calcul)
     poidsLivres_.montant->afficher(Format::poids(calcul.poidsLivres));
     emballage_->montrer(commande_.emballage());
     rangeePoidsLibre_->setVisible(commande_.emballage() == Commande::autrePoids());
-    poidsLibre_->montrer(commande_.poidsEmballageLibre().valeur());
+    poidsLibre_->montrer(commande_.poidsEmballageLibre());
     montrerPoidsCalcule(calcul);
-    const auto pese = commande_.poidsPese();
-    poidsPese_->montrer(pese ? std::optional(pese->valeur()) : std::nullopt);
+    poidsPese_->montrer(commande_.poidsPese());
 
     const auto palier = TextesRecapitulatif::palier(calcul);
     palier_.rangee->setVisible(palier.has_value());

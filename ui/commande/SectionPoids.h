@@ -4,7 +4,7 @@
 #include "ui/commande/RangeeMontant.h"
 #include "ui/commande/TextesRecapitulatif.h"
 
-class ChampEntier;
+class ChampGrammes;
 class Choix;
 
 // The weights, the packaging, the weighed parcel and what to beware of.
@@ -23,10 +23,10 @@ private:
     Commande &commande_;
     RangeeMontant poidsLivres_;
     Choix *emballage_;
-    ChampEntier *poidsLibre_;
+    ChampGrammes *poidsLibre_;
     QWidget *rangeePoidsLibre_;
     RangeeMontant poidsCalcule_;
-    ChampEntier *poidsPese_;
+    ChampGrammes *poidsPese_;
     RangeeMontant palier_;
     QWidget *avertissements_;
     QList<TextesRecapitulatif::Avertissement> avertissementsMontres_;

@@ -76,11 +76,7 @@ void ChampSaisi::conclure()
 
 bool ChampSaisi::eventFilter(QObject *objet, QEvent *evenement)
 {
-    // A look at another window leaves the typing as it stands.
-    const auto passager = [evenement] {
-        const auto raison = static_cast<QFocusEvent *>(evenement)->reason();
-        return raison == Qt::ActiveWindowFocusReason || raison == Qt::PopupFocusReason;
-    };
+    const auto passager = [evenement] { return LigneDeTexte::reviendra(*static_cast<QFocusEvent *>(evenement)); };
     if (evenement->type() == QEvent::FocusOut && !passager())
         conclure();
     if (evenement->type() == QEvent::FocusIn && !passager())

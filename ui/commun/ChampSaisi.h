@@ -31,6 +31,8 @@ public:
     void montrer(const QString &valeur);
     // Gives up what is being typed, and what was said of it.
     void oublier();
+    // As leaving the field does.
+    void conclure();
 
 signals:
     void saisi(const QString &texte);
@@ -40,7 +42,6 @@ protected:
     void hideEvent(QHideEvent *evenement) override;
 
 private:
-    void conclure();
     void direLeRefus(const QString &refus);
 
     Refus refus_;

@@ -1,5 +1,6 @@
 #include "ui/commun/LigneDeTexte.h"
 
+#include <QFocusEvent>
 #include <QKeyEvent>
 
 bool LigneDeTexte::event(QEvent *evenement)
@@ -13,4 +14,9 @@ bool LigneDeTexte::event(QEvent *evenement)
         }
     }
     return QLineEdit::event(evenement);
+}
+
+bool LigneDeTexte::reviendra(const QFocusEvent &perte)
+{
+    return perte.reason() == Qt::ActiveWindowFocusReason || perte.reason() == Qt::PopupFocusReason;
 }

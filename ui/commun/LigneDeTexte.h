@@ -11,6 +11,9 @@ class LigneDeTexte : public QLineEdit
 public:
     using QLineEdit::QLineEdit;
 
+    // Whether a field that loses the focus to a menu or another window will have it again: nothing is over.
+    static bool reviendra(const QFocusEvent &perte);
+
 protected:
     bool event(QEvent *evenement) override;
 };

@@ -1,0 +1,77 @@
+#include "ui/commun/ChampGrammes.h"
+
+#include "model/Saisie.h"
+#include "ui/commun/LigneDeTexte.h"
+
+#include <QFocusEvent>
+#include <QToolTip>
+#include <QValidator>
+
+#include <algorithm>
+
+namespace {
+
+constexpr Grammes maximum{UniteGramme::maximum};
+
+// Keys that cannot become a weight have no effect.
+class DesGrammes : public QValidator
+{
+public:
+    using QValidator::QValidator;
+
+    State validate(QString &saisie, int &) const override
+    {
+        return std::holds_alternative<Saisie::Refus>(Saisie::poids(saisie)) ? Invalid : Acceptable;
+    }
+};
+
+} // namespace
+
+ChampGrammes::ChampGrammes(QWidget *parent) : QLineEdit(parent)
+{
+    setValidator(new DesGrammes(this));
+    setAlignment(Qt::AlignRight);
+    ajusterLaLargeur();
+    connect(this, &QLineEdit::textEdited, this, [this] {
+        QToolTip::hideText();
+        emit saisi(poids());
+    });
+    connect(this, &QLineEdit::inputRejected, this, [this] {
+        QToolTip::showText(mapToGlobal(QPoint(0, height())),
+                           tr("Un nombre entier de grammes, de 0 à %1.").arg(Saisie::ecrit(maximum)), this);
+    });
+}
+
+std::optional<Grammes> ChampGrammes::poids() const
+{
+    return std::get<std::optional<Grammes>>(Saisie::poids(text()));
+}
+
+void ChampGrammes::montrer(const std::optional<Grammes> &poids)
+{
+    montre_ = poids;
+    // An emptied field means 0 to some: it stays empty under the typist's hands.
+    const bool enCours = hasFocus() && poids.value_or(Grammes{0}) == this->poids().value_or(Grammes{0});
+    if (!enCours)
+        setText(Saisie::ecrit(poids));
+}
+
+// At least 70 px, and always wide enough for the largest weight: a cut one would be misread.
+void ChampGrammes::changeEvent(QEvent *evenement)
+{
+    QLineEdit::changeEvent(evenement);
+    if (evenement->type() == QEvent::FontChange)
+        ajusterLaLargeur();
+}
+
+void ChampGrammes::ajusterLaLargeur()
+{
+    setFixedWidth(std::max(70, fontMetrics().horizontalAdvance(Saisie::ecrit(maximum)) + 24));
+}
+
+void ChampGrammes::focusOutEvent(QFocusEvent *evenement)
+{
+    QLineEdit::focusOutEvent(evenement);
+    if (!LigneDeTexte::reviendra(*evenement))
+        setText(Saisie::ecrit(montre_));
+}
