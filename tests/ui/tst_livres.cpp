@@ -30,6 +30,7 @@ private slots:
     void echecDit_data();
     void echecDit();
     void laSaisieNEstPasPerdue();
+    void lEchecResteDit();
     void fermerSansPerdre();
     void ordreDuClavier();
     void boutonsPaypal();
@@ -74,6 +75,7 @@ struct Cas : BancEcran
 
 const QString prix = QStringLiteral("Prix, en euros");
 const QString poids = QStringLiteral("Poids, en grammes");
+const QString nonEnregistree = QStringLiteral("Modification non enregistrée : ");
 
 } // namespace
 
@@ -181,7 +183,7 @@ void TestLivres::echecDit()
         const DisquePlein plein;
         QVERIFY(geste(cas));
     }
-    const QString echec = cas.texte(QStringLiteral("Modification non enregistrée : "));
+    const QString echec = cas.texte(nonEnregistree);
     QVERIFY2(echec.contains(QStringLiteral("livres-modifies.json")), qPrintable(echec));
     QStringList apres = etat();
     QCOMPARE(apres.removeIf([](const QString &texte) { return texte.startsWith(QStringLiteral("Modification")); }), 1);
@@ -189,7 +191,7 @@ void TestLivres::echecDit()
     QCOMPARE(cas.enregistre(0), fichier);
 
     QVERIFY(geste(cas));
-    QVERIFY(cas.texte(QStringLiteral("Modification non enregistrée : ")).isEmpty());
+    QVERIFY(cas.texte(nonEnregistree).isEmpty());
     QVERIFY(cas.enregistre(0) != fichier);
 }
 
@@ -214,6 +216,18 @@ void TestLivres::laSaisieNEstPasPerdue()
     }
 }
 
+// The click that leaves the field also shows another book.
+void TestLivres::lEchecResteDit()
+{
+    const Cas cas;
+    cas.champ(prix)->setFocus();
+    QVERIFY(Ecran::taper(cas.fenetre(), prix, QStringLiteral("16")));
+    const DisquePlein plein;
+    QTest::mouseClick(cas.liste()->viewport(), Qt::LeftButton, {},
+                      cas.liste()->visualRect(cas.liste()->model()->index(1, 0)).center());
+    QVERIFY(!cas.texte(nonEnregistree).isEmpty());
+}
+
 // A window that could not save what was typed stays open to say so; closing again leaves it.
 void TestLivres::fermerSansPerdre()
 {
@@ -222,7 +236,7 @@ void TestLivres::fermerSansPerdre()
     QVERIFY(Ecran::taper(cas.fenetre(), prix, QStringLiteral("16")));
     const DisquePlein plein;
     QVERIFY(!cas.fenetre()->close());
-    QVERIFY(!cas.texte(QStringLiteral("Modification non enregistrée : ")).isEmpty());
+    QVERIFY(!cas.texte(nonEnregistree).isEmpty());
     QVERIFY(cas.fenetre()->close());
 }
 

@@ -207,3 +207,9 @@ void FicheLivre::montrer(const Livre &livre, const QList<PrixBouton> &boutons, c
     tableau_->montrer(TextesBoutons::lignes(boutons, livre, tarifs));
     toutReporter_->setVisible(enAttente > 0);
 }
+
+void FicheLivre::conclure()
+{
+    prix_->conclure();
+    poids_->conclure();
+}

@@ -23,6 +23,8 @@ public:
 
     // `suivant` tells whether another book has prices to report.
     void montrer(const Livre &livre, const QList<PrixBouton> &boutons, const TarifsColissimo &tarifs, bool suivant);
+    // Takes what is still being typed.
+    void conclure();
 
 signals:
     // The book as it should become, and what that does: "prix de « Le Phare de sel »".

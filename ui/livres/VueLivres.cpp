@@ -152,8 +152,6 @@ void VueLivres::actualiser()
     volet_->setTarifs(tarifs);
     enTete_->setSousTitre(TextesBoutons::bilan(catalogue_.livres().size(), volet_->aReporter()));
     const Livre *choisi = volet_->choisi();
-    if (choisi && std::exchange(montre_, choisi->id) != choisi->id)
-        echec_->montrer({}); // it was about another book
     place_->setCurrentIndex(choisi ? 0 : 1);
     if (choisi)
         fiche_->montrer(*choisi, catalogue_.boutons(*choisi, tarifs), tarifs, volet_->aUnSuivant());
@@ -175,8 +173,7 @@ void VueLivres::direLesGestes()
 bool VueLivres::conclure()
 {
     echec_->montrer({});
-    if (QWidget *champ = focusWidget(); champ && isAncestorOf(champ))
-        champ->clearFocus();
+    fiche_->conclure();
     return echec_->isHidden();
 }
 

@@ -51,7 +51,6 @@ private:
     FicheLivre *fiche_;
     Alerte *echec_;
     QStackedWidget *place_ = nullptr;
-    qint64 montre_ = 0; // id of the book shown
     QToolButton *annuler_;
     QToolButton *retablir_;
 };
