@@ -1,12 +1,15 @@
 #include "ui/InstanceUnique.h"
 
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QLocalSocket>
 #include <QStandardPaths>
+#include <QThread>
 
 namespace {
 
 constexpr int attente = 2000; // ms
+constexpr int entreDeuxAppels = 30;
 
 QString dansLeDossierDeSession(const QString &nom)
 {
@@ -40,13 +43,21 @@ bool InstanceUnique::prendreLaPlace()
     }
     QLocalServer::removeServer(adresse_); // left by a program that was killed
     serveur_.setSocketOptions(QLocalServer::UserAccessOption);
-    serveur_.listen(adresse_);
+    if (!serveur_.listen(adresse_))
+        qWarning("Un second Quillet ne pourra pas appeler celui-ci : %s", qPrintable(serveur_.errorString()));
     return true;
 }
 
 bool InstanceUnique::appelerLaPremiere() const
 {
-    QLocalSocket prise;
-    prise.connectToServer(adresse_);
-    return prise.waitForConnected(attente);
+    // It may have taken the lock and not listen yet.
+    QDeadlineTimer patience(attente);
+    do {
+        QLocalSocket prise;
+        prise.connectToServer(adresse_);
+        if (prise.waitForConnected(attente))
+            return true;
+        QThread::msleep(entreDeuxAppels);
+    } while (!patience.hasExpired());
+    return false;
 }
