@@ -1,6 +1,5 @@
 #include "ui/reponse/ApercuMessage.h"
 
-#include "documents/ReponseType.h"
 #include "ui/Theme.h"
 #include "ui/commun/Dessin.h"
 
@@ -21,6 +20,13 @@ ApercuMessage::ApercuMessage(QWidget *parent) : QTextEdit(parent)
 
 void ApercuMessage::montrer(const ReponseType &reponse, const QString &adresse)
 {
+    reponse_.emplace(reponse);
+    adresse_ = adresse;
+    ecrire();
+}
+
+void ApercuMessage::ecrire()
+{
     const int defilement = verticalScrollBar()->value();
     clear();
     QTextCursor plume(document());
@@ -36,17 +42,25 @@ void ApercuMessage::montrer(const ReponseType &reponse, const QString &adresse)
     gras.setFont(Theme::enGras(font()));
     QTextCharFormat discret = simple;
     discret.setForeground(Theme::secondaire(palette()));
-    ligne(reponse.sujet(), gras, 8);
-    if (!adresse.isEmpty()) {
+    ligne(reponse_->sujet(), gras, 8);
+    if (!adresse_.isEmpty()) {
         plume.insertBlock();
-        ligne(tr("À : %1").arg(adresse), discret, 8);
+        ligne(tr("À : %1").arg(adresse_), discret, 8);
     }
-    const QString total = reponse.ligneTotal();
-    for (const QString &texte : reponse.corps().split(u'\n')) {
+    const QString total = reponse_->ligneTotal();
+    for (const QString &texte : reponse_->corps().split(u'\n')) {
         plume.insertBlock();
         ligne(texte, texte == total ? gras : simple);
     }
     verticalScrollBar()->setValue(defilement);
+}
+
+// The colours of the palette are written in the text.
+void ApercuMessage::changeEvent(QEvent *evenement)
+{
+    QTextEdit::changeEvent(evenement);
+    if (evenement->type() == QEvent::PaletteChange && reponse_)
+        ecrire();
 }
 
 // The card holds the scroll bar too.

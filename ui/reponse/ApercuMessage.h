@@ -1,8 +1,10 @@
 #pragma once
 
+#include "documents/ReponseType.h"
+
 #include <QTextEdit>
 
-struct ReponseType;
+#include <optional>
 
 // The message as the buyer will read it: to be read, selected and copied, not edited.
 class ApercuMessage : public QTextEdit
@@ -16,4 +18,11 @@ public:
 
 protected:
     bool event(QEvent *evenement) override;
+    void changeEvent(QEvent *evenement) override;
+
+private:
+    void ecrire();
+
+    std::optional<ReponseType> reponse_;
+    QString adresse_;
 };
