@@ -121,13 +121,15 @@ void SelecteurQuantite::changeEvent(QEvent *evenement)
 
 void SelecteurQuantite::paintEvent(QPaintEvent *)
 {
-    const double plein = std::clamp(plein_->valeur(), 0.0, 1.0);
-    if (plein <= 0)
-        return;
     QPainter peintre(this);
     peintre.setRenderHint(QPainter::Antialiasing);
     const QRectF capsule = QRectF(rect()).adjusted(2, 0, -2, -2);
     const double rayon = capsule.height() / 2;
+    if (Dessin::focusVisible(this))
+        Dessin::anneauDeFocus(peintre, capsule.adjusted(3, 3, -3, -3), rayon - 3, Theme::accentTexte(palette()));
+    const double plein = std::clamp(plein_->valeur(), 0.0, 1.0);
+    if (plein <= 0)
+        return;
     peintre.setOpacity(plein);
     Dessin::ombreDouce(peintre, capsule);
     peintre.setBrush(Theme::accent(palette()));
