@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/Aujourdhui.h"
+
 #include <QDialog>
 
 // A sheet over the window: a bar with its choices and the button that closes it (also Escape), its page below.
@@ -9,10 +11,16 @@ class Feuille : public QDialog
 
 public:
     Feuille(const QString &titre, QWidget *parent);
+    // A sheet that shows what depends on the day is brought up to date when it is seen again on another.
+    Feuille(const QString &titre, Aujourdhui aujourdhui, QWidget *parent);
     // Shows it over its window until it is closed, which ends its life.
     void ouvrir();
 
 protected:
+    virtual void actualiser() {}
+    // Brings the sheet up to date if another day has come.
+    void suivreLeJour();
+    [[nodiscard]] QDate aujourdhui() const { return aujourdhui_(); }
     // `choix` stands at the left of the bar.
     void meubler(QWidget *choix, QWidget *page);
     // The given size, or what the screen leaves.
@@ -20,4 +28,9 @@ protected:
     // A hairline between two parts of the sheet.
     static QWidget *filet(Qt::Orientation sens);
     void keyPressEvent(QKeyEvent *evenement) override;
+    bool event(QEvent *evenement) override;
+
+private:
+    Aujourdhui aujourdhui_;
+    QDate jour_;
 };

@@ -117,7 +117,9 @@ void FicheFacture::montrer(const Calcul &calcul)
         return;
     }
     vendeur_ = *calcul.vendeurs().begin();
-    if (!numero_->isModified() && numero_->text().isEmpty())
+    const bool aJour =
+        NumerotationFactures::rapport(numero_->text(), aujourdhui_()) == NumerotationFactures::Rapport::dansLaSerie;
+    if (!numero_->isModified() && !aJour)
         proposer();
     facture_ = Facture::de(calcul, reglages_, {}, aujourdhui_(), {});
     completer();
@@ -173,15 +175,16 @@ void FicheFacture::enregistrer()
 
 bool FicheFacture::emettre(const QString &issue, const std::function<bool(const Facture &)> &sortir)
 {
+    emit emission();
     if (!facture_)
         return false;
     issue_->montrer({});
-    facture_->date = aujourdhui_();
+    const Facture facture = *facture_; // whatever changes while a dialog is open
     try {
-        if (!sortir(*facture_))
+        if (!sortir(facture))
             return false;
-        retenir(facture_->numero);
-        issue_->montrer(issue.arg(facture_->numero));
+        retenir(facture.numero);
+        issue_->montrer(issue.arg(facture.numero));
         return true;
     } catch (const Echec &echec) {
         prevenir(echec.texte());

@@ -26,6 +26,10 @@ public:
     FicheFacture(const Reglages &reglages, Preferences preferences, Aujourdhui aujourdhui, QWidget *parent = nullptr);
     void montrer(const Calcul &calcul);
 
+signals:
+    // The invoice is about to leave: time to bring it up to the day.
+    void emission();
+
 private:
     QWidget *formulaire();
     QWidget *sorties();

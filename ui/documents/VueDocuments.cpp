@@ -16,12 +16,11 @@ constexpr QSize tailleDesDocuments(760, 720);
 
 VueDocuments::VueDocuments(const Catalogue &catalogue, const Commande &commande, const Preferences &preferences,
                            Aujourdhui aujourdhui, OngletDocuments onglet, QWidget *parent)
-    : Feuille(tr("Documents d’envoi"), parent),
+    : Feuille(tr("Documents d’envoi"), aujourdhui, parent),
       catalogue_(catalogue),
       commande_(commande),
-      aujourdhui_(std::move(aujourdhui)),
       douane_(new FicheDouane(catalogue.reglages())),
-      facture_(new FicheFacture(catalogue.reglages(), preferences, aujourdhui_))
+      facture_(new FicheFacture(catalogue.reglages(), preferences, std::move(aujourdhui)))
 {
     auto *onglets = new ChoixSegmente({tr("Déclaration en douane"), tr("Facture")}, {.police = font()});
     auto *pages = new QStackedWidget;
@@ -34,6 +33,7 @@ VueDocuments::VueDocuments(const Catalogue &catalogue, const Commande &commande,
 
     connect(&commande_, &Commande::change, this, &VueDocuments::actualiser);
     connect(&catalogue_, &Catalogue::change, this, &VueDocuments::actualiser);
+    connect(facture_, &FicheFacture::emission, this, &VueDocuments::suivreLeJour);
     actualiser();
     pages->currentWidget()->setFocus();
     prendreLaTaille(tailleDesDocuments);
@@ -41,7 +41,7 @@ VueDocuments::VueDocuments(const Catalogue &catalogue, const Commande &commande,
 
 void VueDocuments::actualiser()
 {
-    const Calcul calcul(catalogue_, commande_, aujourdhui_());
+    const Calcul calcul(catalogue_, commande_, aujourdhui());
     douane_->montrer(calcul);
     facture_->montrer(calcul);
 }

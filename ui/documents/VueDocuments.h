@@ -1,7 +1,6 @@
 #pragma once
 
 #include "model/Preferences.h"
-#include "ui/Aujourdhui.h"
 #include "ui/commun/Feuille.h"
 #include "ui/documents/OngletDocuments.h"
 
@@ -19,12 +18,12 @@ public:
     VueDocuments(const Catalogue &catalogue, const Commande &commande, const Preferences &preferences,
                  Aujourdhui aujourdhui, OngletDocuments onglet, QWidget *parent = nullptr);
 
-private:
-    void actualiser();
+protected:
+    void actualiser() final;
 
+private:
     const Catalogue &catalogue_;
     const Commande &commande_;
-    Aujourdhui aujourdhui_;
     FicheDouane *douane_;
     FicheFacture *facture_;
 };

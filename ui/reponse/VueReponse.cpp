@@ -13,7 +13,6 @@
 #include "ui/reponse/Mail.h"
 #include "ui/reponse/TextesReponse.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -45,10 +44,9 @@ QLineEdit *champ(const QString &nom, const QString &exemple)
 } // namespace
 
 VueReponse::VueReponse(const Catalogue &catalogue, Commande &commande, Aujourdhui aujourdhui, QWidget *parent)
-    : Feuille(tr("Réponse à l’acheteur"), parent),
+    : Feuille(tr("Réponse à l’acheteur"), std::move(aujourdhui), parent),
       catalogue_(catalogue),
       commande_(commande),
-      aujourdhui_(std::move(aujourdhui)),
       langue_(new ChoixLangue),
       lien_(champ(tr("Lien de paiement"), QStringLiteral("https://www.paypal.com/ncp/payment/…"))),
       adresse_(champ(tr("E-mail de l’acheteur"), QStringLiteral("prenom.nom@exemple.fr"))),
@@ -122,7 +120,7 @@ QWidget *VueReponse::message()
 
 std::optional<ReponseType> VueReponse::reponse() const
 {
-    const Calcul calcul(catalogue_, commande_, aujourdhui_());
+    const Calcul calcul(catalogue_, commande_, aujourdhui());
     return ReponseType::de(calcul, catalogue_.reglages(), commande_, lien_->text());
 }
 
@@ -161,13 +159,5 @@ void VueReponse::ouvrirDansMail()
         Mail::ecrire(adresse_->text(), message->sujet(), message->corps(), message->ligneTotal());
     } catch (const Echec &echec) {
         QMessageBox::warning(this, windowTitle(), echec.texte());
-    }
-}
-
-void VueReponse::changeEvent(QEvent *evenement)
-{
-    Feuille::changeEvent(evenement);
-    if (evenement->type() == QEvent::PaletteChange) {
-        actualiser(); // the preview's colours are written in its text
     }
 }

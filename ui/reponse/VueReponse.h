@@ -1,6 +1,5 @@
 #pragma once
 
-#include "ui/Aujourdhui.h"
 #include "ui/commun/Feuille.h"
 
 #include <optional>
@@ -24,21 +23,19 @@ public:
     VueReponse(const Catalogue &catalogue, Commande &commande, Aujourdhui aujourdhui, QWidget *parent = nullptr);
 
 protected:
-    void changeEvent(QEvent *evenement) override;
+    void actualiser() final;
 
 private:
     enum class Page { reponse, impossible };
 
     QWidget *saisie();
     QWidget *message();
-    void actualiser();
     void passerA(Page page);
     void ouvrirDansMail();
     [[nodiscard]] std::optional<ReponseType> reponse() const;
 
     const Catalogue &catalogue_;
     Commande &commande_;
-    Aujourdhui aujourdhui_;
     ChoixLangue *langue_;
     QLineEdit *lien_;
     QLineEdit *adresse_;
