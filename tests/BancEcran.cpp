@@ -16,7 +16,7 @@ void BancEcran::demarrer(const Preferences &preferences)
     app.reset();
     donnees.deposer();
     app = std::make_unique<QuilletApp>(
-        donnees.ressources(), donnees.stockage(), preferences, [] { return jourDuBanc; }, pages, misesAJour);
+        donnees.ressources(), donnees.stockage(), preferences, [this] { return jour; }, pages, misesAJour);
     app->fenetre().show();
     if (!QTest::qWaitForWindowActive(&app->fenetre()))
         qFatal("La fenêtre ne s’ouvre pas");
@@ -34,4 +34,15 @@ QDialog *BancEcran::ouvrir(const QString &bouton) const
     if (!feuille || !QTest::qWaitForWindowActive(feuille))
         qFatal("Aucune feuille après : %s", qPrintable(bouton));
     return feuille;
+}
+
+void BancEcran::revenirA(QWidget *fenetre)
+{
+    QWidget ailleurs;
+    for (QWidget *devant : {&ailleurs, fenetre}) {
+        devant->show();
+        devant->activateWindow();
+        if (!QTest::qWaitForWindowActive(devant))
+            qFatal("Une fenêtre ne vient pas devant");
+    }
 }

@@ -13,6 +13,7 @@ struct BancEcran
     Banc donnees;
     PagesSurveillees pages = horsReseau();
     SourceMisesAJour misesAJour;
+    QDate jour = jourDuBanc; // the program's, at any time
     std::unique_ptr<QuilletApp> app;
 
     // Starts the program, again if need be, on `donnees` as they are now.
@@ -22,4 +23,6 @@ struct BancEcran
     void commander(const QString &destination) const;
     // The sheet behind a button of the window.
     [[nodiscard]] QDialog *ouvrir(const QString &bouton) const;
+    // Looks at another window and comes back.
+    static void revenirA(QWidget *fenetre);
 };

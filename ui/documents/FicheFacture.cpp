@@ -131,6 +131,7 @@ void FicheFacture::proposer()
         numero_->setText(NumerotationFactures{preferences_}.prochain(vendeur_, aujourdhui_()));
         sansProposition_.clear();
     } catch (const ErreurStockage &erreur) {
+        numero_->clear();
         sansProposition_ = tr("Le dernier numéro n’a pas pu être lu.\n%1").arg(erreur.texte());
     }
 }
