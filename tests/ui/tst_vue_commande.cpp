@@ -4,6 +4,7 @@
 #include "visite/Ecran.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
@@ -33,6 +34,7 @@ private slots:
     void documentsEtReponse();
     void laMoletteNeChangeRien();
     void auClavier();
+    void parUnLecteurDEcran();
     void sansRubriqueLaCommande();
 
 private:
@@ -291,6 +293,29 @@ void TestVueCommande::auClavier()
         precedent = rang;
     }
     QVERIFY(!atteints.contains(QStringLiteral("Livre 4")));
+}
+
+// What a screen reader does without a click or a key counts as much.
+void TestVueCommande::parUnLecteurDEcran()
+{
+    cliquer(QStringLiteral("Livre 1"));
+    auto *envoi = controle<QComboBox>(QStringLiteral("Envoi vers"));
+    envoi->showPopup();
+    const QModelIndex suisse = envoi->model()->index(envoi->findText(QStringLiteral("Suisse")), 0);
+    envoi->view()->selectionModel()->select(suisse, QItemSelectionModel::ClearAndSelect);
+    QTRY_COMPARE(banc_->app->commande().codeDestination(), QStringLiteral("suisse"));
+
+    controle<QLineEdit>(colisPese)->setText(QStringLiteral("501"));
+    QCOMPARE(banc_->app->commande().poidsPese(), Grammes{501});
+    controle<QLineEdit>(colisPese)->setText(QStringLiteral("abc"));
+    QCOMPARE(banc_->app->commande().poidsPese(), Grammes{501});
+    controle<QLineEdit>(QStringLiteral("Pays de livraison"))->setText(QStringLiteral("Switzerland"));
+    QCOMPARE(banc_->app->commande().paysLivraison(), QStringLiteral("Switzerland"));
+
+    auto *francais = controle<QAbstractButton>(QStringLiteral("Français"));
+    QVERIFY(!(francais->focusPolicy() & Qt::TabFocus)); // Tab leads to the language shown
+    francais->toggle();
+    QVERIFY(banc_->app->commande().langue() == Langue::francais && (francais->focusPolicy() & Qt::TabFocus));
 }
 
 void TestVueCommande::sansRubriqueLaCommande()

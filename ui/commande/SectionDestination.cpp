@@ -28,7 +28,7 @@ SectionDestination::SectionDestination(const QList<Destination> &destinations, C
     groupe()->ajouter(rangeeDeclaration_);
 
     connect(destination_, &Choix::choisi, &commande_, &Commande::setCodeDestination);
-    connect(horsUE_, &QAbstractButton::clicked, &commande_, &Commande::setHorsUE);
+    connect(horsUE_, &QAbstractButton::toggled, &commande_, &Commande::setHorsUE);
 }
 
 void SectionDestination::montrer(const Calcul &calcul)

@@ -35,7 +35,7 @@ SectionLien::SectionLien(const Reglages &reglages, Commande &commande, QWidget *
 
     connect(langue_, &ChoixLangue::choisie, &commande_, &Commande::setLangue);
     connect(creer, &QPushButton::clicked, this, [this] { Lien::ouvrir(ReponseType::creationDuLien(), this); });
-    connect(pays_, &QLineEdit::textEdited, &commande_, &Commande::setPaysLivraison);
+    connect(pays_, &QLineEdit::textChanged, &commande_, &Commande::setPaysLivraison);
 }
 
 void SectionLien::montrer(const Calcul &calcul)

@@ -8,6 +8,7 @@
 #include <QValidator>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -32,19 +33,39 @@ ChampGrammes::ChampGrammes(QWidget *parent) : QLineEdit(parent)
     setValidator(new DesGrammes(this));
     setAlignment(Qt::AlignRight);
     ajusterLaLargeur();
-    connect(this, &QLineEdit::textEdited, this, [this] {
-        QToolTip::hideText();
-        emit saisi(poids());
+    // Not textEdited: dictation writes without typing.
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        accepter();
+        if (poids() != montre_)
+            emit saisi(poids());
     });
-    connect(this, &QLineEdit::inputRejected, this, [this] {
-        QToolTip::showText(mapToGlobal(QPoint(0, height())),
-                           tr("Un nombre entier de grammes, de 0 à %1.").arg(Saisie::ecrit(maximum)), this);
-    });
+    connect(this, &QLineEdit::inputRejected, this, &ChampGrammes::refuser);
 }
 
+// Dictation writes past the validator, too: what is no weight changes nothing.
 std::optional<Grammes> ChampGrammes::poids() const
 {
-    return std::get<std::optional<Grammes>>(Saisie::poids(text()));
+    const auto lu = Saisie::poids(text());
+    const auto *poids = std::get_if<std::optional<Grammes>>(&lu);
+    return poids ? *poids : montre_;
+}
+
+// A tooltip is not spoken; what describes the field that has the focus is.
+void ChampGrammes::refuser()
+{
+    const QString raison = tr("Un nombre entier de grammes, de 0 à %1.").arg(Saisie::ecrit(maximum));
+    QToolTip::showText(mapToGlobal(QPoint(0, height())), raison, this);
+    if (!description_)
+        description_ = accessibleDescription();
+    setAccessibleDescription(raison);
+}
+
+void ChampGrammes::accepter()
+{
+    if (!description_)
+        return;
+    QToolTip::hideText();
+    setAccessibleDescription(*std::exchange(description_, std::nullopt));
 }
 
 void ChampGrammes::montrer(const std::optional<Grammes> &poids)
@@ -72,6 +93,8 @@ void ChampGrammes::ajusterLaLargeur()
 void ChampGrammes::focusOutEvent(QFocusEvent *evenement)
 {
     QLineEdit::focusOutEvent(evenement);
-    if (!LigneDeTexte::reviendra(*evenement))
-        setText(Saisie::ecrit(montre_));
+    if (LigneDeTexte::reviendra(*evenement))
+        return;
+    accepter();
+    setText(Saisie::ecrit(montre_));
 }

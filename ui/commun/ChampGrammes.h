@@ -27,6 +27,9 @@ protected:
 private:
     [[nodiscard]] std::optional<Grammes> poids() const;
     void ajusterLaLargeur();
+    void refuser();
+    void accepter();
 
     std::optional<Grammes> montre_;
+    std::optional<QString> description_; // while a refusal stands in its place
 };

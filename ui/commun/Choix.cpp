@@ -1,5 +1,8 @@
 #include "ui/commun/Choix.h"
 
+#include "ui/commun/SelectionDuLecteur.h"
+
+#include <QAbstractItemView>
 #include <QWheelEvent>
 
 Choix::Choix(QWidget *parent) : QComboBox(parent)
@@ -14,4 +17,21 @@ Choix::Choix(QWidget *parent) : QComboBox(parent)
 void Choix::wheelEvent(QWheelEvent *evenement)
 {
     evenement->ignore();
+}
+
+void Choix::showPopup()
+{
+    QComboBox::showPopup();
+    if (lecteur_)
+        return;
+    lecteur_ = new SelectionDuLecteur(view()->selectionModel(), this);
+    connect(lecteur_, &SelectionDuLecteur::prise, this, &Choix::prendre);
+}
+
+void Choix::prendre(const QModelIndex &ligne)
+{
+    view()->setCurrentIndex(ligne);
+    setCurrentIndex(ligne.row());
+    hidePopup();
+    emit activated(ligne.row());
 }

@@ -2,6 +2,8 @@
 
 #include <QComboBox>
 
+class SelectionDuLecteur;
+
 // A pop-up choice keyed by texts. The wheel scrolls the page, it never changes the choice by accident.
 class Choix : public QComboBox
 {
@@ -13,10 +15,16 @@ public:
     void ajouter(const QString &texte, const QString &cle) { addItem(texte, cle); }
     // Shows nothing when no entry has the key.
     void montrer(const QString &cle) { setCurrentIndex(findData(cle)); }
+    void showPopup() override;
 
 signals:
     void choisi(const QString &cle);
 
 protected:
     void wheelEvent(QWheelEvent *evenement) override;
+
+private:
+    void prendre(const QModelIndex &ligne);
+
+    SelectionDuLecteur *lecteur_ = nullptr; // from the first opening on
 };

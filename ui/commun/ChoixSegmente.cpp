@@ -87,19 +87,31 @@ ChoixSegmente::ChoixSegmente(const QStringList &options, const Apparence &appare
         auto *bouton = new Segment(options[i], apparence);
         boutons_.append(bouton);
         rangee->addWidget(bouton);
-        connect(bouton, &QRadioButton::clicked, this, [this, i] { emit choisi(i); });
+        connect(bouton, &QRadioButton::clicked, this, [this, i] { emit choisi(i); }); // even of what is shown already
         connect(bouton, &QRadioButton::toggled, this, [this, i](bool choisie) {
             if (choisie)
-                position_->vers(i);
+                prendre(i);
         });
     }
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     eclairer(0);
 }
 
+void ChoixSegmente::prendre(int indice)
+{
+    // Tab leads to the choice made; Qt sees to it only once the focus has been here.
+    for (int i = 0; i < boutons_.size(); ++i)
+        boutons_[i]->setFocusPolicy(i == indice ? Qt::StrongFocus : Qt::ClickFocus);
+    position_->vers(indice);
+    if (!montre_)
+        emit choisi(indice); // by a screen reader, which does not click
+}
+
 void ChoixSegmente::montrer(int indice)
 {
+    montre_ = true;
     boutons_[indice]->setChecked(true);
+    montre_ = false;
 }
 
 void ChoixSegmente::eclairer(double position)

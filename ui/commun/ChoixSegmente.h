@@ -37,10 +37,12 @@ protected:
     void paintEvent(QPaintEvent *evenement) override;
 
 private:
+    void prendre(int indice);
     void eclairer(double position);
     [[nodiscard]] QRectF surbrillance() const;
 
     Apparence apparence_;
     QList<QRadioButton *> boutons_;
     Ressort *position_;
+    bool montre_ = false; // while `montrer` checks a button
 };

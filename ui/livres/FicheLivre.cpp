@@ -131,7 +131,10 @@ QWidget *FicheLivre::reglages()
         livre.poids = std::get<std::optional<Grammes>>(Saisie::poids(texte));
         emit modification(livre, TextesGestes::poids(livre));
     });
-    connect(disponible_, &QCheckBox::clicked, this, [this](bool disponible) {
+    // Not clicked: a screen reader toggles without it.
+    connect(disponible_, &QCheckBox::toggled, this, [this](bool disponible) {
+        if (disponible == livre_.disponible)
+            return;
         Livre livre = livre_;
         livre.disponible = disponible;
         emit modification(livre, TextesGestes::disponibilite(livre));

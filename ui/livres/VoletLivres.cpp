@@ -9,10 +9,12 @@
 #include "ui/commun/Icone.h"
 #include "ui/commun/LigneDeTexte.h"
 #include "ui/commun/NomsVendeurs.h"
+#include "ui/commun/SelectionDuLecteur.h"
 #include "ui/livres/DelegueLivres.h"
 #include "ui/livres/ModeleLivres.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QListView>
 #include <QScrollBar>
 #include <QStackedWidget>
@@ -64,6 +66,8 @@ VoletLivres::VoletLivres(const Catalogue &catalogue, ImagesCouvertures &images, 
         choisi_ = modele_->livre(indice.row()).id;
         emit choixChange();
     });
+    connect(new SelectionDuLecteur(liste_->selectionModel(), this), &SelectionDuLecteur::prise, liste_,
+            &QAbstractItemView::setCurrentIndex);
     connect(modele_, &QAbstractItemModel::modelReset, this, &VoletLivres::seReplacer);
 
     place_->addWidget(liste_);
@@ -81,7 +85,12 @@ QWidget *VoletLivres::filtres()
     recherche_->setPlaceholderText(tr("Titre, auteur, ISBN"));
     recherche_->setAccessibleName(tr("Chercher un livre"));
     recherche_->setClearButtonEnabled(true);
-    recherche_->addAction(Icone::icone(QStringLiteral("magnifyingglass")), QLineEdit::LeadingPosition);
+    auto *loupe = recherche_->addAction(Icone::icone(QStringLiteral("magnifyingglass")), QLineEdit::LeadingPosition);
+    loupe->setText(tr("Aller à la recherche"));
+    connect(loupe, &QAction::triggered, this, &VoletLivres::chercher);
+    // Qt draws the cross that empties the field, and gives it no name.
+    if (auto *croix = recherche_->findChild<QAction *>(QStringLiteral("_q_qlineeditclearaction")))
+        croix->setText(tr("Effacer la recherche"));
     QStringList vendeurs{tr("Tous")};
     for (const auto &[vendeur, brut] : Json::valeursBrutes<Vendeur>)
         vendeurs.append(NomsVendeurs::court(vendeur));
@@ -115,6 +124,10 @@ QWidget *VoletLivres::filtres()
     colonne->addWidget(recherche_);
     colonne->addWidget(vendeur);
     colonne->addWidget(etat);
+    // On X11 a list to choose from is called by its label only.
+    auto *etiquette = new QLabel(etat->accessibleName(), filtres);
+    etiquette->setBuddy(etat);
+    etiquette->hide();
     return filtres;
 }
 
