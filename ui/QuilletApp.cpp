@@ -2,6 +2,7 @@
 
 #include "ui/ComplementFrancais.h"
 #include "ui/Fenetre.h"
+#include "ui/commun/LecteurDEcran.h"
 #include "ui/commun/Style.h"
 
 #include <QApplication>
@@ -24,6 +25,7 @@ void QuilletApp::preparer(std::optional<Theme::Mode> mode)
         QApplication::installTranslator(francais);
     QApplication::installTranslator(new ComplementFrancais(qApp));
     QApplication::setStyle(new Style(mode));
+    LecteurDEcran::preparer();
     QApplication::setFont(Theme::policeDeDepart());
 }
 

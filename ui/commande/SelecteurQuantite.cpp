@@ -81,6 +81,8 @@ SelecteurQuantite::SelecteurQuantite(const Livre &livre, Commande &commande, QWi
     connect(plus_, &QAbstractButton::clicked, this, [livre, &commande] { commande.ajuster(livre, 1); });
     moins_->setEnabled(false);
     setAccessibleName(tr("Nombre d’exemplaires"));
+    titre_ = livre.titre;
+    decrire();
     colorer();
 }
 
@@ -90,10 +92,19 @@ void SelecteurQuantite::montrer(int quantite)
         return;
     nombre_->afficher(QString::number(quantite), quantite > quantite_ ? 1 : -1);
     quantite_ = quantite;
+    decrire();
     if (quantite == 0 && moins_->hasFocus())
         setFocus(); // else Qt hands the focus to plus, and one key too many adds the copy back
     moins_->setEnabled(quantite > 0);
     plein_->vers(quantite > 0 ? 1 : 0);
+}
+
+// All cards have the same buttons: a screen reader hears whose they are, and the number that they lead to.
+void SelecteurQuantite::decrire()
+{
+    const QString etat = tr("%1, %2 dans la commande").arg(titre_, QString::number(quantite_));
+    for (QWidget *partie : std::initializer_list<QWidget *>{this, moins_, plus_})
+        partie->setAccessibleDescription(etat);
 }
 
 void SelecteurQuantite::colorer()

@@ -24,8 +24,10 @@ protected:
     void paintEvent(QPaintEvent *evenement) override;
 
 private:
+    void decrire();
     void colorer();
 
+    QString titre_;
     int quantite_ = 0;
     QAbstractButton *moins_;
     QAbstractButton *plus_;

@@ -42,7 +42,9 @@ void Alerte::montrer(const QString &texte)
 void Alerte::dire(const QString &texte)
 {
     texte_->setText(texte);
-    texte_->setAccessibleName(ton_ == Ton::avertissement ? tr("Attention : %1").arg(texte) : texte);
+    const QString dit = ton_ == Ton::avertissement ? tr("Attention : %1").arg(texte) : texte;
+    setAccessibleName(dit); // spoken when the line appears
+    texte_->setAccessibleName(dit);
 }
 
 void Alerte::paintEvent(QPaintEvent *)

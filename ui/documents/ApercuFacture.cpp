@@ -1,8 +1,8 @@
 #include "ui/documents/ApercuFacture.h"
 
 #include "ui/Theme.h"
-#include "ui/commun/Defilement.h"
 #include "ui/commun/Dessin.h"
+#include "ui/commun/PageAuClavier.h"
 #include "ui/commun/Place.h"
 #include "ui/documents/PageFacture.h"
 
@@ -89,9 +89,9 @@ void ApercuFacture::agrandir()
     auto *page = new QWidget;
     auto *centre = new QVBoxLayout(page);
     centre->addWidget(new PageEntiere(facture_), 0, Qt::AlignCenter);
-    auto *defilement = new Defilement;
+    auto *defilement = new PageAuClavier;
+    defilement->setAccessibleName(vue->windowTitle());
     defilement->setWidget(page);
-    defilement->setFocusPolicy(Qt::StrongFocus); // the arrows scroll
     auto *colonne = new QVBoxLayout(vue);
     colonne->setContentsMargins(0, 0, 0, 0);
     colonne->addWidget(defilement);

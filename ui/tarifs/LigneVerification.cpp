@@ -68,6 +68,7 @@ void LigneVerification::montrer(const TextesVerifications::Ligne &ligne)
     titre_->setText(ligne.titre);
     detail_->setText(ligne.detail);
     etat_->setText(ligne.etat);
+    verifier_->setAccessibleDescription(ligne.etat); // heard by who has just pressed it
     // No symbol, no room for one.
     etat_->setContentsMargins(ligne.symboleEtat.isEmpty() ? 0 : coteEtat + 6, 0, 0, 0);
     // The button stays enabled while the check runs: it would lose the focus to a neighbour.
