@@ -130,6 +130,10 @@ void TestVueDocuments::numeroRetenuALEnregistrement()
     QDialog *feuille = banc_->ouvrir(facture);
     const auto propose = [&] { return qobject_cast<QLineEdit *>(Ecran::controle(feuille, numero))->text(); };
     QCOMPARE(propose(), QStringLiteral("2026-001"));
+    QCOMPARE(feuille->focusWidget()->accessibleName(), QStringLiteral("Acheteur"));
+    Ecran::controle(feuille, fermer)->setFocus();
+    QTest::keyClick(feuille->focusWidget(), Qt::Key_Tab);
+    QCOMPARE(feuille->focusWidget()->accessibleName(), numero);
     QVERIFY(Ecran::taper(feuille, QStringLiteral("Acheteur"), QStringLiteral("Ada Exemple\nExempleville")));
 
     QString nom;

@@ -43,8 +43,7 @@ FicheFacture::FicheFacture(const Reglages &reglages, Preferences preferences, Au
 {
     addWidget(formulaire());
     addWidget(impossible_);
-    setFocusProxy(acheteur_);
-    connect(numero_, &QLineEdit::textEdited, this, &FicheFacture::completer);
+    connect(numero_, &QLineEdit::textChanged, this, &FicheFacture::completer);
     connect(acheteur_, &ZoneDeTexte::textChanged, this, &FicheFacture::completer);
 }
 
@@ -134,6 +133,12 @@ void FicheFacture::proposer()
         numero_->clear();
         sansProposition_ = tr("Le dernier numéro n’a pas pu être lu.\n%1").arg(erreur.texte());
     }
+}
+
+// No focus proxy: Tab would go by it to the buyer, past the number.
+void FicheFacture::prendreLeFocus()
+{
+    acheteur_->setFocus();
 }
 
 // Brings the invoice shown up to what is typed.

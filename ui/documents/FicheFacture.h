@@ -25,6 +25,8 @@ public:
     // `reglages` is read each time the screen is brought up to date.
     FicheFacture(const Reglages &reglages, Preferences preferences, Aujourdhui aujourdhui, QWidget *parent = nullptr);
     void montrer(const Calcul &calcul);
+    // To where the buyer is typed.
+    void prendreLeFocus();
 
 signals:
     // The invoice is about to leave: time to bring it up to the day.

@@ -6,6 +6,7 @@
 #include "ui/documents/FicheDouane.h"
 #include "ui/documents/FicheFacture.h"
 
+#include <QRadioButton>
 #include <QStackedWidget>
 
 namespace {
@@ -35,7 +36,10 @@ VueDocuments::VueDocuments(const Catalogue &catalogue, const Commande &commande,
     connect(&catalogue_, &Catalogue::change, this, &VueDocuments::actualiser);
     connect(facture_, &FicheFacture::emission, this, &VueDocuments::suivreLeJour);
     actualiser();
-    pages->currentWidget()->setFocus();
+    if (onglet == OngletDocuments::facture)
+        facture_->prendreLeFocus();
+    else
+        onglets->bouton(static_cast<int>(onglet))->setFocus();
     prendreLaTaille(tailleDesDocuments);
 }
 
