@@ -20,11 +20,13 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
 namespace {
 
+constexpr QSize tailleMinimale(980, 640);
 constexpr int barreMinimum = 190;
 constexpr int barreIdeale = 210;
 constexpr int barreMaximum = 260;
@@ -52,7 +54,7 @@ ContenuPrincipal::ContenuPrincipal(Catalogue &catalogue, Commande &commande, Ver
     QWidget *barre = barreLaterale();
     auto *colonnes = new QHBoxLayout(this);
     colonnes->setContentsMargins(0, 0, 0, 0);
-    colonnes->addWidget(Partage::entre(barre, detail_, barre, barreIdeale));
+    colonnes->addWidget(Partage::entre(barre, detail_, barre, Theme::aLaTaille(barreIdeale)));
 
     connect(rubriques_, &QListWidget::itemSelectionChanged, this, [this] {
         detail_->setCurrentWidget(ecran(rubrique().value_or(Rubrique::commande)));
@@ -81,11 +83,16 @@ bool ContenuPrincipal::conclure()
     return !livres || livres->conclure();
 }
 
+QSize ContenuPrincipal::minimumSizeHint() const
+{
+    return QWidget::minimumSizeHint().expandedTo(tailleMinimale);
+}
+
 QWidget *ContenuPrincipal::barreLaterale()
 {
     auto *barre = new QWidget;
-    barre->setMinimumWidth(barreMinimum);
-    barre->setMaximumWidth(barreMaximum);
+    barre->setMinimumWidth(std::max(barreMinimum, rubriques_->minimumSizeHint().width()));
+    barre->setMaximumWidth(Theme::aLaTaille(barreMaximum));
     barre->setAutoFillBackground(true);
     barre->setBackgroundRole(QPalette::AlternateBase);
     auto *colonne = new QVBoxLayout(barre);

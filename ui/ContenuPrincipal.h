@@ -32,6 +32,8 @@ public:
     [[nodiscard]] std::optional<Rubrique> rubrique() const;
     // Ends the edit under way; false when it could not be saved, which its screen says.
     [[nodiscard]] bool conclure();
+    // What its screens need, and never less than what they are drawn for.
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
     bool event(QEvent *evenement) override;

@@ -17,7 +17,6 @@
 namespace {
 
 constexpr QSize contenuParDefaut(1320, 860);
-constexpr QSize tailleMinimale(980, 640);
 
 } // namespace
 
@@ -27,7 +26,6 @@ Fenetre::Fenetre(Catalogue &catalogue, Commande &commande, Verifications &verifi
 {
     setObjectName(QStringLiteral("quillet"));
     setWindowTitle(QStringLiteral("Quillet"));
-    contenu_->setMinimumSize(tailleMinimale);
     setCentralWidget(contenu_);
     creerMenu(misesAJour);
     creerRaccourcis();

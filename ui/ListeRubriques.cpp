@@ -8,6 +8,7 @@
 #include <QStyledItemDelegate>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -15,21 +16,29 @@ constexpr int roleSymbole = Qt::UserRole;
 constexpr int rolePastille = Qt::UserRole + 1;
 constexpr int hauteur = 38;
 constexpr int coteSymbole = 20;
+constexpr int marge = 10;  // around a row, around its symbol
+constexpr int aDroite = 8; // of a text
+constexpr int jeu = 2;     // a text may round a little wider than it measured
+
+QSizeF taillePastille(int nombre)
+{
+    const QFontMetrics mesures(Theme::enGras(Theme::legende()));
+    const double haut = mesures.height() + 4;
+    return {std::max(haut, mesures.horizontalAdvance(QString::number(nombre)) + 12.0), haut};
+}
 
 // Returns the width it takes at the right of the row.
 double peindrePastille(QPainter &peintre, const QStyleOptionViewItem &option, const QRectF &cadre, int nombre)
 {
     peintre.setFont(Theme::enGras(Theme::legende()));
-    const QString texte = QString::number(nombre);
-    const double haut = peintre.fontMetrics().height() + 4;
-    const double large = std::max(haut, peintre.fontMetrics().horizontalAdvance(texte) + 12.0);
-    const QRectF capsule(cadre.right() - 10 - large, cadre.center().y() - haut / 2, large, haut);
+    const auto [large, haut] = taillePastille(nombre);
+    const QRectF capsule(cadre.right() - marge - large, cadre.center().y() - haut / 2, large, haut);
     peintre.setPen(Qt::NoPen);
     peintre.setBrush(Theme::accent(option.palette));
     peintre.drawRoundedRect(capsule, haut / 2, haut / 2);
     peintre.setPen(option.palette.color(QPalette::HighlightedText));
-    peintre.drawText(capsule, Qt::AlignCenter, texte);
-    return large + 8;
+    peintre.drawText(capsule, Qt::AlignCenter, QString::number(nombre));
+    return large + aDroite;
 }
 
 class Delegue : public QStyledItemDelegate
@@ -49,7 +58,7 @@ public:
         const QPalette &palette = option.palette;
         const bool choisie = option.state.testFlag(QStyle::State_Selected);
         const bool survolee = option.state.testFlag(QStyle::State_MouseOver);
-        const QRectF cadre = QRectF(option.rect).adjusted(10, 1, -10, -1);
+        const QRectF cadre = QRectF(option.rect).adjusted(marge, 1, -marge, -1);
         if (choisie || survolee) {
             QColor fond = choisie ? Theme::accentTexte(palette) : palette.color(QPalette::WindowText);
             fond.setAlphaF(choisie ? 0.11F : 0.05F);
@@ -63,13 +72,13 @@ public:
 
         const QColor couleur = choisie ? Theme::accentTexte(palette) : palette.color(QPalette::WindowText);
         Icone::peindre(*peintre, indice.data(roleSymbole).toString(),
-                       QRectF(cadre.left() + 10, cadre.center().y() - coteSymbole / 2.0, coteSymbole, coteSymbole),
+                       QRectF(cadre.left() + marge, cadre.center().y() - coteSymbole / 2.0, coteSymbole, coteSymbole),
                        couleur);
         const int nombre = indice.data(rolePastille).toInt();
         const double reserve = nombre > 0 ? peindrePastille(*peintre, option, cadre, nombre) : 0;
         peintre->setFont(choisie ? Theme::enGras(option.font) : option.font);
         peintre->setPen(couleur);
-        const QRectF place = cadre.adjusted(10 + coteSymbole + 10, 0, -8 - reserve, 0);
+        const QRectF place = cadre.adjusted(2 * marge + coteSymbole, 0, -aDroite - reserve, 0);
         peintre->drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
                           peintre->fontMetrics().elidedText(indice.data().toString(), Qt::ElideRight,
                                                             static_cast<int>(place.width())));
@@ -100,4 +109,14 @@ void ListeRubriques::setPastille(int rang, int nombre)
     ligne->setData(rolePastille, nombre);
     ligne->setData(Qt::AccessibleTextRole,
                    nombre > 0 ? tr("%1, %2 à voir").arg(ligne->text(), QString::number(nombre)) : ligne->text());
+}
+
+QSize ListeRubriques::minimumSizeHint() const
+{
+    const QFontMetrics mesures(Theme::enGras(font())); // as the chosen one is written
+    int texte = 0;
+    for (int rang = 0; rang < count(); ++rang)
+        texte = std::max(texte, mesures.horizontalAdvance(item(rang)->text()));
+    const int pastille = static_cast<int>(std::ceil(taillePastille(1).width()));
+    return {4 * marge + coteSymbole + texte + 2 * aDroite + pastille + jeu, QListWidget::minimumSizeHint().height()};
 }

@@ -17,4 +17,6 @@ public:
     explicit ListeRubriques(const QList<Entree> &entrees, QWidget *parent = nullptr);
     // What waits in a section; 0 shows nothing.
     void setPastille(int rang, int nombre);
+    // As wide as the longest of its sections with a badge.
+    [[nodiscard]] QSize minimumSizeHint() const override;
 };

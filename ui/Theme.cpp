@@ -38,6 +38,8 @@ const Teintes &teintes(Theme::Mode mode)
     return mode == Theme::Mode::clair ? clair : sombre;
 }
 
+constexpr qreal tailleMinimale = 10; // pt
+
 QFont aLEchelle(qreal echelle)
 {
     QFont police = QApplication::font();
@@ -123,7 +125,7 @@ QFont Theme::policeDeDepart()
 {
     QFont police = QApplication::font();
     police.setFamilies({QStringLiteral("Inter"), police.family()});
-    police.setPointSizeF(std::max(police.pointSizeF(), 10.0));
+    police.setPointSizeF(std::max(police.pointSizeF(), tailleMinimale));
     return police;
 }
 
@@ -166,6 +168,16 @@ QFont Theme::titreSection()
 QFont Theme::titreCarte()
 {
     return serif(1.35, QFont::DemiBold);
+}
+
+int Theme::aLaTaille(int longueur)
+{
+    return qRound(longueur * std::max(QApplication::font().pointSizeF() / tailleMinimale, 1.0));
+}
+
+QSize Theme::aLaTaille(QSize taille)
+{
+    return {aLaTaille(taille.width()), aLaTaille(taille.height())};
 }
 
 QFont Theme::enGras(QFont police, QFont::Weight graisse)

@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QFont>
 #include <QPalette>
+#include <QSize>
 
 // Colours and type shared by every screen: a bookseller's desk, by day and by night.
 namespace Theme {
@@ -36,6 +37,10 @@ QFont titreSection();
 QFont titreCarte();
 
 QFont enGras(QFont police, QFont::Weight graisse = QFont::DemiBold);
+
+// A length drawn for text of 10 pt, in px, in proportion to the text that the user has chosen.
+int aLaTaille(int longueur);
+QSize aLaTaille(QSize taille);
 
 constexpr int margeDePage = 40;    // on either side of a screen
 constexpr int largeurDePage = 960; // what is read there needs no more

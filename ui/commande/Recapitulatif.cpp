@@ -10,6 +10,12 @@
 
 #include <QVBoxLayout>
 
+namespace {
+
+constexpr int largeurMinimale = 330;
+
+} // namespace
+
 Recapitulatif::Recapitulatif(const Catalogue &catalogue, Commande &commande, QWidget *parent)
     : Defilement(parent),
       livres_(new SectionLivres),
@@ -38,6 +44,11 @@ Recapitulatif::Recapitulatif(const Catalogue &catalogue, Commande &commande, QWi
 
     connect(documents_, &SectionDocuments::demandes, this, &Recapitulatif::documentsDemandes);
     connect(reponse_, &SectionReponse::demandee, this, &Recapitulatif::reponseDemandee);
+}
+
+QSize Recapitulatif::minimumSizeHint() const
+{
+    return Defilement::minimumSizeHint().expandedTo({largeurMinimale, 0});
 }
 
 void Recapitulatif::montrer(const Calcul &calcul)

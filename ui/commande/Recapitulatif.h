@@ -22,6 +22,7 @@ public:
     Recapitulatif(const Catalogue &catalogue, Commande &commande, QWidget *parent = nullptr);
 
     void montrer(const Calcul &calcul);
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 signals:
     void documentsDemandes(OngletDocuments onglet);

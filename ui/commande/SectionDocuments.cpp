@@ -17,6 +17,8 @@ SectionDocuments::SectionDocuments(QWidget *parent)
     rangee->setSpacing(12);
     rangee->addWidget(douane_, 1);
     rangee->addWidget(facture_, 1);
+    for (QPushButton *bouton : {douane_, facture_}) // less room around the texts where the panel is at its narrowest
+        bouton->setMinimumWidth(bouton->sizeHint().width() - 16);
     groupe()->ajouter(Formulaire::seul(boutons));
     connect(douane_, &QPushButton::clicked, this, [this] { emit demandes(OngletDocuments::douane); });
     connect(facture_, &QPushButton::clicked, this, [this] { emit demandes(OngletDocuments::facture); });

@@ -30,7 +30,6 @@ namespace {
 constexpr int margeVerticale = 28;
 constexpr int espace = 36; // between the seller picker and the grid
 
-constexpr int panneauMinimum = 330;
 constexpr int panneauIdeal = 370;
 constexpr int panneauMaximum = 460;
 
@@ -52,12 +51,11 @@ VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesC
     reinitialiser_->setToolTip(tr("Tout réinitialiser : quantités, colis pesé et pays de livraison ; l’emballage et la "
                                   "destination restent"));
     enTete_->ajouter(reinitialiser_);
-    recapitulatif_->setMinimumWidth(panneauMinimum);
-    recapitulatif_->setMaximumWidth(panneauMaximum);
+    recapitulatif_->setMaximumWidth(Theme::aLaTaille(panneauMaximum));
 
     auto *page = new QHBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);
-    page->addWidget(Partage::entre(colonneDesLivres(), recapitulatif_, recapitulatif_, panneauIdeal));
+    page->addWidget(Partage::entre(colonneDesLivres(), recapitulatif_, recapitulatif_, Theme::aLaTaille(panneauIdeal)));
 
     connect(reinitialiser_, &QPushButton::clicked, &commande_, &Commande::vider);
     connect(selecteur_, &SelecteurSite::choisi, &commande_, &Commande::setVendeur);

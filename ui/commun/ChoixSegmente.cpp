@@ -23,7 +23,8 @@ public:
         : QRadioButton(texte), apparence_(apparence)
     {
         setFont(apparence.police);
-        setFixedHeight(apparence.hauteur);
+        apparence_.hauteur = std::max(apparence.hauteur, fontMetrics().height() + 6);
+        setFixedHeight(apparence_.hauteur);
         setMaximumWidth(apparence.largeurMaximale);
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         setCursor(Qt::PointingHandCursor);
@@ -44,6 +45,12 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override { return {60, apparence_.hauteur}; }
 
 protected:
+    void resizeEvent(QResizeEvent *) override
+    {
+        const double place = (width() - margeTexte) / reductionMinimale;
+        setToolTip(fontMetrics().horizontalAdvance(text()) > place ? text() : QString());
+    }
+
     void paintEvent(QPaintEvent *) override
     {
         QPainter peintre(this);

@@ -26,8 +26,7 @@ QSize Defilement::minimumSizeHint() const
     const QSize aire = QScrollArea::minimumSizeHint();
     if (!widget())
         return aire;
-    const int ascenseur =
-        verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOn ? verticalScrollBar()->sizeHint().width() : 0;
+    const int ascenseur = verticalScrollBar()->sizeHint().width(); // it comes with the page's length
     return {std::max(aire.width(), widget()->minimumSizeHint().width() + ascenseur), aire.height()};
 }
 

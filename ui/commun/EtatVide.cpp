@@ -22,7 +22,7 @@ EtatVide::EtatVide(const QString &symbole, const QString &titre, const QString &
     titre_->setFont(Theme::titreSection());
     raison_->setWordWrap(true);
     raison_->setAlignment(Qt::AlignHCenter);
-    raison_->setMaximumWidth(largeurDuTexte);
+    raison_->setMaximumWidth(Theme::aLaTaille(largeurDuTexte));
 
     auto *milieu = new QHBoxLayout;
     milieu->addStretch(1);

@@ -1,5 +1,6 @@
 #include "ui/commun/Feuille.h"
 
+#include "ui/Theme.h"
 #include "ui/commun/Boutons.h"
 #include "ui/commun/Place.h"
 
@@ -63,7 +64,7 @@ void Feuille::meubler(QWidget *choix, QWidget *page)
 
 void Feuille::prendreLaTaille(QSize taille)
 {
-    resize(taille.boundedTo(Place::surLEcran(this)));
+    resize(Theme::aLaTaille(taille).boundedTo(Place::surLEcran(this)));
 }
 
 // On a button, Return presses it; anywhere else, the sheet's own command.

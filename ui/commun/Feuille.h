@@ -23,7 +23,7 @@ protected:
     [[nodiscard]] QDate aujourdhui() const { return aujourdhui_(); }
     // `choix` stands at the left of the bar.
     void meubler(QWidget *choix, QWidget *page);
-    // The given size, or what the screen leaves.
+    // The given size, in proportion to the text, or what the screen leaves.
     void prendreLaTaille(QSize taille);
     // A hairline between two parts of the sheet.
     static QWidget *filet(Qt::Orientation sens);

@@ -1,5 +1,6 @@
 #include "ui/documents/FicheDouane.h"
 
+#include "ui/Theme.h"
 #include "ui/commun/Alerte.h"
 #include "ui/commun/Boutons.h"
 #include "ui/commun/ChampACopier.h"
@@ -68,7 +69,7 @@ QWidget *FicheDouane::page(const QString &manque)
     for (const TextesDocuments::Rubrique &rubrique : montrees_) {
         auto *section = new Formulaire::Section(rubrique.titre);
         for (const TextesDocuments::Champ &champ : rubrique.champs) {
-            auto *rangee = new ChampACopier(champ.titre, colonneDesTitres);
+            auto *rangee = new ChampACopier(champ.titre, Theme::aLaTaille(colonneDesTitres));
             rangee->montrer(champ.valeur, champ.affichage);
             section->groupe()->ajouter(rangee);
         }

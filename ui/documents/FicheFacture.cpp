@@ -1,6 +1,7 @@
 #include "ui/documents/FicheFacture.h"
 
 #include "documents/NumerotationFactures.h"
+#include "ui/Theme.h"
 #include "ui/commun/Alerte.h"
 #include "ui/commun/Boutons.h"
 #include "ui/commun/Defilement.h"
@@ -74,7 +75,7 @@ QWidget *FicheFacture::formulaire()
     colonne->addStretch(1);
     auto *defilement = new Defilement;
     defilement->setWidget(champs);
-    defilement->setMinimumWidth(largeurDesChamps);
+    defilement->setMinimumWidth(Theme::aLaTaille(largeurDesChamps));
 
     auto *page = new QWidget;
     auto *cotes = new QHBoxLayout(page);

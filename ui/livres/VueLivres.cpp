@@ -65,7 +65,7 @@ VueLivres::VueLivres(Catalogue &catalogue, ImagesCouvertures &images, Aujourdhui
     colonne->setSpacing(0);
     colonne->addWidget(enTete_);
     QWidget *liste = gauche();
-    colonne->addWidget(Partage::entre(liste, droite(), liste, largeurDuVolet), 1);
+    colonne->addWidget(Partage::entre(liste, droite(), liste, Theme::aLaTaille(largeurDuVolet)), 1);
 
     connect(annuler_->defaultAction(), &QAction::triggered, this,
             [this] { tenter([this] { volet_->choisir(historique_.annuler()); }); });

@@ -52,7 +52,7 @@ FeuilleMiseAJour::FeuilleMiseAJour(MisesAJour &misesAJour, QWidget *parent)
     colonne->setSpacing(12);
     colonne->setSizeConstraint(QLayout::SetFixedSize); // as high as what it says
     for (QWidget *partie : std::initializer_list<QWidget *>{titre_, detail_, progres_, notes_, alerte_}) {
-        partie->setFixedWidth(largeur);
+        partie->setFixedWidth(Theme::aLaTaille(largeur));
         colonne->addWidget(partie);
     }
     colonne->addSpacing(4);

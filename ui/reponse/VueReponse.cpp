@@ -92,7 +92,7 @@ QWidget *VueReponse::saisie()
     destinataire->groupe()->ajouter(adresseRefusee_);
 
     auto *saisie = new QWidget;
-    saisie->setFixedWidth(largeurDeLaSaisie);
+    saisie->setFixedWidth(Theme::aLaTaille(largeurDeLaSaisie));
     saisie->setAutoFillBackground(true);
     saisie->setBackgroundRole(QPalette::AlternateBase);
     auto *colonne = new QVBoxLayout(saisie);
