@@ -14,13 +14,25 @@
 #include <QPainter>
 #include <QTextLayout>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
 
-constexpr int espace = 14;     // between the parts of a card
-constexpr int interligne = 3;  // between the lines under the cover
-constexpr int hauteurBas = 34; // price and stepper
+constexpr int espace = 14;    // between the parts of a card
+constexpr int interligne = 3; // between the lines under the cover
+constexpr int apresLePrix = 6;
+
+QFont policeDuPrix()
+{
+    return Theme::enGras(Theme::titre3());
+}
+
+// Of the price and the stepper.
+int hauteurBas()
+{
+    return std::max(34, QFontMetrics(policeDuPrix()).height());
+}
 
 int hauteurCouverture(int largeur)
 {
@@ -49,6 +61,22 @@ void peindreSurDeuxLignes(QPainter &peintre, const QRect &cadre, const QString &
     peintre.drawText(cadre.left(), base, texte.left(coupe).trimmed());
     peintre.drawText(cadre.left(), base + mesures.lineSpacing(),
                      mesures.elidedText(texte.mid(coupe).trimmed(), Qt::ElideRight, cadre.width()));
+}
+
+// At the right end of the line; gives where it begins.
+int peindreEpuise(QPainter &peintre, const QRect &ligne, const QPalette &palette)
+{
+    peintre.setFont(Theme::enGras(Theme::encadre(), QFont::Medium));
+    const QString epuise = TextesLivres::epuise();
+    const QSize taille(peintre.fontMetrics().horizontalAdvance(epuise) + 24, peintre.fontMetrics().height() + 12);
+    const QRect etiquette(ligne.right() + 1 - taille.width(), ligne.center().y() + 1 - taille.height() / 2,
+                          taille.width(), taille.height());
+    peintre.setPen(Qt::NoPen);
+    peintre.setBrush(Theme::remplissage(palette));
+    peintre.drawRoundedRect(etiquette, 8, 8);
+    peintre.setPen(Theme::secondaire(palette));
+    peintre.drawText(etiquette, Qt::AlignCenter, epuise);
+    return etiquette.left();
 }
 
 QString enMots(const Livre &livre, int quantite)
@@ -81,6 +109,7 @@ void CarteLivre::montrer(const Livre &livre, int quantite)
     couverture_->setAccessibleName(enMots(livre, quantite));
     setToolTip(livre.titreComplet);
     selecteur_->montrer(quantite);
+    placerLeSelecteur(); // a number of more digits widens it
     selecteur_->setVisible(livre.disponible);
     update();
 }
@@ -98,7 +127,13 @@ QWidget *CarteLivre::suivre(QWidget *precedent)
 int CarteLivre::hauteur(int largeur)
 {
     return hauteurCouverture(largeur) + espace + hauteurDuTitre() + interligne
-           + QFontMetrics(Theme::encadre()).lineSpacing() + espace + hauteurBas;
+           + QFontMetrics(Theme::encadre()).lineSpacing() + espace + hauteurBas();
+}
+
+int CarteLivre::largeurMinimale()
+{
+    return Chiffres::largeur(QFontMetrics(policeDuPrix()), QStringLiteral("00,00 €")) + apresLePrix
+           + SelecteurQuantite::largeurUsuelle();
 }
 
 QRect CarteLivre::contenu() const
@@ -110,7 +145,7 @@ QRect CarteLivre::contenu() const
 QRect CarteLivre::ligneDuBas() const
 {
     const QRect dedans = contenu();
-    return {dedans.left(), dedans.bottom() + 1 - hauteurBas, dedans.width(), hauteurBas};
+    return {dedans.left(), dedans.bottom() + 1 - hauteurBas(), dedans.width(), hauteurBas()};
 }
 
 void CarteLivre::suivreLePointeur(const QPoint &pointeur)
@@ -142,6 +177,11 @@ void CarteLivre::resizeEvent(QResizeEvent *)
 {
     const int hauteur = hauteurCouverture(contenu().width()) + Couverture::debord + Couverture::debordBas;
     couverture_->setGeometry(0, 0, width(), hauteur);
+    placerLeSelecteur();
+}
+
+void CarteLivre::placerLeSelecteur()
+{
     const QSize taille = selecteur_->sizeHint();
     const QRect bas = ligneDuBas();
     selecteur_->setGeometry(bas.right() + 1 - taille.width(), bas.center().y() + 1 - taille.height() / 2,
@@ -169,20 +209,9 @@ void CarteLivre::paintEvent(QPaintEvent *)
     peintre.drawText(poids, Qt::AlignLeft | Qt::AlignVCenter, TextesLivres::poids(livre_));
 
     const QRect bas = ligneDuBas();
-    peintre.setFont(Theme::enGras(Theme::titre3()));
+    const int apres = livre_.disponible ? selecteur_->x() : peindreEpuise(peintre, bas, palette());
+    const QString prix = Format::euros(livre_.prix);
+    peintre.setFont(Chiffres::ajustee(policeDuPrix(), prix, apres - apresLePrix - bas.left()));
     peintre.setPen(livre_.disponible ? texte : secondaire);
-    Chiffres::peindre(peintre, bas, Qt::AlignLeft, Format::euros(livre_.prix));
-    if (livre_.disponible)
-        return;
-
-    peintre.setFont(Theme::enGras(Theme::encadre(), QFont::Medium));
-    const QString epuise = TextesLivres::epuise();
-    const QSize taille(peintre.fontMetrics().horizontalAdvance(epuise) + 24, peintre.fontMetrics().height() + 12);
-    const QRect etiquette(bas.right() + 1 - taille.width(), bas.center().y() + 1 - taille.height() / 2, taille.width(),
-                          taille.height());
-    peintre.setPen(Qt::NoPen);
-    peintre.setBrush(Theme::remplissage(palette()));
-    peintre.drawRoundedRect(etiquette, 8, 8);
-    peintre.setPen(secondaire);
-    peintre.drawText(etiquette, Qt::AlignCenter, epuise);
+    Chiffres::peindre(peintre, bas, Qt::AlignLeft, prix);
 }

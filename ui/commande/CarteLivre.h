@@ -27,6 +27,8 @@ public:
 
     // Height of what a card shows, for the width of what it shows.
     [[nodiscard]] static int hauteur(int largeur);
+    // The narrowest on which a usual price stands beside its stepper at full size.
+    [[nodiscard]] static int largeurMinimale();
 
 protected:
     bool event(QEvent *evenement) override;
@@ -36,6 +38,7 @@ protected:
 private:
     [[nodiscard]] QRect contenu() const;
     [[nodiscard]] QRect ligneDuBas() const;
+    void placerLeSelecteur();
 
     Livre livre_;
     int quantite_ = -1; // shown; -1: nothing yet

@@ -9,9 +9,13 @@
 
 namespace {
 
-constexpr int largeurMinimale = 170;
 constexpr int largeurMaximale = 210;
 constexpr int espace = 32;
+
+int largeurMinimale()
+{
+    return std::max(170, CarteLivre::largeurMinimale());
+}
 
 struct Disposition
 {
@@ -22,8 +26,10 @@ struct Disposition
 
 Disposition disposition(int place)
 {
-    const int colonnes = std::max(1, (place + espace) / (largeurMinimale + espace));
-    const int largeur = std::clamp((place - espace * (colonnes - 1)) / colonnes, largeurMinimale, largeurMaximale);
+    const int minimum = largeurMinimale();
+    const int colonnes = std::max(1, (place + espace) / (minimum + espace));
+    const int largeur =
+        std::clamp((place - espace * (colonnes - 1)) / colonnes, minimum, std::max(minimum, largeurMaximale));
     return {colonnes, largeur, std::max(0, (place - colonnes * largeur - espace * (colonnes - 1)) / 2)};
 }
 
@@ -93,12 +99,12 @@ QSize GrilleLivres::sizeHint() const
 
 QSize GrilleLivres::minimumSizeHint() const
 {
-    return {largeurMinimale + 2 * Couverture::debord, 0};
+    return {largeurMinimale() + 2 * Couverture::debord, 0};
 }
 
 int GrilleLivres::largeurDeDeuxColonnes()
 {
-    return 2 * largeurMinimale + espace + 2 * Couverture::debord;
+    return 2 * largeurMinimale() + espace + 2 * Couverture::debord;
 }
 
 void GrilleLivres::resizeEvent(QResizeEvent *)

@@ -28,12 +28,9 @@ public:
 
     void ajuster()
     {
-        const int place = contentsRect().width() - libelle_->sizeHint().width() - layout()->spacing();
-        QFont police = Theme::montant();
-        const int voulue = Chiffres::largeur(QFontMetrics(police), total_->text());
-        if (voulue > place && place > 0)
-            police.setPointSizeF(police.pointSizeF() * place / voulue);
-        total_->setFont(police);
+        const QRect dedans = rect().marginsRemoved(layout()->contentsMargins());
+        const int place = dedans.width() - libelle_->sizeHint().width() - layout()->spacing();
+        total_->setFont(Chiffres::ajustee(Theme::montant(), total_->text(), place));
     }
 
 protected:

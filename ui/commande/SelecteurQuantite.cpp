@@ -8,6 +8,7 @@
 #include "ui/commun/Ressort.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
@@ -17,6 +18,14 @@
 namespace {
 
 constexpr int coteBouton = 26;
+constexpr int bord = 4; // beside the buttons
+constexpr int espace = 2;
+
+int largeurDuNombre()
+{
+    const QFontMetrics mesures(Theme::enGras(QApplication::font()));
+    return std::max(18, mesures.horizontalAdvance(QStringLiteral("00")));
+}
 
 // Draws its symbol in the stepper's colour, which the stepper hands down as ButtonText.
 class BoutonRond : public QAbstractButton
@@ -69,11 +78,11 @@ SelecteurQuantite::SelecteurQuantite(const Livre &livre, Commande &commande, QWi
 {
     nombre_->setFont(Theme::enGras(font()));
     nombre_->setAlignment(Qt::AlignCenter);
-    nombre_->setMinimumWidth(std::max(18, nombre_->fontMetrics().horizontalAdvance(QStringLiteral("00"))));
+    nombre_->setMinimumWidth(largeurDuNombre());
     nombre_->setText(QStringLiteral("0"));
     auto *rangee = new QHBoxLayout(this);
-    rangee->setContentsMargins(4, 2, 4, 4); // 2 px below the capsule are its shadow's
-    rangee->setSpacing(2);
+    rangee->setContentsMargins(bord, 2, bord, 4); // 2 px below the capsule are its shadow's
+    rangee->setSpacing(espace);
     for (QWidget *partie :
          {static_cast<QWidget *>(moins_), static_cast<QWidget *>(nombre_), static_cast<QWidget *>(plus_)})
         rangee->addWidget(partie);
@@ -84,6 +93,11 @@ SelecteurQuantite::SelecteurQuantite(const Livre &livre, Commande &commande, QWi
     titre_ = livre.titre;
     decrire();
     colorer();
+}
+
+int SelecteurQuantite::largeurUsuelle()
+{
+    return 2 * (bord + coteBouton + espace) + largeurDuNombre();
 }
 
 void SelecteurQuantite::montrer(int quantite)

@@ -18,6 +18,8 @@ public:
     SelecteurQuantite(const Livre &livre, Commande &commande, QWidget *parent = nullptr);
 
     void montrer(int quantite);
+    // Of one that shows a figure or two, px.
+    [[nodiscard]] static int largeurUsuelle();
 
 protected:
     void changeEvent(QEvent *evenement) override;

@@ -16,6 +16,14 @@ int Chiffres::largeur(const QFontMetrics &mesures, const QString &texte)
     return somme;
 }
 
+QFont Chiffres::ajustee(QFont police, const QString &texte, int place)
+{
+    constexpr double pas = 0.5; // pt
+    while (place > 0 && police.pointSizeF() > 2 * pas && largeur(QFontMetrics(police), texte) > place)
+        police.setPointSizeF(police.pointSizeF() - pas);
+    return police;
+}
+
 void Chiffres::peindre(QPainter &peintre, QChar caractere, double x, double ligneDeBase)
 {
     const QFontMetrics mesures = peintre.fontMetrics();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFont>
 #include <QString>
 
 class QFontMetrics;
@@ -11,6 +12,8 @@ namespace Chiffres {
 
 int largeur(const QFontMetrics &mesures, QChar caractere);
 int largeur(const QFontMetrics &mesures, const QString &texte);
+// `police`, made smaller where the text would not fit into `place` px.
+QFont ajustee(QFont police, const QString &texte, int place);
 // One character, centred in its cell whose left edge is `x`.
 void peindre(QPainter &peintre, QChar caractere, double x, double ligneDeBase);
 // The whole text; vertically it is always centred.
