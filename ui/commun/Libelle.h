@@ -3,6 +3,10 @@
 #include <QHash>
 #include <QLabel>
 
+#include <optional>
+
+class QTextDocument;
+
 // A plain text that takes its colour from the palette by its rank, and keeps it when the palette changes.
 class Libelle : public QLabel
 {
@@ -14,7 +18,8 @@ public:
     explicit Libelle(const QString &texte, Rang rang = Rang::principal, QWidget *parent = nullptr);
     void setRang(Rang rang);
 
-    // A text that wraps takes the width it is given: QLabel would try many widths to find a pleasing one.
+    // A text that wraps takes the width it is given: QLabel would try many widths to find a pleasing one. It asks for
+    // its longest word at least, within reason; a word that still is too long is broken where the line ends.
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
     // Remembered: a layout asks for the same few widths again and again.
@@ -22,8 +27,18 @@ public:
 
 protected:
     void changeEvent(QEvent *evenement) override;
+    void paintEvent(QPaintEvent *evenement) override;
 
 private:
+    [[nodiscard]] QSize avecMarges(int largeur) const;
+    [[nodiscard]] int motLePlusLong() const; // px
+    [[nodiscard]] bool deborde(int largeur) const;
+    [[nodiscard]] QTextDocument *documentSecable() const; // null: the label paints its text itself
+    [[nodiscard]] QString secable(int largeur) const;
+    void oublier() const;
+
+    // Of `texteMesure_`.
     mutable QString texteMesure_;
-    mutable QHash<int, int> hauteurs_; // of `texteMesure_`, by width
+    mutable QHash<int, int> hauteurs_; // by width
+    mutable std::optional<int> motLePlusLong_;
 };
