@@ -25,6 +25,7 @@ QWidget *texte(const QString &texte, Qt::Alignment alignement)
 {
     auto *libelle = new Libelle(texte);
     libelle->setAlignment(alignement | Qt::AlignVCenter);
+    libelle->setWordWrap(alignement == Qt::AlignLeft); // the name of a zone may be long
     return libelle;
 }
 

@@ -23,9 +23,13 @@ public:
 
     explicit RangeeDeTableau(const QList<Cellule> &cellules, Filet filet = Filet::dessus, QWidget *parent = nullptr);
 
+    // So that each cell shows its text whole, or its longest word where it wraps.
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
 protected:
     void paintEvent(QPaintEvent *evenement) override;
 
 private:
+    QList<Cellule> cellules_;
     Filet filet_;
 };
