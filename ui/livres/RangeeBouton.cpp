@@ -17,6 +17,7 @@ enum Colonne { destination, actuel, calcule, copie, etat };
 
 constexpr int margeVerticale = 9;
 constexpr int entreActions = 6;
+constexpr int sousLEtat = 5;
 constexpr int largeurMinimaleDuNom = 96; // of a destination
 
 QFont policeDuPrix()
@@ -112,7 +113,10 @@ RangeeBouton::RangeeBouton(QGridLayout &grille, int ligne, QObject *parent)
     boutons->addStretch(1);
 
     cellules_ = {cellule({destination_, palier_}, 2), cellule({actuel_}, 0), cellule({calcule_, ecart_}, 2), copier_,
-                 cellule({etat_, actions}, 5)};
+                 cellule({etat_, actions}, sousLEtat)};
+    // As high as with its buttons: the rows below stand still when a price is reported.
+    cellules_[etat]->setMinimumHeight(etat_->sizeHint().height() + sousLEtat + actions->sizeHint().height()
+                                      + 2 * margeVerticale);
     for (int colonne = 0; colonne < cellules_.size(); ++colonne)
         grille.addWidget(cellules_[colonne], ligne, colonne, colonne == copie ? Qt::AlignVCenter : Qt::Alignment());
     // A click reports the price that is read on the row: it must not end an edit that changes it.
