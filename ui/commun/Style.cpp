@@ -34,11 +34,12 @@ void bouton(const QStyleOption &option, QPainter &peintre)
     const QPalette &palette = option.palette;
     const bool accentue = principal(option);
     const QColor encre = accentue ? palette.color(QPalette::HighlightedText) : palette.color(QPalette::WindowText);
+    const QColor ombre = accentue ? Qt::black : encre; // never nearer to the text
     QColor fond = accentue ? Theme::accent(palette) : Theme::carte(palette);
     if (contient(option, QStyle::State_Sunken))
-        fond = Dessin::melange(fond, encre, 0.12);
+        fond = Dessin::melange(fond, ombre, 0.12);
     else if (contient(option, QStyle::State_MouseOver) && contient(option, QStyle::State_Enabled))
-        fond = Dessin::melange(fond, encre, 0.05);
+        fond = Dessin::melange(fond, ombre, 0.05);
     peintre.setPen(QPen(accentue ? fond : Theme::filet(palette), 1));
     peintre.setBrush(fond);
     const QRectF cadre = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);

@@ -165,8 +165,7 @@ void DelegueLivres::peindreLivre(QPainter &peintre, const QRect &cadre, int rang
     QRect auteur = ligne;
     if (const qsizetype aReporter = modele_.aReporter(rang); aReporter > 0) {
         const QColor orange = Theme::orange(palette);
-        QColor fond = orange;
-        fond.setAlphaF(0.13F);
+        const QColor fond = Dessin::melange(Theme::carte(palette), orange, 0.13); // also on the current row
         auteur = peindreEtiquette(peintre, ligne, TextesBoutons::aReporter(aReporter), orange, fond);
     }
     peintre.setFont(Theme::encadre());
