@@ -3,6 +3,7 @@
 #include "ui/commun/SelectionDuLecteur.h"
 
 #include <QAbstractItemView>
+#include <QStyleOptionComboBox>
 #include <QWheelEvent>
 
 Choix::Choix(QWidget *parent) : QComboBox(parent)
@@ -11,7 +12,22 @@ Choix::Choix(QWidget *parent) : QComboBox(parent)
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(10);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    connect(this, &QComboBox::currentTextChanged, this, &Choix::direEnEntier);
     connect(this, &QComboBox::activated, this, [this] { emit choisi(currentData().toString()); });
+}
+
+void Choix::direEnEntier()
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const int place = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this).width();
+    setToolTip(fontMetrics().horizontalAdvance(currentText()) > place ? currentText() : QString());
+}
+
+void Choix::resizeEvent(QResizeEvent *evenement)
+{
+    QComboBox::resizeEvent(evenement);
+    direEnEntier();
 }
 
 void Choix::wheelEvent(QWheelEvent *evenement)

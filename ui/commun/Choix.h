@@ -21,10 +21,13 @@ signals:
     void choisi(const QString &cle);
 
 protected:
+    void resizeEvent(QResizeEvent *evenement) override;
     void wheelEvent(QWheelEvent *evenement) override;
 
 private:
     void prendre(const QModelIndex &ligne);
+    // What is cut is said whole under the pointer.
+    void direEnEntier();
 
     SelectionDuLecteur *lecteur_ = nullptr; // from the first opening on
 };
