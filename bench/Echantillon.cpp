@@ -14,10 +14,12 @@ void relier(const QString &fichier, const QString &lien)
 
 } // namespace
 
-Echantillon::Echantillon(int nombre, Images images)
+Echantillon::Echantillon() : ressources_(Ressources::duProgramme()) {}
+
+Echantillon::Echantillon(int nombre, Images images) : ressources_(QDir(dossier_.filePath(QStringLiteral("partage"))))
 {
     const Ressources livrees = Ressources::duProgramme();
-    const QDir partage(dossier_.filePath(QStringLiteral("partage")));
+    const QDir partage(ressources_.chemin({}));
     partage.mkpath(QStringLiteral("couvertures"));
     for (const QFileInfo &fichier : QDir(livrees.chemin({})).entryInfoList({QStringLiteral("*.json")}, QDir::Files))
         if (fichier.fileName() != QStringLiteral("livres.json"))

@@ -6,19 +6,19 @@
 
 #include <QTemporaryDir>
 
-// A catalogue of any size on a temporary folder: the shipped books over and over, all of the first seller.
+// A catalogue and the folder of its user, both for the time of a measurement.
 class Echantillon
 {
 public:
     enum class Images { sans, avec };
 
-    // With pictures, each book has a file of its own.
+    // The shipped one.
+    Echantillon();
+    // One of any size: the shipped books over and over, all of the first seller. With pictures, each has a file of its
+    // own.
     Echantillon(int nombre, Images images);
 
-    [[nodiscard]] Ressources ressources() const
-    {
-        return Ressources(QDir(dossier_.filePath(QStringLiteral("partage"))));
-    }
+    [[nodiscard]] const Ressources &ressources() const { return ressources_; }
     [[nodiscard]] Preferences preferences() const
     {
         return Preferences(dossier_.filePath(QStringLiteral("Quillet.ini")));
@@ -27,4 +27,5 @@ public:
 
 private:
     QTemporaryDir dossier_;
+    Ressources ressources_;
 };

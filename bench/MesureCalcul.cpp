@@ -46,8 +46,8 @@ QList<double> calculer(int livres)
 
 QList<Releve> mesurerCalcul()
 {
-    const Echantillon sansFichiers(0, Echantillon::Images::sans);
-    const auto livre = Catalogue::charge(Ressources::duProgramme(), sansFichiers.stockage());
+    const Echantillon echantillon;
+    const auto livre = Catalogue::charge(echantillon.ressources(), echantillon.stockage());
     const QString us = QStringLiteral("µs");
     constexpr int petit = 1'000;
     constexpr int grand = 100'000;

@@ -1,7 +1,5 @@
 #include "bench/Mesures.h"
-
-#include <QCoreApplication>
-#include <QProcess>
+#include "bench/Programme.h"
 
 #include <chrono>
 
@@ -19,17 +17,8 @@ struct Departs
 
 QList<double> demarrer(const QString &fenetre)
 {
-    QProcess enfant;
     const std::chrono::nanoseconds depart = std::chrono::steady_clock::now().time_since_epoch();
-    enfant.start(QCoreApplication::applicationDirPath() + QStringLiteral("/bench-depart"),
-                 {fenetre, QString::number(depart.count())});
-    if (!enfant.waitForFinished() || enfant.exitStatus() != QProcess::NormalExit || enfant.exitCode() != 0)
-        qFatal("bench-depart %s : %s\n%s", qPrintable(fenetre), qPrintable(enfant.errorString()),
-               enfant.readAllStandardError().constData());
-    QList<double> valeurs;
-    for (const QByteArray &valeur : enfant.readAllStandardOutput().simplified().split(' '))
-        valeurs.append(valeur.toDouble());
-    return valeurs;
+    return Programme::valeurs(QStringLiteral("bench-depart"), {fenetre, QString::number(depart.count())});
 }
 
 void ajouter(Departs &departs, const QList<double> &valeurs)

@@ -14,8 +14,8 @@ QList<Releve> mesurerFacture()
     const QDate jour(2026, 3, 2);
 
     QuilletApp::preparer();
-    const Echantillon sansFichiers(0, Echantillon::Images::sans);
-    const auto catalogue = Catalogue::charge(Ressources::duProgramme(), sansFichiers.stockage());
+    const Echantillon echantillon;
+    const auto catalogue = Catalogue::charge(echantillon.ressources(), echantillon.stockage());
     Commande commande;
     commande.setPoidsPese(Grammes{1200});
     for (qsizetype i = 0; i < 5; ++i)

@@ -51,7 +51,16 @@ Releve releve(const QString &nom, const QString &unite, const QList<double> &val
     return {.nom = nom, .unite = unite, .mediane = centile(valeurs, 0.5), .centile95 = centile(valeurs, 0.95)};
 }
 
-QString tableau(const QList<Releve> &releves)
+QList<Releve> parTaille(double but, QList<Releve> peu, QList<Releve> beaucoup, QList<Releve> trop)
+{
+    for (qsizetype i = 0; i < peu.size(); ++i) {
+        peu[i].but = beaucoup[i].but = but;
+        trop[i].reference = peu[i].mediane;
+    }
+    return peu + beaucoup + trop;
+}
+
+QString tableau(const QList<Releve> &releves, Forme forme)
 {
     QList<Rangee> rangees{{QStringLiteral("Mesure"),
                            QStringLiteral("médiane"),
@@ -65,12 +74,17 @@ QString tableau(const QList<Releve> &releves)
     for (const Rangee &rangee : rangees)
         for (size_t i = 0; i < rangee.size(); ++i)
             largeurs[i] = std::max(largeurs[i], rangee[i].size());
+    const bool markdown = forme == Forme::markdown;
+    const QString entre = markdown ? QStringLiteral(" | ") : QStringLiteral("  ");
     QString texte;
     for (const Rangee &rangee : rangees) {
         QString ligne = rangee[0].leftJustified(largeurs[0]);
         for (size_t i = 1; i + 1 < rangee.size(); ++i)
-            ligne += QStringLiteral("  ") + rangee[i].rightJustified(largeurs[i]);
-        texte += (ligne + QStringLiteral("  ") + rangee.back()).trimmed() + u'\n';
+            ligne += entre + rangee[i].rightJustified(largeurs[i]);
+        ligne = (ligne + entre + rangee.back()).trimmed();
+        texte += (markdown ? QStringLiteral("| %1 |").arg(ligne) : ligne) + u'\n';
+        if (markdown && &rangee == &rangees.constFirst())
+            texte += QStringLiteral("|---|--:|--:|--:|--:|--:|---|\n");
     }
     return texte;
 }

@@ -1,10 +1,10 @@
+#include "bench/Memoire.h"
 #include "bench/Temoin.h"
 #include "ui/Fenetre.h"
 #include "ui/InstanceUnique.h"
 #include "ui/QuilletApp.h"
 #include "visite/HorsReseau.h"
 
-#include <QFile>
 #include <QTimer>
 
 #include <cstdio>
@@ -34,12 +34,6 @@ double depuis(std::chrono::nanoseconds depart, Temoin::Horloge::time_point insta
     return std::chrono::duration<double, std::milli>(instant.time_since_epoch() - depart).count();
 }
 
-qint64 memoire(const QByteArray &etat, const QByteArray &champ)
-{
-    const qsizetype debut = etat.indexOf(champ + ':') + champ.size() + 1;
-    return etat.mid(debut, etat.indexOf("kB", debut) - debut).trimmed().toLongLong();
-}
-
 int attendreEtRapporter(const Temoin &temoin, std::chrono::nanoseconds depart)
 {
     QTimer ronde;
@@ -49,12 +43,8 @@ int attendreEtRapporter(const Temoin &temoin, std::chrono::nanoseconds depart)
     });
     ronde.start(20ms);
     Temoin::exec();
-    QFile fichier(QStringLiteral("/proc/self/status"));
-    if (!fichier.open(QIODevice::ReadOnly))
-        return 1;
-    const QByteArray etat = fichier.readAll();
-    std::printf("%.3f %.3f %lld %lld\n", depuis(depart, *temoin.image()), depuis(depart, *temoin.derniereImage()),
-                memoire(etat, "VmRSS"), memoire(etat, "VmHWM"));
+    std::printf("%.3f %.3f %.0f %.0f\n", depuis(depart, *temoin.image()), depuis(depart, *temoin.derniereImage()),
+                Memoire::residente(), Memoire::auPlusHaut());
     return 0;
 }
 

@@ -1,7 +1,10 @@
 #include "bench/Mesures.h"
 #include "bench/Temoin.h"
 
+#include <QFile>
+#include <QSysInfo>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <cstdio>
 
@@ -18,11 +21,16 @@ void isoler(const QTemporaryDir &dossier)
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
-QList<Releve> mesurerDepartSeul(int argc, char **argv)
+// The machine and the platform, without which no figure means anything.
+QString machine()
 {
-    // Starting processes from a small one costs them nothing.
-    const QCoreApplication programme(argc, argv);
-    return mesurerDepart();
+    QFile fichier(QStringLiteral("/proc/cpuinfo"));
+    const QByteArray processeurs = fichier.open(QIODevice::ReadOnly) ? fichier.readAll() : QByteArray();
+    const qsizetype debut = processeurs.indexOf(':', processeurs.indexOf("model name")) + 1;
+    return QStringLiteral("%1, %2 cœurs, %3, Qt %4, plateforme %5")
+        .arg(QString::fromUtf8(processeurs.mid(debut, processeurs.indexOf('\n', debut) - debut)).trimmed())
+        .arg(QThread::idealThreadCount())
+        .arg(QSysInfo::prettyProductName(), QString::fromLatin1(qVersion()), Temoin::platformName());
 }
 
 } // namespace
@@ -31,19 +39,30 @@ int main(int argc, char **argv)
 {
     const QTemporaryDir dossier;
     isoler(dossier);
-    const QByteArrayList parties(argv + 1, argv + argc);
+    QByteArrayList parties(argv + 1, argv + argc);
+    const Forme forme = parties.removeAll("--markdown") > 0 ? Forme::markdown : Forme::texte;
     const auto demandee = [&](const char *partie) { return parties.isEmpty() || parties.contains(partie); };
     QList<Releve> releves;
-    if (demandee("depart"))
-        releves += mesurerDepartSeul(argc, argv);
+    {
+        // Starting processes from a small one costs them nothing.
+        const QCoreApplication programme(argc, argv);
+        if (demandee("depart"))
+            releves += mesurerDepart();
+        if (demandee("feuilles"))
+            releves += mesurerFeuilles();
+    }
     Temoin temoin(argc, argv);
     if (demandee("ecran"))
         releves += mesurerEcran(temoin);
+    if (demandee("livres"))
+        releves += mesurerLivres(temoin);
     if (demandee("calcul"))
         releves += mesurerCalcul();
     if (demandee("facture"))
         releves += mesurerFacture();
     if (demandee("pages"))
         releves += mesurerPages();
-    std::printf("Plateforme %s\n%s", qPrintable(Temoin::platformName()), qPrintable(tableau(releves)));
+    if (demandee("memoire"))
+        releves += mesurerMemoire(temoin);
+    std::printf("%s\n\n%s", qPrintable(machine()), qPrintable(tableau(releves, forme)));
 }

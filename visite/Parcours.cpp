@@ -16,32 +16,12 @@ namespace {
 const QDate jourDeLaVisite(2026, 3, 2);
 constexpr int tempsDesRessorts = 900; // ms
 
-// What the pages of the tour announce: every third tier dearer, and another rate.
-TarifsColissimo augmentes()
-{
-    auto tarifs = Ressources::duProgramme().lire<TarifsColissimo>(QStringLiteral("tarifs-colissimo-2026-01-01"));
-    int rang = 0;
-    for (GrilleColissimo &grille : tarifs.grilles)
-        for (Palier &palier : grille.paliers)
-            if (rang++ % 3 == 0)
-                palier.prix = palier.prix + Centimes{25 + rang};
-    return tarifs;
-}
-
-FraisPaypal renegocies()
-{
-    FraisPaypal frais = Ressources::duProgramme().lire<Reglages>(QStringLiteral("reglages")).fraisPaypal;
-    frais.taux = Taux{320};
-    return frais;
-}
-
 } // namespace
 
 Parcours::Parcours(const QDir &dossier, QString suffixe, bool bavard)
     : dossier_(dossier),
       suffixe_(std::move(suffixe)),
       bavard_(bavard),
-      site_(SiteDeLaVisite::page(augmentes(), QStringLiteral("1er avril 2026")), SiteDeLaVisite::page(renegocies())),
       quillet_(
           Ressources::duProgramme(), Stockage(QDir(donnees_.filePath(QStringLiteral("Quillet")))),
           Preferences(donnees_.filePath(QStringLiteral("Quillet.ini"))), [] { return jourDeLaVisite; }, site_.pages())

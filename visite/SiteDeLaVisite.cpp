@@ -1,6 +1,7 @@
 #include "visite/SiteDeLaVisite.h"
 
 #include "model/Format.h"
+#include "model/Ressources.h"
 
 #include <QHash>
 #include <QTcpSocket>
@@ -27,6 +28,25 @@ QString euros(Centimes montant)
     return Format::montant(montant) + QStringLiteral(" €");
 }
 
+// Every third tier dearer, and another rate.
+TarifsColissimo augmentes()
+{
+    auto tarifs = Ressources::duProgramme().lire<TarifsColissimo>(QStringLiteral("tarifs-colissimo-2026-01-01"));
+    int rang = 0;
+    for (GrilleColissimo &grille : tarifs.grilles)
+        for (Palier &palier : grille.paliers)
+            if (rang++ % 3 == 0)
+                palier.prix = palier.prix + Centimes{25 + rang};
+    return tarifs;
+}
+
+FraisPaypal renegocies()
+{
+    FraisPaypal frais = Ressources::duProgramme().lire<Reglages>(QStringLiteral("reglages")).fraisPaypal;
+    frais.taux = Taux{320};
+    return frais;
+}
+
 } // namespace
 
 QString SiteDeLaVisite::page(const TarifsColissimo &tarifs, const QString &dateDEffet)
@@ -51,8 +71,8 @@ QString SiteDeLaVisite::page(const FraisPaypal &frais)
              supplement(RegionPaypal::royaumeUni), supplement(RegionPaypal::autres));
 }
 
-SiteDeLaVisite::SiteDeLaVisite(QString laPoste, QString paypal)
-    : laPoste_(std::move(laPoste)), paypal_(std::move(paypal))
+SiteDeLaVisite::SiteDeLaVisite()
+    : laPoste_(page(augmentes(), QStringLiteral("1er avril 2026"))), paypal_(page(renegocies()))
 {
     QObject::connect(&serveur_, &QTcpServer::newConnection, &serveur_, [this] { servir(); });
     if (!serveur_.listen(QHostAddress::LocalHost))

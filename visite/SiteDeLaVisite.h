@@ -15,7 +15,7 @@ public:
     static QString page(const FraisPaypal &frais);
 
     // Both pages are served from now on, whenever they are asked for.
-    SiteDeLaVisite(QString laPoste, QString paypal);
+    SiteDeLaVisite();
     [[nodiscard]] PagesSurveillees pages() const;
 
 private:

@@ -1,0 +1,10 @@
+#pragma once
+
+// What this process holds, in KiB.
+namespace Memoire {
+
+double tas();        // allocated, and not given back
+double residente();  // of the machine's memory
+double auPlusHaut(); // the most it was
+
+} // namespace Memoire
