@@ -9,10 +9,10 @@
 
 namespace {
 
-QPixmap dessin(const QString &symbole, const QSize &pixels, const QColor &couleur)
+// Read once a size, in the file's own colour.
+QPixmap forme(const QString &symbole, const QSize &pixels)
 {
-    const QString cle =
-        QStringLiteral("%1/%2/%3").arg(symbole, QString::number(pixels.width()), couleur.name(QColor::HexArgb));
+    const QString cle = QStringLiteral("%1/%2").arg(symbole, QString::number(pixels.width()));
     QPixmap image;
     if (QPixmapCache::find(cle, &image))
         return image;
@@ -21,11 +21,18 @@ QPixmap dessin(const QString &symbole, const QSize &pixels, const QColor &couleu
     QSvgRenderer svg(QStringLiteral(":/icones/%1.svg").arg(symbole));
     QPainter peintre(&image);
     svg.render(&peintre);
-    peintre.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    peintre.fillRect(image.rect(), couleur);
     peintre.end();
     QPixmapCache::insert(cle, image);
     return image;
+}
+
+// Not kept: a motion goes through hundreds of colours.
+QPixmap teintee(QPixmap forme, const QColor &couleur)
+{
+    QPainter peintre(&forme);
+    peintre.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    peintre.fillRect(forme.rect(), couleur);
+    return forme;
 }
 
 class Moteur : public QIconEngine
@@ -60,7 +67,7 @@ private:
 void Icone::peindre(QPainter &peintre, const QString &symbole, const QRectF &cadre, const QColor &couleur)
 {
     const qreal densite = peintre.device()->devicePixelRatioF();
-    QPixmap image = dessin(symbole, (cadre.size() * densite).toSize(), couleur);
+    QPixmap image = teintee(forme(symbole, (cadre.size() * densite).toSize()), couleur);
     image.setDevicePixelRatio(densite);
     peintre.drawPixmap(cadre.topLeft(), image);
 }
