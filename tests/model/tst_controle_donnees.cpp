@@ -76,7 +76,7 @@ void TestControleDonnees::erreurs_data()
         "tarifs-colissimo-2026-01-01.grilles[1].code : texte attendu");
     cas("reglages", R"("taux" : 290)", R"("taux" : 290, "fixe" : 0, "x\"{" : "taux")",
         "reglages.fraisPaypal.x\"{ : clé inconnue\n"
-        "reglages.json, ligne 41 : clé « fixe » écrite deux fois, la dernière compte");
+        "reglages.json, ligne 42 : clé « fixe » écrite deux fois, la dernière compte");
     // What holds everywhere.
     cas("livres", "Le Phare de sel\"", " \"", "livres[0].titre : texte vide");
     cas("livres", R"("france" : 1499)", R"("france" : -1)", "livres[1].prixPaypal.france : nombre négatif");
