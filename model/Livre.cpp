@@ -1,5 +1,12 @@
 #include "model/Livre.h"
 
+void Json::lire(const QJsonValue &json, const Lieu &lieu, Livre &livre)
+{
+    lire<Livre>(json, lieu, livre);
+    if (livre.teinte.size() < 3)
+        Lieu(lieu, QStringLiteral("teinte")).refuser(QStringLiteral("trois nombres attendus : rouge, vert, bleu"));
+}
+
 ModificationLivre ModificationLivre::de(const Livre &livre)
 {
     return {livre.prix, livre.poids, livre.disponible, livre.prixPaypal, livre.prixEcartes};

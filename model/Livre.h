@@ -77,6 +77,13 @@ inline constexpr auto Json::champs<Livre> = std::tuple{
     Champ{"prixEcartes", &Livre::prixEcartes},
 };
 
+namespace Json {
+
+// Refuses a tint that is no colour: nothing could be painted in place of a missing cover.
+void lire(const QJsonValue &json, const Lieu &lieu, Livre &livre);
+
+} // namespace Json
+
 template <>
 inline constexpr auto Json::champs<ModificationLivre> = std::tuple{
     Champ{"prix", &ModificationLivre::prix},

@@ -58,6 +58,7 @@ void TestJson::refusDitOu_data()
     cas("booléen", R"("disponible":true)", R"("disponible":1)", "livres[1].disponible : true ou false attendu");
     cas("dans une liste", "[1,2,3]", R"([1,"2",3])", "livres[1].teinte[1] : entier attendu");
     cas("liste attendue", "[1,2,3]", "{}", "livres[1].teinte : liste attendue");
+    cas("teinte incomplète", "[1,2,3]", "[1,2]", "livres[1].teinte : trois nombres attendus : rouge, vert, bleu");
     cas("dans une table", R"("id":7)", R"("id":7,"prixPaypal":{"om1":1,"france":true})",
         "livres[1].prixPaypal.france : entier attendu");
     cas("adresse relative", R"("id":7)", R"("id":7,"lienPaypal":"/ici")",

@@ -49,8 +49,7 @@ QPixmap enGris(const QPixmap &image)
 
 QColor couleur(const Livre &livre)
 {
-    if (livre.teinte.size() < 3)
-        qFatal("Teinte incomplète : livre %lld", static_cast<long long>(livre.id));
+    Q_ASSERT(livre.teinte.size() >= 3); // no book is read without
     const auto composante = [&](qsizetype rang) {
         return static_cast<int>(std::clamp<qint64>(livre.teinte[rang], 0, 255));
     };

@@ -7,7 +7,7 @@
 
 class ImagesCouvertures;
 
-// The book's own colour; a tint of fewer than three entries stops the program.
+// The book's own colour.
 QColor couleur(const Livre &livre);
 
 namespace DessinCouverture {
