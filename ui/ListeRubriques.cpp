@@ -67,8 +67,7 @@ public:
             peintre->drawRoundedRect(cadre, Theme::rayonControle, Theme::rayonControle);
         }
         if (option.state.testFlag(QStyle::State_HasFocus) && option.widget && Dessin::focusVisible(option.widget))
-            Dessin::anneauDeFocus(*peintre, cadre.adjusted(2, 2, -2, -2), Theme::rayonControle - 2,
-                                  Theme::accentTexte(palette));
+            Dessin::anneauDeFocus(*peintre, cadre, Theme::rayonControle, Theme::accentTexte(palette));
 
         const QColor couleur = choisie ? Theme::accentTexte(palette) : palette.color(QPalette::WindowText);
         Icone::peindre(*peintre, indice.data(roleSymbole).toString(),

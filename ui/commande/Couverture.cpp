@@ -148,7 +148,7 @@ void Couverture::paintEvent(QPaintEvent *)
     peintre.setOpacity(livre_.disponible ? 1 : opaciteIndisponible);
     peintre.drawPixmap(cadre().topLeft(), dessin_);
     if (Dessin::focusVisible(this))
-        Dessin::anneauDeFocus(peintre, cadre().adjusted(-1, -1, 1, 1), Theme::rayonCouverture,
+        Dessin::anneauDeFocus(peintre, cadre().adjusted(-4, -4, 4, 4), Theme::rayonCouverture + 4,
                               Theme::accentTexte(palette()));
     peintre.restore();
     if (pastille_->valeur() > 0.01)

@@ -56,7 +56,7 @@ protected:
         const double cote = 15;
         Icone::peindre(peintre, symbole_, QRectF((width() - cote) / 2, (height() - cote) / 2, cote, cote), couleur);
         if (Dessin::focusVisible(this))
-            Dessin::anneauDeFocus(peintre, QRectF(rect()).adjusted(3, 3, -3, -3), coteBouton / 2.0 - 3,
+            Dessin::anneauDeFocus(peintre, rect(), coteBouton / 2.0,
                                   palette().color(QPalette::Active, QPalette::ButtonText));
     }
 
@@ -151,7 +151,7 @@ void SelecteurQuantite::paintEvent(QPaintEvent *)
     const QRectF capsule = QRectF(rect()).adjusted(2, 0, -2, -2);
     const double rayon = capsule.height() / 2;
     if (Dessin::focusVisible(this))
-        Dessin::anneauDeFocus(peintre, capsule.adjusted(3, 3, -3, -3), rayon - 3, Theme::accentTexte(palette()));
+        Dessin::anneauDeFocus(peintre, capsule, rayon, Theme::accentTexte(palette()));
     const double plein = std::clamp(plein_->valeur(), 0.0, 1.0);
     if (plein <= 0)
         return;

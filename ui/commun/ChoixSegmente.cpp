@@ -70,7 +70,7 @@ protected:
         const QColor anneau =
             bleu ? Dessin::melange(Theme::accentTexte(palette()), Qt::white, part_) : Theme::accentTexte(palette());
         if (Dessin::focusVisible(this))
-            Dessin::anneauDeFocus(peintre, QRectF(rect()).adjusted(2, 2, -2, -2), (height() - 4) / 2.0, anneau);
+            Dessin::anneauDeFocus(peintre, rect(), height() / 2.0, anneau);
     }
 
     [[nodiscard]] bool hitButton(const QPoint &position) const override { return rect().contains(position); }

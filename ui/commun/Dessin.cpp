@@ -32,12 +32,13 @@ bool Dessin::focusVisible(const QWidget *widget)
     return widget->hasFocus() && widget->window()->testAttribute(Qt::WA_KeyboardFocusChange);
 }
 
-void Dessin::anneauDeFocus(QPainter &peintre, const QRectF &cadre, qreal rayon, const QColor &couleur)
+void Dessin::anneauDeFocus(QPainter &peintre, const QRectF &contour, qreal rayon, const QColor &couleur)
 {
+    constexpr qreal retrait = epaisseurDAnneau / 2; // the pen draws on both sides of its line
     peintre.save();
-    peintre.setPen(QPen(couleur, 2));
+    peintre.setPen(QPen(couleur, epaisseurDAnneau));
     peintre.setBrush(Qt::NoBrush);
-    peintre.drawRoundedRect(cadre.adjusted(-2, -2, 2, 2), rayon + 2, rayon + 2);
+    peintre.drawRoundedRect(contour.adjusted(retrait, retrait, -retrait, -retrait), rayon - retrait, rayon - retrait);
     peintre.restore();
 }
 

@@ -19,8 +19,9 @@ void carte(QPainter &peintre, const QRect &cadre, const QPalette &palette);
 
 // Whether the ring is due: the widget has the focus and the keyboard brought it there.
 bool focusVisible(const QWidget *widget);
-// Drawn just outside `cadre`: leave 3 px around it.
-void anneauDeFocus(QPainter &peintre, const QRectF &cadre, qreal rayon, const QColor &couleur);
+inline constexpr qreal epaisseurDAnneau = 2; // px
+// Drawn just inside `contour`, whose corners have this radius.
+void anneauDeFocus(QPainter &peintre, const QRectF &contour, qreal rayon, const QColor &couleur);
 
 // The soft shadow close under a raised capsule.
 void ombreDouce(QPainter &peintre, const QRectF &capsule);

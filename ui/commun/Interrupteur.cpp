@@ -47,5 +47,6 @@ void Interrupteur::paintEvent(QPaintEvent *)
     peintre.setBrush(Qt::white);
     peintre.drawEllipse(centre, rayon, rayon);
     if (Dessin::focusVisible(this))
-        Dessin::anneauDeFocus(peintre, piste, piste.height() / 2, Theme::accentTexte(palette()));
+        Dessin::anneauDeFocus(peintre, piste.adjusted(-marge, -marge, marge, marge), piste.height() / 2 + marge,
+                              Theme::accentTexte(palette()));
 }

@@ -41,6 +41,6 @@ void PageAuClavier::paintEvent(QPaintEvent *evenement)
         return;
     QPainter peintre(viewport());
     peintre.setRenderHint(QPainter::Antialiasing);
-    Dessin::anneauDeFocus(peintre, QRectF(viewport()->rect()).adjusted(6, 6, -6, -6), Theme::rayonControle,
+    Dessin::anneauDeFocus(peintre, QRectF(viewport()->rect()).adjusted(3, 3, -3, -3), Theme::rayonControle,
                           Theme::accentTexte(palette()));
 }

@@ -45,7 +45,7 @@ void bouton(const QStyleOption &option, QPainter &peintre)
     const QRectF cadre = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
     peintre.drawRoundedRect(cadre, Theme::rayonControle, Theme::rayonControle);
     if (contient(option, QStyle::State_HasFocus) && contient(option, QStyle::State_KeyboardFocusChange))
-        Dessin::anneauDeFocus(peintre, cadre.adjusted(2, 2, -2, -2), Theme::rayonControle - 2,
+        Dessin::anneauDeFocus(peintre, option.rect, Theme::rayonControle,
                               accentue ? encre : Theme::accentTexte(palette));
 }
 
@@ -78,9 +78,10 @@ void champ(const QStyleOption &option, QPainter &peintre)
 {
     const QPalette &palette = option.palette;
     const bool actif = contient(option, QStyle::State_HasFocus);
-    peintre.setPen(QPen(actif ? Theme::accentTexte(palette) : Theme::filet(palette), actif ? 2 : 1));
+    const qreal epaisseur = actif ? Dessin::epaisseurDAnneau : 1;
+    peintre.setPen(QPen(actif ? Theme::accentTexte(palette) : Theme::filet(palette), epaisseur));
     peintre.setBrush(Dessin::melange(Theme::carte(palette), palette.color(QPalette::Window), 0.5));
-    const double retrait = actif ? 1 : 0.5;
+    const qreal retrait = epaisseur / 2;
     peintre.drawRoundedRect(QRectF(option.rect).adjusted(retrait, retrait, -retrait, -retrait), 6, 6);
 }
 
@@ -155,8 +156,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
     case PE_FrameFocusRect:
         // Each control draws its own ring, but a flat tool button is not even asked for its panel.
         if (qobject_cast<const QToolButton *>(widget) && contient(*option, State_KeyboardFocusChange))
-            Dessin::anneauDeFocus(*peintre, QRectF(widget->rect()).adjusted(3, 3, -3, -3), Theme::rayonControle - 2,
-                                  Theme::accentTexte(option->palette));
+            Dessin::anneauDeFocus(*peintre, widget->rect(), Theme::rayonControle, Theme::accentTexte(option->palette));
         break;
     default:
         QProxyStyle::drawPrimitive(element, option, peintre, widget);

@@ -76,7 +76,7 @@ void ApercuFacture::paintEvent(QPaintEvent *)
     const QRectF cadre = QRectF(rect()).adjusted(marge, marge, -marge, -marge);
     if (Dessin::focusVisible(this)) {
         peintre.setRenderHint(QPainter::Antialiasing);
-        Dessin::anneauDeFocus(peintre, cadre, 1, Theme::accentTexte(palette()));
+        Dessin::anneauDeFocus(peintre, rect(), marge, Theme::accentTexte(palette()));
     }
     peindreLaPage(peintre, facture_, cadre, palette());
 }

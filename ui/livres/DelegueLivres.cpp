@@ -104,8 +104,7 @@ void DelegueLivres::paint(QPainter *peintre, const QStyleOptionViewItem &option,
         peintre->drawRoundedRect(marque, Theme::rayonControle, Theme::rayonControle);
     }
     if (option.state.testFlag(QStyle::State_HasFocus) && option.widget && Dessin::focusVisible(option.widget))
-        Dessin::anneauDeFocus(*peintre, marque.adjusted(2, 2, -2, -2), Theme::rayonControle - 2,
-                              Theme::accentTexte(option.palette));
+        Dessin::anneauDeFocus(*peintre, marque, Theme::rayonControle, Theme::accentTexte(option.palette));
     peindreLivre(*peintre, cadre.adjusted(marge, 0, -marge, 0), rang, option.palette);
     peintre->restore();
 }

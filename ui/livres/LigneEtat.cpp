@@ -61,8 +61,7 @@ void LigneEtat::paintEvent(QPaintEvent *evenement)
     QPainter peintre(this);
     peintre.setRenderHint(QPainter::Antialiasing);
     if (Dessin::focusVisible(this))
-        Dessin::anneauDeFocus(peintre, QRectF(rect()).adjusted(2, 2, -2, -2), Theme::rayonControle,
-                              Theme::accentTexte(palette()));
+        Dessin::anneauDeFocus(peintre, rect(), Theme::rayonControle, Theme::accentTexte(palette()));
     const int premiereLigne = (height() - heightForWidth(width())) / 2 + fontMetrics().height() / 2;
     Icone::peindre(peintre, symbole(etat_), QRectF(0, premiereLigne - coteSymbole / 2.0, coteSymbole, coteSymbole),
                    couleur(etat_, palette()));
