@@ -1,11 +1,20 @@
 #include "watch/EcartTarif.h"
 
+#include "model/Format.h"
+
 #include <map>
 #include <utility>
 
 namespace {
 
 using AvantApres = std::pair<std::optional<Centimes>, std::optional<Centimes>>;
+
+// A text that is no day comes back unchanged.
+QString veille(const QString &iso)
+{
+    const QDate jour = Format::jour(iso);
+    return jour.isValid() ? Format::iso(jour.addDays(-1)) : iso;
+}
 
 } // namespace
 
@@ -40,4 +49,9 @@ QList<EcartTarif> EcartTarif::ecarts(const TarifsColissimo &de, const TarifsColi
                 lignes.append({nouvelle, jusqua, montants.first, montants.second});
     }
     return lignes;
+}
+
+QList<EcartTarif> EcartTarif::duReleve(const Catalogue &catalogue, const TarifsColissimo &releves)
+{
+    return ecarts(catalogue.tarifs(veille(releves.validite)), releves);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Tarifs.h"
+#include "model/Catalogue.h"
 
 #include <QList>
 #include <QString>
@@ -24,6 +24,8 @@ struct EcartTarif
     // By grid of the new schedule, in its order, then by weight; a grid that only the old one holds is not reported.
     // Where a grid holds two tiers of one weight, the first counts, as it does for prices.
     static QList<EcartTarif> ecarts(const TarifsColissimo &de, const TarifsColissimo &a);
+    // What these schedules change of those in force on the day before they come into force.
+    static QList<EcartTarif> duReleve(const Catalogue &catalogue, const TarifsColissimo &releves);
 
     bool operator==(const EcartTarif &) const = default;
 };

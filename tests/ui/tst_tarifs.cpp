@@ -33,7 +33,7 @@ private slots:
     void lignes();
     void ecarts_data();
     void ecarts();
-    void compteEtVeille();
+    void compte();
     void laPageGardeSaPlace();
     void changementsEnregistres();
     void fraisRemisAPlusTard();
@@ -172,14 +172,12 @@ void TestTarifs::ecarts()
     QCOMPARE(lisible(texte[0].ecart + u' ' + texte[0].variation).trimmed(), ecart);
 }
 
-void TestTarifs::compteEtVeille()
+void TestTarifs::compte()
 {
     const TarifsColissimo tarifs = desTarifs(QStringLiteral("2026-04-01"), Centimes{600});
     const QList<EcartTarif> un(1);
     QCOMPARE(TextesVerifications::compte(un, tarifs), QStringLiteral("1 palier sur 6 changent."));
     QCOMPARE(TextesVerifications::compte(un + un, tarifs), QStringLiteral("2 paliers sur 6 changent."));
-    QCOMPARE(TextesVerifications::veille(QStringLiteral("2028-03-01")), QStringLiteral("2028-02-29"));
-    QCOMPARE(TextesVerifications::veille(QStringLiteral("2026-02-31")), QStringLiteral("2026-02-31"));
 }
 
 void TestTarifs::laPageGardeSaPlace()

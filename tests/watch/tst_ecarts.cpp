@@ -1,3 +1,4 @@
+#include "tests/Banc.h"
 #include "watch/EcartTarif.h"
 
 #include <QTest>
@@ -9,6 +10,7 @@ class TestEcarts : public QObject
 private slots:
     void ecarts_data();
     void ecarts();
+    void duReleve();
 };
 
 namespace {
@@ -68,6 +70,23 @@ void TestEcarts::ecarts()
     QCOMPARE(enTexte(ecarts), attendus);
     for (const EcartTarif &ecart : ecarts)
         QCOMPARE(ecart.grille, *nouveaux.grille(ecart.grille.code));
+}
+
+// Even when the schedule of that very day is known already.
+void TestEcarts::duReleve()
+{
+    Banc banc;
+    banc.tarifs = {desTarifs(QStringLiteral("2026-01-01"), Centimes{500}),
+                   desTarifs(QStringLiteral("2028-02-29"), Centimes{600}),
+                   desTarifs(QStringLiteral("2028-03-01"), Centimes{700})};
+    const auto catalogue = banc.charger();
+    const auto avant = [&](const char *jour) {
+        const auto ecarts = EcartTarif::duReleve(*catalogue, desTarifs(QString::fromLatin1(jour), Centimes{800}));
+        return ecarts.first().avant.value_or(Centimes{});
+    };
+    QCOMPARE(avant("2028-02-29"), Centimes{500});
+    QCOMPARE(avant("2028-03-01"), Centimes{600});
+    QCOMPARE(avant("2028-02-31"), Centimes{600}); // no day: compared as a text
 }
 
 QTEST_GUILESS_MAIN(TestEcarts)

@@ -64,8 +64,7 @@ CarteNouveauxTarifs::CarteNouveauxTarifs(Catalogue &catalogue, Verifications &ve
     : FeuilleDeReleve(tr("Nouveaux tarifs Colissimo"), parent)
 {
     const ReleveColissimo &releve = *verifications.nouveauxTarifs();
-    const TarifsColissimo &avant = catalogue.tarifs(TextesVerifications::veille(releve.tarifs.validite));
-    const auto ecarts = EcartTarif::ecarts(avant, releve.tarifs);
+    const auto ecarts = EcartTarif::duReleve(catalogue, releve.tarifs);
     if (ecarts.isEmpty()) {
         composerVide(new EtatVide(QStringLiteral("checkmark.seal"), tr("Pas de changement"),
                                   tr("Les tarifs de laposte.fr sont ceux de l’app.")));

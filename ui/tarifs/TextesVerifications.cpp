@@ -96,12 +96,6 @@ Ligne TextesVerifications::paypal(const Verifications &verifications, const Cata
     return ligne;
 }
 
-QString TextesVerifications::veille(const QString &iso)
-{
-    const QDate jour = Format::jour(iso);
-    return jour.isValid() ? Format::iso(jour.addDays(-1)) : iso;
-}
-
 QList<TextesVerifications::Ecart> TextesVerifications::ecarts(const QList<EcartTarif> &ecarts)
 {
     QList<Ecart> textes;

@@ -40,8 +40,6 @@ struct Ecart
     QString variation; // "+5,32 %"; may be empty
 };
 
-// The day before, in the same form; a text that is no day comes back unchanged.
-QString veille(const QString &iso);
 QList<Ecart> ecarts(const QList<EcartTarif> &ecarts);
 // "3 paliers sur 84 changent."
 QString compte(const QList<EcartTarif> &ecarts, const TarifsColissimo &nouveaux);
