@@ -46,6 +46,8 @@ public:
     [[nodiscard]] bool poidsConnu() const { return poidsPese || livresNonPeses.isEmpty(); }
     // Whether no tier of the grid holds the parcel, though its weight is known.
     [[nodiscard]] bool depasseLaGrille() const;
+    // Whether there is something to answer and to send: a known total, the books of one seller.
+    [[nodiscard]] bool pretAPartir() const { return total && vendeurs().size() == 1; }
     [[nodiscard]] QSet<Vendeur> vendeurs() const;
     [[nodiscard]] int nombreDeLivres() const;
 };

@@ -1,6 +1,6 @@
 #include "ui/commande/SectionDocuments.h"
 
-#include "ui/commande/TextesRecapitulatif.h"
+#include "model/Calcul.h"
 #include "ui/commun/Icone.h"
 
 #include <QHBoxLayout>
@@ -26,7 +26,7 @@ SectionDocuments::SectionDocuments(QWidget *parent)
 
 void SectionDocuments::montrer(const Calcul &calcul)
 {
-    const bool pret = TextesRecapitulatif::pretAPartir(calcul);
+    const bool pret = calcul.pretAPartir();
     douane_->setEnabled(pret);
     facture_->setEnabled(pret);
 }

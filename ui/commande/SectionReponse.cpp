@@ -18,5 +18,5 @@ SectionReponse::SectionReponse(const Commande &commande, QWidget *parent)
 void SectionReponse::montrer(const Calcul &calcul)
 {
     ecrire_->setText(TextesRecapitulatif::libelleDeLaReponse(langueAcheteur(commande_, calcul)));
-    ecrire_->setEnabled(TextesRecapitulatif::pretAPartir(calcul));
+    ecrire_->setEnabled(calcul.pretAPartir());
 }

@@ -125,11 +125,6 @@ TextesRecapitulatif::lienDePaiement(const Calcul &calcul, const Reglages &reglag
     };
 }
 
-bool TextesRecapitulatif::pretAPartir(const Calcul &calcul)
-{
-    return calcul.total && calcul.vendeurs().size() == 1;
-}
-
 QString TextesRecapitulatif::libelleDeLaReponse(Langue langue)
 {
     return langue == Langue::anglais ? QStringLiteral("E-mail en anglais") : QStringLiteral("E-mail en français");

@@ -55,8 +55,6 @@ QString declaration(const Calcul &calcul);
 QString detailEnvoi(const Calcul &calcul);
 QString detailFrais(const Calcul &calcul, const FraisPaypal &frais);
 std::optional<LienDePaiement> lienDePaiement(const Calcul &calcul, const Reglages &reglages, const Commande &commande);
-// Whether there is something to answer and to send: a known total, the books of one seller.
-bool pretAPartir(const Calcul &calcul);
 QString libelleDeLaReponse(Langue langue);
 
 } // namespace TextesRecapitulatif
