@@ -24,6 +24,8 @@ struct Facture
         bool operator==(const Ligne &) const = default;
     };
 
+    static constexpr int exemplaires = 2; // the customs pouch asks for two
+
     QString numero;
     QDate date;
     IdentiteVendeur vendeur;

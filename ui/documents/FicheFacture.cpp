@@ -23,7 +23,6 @@
 namespace {
 
 constexpr int largeurDesChamps = 360;
-constexpr int exemplaires = 2; // the customs pouch asks for two
 const QString cleDossier = QStringLiteral("dossierDesFactures");
 
 } // namespace
@@ -89,7 +88,7 @@ QWidget *FicheFacture::formulaire()
 QWidget *FicheFacture::sorties()
 {
     QPushButton *imprimer =
-        Boutons::deFeuille(tr("Imprimer %1 exemplaires").arg(exemplaires), QStringLiteral("printer"));
+        Boutons::deFeuille(tr("Imprimer %1 exemplaires").arg(Facture::exemplaires), QStringLiteral("printer"));
     QPushButton *enregistrer = Boutons::deFeuille(tr("Enregistrer en PDF…"), QStringLiteral("square.and.arrow.down"));
     connect(imprimer, &QPushButton::clicked, this, &FicheFacture::imprimer);
     connect(enregistrer, &QPushButton::clicked, this, &FicheFacture::enregistrer);
@@ -160,8 +159,9 @@ void FicheFacture::completer()
 
 void FicheFacture::imprimer()
 {
-    emettre(tr("Facture %1 imprimée."),
-            [this](const Facture &facture) { return ImpressionFacture::imprimer(facture, exemplaires, this); });
+    emettre(tr("Facture %1 imprimée."), [this](const Facture &facture) {
+        return ImpressionFacture::imprimer(facture, Facture::exemplaires, this);
+    });
 }
 
 void FicheFacture::enregistrer()

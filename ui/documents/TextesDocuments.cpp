@@ -56,6 +56,7 @@ QString TextesDocuments::siteDeLaPoste()
 
 QStringList TextesDocuments::instructionsDeDouane()
 {
+    static_assert(Facture::exemplaires == 2); // as the third one says
     return {QStringLiteral("1. Achetez l’affranchissement Colissimo, en ligne ou au guichet."),
             QStringLiteral("2. Sur %1, remplissez la déclaration avec les valeurs ci-dessous ; le destinataire est "
                            "l’adresse de livraison du paiement PayPal.")
