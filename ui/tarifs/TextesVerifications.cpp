@@ -64,6 +64,12 @@ QString variation(const EcartTarif &ecart)
 
 } // namespace
 
+QString TextesVerifications::rythme()
+{
+    return QStringLiteral("Vérifiés d’eux-mêmes au lancement de l’app, une fois par semaine. Rien ne change sans votre "
+                          "accord.");
+}
+
 Ligne TextesVerifications::laPoste(const Verifications &verifications, const Catalogue &catalogue, QDate jour)
 {
     QString detail = TextesTarifs::enVigueur(catalogue.tarifs(Format::iso(jour)));

@@ -26,6 +26,8 @@ struct Ligne
     QUrl page;               // the one that was read
 };
 
+// When the pages are read, and that nothing follows by itself.
+QString rythme();
 Ligne laPoste(const Verifications &verifications, const Catalogue &catalogue, QDate jour);
 Ligne paypal(const Verifications &verifications, const Catalogue &catalogue);
 

@@ -114,9 +114,7 @@ QWidget *VueTarifs::controles()
     auto *groupe = new Formulaire::Groupe;
     groupe->ajouter(laPoste_);
     groupe->ajouter(paypal_);
-    auto *note = new Libelle(
-        tr("Vérifiés d’eux-mêmes au lancement de l’app, une fois par semaine. Rien ne change sans votre accord."),
-        Libelle::Rang::secondaire);
+    auto *note = new Libelle(TextesVerifications::rythme(), Libelle::Rang::secondaire);
     note->setFont(Theme::legende());
     note->setWordWrap(true);
     auto *section = new QWidget;
