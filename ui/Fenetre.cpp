@@ -1,9 +1,9 @@
 #include "ui/Fenetre.h"
 
 #include "ui/ContenuPrincipal.h"
-#include "ui/MisesAJour.h"
 #include "ui/commun/Place.h"
 #include "ui/misesajour/FeuilleMiseAJour.h"
+#include "watch/MisesAJour.h"
 
 #include <QApplication>
 #include <QCloseEvent>

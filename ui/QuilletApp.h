@@ -4,9 +4,9 @@
 #include "model/Commande.h"
 #include "model/Preferences.h"
 #include "ui/Aujourdhui.h"
-#include "ui/MisesAJour.h"
 #include "ui/Theme.h"
 #include "ui/commande/ImagesCouvertures.h"
+#include "watch/MisesAJour.h"
 #include "watch/Verifications.h"
 
 #include <memory>

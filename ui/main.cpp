@@ -4,12 +4,26 @@
 #include "ui/QuilletApp.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QMessageBox>
+#include <QStandardPaths>
 
 #include <cstdio>
 #include <cstdlib>
 
 namespace {
+
+// As this program was packaged; no feed unless it runs from where the package puts it: an update of another copy would
+// stand beside it.
+SourceMisesAJour sourceDesMisesAJour()
+{
+    const bool installe = QCoreApplication::applicationDirPath() == u"/usr/bin";
+    return {.flux = installe ? QUrl(QStringLiteral(QUILLET_FLUX)) : QUrl(),
+            .clePublique = QByteArrayLiteral(QUILLET_CLE_PUBLIQUE),
+            .installee = QCoreApplication::applicationVersion(),
+            .cache = QDir(QStandardPaths::writableLocation(QStandardPaths::CacheLocation)),
+            .installer = [](const QString &chemin) { return QDesktopServices::openUrl(QUrl::fromLocalFile(chemin)); }};
+}
 
 int ouvrir()
 {
@@ -19,7 +33,7 @@ int ouvrir()
     try {
         QuilletApp quillet(
             Ressources::duProgramme(), Stockage::deLUtilisateur(), Preferences::deLUtilisateur(),
-            [] { return QDate::currentDate(); }, PagesSurveillees(), SourceMisesAJour::duProgramme());
+            [] { return QDate::currentDate(); }, PagesSurveillees(), sourceDesMisesAJour());
         QObject::connect(&instance, &InstanceUnique::appelee, &quillet.fenetre(), &Fenetre::ramener);
         quillet.fenetre().show();
         return QApplication::exec();

@@ -1,12 +1,12 @@
 #include "ui/misesajour/FeuilleMiseAJour.h"
 
-#include "ui/MisesAJour.h"
 #include "ui/Theme.h"
 #include "ui/commun/Alerte.h"
 #include "ui/commun/Boutons.h"
 #include "ui/commun/Libelle.h"
 #include "ui/commun/ZoneDeTexte.h"
 #include "ui/misesajour/TextesMiseAJour.h"
+#include "watch/MisesAJour.h"
 
 #include <QHBoxLayout>
 #include <QProgressBar>

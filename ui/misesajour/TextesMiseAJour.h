@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/MisesAJour.h"
+#include "watch/MisesAJour.h"
 
 #include <QString>
 

@@ -20,10 +20,6 @@ struct SourceMisesAJour
     QDir cache;             // the package goes to a folder of its own in there
     // Hands a verified package to the platform. False when nothing there takes it.
     std::function<bool(const QString &chemin)> installer;
-
-    // As this program was packaged; no feed unless it runs from where the package puts it: an update of another copy
-    // would stand beside it.
-    static SourceMisesAJour duProgramme();
 };
 
 // Looks for a newer version, fetches it and hands it over, each step only when it is asked for.

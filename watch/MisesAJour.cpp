@@ -1,11 +1,7 @@
-#include "ui/MisesAJour.h"
+#include "watch/MisesAJour.h"
 
 #include "watch/ErreurMiseAJour.h"
 #include "watch/Telechargement.h"
-
-#include <QCoreApplication>
-#include <QDesktopServices>
-#include <QStandardPaths>
 
 #include <utility>
 
@@ -16,16 +12,6 @@ constexpr Limites limitesDuFlux{.taille = qint64{256} << 10};
 using Cas = MisesAJour::Etat::Cas;
 
 } // namespace
-
-SourceMisesAJour SourceMisesAJour::duProgramme()
-{
-    const bool installe = QCoreApplication::applicationDirPath() == u"/usr/bin";
-    return {.flux = installe ? QUrl(QStringLiteral(QUILLET_FLUX)) : QUrl(),
-            .clePublique = QByteArrayLiteral(QUILLET_CLE_PUBLIQUE),
-            .installee = QStringLiteral(QUILLET_VERSION),
-            .cache = QDir(QStandardPaths::writableLocation(QStandardPaths::CacheLocation)),
-            .installer = [](const QString &chemin) { return QDesktopServices::openUrl(QUrl::fromLocalFile(chemin)); }};
-}
 
 MisesAJour::MisesAJour(SourceMisesAJour source)
     : source_(std::move(source)),
