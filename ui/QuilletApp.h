@@ -5,7 +5,7 @@
 #include "model/Preferences.h"
 #include "ui/Aujourdhui.h"
 #include "ui/Theme.h"
-#include "ui/commande/ImagesCouvertures.h"
+#include "ui/commun/ImagesCouvertures.h"
 #include "watch/MisesAJour.h"
 #include "watch/Verifications.h"
 

@@ -1,7 +1,7 @@
 #include "tests/Banc.h"
 #include "ui/commande/Couverture.h"
-#include "ui/commande/DessinCouverture.h"
-#include "ui/commande/ImagesCouvertures.h"
+#include "ui/commun/DessinCouverture.h"
+#include "ui/commun/ImagesCouvertures.h"
 
 #include <QFile>
 #include <QSignalSpy>

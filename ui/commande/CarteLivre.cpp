@@ -4,9 +4,9 @@
 #include "model/Format.h"
 #include "ui/Theme.h"
 #include "ui/commande/Couverture.h"
-#include "ui/commande/DessinCouverture.h"
 #include "ui/commande/SelecteurQuantite.h"
 #include "ui/commun/Chiffres.h"
+#include "ui/commun/DessinCouverture.h"
 #include "ui/commun/TextesLivres.h"
 
 #include <QHelpEvent>

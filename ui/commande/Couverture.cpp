@@ -1,10 +1,10 @@
 #include "ui/commande/Couverture.h"
 
 #include "ui/Theme.h"
-#include "ui/commande/DessinCouverture.h"
-#include "ui/commande/ImagesCouvertures.h"
 #include "ui/commun/Chiffres.h"
 #include "ui/commun/Dessin.h"
+#include "ui/commun/DessinCouverture.h"
+#include "ui/commun/ImagesCouvertures.h"
 #include "ui/commun/Ressort.h"
 
 #include <QPainter>
@@ -108,7 +108,7 @@ void Couverture::peindreOmbre(QPainter &peintre)
         if (opacite <= 0)
             return;
         if (cache.isNull() || cache.devicePixelRatio() != densite) {
-            QColor teinte = couleur(livre_);
+            QColor teinte = DessinCouverture::couleur(livre_);
             teinte.setAlphaF(static_cast<float>(ombre.opacite));
             cache = Dessin::ombre(cadre().size(), ombre.rayon, teinte, densite);
         }

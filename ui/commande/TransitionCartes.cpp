@@ -1,7 +1,7 @@
 #include "ui/commande/TransitionCartes.h"
 
 #include "ui/commande/CarteLivre.h"
-#include "ui/commande/ImagesCouvertures.h"
+#include "ui/commun/ImagesCouvertures.h"
 #include "ui/commun/Ressort.h"
 
 #include <QPainter>

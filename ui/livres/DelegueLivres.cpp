@@ -2,9 +2,9 @@
 
 #include "model/Format.h"
 #include "ui/Theme.h"
-#include "ui/commande/DessinCouverture.h"
 #include "ui/commun/Chiffres.h"
 #include "ui/commun/Dessin.h"
+#include "ui/commun/DessinCouverture.h"
 #include "ui/commun/NomsVendeurs.h"
 #include "ui/commun/TextesLivres.h"
 #include "ui/livres/ModeleLivres.h"

@@ -2,11 +2,11 @@
 
 #include "model/Catalogue.h"
 #include "ui/Theme.h"
-#include "ui/commande/ImagesCouvertures.h"
 #include "ui/commun/Choix.h"
 #include "ui/commun/ChoixSegmente.h"
 #include "ui/commun/EtatVide.h"
 #include "ui/commun/Icone.h"
+#include "ui/commun/ImagesCouvertures.h"
 #include "ui/commun/LigneDeTexte.h"
 #include "ui/commun/NomsVendeurs.h"
 #include "ui/commun/SelectionDuLecteur.h"

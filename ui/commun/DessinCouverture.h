@@ -7,14 +7,14 @@
 
 class ImagesCouvertures;
 
-// The book's own colour.
-QColor couleur(const Livre &livre);
-
 namespace DessinCouverture {
 
 // Height of a cover over its width.
 inline constexpr double proportion = 1.5;
 inline constexpr double opaciteIndisponible = 0.55;
+
+// The book's own colour.
+QColor couleur(const Livre &livre);
 
 // The cover with its binding: the picture, or the book's colour until there is one; grey when the book is sold out.
 // The picture is read at the size `lue` and scaled to `taille`.

@@ -1,7 +1,7 @@
-#include "ui/commande/DessinCouverture.h"
+#include "ui/commun/DessinCouverture.h"
 
 #include "ui/Theme.h"
-#include "ui/commande/ImagesCouvertures.h"
+#include "ui/commun/ImagesCouvertures.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -47,7 +47,7 @@ QPixmap enGris(const QPixmap &image)
 
 } // namespace
 
-QColor couleur(const Livre &livre)
+QColor DessinCouverture::couleur(const Livre &livre)
 {
     Q_ASSERT(livre.teinte.size() >= 3); // no book is read without
     const auto composante = [&](qsizetype rang) {

@@ -1,4 +1,4 @@
-#include "ui/commande/ImagesCouvertures.h"
+#include "ui/commun/ImagesCouvertures.h"
 
 #include "model/Couvertures.h"
 
