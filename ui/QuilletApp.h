@@ -22,10 +22,8 @@ public:
     static void preparer(std::optional<Theme::Mode> mode = std::nullopt);
 
     // Throws RessourceIllisible. Without a source there are no updates.
-    QuilletApp(
-        const Ressources &ressources, Stockage stockage, const Preferences &preferences,
-        Aujourdhui aujourdhui = [] { return QDate::currentDate(); }, const PagesSurveillees &pages = {},
-        const SourceMisesAJour &misesAJour = {});
+    QuilletApp(const Ressources &ressources, Stockage stockage, const Preferences &preferences, Aujourdhui aujourdhui,
+               const PagesSurveillees &pages, const SourceMisesAJour &misesAJour = {});
     ~QuilletApp();
     Q_DISABLE_COPY_MOVE(QuilletApp)
 

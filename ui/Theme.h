@@ -19,7 +19,6 @@ constexpr QPalette::ColorRole roleSecondaire = QPalette::BrightText;
 QColor secondaire(const QPalette &palette);
 QColor filet(const QPalette &palette);       // hairlines
 QColor carte(const QPalette &palette);       // raised groups and fields
-QColor panneau(const QPalette &palette);     // sidebar
 QColor remplissage(const QPalette &palette); // quiet fill of capsules and tags
 QColor accent(const QPalette &palette);      // filled accent, white text on it
 QColor accentTexte(const QPalette &palette); // accent as a text or focus colour

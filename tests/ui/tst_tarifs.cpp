@@ -7,7 +7,6 @@
 #include "visite/Ecran.h"
 #include "visite/SiteDeLaVisite.h"
 
-#include <QAbstractButton>
 #include <QDialog>
 #include <QLabel>
 #include <QListWidget>

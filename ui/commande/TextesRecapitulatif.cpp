@@ -1,5 +1,6 @@
 #include "ui/commande/TextesRecapitulatif.h"
 
+#include "documents/ReponseType.h"
 #include "model/Format.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "documents/ReponseType.h"
 #include "model/Calcul.h"
+#include "model/Langue.h"
 
 #include <QList>
 #include <QString>
@@ -16,8 +16,6 @@ struct Ligne
     QString libelle;
     QString detail;
     QString valeur;
-
-    bool operator==(const Ligne &) const = default;
 };
 
 struct Avertissement

@@ -5,7 +5,6 @@
 #include <functional>
 
 class Alerte;
-class Libelle;
 class LigneDeTexte;
 
 // A labelled value that is taken when the typist leaves the field or presses Enter. What is refused is said under the

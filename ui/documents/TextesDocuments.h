@@ -41,8 +41,6 @@ struct Obstacle
     QString symbole;
     QString titre; // may be empty
     QString raison;
-
-    bool operator==(const Obstacle &) const = default;
 };
 
 // None when the invoice can be made.

@@ -10,7 +10,6 @@
 #include "ui/livres/ModeleLivres.h"
 #include "ui/livres/TextesBoutons.h"
 
-#include <QApplication>
 #include <QPainter>
 
 #include <algorithm>

@@ -6,7 +6,6 @@
 #include "ui/commun/ChampSaisi.h"
 #include "ui/commun/DessinCouverture.h"
 #include "ui/commun/Formulaire.h"
-#include "ui/commun/Icone.h"
 #include "ui/commun/ImagesCouvertures.h"
 #include "ui/commun/Interrupteur.h"
 #include "ui/commun/Libelle.h"

@@ -128,7 +128,6 @@ RangeeBouton::RangeeBouton(QGridLayout &grille, int ligne, QObject *parent)
 
 void RangeeBouton::montrer(const TextesBoutons::Ligne &ligne)
 {
-    aReporter_ = ligne.etat == PrixBouton::Etat::aReporter;
     destination_->setText(ligne.destination);
     palier_->setText(ligne.palier);
     palier_->setVisible(!ligne.palier.isEmpty());

@@ -23,7 +23,6 @@ public:
     void montrer(const TextesBoutons::Ligne &ligne);
     void setVisible(bool visible);
     [[nodiscard]] int haut() const { return cellules_.first()->y(); }
-    [[nodiscard]] bool aReporter() const { return aReporter_; }
     // Whether the focus is on one of its controls.
     [[nodiscard]] bool aLeFocus() const;
     void prendreLeFocus();
@@ -33,7 +32,6 @@ signals:
     void garder();
 
 private:
-    bool aReporter_ = false;
     QList<QWidget *> cellules_;
     Libelle *destination_;
     Libelle *palier_;

@@ -63,7 +63,7 @@ void TableauBoutons::montrer(const QList<TextesBoutons::Ligne> &lignes)
 qsizetype TableauBoutons::rangeeTraitee(const QList<TextesBoutons::Ligne> &lignes) const
 {
     for (qsizetype rang = 0; rang < std::min(lignes.size(), lignes_.size()); ++rang)
-        if (rangees_[rang]->aLeFocus() && rangees_[rang]->aReporter()
+        if (rangees_[rang]->aLeFocus() && lignes_[rang].etat == PrixBouton::Etat::aReporter
             && lignes[rang].etat != PrixBouton::Etat::aReporter)
             return rang;
     return -1;

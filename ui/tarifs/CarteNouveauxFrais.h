@@ -2,6 +2,9 @@
 
 #include "ui/tarifs/FeuilleDeReleve.h"
 
+class Catalogue;
+class Verifications;
+
 // PayPal's fees in use beside those that its page shows, and the choice to keep them.
 class CarteNouveauxFrais : public FeuilleDeReleve
 {

@@ -2,6 +2,9 @@
 
 #include "ui/tarifs/FeuilleDeReleve.h"
 
+class Catalogue;
+class Verifications;
+
 // What La Poste's page changes, tier by tier, and the choice to keep it.
 class CarteNouveauxTarifs : public FeuilleDeReleve
 {

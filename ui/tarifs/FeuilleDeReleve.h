@@ -4,9 +4,6 @@
 
 #include <functional>
 
-class Catalogue;
-class Verifications;
-
 // A sheet that shows what a check found: kept on demand, put off otherwise. Nothing changes before that.
 class FeuilleDeReleve : public Feuille
 {

@@ -52,7 +52,7 @@ QString enVigueur(const TarifsColissimo &tarifs);
 QString aPartirDu(const TarifsColissimo &tarifs);
 // In the families' order; a grid of an unknown family stands nowhere. The tier of `commande` is marked where the
 // schedule has it.
-QList<Famille> familles(const TarifsColissimo &tarifs, const std::optional<Calcul> &commande = std::nullopt);
+QList<Famille> familles(const TarifsColissimo &tarifs, const std::optional<Calcul> &commande);
 // The five figures, in the order in which PayPal shows them. "—" for an extra rate that is missing.
 QList<Frais> frais(const FraisPaypal &frais);
 
