@@ -88,6 +88,16 @@ QString Format::euros(Centimes montant)
     return formater(formateur, montant.valeur(), 2);
 }
 
+QString Format::euros(const std::optional<Centimes> &montant)
+{
+    return montant ? euros(*montant) : QStringLiteral("—");
+}
+
+QString Format::ecart(Centimes difference)
+{
+    return (difference > Centimes{} ? QStringLiteral("+") : QString()) + euros(difference);
+}
+
 QString Format::eurosAnglais(Centimes montant)
 {
     static const LocalizedNumberFormatter formateur = enEuros(anglais());
@@ -122,6 +132,11 @@ QString Format::palier(Grammes jusqua)
     const qint64 grammes = jusqua.valeur();
     return grammes >= 1000 && grammes % 1000 == 0 ? QString::number(grammes / 1000) + QStringLiteral(" kg")
                                                   : QString::number(grammes) + QStringLiteral(" g");
+}
+
+QString Format::jusqua(Grammes palier)
+{
+    return QStringLiteral("jusqu’à ") + Format::palier(palier);
 }
 
 QString Format::pourcentage(Taux taux)

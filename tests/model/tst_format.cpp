@@ -35,6 +35,9 @@ void TestFormat::nombres_data()
     cas("-0,05~€", Format::euros(Centimes{-5}));
     cas("92_233_720_368_547_758,07~€", Format::euros(Centimes{std::numeric_limits<qint64>::max()}));
     cas("-92_233_720_368_547_758,08~€", Format::euros(Centimes{std::numeric_limits<qint64>::min()}));
+    cas("—", Format::euros(std::nullopt));
+    cas("+0,05~€", Format::ecart(Centimes{5}));
+    cas("-0,05~€", Format::ecart(Centimes{-5}));
     cas("€12.50", Format::eurosAnglais(Centimes{1250}));
     cas("-€0.05", Format::eurosAnglais(Centimes{-5}));
     cas("12,50", Format::montant(Centimes{1250}));

@@ -1,5 +1,6 @@
 #include "ui/commande/SectionMontants.h"
 
+#include "model/Format.h"
 #include "ui/Theme.h"
 #include "ui/commande/TextesRecapitulatif.h"
 #include "ui/commun/Chiffres.h"
@@ -82,11 +83,11 @@ SectionMontants::SectionMontants(const Reglages &reglages, QWidget *parent)
 void SectionMontants::montrer(const Calcul &calcul)
 {
     envoi_.rangee->setDetail(TextesRecapitulatif::detailEnvoi(calcul));
-    envoi_.montant->afficher(TextesRecapitulatif::euros(calcul.envoi));
+    envoi_.montant->afficher(Format::euros(calcul.envoi));
     total_->setForegroundRole(calcul.total ? QPalette::WindowText : Theme::roleSecondaire);
-    total_->afficher(TextesRecapitulatif::euros(calcul.total));
+    total_->afficher(Format::euros(calcul.total));
     ligneDuTotal_->ajuster();
     frais_.rangee->setDetail(TextesRecapitulatif::detailFrais(calcul, reglages_.fraisPaypal));
-    frais_.montant->afficher(TextesRecapitulatif::euros(negatif(calcul.fraisPaypal)));
-    reste_.montant->afficher(TextesRecapitulatif::euros(calcul.reste));
+    frais_.montant->afficher(Format::euros(negatif(calcul.fraisPaypal)));
+    reste_.montant->afficher(Format::euros(calcul.reste));
 }

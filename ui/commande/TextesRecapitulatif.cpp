@@ -33,11 +33,6 @@ QString TextesRecapitulatif::sousTitre(const Calcul &calcul)
     return livres + Format::poids(calcul.poidsRetenu);
 }
 
-QString TextesRecapitulatif::euros(const std::optional<Centimes> &montant)
-{
-    return montant ? Format::euros(*montant) : QStringLiteral("—");
-}
-
 QList<TextesRecapitulatif::Ligne> TextesRecapitulatif::livres(const Calcul &calcul)
 {
     QList<Ligne> lignes;
@@ -60,7 +55,7 @@ std::optional<TextesRecapitulatif::Ligne> TextesRecapitulatif::palier(const Calc
     const Grammes jusqua = calcul.palier->jusqua;
     return Ligne{QStringLiteral("Palier Colissimo"),
                  QStringLiteral("encore %1 avant le palier suivant").arg(Format::poids(jusqua - calcul.poidsRetenu)),
-                 QStringLiteral("jusqu’à ") + Format::palier(jusqua)};
+                 Format::jusqua(jusqua)};
 }
 
 QList<TextesRecapitulatif::Avertissement> TextesRecapitulatif::avertissementsDePesee(const Calcul &calcul)
@@ -96,7 +91,7 @@ QString TextesRecapitulatif::detailEnvoi(const Calcul &calcul)
 {
     if (!calcul.grille || !calcul.palier)
         return {};
-    return calcul.grille->nomCourt + QStringLiteral(", jusqu’à ") + Format::palier(calcul.palier->jusqua);
+    return calcul.grille->nomCourt + QStringLiteral(", ") + Format::jusqua(calcul.palier->jusqua);
 }
 
 QString TextesRecapitulatif::detailFrais(const Calcul &calcul, const FraisPaypal &frais)
@@ -118,7 +113,7 @@ TextesRecapitulatif::lienDePaiement(const Calcul &calcul, const Reglages &reglag
         .nomDeLObjet = message->nomDeLObjet(),
         .description = message->descriptionDuLien(),
         .prix = Format::montant(*calcul.total),
-        .prixAffiche = euros(calcul.total),
+        .prixAffiche = Format::euros(calcul.total),
         .retour = message->vendeur.retourPaypal,
         .indicationDuPays = anglais ? QStringLiteral("en anglais, pour la description")
                                     : QStringLiteral("en français, avec l’article : la Belgique, l’Italie, le Canada"),

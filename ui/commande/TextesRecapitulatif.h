@@ -40,8 +40,6 @@ struct LienDePaiement
 
 // "3 livres · 1 250 g"
 QString sousTitre(const Calcul &calcul);
-// "—" for no amount.
-QString euros(const std::optional<Centimes> &montant);
 
 QList<Ligne> livres(const Calcul &calcul);
 QString emballage(const Emballage &emballage);

@@ -5,17 +5,11 @@
 
 namespace {
 
-QString euros(const std::optional<Centimes> &montant)
-{
-    return montant ? Format::euros(*montant) : QStringLiteral("—");
-}
-
 QString ecart(const PrixBouton &bouton)
 {
     if (!bouton.calcule || !bouton.actuel || bouton.calcule == bouton.actuel)
         return {};
-    const Centimes ecart = *bouton.calcule - *bouton.actuel;
-    return (ecart > Centimes{} ? QStringLiteral("+") : QString()) + Format::euros(ecart);
+    return Format::ecart(*bouton.calcule - *bouton.actuel);
 }
 
 QString pourquoiSansPrix(const PrixBouton &bouton, const Livre &livre, const TarifsColissimo &tarifs)
@@ -50,8 +44,8 @@ QList<TextesBoutons::Ligne> TextesBoutons::lignes(const QList<PrixBouton> &bouto
     for (const PrixBouton &bouton : boutons) {
         Ligne ligne{.destination = bouton.destination.valeurPaypal,
                     .palier = {},
-                    .actuel = euros(bouton.actuel),
-                    .calcule = euros(bouton.calcule),
+                    .actuel = Format::euros(bouton.actuel),
+                    .calcule = Format::euros(bouton.calcule),
                     .ecart = ecart(bouton),
                     .etat = bouton.etat(),
                     .etatEnMots = etatEnMots(bouton, livre, tarifs),
@@ -59,8 +53,8 @@ QList<TextesBoutons::Ligne> TextesBoutons::lignes(const QList<PrixBouton> &bouto
                     .peutReporter = bouton.calcule && bouton.calcule != bouton.actuel,
                     .peutGarder = bouton.etat() == PrixBouton::Etat::aReporter};
         if (bouton.calcule) {
-            ligne.palier = QStringLiteral("jusqu’à %1 · envoi %2")
-                               .arg(Format::palier(*bouton.palier), Format::euros(*bouton.envoi));
+            ligne.palier =
+                QStringLiteral("%1 · envoi %2").arg(Format::jusqua(*bouton.palier), Format::euros(*bouton.envoi));
             ligne.aCopier = Format::montant(*bouton.calcule);
         }
         lignes.append(ligne);

@@ -50,7 +50,7 @@ Famille tableau(const QString &titre, const QList<GrilleColissimo> &grilles, con
             poids.insert(palier.jusqua);
     }
     for (const Grammes jusqua : poids) {
-        Palier palier{QStringLiteral("jusqu’à ") + Format::palier(jusqua), {}};
+        Palier palier{Format::jusqua(jusqua), {}};
         for (const GrilleColissimo &grille : grilles)
             palier.prix.append(prix(grille, jusqua, commande));
         famille.paliers.append(palier);

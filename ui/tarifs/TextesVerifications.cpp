@@ -36,30 +36,21 @@ void direLEtat(Ligne &ligne, const Verifications::Etat &etat, const std::optiona
     }
 }
 
-QString prix(const std::optional<Centimes> &montant)
-{
-    return montant ? Format::euros(*montant) : QStringLiteral("—");
-}
-
-QString signe(bool hausse)
-{
-    return hausse ? QStringLiteral("+") : QString();
-}
-
 QString difference(const EcartTarif &ecart)
 {
     if (!ecart.avant)
         return QStringLiteral("nouveau palier");
     if (!ecart.apres)
         return QStringLiteral("palier supprimé");
-    const Centimes difference = *ecart.apres - *ecart.avant;
-    return signe(difference > Centimes{}) + Format::euros(difference);
+    return Format::ecart(*ecart.apres - *ecart.avant);
 }
 
 QString variation(const EcartTarif &ecart)
 {
     const auto taux = ecart.variation();
-    return taux ? signe(*taux > Taux{}) + Format::pourcentage(*taux) : QString();
+    if (!taux)
+        return {};
+    return (*taux > Taux{} ? QStringLiteral("+") : QString()) + Format::pourcentage(*taux);
 }
 
 } // namespace
@@ -106,8 +97,8 @@ QList<TextesVerifications::Ecart> TextesVerifications::ecarts(const QList<EcartT
 {
     QList<Ecart> textes;
     for (const EcartTarif &ecart : ecarts)
-        textes.append({ecart.grille.nomCourt, Format::palier(ecart.jusqua), prix(ecart.avant), prix(ecart.apres),
-                       difference(ecart), variation(ecart)});
+        textes.append({ecart.grille.nomCourt, Format::palier(ecart.jusqua), Format::euros(ecart.avant),
+                       Format::euros(ecart.apres), difference(ecart), variation(ecart)});
     return textes;
 }
 
