@@ -2,6 +2,7 @@
 
 #include "model/Catalogue.h"
 #include "ui/commun/TextesLivres.h"
+#include "ui/livres/Suivant.h"
 #include "ui/livres/TextesBoutons.h"
 
 #include <algorithm>
@@ -103,11 +104,7 @@ std::optional<int> ModeleLivres::rang(qint64 id) const
 
 std::optional<int> ModeleLivres::suivantAReporter(int rang) const
 {
-    const int nombre = rowCount();
-    for (int pas = 1; pas < nombre; ++pas)
-        if (const int suivant = (rang + pas) % nombre; aReporter(suivant) > 0)
-            return suivant;
-    return std::nullopt;
+    return suivantDuTour(rang, rowCount(), [this](int autre) { return aReporter(autre) > 0; });
 }
 
 bool ModeleLivres::ouvreUnGroupe(int rang) const

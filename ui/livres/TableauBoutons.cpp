@@ -3,6 +3,7 @@
 #include "ui/Theme.h"
 #include "ui/commun/Dessin.h"
 #include "ui/livres/RangeeBouton.h"
+#include "ui/livres/Suivant.h"
 
 #include <QGridLayout>
 #include <QPainter>
@@ -13,15 +14,9 @@ namespace {
 
 constexpr int marge = 16;
 
-// The next row that waits for the seller, from the top again after the last; -1: none.
-qsizetype aReporterApres(qsizetype rang, const QList<TextesBoutons::Ligne> &lignes)
+bool attend(const TextesBoutons::Ligne &ligne)
 {
-    for (qsizetype pas = 1; pas < lignes.size(); ++pas) {
-        const qsizetype suivant = (rang + pas) % lignes.size();
-        if (lignes[suivant].etat == PrixBouton::Etat::aReporter)
-            return suivant;
-    }
-    return -1;
+    return ligne.etat == PrixBouton::Etat::aReporter;
 }
 
 } // namespace
@@ -45,28 +40,32 @@ void TableauBoutons::montrer(const QList<TextesBoutons::Ligne> &lignes)
         connect(rangee, &RangeeBouton::garder, this, [this, rang] { emit garder(rang); });
         rangees_.append(rangee);
     }
-    const qsizetype traitee = rangeeTraitee(lignes);
-    const qsizetype suivante = traitee < 0 ? -1 : aReporterApres(traitee, lignes);
-    if (traitee >= 0) // before its button hides: Qt would give the focus to a neighbour
-        rangees_[suivante >= 0 ? suivante : traitee]->prendreLeFocus();
+    const auto traitee = rangeeTraitee(lignes);
+    std::optional<int> suivante;
+    if (traitee) {
+        suivante =
+            suivantDuTour(*traitee, static_cast<int>(lignes.size()), [&](int rang) { return attend(lignes[rang]); });
+        // Before its button hides: Qt would give the focus to a neighbour.
+        rangees_[suivante.value_or(*traitee)]->prendreLeFocus();
+    }
     lignes_ = lignes;
     for (qsizetype rang = 0; rang < rangees_.size(); ++rang) {
         rangees_[rang]->setVisible(rang < lignes.size());
         if (rang < lignes.size())
             rangees_[rang]->montrer(lignes[rang]);
     }
-    if (traitee >= 0 && suivante < 0)
+    if (traitee && !suivante)
         emit termine();
 }
 
-// The row that the seller has just dealt with; -1: none.
-qsizetype TableauBoutons::rangeeTraitee(const QList<TextesBoutons::Ligne> &lignes) const
+// The row that the seller has just dealt with.
+std::optional<int> TableauBoutons::rangeeTraitee(const QList<TextesBoutons::Ligne> &lignes) const
 {
-    for (qsizetype rang = 0; rang < std::min(lignes.size(), lignes_.size()); ++rang)
-        if (rangees_[rang]->aLeFocus() && lignes_[rang].etat == PrixBouton::Etat::aReporter
-            && lignes[rang].etat != PrixBouton::Etat::aReporter)
+    const auto communes = static_cast<int>(std::min(lignes.size(), lignes_.size()));
+    for (int rang = 0; rang < communes; ++rang)
+        if (rangees_[rang]->aLeFocus() && attend(lignes_[rang]) && !attend(lignes[rang]))
             return rang;
-    return -1;
+    return std::nullopt;
 }
 
 void TableauBoutons::paintEvent(QPaintEvent *)

@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 class QGridLayout;
 class RangeeBouton;
 
@@ -27,7 +29,7 @@ protected:
     void paintEvent(QPaintEvent *evenement) override;
 
 private:
-    [[nodiscard]] qsizetype rangeeTraitee(const QList<TextesBoutons::Ligne> &lignes) const;
+    [[nodiscard]] std::optional<int> rangeeTraitee(const QList<TextesBoutons::Ligne> &lignes) const;
 
     QGridLayout *grille_;
     QList<RangeeBouton *> rangees_;
