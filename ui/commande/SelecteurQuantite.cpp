@@ -14,6 +14,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace {
 
@@ -83,8 +84,7 @@ SelecteurQuantite::SelecteurQuantite(const Livre &livre, Commande &commande, QWi
     auto *rangee = new QHBoxLayout(this);
     rangee->setContentsMargins(bord, 2, bord, 4); // 2 px below the capsule are its shadow's
     rangee->setSpacing(espace);
-    for (QWidget *partie :
-         {static_cast<QWidget *>(moins_), static_cast<QWidget *>(nombre_), static_cast<QWidget *>(plus_)})
+    for (QWidget *partie : std::initializer_list<QWidget *>{moins_, nombre_, plus_})
         rangee->addWidget(partie);
     connect(moins_, &QAbstractButton::clicked, this, [livre, &commande] { commande.ajuster(livre, -1); });
     connect(plus_, &QAbstractButton::clicked, this, [livre, &commande] { commande.ajuster(livre, 1); });
@@ -123,12 +123,8 @@ void SelecteurQuantite::decrire()
 
 void SelecteurQuantite::colorer()
 {
-    // The parent's palette stays the reference: our own already carries the last colour handed down.
-    const QColor normale =
-        parentWidget() ? parentWidget()->palette().color(QPalette::WindowText) : palette().color(QPalette::WindowText);
-    const QColor couleur = Dessin::melange(normale, Qt::white, plein_->valeur());
-    for (QWidget *partie :
-         {static_cast<QWidget *>(moins_), static_cast<QWidget *>(nombre_), static_cast<QWidget *>(plus_)}) {
+    const QColor couleur = Dessin::melange(palette().color(QPalette::WindowText), Qt::white, plein_->valeur());
+    for (QWidget *partie : std::initializer_list<QWidget *>{moins_, nombre_, plus_}) {
         QPalette teintee = partie->palette();
         teintee.setColor(QPalette::ButtonText, couleur);
         teintee.setColor(QPalette::WindowText, couleur);

@@ -12,8 +12,8 @@ namespace {
 QStringList sites(const Reglages &reglages)
 {
     QStringList noms;
-    for (const auto &valeur : Json::valeursBrutes<Vendeur>)
-        noms.append(NomsVendeurs::site(valeur.cas, reglages));
+    for (const Vendeur vendeur : tousLesVendeurs)
+        noms.append(NomsVendeurs::site(vendeur, reglages));
     return noms;
 }
 
@@ -31,19 +31,18 @@ SelecteurSite::SelecteurSite(const Reglages &reglages, QWidget *parent)
     auto *rangee = new QHBoxLayout(this);
     rangee->setContentsMargins(0, 0, 0, 0);
     rangee->addWidget(choix_, 0, Qt::AlignCenter);
-    for (int i = 0; i < int(Json::valeursBrutes<Vendeur>.size()); ++i) {
-        const Vendeur vendeur = Json::valeursBrutes<Vendeur>[std::size_t(i)].cas;
-        choix_->bouton(i)->setAccessibleName(
-            tr("%1, livres de %2")
-                .arg(NomsVendeurs::site(vendeur, reglages), NomsVendeurs::complet(vendeur, reglages)));
-    }
+    for (const Vendeur vendeur : tousLesVendeurs)
+        choix_->bouton(static_cast<int>(vendeur))
+            ->setAccessibleName(
+                tr("%1, livres de %2")
+                    .arg(NomsVendeurs::site(vendeur, reglages), NomsVendeurs::complet(vendeur, reglages)));
     connect(choix_, &ChoixSegmente::choisi, this,
-            [this](int indice) { emit choisi(Json::valeursBrutes<Vendeur>[std::size_t(indice)].cas); });
+            [this](int indice) { emit choisi(tousLesVendeurs[static_cast<std::size_t>(indice)]); });
 }
 
 QWidget *SelecteurSite::dernierControle() const
 {
-    return choix_->bouton(static_cast<int>(Json::valeursBrutes<Vendeur>.size()) - 1);
+    return choix_->bouton(static_cast<int>(tousLesVendeurs.back()));
 }
 
 void SelecteurSite::montrer(Vendeur vendeur)

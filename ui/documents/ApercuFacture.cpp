@@ -2,11 +2,11 @@
 
 #include "ui/Theme.h"
 #include "ui/commun/Dessin.h"
+#include "ui/commun/Feuille.h"
 #include "ui/commun/PageAuClavier.h"
 #include "ui/commun/Place.h"
 #include "ui/documents/PageFacture.h"
 
-#include <QDialog>
 #include <QPainter>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -83,9 +83,7 @@ void ApercuFacture::paintEvent(QPaintEvent *)
 
 void ApercuFacture::agrandir()
 {
-    auto *vue = new QDialog(window());
-    vue->setAttribute(Qt::WA_DeleteOnClose);
-    vue->setWindowTitle(facture_.titre());
+    auto *vue = new Feuille(facture_.titre(), window());
     auto *page = new QWidget;
     auto *centre = new QVBoxLayout(page);
     centre->addWidget(new PageEntiere(facture_), 0, Qt::AlignCenter);
@@ -97,5 +95,5 @@ void ApercuFacture::agrandir()
     colonne->addWidget(defilement);
     const QSize voulue = page->sizeHint() + QSize(defilement->verticalScrollBar()->sizeHint().width(), 0);
     vue->resize(voulue.boundedTo(Place::surLEcran(vue)));
-    vue->open();
+    vue->ouvrir();
 }

@@ -92,7 +92,7 @@ QWidget *VoletLivres::filtres()
     if (auto *croix = recherche_->findChild<QAction *>(QStringLiteral("_q_qlineeditclearaction")))
         croix->setText(tr("Effacer la recherche"));
     QStringList vendeurs{tr("Tous")};
-    for (const auto &[vendeur, brut] : Json::valeursBrutes<Vendeur>)
+    for (const Vendeur vendeur : tousLesVendeurs)
         vendeurs.append(NomsVendeurs::court(vendeur));
     auto *vendeur = new ChoixSegmente(vendeurs, {.police = Theme::encadre(), .hauteur = 26});
     vendeur->setAccessibleName(tr("Vendeur"));
@@ -109,7 +109,7 @@ QWidget *VoletLivres::filtres()
         filtrer();
     });
     connect(vendeur, &ChoixSegmente::choisi, this, [this](int choisi) {
-        filtre_.vendeur = choisi == 0 ? std::nullopt : std::optional(Json::valeursBrutes<Vendeur>[choisi - 1].cas);
+        filtre_.vendeur = choisi == 0 ? std::nullopt : std::optional(tousLesVendeurs[choisi - 1]);
         filtrer();
     });
     connect(etat, &Choix::choisi, this, [this](const QString &choisi) {
