@@ -114,7 +114,7 @@ void CarteLivre::montrer(const Livre &livre, int quantite)
     update();
 }
 
-QWidget *CarteLivre::suivre(QWidget *precedent)
+QWidget *CarteLivre::placerApres(QWidget *precedent)
 {
     QWidget *dernier = precedent;
     for (auto *controle : findChildren<QAbstractButton *>()) {

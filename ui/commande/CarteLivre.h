@@ -20,14 +20,14 @@ public:
     [[nodiscard]] const Livre &livre() const { return livre_; }
     void montrer(const Livre &livre, int quantite);
     // Puts the card's controls behind `precedent` in the order of the Tab key; gives the last of them.
-    QWidget *suivre(QWidget *precedent);
+    QWidget *placerApres(QWidget *precedent);
 
     // Lifts the cover or lays it down by where the pointer is, in the card's own pixels.
     void suivreLePointeur(const QPoint &pointeur);
 
-    // Height of what a card shows, for the width of what it shows.
+    // Height of what a card shows, for the width of what it shows, px.
     [[nodiscard]] static int hauteur(int largeur);
-    // The narrowest on which a usual price stands beside its stepper at full size.
+    // The narrowest on which a usual price stands beside its stepper at full size, px.
     [[nodiscard]] static int largeurMinimale();
 
 protected:

@@ -70,7 +70,7 @@ void GrilleLivres::remplacerLesCartes(const QList<Livre> &livres)
     QWidget *precedent = precedent_;
     for (CarteLivre *carte : std::as_const(cartes_)) {
         carte->show();
-        precedent = carte->suivre(precedent);
+        precedent = carte->placerApres(precedent);
     }
     if (!sortantes.isEmpty())
         TransitionCartes::jouer(sortantes, TransitionCartes::instantanes(cartes_), images_, this);

@@ -26,7 +26,8 @@ void anneauDeFocus(QPainter &peintre, const QRectF &contour, qreal rayon, const 
 // The soft shadow close under a raised capsule.
 void ombreDouce(QPainter &peintre, const QRectF &capsule);
 
-// The blurred shadow of a rectangle, with `rayon` of room on every side of it.
+// The blurred shadow of a rectangle, with `rayon` of room on every side of it, both px; `densite`: of the device, per
+// px.
 QPixmap ombre(const QSizeF &taille, qreal rayon, const QColor &couleur, qreal densite);
 
 } // namespace Dessin

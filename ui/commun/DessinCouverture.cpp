@@ -56,7 +56,7 @@ QColor DessinCouverture::couleur(const Livre &livre)
     return {composante(0), composante(1), composante(2)};
 }
 
-QPixmap DessinCouverture::dessin(const Livre &livre, const QSizeF &taille, const QSizeF &lue, qreal densite,
+QPixmap DessinCouverture::dessin(const Livre &livre, const QSizeF &taille, const QSizeF &tailleDeLecture, qreal densite,
                                  ImagesCouvertures &images)
 {
     const QSize pixels = (taille * densite).toSize();
@@ -69,7 +69,7 @@ QPixmap DessinCouverture::dessin(const Livre &livre, const QSizeF &taille, const
     QPainterPath contour;
     contour.addRoundedRect(tout, Theme::rayonCouverture, Theme::rayonCouverture);
     peintre.setRenderHint(QPainter::SmoothPixmapTransform);
-    const QImage image = images.image(livre.couverture, (lue * densite).toSize());
+    const QImage image = images.image(livre.couverture, (tailleDeLecture * densite).toSize());
     QBrush brosse(couleur(livre));
     if (!image.isNull()) {
         brosse = QBrush(image);

@@ -17,7 +17,9 @@ inline constexpr double opaciteIndisponible = 0.55;
 QColor couleur(const Livre &livre);
 
 // The cover with its binding: the picture, or the book's colour until there is one; grey when the book is sold out.
-// The picture is read at the size `lue` and scaled to `taille`.
-QPixmap dessin(const Livre &livre, const QSizeF &taille, const QSizeF &lue, qreal densite, ImagesCouvertures &images);
+// The picture is read at `tailleDeLecture` and scaled to `taille`, both px of the screen; `densite`: of the device, per
+// px.
+QPixmap dessin(const Livre &livre, const QSizeF &taille, const QSizeF &tailleDeLecture, qreal densite,
+               ImagesCouvertures &images);
 
 } // namespace DessinCouverture

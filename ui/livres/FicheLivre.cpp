@@ -86,12 +86,12 @@ FicheLivre::FicheLivre(ImagesCouvertures &images, QWidget *parent)
     auto *colonne = new QVBoxLayout(this);
     colonne->setContentsMargins(0, 0, 0, 0);
     colonne->setSpacing(entreSections);
-    colonne->addWidget(entete(images));
+    colonne->addWidget(enTete(images));
     colonne->addWidget(boutonsPaypal());
     colonne->addStretch(1);
 }
 
-QWidget *FicheLivre::entete(ImagesCouvertures &images)
+QWidget *FicheLivre::enTete(ImagesCouvertures &images)
 {
     image_ = new Image(images);
     titre_->setFont(Theme::titreSection());
@@ -104,13 +104,13 @@ QWidget *FicheLivre::entete(ImagesCouvertures &images)
     textes->addSpacing(14);
     textes->addWidget(reglages());
     textes->addStretch(1);
-    auto *entete = new QWidget;
-    auto *rangee = new QHBoxLayout(entete);
+    auto *enTete = new QWidget;
+    auto *rangee = new QHBoxLayout(enTete);
     rangee->setContentsMargins(0, 0, 0, 0);
     rangee->setSpacing(24);
     rangee->addWidget(image_, 0, Qt::AlignTop);
     rangee->addLayout(textes, 1);
-    return entete;
+    return enTete;
 }
 
 QWidget *FicheLivre::reglages()

@@ -34,7 +34,7 @@ signals:
     void livreSuivant();
 
 private:
-    QWidget *entete(ImagesCouvertures &images);
+    QWidget *enTete(ImagesCouvertures &images);
     QWidget *reglages();
     QWidget *boutonsPaypal();
 

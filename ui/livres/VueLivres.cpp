@@ -35,7 +35,7 @@ constexpr int largeurDuVolet = 340;
 constexpr int marge = 24;
 
 // The button in words, with what it would act on; nothing to act on disables it.
-void dire(QToolButton *bouton, const QString &nom, const QString &geste)
+void nommer(QToolButton *bouton, const QString &nom, const QString &geste)
 {
     QAction *action = bouton->defaultAction();
     const QString texte = geste.isEmpty() ? nom : QStringLiteral("%1 : %2").arg(nom, geste);
@@ -79,12 +79,12 @@ VueLivres::VueLivres(Catalogue &catalogue, ImagesCouvertures &images, Aujourdhui
     connect(fiche_, &FicheLivre::garder, this, [this](const Livre &livre, const PrixBouton &bouton) {
         tenter([&] { historique_.garder(livre, bouton, TextesGestes::garde(livre)); });
     });
-    connect(&historique_, &HistoriqueLivres::change, this, &VueLivres::direLesGestes);
+    connect(&historique_, &HistoriqueLivres::change, this, &VueLivres::montrerAnnulation);
     connect(fiche_, &FicheLivre::livreSuivant, volet_, &VoletLivres::passerAuSuivant);
     connect(volet_, &VoletLivres::choixChange, this, &VueLivres::actualiser);
     connect(choix_, &ChoixTarifs::choisi, this, &VueLivres::actualiser);
     connect(&catalogue_, &Catalogue::change, this, &VueLivres::actualiser);
-    direLesGestes();
+    montrerAnnulation();
     auto *chercher = new QShortcut(QKeySequence::Find, this);
     connect(chercher, &QShortcut::activated, volet_, &VoletLivres::chercher);
 }
@@ -158,7 +158,7 @@ void VueLivres::actualiser()
 }
 
 // A disabled button would hand the focus to a neighbour that has nothing to do with it.
-void VueLivres::direLesGestes()
+void VueLivres::montrerAnnulation()
 {
     for (const QToolButton *bouton : {annuler_, retablir_})
         bouton->defaultAction()->setEnabled(true);
@@ -166,8 +166,8 @@ void VueLivres::direLesGestes()
         retablir_->setFocus();
     else if (retablir_->hasFocus() && historique_.aRetablir().isEmpty())
         annuler_->setFocus();
-    dire(annuler_, tr("Annuler"), historique_.aAnnuler());
-    dire(retablir_, tr("Rétablir"), historique_.aRetablir());
+    nommer(annuler_, tr("Annuler"), historique_.aAnnuler());
+    nommer(retablir_, tr("Rétablir"), historique_.aRetablir());
 }
 
 bool VueLivres::conclure()

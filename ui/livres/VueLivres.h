@@ -38,7 +38,7 @@ private:
     QWidget *droite();
     QToolButton *creerBouton(const QString &symbole, QKeySequence::StandardKey touches);
     void actualiser();
-    void direLesGestes();
+    void montrerAnnulation();
     void tenter(const std::function<void()> &geste);
     void revenir();
 
