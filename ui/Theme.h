@@ -14,7 +14,7 @@ QPalette palette(Mode mode);
 // Light or dark, told from the text and window colours.
 Mode mode(const QPalette &palette);
 
-// Text of second rank, and its place in a palette.
+// Text of second rank, and the role lent to it: palettes have none for it.
 constexpr QPalette::ColorRole roleSecondaire = QPalette::BrightText;
 QColor secondaire(const QPalette &palette);
 QColor filet(const QPalette &palette);       // hairlines

@@ -4,7 +4,7 @@
 
 #include <QDialog>
 
-// A sheet over the window: a bar with its choices and the button that closes it (also Escape), its page below.
+// A sheet over the window; Escape closes it.
 class Feuille : public QDialog
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ protected:
     // Brings the sheet up to date if another day has come.
     void suivreLeJour();
     [[nodiscard]] QDate aujourdhui() const { return aujourdhui_(); }
-    // `choix` stands at the left of the bar.
+    // A bar with the sheet's choices at its left and the button that closes it, the page below.
     void meubler(QWidget *choix, QWidget *page);
     // The given size, in proportion to the text, or what the screen leaves.
     void prendreLaTaille(QSize taille);

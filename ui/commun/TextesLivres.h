@@ -4,7 +4,7 @@
 
 #include <QString>
 
-// What the books' screen says of the books: texts only, laid out by the widgets.
+// What the books' screen and the cards of an order say of the books: texts only, laid out by the widgets.
 namespace TextesLivres {
 
 // "14 livres"

@@ -205,7 +205,7 @@ void FicheLivre::montrer(const Livre &livre, const QList<PrixBouton> &boutons, c
 
     const qsizetype enAttente = PrixBouton::aReporter(boutons).size();
     situation_->setText(TextesBoutons::situation(livre, enAttente));
-    suivant_->setVisible(enAttente == 0 && suivant);
+    suivant_->setVisible(enAttente == 0 && suivant); // before the table hands it the focus
     tableau_->montrer(TextesBoutons::lignes(boutons, livre, tarifs));
     toutReporter_->setVisible(enAttente > 0);
 }
