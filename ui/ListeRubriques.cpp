@@ -33,9 +33,7 @@ double peindrePastille(QPainter &peintre, const QStyleOptionViewItem &option, co
     peintre.setFont(Theme::enGras(Theme::legende()));
     const auto [large, haut] = taillePastille(nombre);
     const QRectF capsule(cadre.right() - marge - large, cadre.center().y() - haut / 2, large, haut);
-    peintre.setPen(Qt::NoPen);
-    peintre.setBrush(Theme::accent(option.palette));
-    peintre.drawRoundedRect(capsule, haut / 2, haut / 2);
+    Dessin::aplat(peintre, capsule, haut / 2, Theme::accent(option.palette));
     peintre.setPen(option.palette.color(QPalette::HighlightedText));
     peintre.drawText(capsule, Qt::AlignCenter, QString::number(nombre));
     return large + aDroite;
@@ -59,17 +57,12 @@ public:
         const bool choisie = option.state.testFlag(QStyle::State_Selected);
         const bool survolee = option.state.testFlag(QStyle::State_MouseOver);
         const QRectF cadre = QRectF(option.rect).adjusted(marge, 1, -marge, -1);
-        if (choisie || survolee) {
-            QColor fond = choisie ? Theme::accentTexte(palette) : palette.color(QPalette::WindowText);
-            fond.setAlphaF(choisie ? 0.11F : 0.05F);
-            peintre->setPen(Qt::NoPen);
-            peintre->setBrush(fond);
-            peintre->drawRoundedRect(cadre, Theme::rayonControle, Theme::rayonControle);
-        }
+        const QColor couleur = choisie ? Theme::accentTexte(palette) : palette.color(QPalette::WindowText);
+        if (choisie || survolee)
+            Dessin::aplat(*peintre, cadre, Theme::rayonControle, Dessin::transparente(couleur, choisie ? 0.11 : 0.05));
         if (option.state.testFlag(QStyle::State_HasFocus) && option.widget && Dessin::focusVisible(option.widget))
             Dessin::anneauDeFocus(*peintre, cadre, Theme::rayonControle, Theme::accentTexte(palette));
 
-        const QColor couleur = choisie ? Theme::accentTexte(palette) : palette.color(QPalette::WindowText);
         Icone::peindre(*peintre, indice.data(roleSymbole).toString(),
                        QRectF(cadre.left() + marge, cadre.center().y() - coteSymbole / 2.0, coteSymbole, coteSymbole),
                        couleur);

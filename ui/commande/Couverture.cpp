@@ -108,8 +108,7 @@ void Couverture::peindreOmbre(QPainter &peintre)
         if (opacite <= 0)
             return;
         if (cache.isNull() || cache.devicePixelRatio() != densite) {
-            QColor teinte = DessinCouverture::couleur(livre_);
-            teinte.setAlphaF(static_cast<float>(ombre.opacite));
+            const QColor teinte = Dessin::transparente(DessinCouverture::couleur(livre_), ombre.opacite);
             cache = Dessin::ombre(cadre().size(), ombre.rayon, teinte, densite);
         }
         peintre.setOpacity(opacite * (livre_.disponible ? 1 : opaciteIndisponible));
@@ -169,9 +168,7 @@ void Couverture::peindrePastille(QPainter &peintre) const
     peintre.setOpacity(std::clamp(pastille_->valeur(), 0.0, 1.0));
     const QRectF capsule(-largeur / 2, -cote / 2, largeur, cote);
     Dessin::ombreDouce(peintre, capsule);
-    peintre.setPen(Qt::NoPen);
-    peintre.setBrush(Theme::accent(palette()));
-    peintre.drawRoundedRect(capsule, cote / 2, cote / 2);
+    Dessin::aplat(peintre, capsule, cote / 2, Theme::accent(palette()));
     peintre.setFont(police);
     peintre.setPen(Qt::white);
     Chiffres::peindre(peintre, capsule, Qt::AlignCenter, nombre);

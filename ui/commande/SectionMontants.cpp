@@ -4,6 +4,7 @@
 #include "ui/Theme.h"
 #include "ui/commande/TextesRecapitulatif.h"
 #include "ui/commun/Chiffres.h"
+#include "ui/commun/Dessin.h"
 #include "ui/commun/Libelle.h"
 
 #include <QHBoxLayout>
@@ -41,11 +42,7 @@ protected:
     {
         QPainter peintre(this);
         peintre.setRenderHint(QPainter::Antialiasing);
-        QColor fond = Theme::accentTexte(palette());
-        fond.setAlphaF(0.14F);
-        peintre.setPen(Qt::NoPen);
-        peintre.setBrush(fond);
-        peintre.drawRoundedRect(rect(), Theme::rayonGroupe, Theme::rayonGroupe);
+        Dessin::aplat(peintre, rect(), Theme::rayonGroupe, Dessin::transparente(Theme::accentTexte(palette()), 0.14));
     }
 
 private:

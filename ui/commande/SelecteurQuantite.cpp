@@ -45,20 +45,14 @@ protected:
     {
         QPainter peintre(this);
         peintre.setRenderHint(QPainter::Antialiasing);
-        QColor couleur = palette().color(QPalette::Active, QPalette::ButtonText);
-        if (isEnabled() && (underMouse() || isDown())) {
-            QColor fond = couleur;
-            fond.setAlphaF(isDown() ? 0.28F : 0.14F);
-            peintre.setPen(Qt::NoPen);
-            peintre.setBrush(fond);
-            peintre.drawEllipse(rect());
-        }
-        couleur.setAlphaF(isEnabled() ? 1.0F : 0.35F);
+        const QColor couleur = palette().color(QPalette::Active, QPalette::ButtonText);
+        if (isEnabled() && (underMouse() || isDown()))
+            Dessin::aplat(peintre, rect(), coteBouton / 2.0, Dessin::transparente(couleur, isDown() ? 0.28 : 0.14));
         const double cote = 15;
-        Icone::peindre(peintre, symbole_, QRectF((width() - cote) / 2, (height() - cote) / 2, cote, cote), couleur);
+        Icone::peindre(peintre, symbole_, QRectF((width() - cote) / 2, (height() - cote) / 2, cote, cote),
+                       Dessin::transparente(couleur, isEnabled() ? 1 : 0.35));
         if (Dessin::focusVisible(this))
-            Dessin::anneauDeFocus(peintre, rect(), coteBouton / 2.0,
-                                  palette().color(QPalette::Active, QPalette::ButtonText));
+            Dessin::anneauDeFocus(peintre, rect(), coteBouton / 2.0, couleur);
     }
 
     void enterEvent(QEnterEvent *) override { update(); }
@@ -153,6 +147,5 @@ void SelecteurQuantite::paintEvent(QPaintEvent *)
         return;
     peintre.setOpacity(plein);
     Dessin::ombreDouce(peintre, capsule);
-    peintre.setBrush(Theme::accent(palette()));
-    peintre.drawRoundedRect(capsule, rayon, rayon);
+    Dessin::aplat(peintre, capsule, rayon, Theme::accent(palette()));
 }

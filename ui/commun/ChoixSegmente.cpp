@@ -147,9 +147,7 @@ void ChoixSegmente::paintEvent(QPaintEvent *)
 {
     QPainter peintre(this);
     peintre.setRenderHint(QPainter::Antialiasing);
-    peintre.setPen(Qt::NoPen);
-    peintre.setBrush(Theme::remplissage(palette()));
-    peintre.drawRoundedRect(rect(), height() / 2.0, height() / 2.0);
+    Dessin::aplat(peintre, rect(), height() / 2.0, Theme::remplissage(palette()));
 
     const QRectF choisi = surbrillance();
     const double rayon = choisi.height() / 2;

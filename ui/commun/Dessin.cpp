@@ -19,6 +19,19 @@ QColor Dessin::melange(const QColor &a, const QColor &b, double part)
                             entre(a.alphaF(), b.alphaF()));
 }
 
+QColor Dessin::transparente(QColor couleur, double opacite)
+{
+    couleur.setAlphaF(static_cast<float>(opacite));
+    return couleur;
+}
+
+void Dessin::aplat(QPainter &peintre, const QRectF &cadre, qreal rayon, const QColor &couleur)
+{
+    peintre.setPen(Qt::NoPen);
+    peintre.setBrush(couleur);
+    peintre.drawRoundedRect(cadre, rayon, rayon);
+}
+
 void Dessin::carte(QPainter &peintre, const QRect &cadre, const QPalette &palette)
 {
     peintre.setRenderHint(QPainter::Antialiasing);

@@ -14,6 +14,12 @@ namespace Dessin {
 // From `a` (part 0) to `b` (part 1); a spring may overshoot, the colour does not.
 QColor melange(const QColor &a, const QColor &b, double part);
 
+// The colour with this opacity, 0 to 1.
+QColor transparente(QColor couleur, double opacite);
+
+// A rounded rectangle of one colour, without an outline.
+void aplat(QPainter &peintre, const QRectF &cadre, qreal rayon, const QColor &couleur);
+
 // A raised group: rounded, with a hairline around.
 void carte(QPainter &peintre, const QRect &cadre, const QPalette &palette);
 

@@ -90,13 +90,9 @@ void fondDOutil(const QStyleOption &option, QPainter &peintre)
     const bool survol = contient(option, QStyle::State_MouseOver) && contient(option, QStyle::State_Enabled);
     const bool enfonce = contient(option, QStyle::State_Sunken);
     const QRectF cadre = QRectF(option.rect).adjusted(3, 3, -3, -3);
-    if (survol || enfonce) {
-        peintre.setPen(Qt::NoPen);
-        QColor fond = option.palette.color(QPalette::WindowText);
-        fond.setAlphaF(enfonce ? 0.14F : 0.07F);
-        peintre.setBrush(fond);
-        peintre.drawRoundedRect(cadre, Theme::rayonControle, Theme::rayonControle);
-    }
+    if (survol || enfonce)
+        Dessin::aplat(peintre, cadre, Theme::rayonControle,
+                      Dessin::transparente(option.palette.color(QPalette::WindowText), enfonce ? 0.14 : 0.07));
 }
 
 QRect poignee(const QStyleOptionSlider &option)
@@ -117,14 +113,10 @@ void ascenseur(const QStyleOptionSlider &option, QPainter &peintre)
 {
     if (option.maximum <= option.minimum)
         return;
-    QColor couleur = option.palette.color(QPalette::WindowText);
-    couleur.setAlphaF(contient(option, QStyle::State_MouseOver) || contient(option, QStyle::State_Sunken) ? 0.45F
-                                                                                                          : 0.22F);
+    const bool saisi = contient(option, QStyle::State_MouseOver) || contient(option, QStyle::State_Sunken);
     const QRectF barre = QRectF(poignee(option)).adjusted(3, 3, -3, -3);
-    const double rayon = std::min(barre.width(), barre.height()) / 2;
-    peintre.setPen(Qt::NoPen);
-    peintre.setBrush(couleur);
-    peintre.drawRoundedRect(barre, rayon, rayon);
+    Dessin::aplat(peintre, barre, std::min(barre.width(), barre.height()) / 2,
+                  Dessin::transparente(option.palette.color(QPalette::WindowText), saisi ? 0.45 : 0.22));
 }
 
 } // namespace

@@ -95,13 +95,9 @@ void DelegueLivres::paint(QPainter *peintre, const QStyleOptionViewItem &option,
     peindreCarte(*peintre, cadre, rang, option.palette);
 
     const QRectF marque = QRectF(cadre).adjusted(retrait, retrait, -retrait, -retrait);
-    if (option.state.testFlag(QStyle::State_Selected)) {
-        QColor fond = Theme::accentTexte(option.palette);
-        fond.setAlphaF(0.12F);
-        peintre->setPen(Qt::NoPen);
-        peintre->setBrush(fond);
-        peintre->drawRoundedRect(marque, Theme::rayonControle, Theme::rayonControle);
-    }
+    if (option.state.testFlag(QStyle::State_Selected))
+        Dessin::aplat(*peintre, marque, Theme::rayonControle,
+                      Dessin::transparente(Theme::accentTexte(option.palette), 0.12));
     if (option.state.testFlag(QStyle::State_HasFocus) && option.widget && Dessin::focusVisible(option.widget))
         Dessin::anneauDeFocus(*peintre, marque, Theme::rayonControle, Theme::accentTexte(option.palette));
     peindreLivre(*peintre, cadre.adjusted(marge, 0, -marge, 0), rang, option.palette);

@@ -36,12 +36,9 @@ protected:
         if (enCours_) {
             QPainter peintre(this);
             peintre.setRenderHint(QPainter::Antialiasing);
-            QColor fond = Theme::accentTexte(palette());
-            fond.setAlphaF(0.16F);
-            peintre.setPen(Qt::NoPen);
-            peintre.setBrush(fond);
             const int largeur = sizeHint().width() + 2 * retrait;
-            peintre.drawRoundedRect(QRect(width() - largeur, 0, largeur, height()), 6, 6);
+            Dessin::aplat(peintre, QRect(width() - largeur, 0, largeur, height()), 6,
+                          Dessin::transparente(Theme::accentTexte(palette()), 0.16));
         }
         LibelleChiffre::paintEvent(evenement);
     }
