@@ -6,6 +6,7 @@
 #include "ui/commande/Couverture.h"
 #include "ui/commande/SelecteurQuantite.h"
 #include "ui/commun/Chiffres.h"
+#include "ui/commun/Dessin.h"
 #include "ui/commun/DessinCouverture.h"
 #include "ui/commun/TextesLivres.h"
 
@@ -66,17 +67,12 @@ void peindreSurDeuxLignes(QPainter &peintre, const QRect &cadre, const QString &
 // At the right end of the line; gives where it begins.
 int peindreEpuise(QPainter &peintre, const QRect &ligne, const QPalette &palette)
 {
-    peintre.setFont(Theme::enGras(Theme::encadre(), QFont::Medium));
-    const QString epuise = TextesLivres::epuise();
-    const QSize taille(peintre.fontMetrics().horizontalAdvance(epuise) + 24, peintre.fontMetrics().height() + 12);
-    const QRect etiquette(ligne.right() + 1 - taille.width(), ligne.center().y() + 1 - taille.height() / 2,
-                          taille.width(), taille.height());
-    peintre.setPen(Qt::NoPen);
-    peintre.setBrush(Theme::remplissage(palette));
-    peintre.drawRoundedRect(etiquette, 8, 8);
-    peintre.setPen(Theme::secondaire(palette));
-    peintre.drawText(etiquette, Qt::AlignCenter, epuise);
-    return etiquette.left();
+    return Dessin::etiquette(peintre, ligne, TextesLivres::epuise(),
+                             {.police = Theme::enGras(Theme::encadre(), QFont::Medium),
+                              .marges = {24, 12},
+                              .rayon = 8,
+                              .encre = Theme::secondaire(palette),
+                              .fond = Theme::remplissage(palette)});
 }
 
 QString enMots(const Livre &livre, int quantite)

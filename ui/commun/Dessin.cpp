@@ -40,6 +40,19 @@ void Dessin::carte(QPainter &peintre, const QRect &cadre, const QPalette &palett
     peintre.drawRoundedRect(QRectF(cadre).adjusted(0.5, 0.5, -0.5, -0.5), Theme::rayonGroupe, Theme::rayonGroupe);
 }
 
+int Dessin::etiquette(QPainter &peintre, const QRect &ligne, const QString &texte, const Etiquette &apparence)
+{
+    const QFontMetrics mesures(apparence.police);
+    const QSize taille = QSize(mesures.horizontalAdvance(texte), mesures.height()) + apparence.marges;
+    const QRect capsule(QPoint(ligne.right() + 1 - taille.width(), ligne.center().y() + 1 - taille.height() / 2),
+                        taille);
+    aplat(peintre, capsule, apparence.rayon, apparence.fond);
+    peintre.setFont(apparence.police);
+    peintre.setPen(apparence.encre);
+    peintre.drawText(capsule, Qt::AlignCenter, texte);
+    return capsule.left();
+}
+
 bool Dessin::focusVisible(const QWidget *widget)
 {
     return widget->hasFocus() && widget->window()->testAttribute(Qt::WA_KeyboardFocusChange);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
 #include <QPalette>
 #include <QPixmap>
 #include <QRectF>
@@ -22,6 +23,17 @@ void aplat(QPainter &peintre, const QRectF &cadre, qreal rayon, const QColor &co
 
 // A raised group: rounded, with a hairline around.
 void carte(QPainter &peintre, const QRect &cadre, const QPalette &palette);
+
+struct Etiquette
+{
+    QFont police;
+    QSize marges; // around the text, both sides together, px
+    qreal rayon;
+    QColor encre;
+    QColor fond;
+};
+// A text in a capsule at the right end of a line; where it starts, px.
+int etiquette(QPainter &peintre, const QRect &ligne, const QString &texte, const Etiquette &apparence);
 
 // Whether the ring is due: the widget has the focus and the keyboard brought it there.
 bool focusVisible(const QWidget *widget);

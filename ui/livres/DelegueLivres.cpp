@@ -45,22 +45,17 @@ void ecrire(QPainter &peintre, const QRect &cadre, const QString &texte, Qt::Ali
                      peintre.fontMetrics().elidedText(texte, Qt::ElideRight, cadre.width()));
 }
 
-// A capsule at the right end of a line; gives what it leaves to the rest.
-QRect peindreEtiquette(QPainter &peintre, const QRect &ligne, const QString &texte, const QColor &encre,
-                       const QColor &fond)
+// At the right end of a line; gives what it leaves to the rest.
+QRect peindreEtiquette(QPainter &peintre, QRect ligne, const QString &texte, const QColor &encre, const QColor &fond)
 {
-    const QFont police = Theme::enGras(Theme::legende(), QFont::Medium);
-    const QFontMetrics mesures(police);
-    const QSize taille(mesures.horizontalAdvance(texte) + 14, mesures.height() + 4);
-    const QRect etiquette(QPoint(ligne.right() + 1 - taille.width(), ligne.center().y() + 1 - taille.height() / 2),
-                          taille);
-    peintre.setPen(Qt::NoPen);
-    peintre.setBrush(fond);
-    peintre.drawRoundedRect(etiquette, 6, 6);
-    peintre.setFont(police);
-    peintre.setPen(encre);
-    peintre.drawText(etiquette, Qt::AlignCenter, texte);
-    return ligne.adjusted(0, 0, -taille.width() - avantLEtiquette, 0);
+    const int gauche = Dessin::etiquette(peintre, ligne, texte,
+                                         {.police = Theme::enGras(Theme::legende(), QFont::Medium),
+                                          .marges = {14, 4},
+                                          .rayon = 6,
+                                          .encre = encre,
+                                          .fond = fond});
+    ligne.setRight(gauche - 1 - avantLEtiquette);
+    return ligne;
 }
 
 } // namespace
