@@ -1,6 +1,7 @@
 #include "ui/commun/Style.h"
 
 #include "ui/commun/Dessin.h"
+#include "ui/commun/DessinAscenseur.h"
 #include "ui/commun/Icone.h"
 
 #include <QPainter>
@@ -95,30 +96,6 @@ void fondDOutil(const QStyleOption &option, QPainter &peintre)
                       Dessin::transparente(option.palette.color(QPalette::WindowText), enfonce ? 0.14 : 0.07));
 }
 
-QRect poignee(const QStyleOptionSlider &option)
-{
-    const bool horizontal = option.orientation == Qt::Horizontal;
-    const int longueur = horizontal ? option.rect.width() : option.rect.height();
-    const qint64 etendue = qint64{option.maximum} - option.minimum + option.pageStep;
-    const int taille = etendue > 0 ? std::clamp(static_cast<int>(qint64{longueur} * option.pageStep / etendue),
-                                                std::min(32, longueur), longueur)
-                                   : longueur;
-    const int debut = QStyle::sliderPositionFromValue(option.minimum, option.maximum, option.sliderPosition,
-                                                      longueur - taille, option.upsideDown);
-    return horizontal ? QRect(option.rect.x() + debut, option.rect.y(), taille, option.rect.height())
-                      : QRect(option.rect.x(), option.rect.y() + debut, option.rect.width(), taille);
-}
-
-void ascenseur(const QStyleOptionSlider &option, QPainter &peintre)
-{
-    if (option.maximum <= option.minimum)
-        return;
-    const bool saisi = contient(option, QStyle::State_MouseOver) || contient(option, QStyle::State_Sunken);
-    const QRectF barre = QRectF(poignee(option)).adjusted(3, 3, -3, -3);
-    Dessin::aplat(peintre, barre, std::min(barre.width(), barre.height()) / 2,
-                  Dessin::transparente(option.palette.color(QPalette::WindowText), saisi ? 0.45 : 0.22));
-}
-
 } // namespace
 
 Style::Style(std::optional<Theme::Mode> mode) : QProxyStyle(QStringLiteral("fusion")), mode_(mode) {}
@@ -183,7 +160,7 @@ void Style::drawComplexControl(ComplexControl controle, const QStyleOptionComple
     if (const auto *barre = qstyleoption_cast<const QStyleOptionSlider *>(option); barre && controle == CC_ScrollBar) {
         peintre->save();
         peintre->setRenderHint(QPainter::Antialiasing);
-        ascenseur(*barre, *peintre);
+        DessinAscenseur::peindre(*peintre, *barre);
         peintre->restore();
         return;
     }
@@ -203,26 +180,8 @@ void Style::drawComplexControl(ComplexControl controle, const QStyleOptionComple
 QRect Style::subControlRect(ComplexControl controle, const QStyleOptionComplex *option, SubControl partie,
                             const QWidget *widget) const
 {
-    if (const auto *barre = qstyleoption_cast<const QStyleOptionSlider *>(option); barre && controle == CC_ScrollBar) {
-        const QRect milieu = poignee(*barre);
-        const bool horizontal = barre->orientation == Qt::Horizontal;
-        QRect avant = option->rect;
-        QRect apres = option->rect;
-        horizontal ? avant.setRight(milieu.left() - 1) : avant.setBottom(milieu.top() - 1);
-        horizontal ? apres.setLeft(milieu.right() + 1) : apres.setTop(milieu.bottom() + 1);
-        switch (partie) {
-        case SC_ScrollBarSlider:
-            return milieu;
-        case SC_ScrollBarGroove:
-            return option->rect;
-        case SC_ScrollBarSubPage:
-            return avant;
-        case SC_ScrollBarAddPage:
-            return apres;
-        default:
-            return {};
-        }
-    }
+    if (const auto *barre = qstyleoption_cast<const QStyleOptionSlider *>(option); barre && controle == CC_ScrollBar)
+        return DessinAscenseur::partie(*barre, partie);
     if (controle == CC_ComboBox && partie == SC_ComboBoxArrow)
         return {option->rect.right() - 19, option->rect.top(), 16, option->rect.height()};
     if (controle == CC_ComboBox && partie == SC_ComboBoxEditField)
