@@ -111,6 +111,11 @@ QColor Theme::accent(const QPalette &palette)
     return palette.color(QPalette::Active, QPalette::Highlight);
 }
 
+QColor Theme::accent(Mode mode)
+{
+    return teintes(mode).accent;
+}
+
 QColor Theme::accentTexte(const QPalette &palette)
 {
     return palette.color(QPalette::Link);
@@ -119,6 +124,21 @@ QColor Theme::accentTexte(const QPalette &palette)
 QColor Theme::orange(const QPalette &palette)
 {
     return mode(palette) == Mode::clair ? QColor(0xA94A00) : QColor(0xF2A65A);
+}
+
+QColor Theme::bleu()
+{
+    return 0x2F6FDE;
+}
+
+QColor Theme::bleuHaut()
+{
+    return 0x3370D8;
+}
+
+QColor Theme::bleuBas()
+{
+    return 0x1F56BE;
 }
 
 QFont Theme::policeDeDepart()

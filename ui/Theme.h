@@ -21,8 +21,13 @@ QColor filet(const QPalette &palette);       // hairlines
 QColor carte(const QPalette &palette);       // raised groups and fields
 QColor remplissage(const QPalette &palette); // quiet fill of capsules and tags
 QColor accent(const QPalette &palette);      // filled accent, white text on it
+QColor accent(Mode mode);
 QColor accentTexte(const QPalette &palette); // accent as a text or focus colour
 QColor orange(const QPalette &palette);      // warnings
+// The same by day and by night, white on it.
+QColor bleu();     // a switch that is on
+QColor bleuHaut(); // the chosen site, from its top
+QColor bleuBas();  // to its bottom
 
 // What the application's font becomes at the start, once: the system's size, at least 10 pt.
 QFont policeDeDepart();

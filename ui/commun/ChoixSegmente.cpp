@@ -154,8 +154,8 @@ void ChoixSegmente::paintEvent(QPaintEvent *)
     if (apparence_.style == Style::bleu) {
         Dessin::ombreDouce(peintre, choisi);
         QLinearGradient degrade(choisi.topLeft(), choisi.bottomLeft());
-        degrade.setColorAt(0, QColor(0x3370D8));
-        degrade.setColorAt(1, QColor(0x1F56BE));
+        degrade.setColorAt(0, Theme::bleuHaut());
+        degrade.setColorAt(1, Theme::bleuBas());
         peintre.setBrush(degrade);
     } else {
         Dessin::ombreDouce(peintre, choisi);

@@ -9,7 +9,6 @@
 namespace {
 constexpr QSize taille(38, 22);
 constexpr int marge = 3; // room for the focus ring
-const QColor bleu(0x2F6FDE);
 } // namespace
 
 Interrupteur::Interrupteur(QWidget *parent) : QCheckBox(parent), position_(new Ressort(Ressorts::action, this))
@@ -35,8 +34,8 @@ void Interrupteur::paintEvent(QPaintEvent *)
     const QRectF piste(marge, marge, taille.width(), taille.height());
     const double position = position_->valeur();
     peintre.setPen(Qt::NoPen);
-    peintre.setBrush(
-        Dessin::melange(Dessin::melange(Theme::filet(palette()), Theme::secondaire(palette()), 0.35), bleu, position));
+    peintre.setBrush(Dessin::melange(Dessin::melange(Theme::filet(palette()), Theme::secondaire(palette()), 0.35),
+                                     Theme::bleu(), position));
     peintre.drawRoundedRect(piste, piste.height() / 2, piste.height() / 2);
 
     const double rayon = piste.height() / 2 - 2;

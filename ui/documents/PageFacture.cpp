@@ -1,6 +1,7 @@
 #include "ui/documents/PageFacture.h"
 
 #include "model/Format.h"
+#include "ui/Theme.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -243,7 +244,7 @@ PageFacture::Couleurs PageFacture::imprimees()
     return {.encre = Qt::black,
             .gris = QColor::fromRgbF(0.42F, 0.42F, 0.42F),
             .filet = QColor::fromRgbF(0.82F, 0.82F, 0.82F),
-            .accent = QColor(13, 104, 98)};
+            .accent = Theme::accent(Theme::Mode::clair)};
 }
 
 void PageFacture::peindre(QPainter &peintre, const Facture &facture, const Couleurs &couleurs)
