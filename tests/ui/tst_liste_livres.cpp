@@ -1,7 +1,7 @@
 #include "tests/Banc.h"
 #include "ui/livres/FiltreLivres.h"
 #include "ui/livres/ModeleLivres.h"
-#include "ui/livres/RetourAuxValeurs.h"
+#include "ui/livres/TextesRetour.h"
 
 #include <QAbstractItemModelTester>
 #include <QTest>
@@ -103,14 +103,14 @@ void TestListeLivres::pertes()
     for (int id = 1; id <= 11; ++id)
         livres.append(unLivre(id, Vendeur::davrel, Centimes{1000}, Grammes{100}));
     QList<Livre> actuels = livres;
-    QVERIFY(RetourAuxValeurs::pertes(actuels, livres).isEmpty());
+    QVERIFY(TextesRetour::pertes(actuels, livres).isEmpty());
     actuels[0].poids.reset();
     actuels[0].disponible = false;
     actuels[0].prixPaypal = {{QStringLiteral("france"), Centimes{1}}, {QStringLiteral("ue"), Centimes{2}}};
     actuels[0].prixEcartes = {{QStringLiteral("ue"), Centimes{2}}};
     for (Livre &livre : actuels)
         livre.prix = Centimes{1250};
-    const QStringList pertes = RetourAuxValeurs::pertes(actuels, livres);
+    const QStringList pertes = TextesRetour::pertes(actuels, livres);
     QCOMPARE(lisible(pertes.first()),
              QStringLiteral("Livre 1 : 12,50 €, Poids à peser, Épuisé, 2 prix reportés, 1 prix gardé"));
     QCOMPARE(pertes.size(), 9);
