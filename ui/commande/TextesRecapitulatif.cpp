@@ -2,24 +2,12 @@
 
 #include "documents/ReponseType.h"
 #include "model/Format.h"
+#include "ui/commun/TextesFrais.h"
 
 namespace {
 
 const QString triangle = QStringLiteral("exclamationmark.triangle");
 const QString balance = QStringLiteral("scalemass");
-
-QString libelle(RegionPaypal region)
-{
-    switch (region) {
-    case RegionPaypal::eee:
-        return QStringLiteral("Europe (EEE)");
-    case RegionPaypal::royaumeUni:
-        return QStringLiteral("Royaume-Uni");
-    case RegionPaypal::autres:
-        return QStringLiteral("Autre pays");
-    }
-    Q_UNREACHABLE();
-}
 
 } // namespace
 
@@ -98,8 +86,9 @@ QString TextesRecapitulatif::detailFrais(const Calcul &calcul, const FraisPaypal
 {
     if (!calcul.regionPaypal)
         return {};
-    return Format::pourcentage(frais.taux + frais.supplement(*calcul.regionPaypal)) + QStringLiteral(" + ")
-           + Format::euros(frais.fixe) + QStringLiteral(" · ") + libelle(*calcul.regionPaypal);
+    const RegionPaypal region = *calcul.regionPaypal;
+    return TextesFrais::formule(frais.taux + frais.supplement(region), frais.fixe) + QStringLiteral(" · ")
+           + TextesFrais::region(region);
 }
 
 std::optional<TextesRecapitulatif::LienDePaiement>

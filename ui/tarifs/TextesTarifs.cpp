@@ -1,6 +1,7 @@
 #include "ui/tarifs/TextesTarifs.h"
 
 #include "model/Format.h"
+#include "ui/commun/TextesFrais.h"
 
 #include <set>
 
@@ -86,12 +87,11 @@ QList<Famille> TextesTarifs::familles(const TarifsColissimo &tarifs, const std::
 
 QList<TextesTarifs::Frais> TextesTarifs::frais(const FraisPaypal &frais)
 {
-    const auto supplement = [&](RegionPaypal region) {
-        return frais.supplements.contains(Json::brut(region)) ? Format::pourcentage(frais.supplement(region)) : absent;
-    };
-    return {{QStringLiteral("Taux de base"), Format::pourcentage(frais.taux)},
-            {QStringLiteral("Part fixe"), Format::euros(frais.fixe)},
-            {QStringLiteral("Europe (EEE)"), supplement(RegionPaypal::eee)},
-            {QStringLiteral("Royaume-Uni"), supplement(RegionPaypal::royaumeUni)},
-            {QStringLiteral("Autre pays"), supplement(RegionPaypal::autres)}};
+    QList<Frais> lignes{{QStringLiteral("Taux de base"), Format::pourcentage(frais.taux)},
+                        {QStringLiteral("Part fixe"), Format::euros(frais.fixe)}};
+    for (const auto region : {RegionPaypal::eee, RegionPaypal::royaumeUni, RegionPaypal::autres})
+        lignes.append({TextesFrais::region(region), frais.supplements.contains(Json::brut(region))
+                                                        ? Format::pourcentage(frais.supplement(region))
+                                                        : absent});
+    return lignes;
 }

@@ -1,6 +1,7 @@
 #include "ui/tarifs/TextesVerifications.h"
 
 #include "model/Format.h"
+#include "ui/commun/TextesFrais.h"
 #include "ui/tarifs/TextesTarifs.h"
 
 namespace {
@@ -79,10 +80,10 @@ Ligne TextesVerifications::laPoste(const Verifications &verifications, const Cat
 Ligne TextesVerifications::paypal(const Verifications &verifications, const Catalogue &catalogue)
 {
     const FraisPaypal &frais = catalogue.reglages().fraisPaypal;
-    const QString detail =
-        Format::pourcentage(frais.taux) + QStringLiteral(" + ") + Format::euros(frais.fixe)
-        + QStringLiteral(" ; Royaume-Uni + ") + Format::pourcentage(frais.supplement(RegionPaypal::royaumeUni))
-        + QStringLiteral(", autres pays + ") + Format::pourcentage(frais.supplement(RegionPaypal::autres));
+    const QString detail = TextesFrais::formule(frais.taux, frais.fixe) + QStringLiteral(" ; Royaume-Uni + ")
+                           + Format::pourcentage(frais.supplement(RegionPaypal::royaumeUni))
+                           + QStringLiteral(", autres pays + ")
+                           + Format::pourcentage(frais.supplement(RegionPaypal::autres));
     Ligne ligne{.symbole = QStringLiteral("creditcard"),
                 .titre = QStringLiteral("Frais PayPal"),
                 .detail = detail,
