@@ -16,9 +16,7 @@ namespace {
 
 Libelle *secondeLigne()
 {
-    auto *detail = new Libelle({}, Libelle::Rang::secondaire);
-    detail->setFont(Theme::legende());
-    detail->setWordWrap(true);
+    Libelle *detail = Libelle::note({});
     detail->hide();
     return detail;
 }
@@ -103,9 +101,7 @@ Section::Section(const QString &titre, const QString &pied, QWidget *parent) : Q
     colonne->addWidget(tete);
     colonne->addWidget(groupe_);
     if (!pied.isEmpty()) {
-        auto *note = new Libelle(pied, Libelle::Rang::secondaire);
-        note->setFont(Theme::legende());
-        note->setWordWrap(true);
+        Libelle *note = Libelle::note(pied);
         note->setContentsMargins(margeHorizontale, 0, margeHorizontale, 0);
         colonne->addWidget(note);
     }

@@ -32,6 +32,21 @@ void Libelle::setRang(Rang rang)
     setForegroundRole(rang == Rang::principal ? QPalette::WindowText : Theme::roleSecondaire);
 }
 
+Libelle *Libelle::note(const QString &texte)
+{
+    auto *note = new Libelle(texte, Rang::secondaire);
+    note->setFont(Theme::legende());
+    note->setWordWrap(true);
+    return note;
+}
+
+Libelle *Libelle::titreDeSection(const QString &texte)
+{
+    auto *titre = new Libelle(texte);
+    titre->setFont(Theme::titreSection());
+    return titre;
+}
+
 QSize Libelle::sizeHint() const
 {
     return wordWrap() ? avecMarges(std::min(fontMetrics().horizontalAdvance(text()), Theme::aLaTaille(largeurVoulue)))

@@ -17,6 +17,9 @@ public:
 
     explicit Libelle(const QString &texte, Rang rang = Rang::principal, QWidget *parent = nullptr);
     void setRang(Rang rang);
+    // In small print, of second rank, on as many lines as it takes.
+    static Libelle *note(const QString &texte);
+    static Libelle *titreDeSection(const QString &texte);
 
     // A text that wraps takes the width it is given: QLabel would try many widths to find a pleasing one. It asks for
     // its longest word at least, within reason; a word that still is too long is broken where the line ends.

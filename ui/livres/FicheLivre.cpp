@@ -147,12 +147,8 @@ QWidget *FicheLivre::reglages()
 
 QWidget *FicheLivre::boutonsPaypal()
 {
-    auto *titre = new Libelle(tr("Boutons PayPal"));
-    titre->setFont(Theme::titreSection());
-    auto *note = new Libelle(tr("Le livre envoyé seul, dans l’emballage habituel. Frais PayPal non compris."),
-                             Libelle::Rang::secondaire);
-    note->setFont(Theme::legende());
-    note->setWordWrap(true);
+    Libelle *titre = Libelle::titreDeSection(tr("Boutons PayPal"));
+    Libelle *note = Libelle::note(tr("Le livre envoyé seul, dans l’emballage habituel. Frais PayPal non compris."));
     situation_->setWordWrap(true);
     connect(page_, &QPushButton::clicked, this, [this] { Lien::ouvrir(*livre_.lienPaypal, this); });
     toutReporter_->setFocusPolicy(Qt::TabFocus); // as the rows' own buttons

@@ -78,11 +78,8 @@ CarteFamille::CarteFamille(const TextesTarifs::Famille &famille, QWidget *parent
     for (const TextesTarifs::Palier &palier : famille.paliers)
         colonne->addWidget(rangee(palier, famille.zones));
     for (const QString &pays : famille.pays) {
-        auto *note = new Libelle(pays, Libelle::Rang::secondaire);
-        note->setFont(Theme::legende());
-        note->setWordWrap(true);
         colonne->addSpacing(6);
-        colonne->addWidget(note);
+        colonne->addWidget(Libelle::note(pays));
     }
     setAccessibleName(famille.titre);
 }

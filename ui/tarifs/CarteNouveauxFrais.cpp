@@ -49,15 +49,13 @@ QWidget *ligne(const TextesTarifs::Frais &avant, const TextesTarifs::Frais &apre
 CarteNouveauxFrais::CarteNouveauxFrais(Catalogue &catalogue, Verifications &verifications, QWidget *parent)
     : FeuilleDeReleve(tr("Nouveaux frais PayPal"), parent)
 {
-    auto *titre = new Libelle(windowTitle());
-    titre->setFont(Theme::titreSection());
     auto *origine =
         new Libelle(tr("Relevés sur paypal.com, tarifs marchands pour la France"), Libelle::Rang::secondaire);
     auto *page = new QWidget;
     auto *colonne = new QVBoxLayout(page);
     colonne->setContentsMargins(marge, marge, marge, marge);
     colonne->setSpacing(0);
-    colonne->addWidget(titre);
+    colonne->addWidget(Libelle::titreDeSection(windowTitle()));
     colonne->addSpacing(6);
     colonne->addWidget(origine);
     colonne->addSpacing(14);

@@ -1,6 +1,5 @@
 #include "ui/tarifs/CarteNouveauxTarifs.h"
 
-#include "ui/Theme.h"
 #include "ui/commun/Alerte.h"
 #include "ui/commun/EtatVide.h"
 #include "ui/commun/Libelle.h"
@@ -72,14 +71,12 @@ CarteNouveauxTarifs::CarteNouveauxTarifs(Catalogue &catalogue, Verifications &ve
         return;
     }
 
-    auto *titre = new Libelle(windowTitle());
-    titre->setFont(Theme::titreSection());
     auto *dates = new Libelle(TextesVerifications::dates(releve.tarifs), Libelle::Rang::secondaire);
     dates->setWordWrap(true);
     auto *tete = new QVBoxLayout;
     tete->setContentsMargins(marge, marge, marge, 0);
     tete->setSpacing(6);
-    tete->addWidget(titre);
+    tete->addWidget(Libelle::titreDeSection(windowTitle()));
     tete->addWidget(dates);
     if (!releve.dateTrouvee)
         tete->addWidget(new Alerte(QStringLiteral("calendar.badge.exclamationmark"),

@@ -27,13 +27,6 @@ namespace {
 
 constexpr int entreSections = 32;
 
-Libelle *titre(const QString &texte)
-{
-    auto *titre = new Libelle(texte);
-    titre->setFont(Theme::titreSection());
-    return titre;
-}
-
 // A price stays within sight of its weight, however few zones share the page's width.
 QLayout *aSaLargeur(QWidget *tableau, qsizetype zones)
 {
@@ -52,14 +45,14 @@ QWidget *tableaux(const QList<TextesTarifs::Famille> &familles, const QList<Text
     colonne->setContentsMargins(0, 0, 0, 0);
     colonne->setSpacing(12);
     for (const TextesTarifs::Famille &famille : familles) {
-        colonne->addWidget(titre(famille.titre));
+        colonne->addWidget(Libelle::titreDeSection(famille.titre));
         colonne->addLayout(aSaLargeur(new CarteFamille(famille), famille.zones.size()));
         colonne->addSpacing(entreSections - 12);
     }
     auto *groupe = new Formulaire::Groupe;
     for (const auto &[libelle, valeur] : frais)
         groupe->ajouter(new Formulaire::Rangee(libelle, new Libelle(valeur)));
-    colonne->addWidget(titre(VueTarifs::tr("Frais PayPal")));
+    colonne->addWidget(Libelle::titreDeSection(VueTarifs::tr("Frais PayPal")));
     colonne->addLayout(aSaLargeur(groupe, 1));
     return tableaux;
 }
@@ -114,16 +107,13 @@ QWidget *VueTarifs::controles()
     auto *groupe = new Formulaire::Groupe;
     groupe->ajouter(laPoste_);
     groupe->ajouter(paypal_);
-    auto *note = new Libelle(TextesVerifications::rythme(), Libelle::Rang::secondaire);
-    note->setFont(Theme::legende());
-    note->setWordWrap(true);
     auto *section = new QWidget;
     auto *colonne = new QVBoxLayout(section);
     colonne->setContentsMargins(0, 0, 0, 0);
     colonne->setSpacing(12);
-    colonne->addWidget(titre(tr("Vérifications")));
+    colonne->addWidget(Libelle::titreDeSection(tr("Vérifications")));
     colonne->addWidget(groupe);
-    colonne->addWidget(note);
+    colonne->addWidget(Libelle::note(TextesVerifications::rythme()));
     connect(laPoste_, &LigneVerification::verificationDemandee, this,
             [this] { verifications_.verifierLaPoste(catalogue_); });
     connect(paypal_, &LigneVerification::verificationDemandee, this,
