@@ -3,8 +3,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-Q_DECLARE_METATYPE(PrixBouton::Etat)
-
 class TestCatalogue : public QObject
 {
     Q_OBJECT

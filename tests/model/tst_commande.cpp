@@ -10,8 +10,6 @@
 #include <functional>
 #include <limits>
 
-Q_DECLARE_METATYPE(std::function<Centimes(Centimes)>)
-
 // What the order holds, and the quantities it is counted in.
 class TestCommande : public QObject
 {

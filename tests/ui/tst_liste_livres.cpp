@@ -6,8 +6,6 @@
 #include <QAbstractItemModelTester>
 #include <QTest>
 
-Q_DECLARE_METATYPE(FiltreLivres::Etat)
-
 // What the books' screen lists and says, without a window.
 class TestListeLivres : public QObject
 {
@@ -15,6 +13,7 @@ class TestListeLivres : public QObject
 
 private slots:
     void unVendeurApresLAutre();
+    void enMots();
     void recherche_data();
     void recherche();
     void etats_data();
@@ -42,6 +41,21 @@ void TestListeLivres::unVendeurApresLAutre()
     QCOMPARE(ouvrent, (QList{0, 3}));
     QCOMPARE(ferment, (QList{2, 3}));
     QCOMPARE(modele.nombre(Vendeur::davrel), 3);
+}
+
+void TestListeLivres::enMots()
+{
+    const Banc banc;
+    const auto catalogue = banc.charger();
+    ModeleLivres modele(*catalogue);
+    modele.setTarifs(banc.tarifs[0]);
+    const QString debut = QStringLiteral("Livre %1, Une autrice, 14 × 21 cm · 200 pages, vendu par ");
+    const QStringList attendus{debut.arg(1) + QStringLiteral("Davrel, 200 g, 15,00 €, 3 prix à reporter"),
+                               debut.arg(2) + QStringLiteral("Davrel, Poids à peser, 22,00 €"),
+                               debut.arg(4) + QStringLiteral("Davrel, 150 g, 9,00 €, Épuisé, 3 prix à reporter"),
+                               debut.arg(3) + QStringLiteral("Mireva, 300 g, 18,00 €, 3 prix à reporter")};
+    for (int rang = 0; rang < attendus.size(); ++rang)
+        QCOMPARE(lisible(modele.index(rang).data(Qt::AccessibleTextRole).toString()), attendus[rang]);
 }
 
 void TestListeLivres::recherche_data()

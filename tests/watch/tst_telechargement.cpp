@@ -30,9 +30,6 @@ private:
     ServeurLocal inconnu_{ServeurLocal::Certificat::inconnu};
 };
 
-Q_DECLARE_METATYPE(Reponse)
-Q_DECLARE_METATYPE(Limites)
-
 namespace {
 
 const QString chemin = QStringLiteral("/page");
