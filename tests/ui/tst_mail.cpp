@@ -1,4 +1,3 @@
-#include "model/Echec.h"
 #include "tests/FausseMessagerie.h"
 #include "ui/reponse/Mail.h"
 
@@ -19,7 +18,6 @@ private slots:
     void parThunderbird();
     void parUnAutre_data();
     void parUnAutre();
-    void programmeCasse();
 
 private:
     FausseMessagerie messagerie_;
@@ -151,12 +149,6 @@ void TestMail::parUnAutre()
     messagerie_.installer(QStringLiteral("autre.desktop"));
     Mail::ecrire(a, sujet, corps, {});
     QCOMPARE(messagerie_.recus(), QStringList{adresse});
-}
-
-void TestMail::programmeCasse()
-{
-    messagerie_.installerCassee(QStringLiteral("thunderbird.desktop"));
-    QVERIFY_THROWS_EXCEPTION(Echec, Mail::ecrire({}, {}, {}, {}));
 }
 
 QTEST_GUILESS_MAIN(TestMail)

@@ -321,9 +321,7 @@ void TestVueCommande::parUnLecteurDEcran()
 void TestVueCommande::sansRubriqueLaCommande()
 {
     ContenuPrincipal *contenu = banc_->app->fenetre().contenu();
-    QTest::keyClick(&banc_->app->fenetre(), Qt::Key_3, Qt::ControlModifier);
-    QCOMPARE(contenu->rubrique(), Rubrique::livres);
-    QVERIFY(!controle(reinitialiser));
+    contenu->montrer(Rubrique::livres);
     contenu->findChild<QListWidget *>()->clearSelection();
     QVERIFY(!contenu->rubrique());
     QVERIFY(controle(reinitialiser));
