@@ -105,7 +105,6 @@ void CarteLivre::montrer(const Livre &livre, int quantite)
     couverture_->setAccessibleName(enMots(livre, quantite));
     setToolTip(livre.titreComplet);
     selecteur_->montrer(quantite);
-    placerLeSelecteur(); // a number of more digits widens it
     selecteur_->setVisible(livre.disponible);
     update();
 }
@@ -173,11 +172,6 @@ void CarteLivre::resizeEvent(QResizeEvent *)
 {
     const int hauteur = hauteurCouverture(contenu().width()) + Couverture::debord + Couverture::debordBas;
     couverture_->setGeometry(0, 0, width(), hauteur);
-    placerLeSelecteur();
-}
-
-void CarteLivre::placerLeSelecteur()
-{
     const QSize taille = selecteur_->sizeHint();
     const QRect bas = ligneDuBas();
     selecteur_->setGeometry(bas.right() + 1 - taille.width(), bas.center().y() + 1 - taille.height() / 2,

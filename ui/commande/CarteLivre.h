@@ -38,7 +38,6 @@ protected:
 private:
     [[nodiscard]] QRect contenu() const;
     [[nodiscard]] QRect ligneDuBas() const;
-    void placerLeSelecteur();
 
     Livre livre_;
     int quantite_ = -1; // shown; -1: nothing yet
