@@ -6,6 +6,7 @@
 #include "ui/livres/TextesBoutons.h"
 
 #include <algorithm>
+#include <utility>
 
 ModeleLivres::ModeleLivres(const Catalogue &catalogue, QObject *parent)
     : QAbstractListModel(parent), catalogue_(catalogue)
@@ -33,6 +34,7 @@ void ModeleLivres::setTarifs(const TarifsColissimo &tarifs)
         return;
     tarifs_ = tarifs;
     retenus_.clear();
+    comptes_.clear();
     compter();
     filtrer();
 }
@@ -44,12 +46,20 @@ void ModeleLivres::retenir(qint64 id)
         filtrer();
 }
 
+// A book that is as it was is not worked out again: most are, at any change of the catalogue.
 void ModeleLivres::compter()
 {
-    comptes_.clear();
-    for (const Livre &livre : catalogue_.livres())
-        comptes_.append({tarifs_ ? PrixBouton::aReporter(catalogue_.boutons(livre, *tarifs_)).size() : 0,
-                         FiltreLivres::texteCherche(livre)});
+    const QList<Compte> avant = std::exchange(comptes_, {});
+    const QList<Livre> &livres = catalogue_.livres();
+    comptes_.reserve(livres.size());
+    for (qsizetype place = 0; place < livres.size(); ++place) {
+        const Livre &livre = livres[place];
+        if (place < avant.size() && avant[place].livre == livre)
+            comptes_.append(avant[place]);
+        else
+            comptes_.append({livre, tarifs_ ? PrixBouton::aReporter(catalogue_.boutons(livre, *tarifs_)).size() : 0,
+                             FiltreLivres::texteCherche(livre)});
+    }
 }
 
 QList<ModeleLivres::Rang> ModeleLivres::ranger() const

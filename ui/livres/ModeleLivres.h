@@ -47,6 +47,7 @@ private:
     // What is worked out of a book of the catalogue's list.
     struct Compte
     {
+        Livre livre;
         qsizetype aReporter;
         QString texteCherche;
     };
