@@ -44,14 +44,15 @@ QList<double> survol(Scene &scene)
     return durees;
 }
 
-// The covers are scrolled before any other picture of them is read.
+// Scrolling lifts the cover that comes under the true pointer, wherever that is, and nothing here would lay it down.
 QList<Releve> mesurer(Scene &&scene, const QString &livres)
 {
     const QString ms = QStringLiteral("ms");
     const QString nom = QStringLiteral("%1, ") + livres;
+    const QList<double> leve = survol(scene);
     QList<Releve> releves{
         releve(nom.arg(QStringLiteral("Défilement à 60 images/s")), ms, scene.defiler(zoneDesCouvertures(scene), fois)),
-        releve(nom.arg(QStringLiteral("Image du survol")), ms, survol(scene))};
+        releve(nom.arg(QStringLiteral("Image du survol")), ms, leve)};
     for (const Gestes::Geste &geste : Gestes::frequents()) {
         QList<double> durees;
         geste.preparer(scene);

@@ -21,6 +21,7 @@ using Horloge = Temoin::Horloge;
 
 constexpr auto cadence = 16'667us;
 constexpr auto controlesAuDepart = 400ms; // the weekly checks start late, and change what is on the screen
+constexpr auto calme = 30ms;              // longer than a picture takes to be read
 constexpr auto patience = 30s;            // an instrumented program is slow
 const QDate jour(2026, 3, 2);
 
@@ -98,7 +99,7 @@ void Scene::reposer()
             if (mouvement->state() != QAbstractAnimation::Stopped)
                 mouvement->setCurrentTime(mouvement->totalDuration());
         temoin_.guetter();
-        QTest::qWait(15);
+        QTest::qWait(calme.count());
     } while (temoin_.image());
 }
 
