@@ -146,7 +146,6 @@ void TestLivres::laSaisieNEstPasPerdue()
     for (const auto &sortir : sorties) {
         const BancLivres cas;
         cas.commander(QStringLiteral("france"));
-        cas.commander(QStringLiteral("france"));
         cas.champ(champDuPrix)->setFocus();
         QVERIFY(Ecran::taper(cas.fenetre(), champDuPrix, QStringLiteral("16")));
         sortir(cas);
