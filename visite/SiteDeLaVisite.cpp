@@ -6,6 +6,8 @@
 #include <QHash>
 #include <QTcpSocket>
 
+#include <utility>
+
 namespace {
 
 // What La Poste writes over the column of each grid.
@@ -72,7 +74,12 @@ QString SiteDeLaVisite::page(const FraisPaypal &frais)
 }
 
 SiteDeLaVisite::SiteDeLaVisite()
-    : laPoste_(page(augmentes(), QStringLiteral("1er avril 2026"))), paypal_(page(renegocies()))
+    : SiteDeLaVisite(page(augmentes(), QStringLiteral("1er avril 2026")), page(renegocies()))
+{
+}
+
+SiteDeLaVisite::SiteDeLaVisite(QString laPoste, QString paypal)
+    : laPoste_(std::move(laPoste)), paypal_(std::move(paypal))
 {
     QObject::connect(&serveur_, &QTcpServer::newConnection, &serveur_, [this] { servir(); });
     if (!serveur_.listen(QHostAddress::LocalHost))

@@ -14,7 +14,8 @@ public:
     static QString page(const TarifsColissimo &tarifs, const QString &dateDEffet);
     static QString page(const FraisPaypal &frais);
 
-    // Both pages are served from now on, whenever they are asked for.
+    // Both pages are served from now on, whenever they are asked for: these, or else those of the tour.
+    SiteDeLaVisite(QString laPoste, QString paypal);
     SiteDeLaVisite();
     [[nodiscard]] PagesSurveillees pages() const;
 
