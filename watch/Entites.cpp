@@ -50,7 +50,7 @@ std::optional<char32_t> entite(QStringView nom)
 
 } // namespace
 
-QString Entites::decoder(QStringView texte)
+QString TexteHTML::decoderEntites(QStringView texte)
 {
     if (!texte.contains(u'&'))
         return texte.toString();

@@ -2,9 +2,9 @@
 
 #include <QString>
 
-namespace Entites {
+namespace TexteHTML {
 
 // "&eacute;", "&#233;" and "&#xE9;" become "é"; what is not known stays as written.
-QString decoder(QStringView texte);
+QString decoderEntites(QStringView texte);
 
-} // namespace Entites
+} // namespace TexteHTML

@@ -44,7 +44,7 @@ qsizetype decimalesDeLUnite(QStringView texte, qsizetype place)
 } // namespace
 
 // "(\d+)(?:[,.](\d{1,2}))?"
-std::optional<qint64> Nombres::centiemes(QStringView texte)
+std::optional<qint64> TexteHTML::centiemes(QStringView texte)
 {
     const qsizetype debut = prochainChiffre(texte, 0);
     if (debut == texte.size())
@@ -58,7 +58,7 @@ std::optional<qint64> Nombres::centiemes(QStringView texte)
 
 // "(\d+)(?:,(\d+))?\s*(kg|g)\b". A number that no unit follows is left for the next one, its decimals being one too:
 // each run of digits is read twice at most.
-std::optional<qint64> Nombres::grammes(QStringView texte)
+std::optional<qint64> TexteHTML::grammes(QStringView texte)
 {
     qsizetype fin = 0;
     for (qsizetype debut = prochainChiffre(texte, 0); debut < texte.size(); debut = prochainChiffre(texte, fin)) {

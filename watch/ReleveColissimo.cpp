@@ -35,13 +35,14 @@ void lireTableau(const TexteHTML::Tableau &tableau, PaliersParCode &paliers)
 {
     const QList<Colonne> grilles = colonnes(tableau.first());
     for (const TexteHTML::Rangee &rangee : tableau.sliced(1)) {
-        const auto poids = rangee.isEmpty() ? std::nullopt : quantiteLue<UniteGramme>(Nombres::grammes(rangee.first()));
+        const auto poids =
+            rangee.isEmpty() ? std::nullopt : quantiteLue<UniteGramme>(TexteHTML::grammes(rangee.first()));
         if (!poids)
             continue;
         for (const Colonne &colonne : grilles) {
             if (colonne.place >= rangee.size())
                 break; // columns stand in order: a short row must not cost a wide header
-            if (const auto prix = quantiteLue<UniteCentime>(Nombres::centiemes(rangee[colonne.place])))
+            if (const auto prix = quantiteLue<UniteCentime>(TexteHTML::centiemes(rangee[colonne.place])))
                 paliers[colonne.code].append({*poids, *prix});
         }
     }

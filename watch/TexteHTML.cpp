@@ -126,7 +126,7 @@ QString TexteHTML::texte(QStringView html)
 {
     // What Qt calls a space is what "\s" takes, no-break spaces included.
     const QString contenu = html.contains(u'<') ? sansBalises(sansScripts(html)) : html.toString();
-    return Entites::decoder(contenu).simplified();
+    return TexteHTML::decoderEntites(contenu).simplified();
 }
 
 QList<TexteHTML::Tableau> TexteHTML::tableaux(QStringView html)

@@ -80,7 +80,7 @@ std::optional<qint64> nombre(const QString &entier, const QString &fraction, int
 
 QString Motifs::texte(const QString &html)
 {
-    QString texte = Entites::decoder(remplacer(sansScripts(html), QStringLiteral("<[^>]*>")));
+    QString texte = TexteHTML::decoderEntites(remplacer(sansScripts(html), QStringLiteral("<[^>]*>")));
     texte.replace(QChar(0x00A0), u' ').replace(QChar(0x202F), u' ');
     texte = remplacer(texte, QStringLiteral(R"(\s+)"));
     const auto bords = groupes(texte, QStringLiteral(R"(\A[ \t]*([\s\S]*?)[ \t]*\z)"));

@@ -69,7 +69,7 @@ void TestTexteHTML::entites()
 {
     QFETCH(QString, ecrit);
     QFETCH(QString, attendu);
-    QCOMPARE(Entites::decoder(ecrit), attendu);
+    QCOMPARE(TexteHTML::decoderEntites(ecrit), attendu);
 }
 
 void TestTexteHTML::groupes()
@@ -88,10 +88,10 @@ void TestTexteHTML::commeLesMotifs()
     for (int i = 0; i < 10'000; ++i) {
         const QString html = Motifs::fragment(hasard, morceaux());
         const auto tableaux = TexteHTML::tableaux(html);
-        const auto grammes = Nombres::grammes(html);
+        const auto grammes = TexteHTML::grammes(html);
         COMPARER(TexteHTML::texte(html), Motifs::texte(html), html);
         COMPARER(tableaux, Motifs::tableaux(html), html);
-        COMPARER(Nombres::centiemes(html), Motifs::centiemes(html), html);
+        COMPARER(TexteHTML::centiemes(html), Motifs::centiemes(html), html);
         COMPARER(grammes, Motifs::grammes(html), html);
         for (const auto &tableau : tableaux)
             for (const auto &rangee : tableau)
@@ -109,8 +109,8 @@ void TestTexteHTML::chaqueSigne()
         const QString texte = QStringLiteral("<style") + c + QStringLiteral("></") + c + QStringLiteral("tyle>5") + c
                               + QStringLiteral("g, 5g") + c;
         COMPARER(TexteHTML::texte(texte), Motifs::texte(texte), texte);
-        COMPARER(Nombres::centiemes(c), Motifs::centiemes(c), texte);
-        COMPARER(Nombres::grammes(texte), Motifs::grammes(texte), texte);
+        COMPARER(TexteHTML::centiemes(c), Motifs::centiemes(c), texte);
+        COMPARER(TexteHTML::grammes(texte), Motifs::grammes(texte), texte);
     }
 }
 
