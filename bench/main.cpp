@@ -52,6 +52,8 @@ int main(int argc, char **argv)
             releves += mesurerFeuilles();
     }
     Temoin temoin(argc, argv);
+    if (demandee("memoire")) // before the large catalogues, whose memory is not given back
+        releves += mesurerMemoire(temoin);
     if (demandee("ecran"))
         releves += mesurerEcran(temoin);
     if (demandee("livres"))
@@ -62,7 +64,5 @@ int main(int argc, char **argv)
         releves += mesurerFacture();
     if (demandee("pages"))
         releves += mesurerPages();
-    if (demandee("memoire"))
-        releves += mesurerMemoire(temoin);
     std::printf("%s\n\n%s", qPrintable(machine()), qPrintable(tableau(releves, forme)));
 }
