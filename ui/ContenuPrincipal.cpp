@@ -35,14 +35,14 @@ constexpr auto apresLaPremiereImage = std::chrono::milliseconds(150); // the net
 } // namespace
 
 ContenuPrincipal::ContenuPrincipal(Catalogue &catalogue, Commande &commande, Verifications &verifications,
-                                   ImagesCouvertures &images, const Preferences &preferences, Aujourdhui aujourdhui,
+                                   ImagesCouvertures &images, Preferences preferences, Aujourdhui aujourdhui,
                                    QWidget *parent)
     : QWidget(parent),
       catalogue_(catalogue),
       commande_(commande),
       verifications_(verifications),
       images_(images),
-      preferences_(preferences),
+      preferences_(std::move(preferences)),
       aujourdhui_(std::move(aujourdhui)),
       rubriques_(new ListeRubriques({{QStringLiteral("shippingbox"), tr("Commande")},
                                      {QStringLiteral("tablecells"), tr("Tarifs Colissimo")},

@@ -25,7 +25,7 @@ class ContenuPrincipal : public QWidget
 
 public:
     ContenuPrincipal(Catalogue &catalogue, Commande &commande, Verifications &verifications, ImagesCouvertures &images,
-                     const Preferences &preferences, Aujourdhui aujourdhui, QWidget *parent = nullptr);
+                     Preferences preferences, Aujourdhui aujourdhui, QWidget *parent = nullptr);
 
     // No section at all shows the order.
     void montrer(std::optional<Rubrique> rubrique);

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 namespace {
 
@@ -34,9 +35,9 @@ using DessinCouverture::opaciteIndisponible;
 
 } // namespace
 
-Couverture::Couverture(const Livre &livre, ImagesCouvertures &images, QWidget *parent)
+Couverture::Couverture(Livre livre, ImagesCouvertures &images, QWidget *parent)
     : QAbstractButton(parent),
-      livre_(livre),
+      livre_(std::move(livre)),
       images_(images),
       soulevement_(new Ressort(Ressorts::survol, this)),
       pastille_(new Ressort(Ressorts::action, this))

@@ -18,10 +18,10 @@ public:
     static constexpr int debord = 24;
     static constexpr int debordBas = 44;
 
-    Couverture(const Livre &livre, ImagesCouvertures &images, QWidget *parent = nullptr);
+    Couverture(Livre livre, ImagesCouvertures &images, QWidget *parent = nullptr);
 
     void montrer(const Livre &livre, int quantite);
-    void soulever(bool soulevee);
+    void soulever(bool oui);
 
 protected:
     void paintEvent(QPaintEvent *evenement) override;

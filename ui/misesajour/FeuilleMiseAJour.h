@@ -18,7 +18,7 @@ public:
     FeuilleMiseAJour(MisesAJour &misesAJour, QWidget *parent);
 
 private:
-    void actualiser();
+    void actualiser() final;
     void retirer();
 
     MisesAJour &misesAJour_;
