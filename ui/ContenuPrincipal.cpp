@@ -44,9 +44,9 @@ ContenuPrincipal::ContenuPrincipal(Catalogue &catalogue, Commande &commande, Ver
       images_(images),
       preferences_(std::move(preferences)),
       aujourdhui_(std::move(aujourdhui)),
-      rubriques_(new ListeRubriques({{QStringLiteral("shippingbox"), tr("Commande")},
-                                     {QStringLiteral("tablecells"), tr("Tarifs Colissimo")},
-                                     {QStringLiteral("books.vertical"), tr("Livres")}})),
+      rubriques_(new ListeRubriques({{QStringLiteral("shippingbox"), QStringLiteral("Commande")},
+                                     {QStringLiteral("tablecells"), QStringLiteral("Tarifs Colissimo")},
+                                     {QStringLiteral("books.vertical"), QStringLiteral("Livres")}})),
       enVigueur_(new Libelle({}, Libelle::Rang::secondaire)),
       detail_(new QStackedWidget),
       ecrans_(3, nullptr)
@@ -105,7 +105,7 @@ QWidget *ContenuPrincipal::barreLaterale()
 
 QWidget *ContenuPrincipal::tarifsEnVigueur()
 {
-    auto *titre = new Libelle(tr("Tarifs Colissimo"), Libelle::Rang::secondaire);
+    auto *titre = new Libelle(QStringLiteral("Tarifs Colissimo"), Libelle::Rang::secondaire);
     titre->setFont(Theme::enGras(Theme::legende()));
     enVigueur_->setFont(Theme::legende());
     enVigueur_->setWordWrap(true);

@@ -62,16 +62,16 @@ void Fenetre::ramener()
 
 void Fenetre::creerMenu(MisesAJour &misesAJour)
 {
-    QMenu *menu = menuBar()->addMenu(tr("&Quillet"));
-    menu->addAction(tr("À &propos de Quillet"), this, &Fenetre::aPropos)->setMenuRole(QAction::AboutRole);
-    QAction *rechercher = menu->addAction(tr("&Rechercher les mises à jour…"), this,
+    QMenu *menu = menuBar()->addMenu(QStringLiteral("&Quillet"));
+    menu->addAction(QStringLiteral("À &propos de Quillet"), this, &Fenetre::aPropos)->setMenuRole(QAction::AboutRole);
+    QAction *rechercher = menu->addAction(QStringLiteral("&Rechercher les mises à jour…"), this,
                                           [this, &misesAJour] { (new FeuilleMiseAJour(misesAJour, this))->ouvrir(); });
     rechercher->setMenuRole(QAction::ApplicationSpecificRole);
     const auto suivre = [rechercher, &misesAJour] { rechercher->setEnabled(misesAJour.peutVerifier()); };
     connect(&misesAJour, &MisesAJour::change, rechercher, suivre);
     suivre();
     menu->addSeparator();
-    QAction *quitter = menu->addAction(tr("&Quitter"), this, &QWidget::close);
+    QAction *quitter = menu->addAction(QStringLiteral("&Quitter"), this, &QWidget::close);
     quitter->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
     quitter->setMenuRole(QAction::QuitRole);
 }
@@ -94,9 +94,10 @@ void Fenetre::creerRaccourcis()
 void Fenetre::aPropos()
 {
     QMessageBox::about(
-        this, tr("À propos de Quillet"),
-        tr("<h3>Quillet %1</h3><p>Le prix d’une commande, et ce qu’il en reste, pour les auteurs qui vendent leurs "
-           "livres par la poste.</p>"
-           "<p>© 2026 The Quillet authors · licence MIT</p>")
+        this, QStringLiteral("À propos de Quillet"),
+        QStringLiteral(
+            "<h3>Quillet %1</h3><p>Le prix d’une commande, et ce qu’il en reste, pour les auteurs qui vendent leurs "
+            "livres par la poste.</p>"
+            "<p>© 2026 The Quillet authors · licence MIT</p>")
             .arg(QApplication::applicationVersion()));
 }

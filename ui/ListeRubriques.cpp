@@ -82,7 +82,7 @@ public:
 
 ListeRubriques::ListeRubriques(const QList<Entree> &entrees, QWidget *parent) : QListWidget(parent)
 {
-    setAccessibleName(tr("Rubriques"));
+    setAccessibleName(QStringLiteral("Rubriques"));
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setMouseTracking(true);
@@ -91,7 +91,7 @@ ListeRubriques::ListeRubriques(const QList<Entree> &entrees, QWidget *parent) : 
     for (const Entree &entree : entrees) {
         auto *ligne = new QListWidgetItem(entree.libelle, this);
         ligne->setData(roleSymbole, entree.symbole);
-        ligne->setToolTip(tr("%1 (Ctrl+%2)").arg(entree.libelle, QString::number(count())));
+        ligne->setToolTip(QStringLiteral("%1 (Ctrl+%2)").arg(entree.libelle, QString::number(count())));
     }
 }
 
@@ -100,7 +100,8 @@ void ListeRubriques::setPastille(int rang, int nombre)
     QListWidgetItem *ligne = item(rang);
     ligne->setData(rolePastille, nombre);
     ligne->setData(Qt::AccessibleTextRole,
-                   nombre > 0 ? tr("%1, %2 à voir").arg(ligne->text(), QString::number(nombre)) : ligne->text());
+                   nombre > 0 ? QStringLiteral("%1, %2 à voir").arg(ligne->text(), QString::number(nombre))
+                              : ligne->text());
 }
 
 QSize ListeRubriques::minimumSizeHint() const

@@ -78,7 +78,7 @@ int peindreEpuise(QPainter &peintre, const QRect &ligne, const QPalette &palette
 QString enMots(const Livre &livre, int quantite)
 {
     const QString mots = TextesLivres::enMots(livre);
-    return quantite > 0 ? CarteLivre::tr("%1, %2 dans la commande").arg(mots, QString::number(quantite)) : mots;
+    return quantite > 0 ? QStringLiteral("%1, %2 dans la commande").arg(mots, QString::number(quantite)) : mots;
 }
 
 } // namespace

@@ -7,22 +7,22 @@
 #include "ui/commun/Libelle.h"
 
 SectionDestination::SectionDestination(const QList<Destination> &destinations, Commande &commande, QWidget *parent)
-    : Section(tr("Destination"), {}, parent),
+    : Section(QStringLiteral("Destination"), {}, parent),
       commande_(commande),
       destination_(new Choix),
       nomComplet_(new Libelle({}, Libelle::Rang::secondaire)),
       horsUE_(new Interrupteur),
       rangeeHorsUE_(new Formulaire::Rangee({}, horsUE_)),
       declaration_(new Libelle({})),
-      rangeeDeclaration_(new Formulaire::Rangee(tr("Déclaration en douane"), declaration_))
+      rangeeDeclaration_(new Formulaire::Rangee(QStringLiteral("Déclaration en douane"), declaration_))
 {
     for (const Destination &destination : destinations)
         destination_->ajouter(destination.libelleCourt, destination.code);
     nomComplet_->setFont(Theme::encadre());
     nomComplet_->setWordWrap(true);
-    rangeeHorsUE_->setDetail(tr("hors Union européenne : déclaration en douane"));
+    rangeeHorsUE_->setDetail(QStringLiteral("hors Union européenne : déclaration en douane"));
 
-    groupe()->ajouter(new Formulaire::Rangee(tr("Envoi vers"), destination_));
+    groupe()->ajouter(new Formulaire::Rangee(QStringLiteral("Envoi vers"), destination_));
     groupe()->ajouter(nomComplet_);
     groupe()->ajouter(rangeeHorsUE_);
     groupe()->ajouter(rangeeDeclaration_);
@@ -41,7 +41,7 @@ void SectionDestination::montrer(const Calcul &calcul)
     const auto exception = calcul.destination ? calcul.destination->douaneSauf : std::nullopt;
     rangeeHorsUE_->setVisible(exception.has_value());
     if (exception) {
-        rangeeHorsUE_->setTexte(tr("Colis pour %1").arg(*exception));
+        rangeeHorsUE_->setTexte(QStringLiteral("Colis pour %1").arg(*exception));
         horsUE_->setAccessibleName(rangeeHorsUE_->libelle()->text());
     }
     horsUE_->setChecked(commande_.horsUE());

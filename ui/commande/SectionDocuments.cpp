@@ -7,9 +7,10 @@
 #include <QPushButton>
 
 SectionDocuments::SectionDocuments(QWidget *parent)
-    : Section(tr("Documents d’envoi"), {}, parent),
-      douane_(new QPushButton(Icone::icone(QStringLiteral("doc.text.magnifyingglass")), tr("Déclaration en douane"))),
-      facture_(new QPushButton(Icone::icone(QStringLiteral("doc.plaintext")), tr("Facture")))
+    : Section(QStringLiteral("Documents d’envoi"), {}, parent),
+      douane_(new QPushButton(Icone::icone(QStringLiteral("doc.text.magnifyingglass")),
+                              QStringLiteral("Déclaration en douane"))),
+      facture_(new QPushButton(Icone::icone(QStringLiteral("doc.plaintext")), QStringLiteral("Facture")))
 {
     auto *boutons = new QWidget;
     auto *rangee = new QHBoxLayout(boutons);

@@ -11,23 +11,24 @@
 #include <QPushButton>
 
 SectionLien::SectionLien(const Reglages &reglages, Commande &commande, QWidget *parent)
-    : Section(tr("Lien de paiement PayPal"),
-              tr("Un prix fixe en EUR, Quantité désactivée. Onglet Checkout : adresse de livraison activée. "
-                 "Onglet Confirmation : URL de redirection automatique."),
-              parent),
+    : Section(
+        QStringLiteral("Lien de paiement PayPal"),
+        QStringLiteral("Un prix fixe en EUR, Quantité désactivée. Onglet Checkout : adresse de livraison activée. "
+                       "Onglet Confirmation : URL de redirection automatique."),
+        parent),
       reglages_(reglages),
       commande_(commande),
       langue_(new ChoixLangue),
       pays_(new QLineEdit),
-      rangeePays_(new Formulaire::RangeeHaute(tr("Pays de livraison"), pays_)),
-      nomDeLObjet_(new ChampACopier(tr("Nom de l’objet"))),
-      description_(new ChampACopier(tr("Description"))),
-      prix_(new ChampACopier(tr("Prix"))),
-      retour_(new ChampACopier(tr("URL de redirection")))
+      rangeePays_(new Formulaire::RangeeHaute(QStringLiteral("Pays de livraison"), pays_)),
+      nomDeLObjet_(new ChampACopier(QStringLiteral("Nom de l’objet"))),
+      description_(new ChampACopier(QStringLiteral("Description"))),
+      prix_(new ChampACopier(QStringLiteral("Prix"))),
+      retour_(new ChampACopier(QStringLiteral("URL de redirection")))
 {
-    auto *creer =
-        new QPushButton(Icone::icone(QStringLiteral("arrow.up.forward.app")), tr("Créer le lien dans PayPal"));
-    groupe()->ajouter(new Formulaire::RangeeHaute(tr("Langue de l’acheteur"), langue_));
+    auto *creer = new QPushButton(Icone::icone(QStringLiteral("arrow.up.forward.app")),
+                                  QStringLiteral("Créer le lien dans PayPal"));
+    groupe()->ajouter(new Formulaire::RangeeHaute(QStringLiteral("Langue de l’acheteur"), langue_));
     groupe()->ajouter(Formulaire::seul(creer));
     groupe()->ajouter(rangeePays_);
     for (ChampACopier *champ : {nomDeLObjet_, description_, prix_, retour_})

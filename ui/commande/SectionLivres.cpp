@@ -6,10 +6,10 @@
 #include "ui/commun/Libelle.h"
 
 SectionLivres::SectionLivres(QWidget *parent)
-    : Section(tr("Livres"), {}, parent),
-      aucunLivre_(new Libelle(tr("Aucun livre pour l’instant : cliquez sur une couverture ou sur +."),
+    : Section(QStringLiteral("Livres"), {}, parent),
+      aucunLivre_(new Libelle(QStringLiteral("Aucun livre pour l’instant : cliquez sur une couverture ou sur +."),
                               Libelle::Rang::secondaire)),
-      sousTotal_(tr("Sous-total"))
+      sousTotal_(QStringLiteral("Sous-total"))
 {
     aucunLivre_->setWordWrap(true);
     sousTotal_.montant->setFont(Theme::enGras(font()));

@@ -14,8 +14,7 @@
 class SectionMontants::LigneDuTotal : public QWidget
 {
 public:
-    explicit LigneDuTotal(NombreRoulant *total)
-        : libelle_(new Libelle(SectionMontants::tr("TOTAL À PAYER"))), total_(total)
+    explicit LigneDuTotal(NombreRoulant *total) : libelle_(new Libelle(QStringLiteral("TOTAL À PAYER"))), total_(total)
     {
         QFont titre = Theme::enGras(font());
         titre.setLetterSpacing(QFont::AbsoluteSpacing, 0.8);
@@ -60,15 +59,15 @@ std::optional<Centimes> negatif(const std::optional<Centimes> &montant)
 } // namespace
 
 SectionMontants::SectionMontants(const Reglages &reglages, QWidget *parent)
-    : Section(tr("Montants"), {}, parent),
+    : Section(QStringLiteral("Montants"), {}, parent),
       reglages_(reglages),
-      envoi_(tr("Envoi Colissimo")),
+      envoi_(QStringLiteral("Envoi Colissimo")),
       total_(new NombreRoulant),
       ligneDuTotal_(new LigneDuTotal(total_)),
-      frais_(tr("Frais PayPal")),
-      reste_(tr("Il vous reste"))
+      frais_(QStringLiteral("Frais PayPal")),
+      reste_(QStringLiteral("Il vous reste"))
 {
-    reste_.rangee->setDetail(tr("les livres moins les frais PayPal"));
+    reste_.rangee->setDetail(QStringLiteral("les livres moins les frais PayPal"));
     reste_.rangee->libelle()->setFont(Theme::enGras(font()));
     reste_.montant->setFont(Theme::enGras(font()));
     groupe()->ajouter(envoi_.rangee);

@@ -45,26 +45,26 @@ Choix *choixDEmballage(const QList<Emballage> &emballages)
 } // namespace
 
 SectionPoids::SectionPoids(const QList<Emballage> &emballages, Commande &commande, QWidget *parent)
-    : Section(tr("Poids"), {}, parent),
+    : Section(QStringLiteral("Poids"), {}, parent),
       commande_(commande),
-      poidsLivres_(tr("Livres")),
+      poidsLivres_(QStringLiteral("Livres")),
       emballage_(choixDEmballage(emballages)),
-      poidsLibre_(champ(tr("Poids de l’emballage"))),
-      rangeePoidsLibre_(new Formulaire::Rangee(tr("Poids de l’emballage"), avecUnite(poidsLibre_))),
-      poidsCalcule_(tr("Poids calculé")),
-      poidsPese_(champ(tr("Colis pesé"))),
+      poidsLibre_(champ(QStringLiteral("Poids de l’emballage"))),
+      rangeePoidsLibre_(new Formulaire::Rangee(QStringLiteral("Poids de l’emballage"), avecUnite(poidsLibre_))),
+      poidsCalcule_(QStringLiteral("Poids calculé")),
+      poidsPese_(champ(QStringLiteral("Colis pesé"))),
       avertissements_(new QWidget)
 {
     poidsPese_->setPlaceholderText(QStringLiteral("—"));
     poidsPese_->setFont(Theme::enGras(font()));
-    auto *colisPese = new Formulaire::Rangee(tr("Colis pesé"), avecUnite(poidsPese_));
-    colisPese->setDetail(tr("emballage compris ; remplace le poids calculé"));
+    auto *colisPese = new Formulaire::Rangee(QStringLiteral("Colis pesé"), avecUnite(poidsPese_));
+    colisPese->setDetail(QStringLiteral("emballage compris ; remplace le poids calculé"));
     auto *lignes = new QVBoxLayout(avertissements_);
     lignes->setContentsMargins(0, 0, 0, 0);
     lignes->setSpacing(10);
 
     groupe()->ajouter(poidsLivres_.rangee);
-    groupe()->ajouter(new Formulaire::RangeeHaute(tr("Emballage"), emballage_));
+    groupe()->ajouter(new Formulaire::RangeeHaute(QStringLiteral("Emballage"), emballage_));
     groupe()->ajouter(rangeePoidsLibre_);
     groupe()->ajouter(poidsCalcule_.rangee);
     groupe()->ajouter(colisPese);

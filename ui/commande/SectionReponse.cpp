@@ -7,7 +7,8 @@
 #include <QPushButton>
 
 SectionReponse::SectionReponse(const Commande &commande, QWidget *parent)
-    : Section(tr("Réponse à l’acheteur"), tr("Dans la langue choisie pour le lien de paiement."), parent),
+    : Section(QStringLiteral("Réponse à l’acheteur"),
+              QStringLiteral("Dans la langue choisie pour le lien de paiement."), parent),
       commande_(commande),
       ecrire_(new QPushButton(Icone::icone(QStringLiteral("envelope")), {}))
 {

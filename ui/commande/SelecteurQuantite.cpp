@@ -66,8 +66,8 @@ private:
 
 SelecteurQuantite::SelecteurQuantite(const Livre &livre, Commande &commande, QWidget *parent)
     : QWidget(parent),
-      moins_(new BoutonRond(QStringLiteral("minus"), tr("Retirer un exemplaire"))),
-      plus_(new BoutonRond(QStringLiteral("plus"), tr("Ajouter un exemplaire"))),
+      moins_(new BoutonRond(QStringLiteral("minus"), QStringLiteral("Retirer un exemplaire"))),
+      plus_(new BoutonRond(QStringLiteral("plus"), QStringLiteral("Ajouter un exemplaire"))),
       nombre_(new NombreRoulant),
       plein_(new Ressort(Ressorts::action, this, [this](double) { colorer(); }))
 {
@@ -83,7 +83,7 @@ SelecteurQuantite::SelecteurQuantite(const Livre &livre, Commande &commande, QWi
     connect(moins_, &QAbstractButton::clicked, this, [livre, &commande] { commande.ajuster(livre, -1); });
     connect(plus_, &QAbstractButton::clicked, this, [livre, &commande] { commande.ajuster(livre, 1); });
     moins_->setEnabled(false);
-    setAccessibleName(tr("Nombre d’exemplaires"));
+    setAccessibleName(QStringLiteral("Nombre d’exemplaires"));
     titre_ = livre.titre;
     decrire();
     colorer();
@@ -110,7 +110,7 @@ void SelecteurQuantite::montrer(int quantite)
 // All cards have the same buttons: a screen reader hears whose they are, and the number that they lead to.
 void SelecteurQuantite::decrire()
 {
-    const QString etat = tr("%1, %2 dans la commande").arg(titre_, QString::number(quantite_));
+    const QString etat = QStringLiteral("%1, %2 dans la commande").arg(titre_, QString::number(quantite_));
     for (QWidget *partie : std::initializer_list<QWidget *>{this, moins_, plus_})
         partie->setAccessibleDescription(etat);
 }

@@ -34,7 +34,7 @@ SelecteurSite::SelecteurSite(const Reglages &reglages, QWidget *parent)
     for (const Vendeur vendeur : tousLesVendeurs)
         choix_->bouton(static_cast<int>(vendeur))
             ->setAccessibleName(
-                tr("%1, livres de %2")
+                QStringLiteral("%1, livres de %2")
                     .arg(NomsVendeurs::site(vendeur, reglages), NomsVendeurs::complet(vendeur, reglages)));
     connect(choix_, &ChoixSegmente::choisi, this,
             [this](int indice) { emit choisi(tousLesVendeurs[static_cast<std::size_t>(indice)]); });

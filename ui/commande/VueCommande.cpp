@@ -42,14 +42,16 @@ VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesC
       commande_(commande),
       preferences_(preferences),
       aujourdhui_(std::move(aujourdhui)),
-      enTete_(new EnTete(tr("Commande"))),
-      reinitialiser_(new QPushButton(Icone::icone(QStringLiteral("arrow.counterclockwise")), tr("Tout réinitialiser"))),
+      enTete_(new EnTete(QStringLiteral("Commande"))),
+      reinitialiser_(new QPushButton(Icone::icone(QStringLiteral("arrow.counterclockwise")),
+                                     QStringLiteral("Tout réinitialiser"))),
       selecteur_(new SelecteurSite(catalogue.reglages())),
       grille_(new GrilleLivres(commande, images, selecteur_->dernierControle())),
       recapitulatif_(new Recapitulatif(catalogue, commande))
 {
-    reinitialiser_->setToolTip(tr("Tout réinitialiser : quantités, colis pesé et pays de livraison ; l’emballage et la "
-                                  "destination restent"));
+    reinitialiser_->setToolTip(
+        QStringLiteral("Tout réinitialiser : quantités, colis pesé et pays de livraison ; l’emballage et la "
+                       "destination restent"));
     enTete_->ajouter(reinitialiser_);
     recapitulatif_->setMaximumWidth(Theme::aLaTaille(panneauMaximum));
 

@@ -42,7 +42,7 @@ void Alerte::montrer(const QString &texte)
 void Alerte::dire(const QString &texte)
 {
     texte_->setText(texte);
-    const QString dit = ton_ == Ton::avertissement ? tr("Attention : %1").arg(texte) : texte;
+    const QString dit = ton_ == Ton::avertissement ? QStringLiteral("Attention : %1").arg(texte) : texte;
     setAccessibleName(dit); // spoken when the line appears
     texte_->setAccessibleName(dit);
 }

@@ -38,5 +38,5 @@ void BoutonCopier::montrerEtat()
 {
     const bool copie = retour_.isActive();
     setIcon(Icone::icone(copie ? QStringLiteral("checkmark.circle.fill") : QStringLiteral("doc.on.doc")));
-    setAccessibleDescription(copie ? tr("Copié") : QString());
+    setAccessibleDescription(copie ? QStringLiteral("Copié") : QString());
 }

@@ -14,7 +14,7 @@ ChampACopier::ChampACopier(const QString &titre, std::optional<int> colonneDuTit
     affichage_->setWordWrap(true);
     affichage_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     affichage_->setFocusPolicy(Qt::ClickFocus);
-    bouton_->setToolTip(tr("Copier %1").arg(titre));
+    bouton_->setToolTip(QStringLiteral("Copier %1").arg(titre));
 
     auto *textes = new QBoxLayout(colonneDuTitre ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     textes->setSpacing(colonneDuTitre ? 12 : 2);
@@ -35,5 +35,5 @@ void ChampACopier::montrer(const QString &valeur, const QString &affichage)
 {
     bouton_->setValeur(valeur);
     affichage_->setText(affichage.isEmpty() ? valeur : affichage);
-    bouton_->setAccessibleName(tr("Copier %1").arg(titre_.isEmpty() ? valeur : titre_));
+    bouton_->setAccessibleName(QStringLiteral("Copier %1").arg(titre_.isEmpty() ? valeur : titre_));
 }

@@ -53,7 +53,7 @@ std::optional<Grammes> ChampGrammes::poids() const
 // A tooltip is not spoken; what describes the field that has the focus is.
 void ChampGrammes::refuser()
 {
-    const QString raison = tr("Un nombre entier de grammes, de 0 à %1.").arg(Saisie::ecrit(maximum));
+    const QString raison = QStringLiteral("Un nombre entier de grammes, de 0 à %1.").arg(Saisie::ecrit(maximum));
     QToolTip::showText(mapToGlobal(QPoint(0, height())), raison, this);
     if (!description_)
         description_ = accessibleDescription();

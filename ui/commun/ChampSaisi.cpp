@@ -17,7 +17,7 @@ ChampSaisi::ChampSaisi(const QString &libelle, const Unite &unite, Refus refus, 
     mesure->setFixedWidth(mesure->fontMetrics().horizontalAdvance(u'€') + 4); // fields line up whatever their unit
     champ_->setAlignment(Qt::AlignRight);
     champ_->setFixedWidth(champ_->fontMetrics().horizontalAdvance(QStringLiteral("99 999,99")) + 32);
-    champ_->setAccessibleName(tr("%1, en %2").arg(libelle, unite.nom));
+    champ_->setAccessibleName(QStringLiteral("%1, en %2").arg(libelle, unite.nom));
     champ_->installEventFilter(this);
     connect(champ_, &QLineEdit::textEdited, this, [this](const QString &texte) { direLeRefus(refus_(texte)); });
     connect(champ_, &QLineEdit::returnPressed, this, [this] {

@@ -3,7 +3,7 @@
 #include <QApplication>
 
 ChoixLangue::ChoixLangue(QWidget *parent)
-    : ChoixSegmente({tr("Français"), tr("Anglais")}, {.police = QApplication::font()}, parent)
+    : ChoixSegmente({QStringLiteral("Français"), QStringLiteral("Anglais")}, {.police = QApplication::font()}, parent)
 {
     connect(this, &ChoixSegmente::choisi, this,
             [this](int indice) { emit choisie(indice == 0 ? Langue::francais : Langue::anglais); });

@@ -47,7 +47,7 @@ void Feuille::ouvrir()
 
 void Feuille::meubler(QWidget *choix, QWidget *page)
 {
-    QPushButton *fermer = Boutons::deFeuille(tr("Fermer"));
+    QPushButton *fermer = Boutons::deFeuille(QStringLiteral("Fermer"));
     connect(fermer, &QPushButton::clicked, this, &QDialog::reject);
     auto *barre = new QHBoxLayout;
     barre->setContentsMargins(16, 16, 16, 16);

@@ -9,5 +9,5 @@ void Lien::ouvrir(const QUrl &adresse, QWidget *parent)
     if (adresse.scheme() == QLatin1String("https") && QDesktopServices::openUrl(adresse))
         return;
     QMessageBox::information(parent, QStringLiteral("Quillet"),
-                             QMessageBox::tr("Aucun navigateur n’a ouvert cette page :\n%1").arg(adresse.toString()));
+                             QStringLiteral("Aucun navigateur n’a ouvert cette page :\n%1").arg(adresse.toString()));
 }

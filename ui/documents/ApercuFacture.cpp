@@ -59,7 +59,7 @@ ApercuFacture::ApercuFacture(QWidget *parent) : QAbstractButton(parent)
 {
     setFixedSize((QSizeF(PageFacture::taille) * reduction).toSize() + 2 * QSize(marge, marge));
     setCursor(Qt::PointingHandCursor);
-    setToolTip(tr("Agrandir la facture"));
+    setToolTip(QStringLiteral("Agrandir la facture"));
     setAccessibleName(toolTip());
     connect(this, &QAbstractButton::clicked, this, &ApercuFacture::agrandir);
 }

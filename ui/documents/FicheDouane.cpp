@@ -24,8 +24,9 @@ FicheDouane::FicheDouane(const Reglages &reglages, QWidget *parent)
     : QStackedWidget(parent), reglages_(reglages), defilement_(new Defilement)
 {
     addWidget(defilement_);
-    addWidget(new EtatVide(QStringLiteral("info.circle"), {},
-                           tr("Pas de déclaration pour cette destination : elle reste dans l’Union européenne.")));
+    addWidget(new EtatVide(
+        QStringLiteral("info.circle"), {},
+        QStringLiteral("Pas de déclaration pour cette destination : elle reste dans l’Union européenne.")));
 }
 
 void FicheDouane::montrer(const Calcul &calcul)
@@ -49,10 +50,11 @@ QWidget *FicheDouane::instructions()
         consigne->setWordWrap(true);
         colonne->addWidget(consigne);
     }
-    colonne->addWidget(
-        new Alerte(tr("Sans déclaration, ou avec une déclaration incomplète, le colis est refusé par la douane.")));
+    colonne->addWidget(new Alerte(
+        QStringLiteral("Sans déclaration, ou avec une déclaration incomplète, le colis est refusé par la douane.")));
     const QString site = TextesDocuments::siteDeLaPoste();
-    QPushButton *ouvrir = Boutons::deFeuille(tr("Ouvrir %1").arg(site), QStringLiteral("arrow.up.forward.app"));
+    QPushButton *ouvrir =
+        Boutons::deFeuille(QStringLiteral("Ouvrir %1").arg(site), QStringLiteral("arrow.up.forward.app"));
     connect(ouvrir, &QPushButton::clicked, this,
             [this, site] { Lien::ouvrir(QUrl(QStringLiteral("https://www.%1/").arg(site)), this); });
     colonne->addWidget(ouvrir, 0, Qt::AlignLeft);

@@ -49,20 +49,21 @@ FicheFacture::FicheFacture(const Reglages &reglages, Preferences preferences, Au
 
 QWidget *FicheFacture::formulaire()
 {
-    acheteur_->setPlaceholderText(tr("Nom et adresse de livraison, recopiés du paiement PayPal."));
+    acheteur_->setPlaceholderText(QStringLiteral("Nom et adresse de livraison, recopiés du paiement PayPal."));
     numero_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     identite_->setWordWrap(true);
     identite_->setTextInteractionFlags(Qt::TextSelectableByMouse);
 
-    auto *numero = new Formulaire::Rangee(tr("Numéro"), numero_);
-    numero->setDetail(tr("Numéros suivis par vendeur et par année ; le numéro est retenu à l’impression ou à "
-                         "l’enregistrement."));
-    auto *facture = new Formulaire::Section(tr("Facture"));
+    auto *numero = new Formulaire::Rangee(QStringLiteral("Numéro"), numero_);
+    numero->setDetail(
+        QStringLiteral("Numéros suivis par vendeur et par année ; le numéro est retenu à l’impression ou à "
+                       "l’enregistrement."));
+    auto *facture = new Formulaire::Section(QStringLiteral("Facture"));
     facture->groupe()->ajouter(numero);
     facture->groupe()->ajouter(remarque_);
-    facture->groupe()->ajouter(new Formulaire::RangeeHaute(tr("Acheteur"), acheteur_));
+    facture->groupe()->ajouter(new Formulaire::RangeeHaute(QStringLiteral("Acheteur"), acheteur_));
     facture->groupe()->ajouter(sansSiret_);
-    auto *vendeur = new Formulaire::Section(tr("Vendeur"));
+    auto *vendeur = new Formulaire::Section(QStringLiteral("Vendeur"));
     vendeur->groupe()->ajouter(identite_);
 
     auto *champs = new QWidget;
@@ -87,9 +88,10 @@ QWidget *FicheFacture::formulaire()
 
 QWidget *FicheFacture::sorties()
 {
-    QPushButton *imprimer =
-        Boutons::deFeuille(tr("Imprimer %1 exemplaires").arg(Facture::exemplaires), QStringLiteral("printer"));
-    QPushButton *enregistrer = Boutons::deFeuille(tr("Enregistrer en PDF…"), QStringLiteral("square.and.arrow.down"));
+    QPushButton *imprimer = Boutons::deFeuille(QStringLiteral("Imprimer %1 exemplaires").arg(Facture::exemplaires),
+                                               QStringLiteral("printer"));
+    QPushButton *enregistrer =
+        Boutons::deFeuille(QStringLiteral("Enregistrer en PDF…"), QStringLiteral("square.and.arrow.down"));
     connect(imprimer, &QPushButton::clicked, this, &FicheFacture::imprimer);
     connect(enregistrer, &QPushButton::clicked, this, &FicheFacture::enregistrer);
 
@@ -131,7 +133,7 @@ void FicheFacture::proposer()
         sansProposition_.clear();
     } catch (const ErreurStockage &erreur) {
         numero_->clear();
-        sansProposition_ = tr("Le dernier numéro n’a pas pu être lu.\n%1").arg(erreur.texte());
+        sansProposition_ = QStringLiteral("Le dernier numéro n’a pas pu être lu.\n%1").arg(erreur.texte());
     }
 }
 
@@ -159,7 +161,7 @@ void FicheFacture::completer()
 
 void FicheFacture::imprimer()
 {
-    emettre(tr("Facture %1 imprimée."), [this](const Facture &facture) {
+    emettre(QStringLiteral("Facture %1 imprimée."), [this](const Facture &facture) {
         return ImpressionFacture::imprimer(facture, Facture::exemplaires, this);
     });
 }
@@ -167,7 +169,7 @@ void FicheFacture::imprimer()
 void FicheFacture::enregistrer()
 {
     std::optional<QString> chemin;
-    const bool faite = emettre(tr("Facture %1 enregistrée."), [&](const Facture &facture) {
+    const bool faite = emettre(QStringLiteral("Facture %1 enregistrée."), [&](const Facture &facture) {
         chemin = ImpressionFacture::enregistrer(facture, preferences_.texte(cleDossier), this);
         return chemin.has_value();
     });
@@ -176,7 +178,7 @@ void FicheFacture::enregistrer()
     try {
         preferences_.ecrire(cleDossier, QFileInfo(*chemin).absolutePath());
     } catch (const ErreurStockage &erreur) {
-        prevenir(tr("Le dossier choisi ne sera pas proposé la prochaine fois.\n%1").arg(erreur.texte()));
+        prevenir(QStringLiteral("Le dossier choisi ne sera pas proposé la prochaine fois.\n%1").arg(erreur.texte()));
     }
 }
 
@@ -201,7 +203,7 @@ bool FicheFacture::emettre(const QString &issue, const std::function<bool(const 
 
 void FicheFacture::prevenir(const QString &message)
 {
-    QMessageBox::warning(this, tr("Facture"), message);
+    QMessageBox::warning(this, QStringLiteral("Facture"), message);
 }
 
 void FicheFacture::retenir(const QString &numero)
@@ -209,7 +211,7 @@ void FicheFacture::retenir(const QString &numero)
     try {
         NumerotationFactures{preferences_}.retenir(numero, vendeur_);
     } catch (const ErreurStockage &erreur) {
-        throw Echec(
-            tr("La facture %1 est partie, mais son numéro n’a pas été retenu.\n%2").arg(numero, erreur.texte()));
+        throw Echec(QStringLiteral("La facture %1 est partie, mais son numéro n’a pas été retenu.\n%2")
+                        .arg(numero, erreur.texte()));
     }
 }

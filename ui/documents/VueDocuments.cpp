@@ -17,13 +17,14 @@ constexpr QSize tailleDesDocuments(760, 720);
 
 VueDocuments::VueDocuments(const Catalogue &catalogue, const Commande &commande, const Preferences &preferences,
                            Aujourdhui aujourdhui, OngletDocuments onglet, QWidget *parent)
-    : Feuille(tr("Documents d’envoi"), aujourdhui, parent),
+    : Feuille(QStringLiteral("Documents d’envoi"), aujourdhui, parent),
       catalogue_(catalogue),
       commande_(commande),
       douane_(new FicheDouane(catalogue.reglages())),
       facture_(new FicheFacture(catalogue.reglages(), preferences, std::move(aujourdhui)))
 {
-    auto *onglets = new ChoixSegmente({tr("Déclaration en douane"), tr("Facture")}, {.police = font()});
+    auto *onglets =
+        new ChoixSegmente({QStringLiteral("Déclaration en douane"), QStringLiteral("Facture")}, {.police = font()});
     auto *pages = new QStackedWidget;
     pages->addWidget(douane_);
     pages->addWidget(facture_);

@@ -78,9 +78,9 @@ FicheLivre::FicheLivre(ImagesCouvertures &images, QWidget *parent)
       fabrication_(ligneDiscrete()),
       disponible_(new Interrupteur),
       situation_(new Libelle({})),
-      page_(Boutons::deFeuille(tr("Ouvrir la page PayPal"), QStringLiteral("arrow.up.forward.app"))),
-      toutReporter_(Boutons::deFeuille(tr("Tout reporter"))),
-      suivant_(Boutons::deFeuille(tr("Livre suivant à reporter"), QStringLiteral("arrow.right"))),
+      page_(Boutons::deFeuille(QStringLiteral("Ouvrir la page PayPal"), QStringLiteral("arrow.up.forward.app"))),
+      toutReporter_(Boutons::deFeuille(QStringLiteral("Tout reporter"))),
+      suivant_(Boutons::deFeuille(QStringLiteral("Livre suivant à reporter"), QStringLiteral("arrow.right"))),
       tableau_(new TableauBoutons)
 {
     auto *colonne = new QVBoxLayout(this);
@@ -115,11 +115,11 @@ QWidget *FicheLivre::enTete(ImagesCouvertures &images)
 
 QWidget *FicheLivre::reglages()
 {
-    prix_ = new ChampSaisi(tr("Prix"), {QStringLiteral("€"), tr("euros")},
+    prix_ = new ChampSaisi(QStringLiteral("Prix"), {QStringLiteral("€"), QStringLiteral("euros")},
                            [](const QString &texte) { return refus(Saisie::prix(texte)); });
-    poids_ = new ChampSaisi(tr("Poids"), {QStringLiteral("g"), tr("grammes")},
+    poids_ = new ChampSaisi(QStringLiteral("Poids"), {QStringLiteral("g"), QStringLiteral("grammes")},
                             [](const QString &texte) { return refus(Saisie::poids(texte)); });
-    poids_->setInvite(tr("à peser"));
+    poids_->setInvite(QStringLiteral("à peser"));
     connect(prix_, &ChampSaisi::saisi, this, [this](const QString &texte) {
         Livre livre = livre_;
         livre.prix = std::get<Centimes>(Saisie::prix(texte));
@@ -141,14 +141,15 @@ QWidget *FicheLivre::reglages()
     auto *groupe = new Formulaire::Groupe;
     groupe->ajouter(prix_);
     groupe->ajouter(poids_);
-    groupe->ajouter(new Formulaire::Rangee(tr("Disponible"), disponible_));
+    groupe->ajouter(new Formulaire::Rangee(QStringLiteral("Disponible"), disponible_));
     return groupe;
 }
 
 QWidget *FicheLivre::boutonsPaypal()
 {
-    Libelle *titre = Libelle::titreDeSection(tr("Boutons PayPal"));
-    Libelle *note = Libelle::note(tr("Le livre envoyé seul, dans l’emballage habituel. Frais PayPal non compris."));
+    Libelle *titre = Libelle::titreDeSection(QStringLiteral("Boutons PayPal"));
+    Libelle *note =
+        Libelle::note(QStringLiteral("Le livre envoyé seul, dans l’emballage habituel. Frais PayPal non compris."));
     situation_->setWordWrap(true);
     connect(page_, &QPushButton::clicked, this, [this] { Lien::ouvrir(*livre_.lienPaypal, this); });
     toutReporter_->setFocusPolicy(Qt::TabFocus); // as the rows' own buttons

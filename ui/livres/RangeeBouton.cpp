@@ -27,12 +27,12 @@ QFont policeDuPrix()
 
 QString texteReporter()
 {
-    return RangeeBouton::tr("Reporter");
+    return QStringLiteral("Reporter");
 }
 
 QString texteGarder()
 {
-    return RangeeBouton::tr("Garder");
+    return QStringLiteral("Garder");
 }
 
 int largeur(const QString &action)
@@ -72,10 +72,10 @@ void RangeeBouton::placerLesTetes(QGridLayout &grille)
         libelle->setContentsMargins(0, margeVerticale, 0, margeVerticale);
         grille.addWidget(libelle, 0, colonne, cote);
     };
-    tete(destination, tr("Destination"), Qt::AlignLeft);
-    tete(actuel, tr("Actuel"), Qt::AlignRight);
-    tete(calcule, tr("Calculé"), Qt::AlignRight);
-    tete(etat, tr("État"), Qt::AlignLeft);
+    tete(destination, QStringLiteral("Destination"), Qt::AlignLeft);
+    tete(actuel, QStringLiteral("Actuel"), Qt::AlignRight);
+    tete(calcule, QStringLiteral("Calculé"), Qt::AlignRight);
+    tete(etat, QStringLiteral("État"), Qt::AlignLeft);
     grille.setColumnStretch(destination, 1);
     // Columns stand still from one book to the next.
     const int prix = Chiffres::largeur(QFontMetrics(policeDuPrix()), QStringLiteral("000,00 €"));
@@ -102,7 +102,7 @@ RangeeBouton::RangeeBouton(QGridLayout &grille, int ligne, QObject *parent)
     palier_->setFont(Theme::legende());
     calcule_->setFont(policeDuPrix());
     ecart_->setFont(Theme::legende());
-    copier_->setToolTip(tr("Copier le prix calculé"));
+    copier_->setToolTip(QStringLiteral("Copier le prix calculé"));
 
     auto *actions = new QWidget;
     auto *boutons = new QHBoxLayout(actions);
@@ -143,21 +143,22 @@ void RangeeBouton::montrer(const TextesBoutons::Ligne &ligne)
     reporter_->parentWidget()->setVisible(ligne.peutReporter);
 
     // A screen reader hears the whole row with the figure to copy.
-    QStringList mots{ligne.destination, ligne.etatEnMots, tr("Actuel : %1").arg(ligne.actuel), ligne.ecart,
+    QStringList mots{ligne.destination, ligne.etatEnMots, QStringLiteral("Actuel : %1").arg(ligne.actuel), ligne.ecart,
                      ligne.palier};
     mots.removeAll(QString());
     const QString enMots = mots.join(QStringLiteral(", "));
-    actuel_->setAccessibleName(tr("Actuel : %1").arg(ligne.actuel));
-    calcule_->setAccessibleName(tr("Calculé : %1").arg(ligne.calcule));
-    copier_->setAccessibleName(ligne.aCopier.isEmpty() ? tr("Rien à copier, %1").arg(enMots)
-                                                       : tr("Copier %1, %2").arg(ligne.aCopier, enMots));
+    actuel_->setAccessibleName(QStringLiteral("Actuel : %1").arg(ligne.actuel));
+    calcule_->setAccessibleName(QStringLiteral("Calculé : %1").arg(ligne.calcule));
+    copier_->setAccessibleName(ligne.aCopier.isEmpty() ? QStringLiteral("Rien à copier, %1").arg(enMots)
+                                                       : QStringLiteral("Copier %1, %2").arg(ligne.aCopier, enMots));
     etat_->setAccessibleName(enMots);
     // A row without a price to copy is read there.
     etat_->setFocusPolicy(ligne.aCopier.isEmpty() ? Qt::TabFocus : Qt::NoFocus);
-    reporter_->setToolTip(tr("Le bouton PayPal demande maintenant %1").arg(ligne.calcule));
-    reporter_->setAccessibleName(tr("Reporter, %1").arg(ligne.destination));
-    garder_->setToolTip(tr("Le bouton PayPal garde son prix, tant que le calcul donne %1").arg(ligne.calcule));
-    garder_->setAccessibleName(tr("Garder, %1").arg(ligne.destination));
+    reporter_->setToolTip(QStringLiteral("Le bouton PayPal demande maintenant %1").arg(ligne.calcule));
+    reporter_->setAccessibleName(QStringLiteral("Reporter, %1").arg(ligne.destination));
+    garder_->setToolTip(
+        QStringLiteral("Le bouton PayPal garde son prix, tant que le calcul donne %1").arg(ligne.calcule));
+    garder_->setAccessibleName(QStringLiteral("Garder, %1").arg(ligne.destination));
 }
 
 void RangeeBouton::setVisible(bool visible)

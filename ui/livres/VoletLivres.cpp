@@ -52,7 +52,7 @@ VoletLivres::VoletLivres(const Catalogue &catalogue, ImagesCouvertures &images, 
 {
     liste_->setModel(modele_);
     liste_->setItemDelegate(new DelegueLivres(*modele_, images, liste_));
-    liste_->setAccessibleName(tr("Livres"));
+    liste_->setAccessibleName(QStringLiteral("Livres"));
     liste_->setFrameShape(QFrame::NoFrame);
     liste_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     liste_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -82,27 +82,27 @@ VoletLivres::VoletLivres(const Catalogue &catalogue, ImagesCouvertures &images, 
 
 QWidget *VoletLivres::filtres()
 {
-    recherche_->setPlaceholderText(tr("Titre, auteur, ISBN"));
-    recherche_->setAccessibleName(tr("Chercher un livre"));
+    recherche_->setPlaceholderText(QStringLiteral("Titre, auteur, ISBN"));
+    recherche_->setAccessibleName(QStringLiteral("Chercher un livre"));
     recherche_->setClearButtonEnabled(true);
     auto *loupe = recherche_->addAction(Icone::icone(QStringLiteral("magnifyingglass")), QLineEdit::LeadingPosition);
-    loupe->setText(tr("Aller à la recherche"));
+    loupe->setText(QStringLiteral("Aller à la recherche"));
     connect(loupe, &QAction::triggered, this, &VoletLivres::chercher);
     // Qt draws the cross that empties the field, and gives it no name.
     if (auto *croix = recherche_->findChild<QAction *>(QStringLiteral("_q_qlineeditclearaction")))
-        croix->setText(tr("Effacer la recherche"));
-    QStringList vendeurs{tr("Tous")};
+        croix->setText(QStringLiteral("Effacer la recherche"));
+    QStringList vendeurs{QStringLiteral("Tous")};
     for (const Vendeur vendeur : tousLesVendeurs)
         vendeurs.append(NomsVendeurs::court(vendeur));
     auto *vendeur = new ChoixSegmente(vendeurs, {.police = Theme::encadre(), .hauteur = 26});
-    vendeur->setAccessibleName(tr("Vendeur"));
+    vendeur->setAccessibleName(QStringLiteral("Vendeur"));
     vendeur->montrer(0);
     auto *etat = new Choix;
-    etat->setAccessibleName(tr("État"));
-    etat->ajouter(tr("Tous les livres"), cle(FiltreLivres::Etat::tous));
-    etat->ajouter(tr("À reporter"), cle(FiltreLivres::Etat::aReporter));
-    etat->ajouter(tr("À peser"), cle(FiltreLivres::Etat::aPeser));
-    etat->ajouter(tr("Épuisés"), cle(FiltreLivres::Etat::epuises));
+    etat->setAccessibleName(QStringLiteral("État"));
+    etat->ajouter(QStringLiteral("Tous les livres"), cle(FiltreLivres::Etat::tous));
+    etat->ajouter(QStringLiteral("À reporter"), cle(FiltreLivres::Etat::aReporter));
+    etat->ajouter(QStringLiteral("À peser"), cle(FiltreLivres::Etat::aPeser));
+    etat->ajouter(QStringLiteral("Épuisés"), cle(FiltreLivres::Etat::epuises));
 
     connect(recherche_, &QLineEdit::textChanged, this, [this](const QString &texte) {
         filtre_.recherche = FiltreLivres::mots(texte);
@@ -182,9 +182,10 @@ void VoletLivres::seReplacer()
     const bool vide = modele_->rowCount() == 0;
     place_->setCurrentIndex(vide ? 1 : 0);
     if (vide)
-        vide_->montrer(QStringLiteral("magnifyingglass"), tr("Aucun livre"),
-                       catalogue_.livres().isEmpty() ? tr("Le catalogue est vide.")
-                                                     : tr("Aucun livre ne répond à la recherche et aux filtres."));
+        vide_->montrer(QStringLiteral("magnifyingglass"), QStringLiteral("Aucun livre"),
+                       catalogue_.livres().isEmpty()
+                           ? QStringLiteral("Le catalogue est vide.")
+                           : QStringLiteral("Aucun livre ne répond à la recherche et aux filtres."));
     if (vide)
         emit choixChange();
     else

@@ -51,7 +51,7 @@ VueLivres::VueLivres(Catalogue &catalogue, ImagesCouvertures &images, Aujourdhui
       catalogue_(catalogue),
       historique_(catalogue),
       aujourdhui_(std::move(aujourdhui)),
-      enTete_(new EnTete(tr("Livres"))),
+      enTete_(new EnTete(QStringLiteral("Livres"))),
       choix_(new ChoixTarifs),
       volet_(new VoletLivres(catalogue, images)),
       fiche_(new FicheLivre(images)),
@@ -105,7 +105,7 @@ QToolButton *VueLivres::creerBouton(const QString &symbole, QKeySequence::Standa
 
 QWidget *VueLivres::gauche()
 {
-    QPushButton *revenir = Boutons::deFeuille(tr("Revenir aux valeurs d’origine…"));
+    QPushButton *revenir = Boutons::deFeuille(QStringLiteral("Revenir aux valeurs d’origine…"));
     connect(revenir, &QPushButton::clicked, this, &VueLivres::revenir);
     auto *pied = new QHBoxLayout;
     pied->setContentsMargins(VoletLivres::marge, 10, VoletLivres::marge, 14);
@@ -130,7 +130,7 @@ QWidget *VueLivres::droite()
     defilement->setWidget(page);
     place_ = new QStackedWidget;
     place_->addWidget(defilement);
-    place_->addWidget(new EtatVide(QStringLiteral("books.vertical"), tr("Aucun livre choisi")));
+    place_->addWidget(new EtatVide(QStringLiteral("books.vertical"), QStringLiteral("Aucun livre choisi")));
 
     // What failed is said above the page, in sight wherever the page stands.
     echec_->setContentsMargins(marge, 14, marge, 0);
@@ -166,8 +166,8 @@ void VueLivres::montrerAnnulation()
         retablir_->setFocus();
     else if (retablir_->hasFocus() && historique_.aRetablir().isEmpty())
         annuler_->setFocus();
-    nommer(annuler_, tr("Annuler"), historique_.aAnnuler());
-    nommer(retablir_, tr("Rétablir"), historique_.aRetablir());
+    nommer(annuler_, QStringLiteral("Annuler"), historique_.aAnnuler());
+    nommer(retablir_, QStringLiteral("Rétablir"), historique_.aRetablir());
 }
 
 bool VueLivres::conclure()
@@ -184,7 +184,7 @@ void VueLivres::tenter(const std::function<void()> &geste)
     try {
         geste();
     } catch (const Echec &erreur) {
-        echec = tr("Modification non enregistrée : %1").arg(erreur.texte());
+        echec = QStringLiteral("Modification non enregistrée : %1").arg(erreur.texte());
     }
     echec_->montrer(echec);
     if (!echec.isEmpty())

@@ -22,7 +22,7 @@ constexpr int lignesDeNotes = 9;
 } // namespace
 
 FeuilleMiseAJour::FeuilleMiseAJour(MisesAJour &misesAJour, QWidget *parent)
-    : Feuille(tr("Mises à jour"), parent),
+    : Feuille(QStringLiteral("Mises à jour"), parent),
       misesAJour_(misesAJour),
       titre_(new Libelle({})),
       detail_(new Libelle({}, Libelle::Rang::secondaire)),
@@ -38,9 +38,9 @@ FeuilleMiseAJour::FeuilleMiseAJour(MisesAJour &misesAJour, QWidget *parent)
     detail_->setTextInteractionFlags(Qt::TextSelectableByMouse); // it may hold a command to type
     progres_->setTextVisible(false);
     progres_->setFixedHeight(6);
-    progres_->setAccessibleName(tr("Progression"));
+    progres_->setAccessibleName(QStringLiteral("Progression"));
     notes_->setReadOnly(true);
-    notes_->setAccessibleName(tr("Nouveautés"));
+    notes_->setAccessibleName(QStringLiteral("Nouveautés"));
     action_->setDefault(true);
 
     auto *boutons = new QHBoxLayout;

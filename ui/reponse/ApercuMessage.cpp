@@ -12,7 +12,7 @@ ApercuMessage::ApercuMessage(QWidget *parent) : QTextEdit(parent)
 {
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    setAccessibleName(tr("Message"));
+    setAccessibleName(QStringLiteral("Message"));
     setFrameShape(QFrame::NoFrame);
     viewport()->setAutoFillBackground(false);
     document()->setDocumentMargin(18);
@@ -45,7 +45,7 @@ void ApercuMessage::ecrire()
     ligne(reponse_->sujet(), gras, 8);
     if (!adresse_.isEmpty()) {
         plume.insertBlock();
-        ligne(tr("À : %1").arg(adresse_), discret, 8);
+        ligne(QStringLiteral("À : %1").arg(adresse_), discret, 8);
     }
     const QString total = reponse_->ligneTotal();
     for (const QString &texte : reponse_->corps().split(u'\n')) {

@@ -44,16 +44,16 @@ QLineEdit *champ(const QString &nom, const QString &exemple)
 } // namespace
 
 VueReponse::VueReponse(const Catalogue &catalogue, Commande &commande, Aujourdhui aujourdhui, QWidget *parent)
-    : Feuille(tr("Réponse à l’acheteur"), std::move(aujourdhui), parent),
+    : Feuille(QStringLiteral("Réponse à l’acheteur"), std::move(aujourdhui), parent),
       catalogue_(catalogue),
       commande_(commande),
       langue_(new ChoixLangue),
-      lien_(champ(tr("Lien de paiement"), QStringLiteral("https://www.paypal.com/ncp/payment/…"))),
-      adresse_(champ(tr("E-mail de l’acheteur"), QStringLiteral("prenom.nom@exemple.fr"))),
+      lien_(champ(QStringLiteral("Lien de paiement"), QStringLiteral("https://www.paypal.com/ncp/payment/…"))),
+      adresse_(champ(QStringLiteral("E-mail de l’acheteur"), QStringLiteral("prenom.nom@exemple.fr"))),
       adresseRefusee_(new Alerte),
       lienAbsent_(new Alerte(QStringLiteral("link"), {}, Alerte::Ton::note)),
       apercu_(new ApercuMessage),
-      envoyer_(new QPushButton(Icone::icone(QStringLiteral("envelope")), tr("Ouvrir dans Mail"))),
+      envoyer_(new QPushButton(Icone::icone(QStringLiteral("envelope")), QStringLiteral("Ouvrir dans Mail"))),
       pages_(new QStackedWidget)
 {
     auto *ecran = new QWidget;
@@ -64,8 +64,9 @@ VueReponse::VueReponse(const Catalogue &catalogue, Commande &commande, Aujourdhu
     cotes->addWidget(filet(Qt::Vertical));
     cotes->addWidget(message(), 1);
     pages_->addWidget(ecran);
-    pages_->addWidget(new EtatVide(QStringLiteral("person.2"), tr("Réponse impossible"),
-                                   tr("Une réponse par vendeur : séparez les livres de Davrel et ceux de Mireva.")));
+    pages_->addWidget(
+        new EtatVide(QStringLiteral("person.2"), QStringLiteral("Réponse impossible"),
+                     QStringLiteral("Une réponse par vendeur : séparez les livres de Davrel et ceux de Mireva.")));
     meubler(langue_, pages_);
     envoyer_->setDefault(true); // only now does it have a sheet to be the default of
 
@@ -81,13 +82,15 @@ VueReponse::VueReponse(const Catalogue &catalogue, Commande &commande, Aujourdhu
 
 QWidget *VueReponse::saisie()
 {
-    auto *coller = new Formulaire::Section(tr("1. Coller le lien de paiement"),
-                                           tr("Dans PayPal, section « Liens et boutons enregistrés » : cliquez sur "
-                                              "« Copier le lien » dans la colonne Action."));
+    auto *coller =
+        new Formulaire::Section(QStringLiteral("1. Coller le lien de paiement"),
+                                QStringLiteral("Dans PayPal, section « Liens et boutons enregistrés » : cliquez sur "
+                                               "« Copier le lien » dans la colonne Action."));
     coller->groupe()->ajouter(Formulaire::seul(lien_));
-    auto *destinataire = new Formulaire::Section(tr("2. E-mail de l’acheteur"),
-                                                 tr("Facultatif : collé ici, il remplit le destinataire du message "
-                                                    "dans Mail ; sinon, saisissez-le dans Mail."));
+    auto *destinataire =
+        new Formulaire::Section(QStringLiteral("2. E-mail de l’acheteur"),
+                                QStringLiteral("Facultatif : collé ici, il remplit le destinataire du message "
+                                               "dans Mail ; sinon, saisissez-le dans Mail."));
     destinataire->groupe()->ajouter(Formulaire::seul(adresse_));
     destinataire->groupe()->ajouter(adresseRefusee_);
 

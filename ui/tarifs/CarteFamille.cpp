@@ -24,10 +24,11 @@ public:
     {
         setContentsMargins(0, 0, retrait, 0);
         setFont(Theme::enGras(font(), enCours_ ? QFont::DemiBold : QFont::Medium));
-        setAccessibleName(enCours_ ? tr("%1, %2 : %3, palier de la commande en cours").arg(zone, poids, prix.texte)
-                                   : tr("%1, %2 : %3").arg(zone, poids, prix.texte));
+        setAccessibleName(
+            enCours_ ? QStringLiteral("%1, %2 : %3, palier de la commande en cours").arg(zone, poids, prix.texte)
+                     : QStringLiteral("%1, %2 : %3").arg(zone, poids, prix.texte));
         if (enCours_)
-            setToolTip(tr("Palier de la commande en cours"));
+            setToolTip(QStringLiteral("Palier de la commande en cours"));
     }
 
 protected:
@@ -50,7 +51,7 @@ private:
 QWidget *tetes(const TextesTarifs::Famille &famille)
 {
     QList<RangeeDeTableau::Cellule> cellules{
-        {RangeeDeTableau::tete(CarteFamille::tr("Poids"), Qt::AlignLeft), partDuPoids}};
+        {RangeeDeTableau::tete(QStringLiteral("Poids"), Qt::AlignLeft), partDuPoids}};
     for (const QString &zone : famille.zones) {
         QWidget *tete = RangeeDeTableau::tete(zone, Qt::AlignRight);
         tete->setContentsMargins(0, 0, retrait, 0);

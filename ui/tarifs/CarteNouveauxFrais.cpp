@@ -47,10 +47,10 @@ QWidget *ligne(const TextesTarifs::Frais &avant, const TextesTarifs::Frais &apre
 } // namespace
 
 CarteNouveauxFrais::CarteNouveauxFrais(Catalogue &catalogue, Verifications &verifications, QWidget *parent)
-    : FeuilleDeReleve(tr("Nouveaux frais PayPal"), parent)
+    : FeuilleDeReleve(QStringLiteral("Nouveaux frais PayPal"), parent)
 {
-    auto *origine =
-        new Libelle(tr("Relevés sur paypal.com, tarifs marchands pour la France"), Libelle::Rang::secondaire);
+    auto *origine = new Libelle(QStringLiteral("Relevés sur paypal.com, tarifs marchands pour la France"),
+                                Libelle::Rang::secondaire);
     auto *page = new QWidget;
     auto *colonne = new QVBoxLayout(page);
     colonne->setContentsMargins(marge, marge, marge, marge);
@@ -64,7 +64,7 @@ CarteNouveauxFrais::CarteNouveauxFrais(Catalogue &catalogue, Verifications &veri
     for (qsizetype i = 0; i < avant.size(); ++i)
         colonne->addWidget(ligne(avant[i], apres[i]));
     colonne->addStretch(1);
-    composer(page, tr("Enregistrer ces frais"),
+    composer(page, QStringLiteral("Enregistrer ces frais"),
              [&catalogue, &verifications] { verifications.accepterFrais(catalogue); });
     prendreLaTaille(taille);
 }

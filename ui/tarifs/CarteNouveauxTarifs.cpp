@@ -30,11 +30,11 @@ QWidget *texte(const QString &texte, Qt::Alignment alignement)
 
 QWidget *tetes()
 {
-    return new RangeeDeTableau({{RangeeDeTableau::tete(CarteNouveauxTarifs::tr("Zone"), Qt::AlignLeft), parts[0]},
-                                {RangeeDeTableau::tete(CarteNouveauxTarifs::tr("Jusqu’à"), Qt::AlignRight), parts[1]},
-                                {RangeeDeTableau::tete(CarteNouveauxTarifs::tr("Avant"), Qt::AlignRight), parts[2]},
-                                {RangeeDeTableau::tete(CarteNouveauxTarifs::tr("Après"), Qt::AlignRight), parts[3]},
-                                {RangeeDeTableau::tete(CarteNouveauxTarifs::tr("Écart"), Qt::AlignRight), parts[4]},
+    return new RangeeDeTableau({{RangeeDeTableau::tete(QStringLiteral("Zone"), Qt::AlignLeft), parts[0]},
+                                {RangeeDeTableau::tete(QStringLiteral("Jusqu’à"), Qt::AlignRight), parts[1]},
+                                {RangeeDeTableau::tete(QStringLiteral("Avant"), Qt::AlignRight), parts[2]},
+                                {RangeeDeTableau::tete(QStringLiteral("Après"), Qt::AlignRight), parts[3]},
+                                {RangeeDeTableau::tete(QStringLiteral("Écart"), Qt::AlignRight), parts[4]},
                                 {RangeeDeTableau::tete({}, Qt::AlignRight), parts[5]}},
                                RangeeDeTableau::Filet::aucun);
 }
@@ -60,13 +60,13 @@ QWidget *tableau(const QList<TextesVerifications::Ecart> &ecarts)
 } // namespace
 
 CarteNouveauxTarifs::CarteNouveauxTarifs(Catalogue &catalogue, Verifications &verifications, QWidget *parent)
-    : FeuilleDeReleve(tr("Nouveaux tarifs Colissimo"), parent)
+    : FeuilleDeReleve(QStringLiteral("Nouveaux tarifs Colissimo"), parent)
 {
     const ReleveColissimo &releve = *verifications.nouveauxTarifs();
     const auto ecarts = EcartTarif::duReleve(catalogue, releve.tarifs);
     if (ecarts.isEmpty()) {
-        composerVide(new EtatVide(QStringLiteral("checkmark.seal"), tr("Pas de changement"),
-                                  tr("Les tarifs de laposte.fr sont ceux de l’app.")));
+        composerVide(new EtatVide(QStringLiteral("checkmark.seal"), QStringLiteral("Pas de changement"),
+                                  QStringLiteral("Les tarifs de laposte.fr sont ceux de l’app.")));
         prendreLaTaille(tailleVide);
         return;
     }
@@ -79,16 +79,17 @@ CarteNouveauxTarifs::CarteNouveauxTarifs(Catalogue &catalogue, Verifications &ve
     tete->addWidget(Libelle::titreDeSection(windowTitle()));
     tete->addWidget(dates);
     if (!releve.dateTrouvee)
-        tete->addWidget(new Alerte(QStringLiteral("calendar.badge.exclamationmark"),
-                                   tr("Date d’effet introuvable sur la page : c’est le jour du relevé qui est retenu."),
-                                   Alerte::Ton::avertissement));
+        tete->addWidget(
+            new Alerte(QStringLiteral("calendar.badge.exclamationmark"),
+                       QStringLiteral("Date d’effet introuvable sur la page : c’est le jour du relevé qui est retenu."),
+                       Alerte::Ton::avertissement));
     tete->addSpacing(8);
     tete->addWidget(tetes());
     auto *defilement = new PageAuClavier;
     defilement->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // the heads above leave room for it
     defilement->setWidget(tableau(TextesVerifications::ecarts(ecarts)));
     defilement->widget()->setAutoFillBackground(false); // the focus ring is painted behind it
-    defilement->setAccessibleName(tr("Paliers qui changent"));
+    defilement->setAccessibleName(QStringLiteral("Paliers qui changent"));
     auto *compte = new Libelle(TextesVerifications::compte(ecarts, releve.tarifs));
     compte->setContentsMargins(marge, 10, marge, 0);
 
@@ -100,7 +101,7 @@ CarteNouveauxTarifs::CarteNouveauxTarifs(Catalogue &catalogue, Verifications &ve
     colonne->addWidget(defilement, 1);
     colonne->addWidget(filet(Qt::Horizontal));
     colonne->addWidget(compte);
-    composer(page, tr("Enregistrer ces tarifs"),
+    composer(page, QStringLiteral("Enregistrer ces tarifs"),
              [&catalogue, &verifications] { verifications.accepterTarifs(catalogue); });
     prendreLaTaille(taille);
 }

@@ -10,7 +10,7 @@
 
 // The choice stands from the start, hidden: what is added later would come last in the keyboard's order.
 ChoixTarifs::ChoixTarifs(QWidget *parent)
-    : QWidget(parent), choix_(new ChoixSegmente({tr("En vigueur"), {}}, {.police = font()}))
+    : QWidget(parent), choix_(new ChoixSegmente({QStringLiteral("En vigueur"), {}}, {.police = font()}))
 {
     auto *place = new QHBoxLayout(this);
     place->setContentsMargins(0, 0, 0, 0);

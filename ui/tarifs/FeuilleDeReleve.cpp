@@ -17,7 +17,7 @@ constexpr int marge = 24;
 void FeuilleDeReleve::composer(QWidget *page, const QString &enregistrer, const std::function<void()> &accepter)
 {
     auto *erreur = new Alerte;
-    QPushButton *plusTard = Boutons::deFeuille(tr("Plus tard"));
+    QPushButton *plusTard = Boutons::deFeuille(QStringLiteral("Plus tard"));
     auto *garder = new QPushButton(enregistrer);
     connect(plusTard, &QPushButton::clicked, this, &QDialog::reject);
     connect(garder, &QPushButton::clicked, this, [this, erreur, accepter] {
@@ -49,7 +49,7 @@ void FeuilleDeReleve::composer(QWidget *page, const QString &enregistrer, const 
 
 void FeuilleDeReleve::composerVide(QWidget *page)
 {
-    QPushButton *fermer = Boutons::deFeuille(tr("Fermer"));
+    QPushButton *fermer = Boutons::deFeuille(QStringLiteral("Fermer"));
     connect(fermer, &QPushButton::clicked, this, &QDialog::reject);
     auto *colonne = new QVBoxLayout(this);
     colonne->setContentsMargins(marge, marge, marge, marge);

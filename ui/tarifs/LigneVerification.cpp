@@ -25,9 +25,9 @@ LigneVerification::LigneVerification(const QString &nom, QWidget *parent)
       detail_(new Libelle({}, Libelle::Rang::secondaire)),
       etat_(new Libelle({})),
       progres_(new QProgressBar),
-      changements_(new QPushButton(tr("Voir les changements"))),
-      page_(new QPushButton(Icone::icone(QStringLiteral("arrow.up.forward.app")), tr("Ouvrir la page"))),
-      verifier_(new QPushButton(Icone::icone(QStringLiteral("arrow.counterclockwise")), tr("Vérifier")))
+      changements_(new QPushButton(QStringLiteral("Voir les changements"))),
+      page_(new QPushButton(Icone::icone(QStringLiteral("arrow.up.forward.app")), QStringLiteral("Ouvrir la page"))),
+      verifier_(new QPushButton(Icone::icone(QStringLiteral("arrow.counterclockwise")), QStringLiteral("Vérifier")))
 {
     titre_->setFont(Theme::enGras(font()));
     detail_->setFont(Theme::encadre());
@@ -37,7 +37,7 @@ LigneVerification::LigneVerification(const QString &nom, QWidget *parent)
     progres_->setRange(0, 0);
     progres_->setTextVisible(false);
     progres_->setFixedSize(72, 5);
-    progres_->setAccessibleName(tr("%1 : mise à jour en cours").arg(nom));
+    progres_->setAccessibleName(QStringLiteral("%1 : mise à jour en cours").arg(nom));
     for (QPushButton *bouton : {changements_, page_, verifier_})
         bouton->setAccessibleName(QStringLiteral("%1, %2").arg(bouton->text(), nom));
     changements_->setDefault(true); // filled: it is what the line asks for

@@ -52,7 +52,7 @@ QWidget *tableaux(const QList<TextesTarifs::Famille> &familles, const QList<Text
     auto *groupe = new Formulaire::Groupe;
     for (const auto &[libelle, valeur] : frais)
         groupe->ajouter(new Formulaire::Rangee(libelle, new Libelle(valeur)));
-    colonne->addWidget(Libelle::titreDeSection(VueTarifs::tr("Frais PayPal")));
+    colonne->addWidget(Libelle::titreDeSection(QStringLiteral("Frais PayPal")));
     colonne->addLayout(aSaLargeur(groupe, 1));
     return tableaux;
 }
@@ -66,10 +66,10 @@ VueTarifs::VueTarifs(Catalogue &catalogue, const Commande &commande, Verificatio
       commande_(commande),
       verifications_(verifications),
       aujourdhui_(std::move(aujourdhui)),
-      enTete_(new EnTete(tr("Tarifs Colissimo"))),
+      enTete_(new EnTete(QStringLiteral("Tarifs Colissimo"))),
       choix_(new ChoixTarifs),
-      laPoste_(new LigneVerification(tr("Tarifs Colissimo"))),
-      paypal_(new LigneVerification(tr("Frais PayPal")))
+      laPoste_(new LigneVerification(QStringLiteral("Tarifs Colissimo"))),
+      paypal_(new LigneVerification(QStringLiteral("Frais PayPal")))
 {
     auto *contenu = new QWidget;
     contenu->setMaximumWidth(Theme::largeurDePage);
@@ -85,7 +85,7 @@ VueTarifs::VueTarifs(Catalogue &catalogue, const Commande &commande, Verificatio
     marges->addWidget(contenu, 1);
     marges->addStretch(0);
     auto *defilement = new PageAuClavier;
-    defilement->setAccessibleName(tr("Tarifs et frais"));
+    defilement->setAccessibleName(QStringLiteral("Tarifs et frais"));
     defilement->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     defilement->setWidget(page);
     page->setAutoFillBackground(false); // the focus ring is painted behind it
@@ -111,7 +111,7 @@ QWidget *VueTarifs::controles()
     auto *colonne = new QVBoxLayout(section);
     colonne->setContentsMargins(0, 0, 0, 0);
     colonne->setSpacing(12);
-    colonne->addWidget(Libelle::titreDeSection(tr("Vérifications")));
+    colonne->addWidget(Libelle::titreDeSection(QStringLiteral("Vérifications")));
     colonne->addWidget(groupe);
     colonne->addWidget(Libelle::note(TextesVerifications::rythme()));
     connect(laPoste_, &LigneVerification::verificationDemandee, this,
