@@ -18,7 +18,7 @@
 #include <algorithm>
 
 // The tariffs screen, its sheets, and what they say.
-class TestTarifs : public QObject
+class TestVueTarifs : public QObject
 {
     Q_OBJECT
 
@@ -62,7 +62,7 @@ const QString enregistrer = QStringLiteral("Enregistrer ces tarifs");
 
 } // namespace
 
-void TestTarifs::init()
+void TestVueTarifs::init()
 {
     banc_ = std::make_unique<BancEcran>();
     banc_->donnees.reglages.fraisPaypal.supplements = {{QStringLiteral("eee"), Taux{0}},
@@ -70,7 +70,7 @@ void TestTarifs::init()
                                                        {QStringLiteral("autres"), Taux{199}}};
 }
 
-void TestTarifs::demarrer(const TarifsColissimo &tarifs, const FraisPaypal &frais, const QString &dateDEffet)
+void TestVueTarifs::demarrer(const TarifsColissimo &tarifs, const FraisPaypal &frais, const QString &dateDEffet)
 {
     serveur_.servir(QStringLiteral("/poste"), http("200 OK", SiteDeLaVisite::page(tarifs, dateDEffet).toUtf8()));
     serveur_.servir(QStringLiteral("/paypal"), http("200 OK", SiteDeLaVisite::page(frais).toUtf8()));
@@ -80,7 +80,7 @@ void TestTarifs::demarrer(const TarifsColissimo &tarifs, const FraisPaypal &frai
     QTRY_VERIFY(!banc_->donnees.preferences().texte(QStringLiteral("verification.paypal")).isEmpty());
 }
 
-void TestTarifs::tableaux()
+void TestVueTarifs::tableaux()
 {
     Banc &donnees = banc_->donnees;
     TarifsColissimo &tarifs = donnees.tarifs.last();
@@ -113,7 +113,7 @@ void TestTarifs::tableaux()
     QVERIFY(!familles[0].paliers[1].prix[0].enCours && !europe.paliers[0].prix[0].enCours);
 }
 
-void TestTarifs::lignes_data()
+void TestVueTarifs::lignes_data()
 {
     QTest::addColumn<QString>("verifie"); // as kept
     QTest::addColumn<QString>("symbole");
@@ -126,7 +126,7 @@ void TestTarifs::lignes_data()
                                       << QStringLiteral("Vérifiés le 3 novembre 2025 : à revérifier");
 }
 
-void TestTarifs::lignes()
+void TestVueTarifs::lignes()
 {
     QFETCH(QString, verifie);
     QFETCH(QString, symbole);
@@ -145,7 +145,7 @@ void TestTarifs::lignes()
              QStringLiteral("2,90 % + 0,35 € ; Royaume-Uni + 1,29 %, autres pays + 1,99 %"));
 }
 
-void TestTarifs::ecarts_data()
+void TestVueTarifs::ecarts_data()
 {
     QTest::addColumn<qint64>("avant"); // -1: none
     QTest::addColumn<qint64>("apres");
@@ -157,7 +157,7 @@ void TestTarifs::ecarts_data()
     QTest::newRow("supprimé") << qint64{940} << qint64{-1} << QStringLiteral("palier supprimé");
 }
 
-void TestTarifs::ecarts()
+void TestVueTarifs::ecarts()
 {
     QFETCH(qint64, avant);
     QFETCH(qint64, apres);
@@ -171,7 +171,7 @@ void TestTarifs::ecarts()
     QCOMPARE(lisible(texte[0].ecart + u' ' + texte[0].variation).trimmed(), ecart);
 }
 
-void TestTarifs::compte()
+void TestVueTarifs::compte()
 {
     const TarifsColissimo tarifs = desTarifs(QStringLiteral("2026-04-01"), Centimes{600});
     const QList<EcartTarif> un(1);
@@ -179,7 +179,7 @@ void TestTarifs::compte()
     QCOMPARE(TextesVerifications::compte(un + un, tarifs), QStringLiteral("2 paliers sur 6 changent."));
 }
 
-void TestTarifs::laPageGardeSaPlace()
+void TestVueTarifs::laPageGardeSaPlace()
 {
     banc_->donnees.tarifs.last().grilles[1].nomCourt = QStringLiteral("Union européenne, Suisse et voisins lointains");
     const TarifsColissimo tarifs = banc_->donnees.tarifs.last();
@@ -202,7 +202,7 @@ void TestTarifs::laPageGardeSaPlace()
     QCOMPARE(rubrique(), QStringLiteral("Tarifs Colissimo"));
 }
 
-void TestTarifs::changementsEnregistres()
+void TestVueTarifs::changementsEnregistres()
 {
     TarifsColissimo tarifs = banc_->donnees.tarifs.last();
     tarifs.grilles[0].paliers[0].prix = Centimes{600};
@@ -226,7 +226,7 @@ void TestTarifs::changementsEnregistres()
     QTRY_COMPARE(lisible(Ecran::valeurEnFaceDe(&fenetre, QStringLiteral("jusqu’à 250 g"))), QStringLiteral("6,00 €"));
 }
 
-void TestTarifs::fraisRemisAPlusTard()
+void TestVueTarifs::fraisRemisAPlusTard()
 {
     FraisPaypal frais = banc_->donnees.reglages.fraisPaypal;
     frais.taux = Taux{320};
@@ -242,7 +242,7 @@ void TestTarifs::fraisRemisAPlusTard()
     QCOMPARE(rubrique(), QStringLiteral("Tarifs Colissimo"));
 }
 
-void TestTarifs::enregistrementManque()
+void TestVueTarifs::enregistrementManque()
 {
     TarifsColissimo tarifs = banc_->donnees.tarifs.last();
     tarifs.grilles[0].paliers[0].prix = Centimes{600};
@@ -257,7 +257,7 @@ void TestTarifs::enregistrementManque()
     QCOMPARE(rubrique(), QStringLiteral("Tarifs Colissimo, 1 à voir"));
 }
 
-void TestTarifs::sansDateDEffet()
+void TestVueTarifs::sansDateDEffet()
 {
     TarifsColissimo tarifs = banc_->donnees.tarifs.last();
     tarifs.grilles[0].paliers[0].prix = Centimes{600};
@@ -268,7 +268,7 @@ void TestTarifs::sansDateDEffet()
 }
 
 // What was read is not in force today, yet no tier differs from the day before it comes into force.
-void TestTarifs::pasDeChangement()
+void TestVueTarifs::pasDeChangement()
 {
     const TarifsColissimo connus = banc_->donnees.tarifs.last();
     TarifsColissimo courts = connus;
@@ -284,7 +284,7 @@ void TestTarifs::pasDeChangement()
     QVERIFY(Ecran::cliquer(feuille, QStringLiteral("Fermer")));
 }
 
-void TestTarifs::verificationManquee()
+void TestVueTarifs::verificationManquee()
 {
     banc_->demarrer(); // on pages that nobody serves
     Fenetre &fenetre = banc_->app->fenetre();
@@ -302,5 +302,5 @@ void TestTarifs::verificationManquee()
     QVERIFY(bouton->hasFocus());
 }
 
-QTEST_MAIN(TestTarifs)
-#include "tst_tarifs.moc"
+QTEST_MAIN(TestVueTarifs)
+#include "tst_vue_tarifs.moc"

@@ -11,7 +11,7 @@
 #include <functional>
 
 // The books' screen: the list and what narrows it, edits through the real fields into the real file.
-class TestLivres : public QObject
+class TestVueLivres : public QObject
 {
     Q_OBJECT
 
@@ -37,7 +37,7 @@ const QString nonEnregistree = QStringLiteral("Modification non enregistrée : "
 
 } // namespace
 
-void TestLivres::saisir_data()
+void TestVueLivres::saisir_data()
 {
     QTest::addColumn<QString>("champ");
     QTest::addColumn<QString>("saisie");
@@ -54,7 +54,7 @@ void TestLivres::saisir_data()
                                   << "200" << qint64{200} << "Un poids s’écrit en grammes entiers, comme 355.";
 }
 
-void TestLivres::saisir()
+void TestVueLivres::saisir()
 {
     QFETCH(QString, champ);
     QFETCH(QString, saisie);
@@ -74,7 +74,7 @@ void TestLivres::saisir()
     }
 }
 
-void TestLivres::echecDit_data()
+void TestVueLivres::echecDit_data()
 {
     QTest::addColumn<std::function<bool(const BancLivres &)>>("geste");
     const auto clic = [](const char *bouton) {
@@ -94,7 +94,7 @@ void TestLivres::echecDit_data()
 }
 
 // Screen, memory and file agree afterwards, and the next attempt goes through.
-void TestLivres::echecDit()
+void TestVueLivres::echecDit()
 {
     QFETCH(std::function<bool(const BancLivres &)>, geste);
     const BancLivres cas;
@@ -129,7 +129,7 @@ void TestLivres::echecDit()
 }
 
 // Another book, another screen, or no window any more: what was typed counts, in the order too.
-void TestLivres::laSaisieNEstPasPerdue()
+void TestVueLivres::laSaisieNEstPasPerdue()
 {
     const QList<std::function<void(const BancLivres &)>> sorties{
         [](const BancLivres &cas) {
@@ -155,7 +155,7 @@ void TestLivres::laSaisieNEstPasPerdue()
 }
 
 // The click that leaves the field also shows another book.
-void TestLivres::lEchecResteDit()
+void TestVueLivres::lEchecResteDit()
 {
     const BancLivres cas;
     cas.champ(champDuPrix)->setFocus();
@@ -167,7 +167,7 @@ void TestLivres::lEchecResteDit()
 }
 
 // A window that could not save what was typed stays open to say so; closing again leaves it.
-void TestLivres::fermerSansPerdre()
+void TestVueLivres::fermerSansPerdre()
 {
     const BancLivres cas;
     cas.champ(champDuPrix)->setFocus();
@@ -178,7 +178,7 @@ void TestLivres::fermerSansPerdre()
     QVERIFY(cas.fenetre()->close());
 }
 
-void TestLivres::annulerAuClavier()
+void TestVueLivres::annulerAuClavier()
 {
     const BancLivres cas;
     QVERIFY(cas.cliquer(QStringLiteral("Disponible")));
@@ -209,7 +209,7 @@ void TestLivres::annulerAuClavier()
     QVERIFY(!cas.enregistre(0).disponible);
 }
 
-void TestLivres::revenirAuxValeurs()
+void TestVueLivres::revenirAuxValeurs()
 {
     const BancLivres cas;
     const QString revenir = QStringLiteral("Revenir aux valeurs d’origine…");
@@ -238,7 +238,7 @@ void TestLivres::revenirAuxValeurs()
     QCOMPARE(cas.enregistre(0), modifie);
 }
 
-void TestLivres::listeFiltree()
+void TestVueLivres::listeFiltree()
 {
     const BancLivres cas;
     const auto titres = [&] {
@@ -261,5 +261,5 @@ void TestLivres::listeFiltree()
     QCOMPARE(titres(), QStringLiteral("1")); // what changed is shown, whatever the filters say
 }
 
-QTEST_MAIN(TestLivres)
-#include "tst_livres.moc"
+QTEST_MAIN(TestVueLivres)
+#include "tst_vue_livres.moc"
