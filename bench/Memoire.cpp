@@ -12,7 +12,7 @@ double champ(const char *nom)
     if (!fichier.open(QIODevice::ReadOnly))
         qFatal("/proc/self/status : %s", qPrintable(fichier.errorString()));
     const QByteArray etat = fichier.readAll();
-    const qsizetype debut = etat.indexOf(nom) + qstrlen(nom);
+    const qsizetype debut = etat.indexOf(nom) + qsizetype(qstrlen(nom));
     return etat.mid(debut, etat.indexOf("kB", debut) - debut).trimmed().toDouble();
 }
 

@@ -1,5 +1,6 @@
 #include "model/CauseSysteme.h"
 
+#include <array>
 #include <cerrno>
 
 namespace {
@@ -10,7 +11,7 @@ struct Cause
     const char *phrase;
 };
 
-constexpr Cause causes[] = {
+constexpr auto causes = std::to_array<Cause>({
     {ENOSPC, "le disque est plein"},
     {EDQUOT, "l’espace disque alloué est épuisé"},
     {EFBIG, "le fichier dépasse la taille permise"},
@@ -25,7 +26,7 @@ constexpr Cause causes[] = {
     {ENAMETOOLONG, "le nom est trop long"},
     {EMFILE, "trop de fichiers sont ouverts"},
     {EIO, "le disque ne répond pas correctement"},
-};
+});
 
 QString autre(const QString &detail)
 {

@@ -19,7 +19,7 @@ struct Banc
     // Writes the records as shipped resources.
     void deposer() const;
     // The same, then loads them with the user's files over them.
-    std::unique_ptr<Catalogue> charger() const;
+    [[nodiscard]] std::unique_ptr<Catalogue> charger() const;
 
     [[nodiscard]] QString cheminUtilisateur(const QString &nom = {}) const;
     void ecrireUtilisateur(const QString &nom, const QByteArray &octets) const;

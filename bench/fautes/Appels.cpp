@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstddef>
@@ -18,9 +19,9 @@ namespace {
 // Nothing of ours asks for its parent: the call only marks the two ends.
 constexpr long borneDuSuivi = SYS_getppid;
 
-constexpr long sansFichier[] = {SYS_mmap,           SYS_munmap,        SYS_mprotect,     SYS_brk,
-                                SYS_madvise,        SYS_mremap,        SYS_futex,        SYS_rt_sigaction,
-                                SYS_rt_sigprocmask, SYS_clock_gettime, SYS_gettimeofday, SYS_clock_nanosleep};
+constexpr auto sansFichier = std::to_array<long>({SYS_mmap, SYS_munmap, SYS_mprotect, SYS_brk, SYS_madvise, SYS_mremap,
+                                                  SYS_futex, SYS_rt_sigaction, SYS_rt_sigprocmask, SYS_clock_gettime,
+                                                  SYS_gettimeofday, SYS_clock_nanosleep});
 
 struct Nom
 {
@@ -28,7 +29,7 @@ struct Nom
     const char *nom;
 };
 
-constexpr Nom noms[] = {
+constexpr auto noms = std::to_array<Nom>({
     {SYS_access, "access"},         {SYS_chmod, "chmod"},   {SYS_close, "close"},
     {SYS_fchmod, "fchmod"},         {SYS_fcntl, "fcntl"},   {SYS_fdatasync, "fdatasync"},
     {SYS_flock, "flock"},           {SYS_fsync, "fsync"},   {SYS_ftruncate, "ftruncate"},
@@ -38,7 +39,7 @@ constexpr Nom noms[] = {
     {SYS_readlink, "readlink"},     {SYS_rename, "rename"}, {SYS_rmdir, "rmdir"},
     {SYS_statx, "statx"},           {SYS_uname, "uname"},   {SYS_unlink, "unlink"},
     {SYS_write, "write"},
-};
+});
 
 void ecrireRegistre(pid_t enfant, std::size_t place, long valeur)
 {

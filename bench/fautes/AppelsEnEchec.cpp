@@ -5,6 +5,7 @@
 
 #include <sys/wait.h>
 
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -15,7 +16,7 @@ using ParAppel = QMap<QByteArray, int>; // how often each was touched
 
 QString dossierDEssai(const QString &travail)
 {
-    const QString dossier = QDir(travail).filePath(QStringLiteral("Quillet"));
+    QString dossier = QDir(travail).filePath(QStringLiteral("Quillet"));
     QDir(dossier).removeRecursively();
     return dossier;
 }
@@ -50,7 +51,7 @@ void dire(const char *quoi, const ParAppel &parAppel, const Bilan &bilan)
     std::printf("%d %s (%s) : %s\n", appels, quoi, detail.trimmed().constData(), bilan.texte().constData());
 }
 
-constexpr Appels::Disque disques[] = {Appels::Disque::local, Appels::Disque::sansAnonymes};
+constexpr std::array disques{Appels::Disque::local, Appels::Disque::sansAnonymes};
 
 } // namespace
 

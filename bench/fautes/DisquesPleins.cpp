@@ -7,6 +7,7 @@
 #include <sys/mount.h>
 #include <unistd.h>
 
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <stdexcept>
@@ -57,8 +58,8 @@ bool image(const QString &place)
     return geteuid() == 0 && std::system(qPrintable(commande.arg(fichier, place))) == 0;
 }
 
-constexpr Disque disques[] = {{"tmpfs par pages de 4 Kio", 4096, 13, memoire},
-                              {"ext4 par blocs de 1 Kio", 1024, 41, image}};
+constexpr std::array<Disque, 2> disques{
+    {{"tmpfs par pages de 4 Kio", 4096, 13, memoire}, {"ext4 par blocs de 1 Kio", 1024, 41, image}}};
 
 // In a process of its own, whose mounts go with it.
 int remplir(const Ressources &ressources, const QString &travail, const Disque &disque)
@@ -79,7 +80,7 @@ int remplir(const Ressources &ressources, const QString &travail, const Disque &
             QDir(dossier).removeRecursively();
             const int trouve = dansUnProcessus([&] {
                 return int(essai.jouer(
-                    dossier, [&] { lest.laisser(niveau * disque.pas); }, [&] { lest.laisser(64 * 1024); }));
+                    dossier, [&] { lest.laisser(niveau * disque.pas); }, [&] { lest.laisser(65'536); }));
             });
             if (!bilan.compter(trouve))
                 std::fprintf(stderr, "  %s, %d libres\n", disque.nom, niveau);

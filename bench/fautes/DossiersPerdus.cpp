@@ -4,6 +4,7 @@
 
 #include <unistd.h>
 
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <stdexcept>
@@ -18,12 +19,12 @@ struct Obstacle
 };
 
 // Commands of the shell, in the folder above the data folder.
-constexpr Obstacle obstacles[] = {
+constexpr auto obstacles = std::to_array<Obstacle>({
     {"dossier protégé", "chmod 555 Quillet .", "chmod 755 . Quillet"},
     {"fichiers protégés", "chmod 444 Quillet/*", "chmod 644 Quillet/*"},
     {"fichiers illisibles", "chmod 000 Quillet/*", "chmod 644 Quillet/*"},
     {"dossier fermé", "chmod 000 Quillet", "chmod 755 Quillet"},
-};
+});
 
 void commander(const char *commande, const QString &dossier)
 {

@@ -2,6 +2,7 @@
 
 #include <QFile>
 
+#include <array>
 #include <cstdio>
 
 namespace {
@@ -39,8 +40,8 @@ int nombreDeRestes(const QString &dossier)
     return int(QDir(dossier).entryList({QStringLiteral("*.??????")}, QDir::Files | QDir::Hidden).size());
 }
 
-Essai::Essai(const Ressources &ressources, Geste geste, Depart depart, const QString &temoin)
-    : ressources_(ressources), geste_(std::move(geste)), depart_(depart)
+Essai::Essai(Ressources ressources, Geste geste, Depart depart, const QString &temoin)
+    : ressources_(std::move(ressources)), geste_(std::move(geste)), depart_(depart)
 {
     const auto poste = ouvrir(temoin);
     avant_.emplace(*poste);
@@ -54,8 +55,8 @@ Essai::Essai(const Ressources &ressources, Geste geste, Depart depart, const QSt
 
 QString Essai::nom() const
 {
-    const char *const departs[] = {"dossier vide", "fichier connu", "fichier abîmé"};
-    return QStringLiteral("%1, %2").arg(QString::fromUtf8(geste_.nom), QString::fromUtf8(departs[int(depart_)]));
+    constexpr std::array departs{"dossier vide", "fichier connu", "fichier abîmé"};
+    return QStringLiteral("%1, %2").arg(QString::fromUtf8(geste_.nom), QString::fromUtf8(departs.at(int(depart_))));
 }
 
 std::unique_ptr<Poste> Essai::ouvrir(const QString &dossier) const

@@ -18,7 +18,7 @@ class Essai
 {
 public:
     // `temoin` is a folder of its own; it comes out empty.
-    Essai(const Ressources &ressources, Geste geste, Depart depart, const QString &temoin);
+    Essai(Ressources ressources, Geste geste, Depart depart, const QString &temoin);
 
     [[nodiscard]] QString nom() const;
 
@@ -30,7 +30,7 @@ public:
     [[nodiscard]] Issue releverApresArret(const QString &dossier) const;
 
 private:
-    std::unique_ptr<Poste> ouvrir(const QString &dossier) const;
+    [[nodiscard]] std::unique_ptr<Poste> ouvrir(const QString &dossier) const;
     [[nodiscard]] QString faute(const QString &dossier, const Poste &poste, const QString &refus,
                                 const Fichiers &trouves) const;
     [[nodiscard]] QString fauteEnsuite(const QString &dossier, Poste &poste) const;

@@ -5,6 +5,7 @@
 
 #include <unistd.h>
 
+#include <array>
 #include <chrono>
 #include <cstdio>
 
@@ -17,11 +18,13 @@ struct Partie
     const char *base; // where its folders lie: a real disk where its waits matter, memory where they do not
 };
 
-constexpr Partie parties[] = {
-    {"hasard", arretsAuHasard, "/var/tmp"},   {"arrets", arretsAChaqueAppel, "/dev/shm"},
-    {"appels", appelsEnEchec, "/dev/shm"},    {"plein", disquesPleins, "/var/tmp"},
+constexpr auto parties = std::to_array<Partie>({
+    {"hasard", arretsAuHasard, "/var/tmp"},
+    {"arrets", arretsAChaqueAppel, "/dev/shm"},
+    {"appels", appelsEnEchec, "/dev/shm"},
+    {"plein", disquesPleins, "/var/tmp"},
     {"dossiers", dossiersPerdus, "/var/tmp"},
-};
+});
 
 } // namespace
 
