@@ -77,9 +77,11 @@ void TestFenetre::leJourChange()
     banc.demarrer();
     banc.app->commande().ajuster(banc.donnees.livres[0], 1);
     QVERIFY(Ecran::montre(&banc.app->fenetre(), QStringLiteral("en vigueur au 1er janvier 2026")));
+    banc.app->fenetre().contenu()->montrer(Rubrique::livres);
     banc.jour = QDate(2027, 1, 2);
     banc.revenirA(&banc.app->fenetre());
     QVERIFY(Ecran::montre(&banc.app->fenetre(), QStringLiteral("en vigueur au 1er janvier 2027")));
+    banc.app->fenetre().contenu()->montrer(Rubrique::commande);
     QVERIFY(Ecran::valeurEnFaceDe(&banc.app->fenetre(), QStringLiteral("Envoi Colissimo"))
                 .startsWith(QStringLiteral("6,00")));
     banc.app->fenetre().contenu()->montrer(Rubrique::tarifs);

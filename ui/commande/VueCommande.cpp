@@ -123,10 +123,10 @@ void VueCommande::ouvrirLaReponse()
     (new VueReponse(catalogue_, commande_, aujourdhui_, window()))->ouvrir();
 }
 
-// A window left open overnight comes back on another day.
+// A window left open overnight comes back on another day, and this screen perhaps later.
 bool VueCommande::event(QEvent *evenement)
 {
-    if (evenement->type() == QEvent::WindowActivate)
+    if (evenement->type() == QEvent::Show || evenement->type() == QEvent::WindowActivate)
         actualiser();
     return QWidget::event(evenement);
 }
