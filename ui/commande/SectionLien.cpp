@@ -6,6 +6,7 @@
 #include "ui/commun/ChoixLangue.h"
 #include "ui/commun/Icone.h"
 #include "ui/commun/Lien.h"
+#include "ui/commun/LigneDeTexte.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -19,7 +20,7 @@ SectionLien::SectionLien(const Reglages &reglages, Commande &commande, QWidget *
       reglages_(reglages),
       commande_(commande),
       langue_(new ChoixLangue),
-      pays_(new QLineEdit),
+      pays_(new LigneDeTexte),
       rangeePays_(new Formulaire::RangeeHaute(QStringLiteral("Pays de livraison"), pays_)),
       nomDeLObjet_(new ChampACopier(QStringLiteral("Nom de l’objet"))),
       description_(new ChampACopier(QStringLiteral("Description"))),

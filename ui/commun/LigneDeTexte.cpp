@@ -2,6 +2,17 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QRegularExpression>
+
+// QLineEdit keeps line breaks, though it shows none.
+LigneDeTexte::LigneDeTexte(QWidget *parent) : QLineEdit(parent)
+{
+    connect(this, &QLineEdit::textChanged, this, [this](QString texte) {
+        static const QRegularExpression sauts(QStringLiteral("[\\r\\n\u2028\u2029]+"));
+        if (texte.contains(sauts))
+            setText(texte.remove(sauts));
+    });
+}
 
 bool LigneDeTexte::event(QEvent *evenement)
 {

@@ -2,14 +2,14 @@
 
 #include <QLineEdit>
 
-// A line of text that keeps undo and redo to itself only while it has typing of its own: otherwise its screen's answer
-// to the same keys.
+// A line of text that keeps undo and redo to itself only while it has typing of its own, otherwise its screen answers
+// the same keys; and that drops the line breaks that are pasted.
 class LigneDeTexte : public QLineEdit
 {
     Q_OBJECT
 
 public:
-    using QLineEdit::QLineEdit;
+    explicit LigneDeTexte(QWidget *parent = nullptr);
 
     // Whether a field that loses the focus to a menu or another window will have it again: nothing is over.
     static bool reviendra(const QFocusEvent &perte);

@@ -9,6 +9,7 @@
 #include "ui/commun/EtatVide.h"
 #include "ui/commun/Formulaire.h"
 #include "ui/commun/Icone.h"
+#include "ui/commun/LigneDeTexte.h"
 #include "ui/reponse/ApercuMessage.h"
 #include "ui/reponse/Mail.h"
 #include "ui/reponse/TextesReponse.h"
@@ -17,7 +18,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -29,15 +29,9 @@ constexpr int largeurDeLaSaisie = 380;
 
 QLineEdit *champ(const QString &nom, const QString &exemple)
 {
-    auto *champ = new QLineEdit;
+    auto *champ = new LigneDeTexte;
     champ->setAccessibleName(nom);
     champ->setPlaceholderText(exemple);
-    // A field of one line keeps the line breaks that are pasted, though it shows none.
-    QObject::connect(champ, &QLineEdit::textChanged, champ, [champ](QString texte) {
-        static const QRegularExpression sauts(QStringLiteral("[\\r\\n\u2028\u2029]+"));
-        if (texte.contains(sauts))
-            champ->setText(texte.remove(sauts));
-    });
     return champ;
 }
 
