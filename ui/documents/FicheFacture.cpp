@@ -8,6 +8,7 @@
 #include "ui/commun/EtatVide.h"
 #include "ui/commun/Formulaire.h"
 #include "ui/commun/Libelle.h"
+#include "ui/commun/LigneDeTexte.h"
 #include "ui/commun/ZoneDeTexte.h"
 #include "ui/documents/ApercuFacture.h"
 #include "ui/documents/ImpressionFacture.h"
@@ -33,7 +34,7 @@ FicheFacture::FicheFacture(const Reglages &reglages, Preferences preferences, Au
       preferences_(std::move(preferences)),
       aujourdhui_(std::move(aujourdhui)),
       impossible_(new EtatVide),
-      numero_(new QLineEdit),
+      numero_(new LigneDeTexte),
       remarque_(new Alerte),
       acheteur_(new ZoneDeTexte(6)),
       sansSiret_(new Alerte),
@@ -120,7 +121,7 @@ void FicheFacture::montrer(const Calcul &calcul)
     vendeur_ = *calcul.vendeurs().begin();
     const bool aJour =
         NumerotationFactures::rapport(numero_->text(), aujourdhui_()) == NumerotationFactures::Rapport::dansLaSerie;
-    if (!numero_->isModified() && !aJour)
+    if (numero_->text() == propose_ && !aJour)
         proposer();
     facture_ = Facture::de(calcul, reglages_, {}, aujourdhui_(), {});
     completer();
@@ -129,12 +130,13 @@ void FicheFacture::montrer(const Calcul &calcul)
 void FicheFacture::proposer()
 {
     try {
-        numero_->setText(NumerotationFactures{preferences_}.prochain(vendeur_, aujourdhui_()));
+        propose_ = NumerotationFactures{preferences_}.prochain(vendeur_, aujourdhui_());
         sansProposition_.clear();
     } catch (const ErreurStockage &erreur) {
-        numero_->clear();
+        propose_.clear();
         sansProposition_ = QStringLiteral("Le dernier numéro n’a pas pu être lu.\n%1").arg(erreur.texte());
     }
+    numero_->setText(propose_);
 }
 
 // No focus proxy: Tab would go by it to the buyer, past the number.

@@ -51,6 +51,7 @@ private:
     std::optional<Facture> facture_; // the one shown
     EtatVide *impossible_;
     QLineEdit *numero_;
+    QString propose_;         // the number that nobody has changed yet, however it may be typed or dictated
     QString sansProposition_; // why there is no number to propose; empty when there is one
     Alerte *remarque_;
     ZoneDeTexte *acheteur_;
