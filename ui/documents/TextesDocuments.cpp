@@ -71,7 +71,8 @@ QList<Rubrique> TextesDocuments::declaration(const Calcul &calcul, const Reglage
     int numero = 0;
     for (const ArticleDouane &declare : articlesDouane(calcul, reglages.douane.codeSH))
         rubriques.append(article(++numero, declare));
-    rubriques.append(expediteur(calcul, reglages));
+    if (const Rubrique dExpediteur = expediteur(calcul, reglages); !dExpediteur.champs.isEmpty())
+        rubriques.append(dExpediteur);
     return rubriques;
 }
 
