@@ -53,7 +53,9 @@ QColor DessinCouverture::couleur(const Livre &livre)
     const auto composante = [&](qsizetype rang) {
         return static_cast<int>(std::clamp<qint64>(livre.teinte[rang], 0, 255));
     };
-    return {composante(0), composante(1), composante(2)};
+    const QColor propre(composante(0), composante(1), composante(2));
+    const int gris = qGray(propre.rgb());
+    return livre.disponible ? propre : QColor(gris, gris, gris);
 }
 
 QPixmap DessinCouverture::dessin(const Livre &livre, const QSizeF &taille, const QSizeF &tailleDeLecture, qreal densite,

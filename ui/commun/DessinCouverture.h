@@ -13,7 +13,7 @@ namespace DessinCouverture {
 inline constexpr double proportion = 1.5;
 inline constexpr double opaciteIndisponible = 0.55;
 
-// The book's own colour.
+// The book's own colour; its grey when the book is sold out.
 QColor couleur(const Livre &livre);
 
 // The cover with its binding: the picture, or the book's colour until there is one; grey when the book is sold out.
