@@ -41,8 +41,9 @@ void SectionDestination::montrer(const Calcul &calcul)
     const auto exception = calcul.destination ? calcul.destination->douaneSauf : std::nullopt;
     rangeeHorsUE_->setVisible(exception.has_value());
     if (exception) {
-        rangeeHorsUE_->setTexte(QStringLiteral("Colis pour %1").arg(*exception));
-        horsUE_->setAccessibleName(rangeeHorsUE_->libelle()->text());
+        const QString colis = QStringLiteral("Colis pour %1").arg(*exception);
+        rangeeHorsUE_->setTexte(colis);
+        horsUE_->setAccessibleName(colis);
     }
     horsUE_->setChecked(commande_.horsUE());
 

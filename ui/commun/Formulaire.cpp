@@ -125,7 +125,8 @@ Rangee::Rangee(const QString &libelle, QWidget *valeur, QWidget *parent)
 
 void Rangee::setTexte(const QString &libelle)
 {
-    libelle_->setText(libelle);
+    // Beside a control Qt would take an & for the mark of a key.
+    libelle_->setText(libelle_->buddy() ? QString(libelle).replace(u'&', QStringLiteral("&&")) : libelle);
 }
 
 void Rangee::setDetail(const QString &detail)
