@@ -2,6 +2,7 @@
 
 #include "ui/Theme.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QTextDocument>
@@ -153,6 +154,13 @@ void Libelle::oublier() const
     texteMesure_ = text();
     hauteurs_.clear();
     motLePlusLong_.reset();
+}
+
+bool Libelle::event(QEvent *evenement)
+{
+    if (evenement->type() == QEvent::ContentsRectChange)
+        oublier();
+    return QLabel::event(evenement);
 }
 
 void Libelle::changeEvent(QEvent *evenement)

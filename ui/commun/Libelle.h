@@ -29,6 +29,7 @@ public:
     [[nodiscard]] int heightForWidth(int offerte) const override;
 
 protected:
+    bool event(QEvent *evenement) override;
     void changeEvent(QEvent *evenement) override;
     void paintEvent(QPaintEvent *evenement) override;
 

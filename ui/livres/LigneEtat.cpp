@@ -10,6 +10,7 @@ namespace {
 
 constexpr int coteSymbole = 16;
 constexpr int espace = 6;
+constexpr int sousLAnneau = 3; // px
 
 QString symbole(PrixBouton::Etat etat)
 {
@@ -43,13 +44,15 @@ QColor couleur(PrixBouton::Etat etat, const QPalette &palette)
 LigneEtat::LigneEtat(QWidget *parent) : Libelle({}, Rang::secondaire, parent)
 {
     setFont(Theme::enGras(Theme::encadre(), QFont::Medium));
-    setContentsMargins(coteSymbole + espace, 0, 0, 0);
     setWordWrap(true);
 }
 
 void LigneEtat::montrer(PrixBouton::Etat etat, const QString &enMots)
 {
     etat_ = etat;
+    // Without a price the focus comes here, and its ring needs room.
+    const int autour = etat == PrixBouton::Etat::sansPrix ? sousLAnneau : 0;
+    setContentsMargins(coteSymbole + espace, autour, autour, autour);
     setText(enMots);
     setRang(etat == PrixBouton::Etat::aReporter ? Rang::principal : Rang::secondaire);
     update();
@@ -62,7 +65,8 @@ void LigneEtat::paintEvent(QPaintEvent *evenement)
     peintre.setRenderHint(QPainter::Antialiasing);
     if (Dessin::focusVisible(this))
         Dessin::anneauDeFocus(peintre, rect(), Theme::rayonControle, Theme::accentTexte(palette()));
-    const int premiereLigne = (height() - heightForWidth(width())) / 2 + fontMetrics().height() / 2;
+    const int premiereLigne =
+        (height() - heightForWidth(width())) / 2 + contentsMargins().top() + fontMetrics().height() / 2;
     Icone::peindre(peintre, symbole(etat_), QRectF(0, premiereLigne - coteSymbole / 2.0, coteSymbole, coteSymbole),
                    couleur(etat_, palette()));
 }
