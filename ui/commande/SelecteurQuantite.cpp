@@ -19,7 +19,8 @@
 namespace {
 
 constexpr int coteBouton = 26;
-constexpr int bord = 4; // beside the buttons
+constexpr int ombre = 2;        // px around the capsule, but above
+constexpr int bord = ombre + 4; // beside the buttons
 constexpr int espace = 2;
 
 int largeurDuNombre()
@@ -76,7 +77,7 @@ SelecteurQuantite::SelecteurQuantite(const Livre &livre, Commande &commande, QWi
     nombre_->setMinimumWidth(largeurDuNombre());
     nombre_->setText(QStringLiteral("0"));
     auto *rangee = new QHBoxLayout(this);
-    rangee->setContentsMargins(bord, 2, bord, 4); // 2 px below the capsule are its shadow's
+    rangee->setContentsMargins(bord, 2, bord, 2 + ombre);
     rangee->setSpacing(espace);
     for (QWidget *partie : std::initializer_list<QWidget *>{moins_, nombre_, plus_})
         rangee->addWidget(partie);
@@ -138,7 +139,7 @@ void SelecteurQuantite::paintEvent(QPaintEvent *)
 {
     QPainter peintre(this);
     peintre.setRenderHint(QPainter::Antialiasing);
-    const QRectF capsule = QRectF(rect()).adjusted(2, 0, -2, -2);
+    const QRectF capsule = QRectF(rect()).adjusted(ombre, 0, -ombre, -ombre);
     const double rayon = capsule.height() / 2;
     if (Dessin::focusVisible(this))
         Dessin::anneauDeFocus(peintre, capsule, rayon, Theme::accentTexte(palette()));

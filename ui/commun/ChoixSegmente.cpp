@@ -61,9 +61,10 @@ protected:
 
         QFont police = font();
         const int place = width() - margeTexte;
-        const int voulue = fontMetrics().horizontalAdvance(text());
-        if (voulue > place)
-            police.setPointSizeF(police.pointSizeF() * std::max(reductionMinimale, double(place) / voulue));
+        const double plancher = reductionMinimale * police.pointSizeF();
+        // Step by step: a text does not shrink in proportion to its font.
+        while (police.pointSizeF() > plancher && QFontMetrics(police).horizontalAdvance(text()) > place)
+            police.setPointSizeF(std::max(plancher, police.pointSizeF() - 0.25));
         peintre.setFont(police);
         const QString affiche = QFontMetrics(police).elidedText(text(), Qt::ElideRight, place);
         peintre.drawText(rect(), Qt::AlignCenter, affiche);
