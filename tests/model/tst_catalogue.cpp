@@ -69,7 +69,7 @@ void TestCatalogue::grillesEnregistreesAvantLesLivrees()
         QCOMPARE(catalogue->grillesConnues().size(), 2);
         QCOMPARE(premier(*catalogue, deuxMilleVingtSix), Centimes{600});
     }
-    banc.ecrireUtilisateur(QStringLiteral("tarifs-colissimo-abime.json"), "{\"validite\":\"2030-01-01\"}");
+    banc.ecrireUtilisateur(QStringLiteral("tarifs-colissimo-abime.json"), R"({"validite":"2030-01-01"})");
     banc.ecrireUtilisateur(QStringLiteral("tarifs-colissimo-bis.json"),
                            Json::encoder(desTarifs(deuxMilleVingtSix, Centimes{610})));
     const auto relu = banc.charger();

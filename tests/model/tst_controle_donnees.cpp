@@ -29,7 +29,7 @@ const QDate jour(2026, 3, 2);
 
 QDir livrees()
 {
-    return QDir(Ressources::duProgramme().chemin(QString()));
+    return {Ressources::duProgramme().chemin(QString())};
 }
 
 void copier(const QDir &de, const QDir &vers)

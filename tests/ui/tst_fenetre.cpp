@@ -79,7 +79,7 @@ void TestFenetre::leJourChange()
     QVERIFY(Ecran::montre(&banc.app->fenetre(), QStringLiteral("en vigueur au 1er janvier 2026")));
     banc.app->fenetre().contenu()->montrer(Rubrique::livres);
     banc.jour = QDate(2027, 1, 2);
-    banc.revenirA(&banc.app->fenetre());
+    BancEcran::revenirA(&banc.app->fenetre());
     QVERIFY(Ecran::montre(&banc.app->fenetre(), QStringLiteral("en vigueur au 1er janvier 2027")));
     banc.app->fenetre().contenu()->montrer(Rubrique::commande);
     QVERIFY(Ecran::valeurEnFaceDe(&banc.app->fenetre(), QStringLiteral("Envoi Colissimo"))

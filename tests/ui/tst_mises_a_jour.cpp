@@ -91,8 +91,8 @@ void TestMisesAJour::init()
     cache_ = std::make_unique<QTemporaryDir>();
     installes_.clear();
     banc_ = std::make_unique<BancEcran>();
-    banc_->misesAJour = {serveur_->adresse(cheminDuFlux), base64(cle_.data(), cle_.size()), QStringLiteral("1.1"),
-                         QDir(cache_->path()), [this](const QString &chemin) {
+    banc_->misesAJour = {serveur_->adresse(cheminDuFlux), base64(cle_.data(), qsizetype(cle_.size())),
+                         QStringLiteral("1.1"), QDir(cache_->path()), [this](const QString &chemin) {
                              installes_.append(chemin);
                              return installes_.size() < 3;
                          }};

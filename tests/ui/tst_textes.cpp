@@ -32,7 +32,7 @@ struct Cas
     std::unique_ptr<Catalogue> catalogue = banc.charger();
     Commande commande;
 
-    [[nodiscard]] Calcul calcul() const { return Calcul(*catalogue, commande, jourDuBanc); }
+    [[nodiscard]] Calcul calcul() const { return {*catalogue, commande, jourDuBanc}; }
 };
 
 } // namespace

@@ -326,11 +326,11 @@ void TestVueDocuments::laFeuilleSuitLeJour()
     const auto propose = [&] { return qobject_cast<QLineEdit *>(Ecran::controle(feuille, numero))->text(); };
     QCOMPARE(propose(), QStringLiteral("2026-001"));
     banc_->jour = QDate(2027, 1, 1);
-    banc_->revenirA(feuille);
+    BancEcran::revenirA(feuille);
     QCOMPARE(propose(), QStringLiteral("2027-001"));
     qobject_cast<QLineEdit *>(Ecran::controle(feuille, numero))->setText(QStringLiteral("2027-040")); // dictated
     banc_->jour = QDate(2028, 1, 1);
-    banc_->revenirA(feuille);
+    BancEcran::revenirA(feuille);
     QCOMPARE(propose(), QStringLiteral("2027-040")); // said to be of a past year, and left
     QVERIFY(Ecran::montre(feuille, QStringLiteral("Ce numéro est d’une année passée : la suite de 2028 n’en change "
                                                   "pas.")));

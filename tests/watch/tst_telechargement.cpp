@@ -6,6 +6,8 @@
 
 #include <zlib.h>
 
+#include <array>
+
 using namespace std::chrono_literals;
 
 // Downloads from a real server on this machine, honest, broken or hostile.
@@ -69,9 +71,9 @@ QByteArray gzip(const QByteArray &clair)
 {
     const auto *octets = reinterpret_cast<const Bytef *>(clair.constData());
     const auto somme = static_cast<quint32>(crc32(0, octets, static_cast<uInt>(clair.size())));
-    const quint32 pied[]{qToLittleEndian(somme), qToLittleEndian(static_cast<quint32>(clair.size()))};
+    const std::array pied{qToLittleEndian(somme), qToLittleEndian(static_cast<quint32>(clair.size()))};
     return QByteArray("\x1F\x8B\x08\0\0\0\0\0\0\xFF", 10) + qCompress(clair).sliced(6).chopped(4)
-           + QByteArray(reinterpret_cast<const char *>(pied), sizeof pied);
+           + QByteArray(reinterpret_cast<const char *>(pied.data()), sizeof pied);
 }
 
 Reponse compressee(const QByteArray &corps, const QByteArray &codage = "gzip")

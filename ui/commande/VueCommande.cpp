@@ -36,11 +36,11 @@ constexpr int panneauMaximum = 460;
 } // namespace
 
 VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesCouvertures &images,
-                         const Preferences &preferences, Aujourdhui aujourdhui, QWidget *parent)
+                         Preferences preferences, Aujourdhui aujourdhui, QWidget *parent)
     : QWidget(parent),
       catalogue_(catalogue),
       commande_(commande),
-      preferences_(preferences),
+      preferences_(std::move(preferences)),
       aujourdhui_(std::move(aujourdhui)),
       enTete_(new EnTete(QStringLiteral("Commande"))),
       reinitialiser_(new QPushButton(Icone::icone(QStringLiteral("arrow.counterclockwise")),

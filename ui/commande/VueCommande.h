@@ -21,8 +21,8 @@ class VueCommande : public QWidget
     Q_OBJECT
 
 public:
-    VueCommande(const Catalogue &catalogue, Commande &commande, ImagesCouvertures &images,
-                const Preferences &preferences, Aujourdhui aujourdhui, QWidget *parent = nullptr);
+    VueCommande(const Catalogue &catalogue, Commande &commande, ImagesCouvertures &images, Preferences preferences,
+                Aujourdhui aujourdhui, QWidget *parent = nullptr);
 
 protected:
     bool event(QEvent *evenement) override;

@@ -109,7 +109,7 @@ QPixmap Dessin::ombre(const QSizeF &taille, qreal rayon, const QColor &couleur, 
         auto *ligne = reinterpret_cast<QRgb *>(image.scanLine(static_cast<int>(y)));
         const float force = vertical[y] * static_cast<float>(couleur.alpha());
         for (std::size_t x = 0; x < horizontal.size(); ++x)
-            ligne[x] = parAlpha[static_cast<std::size_t>(force * horizontal[x] + 0.5F)];
+            ligne[x] = parAlpha[static_cast<std::size_t>(qRound(force * horizontal[x]))];
     }
     image.setDevicePixelRatio(densite);
     return QPixmap::fromImage(std::move(image));

@@ -13,7 +13,7 @@ namespace {
 
 QColor voile(int gris, double opacite)
 {
-    return QColor(gris, gris, gris, static_cast<int>(std::lround(opacite * 255)));
+    return {gris, gris, gris, static_cast<int>(std::lround(opacite * 255))};
 }
 
 // The binding: a spine on the left, a sheen across.
