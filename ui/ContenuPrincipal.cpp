@@ -8,6 +8,7 @@
 #include "ui/commande/VueCommande.h"
 #include "ui/commun/Libelle.h"
 #include "ui/commun/Partage.h"
+#include "ui/commun/Place.h"
 #include "ui/livres/VueLivres.h"
 #include "ui/tarifs/TextesTarifs.h"
 #include "ui/tarifs/VueTarifs.h"
@@ -21,16 +22,15 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <chrono>
 #include <utility>
 
 namespace {
 
 constexpr QSize tailleMinimale(980, 640);
+constexpr int hauteurDuMenu = 24;
 constexpr int barreMinimum = 190;
 constexpr int barreIdeale = 210;
 constexpr int barreMaximum = 260;
-constexpr auto apresLaPremiereImage = std::chrono::milliseconds(150); // the network's own start must not delay it
 
 } // namespace
 
@@ -85,7 +85,9 @@ bool ContenuPrincipal::conclure()
 
 QSize ContenuPrincipal::minimumSizeHint() const
 {
-    return QWidget::minimumSizeHint().expandedTo(tailleMinimale);
+    // A small screen shows all of the window, whose columns scroll.
+    const int hauteur = std::min(tailleMinimale.height(), Place::surLEcran(this).height() - hauteurDuMenu);
+    return QWidget::minimumSizeHint().expandedTo({tailleMinimale.width(), hauteur});
 }
 
 QWidget *ContenuPrincipal::barreLaterale()
@@ -157,6 +159,6 @@ bool ContenuPrincipal::event(QEvent *evenement)
 void ContenuPrincipal::showEvent(QShowEvent *evenement)
 {
     QWidget::showEvent(evenement);
-    if (!std::exchange(dejaMontre_, true))
+    if (!std::exchange(dejaMontre_, true)) // the network's own start must not delay the first image
         QTimer::singleShot(apresLaPremiereImage, this, [this] { verifications_.verifierSiNecessaire(catalogue_); });
 }

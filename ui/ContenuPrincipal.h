@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+#include <chrono>
 #include <optional>
 
 class Catalogue;
@@ -24,6 +25,9 @@ class ContenuPrincipal : public QWidget
     Q_OBJECT
 
 public:
+    // From when the window shows, time enough for its first image to be on the screen.
+    static constexpr std::chrono::milliseconds apresLaPremiereImage{150};
+
     ContenuPrincipal(Catalogue &catalogue, Commande &commande, Verifications &verifications, ImagesCouvertures &images,
                      Preferences preferences, Aujourdhui aujourdhui, QWidget *parent = nullptr);
 

@@ -1,6 +1,7 @@
 #include "ui/Fenetre.h"
 
 #include "ui/ContenuPrincipal.h"
+#include "ui/Theme.h"
 #include "ui/commun/Place.h"
 #include "ui/misesajour/FeuilleMiseAJour.h"
 #include "watch/MisesAJour.h"
@@ -10,6 +11,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QShortcut>
+#include <QTimer>
 
 #include <array>
 #include <tuple>
@@ -35,7 +37,7 @@ Fenetre::Fenetre(Catalogue &catalogue, Commande &commande, Verifications &verifi
 
 QSize Fenetre::tailleParDefaut() const
 {
-    return contenuParDefaut + QSize(0, menuBar()->sizeHint().height());
+    return Theme::aLaTaille(contenuParDefaut) + QSize(0, menuBar()->sizeHint().height());
 }
 
 // Qt remembers that the keyboard moved the focus, and never forgets it: focus rings would follow the mouse.
@@ -50,6 +52,15 @@ bool Fenetre::eventFilter(QObject *objet, QEvent *evenement)
 void Fenetre::closeEvent(QCloseEvent *evenement)
 {
     evenement->setAccepted(contenu_->conclure());
+}
+
+// Drawing the icon in all its sizes takes a tenth of what the first image does.
+void Fenetre::showEvent(QShowEvent *evenement)
+{
+    QMainWindow::showEvent(evenement);
+    if (windowIcon().isNull())
+        QTimer::singleShot(ContenuPrincipal::apresLaPremiereImage, this,
+                           [] { QApplication::setWindowIcon(QIcon(QStringLiteral(":/quillet.svg"))); });
 }
 
 void Fenetre::ramener()

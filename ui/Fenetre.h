@@ -29,6 +29,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent *evenement) override;
+    void showEvent(QShowEvent *evenement) override;
     bool eventFilter(QObject *objet, QEvent *evenement) override;
 
 private:

@@ -6,7 +6,6 @@
 #include "ui/commun/Style.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
@@ -17,7 +16,6 @@ void QuilletApp::preparer(std::optional<Theme::Mode> mode)
     QApplication::setApplicationName(QStringLiteral("Quillet"));
     QApplication::setApplicationVersion(QStringLiteral(QUILLET_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("quillet"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/quillet.svg")));
     QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
     auto *francais = new QTranslator(qApp);
     if (francais->load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),

@@ -60,7 +60,10 @@ QImage ImagesCouvertures::image(const QString &couverture, const QSize &pixels)
                 this, [=, this, image = lire(chemin, pixels)] { recevoir(couverture, demande, image); },
                 Qt::QueuedConnection);
         };
-        lecteurs_.start(travail, ++rang_); // the last asked for is in sight, the first may have scrolled away
+        // Beside the painting that asks, reading would slow it down. The last asked for is in sight, the first may have
+        // scrolled away.
+        QMetaObject::invokeMethod(
+            this, [this, travail, rang = ++rang_] { lecteurs_.start(travail, rang); }, Qt::QueuedConnection);
     }
     return {};
 }
