@@ -120,19 +120,20 @@ void TestLisibilite::toutSeLit()
     fenetre.resize(fenetre.minimumSizeHint());
     QStringList tous;
     const auto lire = [&](const QString &ecran, QWidget *lu) { tous += defauts(ecran, lu, texte == 1 && !extremes); };
-    lire(QStringLiteral("Commande"), &fenetre);
-    for (const char *bouton : {"Déclaration en douane", "Facture", "E-mail en anglais"}) {
-        QDialog *feuille = banc.ouvrir(QString::fromUtf8(bouton));
-        lire(QString::fromUtf8(bouton), feuille);
+    const auto lireEtFermer = [&](const QString &bouton, QDialog *feuille) {
+        lire(bouton, feuille);
+        feuille->resize(feuille->minimumSizeHint());
+        lire(bouton + QStringLiteral(", au plus petit"), feuille);
         feuille->reject();
-    }
+    };
+    lire(QStringLiteral("Commande"), &fenetre);
+    for (const char *bouton : {"Déclaration en douane", "Facture", "E-mail en anglais"})
+        lireEtFermer(QString::fromUtf8(bouton), banc.ouvrir(QString::fromUtf8(bouton)));
     fenetre.contenu()->montrer(Rubrique::tarifs);
     for (const char *page : {"Tarifs Colissimo", "Frais PayPal"}) {
         const QString voir = QStringLiteral("Voir les changements, ") + QString::fromUtf8(page);
         QTRY_VERIFY(Ecran::controle(&fenetre, voir));
-        QDialog *feuille = banc.ouvrir(voir);
-        lire(voir, feuille);
-        feuille->reject();
+        lireEtFermer(voir, banc.ouvrir(voir));
     }
     lire(QStringLiteral("Tarifs"), &fenetre);
     fenetre.contenu()->montrer(Rubrique::livres);

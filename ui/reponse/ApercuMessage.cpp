@@ -42,10 +42,11 @@ void ApercuMessage::ecrire()
     gras.setFont(Theme::enGras(font()));
     QTextCharFormat discret = simple;
     discret.setForeground(Theme::secondaire(palette()));
-    ligne(reponse_->sujet(), gras, 8);
+    constexpr qreal avantLeCorps = 14;
+    ligne(reponse_->sujet(), gras, adresse_.isEmpty() ? avantLeCorps : 4);
     if (!adresse_.isEmpty()) {
         plume.insertBlock();
-        ligne(QStringLiteral("À : %1").arg(adresse_), discret, 8);
+        ligne(QStringLiteral("À : %1").arg(adresse_), discret, avantLeCorps);
     }
     const QString total = reponse_->ligneTotal();
     for (const QString &texte : reponse_->corps().split(u'\n')) {

@@ -6,6 +6,7 @@
 #include "ui/Theme.h"
 #include "ui/commun/Alerte.h"
 #include "ui/commun/ChoixLangue.h"
+#include "ui/commun/Defilement.h"
 #include "ui/commun/EtatVide.h"
 #include "ui/commun/Formulaire.h"
 #include "ui/commun/Icone.h"
@@ -26,6 +27,7 @@ namespace {
 constexpr QSize tailleDeLaReponse(960, 680);
 constexpr QSize tailleImpossible(420, 260);
 constexpr int largeurDeLaSaisie = 380;
+constexpr QSize plusPetitMessage(320, 300);
 
 QLineEdit *champ(const QString &nom, const QString &exemple)
 {
@@ -89,7 +91,6 @@ QWidget *VueReponse::saisie()
     destinataire->groupe()->ajouter(adresseRefusee_);
 
     auto *saisie = new QWidget;
-    saisie->setFixedWidth(Theme::aLaTaille(largeurDeLaSaisie));
     saisie->setAutoFillBackground(true);
     saisie->setBackgroundRole(QPalette::AlternateBase);
     auto *colonne = new QVBoxLayout(saisie);
@@ -98,7 +99,11 @@ QWidget *VueReponse::saisie()
     colonne->addWidget(coller);
     colonne->addWidget(destinataire);
     colonne->addStretch(1);
-    return saisie;
+    auto *defilement = new Defilement;
+    defilement->setWidget(saisie);
+    saisie->setAutoFillBackground(true); // which the page of a scroll area forgets
+    defilement->setFixedWidth(Theme::aLaTaille(largeurDeLaSaisie));
+    return defilement;
 }
 
 QWidget *VueReponse::message()
@@ -106,6 +111,7 @@ QWidget *VueReponse::message()
     connect(envoyer_, &QPushButton::clicked, this, &VueReponse::ouvrirDansMail);
 
     auto *message = new QWidget;
+    message->setMinimumSize(Theme::aLaTaille(plusPetitMessage));
     auto *colonne = new QVBoxLayout(message);
     colonne->setContentsMargins(20, 20, 20, 20);
     colonne->setSpacing(14);
