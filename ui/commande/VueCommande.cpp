@@ -9,6 +9,7 @@
 #include "ui/commande/TextesRecapitulatif.h"
 #include "ui/commun/Defilement.h"
 #include "ui/commun/EnTete.h"
+#include "ui/commun/EtatVide.h"
 #include "ui/commun/Icone.h"
 #include "ui/commun/Partage.h"
 #include "ui/documents/VueDocuments.h"
@@ -47,6 +48,8 @@ VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesC
                                      QStringLiteral("Tout réinitialiser"))),
       selecteur_(new SelecteurSite(catalogue.reglages())),
       grille_(new GrilleLivres(commande, images, selecteur_->dernierControle())),
+      sansLivre_(new EtatVide(QStringLiteral("books.vertical"), QStringLiteral("Aucun livre"),
+                              QStringLiteral("Le catalogue n’a pas de livre de ce vendeur."))),
       recapitulatif_(new Recapitulatif(catalogue, commande))
 {
     reinitialiser_->setToolTip(
@@ -81,6 +84,7 @@ QWidget *VueCommande::colonneDesLivres()
     selecteur_->setContentsMargins(debord, 0, debord, 0);
     livres->addWidget(selecteur_);
     livres->addWidget(grille_);
+    livres->addWidget(sansLivre_, 1);
     livres->addStretch(1);
 
     auto *defilement = new Defilement;
@@ -110,6 +114,8 @@ void VueCommande::actualiser()
     std::ranges::copy_if(catalogue_.livres(), std::back_inserter(livres),
                          [&](const Livre &livre) { return livre.vendeur == commande_.vendeur(); });
     grille_->montrer(livres);
+    grille_->setVisible(!livres.isEmpty());
+    sansLivre_->setVisible(livres.isEmpty());
     recapitulatif_->montrer(calcul);
 }
 

@@ -9,6 +9,7 @@
 class Catalogue;
 class Commande;
 class EnTete;
+class EtatVide;
 class GrilleLivres;
 class ImagesCouvertures;
 class QPushButton;
@@ -41,5 +42,6 @@ private:
     QPushButton *reinitialiser_;
     SelecteurSite *selecteur_;
     GrilleLivres *grille_;
+    EtatVide *sansLivre_;
     Recapitulatif *recapitulatif_;
 };
