@@ -15,10 +15,14 @@ namespace {
 constexpr int roleSymbole = Qt::UserRole;
 constexpr int rolePastille = Qt::UserRole + 1;
 constexpr int hauteur = 38;
-constexpr int coteSymbole = 20;
 constexpr int marge = 10;  // around a row, around its symbol
 constexpr int aDroite = 8; // of a text
 constexpr int jeu = 2;     // a text may round a little wider than it measured
+
+int coteSymbole()
+{
+    return Theme::aLaTaille(20);
+}
 
 QSizeF taillePastille(int nombre)
 {
@@ -63,14 +67,15 @@ public:
         if (option.state.testFlag(QStyle::State_HasFocus) && option.widget && Dessin::focusVisible(option.widget))
             Dessin::anneauDeFocus(*peintre, cadre, Theme::rayonControle, Theme::accentTexte(palette));
 
-        Icone::peindre(*peintre, indice.data(roleSymbole).toString(),
-                       QRectF(cadre.left() + marge, cadre.center().y() - coteSymbole / 2.0, coteSymbole, coteSymbole),
-                       couleur);
+        Icone::peindre(
+            *peintre, indice.data(roleSymbole).toString(),
+            QRectF(cadre.left() + marge, cadre.center().y() - coteSymbole() / 2.0, coteSymbole(), coteSymbole()),
+            couleur);
         const int nombre = indice.data(rolePastille).toInt();
         const double reserve = nombre > 0 ? peindrePastille(*peintre, option, cadre, nombre) : 0;
         peintre->setFont(choisie ? Theme::enGras(option.font) : option.font);
         peintre->setPen(couleur);
-        const QRectF place = cadre.adjusted(2 * marge + coteSymbole, 0, -aDroite - reserve, 0);
+        const QRectF place = cadre.adjusted(2 * marge + coteSymbole(), 0, -aDroite - reserve, 0);
         peintre->drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
                           peintre->fontMetrics().elidedText(indice.data().toString(), Qt::ElideRight,
                                                             static_cast<int>(place.width())));
@@ -111,5 +116,5 @@ QSize ListeRubriques::minimumSizeHint() const
     for (int rang = 0; rang < count(); ++rang)
         texte = std::max(texte, mesures.horizontalAdvance(item(rang)->text()));
     const int pastille = static_cast<int>(std::ceil(taillePastille(1).width()));
-    return {4 * marge + coteSymbole + texte + 2 * aDroite + pastille + jeu, QListWidget::minimumSizeHint().height()};
+    return {4 * marge + coteSymbole() + texte + 2 * aDroite + pastille + jeu, QListWidget::minimumSizeHint().height()};
 }

@@ -18,10 +18,14 @@
 
 namespace {
 
-constexpr int coteBouton = 26;
 constexpr int ombre = 2;        // px around the capsule, but above
 constexpr int bord = ombre + 4; // beside the buttons
 constexpr int espace = 2;
+
+int coteBouton()
+{
+    return Theme::aLaTaille(26);
+}
 
 int largeurDuNombre()
 {
@@ -35,7 +39,7 @@ class BoutonRond : public QAbstractButton
 public:
     BoutonRond(QString symbole, const QString &nom) : symbole_(std::move(symbole))
     {
-        setFixedSize(coteBouton, coteBouton);
+        setFixedSize(coteBouton(), coteBouton());
         setAccessibleName(nom);
         setToolTip(nom);
         setAutoRepeat(true);
@@ -48,12 +52,12 @@ protected:
         peintre.setRenderHint(QPainter::Antialiasing);
         const QColor couleur = palette().color(QPalette::Active, QPalette::ButtonText);
         if (isEnabled() && (underMouse() || isDown()))
-            Dessin::aplat(peintre, rect(), coteBouton / 2.0, Dessin::transparente(couleur, isDown() ? 0.28 : 0.14));
-        const double cote = 15;
+            Dessin::aplat(peintre, rect(), coteBouton() / 2.0, Dessin::transparente(couleur, isDown() ? 0.28 : 0.14));
+        const double cote = Theme::aLaTaille(15);
         Icone::peindre(peintre, symbole_, QRectF((width() - cote) / 2, (height() - cote) / 2, cote, cote),
                        Dessin::transparente(couleur, isEnabled() ? 1 : 0.35));
         if (Dessin::focusVisible(this))
-            Dessin::anneauDeFocus(peintre, rect(), coteBouton / 2.0, couleur);
+            Dessin::anneauDeFocus(peintre, rect(), coteBouton() / 2.0, couleur);
     }
 
     void enterEvent(QEnterEvent *) override { update(); }
@@ -92,7 +96,7 @@ SelecteurQuantite::SelecteurQuantite(const Livre &livre, Commande &commande, QWi
 
 int SelecteurQuantite::largeurUsuelle()
 {
-    return 2 * (bord + coteBouton + espace) + largeurDuNombre();
+    return 2 * (bord + coteBouton() + espace) + largeurDuNombre();
 }
 
 void SelecteurQuantite::montrer(int quantite)

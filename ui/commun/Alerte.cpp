@@ -8,9 +8,13 @@
 #include <QPainter>
 
 namespace {
-constexpr int coteSymbole = 17;
 constexpr int espace = 8;
 } // namespace
+
+int coteSymbole()
+{
+    return Theme::aLaTaille(17);
+}
 
 Alerte::Alerte(const QString &texte, QWidget *parent)
     : Alerte(QStringLiteral("exclamationmark.triangle"), texte, Ton::avertissement, parent)
@@ -26,7 +30,7 @@ Alerte::Alerte(QString symbole, const QString &texte, Ton ton, QWidget *parent)
     texte_->setFont(Theme::encadre());
     texte_->setWordWrap(true);
     auto *rangee = new QHBoxLayout(this);
-    rangee->setContentsMargins(coteSymbole + espace, 0, 0, 0);
+    rangee->setContentsMargins(coteSymbole() + espace, 0, 0, 0);
     rangee->addWidget(texte_);
     dire(texte);
     if (texte.isEmpty())
@@ -50,7 +54,7 @@ void Alerte::dire(const QString &texte)
 void Alerte::paintEvent(QPaintEvent *)
 {
     QPainter peintre(this);
-    const int haut = texte_->y() + (texte_->fontMetrics().height() - coteSymbole) / 2;
+    const int haut = texte_->y() + (texte_->fontMetrics().height() - coteSymbole()) / 2;
     const QColor couleur = ton_ == Ton::avertissement ? Theme::orange(palette()) : Theme::secondaire(palette());
-    Icone::peindre(peintre, symbole_, QRectF(0, haut, coteSymbole, coteSymbole), couleur);
+    Icone::peindre(peintre, symbole_, QRectF(0, haut, coteSymbole(), coteSymbole()), couleur);
 }

@@ -10,15 +10,19 @@
 
 namespace {
 
-constexpr int coteSymbole = 40;
 constexpr int largeurDuTexte = 340;
+
+int coteSymbole()
+{
+    return Theme::aLaTaille(40);
+}
 
 } // namespace
 
 EtatVide::EtatVide(const QString &symbole, const QString &titre, const QString &raison, QWidget *parent)
     : QWidget(parent), place_(new QWidget), titre_(new Libelle({})), raison_(new Libelle({}))
 {
-    place_->setFixedSize(coteSymbole, coteSymbole);
+    place_->setFixedSize(coteSymbole(), coteSymbole());
     titre_->setFont(Theme::titreSection());
     raison_->setWordWrap(true);
     raison_->setAlignment(Qt::AlignHCenter);

@@ -7,8 +7,14 @@
 #include <QPainter>
 
 namespace {
-constexpr QSize taille(38, 22);
+
 constexpr int marge = 3; // room for the focus ring
+
+QSize taille()
+{
+    return Theme::aLaTaille(QSize(38, 22));
+}
+
 } // namespace
 
 Interrupteur::Interrupteur(QWidget *parent) : QCheckBox(parent), position_(new Ressort(Ressorts::action, this))
@@ -19,7 +25,7 @@ Interrupteur::Interrupteur(QWidget *parent) : QCheckBox(parent), position_(new R
 
 QSize Interrupteur::sizeHint() const
 {
-    return taille + QSize(2 * marge, 2 * marge);
+    return taille() + QSize(2 * marge, 2 * marge);
 }
 
 bool Interrupteur::hitButton(const QPoint &position) const
@@ -31,7 +37,7 @@ void Interrupteur::paintEvent(QPaintEvent *)
 {
     QPainter peintre(this);
     peintre.setRenderHint(QPainter::Antialiasing);
-    const QRectF piste(marge, marge, taille.width(), taille.height());
+    const QRectF piste(QPointF(marge, marge), taille());
     const double position = position_->valeur();
     peintre.setPen(Qt::NoPen);
     peintre.setBrush(Dessin::melange(Dessin::melange(Theme::filet(palette()), Theme::secondaire(palette()), 0.35),

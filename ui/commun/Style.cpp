@@ -55,7 +55,7 @@ void contenuDuBouton(const QStyleOptionButton &option, QPainter &peintre)
 {
     const bool actif = contient(option, QStyle::State_Enabled);
     const int icone = option.icon.isNull() ? 0 : option.iconSize.width();
-    const int texte = option.fontMetrics.horizontalAdvance(option.text);
+    const int texte = option.fontMetrics.size(Qt::TextShowMnemonic, option.text).width();
     const int gauche = option.rect.center().x() - (icone + (icone ? espaceIcone : 0) + texte) / 2;
     const bool accentue = principal(option);
     const auto mode = accentue ? QIcon::Selected : actif ? QIcon::Normal : QIcon::Disabled;
@@ -169,8 +169,10 @@ void Style::drawComplexControl(ComplexControl controle, const QStyleOptionComple
         peintre->setRenderHint(QPainter::Antialiasing);
         bouton(*option, *peintre);
         const QRectF fleche = subControlRect(controle, option, SC_ComboBoxArrow, widget);
-        Icone::peindre(*peintre, QStringLiteral("chevron.up.chevron.down"),
-                       QRectF(fleche.center() - QPointF(7, 7), QSizeF(14, 14)), Theme::secondaire(option->palette));
+        QRectF chevrons(QPointF(), QSizeF(Theme::aLaTaille(QSize(14, 14))));
+        chevrons.moveCenter(fleche.center());
+        Icone::peindre(*peintre, QStringLiteral("chevron.up.chevron.down"), chevrons,
+                       Theme::secondaire(option->palette));
         peintre->restore();
         return;
     }
@@ -214,7 +216,7 @@ int Style::pixelMetric(PixelMetric mesure, const QStyleOption *option, const QWi
         return largeurAscenseur;
     case PM_ButtonIconSize:
     case PM_SmallIconSize:
-        return 16;
+        return Theme::aLaTaille(16);
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
         return 0;

@@ -8,9 +8,13 @@
 
 namespace {
 
-constexpr int coteSymbole = 16;
 constexpr int espace = 6;
 constexpr int sousLAnneau = 3; // px
+
+int coteSymbole()
+{
+    return Theme::aLaTaille(16);
+}
 
 QString symbole(PrixBouton::Etat etat)
 {
@@ -52,7 +56,7 @@ void LigneEtat::montrer(PrixBouton::Etat etat, const QString &enMots)
     etat_ = etat;
     // Without a price the focus comes here, and its ring needs room.
     const int autour = etat == PrixBouton::Etat::sansPrix ? sousLAnneau : 0;
-    setContentsMargins(coteSymbole + espace, autour, autour, autour);
+    setContentsMargins(coteSymbole() + espace, autour, autour, autour);
     setText(enMots);
     setRang(etat == PrixBouton::Etat::aReporter ? Rang::principal : Rang::secondaire);
     update();
@@ -67,6 +71,7 @@ void LigneEtat::paintEvent(QPaintEvent *evenement)
         Dessin::anneauDeFocus(peintre, rect(), Theme::rayonControle, Theme::accentTexte(palette()));
     const int premiereLigne =
         (height() - heightForWidth(width())) / 2 + contentsMargins().top() + fontMetrics().height() / 2;
-    Icone::peindre(peintre, symbole(etat_), QRectF(0, premiereLigne - coteSymbole / 2.0, coteSymbole, coteSymbole),
+    Icone::peindre(peintre, symbole(etat_),
+                   QRectF(0, premiereLigne - coteSymbole() / 2.0, coteSymbole(), coteSymbole()),
                    couleur(etat_, palette()));
 }

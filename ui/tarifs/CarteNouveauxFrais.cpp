@@ -22,7 +22,7 @@ class Fleche : public QWidget
 protected:
     void paintEvent(QPaintEvent *) override
     {
-        constexpr int cote = 16;
+        const int cote = Theme::aLaTaille(16);
         QPainter peintre(this);
         Icone::peindre(peintre, QStringLiteral("arrow.right"),
                        QRectF((width() - cote) / 2.0, (height() - cote) / 2.0, cote, cote),

@@ -13,9 +13,17 @@
 
 namespace {
 
-constexpr int coteSymbole = 22;
-constexpr int coteEtat = 16;
 constexpr int espace = 12;
+
+int coteSymbole()
+{
+    return Theme::aLaTaille(22);
+}
+
+int coteEtat()
+{
+    return Theme::aLaTaille(16);
+}
 
 } // namespace
 
@@ -52,7 +60,7 @@ LigneVerification::LigneVerification(const QString &nom, QWidget *parent)
     textes->addLayout(situation);
     auto *rangee = new QHBoxLayout(this);
     rangee->setSpacing(8);
-    rangee->addSpacing(coteSymbole + espace);
+    rangee->addSpacing(coteSymbole() + espace);
     rangee->addLayout(textes, 1);
     for (QPushButton *bouton : {changements_, page_, verifier_})
         rangee->addWidget(bouton, 0, Qt::AlignVCenter);
@@ -70,7 +78,7 @@ void LigneVerification::montrer(const TextesVerifications::Ligne &ligne)
     etat_->setText(ligne.etat);
     verifier_->setAccessibleDescription(ligne.etat); // heard by who has just pressed it
     // No symbol, no room for one.
-    etat_->setContentsMargins(ligne.symboleEtat.isEmpty() ? 0 : coteEtat + 6, 0, 0, 0);
+    etat_->setContentsMargins(ligne.symboleEtat.isEmpty() ? 0 : coteEtat() + 6, 0, 0, 0);
     // The button stays enabled while the check runs: it would lose the focus to a neighbour.
     progres_->setVisible(ligne.cas == Verifications::Etat::Cas::enCours);
     page_->setVisible(ligne.cas == Verifications::Etat::Cas::erreur);
@@ -81,13 +89,13 @@ void LigneVerification::montrer(const TextesVerifications::Ligne &ligne)
 void LigneVerification::paintEvent(QPaintEvent *)
 {
     QPainter peintre(this);
-    Icone::peindre(peintre, ligne_.symbole, QRectF(0, titre_->y(), coteSymbole, coteSymbole),
+    Icone::peindre(peintre, ligne_.symbole, QRectF(0, titre_->y(), coteSymbole(), coteSymbole()),
                    Theme::secondaire(palette()));
     if (ligne_.symboleEtat.isEmpty())
         return;
     const QColor couleur = ligne_.ton == TextesVerifications::Ligne::Ton::alerte   ? Theme::orange(palette())
                            : ligne_.ton == TextesVerifications::Ligne::Ton::accent ? Theme::accentTexte(palette())
                                                                                    : Theme::secondaire(palette());
-    const int haut = etat_->y() + (etat_->fontMetrics().height() - coteEtat) / 2;
-    Icone::peindre(peintre, ligne_.symboleEtat, QRectF(etat_->x(), haut, coteEtat, coteEtat), couleur);
+    const int haut = etat_->y() + (etat_->fontMetrics().height() - coteEtat()) / 2;
+    Icone::peindre(peintre, ligne_.symboleEtat, QRectF(etat_->x(), haut, coteEtat(), coteEtat()), couleur);
 }
