@@ -16,10 +16,11 @@ SectionDocuments::SectionDocuments(QWidget *parent)
     auto *rangee = new QHBoxLayout(boutons);
     rangee->setContentsMargins(0, 0, 0, 0);
     rangee->setSpacing(12);
-    rangee->addWidget(douane_, 1);
-    rangee->addWidget(facture_, 1);
-    for (QPushButton *bouton : {douane_, facture_}) // less room around the texts where the panel is at its narrowest
+    for (QPushButton *bouton : {douane_, facture_}) {
+        rangee->addWidget(bouton, bouton->sizeHint().width()); // the same room around both texts
+        // Less of it where the panel is at its narrowest.
         bouton->setMinimumWidth(bouton->sizeHint().width() - 16);
+    }
     groupe()->ajouter(Formulaire::seul(boutons));
     connect(douane_, &QPushButton::clicked, this, [this] { emit demandes(OngletDocuments::douane); });
     connect(facture_, &QPushButton::clicked, this, [this] { emit demandes(OngletDocuments::facture); });

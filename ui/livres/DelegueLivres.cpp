@@ -166,8 +166,9 @@ void DelegueLivres::peindreLivre(QPainter &peintre, const QRect &cadre, int rang
     peintre.setPen(livre.disponible ? texte : secondaire);
     const QString prix = Format::euros(livre.prix);
     Chiffres::peindre(peintre, ligne, Qt::AlignLeft, prix);
-    ligne.setLeft(ligne.left() + Chiffres::largeur(peintre.fontMetrics(), prix) + 6);
+    ligne.setLeft(ligne.left() + Chiffres::largeur(peintre.fontMetrics(), prix));
     peintre.setFont(Theme::encadre());
+    ligne.setLeft(ligne.left() + peintre.fontMetrics().horizontalAdvance(u' '));
     peintre.setPen(livre.poids ? secondaire : Theme::orange(palette));
     Chiffres::peindre(peintre, ligne, Qt::AlignLeft,
                       peintre.fontMetrics().elidedText(QStringLiteral("· ") + TextesLivres::poids(livre),

@@ -122,9 +122,11 @@ QWidget *VueLivres::gauche()
 QWidget *VueLivres::droite()
 {
     auto *page = new QWidget;
-    auto *marges = new QVBoxLayout(page);
+    auto *marges = new QHBoxLayout(page);
     marges->setContentsMargins(marge, 24, marge - style()->pixelMetric(QStyle::PM_ScrollBarExtent), 28);
-    marges->addWidget(fiche_);
+    fiche_->setMaximumWidth(Theme::aLaTaille(Theme::largeurDePage));
+    marges->addWidget(fiche_, 1);
+    marges->addStretch(0);
     auto *defilement = new Defilement;
     defilement->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     defilement->setWidget(page);

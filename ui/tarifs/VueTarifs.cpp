@@ -72,7 +72,7 @@ VueTarifs::VueTarifs(Catalogue &catalogue, const Commande &commande, Verificatio
       paypal_(new LigneVerification(QStringLiteral("Frais PayPal")))
 {
     auto *contenu = new QWidget;
-    contenu->setMaximumWidth(Theme::largeurDePage);
+    contenu->setMaximumWidth(Theme::aLaTaille(Theme::largeurDePage));
     sections_ = new QVBoxLayout(contenu);
     sections_->setContentsMargins(0, 0, 0, 0);
     sections_->setSpacing(entreSections);
