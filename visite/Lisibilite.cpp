@@ -79,12 +79,12 @@ Lisibilite::Contraste mesurer(const QImage &image, const QRect &cadre)
     return {{}, {}, QColor(encre), QColor(proche), ecart(encre)(proche)};
 }
 
-QString designation(const QWidget *widget)
+QString designation(const QWidget &widget)
 {
     QString nom;
-    for (const QWidget *parent = widget; parent && nom.isEmpty(); parent = parent->parentWidget())
+    for (const QWidget *parent = &widget; parent && nom.isEmpty(); parent = parent->parentWidget())
         nom = parent->accessibleName();
-    return QStringLiteral("%1 (%2)").arg(QString::fromLatin1(widget->metaObject()->className()), nom);
+    return QStringLiteral("%1 (%2)").arg(QString::fromLatin1(widget.metaObject()->className()), nom);
 }
 
 template <typename Genre>
@@ -174,7 +174,7 @@ bool abrege(const TextePeint &texte)
 void chercherDans(const QWidget *page, const QList<TextePeint> &textes, QStringList &coupes)
 {
     const auto dire = [&](const QWidget *widget, const QString &quoi) {
-        coupes.append(QStringLiteral("%1 : %2").arg(designation(widget), quoi));
+        coupes.append(QStringLiteral("%1 : %2").arg(designation(*widget), quoi));
     };
     for (qsizetype i = 0; i < textes.size(); ++i) {
         const TextePeint &texte = textes[i];
@@ -222,7 +222,7 @@ QList<Lisibilite::Contraste> Lisibilite::contrastes(QWidget *fenetre)
                 continue;
             Contraste contraste = mesurer(image, cadre);
             contraste.texte = texte.texte;
-            contraste.widget = designation(texte.widget);
+            contraste.widget = designation(*texte.widget);
             contrastes.append(contraste);
         }
     }
@@ -236,11 +236,11 @@ QStringList Lisibilite::coupes(QWidget *fenetre)
     for (const auto *partage : fenetre->findChildren<QSplitter *>())
         for (int i = 1; partage->isVisible() && i < partage->count(); ++i)
             if (partage->widget(i - 1)->geometry().intersects(partage->widget(i)->geometry()))
-                coupes.append(QStringLiteral("Deux colonnes se recouvrent : ") + designation(partage->widget(i)));
+                coupes.append(QStringLiteral("Deux colonnes se recouvrent : ") + designation(*partage->widget(i)));
     for (QWidget *page : pages(fenetre)) {
         if (page != fenetre && page->width() > page->parentWidget()->width())
             coupes.append(QStringLiteral("Page plus large que sa place : ")
-                          + designation(page->parentWidget()->parentWidget()));
+                          + designation(*page->parentWidget()->parentWidget()));
         QList<TextePeint> textes = textesPeints(page);
         textes.removeIf(
             [page](const TextePeint &texte) { return pageDe(texte.widget) != page || defile(texte, page); });

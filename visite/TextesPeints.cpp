@@ -32,7 +32,7 @@ public:
         return false;
     }
 
-    [[nodiscard]] QPaintEngine *paintEngine() const override { return const_cast<Releveur *>(this); }
+    [[nodiscard]] QPaintEngine *paintEngine() const override { return moteur_; }
     [[nodiscard]] Type type() const override { return User; }
     bool begin(QPaintDevice *) override { return true; }
     bool end() override { return true; }
@@ -101,6 +101,7 @@ private:
     }
 
     const QWidget &page_;
+    QPaintEngine *const moteur_ = this;
     const QWidget *peint_ = nullptr;
     QList<TextePeint> textes_;
 };

@@ -36,11 +36,11 @@ QString FiltreLivres::texteCherche(const Livre &livre)
 
 bool FiltreLivres::retient(const Candidat &candidat) const
 {
-    const auto &[livre, texte, boutonsAReporter] = candidat;
+    const Livre &livre = candidat.livre;
     if (vendeur && livre.vendeur != *vendeur)
         return false;
-    if ((etat == Etat::aReporter && boutonsAReporter == 0) || (etat == Etat::aPeser && livre.poids)
+    if ((etat == Etat::aReporter && candidat.boutonsAReporter == 0) || (etat == Etat::aPeser && livre.poids)
         || (etat == Etat::epuises && livre.disponible))
         return false;
-    return std::ranges::all_of(recherche, [&](const QString &mot) { return texte.contains(mot); });
+    return std::ranges::all_of(recherche, [&](const QString &mot) { return candidat.texte.contains(mot); });
 }
