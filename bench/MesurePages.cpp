@@ -45,7 +45,7 @@ QString lirePage(const QString &nom)
 // What stands between two marks of a page, over and over, until the page is as long as the real ones.
 QString allonger(const QString &page, const QString &debut, const QString &fin)
 {
-    constexpr qsizetype longueur = 204'800;
+    constexpr auto longueur = qsizetype{200} * 1024;
     const qsizetype place = page.lastIndexOf(debut);
     const QString passage = page.sliced(place, page.indexOf(fin, place) - place);
     return QString(page).insert(place, passage.repeated((longueur - page.size()) / passage.size()));

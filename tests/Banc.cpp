@@ -73,7 +73,7 @@ Banc::Banc()
         destination(QStringLiteral("lune"), QStringLiteral("Lune"), QStringLiteral("Moon"), QStringLiteral("zone-lune"),
                     RegionPaypal::autres, true),
     };
-    destinations[1].douaneSauf = QStringLiteral("les Canaries");
+    destinations[1].douaneSauf = QStringLiteral("les Canaries & Ceuta");
     reglages = {
         .fraisPaypal = {QStringLiteral("2026-07-24"),
                         QUrl(QStringLiteral("https://paypal.example/frais")),

@@ -85,8 +85,9 @@ bool ContenuPrincipal::conclure()
 
 QSize ContenuPrincipal::minimumSizeHint() const
 {
-    // A small screen shows all of the window, whose columns scroll.
-    const int hauteur = std::min(tailleMinimale.height(), Place::surLEcran(this).height() - hauteurDuMenu);
+    // A low screen shows all of the window, whose columns scroll.
+    const int hauteur =
+        std::min(tailleMinimale.height(), Place::surLEcran(this).height() - Theme::aLaTaille(hauteurDuMenu));
     return QWidget::minimumSizeHint().expandedTo({tailleMinimale.width(), hauteur});
 }
 

@@ -101,7 +101,7 @@ private:
     }
 
     const QWidget &page_;
-    QPaintEngine *const moteur_ = this;
+    QPaintEngine *const moteur_ = this; // asked for by a const function, and painted with
     const QWidget *peint_ = nullptr;
     QList<TextePeint> textes_;
 };

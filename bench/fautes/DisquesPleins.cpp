@@ -80,7 +80,7 @@ int remplir(const Ressources &ressources, const QString &travail, const Disque &
             QDir(dossier).removeRecursively();
             const int trouve = dansUnProcessus([&] {
                 return int(essai.jouer(
-                    dossier, [&] { lest.laisser(niveau * disque.pas); }, [&] { lest.laisser(65'536); }));
+                    dossier, [&] { lest.laisser(niveau * disque.pas); }, [&] { lest.laisser(qint64{64} * 1024); }));
             });
             if (!bilan.compter(trouve))
                 std::fprintf(stderr, "  %s, %d libres\n", disque.nom, niveau);

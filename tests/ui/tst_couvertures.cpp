@@ -108,6 +108,7 @@ void TestCouvertures::indisponibleEnGris()
     QVERIFY(milieu().saturation() > 50);
     livre.disponible = false;
     QCOMPARE(milieu().saturation(), 0);
+    QCOMPARE(DessinCouverture::couleur(livre).saturation(), 0); // its shadow's
 }
 
 QTEST_MAIN(TestCouvertures)

@@ -136,9 +136,14 @@ void TestVueCommande::changerDeDestination()
     cliquer(QStringLiteral("Livre 1"));
     choisir(QStringLiteral("Envoi vers"), QStringLiteral("Union européenne"));
     QCOMPARE(valeur(QStringLiteral("Déclaration en douane")), QStringLiteral("Non"));
-    cliquer(QStringLiteral("Colis pour les Canaries"));
+    cliquer(QStringLiteral("Colis pour les Canaries & Ceuta"));
+    QVERIFY(Ecran::montre(&banc_->app->fenetre(), QStringLiteral("Colis pour les Canaries && Ceuta"))); // painted &
     QCOMPARE(valeur(QStringLiteral("Déclaration en douane")), QStringLiteral("Oui, CN23"));
-    taper(QStringLiteral("Pays de livraison"), QStringLiteral("Spain"));
+    auto *pays = controle<QLineEdit>(QStringLiteral("Pays de livraison"));
+    QApplication::clipboard()->setText(QStringLiteral("Sp\r\nain\n")); // as a page gives it
+    pays->paste();
+    QCOMPARE(pays->text(), QStringLiteral("Spain"));
+    QCOMPARE(banc_->app->commande().paysLivraison(), QStringLiteral("Spain"));
     cliquer(QStringLiteral("Français"));
     QVERIFY(banc_->app->commande().langue() == Langue::francais);
 
@@ -146,7 +151,7 @@ void TestVueCommande::changerDeDestination()
     QVERIFY(!banc_->app->commande().horsUE() && !banc_->app->commande().langue());
     QCOMPARE(controle<QLineEdit>(QStringLiteral("Pays de livraison"))->text(), QString());
     QVERIFY(controle<QAbstractButton>(QStringLiteral("Anglais"))->isChecked());
-    QVERIFY(!controle(QStringLiteral("Colis pour les Canaries")));
+    QVERIFY(!controle(QStringLiteral("Colis pour les Canaries & Ceuta")));
 }
 
 void TestVueCommande::peserLeColis()
@@ -201,6 +206,13 @@ void TestVueCommande::changerDeVendeur()
     cliquer(QStringLiteral("davrel.example"));
     QCOMPARE(quantite(1), 1);
     QCOMPARE(valeur(QStringLiteral("Sous-total")), QStringLiteral("15,00 €"));
+
+    const QString sansLivre = QStringLiteral("Le catalogue n’a pas de livre de ce vendeur.");
+    QVERIFY(!Ecran::montre(&banc_->app->fenetre(), sansLivre));
+    banc_->donnees.livres.removeIf([](const Livre &livre) { return livre.vendeur == Vendeur::mireva; });
+    banc_->demarrer();
+    cliquer(QStringLiteral("Mireva"));
+    QVERIFY(Ecran::montre(&banc_->app->fenetre(), sansLivre));
 }
 
 // The second change comes while the first is still moving: one motion only, and nothing of it stays.

@@ -308,6 +308,7 @@ void TestVueDocuments::etatsDeLaFacture()
     QVERIFY(Ecran::montre(feuille, sansIdentite));
     QVERIFY(Ecran::cliquer(feuille, douane));
     QVERIFY(Ecran::montre(feuille, sansIdentite));
+    QVERIFY(!Ecran::montre(feuille, QStringLiteral("Expéditeur")));
 
     banc_->donnees.reglages.vendeurs[QStringLiteral("davrel")].siret.reset();
     banc_->demarrer(banc_->donnees.preferences());

@@ -17,7 +17,7 @@ SectionDocuments::SectionDocuments(QWidget *parent)
     rangee->setContentsMargins(0, 0, 0, 0);
     rangee->setSpacing(12);
     for (QPushButton *bouton : {douane_, facture_}) {
-        rangee->addWidget(bouton, bouton->sizeHint().width()); // the same room around both texts
+        rangee->addWidget(bouton, bouton->sizeHint().width()); // in proportion to its text
         // Less of it where the panel is at its narrowest.
         bouton->setMinimumWidth(bouton->sizeHint().width() - 16);
     }

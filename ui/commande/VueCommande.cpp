@@ -48,7 +48,7 @@ VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesC
                                      QStringLiteral("Tout réinitialiser"))),
       selecteur_(new SelecteurSite(catalogue.reglages())),
       grille_(new GrilleLivres(commande, images, selecteur_->dernierControle())),
-      sansLivre_(new EtatVide(QStringLiteral("books.vertical"), QStringLiteral("Aucun livre"),
+      sansLivre_(new EtatVide(QStringLiteral("books.vertical"), {},
                               QStringLiteral("Le catalogue n’a pas de livre de ce vendeur."))),
       recapitulatif_(new Recapitulatif(catalogue, commande))
 {
@@ -85,7 +85,7 @@ QWidget *VueCommande::colonneDesLivres()
     livres->addWidget(selecteur_);
     livres->addWidget(grille_);
     livres->addWidget(sansLivre_, 1);
-    livres->addStretch(1);
+    livres->addStretch();
 
     auto *defilement = new Defilement;
     // Always there, so that it counts in the right margin whether or not it has anything to show.

@@ -8,13 +8,15 @@
 #include <QPainter>
 
 namespace {
+
 constexpr int espace = 8;
-} // namespace
 
 int coteSymbole()
 {
     return Theme::aLaTaille(17);
 }
+
+} // namespace
 
 Alerte::Alerte(const QString &texte, QWidget *parent)
     : Alerte(QStringLiteral("exclamationmark.triangle"), texte, Ton::avertissement, parent)

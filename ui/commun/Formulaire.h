@@ -44,6 +44,7 @@ class Rangee : public QWidget
 
 public:
     explicit Rangee(const QString &libelle, QWidget *valeur, QWidget *parent = nullptr);
+    // Of the data; what the constructor is given is a text of the program.
     void setTexte(const QString &libelle);
     // Empty: no second line.
     void setDetail(const QString &detail);

@@ -60,8 +60,8 @@ QImage ImagesCouvertures::image(const QString &couverture, const QSize &pixels)
                 this, [=, this, image = lire(chemin, pixels)] { recevoir(couverture, demande, image); },
                 Qt::QueuedConnection);
         };
-        // Beside the painting that asks, reading would slow it down. The last asked for is in sight, the first may have
-        // scrolled away.
+        // Once the painting that asks is over: reading would slow it down. The last asked for is in sight, the first
+        // may have scrolled away.
         QMetaObject::invokeMethod(
             this, [this, travail, rang = ++rang_] { lecteurs_.start(travail, rang); }, Qt::QueuedConnection);
     }

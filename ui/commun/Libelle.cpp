@@ -145,7 +145,8 @@ void Libelle::paintEvent(QPaintEvent *evenement)
         return;
     }
     QPainter peintre(this);
-    const auto drapeaux = static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())) | Qt::TextWordWrap;
+    const auto drapeaux = static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())) | Qt::TextWordWrap
+                          | (buddy() ? Qt::TextShowMnemonic : 0);
     style()->drawItemText(&peintre, place, drapeaux, palette(), isEnabled(), secable(place.width()), foregroundRole());
 }
 
@@ -159,7 +160,7 @@ void Libelle::oublier() const
 bool Libelle::event(QEvent *evenement)
 {
     if (evenement->type() == QEvent::ContentsRectChange)
-        oublier();
+        oublier(); // other margins leave the same width another room
     return QLabel::event(evenement);
 }
 

@@ -3,15 +3,29 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QRegularExpression>
+#include <QValidator>
 
-// QLineEdit keeps line breaks, though it shows none.
+namespace {
+
+// QLineEdit keeps line breaks, though it shows none. A validator takes them out before any signal tells of them.
+class SurUneLigne : public QValidator
+{
+public:
+    using QValidator::QValidator;
+
+    State validate(QString &saisie, int &) const override
+    {
+        static const QRegularExpression sauts(QStringLiteral("[\\r\\n\u2028\u2029]+"));
+        saisie.remove(sauts);
+        return Acceptable;
+    }
+};
+
+} // namespace
+
 LigneDeTexte::LigneDeTexte(QWidget *parent) : QLineEdit(parent)
 {
-    connect(this, &QLineEdit::textChanged, this, [this](QString texte) {
-        static const QRegularExpression sauts(QStringLiteral("[\\r\\n\u2028\u2029]+"));
-        if (texte.contains(sauts))
-            setText(texte.remove(sauts));
-    });
+    setValidator(new SurUneLigne(this));
 }
 
 bool LigneDeTexte::event(QEvent *evenement)

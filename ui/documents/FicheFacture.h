@@ -51,7 +51,7 @@ private:
     std::optional<Facture> facture_; // the one shown
     EtatVide *impossible_;
     QLineEdit *numero_;
-    QString propose_;         // the number that nobody has changed yet, however it may be typed or dictated
+    QString propose_;         // the last one: while the field holds it, nobody has typed or dictated another
     QString sansProposition_; // why there is no number to propose; empty when there is one
     Alerte *remarque_;
     ZoneDeTexte *acheteur_;

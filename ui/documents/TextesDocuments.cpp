@@ -38,12 +38,11 @@ Rubrique article(int numero, const ArticleDouane &article)
              {QStringLiteral("N° tarifaire (SH)"), article.codeSH, {}}}};
 }
 
-Rubrique expediteur(const Calcul &calcul, const Reglages &reglages)
+Rubrique expediteur(const IdentiteVendeur &vendeur)
 {
     Rubrique expediteur{QStringLiteral("Expéditeur"), {}};
-    if (const auto vendeur = vendeurUnique(calcul, reglages))
-        for (const QString &ligne : vendeur->adresse)
-            expediteur.champs.append({expediteur.champs.isEmpty() ? QStringLiteral("Adresse") : QString(), ligne, {}});
+    for (const QString &ligne : vendeur.adresse)
+        expediteur.champs.append({expediteur.champs.isEmpty() ? QStringLiteral("Adresse") : QString(), ligne, {}});
     return expediteur;
 }
 
@@ -71,8 +70,8 @@ QList<Rubrique> TextesDocuments::declaration(const Calcul &calcul, const Reglage
     int numero = 0;
     for (const ArticleDouane &declare : articlesDouane(calcul, reglages.douane.codeSH))
         rubriques.append(article(++numero, declare));
-    if (const Rubrique dExpediteur = expediteur(calcul, reglages); !dExpediteur.champs.isEmpty())
-        rubriques.append(dExpediteur);
+    if (const auto vendeur = vendeurUnique(calcul, reglages))
+        rubriques.append(expediteur(*vendeur));
     return rubriques;
 }
 

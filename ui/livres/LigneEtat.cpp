@@ -54,8 +54,7 @@ LigneEtat::LigneEtat(QWidget *parent) : Libelle({}, Rang::secondaire, parent)
 void LigneEtat::montrer(PrixBouton::Etat etat, const QString &enMots)
 {
     etat_ = etat;
-    // Without a price the focus comes here, and its ring needs room.
-    const int autour = etat == PrixBouton::Etat::sansPrix ? sousLAnneau : 0;
+    const int autour = focusPolicy() == Qt::NoFocus ? 0 : sousLAnneau;
     setContentsMargins(coteSymbole() + espace, autour, autour, autour);
     setText(enMots);
     setRang(etat == PrixBouton::Etat::aReporter ? Rang::principal : Rang::secondaire);

@@ -10,6 +10,7 @@ class LigneEtat : public Libelle
 
 public:
     explicit LigneEtat(QWidget *parent = nullptr);
+    // Once it is known whether the focus may come here: its ring needs room.
     void montrer(PrixBouton::Etat etat, const QString &enMots);
 
 protected:

@@ -135,6 +135,8 @@ void RangeeBouton::montrer(const TextesBoutons::Ligne &ligne)
     calcule_->setText(ligne.calcule);
     ecart_->setText(ligne.ecart);
     ecart_->setVisible(!ligne.ecart.isEmpty());
+    // A row without a price to copy is read there.
+    etat_->setFocusPolicy(ligne.aCopier.isEmpty() ? Qt::TabFocus : Qt::NoFocus);
     etat_->montrer(ligne.etat, ligne.etatEnMots);
     copier_->setValeur(ligne.aCopier);
     copier_->setEnabled(!ligne.aCopier.isEmpty());
@@ -152,8 +154,6 @@ void RangeeBouton::montrer(const TextesBoutons::Ligne &ligne)
     copier_->setAccessibleName(ligne.aCopier.isEmpty() ? QStringLiteral("Rien à copier, %1").arg(enMots)
                                                        : QStringLiteral("Copier %1, %2").arg(ligne.aCopier, enMots));
     etat_->setAccessibleName(enMots);
-    // A row without a price to copy is read there.
-    etat_->setFocusPolicy(ligne.aCopier.isEmpty() ? Qt::TabFocus : Qt::NoFocus);
     reporter_->setToolTip(QStringLiteral("Le bouton PayPal demande maintenant %1").arg(ligne.calcule));
     reporter_->setAccessibleName(QStringLiteral("Reporter, %1").arg(ligne.destination));
     garder_->setToolTip(

@@ -91,7 +91,6 @@ QWidget *VueReponse::saisie()
     destinataire->groupe()->ajouter(adresseRefusee_);
 
     auto *saisie = new QWidget;
-    saisie->setAutoFillBackground(true);
     saisie->setBackgroundRole(QPalette::AlternateBase);
     auto *colonne = new QVBoxLayout(saisie);
     colonne->setContentsMargins(16, 20, 16, 20);
@@ -101,7 +100,6 @@ QWidget *VueReponse::saisie()
     colonne->addStretch(1);
     auto *defilement = new Defilement;
     defilement->setWidget(saisie);
-    saisie->setAutoFillBackground(true); // which the page of a scroll area forgets
     defilement->setFixedWidth(Theme::aLaTaille(largeurDeLaSaisie));
     return defilement;
 }
