@@ -55,7 +55,8 @@ void contenuDuBouton(const QStyleOptionButton &option, QPainter &peintre)
 {
     const bool actif = contient(option, QStyle::State_Enabled);
     const int icone = option.icon.isNull() ? 0 : option.iconSize.width();
-    const int texte = option.fontMetrics.size(Qt::TextShowMnemonic, option.text).width();
+    // Without the & of its key, which is not drawn.
+    const int texte = option.fontMetrics.horizontalAdvance(QString(option.text).remove(u'&'));
     const int gauche = option.rect.center().x() - (icone + (icone ? espaceIcone : 0) + texte) / 2;
     const bool accentue = principal(option);
     const auto mode = accentue ? QIcon::Selected : actif ? QIcon::Normal : QIcon::Disabled;
