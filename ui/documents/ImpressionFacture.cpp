@@ -75,14 +75,13 @@ bool ImpressionFacture::imprimer(const Facture &facture, int exemplaires, QWidge
     choix.setFullPage(true);
     choix.setPageMargins({});
     choix.setCopyCount(exemplaires);
-    const QString titre = facture.titre() + QStringLiteral(".pdf");
-    choix.setDocName(titre);
+    choix.setDocName(facture.nomDeFichier()); // what the dialog proposes to a print to file
     QPrintDialog dialogue(&choix, parent);
     dialogue.setOptions(QAbstractPrintDialog::PrintToFile);
     if (dialogue.exec() != QDialog::Accepted)
         return false;
     if (choix.outputFileName().isEmpty())
-        FileImpression::envoyer(page, titre, choix);
+        FileImpression::envoyer(page, facture.titre() + QStringLiteral(".pdf"), choix);
     else
         ecrire(choix.outputFileName(), page);
     return true;
