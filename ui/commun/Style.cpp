@@ -198,9 +198,11 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption *option, con
     QSize taille = QProxyStyle::sizeFromContents(type, option, contenu, widget);
     switch (type) {
     case CT_PushButton:
-        return {taille.width() + 16, std::max(taille.height(), contenu.height() + 14)};
+        return {taille.width() + Theme::aLaTaille(16),
+                std::max(taille.height(), contenu.height() + Theme::aLaTaille(14))};
     case CT_ComboBox:
-        return {taille.width() + 10, std::max(taille.height(), contenu.height() + 14)};
+        return {taille.width() + Theme::aLaTaille(10),
+                std::max(taille.height(), contenu.height() + Theme::aLaTaille(14))};
     case CT_LineEdit:
         return {taille.width(), std::max(hauteurControle, contenu.height() + 12)};
     case CT_ToolButton:

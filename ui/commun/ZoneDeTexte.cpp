@@ -5,7 +5,8 @@
 
 namespace {
 
-constexpr int marge = 5; // around the text
+constexpr int marge = 5;  // above and below the text
+constexpr int gauche = 7; // as in a field of one line
 
 } // namespace
 
@@ -14,7 +15,7 @@ ZoneDeTexte::ZoneDeTexte(int lignes, QWidget *parent) : QPlainTextEdit(parent)
     setTabChangesFocus(true);
     setFrameShape(QFrame::NoFrame);
     viewport()->setAutoFillBackground(false);
-    setViewportMargins(marge, marge, 1, marge);
+    setViewportMargins(gauche, marge, 1, marge);
     document()->setDocumentMargin(1);
     setFixedHeight(lignes * fontMetrics().lineSpacing() + 2 * (marge + 1));
 }
