@@ -70,7 +70,7 @@ QList<Rubrique> TextesDocuments::declaration(const Calcul &calcul, const Reglage
     int numero = 0;
     for (const ArticleDouane &declare : articlesDouane(calcul, reglages.douane.codeSH))
         rubriques.append(article(++numero, declare));
-    if (const auto vendeur = vendeurUnique(calcul, reglages))
+    if (const auto vendeur = vendeurUnique(calcul, reglages); vendeur && !vendeur->adresse.isEmpty())
         rubriques.append(expediteur(*vendeur));
     return rubriques;
 }

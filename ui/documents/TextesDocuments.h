@@ -32,7 +32,7 @@ struct Rubrique
 // The site of La Poste where customs forms are filled in.
 QString siteDeLaPoste();
 QStringList instructionsDeDouane();
-// The form from top to bottom; the sender stands last, when the seller's identity is known.
+// The form from top to bottom; the sender stands last, when the seller's address is known.
 QList<Rubrique> declaration(const Calcul &calcul, const Reglages &reglages);
 
 // Why no invoice can be made.
