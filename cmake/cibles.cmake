@@ -6,10 +6,14 @@ function(quillet_bibliotheque etage)
     target_link_libraries(quillet-${etage} PUBLIC quillet-options ${arg_LIENS})
 endfunction()
 
+# What Qt 6.8 has for tests to wait, QTRY_VERIFY and the like, narrows a duration by itself.
+add_library(quillet-options-test INTERFACE)
+target_compile_options(quillet-options-test INTERFACE -Wno-conversion)
+
 # quillet_test(<name> <sources>... LIENS <libraries>...): a Qt Test program that ctest runs.
 function(quillet_test nom)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" LIENS)
     add_executable(${nom} ${arg_UNPARSED_ARGUMENTS})
-    target_link_libraries(${nom} PRIVATE quillet-options Qt6::Test ${arg_LIENS})
+    target_link_libraries(${nom} PRIVATE quillet-options quillet-options-test Qt6::Test ${arg_LIENS})
     add_test(NAME ${nom} COMMAND ${nom})
 endfunction()

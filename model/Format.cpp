@@ -1,5 +1,7 @@
 #include "model/Format.h"
 
+#include <QTimeZone>
+
 #include <unicode/gregocal.h>
 #include <unicode/numberformatter.h>
 #include <unicode/smpdtfmt.h>
@@ -154,7 +156,7 @@ QString Format::date(QDate jour)
 {
     static const std::unique_ptr<const icu::SimpleDateFormat> formateur = formateurDeDate();
     Q_ASSERT(jour.isValid());
-    const QDateTime midi(jour, QTime(12, 0), Qt::UTC);
+    const QDateTime midi(jour, QTime(12, 0), QTimeZone::utc());
     icu::UnicodeString sortie;
     const QString texte = versTexte(formateur->format(static_cast<UDate>(midi.toMSecsSinceEpoch()), sortie));
     return texte.startsWith(QLatin1String("1 ")) ? QStringLiteral("1er ") + texte.mid(2) : texte;

@@ -5,6 +5,7 @@
 
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimeZone>
 
 // The two checks, against a real server on this machine, by a clock of the test's own.
 class TestVerifications : public QObject
@@ -50,7 +51,7 @@ const QString paypal = QStringLiteral("/paypal");
 
 void TestVerifications::init()
 {
-    maintenant_ = QDateTime(jourDuBanc, QTime(10, 0), Qt::UTC);
+    maintenant_ = QDateTime(jourDuBanc, QTime(10, 0), QTimeZone::utc());
     banc_ = std::make_unique<Banc>();
     banc_->reglages.fraisPaypal.supplements = {{QStringLiteral("eee"), Taux{0}},
                                                {QStringLiteral("royaume-uni"), Taux{129}},
