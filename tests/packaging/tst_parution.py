@@ -12,7 +12,7 @@ PACKAGING = Path(__file__).resolve().parents[2] / "packaging"
 sys.path.insert(0, str(PACKAGING))
 import parution  # noqa: E402
 
-METAINFO = PACKAGING / "org.quillet.Quillet.metainfo.xml"
+METAINFO = PACKAGING / "org.quillet.quillet.metainfo.xml"
 HOSTILE = """<component><releases>
   <release version="2.0" date="2026-12-24"><description>
     <p>A &lt;b&gt; &amp; ]]&gt;</p><p xml:lang="fr">Le prix &lt;b&gt; &amp; ]]&gt;
