@@ -2,9 +2,11 @@
 
 #include "model/Fichier.h"
 #include "ui/documents/FileImpression.h"
+#include "ui/documents/LettresPdf.h"
 #include "ui/documents/MetadonneesPdf.h"
 #include "ui/documents/PageFacture.h"
 
+#include <QApplication>
 #include <QBuffer>
 #include <QDir>
 #include <QFileDialog>
@@ -64,7 +66,7 @@ QByteArray ImpressionFacture::pdf(const Facture &facture)
         PageFacture::peindre(peintre, facture, PageFacture::imprimees());
     if (!commence || !peintre.end() || !octets.data().startsWith("%PDF-"))
         throw Echec(QStringLiteral("La facture n’a pas pu être mise en page."));
-    return octets.data();
+    return LettresPdf::retablir(octets.data(), PageFacture::textes(facture), QApplication::font());
 }
 
 bool ImpressionFacture::imprimer(const Facture &facture, int exemplaires, QWidget *parent)

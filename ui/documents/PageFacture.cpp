@@ -82,6 +82,8 @@ public:
         return y_;
     }
 
+    [[nodiscard]] const QString &ecrit() const { return ecrit_; }
+
 private:
     // Each draws from `y_` and leaves `y_` under itself.
     void enTete();
@@ -105,6 +107,7 @@ private:
     QPainter *peintre_;
     Caractere titre_, texte_, discret_, legende_, note_;
     QColor accent_, filet_;
+    QString ecrit_; // by the blocks so far
     double y_ = 0;
 };
 
@@ -112,6 +115,7 @@ double Composition::bloc(const QString &texte, const Caractere &caractere, doubl
                          Qt::Alignment alignement)
 {
     const QString paragraphes = texte.normalized(QString::NormalizationForm_C).replace(u'\n', QChar::LineSeparator);
+    ecrit_ += paragraphes;
     QTextLayout mise(paragraphes, police(caractere, paragraphes));
     QTextOption option(alignement);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -257,4 +261,11 @@ void PageFacture::peindre(QPainter &peintre, const Facture &facture, const Coule
     peintre.scale(echelle, echelle);
     Composition(facture, couleurs, largeurUtile / echelle, &peintre).composer();
     peintre.restore();
+}
+
+QString PageFacture::textes(const Facture &facture)
+{
+    Composition page(facture, imprimees(), largeurUtile);
+    page.composer();
+    return page.ecrit();
 }

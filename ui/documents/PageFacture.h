@@ -25,5 +25,7 @@ Couleurs imprimees();
 
 // In points from the painter's origin. What is too long for the page is drawn smaller, never cut.
 void peindre(QPainter &peintre, const Facture &facture, const Couleurs &couleurs);
+// All that is written there.
+QString textes(const Facture &facture);
 
 } // namespace PageFacture
