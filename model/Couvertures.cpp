@@ -6,6 +6,12 @@ QString Couvertures::nom(const QString &fichier)
     return point > 0 ? fichier.left(point) : fichier;
 }
 
+QStringList Couvertures::formats()
+{
+    return {QStringLiteral("svg"),  QStringLiteral("png"), QStringLiteral("jpg"),
+            QStringLiteral("jpeg"), QStringLiteral("gif"), QStringLiteral("bmp")};
+}
+
 QHash<QString, QString> Couvertures::fichiers(const QDir &dossier)
 {
     QHash<QString, QString> fichiers;

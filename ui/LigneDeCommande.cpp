@@ -1,8 +1,14 @@
 #include "ui/LigneDeCommande.h"
 
+#include "model/Couvertures.h"
+#include "model/Ressources.h"
 #include "model/controle/ControleDonnees.h"
+#include "ui/ControlePoste.h"
 
 #include <QCommandLineParser>
+#include <QGuiApplication>
+
+#include <array>
 
 namespace {
 
@@ -19,7 +25,8 @@ QString texteDAide()
 Sans option, ouvre la fenêtre de Quillet.
 
   --verifier DOSSIER  contrôle un dossier de données (livres, couvertures, destinations,
-                      réglages, tarifs) et nomme chaque erreur avec sa place, sans écran
+                      réglages, tarifs) et nomme chaque erreur avec sa place, sans écran ;
+                      dit aussi ce qui manque au système (formats d’images, polices)
   -v, --version       donne la version
   -h, --help          montre cette aide
 
@@ -55,9 +62,23 @@ std::optional<QString> malComprise(QCommandLineParser &analyseur, const QCommand
     return std::nullopt;
 }
 
+// Typefaces and pictures are asked of a display; this one needs no screen.
+QStringList manquesDuPoste(const QString &dossier)
+{
+    QByteArray nom("quillet");
+    QByteArray option("-platform");
+    QByteArray plateforme("offscreen");
+    std::array<char *, 4> arguments{nom.data(), option.data(), plateforme.data(), nullptr};
+    int nombre = 3;
+    const QGuiApplication programme(nombre, arguments.data());
+    const QDir couvertures(Ressources(QDir(dossier)).chemin(QStringLiteral("couvertures")));
+    return ControlePoste::manques(ControlePoste::moyens(), Couvertures::fichiers(couvertures).values());
+}
+
 Reponse controle(const QString &dossier)
 {
-    const auto controle = ControleDonnees::de(QDir(dossier), QDate::currentDate());
+    auto controle = ControleDonnees::de(QDir(dossier), QDate::currentDate());
+    controle.erreurs += manquesDuPoste(dossier);
     const QStringList lignes = controle.erreurs + QStringList{controle.bilan()};
     return {controle.erreurs.isEmpty() ? 0 : 1, lignes.join(u'\n') + u'\n'};
 }

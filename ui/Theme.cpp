@@ -50,8 +50,9 @@ QFont aLEchelle(qreal echelle)
 QFont serif(qreal echelle, QFont::Weight graisse)
 {
     QFont police = aLEchelle(echelle);
-    police.setFamilies({QStringLiteral("Libertinus Serif"), QStringLiteral("Linux Libertine O"),
-                        QStringLiteral("Georgia"), QStringLiteral("DejaVu Serif"), QStringLiteral("serif")});
+    police.setFamilies(
+        Theme::famillesDesTitres()
+        + QStringList{QStringLiteral("Georgia"), QStringLiteral("DejaVu Serif"), QStringLiteral("serif")});
     police.setStyleHint(QFont::Serif);
     police.setWeight(graisse);
     return police;
@@ -141,10 +142,20 @@ QColor Theme::bleuBas()
     return 0x1F56BE;
 }
 
+QStringList Theme::famillesDesTextes()
+{
+    return {QStringLiteral("Inter")};
+}
+
+QStringList Theme::famillesDesTitres()
+{
+    return {QStringLiteral("Libertinus Serif"), QStringLiteral("Linux Libertine O")};
+}
+
 QFont Theme::policeDeDepart()
 {
     QFont police = QApplication::font();
-    police.setFamilies({QStringLiteral("Inter"), police.family()});
+    police.setFamilies(famillesDesTextes() + QStringList{police.family()});
     police.setPointSizeF(std::max(police.pointSizeF(), tailleMinimale));
     return police;
 }

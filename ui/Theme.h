@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QPalette>
 #include <QSize>
+#include <QStringList>
 
 // Colours and type shared by every screen: a bookseller's desk, by day and by night.
 namespace Theme {
@@ -29,6 +30,9 @@ QColor bleu();     // a switch that is on
 QColor bleuHaut(); // the chosen site, from its top
 QColor bleuBas();  // to its bottom
 
+// Wanted for texts and for titles, the best first; the system's own stands in.
+QStringList famillesDesTextes();
+QStringList famillesDesTitres();
 // What the application's font becomes at the start, once: the system's size, at least 10 pt.
 QFont policeDeDepart();
 QFont legende();    // caption, 0.83

@@ -12,16 +12,14 @@ using Regles::Reperes;
 
 void couverture(const QString &couverture, const Reperes &reperes, const Lieu &lieu)
 {
-    static const QStringList formats{QStringLiteral("svg"),  QStringLiteral("png"), QStringLiteral("jpg"),
-                                     QStringLiteral("jpeg"), QStringLiteral("gif"), QStringLiteral("bmp")};
     if (couverture.isEmpty())
         return;
     const QString fichier = reperes.couvertures.value(Couvertures::nom(couverture));
     if (fichier.isEmpty())
         lieu.noter(QStringLiteral("pas d’image « %1 » dans couvertures").arg(couverture));
-    else if (!formats.contains(QFileInfo(fichier).suffix().toLower()))
-        lieu.noter(
-            QStringLiteral("couvertures/%1 n’est pas une image %2").arg(fichier, formats.join(QStringLiteral(", "))));
+    else if (!Couvertures::formats().contains(QFileInfo(fichier).suffix().toLower()))
+        lieu.noter(QStringLiteral("couvertures/%1 n’est pas une image %2")
+                       .arg(fichier, Couvertures::formats().join(QStringLiteral(", "))));
     else if (QFileInfo(reperes.dossierDesCouvertures.filePath(fichier)).size() == 0)
         lieu.noter(QStringLiteral("couvertures/%1 est un fichier vide").arg(fichier));
 }

@@ -279,6 +279,8 @@ void TestControleDonnees::sansEcran()
     auto environnement = QProcessEnvironment::systemEnvironment();
     for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
         environnement.remove(QString::fromLatin1(variable));
+    const QTemporaryDir session; // without one Qt complains
+    environnement.insert(QStringLiteral("XDG_RUNTIME_DIR"), session.path());
     quillet.setProcessEnvironment(environnement);
     quillet.start(QCoreApplication::applicationDirPath() + QStringLiteral("/quillet"), arguments);
     QVERIFY(quillet.waitForFinished());

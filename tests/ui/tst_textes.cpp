@@ -1,4 +1,5 @@
 #include "tests/Banc.h"
+#include "ui/ControlePoste.h"
 #include "ui/commande/TextesRecapitulatif.h"
 #include "ui/commun/TextesLivres.h"
 #include "ui/documents/TextesDocuments.h"
@@ -22,6 +23,7 @@ private slots:
     void lienDePaiementAbsent_data();
     void lienDePaiementAbsent();
     void champsVides();
+    void manquesDuPoste();
 };
 
 namespace {
@@ -190,6 +192,26 @@ void TestTextes::champsVides()
     QCOMPARE(TextesLivres::edition(livre), QStringLiteral("14 × 21 cm · 200 pages"));
     QCOMPARE(TextesDocuments::vendeur({.nom = QStringLiteral("Davrel"), .adresse = {QStringLiteral("1 rue Exemple")}}),
              QStringLiteral("Davrel\n1 rue Exemple"));
+}
+
+void TestTextes::manquesDuPoste()
+{
+    using ControlePoste::manques;
+    const QStringList couvertures{QStringLiteral("a.svg"), QStringLiteral("b.SVG"), QStringLiteral("c.jpg"),
+                                  QStringLiteral("notes.txt")};
+    const ControlePoste::Moyens complet{.images = {"jpg", "svg"},
+                                        .polices = {QStringLiteral("Inter"), QStringLiteral("Linux Libertine O")},
+                                        .francais = true,
+                                        .tls = true};
+    QCOMPARE(manques(complet, couvertures), QStringList());
+
+    const QStringList tous = manques({.images = {"jpg"}, .polices = {QStringLiteral("DejaVu Sans")}}, couvertures);
+    QCOMPARE(tous.size(), 5);
+    QVERIFY(tous[0].startsWith(QStringLiteral("ce système ne lit pas les images SVG : 2 couvertures")));
+    QVERIFY(tous[1].contains(QStringLiteral("la police Inter (paquet fonts-inter)")));
+    QVERIFY(tous[2].contains(QStringLiteral("Libertinus Serif ou Linux Libertine O")));
+    QVERIFY(tous[3].contains(QStringLiteral("textes français de Qt")));
+    QVERIFY(tous[4].contains(QStringLiteral("TLS")));
 }
 
 QTEST_GUILESS_MAIN(TestTextes)
