@@ -1,29 +1,39 @@
+# shellcheck shell=bash
 # Sourced by `run`, `test` and `fuzz/lancer`, from the root of the sources: what they need from Debian, and how they build.
 
 paquets=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-svg-dev libicu-dev libcups2-dev libqpdf-dev libglib2.0-dev zlib1g-dev libsodium-dev pkg-config
-    qt6-wayland qt6-translations-l10n
+    qt6-wayland qt6-translations-l10n ca-certificates
     fonts-inter fonts-linuxlibertine fonts-dejavu-core
     poppler-utils libgumbo-dev
     python3 desktop-file-utils appstream
 )
+# Taken where the release has it: Qt's SVG plugins left libqt6svg6 for a package of their own.
+paquets_s_il_y_en_a=(qt6-svg-plugins)
+
+manquants() {
+    local paquet voulus=("${paquets[@]}")
+    for paquet in "${paquets_s_il_y_en_a[@]}"; do
+        if apt-cache show "$paquet" &>/dev/null; then voulus+=("$paquet"); fi
+    done
+    comm -23 <(printf '%s\n' "${voulus[@]}" | sort) \
+        <(dpkg-query -W -f '${Package} ${db:Status-Status}\n' "${voulus[@]}" 2>/dev/null | sed -n 's/ installed$//p' | sort)
+}
 
 # Touches the system only when a package is missing.
 installer() {
-    local manquants admin=()
-    mapfile -t manquants < <(comm -23 \
-        <(printf '%s\n' "${paquets[@]}" | sort) \
-        <(dpkg-query -W -f '${Package} ${db:Status-Status}\n' "${paquets[@]}" 2>/dev/null |
-            sed -n 's/ installed$//p' | sort))
-    ((${#manquants[@]})) || return 0
-    echo "Paquets à installer : ${manquants[*]}"
+    local liste admin=()
+    [[ $(manquants) ]] || return 0
     if ((EUID)); then
         command -v sudo >/dev/null || { echo "Relancez en administrateur, ou installez sudo." >&2; return 1; }
         admin=(sudo)
     fi
     "${admin[@]}" apt-get -q update
-    "${admin[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -y --no-install-recommends install "${manquants[@]}"
+    # Only now does a bare system know what its release has.
+    mapfile -t liste < <(manquants)
+    echo "Paquets à installer : ${liste[*]}"
+    "${admin[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -y --no-install-recommends install "${liste[@]}"
 }
 
 # construire <preset> [targets]: configures the first time and when the presets change; CMake sees to the rest.
