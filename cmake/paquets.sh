@@ -11,6 +11,9 @@ paquets=(
 )
 # Taken where the release has it: Qt's SVG plugins left libqt6svg6 for a package of their own.
 paquets_s_il_y_en_a=(qt6-svg-plugins)
+# What making the packages takes besides.
+# shellcheck disable=SC2034 # for those who source this
+paquets_pour_empaqueter=(dpkg-dev file librsvg2-bin)
 
 manquants() {
     local paquet voulus=("${paquets[@]}")

@@ -2,6 +2,15 @@
 # Sourced: makes bare Debian systems in folders, from the machine's own sources, and runs commands in them.
 # It needs debootstrap, and an administrator. Nothing of the machine changes but the folders that are named.
 
+# exiger command:package…: all that is missing, at once.
+exiger() {
+    local couple manquants=()
+    for couple; do
+        command -v "${couple%:*}" >/dev/null || manquants+=("${couple#*:}")
+    done
+    ((!${#manquants[@]})) || { echo "Paquets à installer : ${manquants[*]}" >&2; exit 1; }
+}
+
 # isoler "$@": starts the calling script again where its mounts and processes are its own, and end with it.
 isoler() {
     [[ ! ${RACINES_ISOLEES:-} ]] || return 0
@@ -63,10 +72,11 @@ monter_racine() {
     mount -t tmpfs tmpfs "$racine/tmp"
 }
 
-# What the caller mounted inside goes too.
+# What the caller mounted inside goes too. Fails while something is still in use.
 demonter_racine() {
     local montage
-    findmnt --raw --noheadings --output TARGET | grep -F "$1/" | sort -r | while read -r montage; do umount "$montage"; done
+    findmnt --raw --noheadings --output TARGET | awk -v dans="$1/" 'index($0, dans) == 1' | sort -r |
+        while read -r montage; do umount "$montage" || exit 1; done
 }
 
 # dans_racine <folder> command…: as its administrator, with nothing of the caller's environment.
