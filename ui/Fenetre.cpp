@@ -63,12 +63,16 @@ void Fenetre::showEvent(QShowEvent *evenement)
                            [] { QApplication::setWindowIcon(QIcon(QStringLiteral(":/quillet.svg"))); });
 }
 
-void Fenetre::ramener()
+void Fenetre::ramener(const QByteArray &jeton)
 {
+    constexpr auto pourQt = "XDG_ACTIVATION_TOKEN"; // where its Wayland plugin looks
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
-    activateWindow();
+    qputenv(pourQt, jeton);
+    QWidget *devant = QApplication::activeModalWidget(); // a sheet keeps its place over the window
+    (devant ? devant : this)->activateWindow();
+    qunsetenv(pourQt); // it serves once, and is not for the programs started from here
 }
 
 void Fenetre::creerMenu(MisesAJour &misesAJour)

@@ -24,8 +24,9 @@ public:
     // What it opens at, on a screen that is large enough.
     [[nodiscard]] QSize tailleParDefaut() const;
     [[nodiscard]] ContenuPrincipal *contenu() const { return contenu_; }
-    // Back from an icon or from behind other windows.
-    void ramener();
+    // Back from an icon or from behind other windows. The token is what a compositor allows it by; without one it may
+    // only ask for attention.
+    void ramener(const QByteArray &jeton);
 
 protected:
     void closeEvent(QCloseEvent *evenement) override;

@@ -5,15 +5,27 @@
 #include <QLocalSocket>
 #include <QStandardPaths>
 #include <QThread>
+#include <QTimer>
+
+#include <algorithm>
 
 namespace {
 
 constexpr int attente = 2000; // ms
 constexpr int entreDeuxAppels = 30;
+constexpr qint64 plusLongAppel = 1024; // bytes; compositors give some tens
 
 QString dansLeDossierDeSession(const QString &nom)
 {
     return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + u'/' + nom;
+}
+
+// The rest of the way is the compositor's: it is not handed what no token can be.
+QByteArray jetonPlausible(const QByteArray &ligne)
+{
+    const QByteArray jeton = ligne.trimmed();
+    const bool imprimable = std::all_of(jeton.begin(), jeton.end(), [](char c) { return c >= ' ' && c <= '~'; });
+    return imprimable && jeton.size() < plusLongAppel ? jeton : QByteArray();
 }
 
 } // namespace
@@ -23,18 +35,15 @@ InstanceUnique::InstanceUnique()
       verrou_(dansLeDossierDeSession(QStringLiteral("quillet.lock")))
 {
     verrou_.setStaleLockTime(0); // a session may last for days
-    connect(&serveur_, &QLocalServer::newConnection, this, [this] {
-        delete serveur_.nextPendingConnection();
-        emit appelee();
-    });
+    connect(&serveur_, &QLocalServer::newConnection, this, [this] { ecouter(serveur_.nextPendingConnection()); });
 }
 
-bool InstanceUnique::prendreLaPlace()
+bool InstanceUnique::prendreLaPlace(const QByteArray &jeton)
 {
     // Any other error (a folder that cannot be written) must not keep the seller from working.
     const auto prise = [this] { return verrou_.tryLock() || verrou_.error() != QLockFile::LockFailedError; };
     if (!prise()) {
-        if (appelerLaPremiere())
+        if (appelerLaPremiere(jeton))
             return false;
         // Nobody answers for this lock: it was left in a state that Qt does not take for stale.
         QFile::remove(verrou_.fileName());
@@ -48,16 +57,34 @@ bool InstanceUnique::prendreLaPlace()
     return true;
 }
 
-bool InstanceUnique::appelerLaPremiere() const
+bool InstanceUnique::appelerLaPremiere(const QByteArray &jeton) const
 {
     // It may have taken the lock and not listen yet.
     QDeadlineTimer patience(attente);
     do {
         QLocalSocket prise;
         prise.connectToServer(adresse_);
-        if (prise.waitForConnected(attente))
+        if (prise.waitForConnected(attente)) {
+            prise.write(jetonPlausible(jeton) + '\n');
+            prise.waitForBytesWritten(attente);
             return true;
+        }
         QThread::msleep(entreDeuxAppels);
     } while (!patience.hasExpired());
     return false;
+}
+
+// A call is one short line. Whoever sends anything else, or nothing, is not listened to for long.
+void InstanceUnique::ecouter(QLocalSocket *appel)
+{
+    appel->setReadBufferSize(plusLongAppel);
+    connect(appel, &QLocalSocket::disconnected, appel, &QObject::deleteLater);
+    connect(appel, &QLocalSocket::readyRead, this, [this, appel] {
+        if (appel->canReadLine())
+            emit appelee(jetonPlausible(appel->readLine()));
+        else if (appel->bytesAvailable() < plusLongAppel)
+            return;
+        appel->abort();
+    });
+    QTimer::singleShot(attente, appel, &QLocalSocket::abort);
 }

@@ -11,14 +11,16 @@ class InstanceUnique : public QObject
 public:
     InstanceUnique();
 
-    // False: another one runs; it has been asked to show itself.
-    [[nodiscard]] bool prendreLaPlace();
+    // False: another one runs; it has been asked to show itself, and given the token by which whoever started this one
+    // allows a window to come forward (empty when there is none).
+    [[nodiscard]] bool prendreLaPlace(const QByteArray &jeton);
 
 signals:
-    void appelee();
+    void appelee(const QByteArray &jeton);
 
 private:
-    [[nodiscard]] bool appelerLaPremiere() const;
+    [[nodiscard]] bool appelerLaPremiere(const QByteArray &jeton) const;
+    void ecouter(QLocalSocket *appel);
 
     QString adresse_;
     QLockFile verrou_;

@@ -25,10 +25,17 @@ SourceMisesAJour sourceDesMisesAJour()
             .installer = [](const QString &chemin) { return QDesktopServices::openUrl(QUrl::fromLocalFile(chemin)); }};
 }
 
-int ouvrir()
+// Qt's plugins take these out of the environment: to be called before it starts.
+QByteArray jetonDuLanceur()
+{
+    const QByteArray jeton = qgetenv("XDG_ACTIVATION_TOKEN");
+    return jeton.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : jeton;
+}
+
+int ouvrir(const QByteArray &jeton)
 {
     InstanceUnique instance;
-    if (!instance.prendreLaPlace())
+    if (!instance.prendreLaPlace(jeton))
         return 0;
     try {
         QuilletApp quillet(
@@ -61,9 +68,10 @@ int main(int argc, char **argv)
         std::fputs(reponse->texte.toUtf8().constData(), reponse->code == 2 ? stderr : stdout);
         return reponse->code;
     }
+    const QByteArray jeton = jetonDuLanceur();
     QApplication programme(argc, argv);
     QuilletApp::preparer();
-    const int code = ouvrir();
+    const int code = ouvrir(jeton);
     // All is put away. Leaving by the way of QApplication could wait seconds for a name server that does not answer.
     std::fflush(nullptr);
     std::_Exit(code);

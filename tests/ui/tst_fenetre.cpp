@@ -4,6 +4,7 @@
 #include "visite/Ecran.h"
 
 #include <QApplication>
+#include <QLocalSocket>
 #include <QMenuBar>
 #include <QSignalSpy>
 #include <QTest>
@@ -23,6 +24,7 @@ private slots:
     void leJourChange();
     void nuitEnCoursDeRoute();
     void uneSeuleInstance();
+    void appelsHostiles();
 
 private:
     QTemporaryDir session_;
@@ -110,11 +112,34 @@ void TestFenetre::uneSeuleInstance()
     abandonne.close();
 
     InstanceUnique premiere;
-    QVERIFY(premiere.prendreLaPlace()); // nobody answers for the lock left there
+    QVERIFY(premiere.prendreLaPlace({})); // nobody answers for the lock left there
     QSignalSpy appelee(&premiere, &InstanceUnique::appelee);
     InstanceUnique seconde;
-    QVERIFY(!seconde.prendreLaPlace());
+    QVERIFY(!seconde.prendreLaPlace("jeton_TIME42"));
     QTRY_COMPARE(appelee.count(), 1);
+    QCOMPARE(appelee.takeFirst().constFirst().toByteArray(), QByteArray("jeton_TIME42"));
+    QVERIFY(!seconde.prendreLaPlace("deux\nlignes"));
+    QTRY_COMPARE(appelee.count(), 1);
+    QCOMPARE(appelee.takeFirst().constFirst().toByteArray(), QByteArray());
+}
+
+// Whatever a program of the same user sends there, the first is called only by a call, and hangs up.
+void TestFenetre::appelsHostiles()
+{
+    InstanceUnique premiere;
+    QVERIFY(premiere.prendreLaPlace({}));
+    QSignalSpy appelee(&premiere, &InstanceUnique::appelee);
+    const QString adresse = session_.filePath(QStringLiteral("quillet.socket"));
+    QLocalSocket muet;
+    QLocalSocket bavard;
+    for (QLocalSocket *prise : {&muet, &bavard}) {
+        prise->connectToServer(adresse);
+        QVERIFY(prise->waitForConnected());
+    }
+    bavard.write(QByteArray(20'000'000, 'x') + '\n');
+    QTRY_COMPARE(bavard.state(), QLocalSocket::UnconnectedState);
+    QTRY_COMPARE(muet.state(), QLocalSocket::UnconnectedState);
+    QCOMPARE(appelee.count(), 0);
 }
 
 QTEST_MAIN(TestFenetre)
