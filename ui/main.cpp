@@ -1,6 +1,7 @@
 #include "ui/Fenetre.h"
 #include "ui/InstanceUnique.h"
 #include "ui/LigneDeCommande.h"
+#include "ui/PressePapiers.h"
 #include "ui/QuilletApp.h"
 
 #include <QApplication>
@@ -72,6 +73,7 @@ int main(int argc, char **argv)
     QApplication programme(argc, argv);
     QuilletApp::preparer();
     const int code = ouvrir(jeton);
+    PressePapiers::leguer();
     // All is put away. Leaving by the way of QApplication could wait seconds for a name server that does not answer.
     std::fflush(nullptr);
     std::_Exit(code);
