@@ -6,7 +6,7 @@ paquets=(
     qt6-base-dev qt6-svg-dev libicu-dev libcups2-dev libqpdf-dev libxcb1-dev libglib2.0-dev zlib1g-dev libsodium-dev
     pkg-config qt6-wayland qt6-translations-l10n ca-certificates
     fonts-inter fonts-linuxlibertine fonts-dejavu-core
-    poppler-utils libgumbo-dev
+    poppler-utils libgumbo-dev dbus-daemon
     python3 desktop-file-utils appstream
 )
 # Taken where the release has it: Qt's SVG plugins left libqt6svg6 for a package of their own.

@@ -2,6 +2,7 @@
 
 #include "ui/ComplementFrancais.h"
 #include "ui/Fenetre.h"
+#include "ui/bureau/Bureau.h"
 #include "ui/commun/LecteurDEcran.h"
 #include "ui/commun/Style.h"
 
@@ -25,6 +26,13 @@ void QuilletApp::preparer(std::optional<Theme::Mode> mode)
     QApplication::setStyle(new Style(mode));
     LecteurDEcran::preparer();
     QApplication::setFont(Theme::policeDeDepart());
+}
+
+void QuilletApp::suivre(Bureau &bureau)
+{
+    const auto obeir = [&bureau] { qobject_cast<Style *>(QApplication::style())->suivre(bureau.souhaits()); };
+    QObject::connect(&bureau, &Bureau::change, qApp, obeir);
+    bureau.relever();
 }
 
 QuilletApp::QuilletApp(const Ressources &ressources, Stockage stockage, const Preferences &preferences,

@@ -12,6 +12,7 @@
 #include <memory>
 #include <optional>
 
+class Bureau;
 class Fenetre;
 
 // Owns what lives from start to exit: the catalogue, the one order, the weekly checks, the updates, the window.
@@ -20,6 +21,9 @@ class QuilletApp
 public:
     // Style, fonts and French for the whole program; without a mode, light or dark follows the platform.
     static void preparer(std::optional<Theme::Mode> mode = std::nullopt);
+
+    // Dark or light, contrast, motion and size of text as the desktop says by now, then as it changes.
+    static void suivre(Bureau &bureau);
 
     // Throws RessourceIllisible. Without a source there are no updates.
     QuilletApp(const Ressources &ressources, Stockage stockage, const Preferences &preferences, Aujourdhui aujourdhui,

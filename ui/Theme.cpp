@@ -8,10 +8,10 @@ namespace {
 
 struct Teintes
 {
-    QColor fenetre, panneau, carte, remplissage, texte, secondaire, inactif, filet, accent, accentTexte, bulle;
+    QColor fenetre, panneau, carte, remplissage, texte, secondaire, inactif, filet, accent, accentTexte, orange, bulle;
 };
 
-const Teintes &teintes(Theme::Mode mode)
+const Teintes &teintes(Theme::Mode mode, Theme::Contraste contraste)
 {
     static const Teintes clair{.fenetre = 0xF7F4ED,
                                .panneau = 0xEFEAE0,
@@ -23,6 +23,7 @@ const Teintes &teintes(Theme::Mode mode)
                                .filet = 0xDED7C9,
                                .accent = QColor(13, 104, 98),
                                .accentTexte = QColor(13, 104, 98),
+                               .orange = 0xA94A00,
                                .bulle = 0x2E2B26};
     static const Teintes sombre{.fenetre = 0x1D1C1A,
                                 .panneau = 0x171614,
@@ -34,7 +35,35 @@ const Teintes &teintes(Theme::Mode mode)
                                 .filet = 0x3B3833,
                                 .accent = 0x1B8077,
                                 .accentTexte = 0x69C8BC,
+                                .orange = 0xF2A65A,
                                 .bulle = 0x3B3833};
+    // The same paper and the same night, a little further from the ink; lines and hints become as plain as texts were.
+    static const Teintes clairRenforce{.fenetre = 0xFBF9F4,
+                                       .panneau = 0xF4F0E7,
+                                       .carte = 0xFFFFFF,
+                                       .remplissage = 0xEAE4D8,
+                                       .texte = 0x0B0A08,
+                                       .secondaire = 0x37322B,
+                                       .inactif = 0x655F55,
+                                       .filet = 0x766F63,
+                                       .accent = 0x064A45,
+                                       .accentTexte = 0x064A45,
+                                       .orange = 0x6B2E00,
+                                       .bulle = 0x14120F};
+    static const Teintes sombreRenforce{.fenetre = 0x0E0D0C,
+                                        .panneau = 0x070706,
+                                        .carte = 0x181715,
+                                        .remplissage = 0x2A2825,
+                                        .texte = 0xFFFDF8,
+                                        .secondaire = 0xD9D3C7,
+                                        .inactif = 0xA69F93,
+                                        .filet = 0x8B8478,
+                                        .accent = 0x0D625B,
+                                        .accentTexte = 0x93E6DB,
+                                        .orange = 0xFFC88F,
+                                        .bulle = 0x2A2825};
+    if (contraste == Theme::Contraste::renforce)
+        return mode == Theme::Mode::clair ? clairRenforce : sombreRenforce;
     return mode == Theme::Mode::clair ? clair : sombre;
 }
 
@@ -60,9 +89,9 @@ QFont serif(qreal echelle, QFont::Weight graisse)
 
 } // namespace
 
-QPalette Theme::palette(Mode mode)
+QPalette Theme::palette(Mode mode, Contraste contraste)
 {
-    const Teintes &t = teintes(mode);
+    const Teintes &t = teintes(mode, contraste);
     QPalette palette(t.texte, t.carte, t.carte, t.filet, t.filet, t.texte, Qt::white, t.carte, t.fenetre);
     palette.setColor(QPalette::Mid, t.filet);
     palette.setColor(QPalette::Midlight, t.remplissage);
@@ -85,6 +114,12 @@ Theme::Mode Theme::mode(const QPalette &palette)
     const bool sombre = palette.color(QPalette::Active, QPalette::Window).lightness()
                         < palette.color(QPalette::Active, QPalette::WindowText).lightness();
     return sombre ? Mode::sombre : Mode::clair;
+}
+
+Theme::Contraste Theme::contraste(const QPalette &palette)
+{
+    const bool renforce = filet(palette) == teintes(mode(palette), Contraste::renforce).filet;
+    return renforce ? Contraste::renforce : Contraste::normal;
 }
 
 QColor Theme::secondaire(const QPalette &palette)
@@ -114,7 +149,7 @@ QColor Theme::accent(const QPalette &palette)
 
 QColor Theme::accent(Mode mode)
 {
-    return teintes(mode).accent;
+    return teintes(mode, Contraste::normal).accent;
 }
 
 QColor Theme::accentTexte(const QPalette &palette)
@@ -124,7 +159,7 @@ QColor Theme::accentTexte(const QPalette &palette)
 
 QColor Theme::orange(const QPalette &palette)
 {
-    return mode(palette) == Mode::clair ? QColor(0xA94A00) : QColor(0xF2A65A);
+    return teintes(mode(palette), contraste(palette)).orange;
 }
 
 QColor Theme::bleu()

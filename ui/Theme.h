@@ -10,10 +10,13 @@
 namespace Theme {
 
 enum class Mode { clair, sombre };
+enum class Contraste { normal, renforce };
 
-QPalette palette(Mode mode);
+QPalette palette(Mode mode, Contraste contraste = Contraste::normal);
 // Light or dark, told from the text and window colours.
 Mode mode(const QPalette &palette);
+// Told from the hairlines, which all may see then.
+Contraste contraste(const QPalette &palette);
 
 // Text of second rank, and the role lent to it: palettes have none for it.
 constexpr QPalette::ColorRole roleSecondaire = QPalette::BrightText;
@@ -22,7 +25,7 @@ QColor filet(const QPalette &palette);       // hairlines
 QColor carte(const QPalette &palette);       // raised groups and fields
 QColor remplissage(const QPalette &palette); // quiet fill of capsules and tags
 QColor accent(const QPalette &palette);      // filled accent, white text on it
-QColor accent(Mode mode);
+QColor accent(Mode mode);                    // with normal contrast
 QColor accentTexte(const QPalette &palette); // accent as a text or focus colour
 QColor orange(const QPalette &palette);      // warnings
 // The same by day and by night, white on it.

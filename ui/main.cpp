@@ -3,6 +3,7 @@
 #include "ui/LigneDeCommande.h"
 #include "ui/PressePapiers.h"
 #include "ui/QuilletApp.h"
+#include "ui/bureau/Bureau.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -33,7 +34,7 @@ QByteArray jetonDuLanceur()
     return jeton.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : jeton;
 }
 
-int ouvrir(const QByteArray &jeton)
+int ouvrir(Bureau &bureau, const QByteArray &jeton)
 {
     InstanceUnique instance;
     if (!instance.prendreLaPlace(jeton))
@@ -43,6 +44,7 @@ int ouvrir(const QByteArray &jeton)
             Ressources::duProgramme(), Stockage::deLUtilisateur(), Preferences::deLUtilisateur(),
             [] { return QDate::currentDate(); }, PagesSurveillees(), sourceDesMisesAJour());
         QObject::connect(&instance, &InstanceUnique::appelee, &quillet.fenetre(), &Fenetre::ramener);
+        bureau.relever(); // most often it has answered by now: the first image is right at once
         quillet.fenetre().show();
         return QApplication::exec();
     } catch (const RessourceIllisible &erreur) {
@@ -71,8 +73,10 @@ int main(int argc, char **argv)
     }
     const QByteArray jeton = jetonDuLanceur();
     QApplication programme(argc, argv);
+    Bureau bureau;
     QuilletApp::preparer();
-    const int code = ouvrir(jeton);
+    QuilletApp::suivre(bureau);
+    const int code = ouvrir(bureau, jeton);
     PressePapiers::leguer();
     // All is put away. Leaving by the way of QApplication could wait seconds for a name server that does not answer.
     std::fflush(nullptr);

@@ -4,6 +4,7 @@
 #include "ui/commun/DessinAscenseur.h"
 #include "ui/commun/Icone.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QStyleOption>
 #include <QStyleOptionSlider>
@@ -103,7 +104,17 @@ Style::Style(std::optional<Theme::Mode> mode) : QProxyStyle(QStringLiteral("fusi
 
 void Style::polish(QPalette &palette)
 {
-    palette = Theme::palette(mode_.value_or(Theme::mode(palette)));
+    const Theme::Mode platforme = Theme::mode(palette);
+    // Colours that are not Qt's own come from a platform theme that follows its desktop by itself, as KDE's does.
+    const bool suivie = palette != standardPalette();
+    palette =
+        Theme::palette(mode_.value_or(suivie ? platforme : souhaits_.mode.value_or(platforme)), souhaits_.contraste);
+}
+
+void Style::suivre(const Souhaits &souhaits)
+{
+    souhaits_ = souhaits;
+    QApplication::setPalette(QPalette()); // asks for the platform's, and has it polished
 }
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *peintre,
@@ -248,6 +259,9 @@ int Style::styleHint(StyleHint indice, const QStyleOption *option, const QWidget
                      QStyleHintReturn *retour) const
 {
     switch (indice) {
+    case SH_Widget_Animate:
+    case SH_Widget_Animation_Duration:
+        return souhaits_.immobile() ? 0 : QProxyStyle::styleHint(indice, option, widget, retour);
     case SH_MenuBar_AltKeyNavigation:
         return 1;
     case SH_ScrollBar_LeftClickAbsolutePosition:

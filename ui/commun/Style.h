@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/Theme.h"
+#include "ui/bureau/Souhaits.h"
 
 #include <QProxyStyle>
 
@@ -12,8 +12,11 @@ class Style : public QProxyStyle
     Q_OBJECT
 
 public:
-    // Without a mode, light or dark follows the platform's palette, also while the program runs.
+    // Without a mode, light or dark follows the desktop, also while the program runs.
     explicit Style(std::optional<Theme::Mode> mode = std::nullopt);
+
+    // The colours of the whole program change at once; motion that is under way ends as it would.
+    void suivre(const Souhaits &souhaits);
 
     using QProxyStyle::polish;
     void polish(QPalette &palette) override;
@@ -35,4 +38,5 @@ public:
 
 private:
     std::optional<Theme::Mode> mode_;
+    Souhaits souhaits_;
 };
