@@ -103,8 +103,10 @@ void TestBureau::decode_data()
     ligne("couleurs d’un autre type", apparence, "color-scheme", QStringLiteral("prefer-dark"), {});
     ligne("variante dans une variante", apparence, "color-scheme", emballe(1U, 2), {.mode = Mode::sombre});
     ligne("trop de variantes", apparence, "color-scheme", emballe(1U, 40), {});
-    ligne("contraste", apparence, "contrast", 1U, {.contraste = Contraste::renforce});
+    ligne("contraste", apparence, "contrast", 1U, {.contraste = true});
     ligne("contraste inconnu", apparence, "contrast", 2U, {});
+    ligne("contraste de GNOME", QStringLiteral("org.gnome.desktop.a11y.interface"), "high-contrast", true,
+          {.contrasteDeGnome = true});
     ligne("mouvement réduit", apparence, "reduced-motion", 1U, {.mouvementReduit = true});
     ligne("sans animations", gnome, "enable-animations", false, {.animations = false});
     ligne("animations d’un autre type", gnome, "enable-animations", 0U, {});
@@ -124,7 +126,7 @@ void TestBureau::decode()
     QFETCH(Souhaits, attendus);
     QCOMPARE(souhaits({{espace, {{cle, valeur}}}}), attendus);
     // What is no longer said is no longer wished.
-    Souhaits avant{Mode::clair, Contraste::renforce, true, false, 2};
+    Souhaits avant{Mode::clair, true, true, true, false, 2};
     avant.retenir(espace, cle, valeur);
     avant.retenir(espace, cle, {});
     QVERIFY(avant != Souhaits{} && souhaits({}) == Souhaits{});
@@ -166,7 +168,7 @@ void TestBureau::suitLePortail()
     portail.paraitre();
     Bureau bureau;
     QCOMPARE(bureau.souhaits(), Souhaits());
-    QTRY_COMPARE(bureau.souhaits(), (Souhaits{.mode = Mode::sombre, .contraste = Contraste::renforce, .texte = 1.25}));
+    QTRY_COMPARE(bureau.souhaits(), (Souhaits{.mode = Mode::sombre, .contraste = true, .texte = 1.25}));
     portail.annoncer(apparence, couleurs, 2U);
     QTRY_COMPARE(bureau.souhaits().mode, Mode::clair);
     portail.annoncer(gnome, QStringLiteral("enable-animations"), false);
@@ -188,7 +190,7 @@ void TestBureau::passeSurCeQuiNeSeLitPas()
     portail.annoncer(QString(100'000, u'x'), QString(), QVariantList());
     portail.annoncer(apparence, couleurs, emballe(1U, 30));
     portail.annoncer(apparence, QStringLiteral("contrast"), 1U); // after all those
-    QTRY_COMPARE(bureau.souhaits(), (Souhaits{.contraste = Contraste::renforce}));
+    QTRY_COMPARE(bureau.souhaits(), (Souhaits{.contraste = true}));
 }
 
 void TestBureau::portailMuet()
@@ -226,7 +228,7 @@ void TestBureau::portailBavard()
     for (uint i = 0; i < 2000; ++i)
         portail.annoncer(apparence, couleurs, i % 2 + 1);
     portail.annoncer(apparence, QStringLiteral("contrast"), 1U);
-    QTRY_COMPARE(bureau.souhaits().contraste, Contraste::renforce);
+    QTRY_VERIFY(bureau.souhaits().contraste);
     QVERIFY2(changements.size() <= 2 + temps.elapsed() / 100, qPrintable(QString::number(changements.size())));
 }
 
@@ -265,7 +267,7 @@ void TestBureau::obeit()
 void TestBureau::laisseFaireLaPlateforme()
 {
     Style style;
-    style.suivre({.mode = Mode::clair, .contraste = Contraste::renforce});
+    style.suivre({.mode = Mode::clair, .contraste = true});
     QPalette deKde(QColor(0x232629), QColor(0x1B1E20));
     style.polish(deKde);
     QCOMPARE(deKde, Theme::palette(Mode::sombre, Contraste::renforce));

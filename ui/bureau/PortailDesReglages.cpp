@@ -5,7 +5,6 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
-#include <QDBusVariant>
 
 namespace {
 
@@ -33,8 +32,8 @@ void PortailDesReglages::demander()
 {
     // Every version of the portal has this method and packs its values once; the others came or went.
     QDBusMessage question = QDBusMessage::createMethodCall(service, chemin, interface, QStringLiteral("ReadAll"));
-    question << QStringList{QStringLiteral("org.freedesktop.appearance"),
-                            QStringLiteral("org.gnome.desktop.interface")};
+    question << QStringList{QStringLiteral("org.freedesktop.appearance"), QStringLiteral("org.gnome.desktop.interface"),
+                            QStringLiteral("org.gnome.desktop.a11y.interface")};
     auto *appel = new QDBusPendingCallWatcher(bus_->asyncCall(question), this);
     connect(appel, &QDBusPendingCallWatcher::finished, this, &PortailDesReglages::repondre);
 }

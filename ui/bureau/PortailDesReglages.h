@@ -3,12 +3,12 @@
 #include "ui/bureau/Souhaits.h"
 
 #include <QDBusConnection>
+#include <QDBusVariant>
 #include <QObject>
 
 #include <optional>
 
 class QDBusPendingCallWatcher;
-class QDBusVariant;
 
 // Asks the desktop's portal for its settings and listens to them. Connecting to a bus and following a service wait for
 // the bus: it must live in a thread where that holds nobody up.

@@ -43,12 +43,11 @@ struct Reglage
     void (*retenir)(Souhaits &, const QVariant &);
 };
 
-constexpr std::array<Reglage, 5> suivis{{
+constexpr std::array<Reglage, 6> suivis{{
     {"org.freedesktop.appearance", "color-scheme", [](Souhaits &s, const QVariant &v) { s.mode = mode(v); }},
-    {"org.freedesktop.appearance", "contrast",
-     [](Souhaits &s, const QVariant &v) {
-         s.contraste = lu<uint>(v) == 1U ? Theme::Contraste::renforce : Theme::Contraste::normal;
-     }},
+    {"org.freedesktop.appearance", "contrast", [](Souhaits &s, const QVariant &v) { s.contraste = lu<uint>(v) == 1U; }},
+    {"org.gnome.desktop.a11y.interface", "high-contrast",
+     [](Souhaits &s, const QVariant &v) { s.contrasteDeGnome = lu<bool>(v).value_or(false); }},
     {"org.freedesktop.appearance", "reduced-motion",
      [](Souhaits &s, const QVariant &v) { s.mouvementReduit = lu<uint>(v) == 1U; }},
     {"org.gnome.desktop.interface", "enable-animations",

@@ -11,11 +11,16 @@
 struct Souhaits
 {
     std::optional<Theme::Mode> mode; // none: as Qt's platform theme has it
-    Theme::Contraste contraste = Theme::Contraste::normal;
-    bool mouvementReduit = false;
+    bool contraste = false;          // as the newer portals say it, then as GNOME does
+    bool contrasteDeGnome = false;
+    bool mouvementReduit = false; // the same
     bool animations = true;
     double texte = 1; // times the size of the platform's font, within `tailles`
 
+    [[nodiscard]] Theme::Contraste contrasteVoulu() const
+    {
+        return contraste || contrasteDeGnome ? Theme::Contraste::renforce : Theme::Contraste::normal;
+    }
     [[nodiscard]] bool immobile() const { return mouvementReduit || !animations; }
     // One setting as it now is; those that are none of ours are passed over.
     void retenir(const QString &espace, const QString &cle, const QVariant &valeur);

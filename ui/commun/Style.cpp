@@ -108,7 +108,7 @@ void Style::polish(QPalette &palette)
     // Colours that are not Qt's own come from a platform theme that follows its desktop by itself, as KDE's does.
     const bool suivie = palette != standardPalette();
     palette =
-        Theme::palette(mode_.value_or(suivie ? platforme : souhaits_.mode.value_or(platforme)), souhaits_.contraste);
+        Theme::palette(mode_.value_or(suivie ? platforme : souhaits_.mode.value_or(platforme)), souhaits_.contrasteVoulu());
 }
 
 void Style::suivre(const Souhaits &souhaits)
