@@ -3,6 +3,7 @@
 #include "ui/Fenetre.h"
 #include "ui/InstanceUnique.h"
 #include "ui/QuilletApp.h"
+#include "ui/bureau/Bureau.h"
 #include "visite/HorsReseau.h"
 
 #include <QTimer>
@@ -63,13 +64,16 @@ int main(int argc, char **argv)
         return attendreEtRapporter(temoin, depart);
     }
     // From here on, as in the real program's main().
+    Bureau bureau;
     QuilletApp::preparer();
+    QuilletApp::suivre(bureau);
     InstanceUnique instance;
-    if (!instance.prendreLaPlace())
+    if (!instance.prendreLaPlace({}))
         return 1;
     QuilletApp quillet(
         Ressources::duProgramme(), Stockage::deLUtilisateur(), Preferences::deLUtilisateur(),
         [] { return QDate::currentDate(); }, horsReseau());
+    bureau.relever();
     quillet.fenetre().show();
     return attendreEtRapporter(temoin, depart);
 }

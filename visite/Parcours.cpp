@@ -18,10 +18,11 @@ constexpr int tempsDesRessorts = 900; // ms
 
 } // namespace
 
-Parcours::Parcours(const QDir &dossier, QString suffixe, bool bavard)
+Parcours::Parcours(const QDir &dossier, QString suffixe, bool bavard, std::optional<QSize> taille)
     : dossier_(dossier),
       suffixe_(std::move(suffixe)),
       bavard_(bavard),
+      taille_(taille),
       quillet_(
           Ressources::duProgramme(), Stockage(QDir(donnees_.filePath(QStringLiteral("Quillet")))),
           Preferences(donnees_.filePath(QStringLiteral("Quillet.ini"))), [] { return jourDeLaVisite; }, site_.pages())
@@ -31,7 +32,7 @@ Parcours::Parcours(const QDir &dossier, QString suffixe, bool bavard)
 bool Parcours::jouer()
 {
     Fenetre &fenetre = quillet_.fenetre();
-    fenetre.resize(fenetre.tailleParDefaut()); // whatever screen it is drawn for
+    fenetre.resize(taille_.value_or(fenetre.tailleParDefaut())); // whatever screen it is drawn for
     fenetre.show();
     if (!QTest::qWaitForWindowExposed(&fenetre))
         return false;

@@ -12,8 +12,9 @@ class QDialog;
 class Parcours
 {
 public:
-    // Pictures go to `dossier`, their names ending in `suffixe`; `bavard` prints the amounts read on the screen.
-    Parcours(const QDir &dossier, QString suffixe, bool bavard);
+    // Pictures go to `dossier`, their names ending in `suffixe`; `bavard` prints the amounts read on the screen. The
+    // window is as it opens, or of `taille`.
+    Parcours(const QDir &dossier, QString suffixe, bool bavard, std::optional<QSize> taille = std::nullopt);
 
     // False when a picture could not be written or the screen does not hold what the tour looks for.
     bool jouer();
@@ -34,6 +35,7 @@ private:
     QDir dossier_;
     QString suffixe_;
     bool bavard_;
+    std::optional<QSize> taille_;
     QTemporaryDir donnees_;
     SiteDeLaVisite site_;
     QuilletApp quillet_;

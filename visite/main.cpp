@@ -14,7 +14,11 @@ struct Apparence
     QString suffixe;
     Theme::Mode mode;
     QString echelle;
+    bool pourLesBoutiques = false;
 };
+
+// The largest window that software shops want a picture of.
+constexpr QSize fenetreDesBoutiques(1000, 700);
 
 // A display scale is fixed for the life of a process: each look is drawn by one of its own.
 bool dessinerAPart(const Apparence &apparence, const QString &dossier)
@@ -27,6 +31,8 @@ bool dessinerAPart(const Apparence &apparence, const QString &dossier)
     QStringList arguments{QStringLiteral("--suffixe=") + apparence.suffixe, dossier};
     if (apparence.mode == Theme::Mode::sombre)
         arguments.prepend(QStringLiteral("--sombre"));
+    if (apparence.pourLesBoutiques)
+        arguments.prepend(QStringLiteral("--boutiques"));
     visite.start(QCoreApplication::applicationFilePath(), arguments);
     return visite.waitForFinished(-1) && visite.exitStatus() == QProcess::NormalExit && visite.exitCode() == 0;
 }
@@ -40,6 +46,8 @@ int main(int argc, char **argv)
     options.setApplicationDescription(QStringLiteral("Une commande type, jouée dans les vraies fenêtres et dessinée."));
     options.addHelpOption();
     options.addOption({QStringLiteral("sombre"), QStringLiteral("En sombre.")});
+    options.addOption(
+        {QStringLiteral("boutiques"), QStringLiteral("De la taille que veulent les boutiques de logiciels.")});
     options.addOption({QStringLiteral("suffixe"), QStringLiteral("Seulement les images, avec ce suffixe."),
                        QStringLiteral("suffixe")});
     options.addPositionalArgument(QStringLiteral("dossier"), QStringLiteral("Où écrire les images."),
@@ -56,7 +64,9 @@ int main(int argc, char **argv)
     const bool seule = options.isSet(QStringLiteral("suffixe"));
     QuilletApp::preparer(mode);
     try {
-        if (!Parcours(dossier, options.value(QStringLiteral("suffixe")), !seule).jouer())
+        const auto taille =
+            options.isSet(QStringLiteral("boutiques")) ? std::optional(fenetreDesBoutiques) : std::nullopt;
+        if (!Parcours(dossier, options.value(QStringLiteral("suffixe")), !seule, taille).jouer())
             return 1;
     } catch (const RessourceIllisible &erreur) {
         std::fprintf(stderr, "%s\n", erreur.what());
@@ -67,7 +77,8 @@ int main(int argc, char **argv)
     for (const Apparence &apparence :
          {Apparence{QStringLiteral("-sombre"), Theme::Mode::sombre, QStringLiteral("1")},
           Apparence{QStringLiteral("-200"), Theme::Mode::clair, QStringLiteral("2")},
-          Apparence{QStringLiteral("-sombre-200"), Theme::Mode::sombre, QStringLiteral("2")}})
+          Apparence{QStringLiteral("-sombre-200"), Theme::Mode::sombre, QStringLiteral("2")},
+          Apparence{QStringLiteral("-boutique"), Theme::Mode::clair, QStringLiteral("2"), true}})
         if (!dessinerAPart(apparence, dossier.path()))
             return 1;
     std::printf("Images : %s\n", qPrintable(dossier.absolutePath()));

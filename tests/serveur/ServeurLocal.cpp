@@ -58,6 +58,14 @@ Reponse redirection(const QUrl &cible)
     return http("302 Found", "ailleurs", "Location: " + cible.toEncoded() + "\r\n");
 }
 
+QByteArray entete(const QByteArray &tete, const QByteArray &nom)
+{
+    for (const QByteArray &ligne : tete.split('\n'))
+        if (const qsizetype fin = ligne.indexOf(':'); ligne.left(fin).compare(nom, Qt::CaseInsensitive) == 0)
+            return ligne.sliced(fin + 1).trimmed();
+    return {};
+}
+
 void ServeurLocal::faireConfiance()
 {
     auto configuration = QSslConfiguration::defaultConfiguration();

@@ -19,6 +19,8 @@ struct Reponse
 // A whole and honest answer. `statut` is "200 OK"; each of `entetes` ends with "\r\n".
 Reponse http(const QByteArray &statut, const QByteArray &corps = {}, const QByteArray &entetes = {});
 Reponse redirection(const QUrl &cible);
+// What a request's head says there, whatever the case of the name; empty when it says nothing.
+QByteArray entete(const QByteArray &tete, const QByteArray &nom);
 
 // A web server on this machine, on a port of its own. A path without an answer is a 404.
 class ServeurLocal : public QObject

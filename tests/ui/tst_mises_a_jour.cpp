@@ -172,7 +172,7 @@ void TestMisesAJour::rienDEnvoye()
     QVERIFY(serveur_->requetes().isEmpty());
     chercher(nouvelle);
     QCOMPARE(serveur_->requetes().size(), 2);
-    QVERIFY(serveur_->requetes()[1].contains("\r\nUser-Agent: Quillet\r\n"));
+    QCOMPARE(entete(serveur_->requetes()[1], "User-Agent"), QByteArray("Quillet"));
     QVERIFY(!serveur_->requetes()[1].toLower().contains("cookie"));
 }
 

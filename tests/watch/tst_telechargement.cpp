@@ -200,10 +200,11 @@ void TestTelechargement::entetes()
     QVERIFY(serveur.requetes()[0].startsWith("GET /page HTTP/1.1\r\n"));
     QVERIFY(serveur.requetes()[1].startsWith("GET /fin HTTP/1.1\r\n"));
     for (const QByteArray &requete : serveur.requetes()) {
-        QVERIFY(requete.contains("\r\nUser-Agent: Mozilla/5.0 (Macintosh; Intel Mac OS X 10_15_7) AppleWebKit/605.1.15 "
-                                 "(KHTML, like Gecko) Version/18.0 Safari/605.1.15\r\n"));
-        QVERIFY(requete.contains("\r\nAccept-Language: fr-FR,fr;q=0.9\r\n"));
-        QVERIFY(requete.contains("\r\nAccept-Encoding: gzip\r\n"));
+        QCOMPARE(entete(requete, "User-Agent"),
+                 QByteArray("Mozilla/5.0 (Macintosh; Intel Mac OS X 10_15_7) AppleWebKit/605.1.15 (KHTML, like Gecko) "
+                            "Version/18.0 Safari/605.1.15"));
+        QCOMPARE(entete(requete, "Accept-Language"), QByteArray("fr-FR,fr;q=0.9"));
+        QCOMPARE(entete(requete, "Accept-Encoding"), QByteArray("gzip"));
     }
 }
 
