@@ -85,9 +85,15 @@ def nom(noeud):
     return etiquette(noeud) if noeud.get_role_name() == "combo box" else propre or etiquette(noeud)
 
 
+def role_de(noeud):
+    """As Debian 12 calls it; Debian 13 says plainly "button"."""
+    dit = noeud.get_role_name()
+    return "push button" if dit == "button" else dit
+
+
 def repond(noeud, role, voulu):
     """Names go from the particular to the general: the beginning, up to a comma, is enough."""
-    if role and noeud.get_role_name() != role:
+    if role and role_de(noeud) != role:
         return False
     dit = nom(noeud)
     return dit == voulu or dit.startswith(voulu + ",")
