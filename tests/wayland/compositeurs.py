@@ -43,7 +43,7 @@ class Compositeur:
 
 
 class Weston(Compositeur):
-    """The window fills the screen. There is no seat: nothing pops up nor is copied, and it shows no sheet."""
+    """The window fills the screen. There is no seat: nothing pops up nor is copied, and sheets are not shown."""
 
     siege = False
 

@@ -14,6 +14,8 @@ from arbre import (Echec, agir, application, attendre, cadre, cherche, ecrire, e
 from commande import ACHETEUR, NUMERO
 from compositeurs import HAUTEUR, LARGEUR, Sway, Weston
 
+VIDE = 30_000  # bytes of a picture of one colour, and far from those of a screen
+
 COMPOSITEURS = {"weston": [Weston], "sway": [lambda: Sway(1), lambda: Sway(1.25), lambda: Sway(1.5, nuit=True)]}
 
 
@@ -40,12 +42,15 @@ class Partie:
         return re.findall(motif, self._journal.read_text(errors="replace"))
 
     def photographier(self, nom):
-        if not self.compositeur.siege and nom != "commande":
-            return  # without a seat weston shows no sheet
+        """Whether it shows anything."""
         image = self._images / f"{self.compositeur.nom}-{nom}.png"
         self.compositeur.photographier(image)
-        if image.stat().st_size < 30_000:
-            raise Echec(f"{image.name} ne montre rien")
+        return image.stat().st_size > VIDE
+
+    def montrer(self, nom):
+        """A picture to be looked at; without a seat weston shows but the window."""
+        if self.compositeur.siege and not self.photographier(nom):
+            raise Echec(f"l’image « {nom} » est vide")
 
     def relancer(self, **environnement):
         """A second start; its exit code."""
@@ -66,8 +71,9 @@ def jouer(partie):
         attendre(lambda: partie.protocole(r"xdg_toplevel[@#]\d+\.set_title\(\"Quillet\"\)"), "aucune fenêtre")
         if partie.compositeur.siege:
             tenir(partie.compositeur.fenetre())
+        attendre(lambda: partie.photographier("fenetre"), "l’écran est vide")
     par_l_arbre.commander(quillet, compte)
-    partie.photographier("commande")
+    partie.montrer("commande")
     if partie.compositeur.siege:
         surgissements(partie)
     par_l_arbre.repondre(programme, quillet, compte)
@@ -102,7 +108,7 @@ def surgir(partie, noeud, nom):
     agir(noeud, "ShowMenu")
     attendre(lambda: len(partie.protocole(motif)) > avant, "rien ne surgit")
     x, y, largeur, hauteur = map(int, partie.protocole(motif)[avant])
-    partie.photographier(nom)
+    partie.montrer(nom)
     fenetre_x, fenetre_y, *_ = partie.compositeur.fenetre()
     tenir((fenetre_x + x, fenetre_y + y, largeur, hauteur))
     champ = cadre(noeud)
@@ -116,7 +122,7 @@ def surgir(partie, noeud, nom):
 def declarer(partie):
     feuille = par_l_arbre.ouvrir(partie.programme, partie.fenetre, "Déclaration en douane", "Documents d’envoi",
                                  partie.compte)
-    partie.photographier("douane")
+    partie.montrer("douane")
     if partie.compositeur.siege:
         with partie.compte.etape("Une valeur copiée se colle dans un autre programme"):
             trouver(feuille, "push button", "Copier Valeur totale").grab_focus()
@@ -132,7 +138,7 @@ def facturer(partie):
         ecrire(feuille, "Acheteur", ACHETEUR)
         presser(feuille, "Enregistrer en PDF…")
         dialogue = fenetre(partie.programme, "dialog", "Enregistrer la facture")
-        partie.photographier("enregistrer")
+        partie.montrer("enregistrer")
         ecrire(dialogue, "Nom de fichier :", str(pdf))
         presser(dialogue, "Enregistrer")
         trouver(feuille, "notification", f"Facture {NUMERO} enregistrée.")
@@ -140,10 +146,10 @@ def facturer(partie):
     with partie.compte.etape("Le dialogue d’impression s’ouvre et s’annule"):
         presser(feuille, "Imprimer 2 exemplaires")
         dialogue = fenetre(partie.programme, "dialog", "Imprimer")
-        partie.photographier("imprimer")
+        partie.montrer("imprimer")
         presser(dialogue, "Annuler")
         attendre(lambda: cherche(partie.programme, "dialog", "Imprimer") is None, "il reste ouvert")
-    partie.photographier("facture")
+    partie.montrer("facture")
     par_l_arbre.fermer(partie.programme, feuille, partie.compte)
 
 
