@@ -43,12 +43,13 @@ class Compositeur:
 
 
 class Weston(Compositeur):
-    """The window fills the screen. There is no seat: nothing pops up nor is copied, and sheets are not shown."""
+    """Windows stand where it puts them, framed by Qt. There is no seat: nothing is copied, and no list may pop up (Qt 6.4
+    crashes then)."""
 
     siege = False
 
     def __init__(self):
-        super().__init__(["weston", "--backend=headless-backend.so", "--use-pixman", "--shell=kiosk-shell.so", "--debug",
+        super().__init__(["weston", "--backend=headless-backend.so", "--use-pixman", "--debug",
                           f"--width={LARGEUR}", f"--height={HAUTEUR}", "--socket=wayland-essai", "--idle-time=0",
                           "--no-config"], {}, "wayland-essai")
         self.nom = "weston"

@@ -9,7 +9,7 @@ from pathlib import Path
 import jeton
 import par_l_arbre
 from acces import Abandon, Compte
-from arbre import (Echec, agir, application, attendre, cadre, cherche, ecrire, exiger, fenetre, presser,
+from arbre import (Echec, agir, application, attendre, cadre, cherche, ecrire, exiger, fenetre, montre, presser,
                    trouver)
 from commande import ACHETEUR, NUMERO
 from compositeurs import HAUTEUR, LARGEUR, Sway, Weston
@@ -48,8 +48,8 @@ class Partie:
         return image.stat().st_size > VIDE
 
     def montrer(self, nom):
-        """A picture to be looked at; without a seat weston shows but the window."""
-        if self.compositeur.siege and not self.photographier(nom):
+        """A picture to be looked at."""
+        if not self.photographier(nom):
             raise Echec(f"l’image « {nom} » est vide")
 
     def relancer(self, **environnement):
@@ -72,12 +72,16 @@ def jouer(partie):
         if partie.compositeur.siege:
             tenir(partie.compositeur.fenetre())
         attendre(lambda: partie.photographier("fenetre"), "l’écran est vide")
-    par_l_arbre.commander(quillet, compte)
-    partie.montrer("commande")
     if partie.compositeur.siege:
+        par_l_arbre.commander(quillet, compte)
+        partie.montrer("commande")
         surgissements(partie)
-    par_l_arbre.repondre(programme, quillet, compte)
-    declarer(partie)
+        par_l_arbre.repondre(programme, quillet, compte)
+        declarer(partie)
+    else:
+        with compte.etape("Une couverture pressée"):
+            presser(quillet, "Le Phare de sel")
+            attendre(lambda: montre(quillet, "1 livre · 395 g"), "le sous-titre ne suit pas")
     facturer(partie)
     revenir(partie)
     with compte.etape("Fermer par le menu"):
