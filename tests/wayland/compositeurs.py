@@ -43,8 +43,8 @@ class Compositeur:
 
 
 class Weston(Compositeur):
-    """Windows stand where it puts them, framed by Qt. There is no seat: nothing is copied, and no list may pop up (Qt 6.4
-    crashes then)."""
+    """Windows stand where it puts them, framed by Qt. There is no seat: nothing is copied, and no list nor sheet may open
+    (Qt 6.4 crashes then)."""
 
     siege = False
 

@@ -78,12 +78,14 @@ def jouer(partie):
         surgissements(partie)
         par_l_arbre.repondre(programme, quillet, compte)
         declarer(partie)
+        facturer(partie)
     else:
         with compte.etape("Une couverture pressée"):
             presser(quillet, "Le Phare de sel")
             attendre(lambda: montre(quillet, "1 livre · 395 g"), "le sous-titre ne suit pas")
-    facturer(partie)
     revenir(partie)
+    if not partie.compositeur.siege:
+        return
     with compte.etape("Fermer par le menu"):
         agir(trouver(quillet, "menu item", "Quillet"), "ShowMenu")
         agir(trouver(programme, "menu item", "Quitter"), "Press")
