@@ -2,10 +2,10 @@
 
 #include <QApplication>
 #include <QEvent>
-#include <QFontMetricsF>
 #include <QPaintDevice>
 #include <QPaintEngine>
 #include <QPainter>
+#include <QPainterPath>
 #include <QWidget>
 
 #include <cmath>
@@ -45,7 +45,10 @@ public:
     void drawTextItem(const QPointF &depart, const QTextItem &item) override
     {
         const QTransform vers = painter()->deviceTransform();
-        const QRectF encre = QFontMetricsF(item.font()).tightBoundingRect(item.text()).translated(depart);
+        // Of the outlines: metrics round up to whole pixels, by more than one in Qt 6.8.
+        QPainterPath contour;
+        contour.addText(depart, item.font(), item.text());
+        const QRectF encre = contour.boundingRect();
         const QRectF decoupe =
             painter()->hasClipping() ? vers.mapRect(painter()->clipBoundingRect()) : QRectF(page_.rect());
         QColor couleur = painter()->pen().color();
