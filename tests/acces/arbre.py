@@ -180,6 +180,9 @@ def fenetre(racine, role, voulu):
     return attendre(chercher, f"aucune fenêtre « {voulu} »")
 
 
+ANNONCES = ("object:state-changed:showing", "object:announcement")
+
+
 class Ecoute:
     """What the program announces, from here on."""
 
@@ -191,9 +194,18 @@ class Ecoute:
 
     def _noter(self, evenement):
         try:
-            self.entendus.append((evenement.type, evenement.source.get_role_name(), nom(evenement.source)))
+            dit = evenement.any_data if evenement.type == "object:announcement" else nom(evenement.source)
+            self.entendus.append((evenement.type, evenement.source.get_role_name(), lisible(dit)))
         except GLib.Error:
             pass  # its source has gone already
+
+    def annonce(self, debut):
+        """Whether it was spoken, by whichever way the program has to say it."""
+
+        def est_annonce(evenement, role, dit):
+            return dit.startswith(debut) and (role == "notification" or evenement == "object:announcement")
+
+        self.attendre(est_annonce, f"« {debut} » n’est pas annoncé")
 
     def attendre(self, verifier, quoi):
         def entendu():

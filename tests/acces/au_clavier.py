@@ -2,8 +2,8 @@
 
 from pathlib import Path
 
-from arbre import (Echec, annonce, attendre, cherche, comparer, exiger, fenetre, lisible, montre, nom, rangee, texte,
-                   trouver)
+from arbre import (ANNONCES, Echec, Ecoute, annonce, attendre, cherche, comparer, exiger, fenetre, lisible, montre,
+                   nom, rangee, texte, trouver)
 from clavier import aller, decrit, foyer, taper, touche, tour
 from commande import ACHETEUR, ADRESSE, DOUANE, LIEN, MONTANTS, NUMERO, PESEE
 
@@ -125,8 +125,10 @@ def declarer(programme, quillet, compte):
             comparer(section, libelle, rangee(feuille, section, libelle)[:1], [attendu])
     with compte.etape("Douane : une valeur est copiée"):
         copie = aller(feuille, "push button", "Copier Valeur totale")
+        exiger(lisible(copie.get_description()) == "51,00 €", copie.get_description())
+        ecoute = Ecoute(*ANNONCES)
         touche("space")
-        attendre(lambda: copie.get_description() == "Copié", "la copie n’est pas dite")
+        ecoute.annonce("Copié")
     parcourir_au_tab(feuille, "Douane", compte)
     fermer(programme, quillet, feuille, "Déclaration en douane", compte)
 

@@ -2,8 +2,8 @@
 
 from pathlib import Path
 
-from arbre import (Ecoute, a_l_etat, agir, annonce, attendre, cherche, choisir, comparer, ecrire, exiger, fenetre,
-                   lisible, montre, nom, parcourir, presser, rangee, texte, trouver)
+from arbre import (ANNONCES, Ecoute, a_l_etat, agir, annonce, attendre, cherche, choisir, comparer, ecrire, exiger,
+                   fenetre, lisible, montre, nom, parcourir, presser, rangee, texte, trouver)
 from commande import ACHETEUR, ADRESSE, DOUANE, LIEN, MONTANTS, NUMERO, PESEE
 
 
@@ -22,7 +22,7 @@ def jouer(programme, compte, dossier):
 
 def commander(quillet, compte):
     with compte.etape("Deux couvertures pressées, le nombre dit par la couverture et par le sélecteur"):
-        ecoute = Ecoute("object:property-change:accessible-name")
+        ecoute = Ecoute("object:property-change:accessible-name", *ANNONCES)
         for livre, compris in [("Le Phare de sel", "1 livre · 395 g"), ("Le Phare de sel", "2 livres · 750 g")]:
             presser(quillet, livre)
             attendre(lambda texte=compris: montre(quillet, texte), f"« {livre} » ne s’ajoute pas")
@@ -31,6 +31,7 @@ def commander(quillet, compte):
         couverture = trouver(quillet, "push button", "Le Phare de sel")
         exiger(nom(couverture).endswith("2 dans la commande"), nom(couverture))
         ecoute.attendre(lambda _, role, dit: role == "label" and "€" in dit, "aucun montant n’annonce son changement")
+        ecoute.annonce("3 livres · 972 g, total à payer : ")
     with compte.etape("Quantités par le groupe du livre : + puis −"):
         groupe = trouver(quillet, "panel", "L’Herbier des heures")
         presser(groupe, "Ajouter un exemplaire")
@@ -90,9 +91,9 @@ def declarer(programme, quillet, compte):
         with compte.etape(f"Douane, {section}, {libelle} : {attendu}"):
             comparer(section, libelle, rangee(feuille, section, libelle)[:1], [attendu])
     with compte.etape("Une valeur copiée se dit copiée"):
+        ecoute = Ecoute(*ANNONCES)
         presser(feuille, "Copier Valeur totale")
-        copie = trouver(feuille, "push button", "Copier Valeur totale")
-        attendre(lambda: copie.get_description() == "Copié", "la copie n’est pas dite")
+        ecoute.annonce("Copié")
     fermer(programme, feuille, compte)
 
 

@@ -16,6 +16,7 @@ private slots:
     void avertissements_data();
     void avertissements();
     void sousTitres();
+    void resumes();
     void lignesEtPalier();
     void detailsDesMontants_data();
     void detailsDesMontants();
@@ -96,6 +97,17 @@ void TestTextes::sousTitres()
     QCOMPARE(lisible(sousTitre(cas.calcul())), QStringLiteral("6 livres · 1 240 g"));
     cas.commande.setPoidsPese(Grammes{1300});
     QCOMPARE(lisible(sousTitre(cas.calcul())), QStringLiteral("6 livres · 1 300 g"));
+}
+
+// What is heard after each change: a missing total is said in words, not as a dash.
+void TestTextes::resumes()
+{
+    Cas cas;
+    QCOMPARE(resume(cas.calcul()), QStringLiteral("Aucun livre"));
+    cas.commande.ajuster(cas.banc.livres[0], 1);
+    QCOMPARE(lisible(resume(cas.calcul())), QStringLiteral("1 livre · 240 g, total à payer : 20,49 €"));
+    cas.commande.setPoidsPese(Grammes{2001}); // beyond the last tier
+    QCOMPARE(lisible(resume(cas.calcul())), QStringLiteral("1 livre · 2 001 g, total à payer : aucun montant"));
 }
 
 void TestTextes::lignesEtPalier()

@@ -1,6 +1,7 @@
 #include "tests/BancEcran.h"
 #include "ui/ContenuPrincipal.h"
 #include "ui/commande/TransitionCartes.h"
+#include "ui/commun/Icone.h"
 #include "visite/Ecran.h"
 
 #include <QAbstractButton>
@@ -233,9 +234,12 @@ void TestVueCommande::changerDeVendeurCoupSurCoup()
 void TestVueCommande::copierUnChamp()
 {
     cliquer(QStringLiteral("Livre 1"));
+    const QImage coche = Icone::icone(QStringLiteral("checkmark.circle.fill")).pixmap(16).toImage();
     const auto copie = [&](const QString &titre) {
-        return controle(QStringLiteral("Copier ") + titre)->accessibleDescription() == QStringLiteral("Copié");
+        return controle<QAbstractButton>(QStringLiteral("Copier ") + titre)->icon().pixmap(16).toImage() == coche;
     };
+    QVERIFY(!copie(QStringLiteral("Prix")));
+    QCOMPARE(lisible(controle(QStringLiteral("Copier Prix"))->accessibleDescription()), QStringLiteral("20,49 €"));
     cliquer(QStringLiteral("Copier Prix"));
     QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("20,49"));
     QVERIFY(copie(QStringLiteral("Prix")));

@@ -88,8 +88,7 @@ SelecteurQuantite::SelecteurQuantite(const Livre &livre, Commande &commande, QWi
     connect(moins_, &QAbstractButton::clicked, this, [livre, &commande] { commande.ajuster(livre, -1); });
     connect(plus_, &QAbstractButton::clicked, this, [livre, &commande] { commande.ajuster(livre, 1); });
     moins_->setEnabled(false);
-    setAccessibleName(QStringLiteral("Nombre d’exemplaires"));
-    titre_ = livre.titre;
+    setAccessibleName(QStringLiteral("%1, nombre d’exemplaires").arg(livre.titre));
     decrire();
     colorer();
 }
@@ -112,10 +111,10 @@ void SelecteurQuantite::montrer(int quantite)
     plein_->vers(quantite > 0 ? 1 : 0);
 }
 
-// All cards have the same buttons: a screen reader hears whose they are, and the number that they lead to.
+// All cards have the same buttons: a screen reader hears whose they are from the group, then the number.
 void SelecteurQuantite::decrire()
 {
-    const QString etat = QStringLiteral("%1, %2 dans la commande").arg(titre_, QString::number(quantite_));
+    const QString etat = QStringLiteral("%1 dans la commande").arg(quantite_);
     for (QWidget *partie : std::initializer_list<QWidget *>{this, moins_, plus_})
         partie->setAccessibleDescription(etat);
 }

@@ -29,7 +29,6 @@ private:
     void decrire();
     void colorer();
 
-    QString titre_;
     int quantite_ = 0;
     QAbstractButton *moins_;
     QAbstractButton *plus_;

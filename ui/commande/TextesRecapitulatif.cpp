@@ -2,6 +2,7 @@
 
 #include "documents/ReponseType.h"
 #include "model/Format.h"
+#include "ui/commun/LecteurDEcran.h"
 #include "ui/commun/TextesFrais.h"
 
 namespace {
@@ -19,6 +20,14 @@ QString TextesRecapitulatif::sousTitre(const Calcul &calcul)
     const QString livres =
         nombre == 1 ? QStringLiteral("1 livre · ") : QString::number(nombre) + QStringLiteral(" livres · ");
     return livres + Format::poids(calcul.poidsRetenu);
+}
+
+QString TextesRecapitulatif::resume(const Calcul &calcul)
+{
+    if (calcul.nombreDeLivres() == 0)
+        return sousTitre(calcul);
+    return QStringLiteral("%1, total à payer : %2")
+        .arg(sousTitre(calcul), LecteurDEcran::montant(Format::euros(calcul.total)));
 }
 
 QList<TextesRecapitulatif::Ligne> TextesRecapitulatif::livres(const Calcul &calcul)

@@ -40,6 +40,8 @@ struct LienDePaiement
 
 // "3 livres · 1 250 g"
 QString sousTitre(const Calcul &calcul);
+// To be heard: "3 livres · 1 250 g, total à payer : 73,19 €"
+QString resume(const Calcul &calcul);
 
 QList<Ligne> livres(const Calcul &calcul);
 QString emballage(const Emballage &emballage);

@@ -11,6 +11,7 @@
 #include "ui/commun/EnTete.h"
 #include "ui/commun/EtatVide.h"
 #include "ui/commun/Icone.h"
+#include "ui/commun/LecteurDEcran.h"
 #include "ui/commun/Partage.h"
 #include "ui/documents/VueDocuments.h"
 #include "ui/reponse/VueReponse.h"
@@ -25,6 +26,9 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -55,6 +59,8 @@ VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesC
     reinitialiser_->setToolTip(
         QStringLiteral("Tout réinitialiser : quantités, colis pesé et pays de livraison ; l’emballage et la "
                        "destination restent"));
+    reinitialiser_->setAccessibleDescription(
+        QStringLiteral("Quantités, colis pesé et pays de livraison ; l’emballage et la destination restent"));
     enTete_->ajouter(reinitialiser_);
     recapitulatif_->setMaximumWidth(Theme::aLaTaille(panneauMaximum));
 
@@ -68,7 +74,11 @@ VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesC
     connect(recapitulatif_, &Recapitulatif::reponseDemandee, this, &VueCommande::ouvrirLaReponse);
     connect(&commande_, &Commande::change, this, &VueCommande::actualiser);
     connect(&catalogue_, &Catalogue::change, this, &VueCommande::actualiser);
+    annonce_.setSingleShot(true);
+    annonce_.setInterval(600ms); // typing has come to a rest
+    connect(&annonce_, &QTimer::timeout, this, [this] { LecteurDEcran::annoncer(this, resume_); });
     actualiser();
+    annonce_.stop();
 }
 
 QWidget *VueCommande::colonneDesLivres()
@@ -117,6 +127,9 @@ void VueCommande::actualiser()
     grille_->setVisible(!livres.isEmpty());
     sansLivre_->setVisible(livres.isEmpty());
     recapitulatif_->montrer(calcul);
+    const QString resume = TextesRecapitulatif::resume(calcul);
+    if (std::exchange(resume_, resume) != resume)
+        annonce_.start(); // whoever does not see the summary hears what has become of it
 }
 
 void VueCommande::ouvrirLesDocuments(OngletDocuments onglet)

@@ -4,6 +4,7 @@
 #include "ui/Aujourdhui.h"
 #include "ui/documents/OngletDocuments.h"
 
+#include <QTimer>
 #include <QWidget>
 
 class Catalogue;
@@ -44,4 +45,6 @@ private:
     GrilleLivres *grille_;
     EtatVide *sansLivre_;
     Recapitulatif *recapitulatif_;
+    QString resume_; // as announced
+    QTimer annonce_;
 };

@@ -1,6 +1,7 @@
 #include "ui/commun/BoutonCopier.h"
 
 #include "ui/commun/Icone.h"
+#include "ui/commun/LecteurDEcran.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -32,11 +33,11 @@ void BoutonCopier::copier()
     QGuiApplication::clipboard()->setText(valeur_);
     retour_.start();
     montrerEtat();
+    LecteurDEcran::annoncer(this, QStringLiteral("Copié"));
 }
 
 void BoutonCopier::montrerEtat()
 {
     const bool copie = retour_.isActive();
     setIcon(Icone::icone(copie ? QStringLiteral("checkmark.circle.fill") : QStringLiteral("doc.on.doc")));
-    setAccessibleDescription(copie ? QStringLiteral("Copié") : QString());
 }

@@ -11,6 +11,7 @@ ChampACopier::ChampACopier(const QString &titre, std::optional<int> colonneDuTit
 {
     auto *titreAffiche = new Libelle(titre, Libelle::Rang::secondaire);
     titreAffiche->setFont(Theme::encadre());
+    titreAffiche->setBuddy(affichage_);
     affichage_->setWordWrap(true);
     affichage_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     affichage_->setFocusPolicy(Qt::ClickFocus);
@@ -34,6 +35,9 @@ ChampACopier::ChampACopier(const QString &titre, std::optional<int> colonneDuTit
 void ChampACopier::montrer(const QString &valeur, const QString &affichage)
 {
     bouton_->setValeur(valeur);
-    affichage_->setText(affichage.isEmpty() ? valeur : affichage);
+    const QString affiche = affichage.isEmpty() ? valeur : affichage;
+    affichage_->setText(affiche);
     bouton_->setAccessibleName(QStringLiteral("Copier %1").arg(titre_.isEmpty() ? valeur : titre_));
+    if (!titre_.isEmpty()) // the button is all that the keyboard reaches
+        bouton_->setAccessibleDescription(affiche);
 }

@@ -1,5 +1,6 @@
 #include "ui/commun/Choix.h"
 
+#include "ui/commun/LecteurDEcran.h"
 #include "ui/commun/SelectionDuLecteur.h"
 
 #include <QAbstractItemView>
@@ -13,6 +14,14 @@ Choix::Choix(QWidget *parent) : QComboBox(parent)
     setMinimumContentsLength(10);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     connect(this, &QComboBox::currentTextChanged, this, &Choix::direEnEntier);
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
+    // Until then readers are given no selection to ask for.
+    connect(this, &QComboBox::currentTextChanged, this, [this](const QString &texte) {
+        setAccessibleDescription(texte);
+        if (hasFocus())
+            LecteurDEcran::annoncer(this, texte);
+    });
+#endif
     connect(this, &QComboBox::activated, this, [this] { emit choisi(currentData().toString()); });
 }
 

@@ -2,6 +2,7 @@
 
 #include "ui/Theme.h"
 #include "ui/commun/Dessin.h"
+#include "ui/commun/LecteurDEcran.h"
 #include "ui/commun/Libelle.h"
 
 #include <QHBoxLayout>
@@ -17,6 +18,7 @@ namespace {
 Libelle *secondeLigne()
 {
     Libelle *detail = Libelle::note({});
+    detail->setObjectName(LecteurDEcran::detail);
     detail->hide();
     return detail;
 }
@@ -24,6 +26,7 @@ Libelle *secondeLigne()
 void montrerDetail(Libelle *libelle, const QString &detail)
 {
     libelle->setText(detail);
+    libelle->setAccessibleName(detail);
     libelle->setVisible(!detail.isEmpty());
 }
 
@@ -39,8 +42,7 @@ QVBoxLayout *surDeuxLignes(Libelle *libelle, Libelle *detail)
 // A screen reader says the label before the value it stands beside.
 void relier(Libelle *libelle, QWidget *valeur)
 {
-    if (valeur->focusPolicy() != Qt::NoFocus)
-        libelle->setBuddy(valeur);
+    libelle->setBuddy(valeur);
     if (!qobject_cast<QLabel *>(valeur) && valeur->accessibleName().isEmpty())
         valeur->setAccessibleName(libelle->text());
 }
@@ -103,6 +105,7 @@ Section::Section(const QString &titre, const QString &pied, QWidget *parent) : Q
     if (!pied.isEmpty()) {
         Libelle *note = Libelle::note(pied);
         note->setContentsMargins(margeHorizontale, 0, margeHorizontale, 0);
+        note->setBuddy(groupe_); // else it is read with the whole sheet, and again here
         colonne->addWidget(note);
     }
     setAccessibleName(titre);

@@ -1,20 +1,24 @@
 #include "ui/commun/LecteurDEcran.h"
 
 #include <QAccessibleWidget>
+#include <QTimer>
 #include <QWidget>
 
 #include <array>
 #include <utility>
 
+using namespace std::chrono_literals;
+
 namespace {
 
-constexpr std::array<std::pair<QLatin1String, QAccessible::Role>, 7> roles{{
+constexpr std::array<std::pair<QLatin1String, QAccessible::Role>, 8> roles{{
     {QLatin1String("Alerte"), QAccessible::Notification},
     {QLatin1String("CarteFamille"), QAccessible::Grouping},
-    {QLatin1String("CarteLivre"), QAccessible::Grouping},
     {QLatin1String("ChoixSegmente"), QAccessible::Grouping},
+    {QLatin1String("Formulaire::Groupe"), QAccessible::Grouping}, // called by the note of its section
     {QLatin1String("Formulaire::Section"), QAccessible::Grouping},
     {QLatin1String("PageAuClavier"), QAccessible::Document},
+    {QLatin1String("QStackedWidget"), QAccessible::Pane}, // unnamed, it is not spoken of
     {QLatin1String("SelecteurQuantite"), QAccessible::Grouping},
 }};
 
@@ -38,12 +42,63 @@ QAccessibleInterface *interfaceDe(const QString &classe, QObject *objet)
     for (const auto &[nom, role] : roles)
         if (classe == nom && objet->isWidgetType())
             return new Ensemble(static_cast<QWidget *>(objet), role); // Qt owns it
+    if (classe == QLatin1String("Libelle") && objet->objectName() == LecteurDEcran::detail)
+        return new Ensemble(static_cast<QWidget *>(objet), QAccessible::Paragraph);
     return nullptr;
 }
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
+// Before announcements were known, readers spoke of nothing but notifications that appear.
+class Annonce : public QAccessibleObject
+{
+public:
+    Annonce(QObject *objet, QWidget *origine) : QAccessibleObject(objet), origine_(origine) {}
+
+    [[nodiscard]] QAccessibleInterface *parent() const override
+    {
+        return QAccessible::queryAccessibleInterface(origine_->window());
+    }
+    [[nodiscard]] QAccessibleInterface *child(int) const override { return nullptr; }
+    [[nodiscard]] int childCount() const override { return 0; }
+    [[nodiscard]] int indexOfChild(const QAccessibleInterface *) const override { return -1; }
+    [[nodiscard]] QString text(QAccessible::Text texte) const override
+    {
+        return texte == QAccessible::Name ? object()->objectName() : QString();
+    }
+    [[nodiscard]] QAccessible::Role role() const override { return QAccessible::Notification; }
+    [[nodiscard]] QAccessible::State state() const override { return {}; }
+
+private:
+    QWidget *origine_; // owns the object
+};
+#endif
 
 } // namespace
 
 void LecteurDEcran::preparer()
 {
     QAccessible::installFactory(interfaceDe);
+}
+
+void LecteurDEcran::annoncer(QWidget *origine, const QString &texte)
+{
+    if (!QAccessible::isActive())
+        return;
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
+    auto *objet = new QObject(origine);
+    objet->setObjectName(texte);
+    auto *annonce = new Annonce(objet, origine);
+    QAccessible::registerAccessibleInterface(annonce); // goes with its object
+    QAccessibleEvent parait(annonce, QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&parait);
+    QTimer::singleShot(1min, objet, &QObject::deleteLater); // the reader asks what it is after it was told
+#else
+    QAccessibleAnnouncementEvent annonce(origine, texte);
+    QAccessible::updateAccessibility(&annonce);
+#endif
+}
+
+QString LecteurDEcran::montant(const QString &ecrit)
+{
+    return ecrit == QStringLiteral("—") ? QStringLiteral("aucun montant") : ecrit;
 }

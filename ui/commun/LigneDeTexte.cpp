@@ -26,6 +26,20 @@ public:
 LigneDeTexte::LigneDeTexte(QWidget *parent) : QLineEdit(parent)
 {
     setValidator(new SurUneLigne(this));
+    connect(this, &QLineEdit::textChanged, this, &LigneDeTexte::inviter);
+}
+
+void LigneDeTexte::setInvite(const QString &invite)
+{
+    invite_ = invite;
+    inviter();
+}
+
+// Behind a text it would not be seen, but it would be spoken.
+void LigneDeTexte::inviter()
+{
+    if (!invite_.isEmpty())
+        setPlaceholderText(text().isEmpty() ? invite_ : QString());
 }
 
 bool LigneDeTexte::event(QEvent *evenement)

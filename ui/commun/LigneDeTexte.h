@@ -11,9 +11,16 @@ class LigneDeTexte : public QLineEdit
 public:
     explicit LigneDeTexte(QWidget *parent = nullptr);
 
+    // An example of what to type, as long as nothing is.
+    void setInvite(const QString &invite);
     // Whether a field that loses the focus to a menu or another window will have it again: nothing is over.
     static bool reviendra(const QFocusEvent &perte);
 
 protected:
     bool event(QEvent *evenement) override;
+
+private:
+    void inviter();
+
+    QString invite_;
 };

@@ -1,6 +1,7 @@
 #include "ui/commun/NombreRoulant.h"
 
 #include "ui/commun/Chiffres.h"
+#include "ui/commun/LecteurDEcran.h"
 #include "ui/commun/Ressort.h"
 
 #include <QPainter>
@@ -20,6 +21,7 @@ void NombreRoulant::afficher(const QString &texte, int sens)
     precedent_ = text();
     sens_ = sens;
     setText(texte);
+    setAccessibleName(LecteurDEcran::montant(texte));
     progres_->placer(precedent_.isEmpty() ? 1 : 0);
     progres_->vers(1);
 }

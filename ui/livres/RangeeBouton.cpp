@@ -4,6 +4,7 @@
 #include "ui/commun/BoutonCopier.h"
 #include "ui/commun/Boutons.h"
 #include "ui/commun/Chiffres.h"
+#include "ui/commun/LecteurDEcran.h"
 #include "ui/commun/LibelleChiffre.h"
 #include "ui/livres/LigneEtat.h"
 
@@ -145,12 +146,12 @@ void RangeeBouton::montrer(const TextesBoutons::Ligne &ligne)
     reporter_->parentWidget()->setVisible(ligne.peutReporter);
 
     // A screen reader hears the whole row with the figure to copy.
-    QStringList mots{ligne.destination, ligne.etatEnMots, QStringLiteral("Actuel : %1").arg(ligne.actuel), ligne.ecart,
-                     ligne.palier};
+    const QString actuel = QStringLiteral("Actuel : %1").arg(LecteurDEcran::montant(ligne.actuel));
+    QStringList mots{ligne.destination, ligne.etatEnMots, actuel, ligne.ecart, ligne.palier};
     mots.removeAll(QString());
     const QString enMots = mots.join(QStringLiteral(", "));
-    actuel_->setAccessibleName(QStringLiteral("Actuel : %1").arg(ligne.actuel));
-    calcule_->setAccessibleName(QStringLiteral("Calculé : %1").arg(ligne.calcule));
+    actuel_->setAccessibleName(actuel);
+    calcule_->setAccessibleName(QStringLiteral("Calculé : %1").arg(LecteurDEcran::montant(ligne.calcule)));
     copier_->setAccessibleName(ligne.aCopier.isEmpty() ? QStringLiteral("Rien à copier, %1").arg(enMots)
                                                        : QStringLiteral("Copier %1, %2").arg(ligne.aCopier, enMots));
     etat_->setAccessibleName(enMots);

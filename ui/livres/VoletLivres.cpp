@@ -82,7 +82,7 @@ VoletLivres::VoletLivres(const Catalogue &catalogue, ImagesCouvertures &images, 
 
 QWidget *VoletLivres::filtres()
 {
-    recherche_->setPlaceholderText(QStringLiteral("Titre, auteur, ISBN"));
+    recherche_->setInvite(QStringLiteral("Titre, auteur, ISBN"));
     recherche_->setAccessibleName(QStringLiteral("Chercher un livre"));
     recherche_->setClearButtonEnabled(true);
     auto *loupe = recherche_->addAction(Icone::icone(QStringLiteral("magnifyingglass")), QLineEdit::LeadingPosition);

@@ -9,7 +9,7 @@ class Catalogue;
 class EtatVide;
 class ImagesCouvertures;
 class ModeleLivres;
-class QLineEdit;
+class LigneDeTexte;
 class QListView;
 class QStackedWidget;
 
@@ -47,7 +47,7 @@ private:
     const Catalogue &catalogue_;
     FiltreLivres filtre_;
     ModeleLivres *modele_;
-    QLineEdit *recherche_;
+    LigneDeTexte *recherche_;
     QListView *liste_;
     EtatVide *vide_;
     QStackedWidget *place_;

@@ -33,7 +33,7 @@ QLineEdit *champ(const QString &nom, const QString &exemple)
 {
     auto *champ = new LigneDeTexte;
     champ->setAccessibleName(nom);
-    champ->setPlaceholderText(exemple);
+    champ->setInvite(exemple);
     return champ;
 }
 

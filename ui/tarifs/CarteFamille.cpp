@@ -2,6 +2,7 @@
 
 #include "ui/Theme.h"
 #include "ui/commun/Dessin.h"
+#include "ui/commun/LecteurDEcran.h"
 #include "ui/commun/Libelle.h"
 #include "ui/commun/LibelleChiffre.h"
 #include "ui/tarifs/RangeeDeTableau.h"
@@ -24,9 +25,9 @@ public:
     {
         setContentsMargins(0, 0, retrait, 0);
         setFont(Theme::enGras(font(), enCours_ ? QFont::DemiBold : QFont::Medium));
-        setAccessibleName(
-            enCours_ ? QStringLiteral("%1, %2 : %3, palier de la commande en cours").arg(zone, poids, prix.texte)
-                     : QStringLiteral("%1, %2 : %3").arg(zone, poids, prix.texte));
+        const QString dit = LecteurDEcran::montant(prix.texte);
+        setAccessibleName(enCours_ ? QStringLiteral("%1, %2 : %3, palier de la commande en cours").arg(zone, poids, dit)
+                                   : QStringLiteral("%1, %2 : %3").arg(zone, poids, dit));
         if (enCours_)
             setToolTip(QStringLiteral("Palier de la commande en cours"));
     }
