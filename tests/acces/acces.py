@@ -6,12 +6,14 @@ import sys
 import tempfile
 from contextlib import contextmanager
 
+import a_l_oreille
 import audit
 import au_clavier
 import par_l_arbre
 from arbre import Echec, GLib, application
 
-PARTIES = {"arbre": par_l_arbre, "clavier": au_clavier, "audit": audit}
+PARTIES = {"arbre": par_l_arbre, "clavier": au_clavier, "audit": audit, "oreille": a_l_oreille}
+SANS_ORCA = ["arbre", "clavier", "audit"]
 
 
 class Abandon(Exception):
@@ -62,7 +64,7 @@ def jouer(partie, binaire, compte):
 
 def main(binaire, *choisies):
     compte = Compte()
-    for partie in choisies or PARTIES:
+    for partie in choisies or SANS_ORCA:
         jouer(partie, binaire, compte)
     print(f"{compte.reussites} étapes réussies, {compte.echecs} en échec")
     return 1 if compte.echecs else 0
