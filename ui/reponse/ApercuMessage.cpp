@@ -30,6 +30,7 @@ void ApercuMessage::ecrire()
     const int defilement = verticalScrollBar()->value();
     clear();
     QTextCursor plume(document());
+    plume.beginEditBlock(); // one change to tell a screen reader of, not forty at each key
     const auto ligne = [&plume](const QString &texte, const QTextCharFormat &caractere, qreal dessous = 0) {
         QTextBlockFormat paragraphe;
         paragraphe.setBottomMargin(dessous);
@@ -53,6 +54,7 @@ void ApercuMessage::ecrire()
         plume.insertBlock();
         ligne(texte, texte == total ? gras : simple);
     }
+    plume.endEditBlock();
     verticalScrollBar()->setValue(defilement);
 }
 
