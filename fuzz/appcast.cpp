@@ -38,6 +38,16 @@ void verifier(const QList<Appcast::Parution> &parutions)
     }
 }
 
+// What a system hears of that the feed does not know.
+qsizetype nombrePourTous(const QString &flux)
+{
+    try {
+        return Appcast::lire(flux, {}).size();
+    } catch (const ErreurMiseAJour &) {
+        return 0; // of those for all, no number is understood
+    }
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *octets, std::size_t taille)
@@ -45,7 +55,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *octets, std::size_t ta
     const auto flux = QString::fromUtf8(contenu(octets, taille));
     exiger(Appcast::notes(flux).size() <= 10'001, "notes bornees");
     try {
-        verifier(Appcast::lire(flux));
+        const auto parutions = Appcast::lire(flux, QStringLiteral("debian13"));
+        verifier(parutions);
+        exiger(parutions.size() >= nombrePourTous(flux), "pour tous, donc pour celui-ci");
     } catch (const ErreurMiseAJour &erreur) {
         exiger(erreur.texte().endsWith(u'.'), "une phrase");
     }

@@ -36,7 +36,7 @@ void lire(const QString &page)
     // Without a grid to find, the reading goes on to its end.
     reussit([&] { ReleveColissimo::analyser(page, {}, jour); });
     reussit([&] { RelevePaypal::analyser(page, jour); });
-    reussit([&] { Appcast::lire(page); });
+    reussit([&] { Appcast::lire(page, {}); });
     Appcast::notes(page);
 }
 

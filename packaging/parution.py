@@ -6,6 +6,7 @@ import xml.etree.ElementTree as ET
 from datetime import datetime, timezone
 from email.utils import format_datetime
 from textwrap import fill
+from typing import NamedTuple
 
 SPARKLE = "http://www.andymatuschak.org/xml-namespaces/sparkle"
 LANGUE = "{http://www.w3.org/XML/1998/namespace}lang"
@@ -15,6 +16,15 @@ ET.register_namespace("sparkle", SPARKLE)
 
 class Refus(Exception):
     """Why a release cannot be made, in French."""
+
+
+class Paquet(NamedTuple):
+    """What the appcast says of one package: the system it is for, as "debian13", the signature in base64."""
+
+    systeme: str
+    url: str
+    longueur: int
+    signature: str
 
 
 def _paragraphes(parution, langue):
@@ -80,7 +90,7 @@ def refuser_si_depassee(appcast, version):
             raise Refus(f"La version {version} ne vient pas après {element.text}, qui est dans {appcast}.")
 
 
-def inscrire(appcast, version, notes_de_version, url, longueur, signature):
+def inscrire(appcast, version, notes_de_version, paquets, jour):
     """Puts a version at the head of the appcast, which is made if there is none; an incomplete file is never seen."""
     refuser_si_depassee(appcast, version)
     if os.path.exists(appcast):
@@ -92,20 +102,22 @@ def inscrire(appcast, version, notes_de_version, url, longueur, signature):
         ET.SubElement(canal, "language").text = "fr"
     entree = ET.Element("item")
     ET.SubElement(entree, "title").text = f"Quillet {version}"
-    ET.SubElement(entree, "pubDate").text = format_datetime(datetime.now(timezone.utc))
+    ET.SubElement(entree, "pubDate").text = format_datetime(jour)
     ET.SubElement(entree, f"{{{SPARKLE}}}version").text = version
     ET.SubElement(entree, f"{{{SPARKLE}}}shortVersionString").text = version
     ET.SubElement(entree, "description").text = notes_de_version
-    ET.SubElement(
-        entree,
-        "enclosure",
-        {
-            "url": url,
-            "length": str(longueur),
-            "type": "application/vnd.debian.binary-package",
-            f"{{{SPARKLE}}}edSignature": signature,
-        },
-    )
+    for paquet in paquets:
+        ET.SubElement(
+            entree,
+            "enclosure",
+            {
+                "url": paquet.url,
+                "length": str(paquet.longueur),
+                "type": "application/vnd.debian.binary-package",
+                f"{{{SPARKLE}}}os": paquet.systeme,
+                f"{{{SPARKLE}}}edSignature": paquet.signature,
+            },
+        )
     rang = next((i for i, element in enumerate(canal) if element.tag == "item"), len(canal))
     canal.insert(rang, entree)
     racine = ET.Element("rss", {"version": "2.0"})

@@ -23,6 +23,7 @@ SourceMisesAJour sourceDesMisesAJour()
     return {.flux = installe ? QUrl(QStringLiteral(QUILLET_FLUX)) : QUrl(),
             .clePublique = QByteArrayLiteral(QUILLET_CLE_PUBLIQUE),
             .installee = QCoreApplication::applicationVersion(),
+            .systeme = QSysInfo::productType() + QSysInfo::productVersion(),
             .cache = QDir(QStandardPaths::writableLocation(QStandardPaths::CacheLocation)),
             .installer = [](const QString &chemin) { return QDesktopServices::openUrl(QUrl::fromLocalFile(chemin)); }};
 }

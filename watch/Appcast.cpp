@@ -50,11 +50,15 @@ QString debut(const QString &texte, qsizetype auPlus)
     return texte.left(coupe ? auPlus - 1 : auPlus);
 }
 
-// A feed may serve several systems.
-bool pourIci(const QXmlStreamAttributes &paquet)
+// A feed may serve several systems: whom a package is for, from the least to the most fitting.
+enum class Pour { unAutre, tous, celuiCi };
+
+Pour destinataire(const QXmlStreamAttributes &paquet, const QString &systeme)
 {
-    const QStringView systeme = paquet.value(sparkle(), QStringLiteral("os"));
-    return systeme.isEmpty() || systeme == u"linux";
+    const QStringView nomme = paquet.value(sparkle(), QStringLiteral("os"));
+    if (nomme.isEmpty() || nomme == u"linux")
+        return Pour::tous;
+    return nomme == systeme ? Pour::celuiCi : Pour::unAutre;
 }
 
 struct Element
@@ -64,8 +68,20 @@ struct Element
     QString description;
     QString canal;
     QXmlStreamAttributes paquet;
-    bool autreSysteme = false; // has a package that is not for this one
+    Pour destinataire = Pour::tous; // of the package
+    bool autreSysteme = false;      // has a package that is not for this one
 };
+
+void retenir(const QXmlStreamAttributes &paquet, const QString &systeme, Element &lu)
+{
+    const Pour pour = destinataire(paquet, systeme);
+    if (pour == Pour::unAutre) {
+        lu.autreSysteme = true;
+    } else if (pour >= lu.destinataire) {
+        lu.paquet = paquet;
+        lu.destinataire = pour;
+    }
+}
 
 // Not of another system alone, nor of a channel, which nobody here has joined.
 bool pourNous(const Element &lu)
@@ -73,7 +89,7 @@ bool pourNous(const Element &lu)
     return lu.canal.isEmpty() && (!lu.autreSysteme || !lu.paquet.isEmpty());
 }
 
-Element element(QXmlStreamReader &xml)
+Element element(QXmlStreamReader &xml, const QString &systeme)
 {
     Element lu;
     while (xml.readNextStartElement()) {
@@ -88,10 +104,8 @@ Element element(QXmlStreamReader &xml)
         } else if (duFlux && xml.name() == u"description") {
             lu.description = xml.readElementText(QXmlStreamReader::IncludeChildElements);
         } else {
-            if (duFlux && xml.name() == u"enclosure" && pourIci(xml.attributes()))
-                lu.paquet = xml.attributes();
-            else if (duFlux && xml.name() == u"enclosure")
-                lu.autreSysteme = true;
+            if (duFlux && xml.name() == u"enclosure")
+                retenir(xml.attributes(), systeme, lu);
             xml.skipCurrentElement();
         }
     }
@@ -124,7 +138,7 @@ void entrer(QXmlStreamReader &xml)
 
 } // namespace
 
-QList<Parution> Appcast::lire(const QString &flux)
+QList<Parution> Appcast::lire(const QString &flux, const QString &systeme)
 {
     if (tropDAttributs(flux))
         throw ErreurMiseAJour::listeIllisible(QStringLiteral("une balise a trop d’attributs"));
@@ -141,7 +155,7 @@ QList<Parution> Appcast::lire(const QString &flux)
         }
         while (xml.readNextStartElement()) {
             if (xml.name() == u"item")
-                lus.append(element(xml));
+                lus.append(element(xml, systeme));
             else
                 xml.skipCurrentElement();
         }

@@ -24,9 +24,10 @@ struct Parution
     std::optional<SignatureEd25519::Signature> signature;
 };
 
-// Every version for this system whose number is understood, in the feed's order; those of a channel are for whoever
-// joined it. Throws ErreurMiseAJour, also when there are some and no number is understood.
-QList<Parution> lire(const QString &flux);
+// Every version for this system ("debian13") whose number is understood, in the feed's order; those of a channel are
+// for whoever joined it. Of its packages, the one that names this system, else one that is for all. Throws
+// ErreurMiseAJour, also when there are some and no number is understood.
+QList<Parution> lire(const QString &flux, const QString &systeme);
 // The latest, none when it is not after the installed one. Throws ErreurMiseAJour when its package must not be
 // fetched: not at an https address, not signed, or of no sensible length.
 std::optional<Parution> aProposer(const QList<Parution> &parutions, const NumeroDeVersion &installee);

@@ -43,7 +43,7 @@ void MisesAJour::lire(const QString &flux)
 {
     std::optional<Appcast::Parution> parution;
     try {
-        parution = Appcast::aProposer(Appcast::lire(flux), *numero_);
+        parution = Appcast::aProposer(Appcast::lire(flux, source_.systeme), *numero_);
     } catch (const ErreurMiseAJour &erreur) {
         return echouer(erreur.texte());
     }

@@ -17,6 +17,7 @@ struct SourceMisesAJour
     QUrl flux;              // empty: no updates
     QByteArray clePublique; // Ed25519, in base64
     QString installee;      // the version that runs
+    QString systeme;        // what it runs on, as the feed names it: "debian13"
     QDir cache;             // the package goes to a folder of its own in there
     // Hands a verified package to the platform. False when nothing there takes it.
     std::function<bool(const QString &chemin)> installer;

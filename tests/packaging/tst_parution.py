@@ -6,6 +6,7 @@ import sys
 import tempfile
 import unittest
 import xml.etree.ElementTree as ET
+from datetime import datetime, timezone
 from pathlib import Path
 
 PACKAGING = Path(__file__).resolve().parents[2] / "packaging"
@@ -13,6 +14,8 @@ sys.path.insert(0, str(PACKAGING))
 import parution  # noqa: E402
 
 METAINFO = PACKAGING / "org.quillet.quillet.metainfo.xml"
+# What the program's own tests read.
+FLUX = PACKAGING.parent / "tests/watch/pages/appcast.xml"
 HOSTILE = """<component><releases>
   <release version="2.0" date="2026-12-24"><description>
     <p>A &lt;b&gt; &amp; ]]&gt;</p><p xml:lang="fr">Le prix &lt;b&gt; &amp; ]]&gt;
@@ -32,7 +35,11 @@ class Parution(unittest.TestCase):
         Path(self.metainfo).write_text(HOSTILE, encoding="utf-8")
 
     def inscrire(self, version, notes):
-        parution.inscrire(self.appcast, version, notes, "https://telecharger.example/a.deb", 12, "c2lnbmF0dXJl")
+        paquets = [
+            parution.Paquet(systeme, f"https://telecharger.example/{version}~{systeme}.deb", longueur, "A" * 86 + "==")
+            for systeme, longueur in (("debian12", 12), ("debian13", 13))
+        ]
+        parution.inscrire(self.appcast, version, notes, paquets, datetime(2026, 12, 24, tzinfo=timezone.utc))
 
     def test_this_version_has_its_notes_and_heads_the_changelog(self):
         version = os.environ["QUILLET_VERSION"]
@@ -56,9 +63,10 @@ class Parution(unittest.TestCase):
         entrees = ET.parse(self.appcast).findall("channel/item")
         self.assertEqual([entree.findtext(SPARKLE + "version") for entree in entrees], ["2.0", "1.0"])
         self.assertEqual(entrees[0].findtext("description"), "Le prix <b> & ]]> suit\n• Un")
-        enclosure = entrees[0].find("enclosure")
-        self.assertEqual(enclosure.get("length"), "12")
-        self.assertEqual(enclosure.get(SPARKLE + "edSignature"), "c2lnbmF0dXJl")
+
+    def test_appcast_is_the_one_that_the_program_is_tested_with(self):
+        self.inscrire("2.0", "Plus vite & mieux\n• Un")
+        self.assertEqual(Path(self.appcast).read_text(encoding="utf-8"), FLUX.read_text(encoding="utf-8"))
 
     def test_a_version_comes_after_all_others(self):
         self.inscrire("1.9", "Ancienne")

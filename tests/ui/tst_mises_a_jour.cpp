@@ -91,8 +91,12 @@ void TestMisesAJour::init()
     cache_ = std::make_unique<QTemporaryDir>();
     installes_.clear();
     banc_ = std::make_unique<BancEcran>();
-    banc_->misesAJour = {serveur_->adresse(cheminDuFlux), base64(cle_.data(), qsizetype(cle_.size())),
-                         QStringLiteral("1.1"), QDir(cache_->path()), [this](const QString &chemin) {
+    banc_->misesAJour = {serveur_->adresse(cheminDuFlux),
+                         base64(cle_.data(), qsizetype(cle_.size())),
+                         QStringLiteral("1.1"),
+                         QStringLiteral("debian13"),
+                         QDir(cache_->path()),
+                         [this](const QString &chemin) {
                              installes_.append(chemin);
                              return installes_.size() < 3;
                          }};
@@ -103,7 +107,8 @@ void TestMisesAJour::annoncer(const QString &version, qsizetype longueur)
     const QString flux =
         QStringLiteral("<rss xmlns:sparkle='http://www.andymatuschak.org/xml-namespaces/sparkle'><channel><item>"
                        "<sparkle:version>%1</sparkle:version><description>Plus &lt;b&gt;vite&lt;/b&gt;</description>"
-                       "<enclosure url='%2' length='%3' sparkle:edSignature='%4'/></item></channel></rss>")
+                       "<enclosure sparkle:os='debian13' url='%2' length='%3' sparkle:edSignature='%4'/>"
+                       "<enclosure url='https://a.invalid/'/></item></channel></rss>")
             .arg(version, serveur_->adresse(cheminDuPaquet).toString(),
                  QString::number(longueur ? longueur : paquet_.size()), QString::fromLatin1(signature_));
     serveur_->servir(cheminDuFlux, http("200 OK", flux.toUtf8()));

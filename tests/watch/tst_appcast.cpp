@@ -16,6 +16,8 @@ private slots:
     void numerosIllisibles();
     void flux_data();
     void flux();
+    void fluxDUneParution_data();
+    void fluxDUneParution();
     void notes();
     void signatures();
 };
@@ -39,10 +41,11 @@ QString version(const char *numero, const QString &reste = paquet)
 }
 
 // What the user would read.
-QString offre(const QString &flux)
+QString offre(const QString &flux, const QString &systeme = QStringLiteral("debian13"))
 {
     try {
-        const auto parution = Appcast::aProposer(Appcast::lire(flux), *NumeroDeVersion::lire(QStringLiteral("1.1")));
+        const auto parution =
+            Appcast::aProposer(Appcast::lire(flux, systeme), *NumeroDeVersion::lire(QStringLiteral("1.1")));
         return parution ? QStringLiteral("%1 %2 %3 %4")
                               .arg(parution->nom, parution->paquet.toString(), QString::number(parution->longueur),
                                    parution->notes)
@@ -110,6 +113,19 @@ void TestAppcast::flux_data()
     const QString ailleurs = QStringLiteral("<enclosure sparkle:os='macos' url='https://a.invalid/q.dmg'/>");
     cas("aussi pour un autre système", rss(version("1.2", paquet + ailleurs)), offerte);
     cas("d’abord pour un autre système seul", rss(version("1.3", ailleurs) + version("1.2")), offerte);
+    const QString pour12 =
+        QString(paquet).replace(QLatin1String("q.deb"), QLatin1String("12.deb' sparkle:os='debian12"));
+    const QString pour13 =
+        QString(paquet).replace(QLatin1String("q.deb"), QLatin1String("13.deb' sparkle:os='debian13"));
+    const char *precise = "1.2 https://a.invalid/13.deb 15 ";
+    cas("un paquet par système", rss(version("1.2", pour12 + pour13)), precise);
+    cas("un paquet par système, l’autre après", rss(version("1.2", pour13 + pour12)), precise);
+    cas("pour celui-ci plutôt que pour tous", rss(version("1.2", paquet + pour13)), precise);
+    cas("pour celui-ci plutôt que pour tous, après", rss(version("1.2", pour13 + paquet)), precise);
+    cas("pour tout Linux", avec("/>", " sparkle:os='linux'/>"), offerte);
+    cas("pour tous, faute de mieux", rss(version("1.2", paquet + pour12)), offerte);
+    cas("plus récente pour un autre Debian seul", rss(version("1.3", pour12) + version("1.2", pour13)), precise);
+    cas("pour d’autres seuls", rss(version("1.2", pour12 + ailleurs)), "à jour");
     cas("d’abord pour un canal d’essai",
         rss(version("1.3", paquet + QStringLiteral("<sparkle:channel>essai</sparkle:channel>")) + version("1.2")),
         offerte);
@@ -140,6 +156,23 @@ void TestAppcast::flux()
     QFETCH(QString, flux);
     QFETCH(QString, attendu);
     QCOMPARE(offre(flux), attendu);
+}
+
+void TestAppcast::fluxDUneParution_data()
+{
+    QTest::addColumn<QString>("offerte");
+    QTest::newRow("debian12") << "2.0 https://telecharger.example/2.0~debian12.deb 12 Plus vite & mieux\n• Un";
+    QTest::newRow("debian13") << "2.0 https://telecharger.example/2.0~debian13.deb 13 Plus vite & mieux\n• Un";
+    QTest::newRow("debian14") << "à jour";
+}
+
+// As `packaging/release` writes it, which its own test makes sure of.
+void TestAppcast::fluxDUneParution()
+{
+    QFETCH(QString, offerte);
+    QFile fichier(QFINDTESTDATA("pages/appcast.xml"));
+    QVERIFY(fichier.open(QIODevice::ReadOnly));
+    QCOMPARE(offre(QString::fromUtf8(fichier.readAll()), QString::fromLatin1(QTest::currentDataTag())), offerte);
 }
 
 void TestAppcast::notes()
