@@ -46,7 +46,7 @@ def notes(metainfo, version, langue="fr"):
     raise Refus(f"La version {version} n’a pas de notes ({langue}) dans {metainfo}.")
 
 
-def journal(metainfo, contact):
+def journal(metainfo, contact, revision):
     """Debian's changelog, the newest version first as in the metainfo."""
     entrees = []
     for parution in ET.parse(metainfo).iterfind("releases/release"):
@@ -56,7 +56,7 @@ def journal(metainfo, contact):
         ]
         jour = datetime.fromisoformat(parution.get("date")).replace(tzinfo=timezone.utc)
         entrees.append(
-            f"quillet ({parution.get('version')}) unstable; urgency=medium\n\n"
+            f"quillet ({parution.get('version')}-{revision}) unstable; urgency=medium\n\n"
             + "\n".join(points)
             + f"\n\n -- {contact}  {format_datetime(jour)}\n"
         )

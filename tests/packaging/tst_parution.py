@@ -45,7 +45,7 @@ class Parution(unittest.TestCase):
         version = os.environ["QUILLET_VERSION"]
         for langue in ("fr", None):
             self.assertTrue(parution.notes(METAINFO, version, langue))
-        self.assertTrue(parution.journal(METAINFO, "A <a@b.example>").startswith(f"quillet ({version}) "))
+        self.assertTrue(parution.journal(METAINFO, "A <a@b.example>", "1").startswith(f"quillet ({version}-1) "))
 
     def test_notes_are_of_one_version_and_one_language(self):
         self.assertEqual(parution.notes(self.metainfo, "2.0"), "Le prix <b> & ]]> suit\n• Un")
@@ -55,7 +55,7 @@ class Parution(unittest.TestCase):
 
     def test_changelog_has_the_day_and_the_form_debian_wants(self):
         attendu = "  * Old\n\n -- A <a@b.example>  Fri, 02 Jan 2026 00:00:00 +0000\n"
-        self.assertTrue(parution.journal(self.metainfo, "A <a@b.example>").endswith(attendu))
+        self.assertTrue(parution.journal(self.metainfo, "A <a@b.example>", "1").endswith(attendu))
 
     def test_appcast_puts_the_newest_first_and_gives_its_text_back(self):
         self.inscrire("1.0", "Ancienne")
