@@ -9,11 +9,12 @@ faute() {
 
 # allumer_ecran <folder>: sets DISPLAY, and `pixels` to the file that holds what the screen shows.
 allumer_ecran() {
-    local numero sortie
+    local numero
     mkdir -p "$1"
-    exec {sortie}< <(exec Xvfb -displayfd 1 -screen 0 1440x960x24 -fbdir "$1" -nolisten tcp -ac 2>/dev/null)
+    mkfifo "$1/numero"
+    Xvfb -displayfd 1 -screen 0 1440x960x24 -fbdir "$1" -nolisten tcp -ac >"$1/numero" 2>/dev/null &
     ecran=$!
-    read -r -t 20 -u "$sortie" numero || faute "pas d’écran virtuel"
+    read -r -t 20 numero <"$1/numero" || faute "pas d’écran virtuel"
     export DISPLAY=:$numero
     pixels=$1/Xvfb_screen0
     # Away from the covers, which lift under the pointer.
@@ -23,7 +24,7 @@ allumer_ecran() {
 # It takes its lock away when asked to leave.
 eteindre_ecran() {
     [[ ${ecran:-} ]] || return 0
-    kill "$ecran"
+    kill "$ecran" 2>/dev/null || return 0
     wait "$ecran" || true
 }
 

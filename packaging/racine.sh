@@ -11,11 +11,17 @@ exiger() {
     ((!${#manquants[@]})) || { echo "Paquets à installer : ${manquants[*]}" >&2; exit 1; }
 }
 
-# isoler "$@": starts the calling script again where its mounts and processes are its own, and end with it.
+# isoler "$@": starts the calling script again where its mounts and processes are its own, and end with it, even when it is
+# interrupted. ISOLEMENT is a folder for its roots, taken away then.
 isoler() {
-    [[ ! ${RACINES_ISOLEES:-} ]] || return 0
+    local code=0
+    [[ ! ${ISOLEMENT:-} ]] || return 0
     ((EUID == 0)) || { echo "Relancez en administrateur." >&2; exit 1; }
-    RACINES_ISOLEES=1 exec unshare --mount --pid --fork --kill-child --mount-proc "$0" "$@"
+    ISOLEMENT=$(mktemp -d -p "${TMPDIR:-/var/tmp}")
+    export ISOLEMENT
+    trap 'rm -rf --one-file-system "$ISOLEMENT"' EXIT
+    unshare --mount --pid --fork --kill-child --mount-proc "$0" "$@" || code=$?
+    exit $code
 }
 
 # sources_de <suite>: the machine's Debian sources, without its other archives, as if it ran that release.
