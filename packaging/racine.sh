@@ -47,6 +47,8 @@ racine_nue() {
     rm "$racine.log"
     echo "$sources" >"$racine/etc/apt/sources.list"
     apt-config dump | grep '^Acquire::' >"$racine/etc/apt/apt.conf.d/00machine"
+    # Nobody will miss these files after a power cut.
+    echo force-unsafe-io >"$racine/etc/dpkg/dpkg.cfg.d/sans-attendre"
     printf '%s\n' '127.0.0.1 localhost' '::1 localhost' >"$racine/etc/hosts"
     dans_racine "$racine" apt-get -q update >/dev/null
 }
