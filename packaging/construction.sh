@@ -34,9 +34,3 @@ construire_paquets() {
         lancer cpack --preset paquet' bash "${definitions[@]}" >"$racine/tmp/construction.log" 2>&1 ||
         { tail -n 30 "$racine/tmp/construction.log" >&2; return 1; }
 }
-
-# A place that goes away with the script; what is mounted in it, first.
-lieu_de_travail() {
-    travail=$(mktemp -d)
-    trap 'demonter_racine "$travail" || true; rm -rf --one-file-system "$travail"' EXIT
-}
