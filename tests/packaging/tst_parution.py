@@ -2,6 +2,7 @@
 
 import os
 import re
+import struct
 import sys
 import tempfile
 import unittest
@@ -46,6 +47,13 @@ class Parution(unittest.TestCase):
         for langue in ("fr", None):
             self.assertTrue(parution.notes(METAINFO, version, langue))
         self.assertTrue(parution.journal(METAINFO, "A <a@b.example>", "1").startswith(f"quillet ({version}-1) "))
+
+    def test_the_shops_pictures_are_there_and_of_the_size_that_is_said(self):
+        images = ET.parse(METAINFO).findall("screenshots/screenshot/image")
+        self.assertTrue(images)
+        for image in images:
+            octets = (PACKAGING.parent / "docs/images" / image.text.rsplit("/", 1)[1]).read_bytes()
+            self.assertEqual(struct.unpack(">II", octets[16:24]), (int(image.get("width")), int(image.get("height"))))
 
     def test_notes_are_of_one_version_and_one_language(self):
         self.assertEqual(parution.notes(self.metainfo, "2.0"), "Le prix <b> & ]]> suit\n• Un")
