@@ -12,7 +12,7 @@ allumer_ecran() {
     local numero
     mkdir -p "$1"
     mkfifo "$1/numero"
-    Xvfb -displayfd 1 -screen 0 1440x960x24 -fbdir "$1" -nolisten tcp -ac >"$1/numero" 2>/dev/null &
+    Xvfb -displayfd 1 -screen 0 1440x960x24 -fbdir "$1" -nolisten tcp -noreset -ac >"$1/numero" 2>/dev/null &
     ecran=$!
     read -r -t 20 numero <"$1/numero" || faute "pas d’écran virtuel"
     export DISPLAY=:$numero
