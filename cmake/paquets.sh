@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Sourced by `run`, `test` and `fuzz/lancer`, from the root of the sources: what they need from Debian, and how they build.
+# Sourced by `run`, `test`, `fuzz/lancer` and what packages, from the root of the sources: what they need from Debian, and how they build.
 
 paquets=(
     g++ cmake ninja-build ccache

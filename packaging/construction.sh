@@ -1,8 +1,8 @@
 # shellcheck shell=bash
 # Sourced after racine.sh, from the root of the sources: builds the packages of the present commit in a bare Debian.
 
-# The branch may move meanwhile.
-commit=$(git rev-parse HEAD)
+# The branch may move meanwhile, also from one suite to the next.
+commit=${COMMIT:-$(git rev-parse HEAD)}
 
 # atelier <suite> <folder>: a bare Debian with what the packages are built, and described, with.
 atelier() {

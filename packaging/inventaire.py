@@ -60,7 +60,10 @@ def bibliotheques(fichier):
     provenances = {}
     for nom in noms:
         lieux = filter(None, map(dossier.fullmatch, lire("dpkg-query", "-S", f"*/{nom}").splitlines()))
-        provenances[nom] = next(lieux)[1]
+        lieu = next(lieux, None)
+        if not lieu:
+            raise Refus(f"{nom} ne vient d’aucun paquet.")
+        provenances[nom] = lieu[1]
     return provenances
 
 
@@ -210,3 +213,7 @@ if __name__ == "__main__":
         ecrire(*map(Path, sys.argv[1:]))
     except Refus as refus:
         sys.exit(str(refus))
+    except subprocess.CalledProcessError as echec:
+        sys.exit(f"{echec.cmd[0]} a échoué.")
+    except OSError as erreur:
+        sys.exit(str(erreur))

@@ -63,7 +63,7 @@ racine() {
     # A name that only a finished one bears.
     if [[ ! -d $gardee ]]; then
         rm -rf --one-file-system "$gardee.en-cours"
-        racine_nue "$suite" "$gardee.en-cours" || return
+        racine_nue "$suite" "$gardee.en-cours"
         mv "$gardee.en-cours" "$gardee"
     fi
     cp -a "$gardee" "$racine"

@@ -69,10 +69,16 @@ void Fenetre::ramener(const QByteArray &jeton)
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
-    qputenv(pourQt, jeton);
-    QWidget *devant = QApplication::activeModalWidget(); // a sheet keeps its place over the window
-    (devant ? devant : this)->activateWindow();
-    qunsetenv(pourQt); // it serves once, and is not for the programs started from here
+    QWidget *devant = QApplication::activeModalWidget();           // a sheet keeps its place over the window
+    if (!devant || devant->testAttribute(Qt::WA_DontShowOnScreen)) // the platform's own dialog stands for it
+        devant = this;
+    // Qt 6.4 has no other way, and other threads read the environment: only where it serves.
+    const bool aRemettre = !jeton.isEmpty() && QGuiApplication::platformName().startsWith(u"wayland");
+    if (aRemettre)
+        qputenv(pourQt, jeton);
+    devant->activateWindow();
+    if (aRemettre)
+        qunsetenv(pourQt); // it serves once, and is not for the programs started from here
 }
 
 void Fenetre::creerMenu(MisesAJour &misesAJour)

@@ -77,9 +77,8 @@ QStringList manquesDuPoste(const QString &dossier)
 
 Reponse controle(const QString &dossier)
 {
-    auto controle = ControleDonnees::de(QDir(dossier), QDate::currentDate());
-    controle.erreurs += manquesDuPoste(dossier);
-    const QStringList lignes = controle.erreurs + QStringList{controle.bilan()};
+    const auto controle = ControleDonnees::de(QDir(dossier), QDate::currentDate());
+    const QStringList lignes = controle.erreurs + QStringList{controle.bilan()} + manquesDuPoste(dossier);
     return {controle.erreurs.isEmpty() ? 0 : 1, lignes.join(u'\n') + u'\n'};
 }
 

@@ -65,6 +65,8 @@ void PressePapiers::leguer()
     QEventLoop boucle;
     QTimer::singleShot(pourLire, &boucle, &QEventLoop::quit);
     boucle.exec();
+    if (!QGuiApplication::clipboard()->ownsClipboard())
+        return; // somebody copied meanwhile
 
     const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     if (!x11)

@@ -30,7 +30,10 @@ void QuilletApp::preparer(std::optional<Theme::Mode> mode)
 
 void QuilletApp::suivre(Bureau &bureau)
 {
-    const auto obeir = [&bureau] { qobject_cast<Style *>(QApplication::style())->suivre(bureau.souhaits()); };
+    const auto obeir = [&bureau] {
+        if (auto *style = qobject_cast<Style *>(QApplication::style())) // not under a style sheet of the user's
+            style->suivre(bureau.souhaits());
+    };
     QObject::connect(&bureau, &Bureau::change, qApp, obeir);
     bureau.relever();
 }

@@ -3,7 +3,7 @@
 import os
 
 import clavier
-from arbre import Echec, attendre, cherche, exiger, fenetre, lisible, nom
+from arbre import Echec, attendre, cherche, exiger, fenetre, lisible, nom, role_de
 from clavier import decrit, foyer
 from commande import ACHETEUR, ADRESSE, LIEN, PESEE
 from oreille import Oreille, fautes, fautes_de_la_voix
@@ -54,7 +54,7 @@ class Vendeur:
         """By Tab to a control, each step on the way being one that is said."""
         for _ in range(clavier.TOURS):
             ici = foyer(self.racine)
-            if ici and ici.get_role_name() == role and (nom(ici) + ",").startswith(voulu + ","):
+            if ici and role_de(ici) == role and (nom(ici) + ",").startswith(voulu + ","):
                 return ici
             self.pas(pas)
         raise Echec(f"{role} « {voulu} » n’est pas atteint par {pas}")

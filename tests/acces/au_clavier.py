@@ -3,7 +3,7 @@
 from pathlib import Path
 
 from arbre import (ANNONCES, Echec, Ecoute, annonce, attendre, cherche, comparer, exiger, fenetre, lisible, montre,
-                   nom, rangee, texte, trouver)
+                   nom, rangee, role_de, texte, trouver)
 from clavier import aller, decrit, foyer, taper, touche, tour
 from commande import ACHETEUR, ADRESSE, DOUANE, LIEN, MONTANTS, NUMERO, PESEE
 
@@ -35,7 +35,7 @@ def parcourir_au_tab(racine, ou, compte):
 def attendre_le_foyer(racine, role, voulu):
     def atteint():
         ici = foyer(racine)
-        return ici is not None and ici.get_role_name() == role and nom(ici).startswith(voulu)
+        return ici is not None and role_de(ici) == role and nom(ici).startswith(voulu)
 
     try:
         attendre(atteint, "")

@@ -3,7 +3,7 @@
 import subprocess
 import time
 
-from arbre import Atspi, Echec, a_l_etat, ancetres, attendre, cadre, enfants, nom, parcourir
+from arbre import Atspi, Echec, a_l_etat, ancetres, attendre, cadre, enfants, nom, parcourir, role_de
 
 LISTES = {"list", "table", "tree"}
 IGNORES = {"list item", "table cell", "frame", "dialog"}  # rows stay the present one of a list without the focus
@@ -83,7 +83,7 @@ def aller(racine, role, voulu, pas="Tab"):
     for _ in range(TOURS):
         atteint = foyer(racine)
         passes.append(decrit(atteint))
-        if atteint and atteint.get_role_name() == role and (nom(atteint) + ",").startswith(voulu + ","):
+        if atteint and role_de(atteint) == role and (nom(atteint) + ",").startswith(voulu + ","):
             return surveiller(atteint)
         touche(pas)
     raise Echec(f"{role} « {voulu} » n’est pas atteint par {pas} ; atteints : {', '.join(dict.fromkeys(passes))}")

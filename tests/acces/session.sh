@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Sourced: a desktop of its own, where a program is seen from outside. Nothing of the user's is read or written.
 
 # exiger outil:paquet…: says which packages to install, if any.

@@ -33,7 +33,7 @@ Facture uneFacture()
     return {.numero = QStringLiteral("2026-004"),
             .date = jourDuBanc,
             .vendeur = *banc.reglages.identite(Vendeur::davrel),
-            .acheteur = QStringLiteral("Zoë d’Œuvre-Été\n3, rue de l’Exemple ιώτα\n00000 Exempleville"),
+            .acheteur = QStringLiteral("Zoë d’Œuvre-Été\n3, rue de l’Exemple ιώτα\n😀\n00000 Exempleville"),
             .lignes = {{1, QStringLiteral("L’efflorescence à 25 °C – essai"), QStringLiteral("979-99-0417-001-8"), 2,
                         Centimes{123456}}},
             .libelleEnvoi = QStringLiteral("Envoi Colissimo · Colissimo shipping – Switzerland"),

@@ -54,7 +54,7 @@ void SectionLien::montrer(const Calcul &calcul)
     if (!lien)
         return;
     rangeePays_->setDetail(lien->indicationDuPays);
-    pays_->setPlaceholderText(lien->paysPropose);
+    pays_->setInvite(lien->paysPropose);
     nomDeLObjet_->montrer(lien->nomDeLObjet);
     description_->montrer(lien->description);
     prix_->montrer(lien->prix, lien->prixAffiche);

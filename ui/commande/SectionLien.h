@@ -5,7 +5,7 @@
 
 class ChampACopier;
 class ChoixLangue;
-class QLineEdit;
+class LigneDeTexte;
 
 // What the seller pastes into PayPal to create the payment link, in the buyer's language.
 class SectionLien : public Formulaire::Section
@@ -21,7 +21,7 @@ private:
     const Reglages &reglages_;
     Commande &commande_;
     ChoixLangue *langue_;
-    QLineEdit *pays_;
+    LigneDeTexte *pays_;
     Formulaire::RangeeHaute *rangeePays_;
     ChampACopier *nomDeLObjet_;
     ChampACopier *description_;

@@ -105,7 +105,7 @@ QString Libelle::secable(int largeur) const
         const bool tient = fontMetrics().horizontalAdvance(mot.toString()) <= largeur;
         for (const QChar c : mot) {
             texte += c;
-            if (!tient && !c.isHighSurrogate())
+            if (!tient && !c.isHighSurrogate() && !(c == u'&' && buddy())) // two are one, when one marks a key
                 texte += QChar(0x200B);
         }
     }

@@ -38,8 +38,8 @@ void LigneDeTexte::setInvite(const QString &invite)
 // Behind a text it would not be seen, but it would be spoken.
 void LigneDeTexte::inviter()
 {
-    if (!invite_.isEmpty())
-        setPlaceholderText(text().isEmpty() ? invite_ : QString());
+    if (invite_)
+        setPlaceholderText(text().isEmpty() ? *invite_ : QString());
 }
 
 bool LigneDeTexte::event(QEvent *evenement)

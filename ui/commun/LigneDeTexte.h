@@ -2,6 +2,8 @@
 
 #include <QLineEdit>
 
+#include <optional>
+
 // A line of text that keeps undo and redo to itself only while it has typing of its own, otherwise its screen answers
 // the same keys; and that drops the line breaks that are pasted.
 class LigneDeTexte : public QLineEdit
@@ -22,5 +24,5 @@ protected:
 private:
     void inviter();
 
-    QString invite_;
+    std::optional<QString> invite_; // none: the field has a placeholder of another kind, or none
 };

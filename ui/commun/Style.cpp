@@ -104,11 +104,11 @@ Style::Style(std::optional<Theme::Mode> mode) : QProxyStyle(QStringLiteral("fusi
 
 void Style::polish(QPalette &palette)
 {
-    const Theme::Mode platforme = Theme::mode(palette);
+    const Theme::Mode plateforme = Theme::mode(palette);
     // Colours that are not Qt's own come from a platform theme that follows its desktop by itself, as KDE's does.
     const bool suivie = palette != standardPalette();
-    palette =
-        Theme::palette(mode_.value_or(suivie ? platforme : souhaits_.mode.value_or(platforme)), souhaits_.contrasteVoulu());
+    palette = Theme::palette(mode_.value_or(suivie ? plateforme : souhaits_.mode.value_or(plateforme)),
+                             souhaits_.contrasteVoulu());
 }
 
 void Style::suivre(const Souhaits &souhaits)

@@ -16,9 +16,10 @@ namespace {
 
 using Lettres = QHash<char16_t, char16_t>; // what a glyph stands for, the character that was written
 
-// Each once, in order.
-QString sansDoublons(QString texte)
+// Each once, in order. A PDF's table has no room for what takes two units, and a line ends the layout.
+QString lettresDe(QString texte)
 {
+    texte.removeIf([](QChar c) { return c.isSurrogate() || c == QChar::LineSeparator; });
     std::ranges::sort(texte);
     texte.erase(std::ranges::unique(texte).begin(), texte.cend());
     return texte;
@@ -47,8 +48,10 @@ QList<QRawFont> policesDe(const QString &texte, const QFont &police)
 
 Lettres prisesPourDAutres(const QString &lettres, const QFont &police)
 {
-    const QString toutes = toutesJusqua(lettres.back());
     Lettres autres;
+    if (lettres.isEmpty())
+        return autres;
+    const QString toutes = toutesJusqua(lettres.back());
     for (const QRawFont &brute : policesDe(lettres, police)) {
         QHash<quint32, char16_t> ecrites;
         const QList<quint32> dessins = brute.glyphIndexesForString(lettres);
@@ -90,7 +93,7 @@ QByteArray corrigee(const QByteArray &table, const Lettres &autres)
 
 QByteArray LettresPdf::retablir(const QByteArray &document, const QString &ecrit, const QFont &police)
 {
-    const Lettres autres = prisesPourDAutres(sansDoublons(ecrit), police);
+    const Lettres autres = prisesPourDAutres(lettresDe(ecrit), police);
     try {
         QPDF pdf;
         pdf.processMemoryFile("", document.constData(), static_cast<size_t>(document.size()));
@@ -110,8 +113,7 @@ QByteArray LettresPdf::retablir(const QByteArray &document, const QString &ecrit
         ecriture.write();
         const auto octets = ecriture.getBufferSharedPointer();
         return {reinterpret_cast<const char *>(octets->getBuffer()), static_cast<qsizetype>(octets->getSize())};
-    } catch (const std::exception &erreur) {
-        throw Echec(
-            QStringLiteral("La facture n’a pas pu être mise en page.\n%1").arg(QString::fromLocal8Bit(erreur.what())));
+    } catch (const std::exception &) {
+        throw Echec(QStringLiteral("La facture n’a pas pu être mise en page."));
     }
 }
