@@ -9,6 +9,7 @@
 #include "ui/commun/Libelle.h"
 #include "ui/commun/Partage.h"
 #include "ui/commun/Place.h"
+#include "ui/commun/TailleDuTexte.h"
 #include "ui/livres/VueLivres.h"
 #include "ui/tarifs/TextesTarifs.h"
 #include "ui/tarifs/VueTarifs.h"
@@ -94,8 +95,10 @@ QSize ContenuPrincipal::minimumSizeHint() const
 QWidget *ContenuPrincipal::barreLaterale()
 {
     auto *barre = new QWidget;
-    barre->setMinimumWidth(std::max(barreMinimum, rubriques_->minimumSizeHint().width()));
-    barre->setMaximumWidth(Theme::aLaTaille(barreMaximum));
+    TailleDuTexte::suivre(barre, [this, barre] {
+        barre->setMinimumWidth(std::max(barreMinimum, rubriques_->minimumSizeHint().width()));
+        barre->setMaximumWidth(std::max(barre->minimumWidth(), Theme::aLaTaille(barreMaximum)));
+    });
     barre->setAutoFillBackground(true);
     barre->setBackgroundRole(QPalette::AlternateBase);
     auto *colonne = new QVBoxLayout(barre);

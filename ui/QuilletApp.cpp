@@ -5,10 +5,12 @@
 #include "ui/bureau/Bureau.h"
 #include "ui/commun/LecteurDEcran.h"
 #include "ui/commun/Style.h"
+#include "ui/commun/TailleDuTexte.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QScreen>
 #include <QTranslator>
 
 void QuilletApp::preparer(std::optional<Theme::Mode> mode)
@@ -25,7 +27,7 @@ void QuilletApp::preparer(std::optional<Theme::Mode> mode)
     QApplication::installTranslator(new ComplementFrancais(qApp));
     QApplication::setStyle(new Style(mode));
     LecteurDEcran::preparer();
-    QApplication::setFont(Theme::policeDeDepart());
+    QApplication::setFont(Theme::police());
 }
 
 void QuilletApp::suivre(Bureau &bureau)
@@ -33,8 +35,13 @@ void QuilletApp::suivre(Bureau &bureau)
     const auto obeir = [&bureau] {
         if (auto *style = qobject_cast<Style *>(QApplication::style())) // not under a style sheet of the user's
             style->suivre(bureau.souhaits());
+        if (const QScreen *ecran = QGuiApplication::primaryScreen()) // the last one may have been unplugged
+            TailleDuTexte::changer(
+                Theme::police(agrandissement(bureau.souhaits().texte, QGuiApplication::platformName(),
+                                             ecran->devicePixelRatio(), ecran->logicalDotsPerInch())));
     };
     QObject::connect(&bureau, &Bureau::change, qApp, obeir);
+    QObject::connect(QGuiApplication::primaryScreen(), &QScreen::logicalDotsPerInchChanged, &bureau, obeir);
     bureau.relever();
 }
 

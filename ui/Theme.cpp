@@ -1,6 +1,7 @@
 #include "ui/Theme.h"
 
 #include <QApplication>
+#include <QFontDatabase>
 
 #include <algorithm>
 
@@ -187,11 +188,11 @@ QStringList Theme::famillesDesTitres()
     return {QStringLiteral("Libertinus Serif"), QStringLiteral("Linux Libertine O")};
 }
 
-QFont Theme::policeDeDepart()
+QFont Theme::police(double agrandissement)
 {
-    QFont police = QApplication::font();
+    QFont police = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
     police.setFamilies(famillesDesTextes() + QStringList{police.family()});
-    police.setPointSizeF(std::max(police.pointSizeF(), tailleMinimale));
+    police.setPointSizeF(std::max(police.pointSizeF() * agrandissement, tailleMinimale));
     return police;
 }
 

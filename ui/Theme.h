@@ -36,8 +36,8 @@ QColor bleuBas();  // to its bottom
 // Wanted for texts and for titles, the best first; the system's own stands in.
 QStringList famillesDesTextes();
 QStringList famillesDesTitres();
-// What the application's font becomes at the start, once: the system's size, at least 10 pt.
-QFont policeDeDepart();
+// What the application's font is: the system's size, enlarged, at least 10 pt.
+QFont police(double agrandissement = 1);
 QFont legende();    // caption, 0.83
 QFont encadre();    // callout, 0.92
 QFont titre3();     // 1.2

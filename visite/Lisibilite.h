@@ -10,6 +10,7 @@ class QWidget;
 namespace Lisibilite {
 
 constexpr double contrasteMinimal = 4.5; // of WCAG's level AA, for text
+constexpr double contrasteRenforce = 7;  // of its level AAA
 
 struct Contraste
 {

@@ -1,6 +1,7 @@
 #include "tests/BancEcran.h"
 #include "ui/ContenuPrincipal.h"
 #include "ui/commun/Style.h"
+#include "ui/commun/TailleDuTexte.h"
 #include "visite/Dialogues.h"
 #include "visite/Ecran.h"
 #include "visite/Lisibilite.h"
@@ -67,14 +68,14 @@ void exagerer(Banc &donnees)
 }
 
 // What cannot be read in it.
-QStringList defauts(const QString &ecran, QWidget *fenetre, bool avecCouleurs)
+QStringList defauts(const QString &ecran, QWidget *fenetre, double contrasteMinimal)
 {
     for (int tour = 0; tour < 5; ++tour)
         QCoreApplication::processEvents(); // a text that wraps may be laid out more than once
     QStringList defauts = Lisibilite::coupes(fenetre);
-    if (avecCouleurs)
+    if (contrasteMinimal > 0)
         for (const auto &contraste : Lisibilite::contrastes(fenetre))
-            if (contraste.rapport < Lisibilite::contrasteMinimal)
+            if (contraste.rapport < contrasteMinimal)
                 defauts.append(QStringLiteral("%1 : « %2 », %3 sur %4, %5")
                                    .arg(contraste.widget, contraste.texte, contraste.encre.name(),
                                         contraste.fond.name(), QString::number(contraste.rapport)));
@@ -88,11 +89,16 @@ void TestLisibilite::toutSeLit_data()
     QTest::addColumn<Theme::Mode>("mode");
     QTest::addColumn<double>("texte");
     QTest::addColumn<bool>("extremes");
-    QTest::newRow("de jour") << Theme::Mode::clair << 1.0 << false;
-    QTest::newRow("de nuit") << Theme::Mode::sombre << 1.0 << false;
-    QTest::newRow("texte à 150 %") << Theme::Mode::clair << 1.5 << false;
-    QTest::newRow("données extrêmes") << Theme::Mode::clair << 1.0 << true;
-    QTest::newRow("données extrêmes, texte à 150 %") << Theme::Mode::sombre << 1.5 << true;
+    QTest::addColumn<bool>("enRoute");
+    QTest::addColumn<bool>("renforce");
+    QTest::newRow("de jour") << Theme::Mode::clair << 1.0 << false << false << false;
+    QTest::newRow("de nuit") << Theme::Mode::sombre << 1.0 << false << false << false;
+    QTest::newRow("contraste renforcé, de jour") << Theme::Mode::clair << 1.0 << false << false << true;
+    QTest::newRow("contraste renforcé, de nuit") << Theme::Mode::sombre << 1.0 << false << false << true;
+    QTest::newRow("texte à 150 %") << Theme::Mode::clair << 1.5 << false << false << false;
+    QTest::newRow("données extrêmes") << Theme::Mode::clair << 1.0 << true << false << false;
+    QTest::newRow("données extrêmes, texte à 150 %") << Theme::Mode::sombre << 1.5 << true << false << false;
+    QTest::newRow("texte agrandi en route") << Theme::Mode::clair << 1.5 << false << true << false;
 }
 
 void TestLisibilite::toutSeLit()
@@ -100,10 +106,22 @@ void TestLisibilite::toutSeLit()
     QFETCH(Theme::Mode, mode);
     QFETCH(double, texte);
     QFETCH(bool, extremes);
-    QApplication::setStyle(new SansMouvement(mode));
+    QFETCH(bool, enRoute);
+    QFETCH(bool, renforce);
+    auto *style = new SansMouvement(mode);
+    QApplication::setStyle(style);
+    style->suivre({.contraste = renforce});
     QFont police = QApplication::font();
-    police.setPointSizeF(10 * texte);
+    QFont agrandie = police;
+    police.setPointSizeF(10 * (enRoute ? 1 : texte));
+    agrandie.setPointSizeF(10 * texte);
     QApplication::setFont(police);
+    const auto agrandir = [&] {
+        if (!enRoute)
+            return;
+        TailleDuTexte::changer(police);
+        TailleDuTexte::changer(agrandie);
+    };
 
     BancEcran banc;
     TarifsColissimo nouveaux = desTarifs(QStringLiteral("2026-04-01"), Centimes{99'999});
@@ -117,10 +135,21 @@ void TestLisibilite::toutSeLit()
     banc.demarrer();
     banc.commander(QStringLiteral("suisse"));
     Fenetre &fenetre = banc.app->fenetre();
+    if (enRoute) {
+        for (const Rubrique rubrique : {Rubrique::tarifs, Rubrique::livres, Rubrique::commande})
+            fenetre.contenu()->montrer(rubrique);
+        agrandir();
+        for (int tour = 0; tour < 5; ++tour)
+            QCoreApplication::processEvents();
+    }
     fenetre.resize(fenetre.minimumSizeHint());
     QStringList tous;
-    const auto lire = [&](const QString &ecran, QWidget *lu) { tous += defauts(ecran, lu, texte == 1 && !extremes); };
+    const double contraste = texte != 1 || extremes ? 0
+                             : renforce             ? Lisibilite::contrasteRenforce
+                                                    : Lisibilite::contrasteMinimal;
+    const auto lire = [&](const QString &ecran, QWidget *lu) { tous += defauts(ecran, lu, contraste); };
     const auto lireEtFermer = [&](const QString &bouton, QDialog *feuille) {
+        agrandir();
         lire(bouton, feuille);
         feuille->resize(feuille->minimumSizeHint());
         lire(bouton + QStringLiteral(", au plus petit"), feuille);

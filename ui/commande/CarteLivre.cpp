@@ -8,6 +8,7 @@
 #include "ui/commun/Chiffres.h"
 #include "ui/commun/Dessin.h"
 #include "ui/commun/DessinCouverture.h"
+#include "ui/commun/TailleDuTexte.h"
 #include "ui/commun/TextesLivres.h"
 
 #include <QHelpEvent>
@@ -92,6 +93,7 @@ CarteLivre::CarteLivre(const Livre &livre, Commande &commande, ImagesCouvertures
     setAttribute(Qt::WA_Hover);
     connect(couverture_, &QAbstractButton::clicked, this, [this, &commande] { commande.ajuster(livre_, 1); });
     montrer(livre, commande.quantite(livre));
+    TailleDuTexte::suivre(this, [this] { placer(); });
 }
 
 void CarteLivre::montrer(const Livre &livre, int quantite)
@@ -169,6 +171,11 @@ bool CarteLivre::event(QEvent *evenement)
 }
 
 void CarteLivre::resizeEvent(QResizeEvent *)
+{
+    placer();
+}
+
+void CarteLivre::placer()
 {
     const int hauteur = hauteurCouverture(contenu().width()) + Couverture::debord + Couverture::debordBas;
     couverture_->setGeometry(0, 0, width(), hauteur);

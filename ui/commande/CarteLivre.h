@@ -36,6 +36,7 @@ protected:
     void resizeEvent(QResizeEvent *evenement) override;
 
 private:
+    void placer();
     [[nodiscard]] QRect contenu() const;
     [[nodiscard]] QRect ligneDuBas() const;
 

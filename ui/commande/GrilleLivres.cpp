@@ -5,6 +5,8 @@
 #include "ui/commande/Couverture.h"
 #include "ui/commande/TransitionCartes.h"
 
+#include <QEvent>
+
 #include <algorithm>
 
 namespace {
@@ -105,6 +107,13 @@ QSize GrilleLivres::minimumSizeHint() const
 int GrilleLivres::largeurDeDeuxColonnes()
 {
     return 2 * largeurMinimale() + espace + 2 * Couverture::debord;
+}
+
+void GrilleLivres::changeEvent(QEvent *evenement)
+{
+    QWidget::changeEvent(evenement);
+    if (evenement->type() == QEvent::FontChange)
+        placer();
 }
 
 void GrilleLivres::resizeEvent(QResizeEvent *)

@@ -32,6 +32,7 @@ public:
     [[nodiscard]] static int largeurDeDeuxColonnes();
 
 protected:
+    void changeEvent(QEvent *evenement) override;
     void resizeEvent(QResizeEvent *evenement) override;
 
 private:

@@ -2,6 +2,7 @@
 
 #include "model/Calcul.h"
 #include "ui/commun/Icone.h"
+#include "ui/commun/TailleDuTexte.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -19,7 +20,7 @@ SectionDocuments::SectionDocuments(QWidget *parent)
     for (QPushButton *bouton : {douane_, facture_}) {
         rangee->addWidget(bouton, bouton->sizeHint().width()); // in proportion to its text
         // Less of it where the panel is at its narrowest.
-        bouton->setMinimumWidth(bouton->sizeHint().width() - 16);
+        TailleDuTexte::suivre(bouton, [bouton] { bouton->setMinimumWidth(bouton->sizeHint().width() - 16); });
     }
     groupe()->ajouter(Formulaire::seul(boutons));
     connect(douane_, &QPushButton::clicked, this, [this] { emit demandes(OngletDocuments::douane); });

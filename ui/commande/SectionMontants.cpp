@@ -7,6 +7,7 @@
 #include "ui/commun/Dessin.h"
 #include "ui/commun/Libelle.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
 
@@ -36,6 +37,13 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent *) override { ajuster(); }
+
+    void changeEvent(QEvent *evenement) override
+    {
+        QWidget::changeEvent(evenement);
+        if (evenement->type() == QEvent::FontChange && layout())
+            ajuster();
+    }
 
     void paintEvent(QPaintEvent *) override
     {

@@ -6,6 +6,7 @@
 #include "ui/commun/Icone.h"
 #include "ui/commun/NombreRoulant.h"
 #include "ui/commun/Ressort.h"
+#include "ui/commun/TailleDuTexte.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -39,7 +40,7 @@ class BoutonRond : public QAbstractButton
 public:
     BoutonRond(QString symbole, const QString &nom) : symbole_(std::move(symbole))
     {
-        setFixedSize(coteBouton(), coteBouton());
+        TailleDuTexte::suivre(this, [this] { setFixedSize(coteBouton(), coteBouton()); });
         setAccessibleName(nom);
         setToolTip(nom);
         setAutoRepeat(true);
@@ -78,7 +79,7 @@ SelecteurQuantite::SelecteurQuantite(const Livre &livre, Commande &commande, QWi
 {
     nombre_->setFont(Theme::enGras(font()));
     nombre_->setAlignment(Qt::AlignCenter);
-    nombre_->setMinimumWidth(largeurDuNombre());
+    TailleDuTexte::suivre(nombre_, [this] { nombre_->setMinimumWidth(largeurDuNombre()); });
     nombre_->setText(QStringLiteral("0"));
     auto *rangee = new QHBoxLayout(this);
     rangee->setContentsMargins(bord, 2, bord, 2 + ombre);

@@ -23,10 +23,10 @@ SelecteurSite::SelecteurSite(const Reglages &reglages, QWidget *parent)
     : QWidget(parent),
       choix_(new ChoixSegmente(sites(reglages), {.police = Theme::enGras(Theme::titre3()),
                                                  .style = ChoixSegmente::Style::bleu,
-                                                 .hauteur = Theme::aLaTaille(44),
+                                                 .hauteur = 44,
                                                  .marge = 5,
                                                  .espace = 4,
-                                                 .largeurMaximale = Theme::aLaTaille(230)}))
+                                                 .largeurMaximale = 230}))
 {
     auto *rangee = new QHBoxLayout(this);
     rangee->setContentsMargins(0, 0, 0, 0);

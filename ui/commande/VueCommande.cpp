@@ -13,6 +13,7 @@
 #include "ui/commun/Icone.h"
 #include "ui/commun/LecteurDEcran.h"
 #include "ui/commun/Partage.h"
+#include "ui/commun/TailleDuTexte.h"
 #include "ui/documents/VueDocuments.h"
 #include "ui/reponse/VueReponse.h"
 
@@ -62,7 +63,8 @@ VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesC
     reinitialiser_->setAccessibleDescription(
         QStringLiteral("Quantités, colis pesé et pays de livraison ; l’emballage et la destination restent"));
     enTete_->ajouter(reinitialiser_);
-    recapitulatif_->setMaximumWidth(Theme::aLaTaille(panneauMaximum));
+    TailleDuTexte::suivre(recapitulatif_,
+                          [this] { recapitulatif_->setMaximumWidth(Theme::aLaTaille(panneauMaximum)); });
 
     auto *page = new QHBoxLayout(this);
     page->setContentsMargins(0, 0, 0, 0);

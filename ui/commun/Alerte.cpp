@@ -3,6 +3,7 @@
 #include "ui/Theme.h"
 #include "ui/commun/Icone.h"
 #include "ui/commun/Libelle.h"
+#include "ui/commun/TailleDuTexte.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -32,7 +33,7 @@ Alerte::Alerte(QString symbole, const QString &texte, Ton ton, QWidget *parent)
     texte_->setFont(Theme::encadre());
     texte_->setWordWrap(true);
     auto *rangee = new QHBoxLayout(this);
-    rangee->setContentsMargins(coteSymbole() + espace, 0, 0, 0);
+    TailleDuTexte::suivre(this, [rangee] { rangee->setContentsMargins(coteSymbole() + espace, 0, 0, 0); });
     rangee->addWidget(texte_);
     dire(texte);
     if (texte.isEmpty())

@@ -3,6 +3,7 @@
 #include "ui/Theme.h"
 #include "ui/commun/BoutonCopier.h"
 #include "ui/commun/Libelle.h"
+#include "ui/commun/TailleDuTexte.h"
 
 #include <QHBoxLayout>
 
@@ -21,7 +22,9 @@ ChampACopier::ChampACopier(const QString &titre, std::optional<int> colonneDuTit
     textes->setSpacing(colonneDuTitre ? 12 : 2);
     if (colonneDuTitre) {
         titreAffiche->setWordWrap(true);
-        titreAffiche->setFixedWidth(*colonneDuTitre);
+        TailleDuTexte::suivre(titreAffiche, [titreAffiche, largeur = *colonneDuTitre] {
+            titreAffiche->setFixedWidth(Theme::aLaTaille(largeur));
+        });
     }
     textes->addWidget(titreAffiche);
     textes->addWidget(affichage_, colonneDuTitre ? 1 : 0);

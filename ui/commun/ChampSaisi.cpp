@@ -3,6 +3,7 @@
 #include "ui/commun/Alerte.h"
 #include "ui/commun/Libelle.h"
 #include "ui/commun/LigneDeTexte.h"
+#include "ui/commun/TailleDuTexte.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -14,9 +15,11 @@ ChampSaisi::ChampSaisi(const QString &libelle, const Unite &unite, Refus refus, 
     auto *titre = new Libelle(libelle);
     titre->setBuddy(champ_);
     auto *mesure = new Libelle(unite.symbole, Libelle::Rang::secondaire);
-    mesure->setFixedWidth(mesure->fontMetrics().horizontalAdvance(u'€') + 4); // fields line up whatever their unit
     champ_->setAlignment(Qt::AlignRight);
-    champ_->setFixedWidth(champ_->fontMetrics().horizontalAdvance(QStringLiteral("99 999,99")) + 32);
+    TailleDuTexte::suivre(mesure, [this, mesure] {
+        mesure->setFixedWidth(fontMetrics().horizontalAdvance(u'€') + 4); // fields line up whatever their unit
+        champ_->setFixedWidth(fontMetrics().horizontalAdvance(QStringLiteral("99 999,99")) + 32);
+    });
     champ_->setAccessibleName(QStringLiteral("%1, en %2").arg(libelle, unite.nom));
     champ_->installEventFilter(this);
     connect(champ_, &QLineEdit::textEdited, this, [this](const QString &texte) { direLeRefus(refus_(texte)); });

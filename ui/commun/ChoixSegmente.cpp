@@ -3,6 +3,7 @@
 #include "ui/Theme.h"
 #include "ui/commun/Dessin.h"
 #include "ui/commun/Ressort.h"
+#include "ui/commun/TailleDuTexte.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -23,9 +24,10 @@ public:
         : QRadioButton(texte), apparence_(apparence)
     {
         setFont(apparence.police);
-        apparence_.hauteur = std::max(apparence.hauteur, fontMetrics().height() + 6);
-        setFixedHeight(apparence_.hauteur);
-        setMaximumWidth(apparence.largeurMaximale);
+        TailleDuTexte::suivre(this, [this] {
+            setFixedHeight(hauteur());
+            setMaximumWidth(Theme::aLaTaille(apparence_.largeurMaximale));
+        });
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         setCursor(Qt::PointingHandCursor);
     }
@@ -40,9 +42,9 @@ public:
     [[nodiscard]] QSize sizeHint() const override
     {
         const int largeur = fontMetrics().horizontalAdvance(text()) + 2 * margeTexte;
-        return {std::min(largeur, apparence_.largeurMaximale), apparence_.hauteur};
+        return {std::min(largeur, Theme::aLaTaille(apparence_.largeurMaximale)), hauteur()};
     }
-    [[nodiscard]] QSize minimumSizeHint() const override { return {60, apparence_.hauteur}; }
+    [[nodiscard]] QSize minimumSizeHint() const override { return {60, hauteur()}; }
 
 protected:
     void resizeEvent(QResizeEvent *) override
@@ -77,6 +79,11 @@ protected:
     [[nodiscard]] bool hitButton(const QPoint &position) const override { return rect().contains(position); }
 
 private:
+    [[nodiscard]] int hauteur() const
+    {
+        return std::max(Theme::aLaTaille(apparence_.hauteur), fontMetrics().height() + 6);
+    }
+
     ChoixSegmente::Apparence apparence_;
     double part_ = 0;
 };
@@ -152,12 +159,17 @@ void ChoixSegmente::paintEvent(QPaintEvent *)
 
     const QRectF choisi = surbrillance();
     const double rayon = choisi.height() / 2;
+    const bool renforce = Theme::contraste(palette()) == Theme::Contraste::renforce;
     if (apparence_.style == Style::bleu) {
         Dessin::ombreDouce(peintre, choisi);
         QLinearGradient degrade(choisi.topLeft(), choisi.bottomLeft());
-        degrade.setColorAt(0, Theme::bleuHaut());
-        degrade.setColorAt(1, Theme::bleuBas());
+        const double assombri = renforce ? 0.3 : 0;
+        degrade.setColorAt(0, Dessin::melange(Theme::bleuHaut(), Qt::black, assombri));
+        degrade.setColorAt(1, Dessin::melange(Theme::bleuBas(), Qt::black, assombri));
         peintre.setBrush(degrade);
+    } else if (renforce) { // a shade is not enough to tell it by
+        peintre.setPen(palette().color(QPalette::WindowText));
+        peintre.setBrush(Theme::carte(palette()));
     } else {
         Dessin::ombreDouce(peintre, choisi);
         const bool clair = Theme::mode(palette()) == Theme::Mode::clair;

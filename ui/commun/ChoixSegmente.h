@@ -18,10 +18,10 @@ public:
     {
         QFont police;
         Style style = Style::sobre;
-        int hauteur = 28;          // of a choice, px
+        int hauteur = 28;          // of a choice, px for text of 10 pt
         int marge = 3;             // between the capsule and the choices, px
         int espace = 2;            // between two choices, px
-        int largeurMaximale = 300; // of a choice, px
+        int largeurMaximale = 300; // of a choice, px for text of 10 pt
     };
 
     ChoixSegmente(const QStringList &options, const Apparence &apparence, QWidget *parent = nullptr);

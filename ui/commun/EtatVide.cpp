@@ -3,6 +3,7 @@
 #include "ui/Theme.h"
 #include "ui/commun/Icone.h"
 #include "ui/commun/Libelle.h"
+#include "ui/commun/TailleDuTexte.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -22,11 +23,13 @@ int coteSymbole()
 EtatVide::EtatVide(const QString &symbole, const QString &titre, const QString &raison, QWidget *parent)
     : QWidget(parent), place_(new QWidget), titre_(new Libelle({})), raison_(new Libelle({}))
 {
-    place_->setFixedSize(coteSymbole(), coteSymbole());
     titre_->setFont(Theme::titreSection());
     raison_->setWordWrap(true);
     raison_->setAlignment(Qt::AlignHCenter);
-    raison_->setMaximumWidth(Theme::aLaTaille(largeurDuTexte));
+    TailleDuTexte::suivre(this, [this] {
+        place_->setFixedSize(coteSymbole(), coteSymbole());
+        raison_->setMaximumWidth(Theme::aLaTaille(largeurDuTexte));
+    });
 
     auto *milieu = new QHBoxLayout;
     milieu->addStretch(1);

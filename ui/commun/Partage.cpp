@@ -1,6 +1,11 @@
 #include "ui/commun/Partage.h"
 
+#include "ui/Theme.h"
+#include "ui/commun/TailleDuTexte.h"
+
 #include <QSplitter>
+
+#include <utility>
 
 QSplitter *Partage::entre(QWidget *gauche, QWidget *droite, QWidget *fixe, int largeur)
 {
@@ -14,5 +19,15 @@ QSplitter *Partage::entre(QWidget *gauche, QWidget *droite, QWidget *fixe, int l
     partage->setStretchFactor(0, fixe == gauche ? 0 : 1);
     partage->setStretchFactor(1, fixe == droite ? 0 : 1);
     partage->setSizes({fixe == gauche ? largeur : grande, fixe == droite ? largeur : grande});
+    // In proportion to the text, wherever the user has put the limit.
+    TailleDuTexte::suivre(partage, [partage, rang = fixe == gauche ? 0 : 1, avant = Theme::aLaTaille(100)]() mutable {
+        const int apres = Theme::aLaTaille(100);
+        QList<int> largeurs = partage->sizes();
+        const int plus = largeurs[rang] * apres / avant - largeurs[rang];
+        largeurs[rang] += plus;
+        largeurs[1 - rang] -= plus;
+        if (std::exchange(avant, apres) != apres)
+            partage->setSizes(largeurs);
+    });
     return partage;
 }

@@ -1,5 +1,7 @@
 #include "ui/commun/ZoneDeTexte.h"
 
+#include "ui/commun/TailleDuTexte.h"
+
 #include <QPainter>
 #include <QStyleOption>
 
@@ -17,7 +19,8 @@ ZoneDeTexte::ZoneDeTexte(int lignes, QWidget *parent) : QPlainTextEdit(parent)
     viewport()->setAutoFillBackground(false);
     setViewportMargins(gauche, marge, 1, marge);
     document()->setDocumentMargin(1);
-    setFixedHeight(lignes * fontMetrics().lineSpacing() + 2 * (marge + 1));
+    TailleDuTexte::suivre(this,
+                          [this, lignes] { setFixedHeight(lignes * fontMetrics().lineSpacing() + 2 * (marge + 1)); });
 }
 
 // The frame holds the scroll bar too, and changes as a whole with the focus.

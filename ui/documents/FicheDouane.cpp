@@ -71,7 +71,7 @@ QWidget *FicheDouane::page(const QString &manque)
     for (const TextesDocuments::Rubrique &rubrique : montrees_) {
         auto *section = new Formulaire::Section(rubrique.titre);
         for (const TextesDocuments::Champ &champ : rubrique.champs) {
-            auto *rangee = new ChampACopier(champ.titre, Theme::aLaTaille(colonneDesTitres));
+            auto *rangee = new ChampACopier(champ.titre, colonneDesTitres);
             rangee->montrer(champ.valeur, champ.affichage);
             section->groupe()->ajouter(rangee);
         }

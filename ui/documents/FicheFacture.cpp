@@ -9,6 +9,7 @@
 #include "ui/commun/Formulaire.h"
 #include "ui/commun/Libelle.h"
 #include "ui/commun/LigneDeTexte.h"
+#include "ui/commun/TailleDuTexte.h"
 #include "ui/commun/ZoneDeTexte.h"
 #include "ui/documents/ApercuFacture.h"
 #include "ui/documents/ImpressionFacture.h"
@@ -76,7 +77,8 @@ QWidget *FicheFacture::formulaire()
     colonne->addStretch(1);
     auto *defilement = new Defilement;
     defilement->setWidget(champs);
-    defilement->setMinimumWidth(Theme::aLaTaille(largeurDesChamps));
+    TailleDuTexte::suivre(defilement,
+                          [defilement] { defilement->setMinimumWidth(Theme::aLaTaille(largeurDesChamps)); });
 
     auto *page = new QWidget;
     auto *cotes = new QHBoxLayout(page);

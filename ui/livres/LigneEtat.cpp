@@ -3,6 +3,7 @@
 #include "ui/Theme.h"
 #include "ui/commun/Dessin.h"
 #include "ui/commun/Icone.h"
+#include "ui/commun/TailleDuTexte.h"
 
 #include <QPainter>
 
@@ -49,13 +50,19 @@ LigneEtat::LigneEtat(QWidget *parent) : Libelle({}, Rang::secondaire, parent)
 {
     setFont(Theme::enGras(Theme::encadre(), QFont::Medium));
     setWordWrap(true);
+    TailleDuTexte::suivre(this, [this] { placer(); });
+}
+
+void LigneEtat::placer()
+{
+    const int autour = focusPolicy() == Qt::NoFocus ? 0 : sousLAnneau;
+    setContentsMargins(coteSymbole() + espace, autour, autour, autour);
 }
 
 void LigneEtat::montrer(PrixBouton::Etat etat, const QString &enMots)
 {
     etat_ = etat;
-    const int autour = focusPolicy() == Qt::NoFocus ? 0 : sousLAnneau;
-    setContentsMargins(coteSymbole() + espace, autour, autour, autour);
+    placer();
     setText(enMots);
     setRang(etat == PrixBouton::Etat::aReporter ? Rang::principal : Rang::secondaire);
     update();

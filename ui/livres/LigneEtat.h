@@ -17,5 +17,7 @@ protected:
     void paintEvent(QPaintEvent *evenement) override;
 
 private:
+    void placer();
+
     PrixBouton::Etat etat_ = PrixBouton::Etat::sansPrix;
 };

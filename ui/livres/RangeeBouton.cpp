@@ -6,6 +6,7 @@
 #include "ui/commun/Chiffres.h"
 #include "ui/commun/LecteurDEcran.h"
 #include "ui/commun/LibelleChiffre.h"
+#include "ui/commun/TailleDuTexte.h"
 #include "ui/livres/LigneEtat.h"
 
 #include <QApplication>
@@ -45,7 +46,7 @@ QPushButton *bouton(const QString &action)
 {
     QPushButton *bouton = Boutons::deFeuille(action);
     bouton->setFont(Theme::encadre());
-    bouton->setFixedWidth(largeur(action));
+    TailleDuTexte::suivre(bouton, [bouton, action] { bouton->setFixedWidth(largeur(action)); });
     return bouton;
 }
 
@@ -78,12 +79,14 @@ void RangeeBouton::placerLesTetes(QGridLayout &grille)
     tete(calcule, QStringLiteral("Calculé"), Qt::AlignRight);
     tete(etat, QStringLiteral("État"), Qt::AlignLeft);
     grille.setColumnStretch(destination, 1);
-    // Columns stand still from one book to the next.
-    const int prix = Chiffres::largeur(QFontMetrics(policeDuPrix()), QStringLiteral("000,00 €"));
     grille.setColumnMinimumWidth(destination, largeurMinimaleDuNom);
-    grille.setColumnMinimumWidth(actuel, prix);
-    grille.setColumnMinimumWidth(calcule, prix);
-    grille.setColumnMinimumWidth(etat, largeur(texteReporter()) + entreActions + largeur(texteGarder()));
+    // Columns stand still from one book to the next.
+    TailleDuTexte::suivre(grille.parentWidget(), [&grille] {
+        const int prix = Chiffres::largeur(QFontMetrics(policeDuPrix()), QStringLiteral("000,00 €"));
+        grille.setColumnMinimumWidth(actuel, prix);
+        grille.setColumnMinimumWidth(calcule, prix);
+        grille.setColumnMinimumWidth(etat, largeur(texteReporter()) + entreActions + largeur(texteGarder()));
+    });
 }
 
 RangeeBouton::RangeeBouton(QGridLayout &grille, int ligne, QObject *parent)
@@ -116,8 +119,10 @@ RangeeBouton::RangeeBouton(QGridLayout &grille, int ligne, QObject *parent)
     cellules_ = {cellule({destination_, palier_}, 2), cellule({actuel_}, 0), cellule({calcule_, ecart_}, 2), copier_,
                  cellule({etat_, actions}, sousLEtat)};
     // As high as with its buttons: the rows below stand still when a price is reported.
-    cellules_[etat]->setMinimumHeight(etat_->sizeHint().height() + sousLEtat + actions->sizeHint().height()
-                                      + 2 * margeVerticale);
+    TailleDuTexte::suivre(etat_, [this] {
+        cellules_[etat]->setMinimumHeight(etat_->sizeHint().height() + sousLEtat + reporter_->sizeHint().height()
+                                          + 2 * margeVerticale);
+    });
     for (int colonne = 0; colonne < cellules_.size(); ++colonne)
         grille.addWidget(cellules_[colonne], ligne, colonne, colonne == copie ? Qt::AlignVCenter : Qt::Alignment());
     // A click reports the price that is read on the row: it must not end an edit that changes it.

@@ -9,6 +9,7 @@
 #include "ui/commun/EtatVide.h"
 #include "ui/commun/Icone.h"
 #include "ui/commun/Partage.h"
+#include "ui/commun/TailleDuTexte.h"
 #include "ui/livres/FicheLivre.h"
 #include "ui/livres/RetourAuxValeurs.h"
 #include "ui/livres/TextesBoutons.h"
@@ -124,7 +125,7 @@ QWidget *VueLivres::droite()
     auto *page = new QWidget;
     auto *marges = new QHBoxLayout(page);
     marges->setContentsMargins(marge, 24, marge - style()->pixelMetric(QStyle::PM_ScrollBarExtent), 28);
-    fiche_->setMaximumWidth(Theme::aLaTaille(Theme::largeurDePage));
+    TailleDuTexte::suivre(fiche_, [this] { fiche_->setMaximumWidth(Theme::aLaTaille(Theme::largeurDePage)); });
     marges->addWidget(fiche_, 1);
     marges->addStretch(0);
     auto *defilement = new Defilement;

@@ -4,6 +4,7 @@
 #include "ui/commun/Alerte.h"
 #include "ui/commun/Boutons.h"
 #include "ui/commun/Libelle.h"
+#include "ui/commun/TailleDuTexte.h"
 #include "ui/commun/ZoneDeTexte.h"
 #include "ui/misesajour/TextesMiseAJour.h"
 #include "watch/MisesAJour.h"
@@ -52,7 +53,7 @@ FeuilleMiseAJour::FeuilleMiseAJour(MisesAJour &misesAJour, QWidget *parent)
     colonne->setSpacing(12);
     colonne->setSizeConstraint(QLayout::SetFixedSize); // as high as what it says
     for (QWidget *partie : std::initializer_list<QWidget *>{titre_, detail_, progres_, notes_, alerte_}) {
-        partie->setFixedWidth(Theme::aLaTaille(largeur));
+        TailleDuTexte::suivre(partie, [partie] { partie->setFixedWidth(Theme::aLaTaille(largeur)); });
         colonne->addWidget(partie);
     }
     colonne->addSpacing(4);

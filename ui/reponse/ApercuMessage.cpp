@@ -58,11 +58,11 @@ void ApercuMessage::ecrire()
     verticalScrollBar()->setValue(defilement);
 }
 
-// The colours of the palette are written in the text.
+// The colours of the palette and the font are written in the text.
 void ApercuMessage::changeEvent(QEvent *evenement)
 {
     QTextEdit::changeEvent(evenement);
-    if (evenement->type() == QEvent::PaletteChange && reponse_)
+    if ((evenement->type() == QEvent::PaletteChange || evenement->type() == QEvent::FontChange) && reponse_)
         ecrire();
 }
 

@@ -11,6 +11,7 @@
 #include "ui/commun/Formulaire.h"
 #include "ui/commun/Icone.h"
 #include "ui/commun/LigneDeTexte.h"
+#include "ui/commun/TailleDuTexte.h"
 #include "ui/reponse/ApercuMessage.h"
 #include "ui/reponse/Mail.h"
 #include "ui/reponse/TextesReponse.h"
@@ -100,7 +101,7 @@ QWidget *VueReponse::saisie()
     colonne->addStretch(1);
     auto *defilement = new Defilement;
     defilement->setWidget(saisie);
-    defilement->setFixedWidth(Theme::aLaTaille(largeurDeLaSaisie));
+    TailleDuTexte::suivre(defilement, [defilement] { defilement->setFixedWidth(Theme::aLaTaille(largeurDeLaSaisie)); });
     return defilement;
 }
 
@@ -109,7 +110,7 @@ QWidget *VueReponse::message()
     connect(envoyer_, &QPushButton::clicked, this, &VueReponse::ouvrirDansMail);
 
     auto *message = new QWidget;
-    message->setMinimumSize(Theme::aLaTaille(plusPetitMessage));
+    TailleDuTexte::suivre(message, [message] { message->setMinimumSize(Theme::aLaTaille(plusPetitMessage)); });
     auto *colonne = new QVBoxLayout(message);
     colonne->setContentsMargins(20, 20, 20, 20);
     colonne->setSpacing(14);

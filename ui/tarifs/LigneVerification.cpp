@@ -4,6 +4,7 @@
 #include "ui/commun/Icone.h"
 #include "ui/commun/Libelle.h"
 #include "ui/commun/Lien.h"
+#include "ui/commun/TailleDuTexte.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -60,11 +61,17 @@ LigneVerification::LigneVerification(const QString &nom, QWidget *parent)
     textes->addLayout(situation);
     auto *rangee = new QHBoxLayout(this);
     rangee->setSpacing(8);
-    rangee->addSpacing(coteSymbole() + espace);
+    auto *place = new QSpacerItem(0, 0);
+    rangee->addItem(place);
     rangee->addLayout(textes, 1);
     for (QPushButton *bouton : {changements_, page_, verifier_})
         rangee->addWidget(bouton, 0, Qt::AlignVCenter);
 
+    TailleDuTexte::suivre(this, [this, place, rangee] {
+        place->changeSize(coteSymbole() + espace, 0, QSizePolicy::Fixed);
+        rangee->invalidate();
+        placerLEtat();
+    });
     connect(changements_, &QPushButton::clicked, this, &LigneVerification::changementsDemandes);
     connect(verifier_, &QPushButton::clicked, this, &LigneVerification::verificationDemandee);
     connect(page_, &QPushButton::clicked, this, [this] { Lien::ouvrir(ligne_.page, this); });
@@ -77,13 +84,18 @@ void LigneVerification::montrer(const TextesVerifications::Ligne &ligne)
     detail_->setText(ligne.detail);
     etat_->setText(ligne.etat);
     verifier_->setAccessibleDescription(ligne.etat); // heard by who has just pressed it
-    // No symbol, no room for one.
-    etat_->setContentsMargins(ligne.symboleEtat.isEmpty() ? 0 : coteEtat() + 6, 0, 0, 0);
+    placerLEtat();
     // The button stays enabled while the check runs: it would lose the focus to a neighbour.
     progres_->setVisible(ligne.cas == Verifications::Etat::Cas::enCours);
     page_->setVisible(ligne.cas == Verifications::Etat::Cas::erreur);
     changements_->setVisible(ligne.trouvaille && ligne.cas != Verifications::Etat::Cas::enCours);
     update();
+}
+
+// No symbol, no room for one.
+void LigneVerification::placerLEtat()
+{
+    etat_->setContentsMargins(ligne_.symboleEtat.isEmpty() ? 0 : coteEtat() + 6, 0, 0, 0);
 }
 
 void LigneVerification::paintEvent(QPaintEvent *)

@@ -26,6 +26,8 @@ protected:
     void paintEvent(QPaintEvent *evenement) override;
 
 private:
+    void placerLEtat();
+
     TextesVerifications::Ligne ligne_;
     Libelle *titre_;
     Libelle *detail_;

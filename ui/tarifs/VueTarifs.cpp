@@ -7,6 +7,7 @@
 #include "ui/commun/Formulaire.h"
 #include "ui/commun/Libelle.h"
 #include "ui/commun/PageAuClavier.h"
+#include "ui/commun/TailleDuTexte.h"
 #include "ui/tarifs/CarteFamille.h"
 #include "ui/tarifs/CarteNouveauxFrais.h"
 #include "ui/tarifs/CarteNouveauxTarifs.h"
@@ -72,7 +73,7 @@ VueTarifs::VueTarifs(Catalogue &catalogue, const Commande &commande, Verificatio
       paypal_(new LigneVerification(QStringLiteral("Frais PayPal")))
 {
     auto *contenu = new QWidget;
-    contenu->setMaximumWidth(Theme::aLaTaille(Theme::largeurDePage));
+    TailleDuTexte::suivre(contenu, [contenu] { contenu->setMaximumWidth(Theme::aLaTaille(Theme::largeurDePage)); });
     sections_ = new QVBoxLayout(contenu);
     sections_->setContentsMargins(0, 0, 0, 0);
     sections_->setSpacing(entreSections);
