@@ -20,7 +20,8 @@ isoler() {
     chez_soi=$(mktemp -d)
     trap "rm -rf '$chez_soi'" EXIT
     mkdir -m 700 "$chez_soi/execution"
-    ((EUID == 0)) && sans_reseau=(unshare --net) || sans_reseau=(unshare --user --map-current-user --net)
+    ((EUID == 0)) && sans_reseau=(unshare --net --mount) ||
+        sans_reseau=(unshare --user --map-current-user --net --mount) # what a portal mounts goes too
     env -i PATH="$PATH" LC_ALL=C.UTF-8 HOME="$chez_soi" XDG_RUNTIME_DIR="$chez_soi/execution" ACCES_ISOLE=1 \
         PYTHONDONTWRITEBYTECODE=1 QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_QPA_PLATFORM=xcb \
         "${sans_reseau[@]}" xvfb-run -a -s '-screen 0 1400x1000x24' dbus-run-session -- "$@" \
