@@ -12,7 +12,6 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <functional>
 #include <limits>
 
 using Mode = Theme::Mode;
@@ -35,6 +34,7 @@ private slots:
     void portailBavard();
     void sansBus();
     void busMuet();
+    void suitAilleurs();
     void obeit();
     void laisseFaireLaPlateforme();
 
@@ -58,25 +58,37 @@ QVariant enReponse(const QVariantMap &deLApparence, const QVariantMap &deGnome =
     return QVariant::fromValue(ReglagesDuPortail{{apparence, deLApparence}, {gnome, deGnome}});
 }
 
-const QString seul = QStringLiteral("--seul");
+// This program again, as one that only follows the desktop: it ends well at the first change to dark.
+const QString suit = QStringLiteral("--suit");
+// On another bus: it ends, without waiting for an answer, once it is told to.
+const QString attend = QStringLiteral("--attend");
 
-// This program again, on another bus: it asks without waiting for the answer, and ends when told to, once the question
-// has come.
-bool demarreSur(const QString &adresse, const std::function<bool()> &question)
+void lancer(QProcess &programme, const QString &quoi, const QString &bus = {})
 {
-    QProcess programme;
     auto environnement = QProcessEnvironment::systemEnvironment();
-    environnement.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), adresse);
+    if (!bus.isEmpty())
+        environnement.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus);
     programme.setProcessEnvironment(environnement);
-    programme.start(QCoreApplication::applicationFilePath(), {seul});
-    if (!question())
-        return false;
-    programme.write("\n");
-    return programme.waitForFinished(10'000) && programme.exitStatus() == QProcess::NormalExit
-           && programme.exitCode() == 0;
+    programme.start(QCoreApplication::applicationFilePath(), {quoi});
 }
 
-int demarrerSeul()
+bool finitBien(QProcess &programme)
+{
+    return QTest::qWaitFor([&] { return programme.state() == QProcess::NotRunning; }, 10'000)
+           && programme.exitStatus() == QProcess::NormalExit && programme.exitCode() == 0;
+}
+
+int suivre()
+{
+    Bureau bureau;
+    QObject::connect(&bureau, &Bureau::change, qApp, [&bureau] {
+        if (bureau.souhaits().mode == Mode::sombre)
+            QCoreApplication::quit();
+    });
+    return QCoreApplication::exec();
+}
+
+int attendre()
 {
     Bureau bureau;
     std::getchar();
@@ -234,7 +246,10 @@ void TestBureau::portailBavard()
 
 void TestBureau::sansBus()
 {
-    QVERIFY(demarreSur(QStringLiteral("unix:path=/nulle/part"), [] { return true; }));
+    QProcess programme;
+    lancer(programme, attend, QStringLiteral("unix:path=/nulle/part"));
+    programme.write("\n");
+    QVERIFY(finitBien(programme));
 }
 
 // It accepts whoever comes, and says nothing.
@@ -243,8 +258,23 @@ void TestBureau::busMuet()
     QLocalServer muet;
     const QTemporaryDir dossier;
     QVERIFY(muet.listen(dossier.filePath(QStringLiteral("bus"))));
-    QVERIFY(demarreSur(QStringLiteral("unix:path=") + muet.fullServerName(),
-                       [&muet] { return muet.waitForNewConnection(10'000); }));
+    QProcess programme;
+    lancer(programme, attend, QStringLiteral("unix:path=") + muet.fullServerName());
+    QTRY_VERIFY(muet.hasPendingConnections());
+    programme.write("\n");
+    QVERIFY(finitBien(programme));
+}
+
+// Nothing but the follower's own code makes D-Bus known there.
+void TestBureau::suitAilleurs()
+{
+    FauxPortail portail;
+    portail.paraitre();
+    QProcess programme;
+    lancer(programme, suit);
+    QTRY_COMPARE(portail.questions, 1);
+    portail.annoncer(apparence, couleurs, 1U);
+    QVERIFY(finitBien(programme));
 }
 
 void TestBureau::obeit()
@@ -279,8 +309,9 @@ void TestBureau::laisseFaireLaPlateforme()
 int main(int argc, char **argv)
 {
     QApplication programme(argc, argv);
-    if (QApplication::arguments().value(1) == seul)
-        return demarrerSeul();
+    const QString quoi = QApplication::arguments().value(1);
+    if (quoi == suit || quoi == attend)
+        return quoi == suit ? suivre() : attendre();
     TestBureau test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -20,6 +20,7 @@ void PortailDesReglages::ecouter()
     bus_ = QDBusConnection::sessionBus();
     if (!bus_->isConnected())
         return;
+    qRegisterMetaType<QDBusVariant>(); // else the slot below is looked for in vain
     // Before the question, so that no change is lost between the two.
     bus_->connect(service, chemin, interface, QStringLiteral("SettingChanged"), this,
                   SLOT(changer(QString, QString, QDBusVariant)));
