@@ -5,7 +5,8 @@
 #include <QString>
 
 // The letters that a PDF gives to those who search or copy its text. Qt has a glyph stand for the first character that
-// shares it: where a typeface draws them alike, an apostrophe comes out as the letter U+02BC, a Greek iota as a Latin one.
+// shares it: where a typeface draws them alike, an apostrophe comes out as the letter U+02BC, a Greek iota as a Latin
+// one.
 namespace LettresPdf {
 
 // The same document, whose glyphs stand for the characters of `ecrit`: all that it shows, drawn in `police`.
