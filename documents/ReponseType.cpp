@@ -67,7 +67,7 @@ QString euros(Centimes montant, Langue langue)
 
 QString eurosOuTiret(const std::optional<Centimes> &montant, Langue langue)
 {
-    return montant ? euros(*montant, langue) : QStringLiteral("—");
+    return montant ? euros(*montant, langue) : QString(Format::absent);
 }
 
 QString libelleCourt(const std::optional<Destination> &destination, Langue langue)

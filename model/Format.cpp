@@ -84,6 +84,11 @@ std::unique_ptr<icu::SimpleDateFormat> formateurDeDate()
 
 } // namespace
 
+QString Format::dit(const QString &montant)
+{
+    return montant == absent ? QStringLiteral("aucun montant") : montant;
+}
+
 QString Format::euros(Centimes montant)
 {
     static const LocalizedNumberFormatter formateur = enEuros(francais());
@@ -92,7 +97,7 @@ QString Format::euros(Centimes montant)
 
 QString Format::euros(const std::optional<Centimes> &montant)
 {
-    return montant ? euros(*montant) : QStringLiteral("—");
+    return montant ? euros(*montant) : QString(absent);
 }
 
 QString Format::ecart(Centimes difference)

@@ -10,8 +10,12 @@
 // Every conversion of amounts, weights, rates and days into text, and of days back. Separators are those of the CLDR.
 namespace Format {
 
+inline constexpr QChar absent(u'—'); // in place of an amount that is missing
+// As it is spoken: the dash would be silence.
+QString dit(const QString &montant);
+
 QString euros(Centimes montant);                       // 1 234,50 €
-QString euros(const std::optional<Centimes> &montant); // "—" for none
+QString euros(const std::optional<Centimes> &montant); // `absent` for none
 QString ecart(Centimes difference);                    // +1 234,50 €, -0,05 €
 QString eurosAnglais(Centimes montant);                // €1,234.50
 QString montant(Centimes montant);                     // 1 234,50: two decimals, no currency sign

@@ -2,7 +2,7 @@
 
 #include <QTranslator>
 
-// What Qt's own French leaves in English, in the dialogs that Quillet opens.
+// What Qt's own French leaves in English, in its printing dialog.
 class ComplementFrancais : public QTranslator
 {
     Q_OBJECT

@@ -79,7 +79,7 @@ void PressePapiers::leguer()
     Reponse reponse(boucle, gestionnaire);
     qGuiApp->installNativeEventFilter(&reponse);
     const xcb_window_t nous = tenant(x, atome(x, "CLIPBOARD"));
-    const xcb_atom_t formats = atome(x, "_QUILLET_FORMATS");
+    const xcb_atom_t formats = atome(x, "_FORMATS_LEGUES");
     xcb_delete_property(x, nous, formats); // none named: all
     xcb_convert_selection(x, nous, gestionnaire, atome(x, "SAVE_TARGETS"), formats, XCB_CURRENT_TIME);
     xcb_flush(x);

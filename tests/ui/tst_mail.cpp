@@ -1,3 +1,4 @@
+#include "documents/AdresseMail.h"
 #include "tests/FausseMessagerie.h"
 #include "ui/reponse/Mail.h"
 
@@ -62,7 +63,7 @@ void TestMail::adresses()
 {
     QFETCH(QString, texte);
     QFETCH(bool, seule);
-    QCOMPARE(Mail::estUneAdresse(texte), seule);
+    QCOMPARE(AdresseMail::estSeule(texte), seule);
 }
 
 void TestMail::sansProgramme()

@@ -64,6 +64,12 @@ std::optional<Centimes> negatif(const std::optional<Centimes> &montant)
     return montant ? std::optional(-*montant) : std::nullopt;
 }
 
+void afficher(NombreRoulant *nombre, const std::optional<Centimes> &montant)
+{
+    const QString texte = Format::euros(montant);
+    nombre->afficher(texte, 1, Format::dit(texte));
+}
+
 } // namespace
 
 SectionMontants::SectionMontants(const Reglages &reglages, QWidget *parent)
@@ -87,11 +93,11 @@ SectionMontants::SectionMontants(const Reglages &reglages, QWidget *parent)
 void SectionMontants::montrer(const Calcul &calcul)
 {
     envoi_.rangee->setDetail(TextesRecapitulatif::detailEnvoi(calcul));
-    envoi_.montant->afficher(Format::euros(calcul.envoi));
+    afficher(envoi_.montant, calcul.envoi);
     total_->setForegroundRole(calcul.total ? QPalette::WindowText : Theme::roleSecondaire);
-    total_->afficher(Format::euros(calcul.total));
+    afficher(total_, calcul.total);
     ligneDuTotal_->ajuster();
     frais_.rangee->setDetail(TextesRecapitulatif::detailFrais(calcul, reglages_.fraisPaypal));
-    frais_.montant->afficher(Format::euros(negatif(calcul.fraisPaypal)));
-    reste_.montant->afficher(Format::euros(calcul.reste));
+    afficher(frais_.montant, negatif(calcul.fraisPaypal));
+    afficher(reste_.montant, calcul.reste);
 }

@@ -55,7 +55,7 @@ SectionPoids::SectionPoids(const QList<Emballage> &emballages, Commande &command
       poidsPese_(champ(QStringLiteral("Colis pesé"))),
       avertissements_(new QWidget)
 {
-    poidsPese_->setPlaceholderText(QStringLiteral("—"));
+    poidsPese_->setPlaceholderText(Format::absent);
     poidsPese_->setFont(Theme::enGras(font()));
     auto *colisPese = new Formulaire::Rangee(QStringLiteral("Colis pesé"), avecUnite(poidsPese_));
     colisPese->setDetail(QStringLiteral("emballage compris ; remplace le poids calculé"));

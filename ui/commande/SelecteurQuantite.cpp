@@ -4,6 +4,7 @@
 #include "ui/Theme.h"
 #include "ui/commun/Dessin.h"
 #include "ui/commun/Icone.h"
+#include "ui/commun/LecteurDEcran.h"
 #include "ui/commun/NombreRoulant.h"
 #include "ui/commun/Ressort.h"
 #include "ui/commun/TailleDuTexte.h"
@@ -77,6 +78,7 @@ SelecteurQuantite::SelecteurQuantite(const Livre &livre, Commande &commande, QWi
       nombre_(new NombreRoulant),
       plein_(new Ressort(Ressorts::action, this, [this](double) { colorer(); }))
 {
+    LecteurDEcran::jouer(this, QAccessible::Grouping);
     nombre_->setFont(Theme::enGras(font()));
     nombre_->setAlignment(Qt::AlignCenter);
     TailleDuTexte::suivre(nombre_, [this] { nombre_->setMinimumWidth(largeurDuNombre()); });

@@ -2,7 +2,6 @@
 
 #include "documents/ReponseType.h"
 #include "model/Format.h"
-#include "ui/commun/LecteurDEcran.h"
 #include "ui/commun/TextesFrais.h"
 
 namespace {
@@ -26,8 +25,7 @@ QString TextesRecapitulatif::resume(const Calcul &calcul)
 {
     if (calcul.nombreDeLivres() == 0)
         return sousTitre(calcul);
-    return QStringLiteral("%1, total à payer : %2")
-        .arg(sousTitre(calcul), LecteurDEcran::montant(Format::euros(calcul.total)));
+    return QStringLiteral("%1, total à payer : %2").arg(sousTitre(calcul), Format::dit(Format::euros(calcul.total)));
 }
 
 QList<TextesRecapitulatif::Ligne> TextesRecapitulatif::livres(const Calcul &calcul)

@@ -2,6 +2,7 @@
 
 #include "ui/Theme.h"
 #include "ui/commun/Icone.h"
+#include "ui/commun/LecteurDEcran.h"
 #include "ui/commun/Libelle.h"
 #include "ui/commun/TailleDuTexte.h"
 
@@ -30,6 +31,7 @@ Alerte::Alerte(QString symbole, const QString &texte, Ton ton, QWidget *parent)
       ton_(ton),
       texte_(new Libelle({}, ton == Ton::note ? Libelle::Rang::secondaire : Libelle::Rang::principal))
 {
+    LecteurDEcran::jouer(this, QAccessible::Notification);
     texte_->setFont(Theme::encadre());
     texte_->setWordWrap(true);
     auto *rangee = new QHBoxLayout(this);

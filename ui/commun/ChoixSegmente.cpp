@@ -2,6 +2,7 @@
 
 #include "ui/Theme.h"
 #include "ui/commun/Dessin.h"
+#include "ui/commun/LecteurDEcran.h"
 #include "ui/commun/Ressort.h"
 #include "ui/commun/TailleDuTexte.h"
 
@@ -95,6 +96,7 @@ ChoixSegmente::ChoixSegmente(const QStringList &options, const Apparence &appare
       apparence_(apparence),
       position_(new Ressort(Ressorts::action, this, [this](double position) { eclairer(position); }))
 {
+    LecteurDEcran::jouer(this, QAccessible::Grouping);
     auto *rangee = new QHBoxLayout(this);
     rangee->setContentsMargins(apparence.marge, apparence.marge, apparence.marge, apparence.marge);
     rangee->setSpacing(apparence.espace);

@@ -9,34 +9,9 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include <utility>
-
-Feuille::Feuille(const QString &titre, QWidget *parent)
-    : Feuille(
-        titre, [] { return QDate(); }, parent)
-{
-}
-
-Feuille::Feuille(const QString &titre, Aujourdhui aujourdhui, QWidget *parent)
-    : QDialog(parent), aujourdhui_(std::move(aujourdhui)), jour_(aujourdhui_())
+Feuille::Feuille(const QString &titre, QWidget *parent) : QDialog(parent)
 {
     setWindowTitle(titre);
-}
-
-void Feuille::suivreLeJour()
-{
-    const QDate jour = aujourdhui_();
-    if (jour == jour_)
-        return;
-    jour_ = jour;
-    actualiser();
-}
-
-bool Feuille::event(QEvent *evenement)
-{
-    if (evenement->type() == QEvent::WindowActivate)
-        suivreLeJour();
-    return QDialog::event(evenement);
 }
 
 void Feuille::ouvrir()

@@ -18,7 +18,7 @@ namespace {
 Libelle *secondeLigne()
 {
     Libelle *detail = Libelle::note({});
-    detail->setObjectName(LecteurDEcran::detail);
+    LecteurDEcran::jouer(detail, QAccessible::Paragraph); // describes the control of its row: said there, once
     detail->hide();
     return detail;
 }
@@ -59,6 +59,7 @@ void decrire(QWidget *valeur, const QString &detail)
 
 Groupe::Groupe(QWidget *parent) : QWidget(parent), rangees_(new QVBoxLayout(this))
 {
+    LecteurDEcran::jouer(this, QAccessible::Grouping); // called by the note of its section
     rangees_->setContentsMargins(margeHorizontale, 3, margeHorizontale, 3);
     rangees_->setSpacing(0);
 }
@@ -94,6 +95,7 @@ void Groupe::paintEvent(QPaintEvent *)
 
 Section::Section(const QString &titre, const QString &pied, QWidget *parent) : QWidget(parent), groupe_(new Groupe)
 {
+    LecteurDEcran::jouer(this, QAccessible::Grouping);
     auto *colonne = new QVBoxLayout(this);
     colonne->setContentsMargins(0, 0, 0, 0);
     colonne->setSpacing(6);

@@ -2,25 +2,14 @@
 
 #include <QAccessibleWidget>
 #include <QTimer>
+#include <QVariant>
 #include <QWidget>
-
-#include <array>
-#include <utility>
 
 using namespace std::chrono_literals;
 
 namespace {
 
-constexpr std::array<std::pair<QLatin1String, QAccessible::Role>, 8> roles{{
-    {QLatin1String("Alerte"), QAccessible::Notification},
-    {QLatin1String("CarteFamille"), QAccessible::Grouping},
-    {QLatin1String("ChoixSegmente"), QAccessible::Grouping},
-    {QLatin1String("Formulaire::Groupe"), QAccessible::Grouping}, // called by the note of its section
-    {QLatin1String("Formulaire::Section"), QAccessible::Grouping},
-    {QLatin1String("PageAuClavier"), QAccessible::Document},
-    {QLatin1String("QStackedWidget"), QAccessible::Pane}, // unnamed, it is not spoken of
-    {QLatin1String("SelecteurQuantite"), QAccessible::Grouping},
-}};
+constexpr auto partJouee = "role";
 
 // A group without a name of its own is called by its tooltip.
 class Ensemble : public QAccessibleWidget
@@ -39,11 +28,13 @@ public:
 
 QAccessibleInterface *interfaceDe(const QString &classe, QObject *objet)
 {
-    for (const auto &[nom, role] : roles)
-        if (classe == nom && objet->isWidgetType())
-            return new Ensemble(static_cast<QWidget *>(objet), role); // Qt owns it
-    if (classe == QLatin1String("Libelle") && objet->objectName() == LecteurDEcran::detail)
-        return new Ensemble(static_cast<QWidget *>(objet), QAccessible::Paragraph);
+    if (!objet->isWidgetType())
+        return nullptr;
+    auto *widget = static_cast<QWidget *>(objet);
+    if (const QVariant role = widget->property(partJouee); role.isValid())
+        return new Ensemble(widget, static_cast<QAccessible::Role>(role.toInt())); // Qt owns it
+    if (classe == QLatin1String("QStackedWidget"))
+        return new Ensemble(widget, QAccessible::Pane); // unnamed, it is not spoken of
     return nullptr;
 }
 
@@ -80,6 +71,11 @@ void LecteurDEcran::preparer()
     QAccessible::installFactory(interfaceDe);
 }
 
+void LecteurDEcran::jouer(QWidget *widget, QAccessible::Role role)
+{
+    widget->setProperty(partJouee, static_cast<int>(role));
+}
+
 void LecteurDEcran::annoncer(QWidget *origine, const QString &texte)
 {
     if (!QAccessible::isActive())
@@ -96,9 +92,4 @@ void LecteurDEcran::annoncer(QWidget *origine, const QString &texte)
     QAccessibleAnnouncementEvent annonce(origine, texte);
     QAccessible::updateAccessibility(&annonce);
 #endif
-}
-
-QString LecteurDEcran::montant(const QString &ecrit)
-{
-    return ecrit == QStringLiteral("—") ? QStringLiteral("aucun montant") : ecrit;
 }

@@ -1,22 +1,20 @@
 #pragma once
 
+#include <QAccessible>
 #include <QString>
 
 class QWidget;
 
 namespace LecteurDEcran {
 
-// Says to screen readers what Qt cannot know of our own widgets: which are groups, which is a page to read, which
-// lines are to be spoken as they appear.
+// Makes screen readers see the parts that widgets play.
 void preparer();
 
-// The name of the labels whose text describes the control of their row: said there, not again with the whole group.
-inline constexpr QLatin1String detail("detail");
+// What Qt cannot know of our own widgets: that this one is a group, a page to read, a line to be spoken as it appears.
+// Said before the widget is given a name, which asks for its part.
+void jouer(QWidget *widget, QAccessible::Role role);
 
 // Has it spoken now: what a gesture changed elsewhere than under the focus.
 void annoncer(QWidget *origine, const QString &texte);
-
-// An amount as it is spoken: the dash of a missing one would be silence.
-QString montant(const QString &ecrit);
 
 } // namespace LecteurDEcran

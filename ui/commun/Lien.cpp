@@ -1,5 +1,6 @@
 #include "ui/commun/Lien.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QMessageBox>
 #include <QUrl>
@@ -8,6 +9,6 @@ void Lien::ouvrir(const QUrl &adresse, QWidget *parent)
 {
     if (adresse.scheme() == QLatin1String("https") && QDesktopServices::openUrl(adresse))
         return;
-    QMessageBox::information(parent, QStringLiteral("Quillet"),
+    QMessageBox::information(parent, QCoreApplication::applicationName(),
                              QStringLiteral("Aucun navigateur n’a ouvert cette page :\n%1").arg(adresse.toString()));
 }

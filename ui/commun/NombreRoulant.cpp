@@ -1,7 +1,6 @@
 #include "ui/commun/NombreRoulant.h"
 
 #include "ui/commun/Chiffres.h"
-#include "ui/commun/LecteurDEcran.h"
 #include "ui/commun/Ressort.h"
 
 #include <QPainter>
@@ -14,14 +13,14 @@ NombreRoulant::NombreRoulant(QWidget *parent)
     progres_->placer(1);
 }
 
-void NombreRoulant::afficher(const QString &texte, int sens)
+void NombreRoulant::afficher(const QString &texte, int sens, const QString &dit)
 {
     if (texte == text())
         return;
     precedent_ = text();
     sens_ = sens;
     setText(texte);
-    setAccessibleName(LecteurDEcran::montant(texte));
+    setAccessibleName(dit.isEmpty() ? texte : dit);
     progres_->placer(precedent_.isEmpty() ? 1 : 0);
     progres_->vers(1);
 }

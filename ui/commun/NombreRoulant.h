@@ -13,7 +13,8 @@ public:
     explicit NombreRoulant(QWidget *parent = nullptr);
 
     // `sens` is 1 when the number grows (digits roll upward), -1 when it shrinks.
-    void afficher(const QString &texte, int sens = 1);
+    // `dit` is spoken in its place.
+    void afficher(const QString &texte, int sens = 1, const QString &dit = {});
 
 protected:
     void paintEvent(QPaintEvent *evenement) override;

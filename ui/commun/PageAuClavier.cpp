@@ -2,6 +2,7 @@
 
 #include "ui/Theme.h"
 #include "ui/commun/Dessin.h"
+#include "ui/commun/LecteurDEcran.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -9,6 +10,7 @@
 
 PageAuClavier::PageAuClavier(QWidget *parent) : Defilement(parent)
 {
+    LecteurDEcran::jouer(this, QAccessible::Document);
     setFocusPolicy(Qt::StrongFocus);
 }
 

@@ -17,7 +17,7 @@ constexpr QSize tailleDesDocuments(760, 720);
 
 VueDocuments::VueDocuments(const Catalogue &catalogue, const Commande &commande, const Preferences &preferences,
                            Aujourdhui aujourdhui, OngletDocuments onglet, QWidget *parent)
-    : Feuille(QStringLiteral("Documents d’envoi"), aujourdhui, parent),
+    : FeuilleDuJour(QStringLiteral("Documents d’envoi"), aujourdhui, parent),
       catalogue_(catalogue),
       commande_(commande),
       douane_(new FicheDouane(catalogue.reglages())),

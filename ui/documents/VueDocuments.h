@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/Preferences.h"
-#include "ui/commun/Feuille.h"
+#include "ui/FeuilleDuJour.h"
 #include "ui/documents/OngletDocuments.h"
 
 class Catalogue;
@@ -10,7 +10,7 @@ class FicheDouane;
 class FicheFacture;
 
 // What goes with the parcel: the values of the customs form, and the invoice.
-class VueDocuments : public Feuille
+class VueDocuments : public FeuilleDuJour
 {
     Q_OBJECT
 

@@ -1,10 +1,10 @@
 #include "ui/livres/RangeeBouton.h"
 
+#include "model/Format.h"
 #include "ui/Theme.h"
 #include "ui/commun/BoutonCopier.h"
 #include "ui/commun/Boutons.h"
 #include "ui/commun/Chiffres.h"
-#include "ui/commun/LecteurDEcran.h"
 #include "ui/commun/LibelleChiffre.h"
 #include "ui/commun/TailleDuTexte.h"
 #include "ui/livres/LigneEtat.h"
@@ -151,12 +151,12 @@ void RangeeBouton::montrer(const TextesBoutons::Ligne &ligne)
     reporter_->parentWidget()->setVisible(ligne.peutReporter);
 
     // A screen reader hears the whole row with the figure to copy.
-    const QString actuel = QStringLiteral("Actuel : %1").arg(LecteurDEcran::montant(ligne.actuel));
+    const QString actuel = QStringLiteral("Actuel : %1").arg(Format::dit(ligne.actuel));
     QStringList mots{ligne.destination, ligne.etatEnMots, actuel, ligne.ecart, ligne.palier};
     mots.removeAll(QString());
     const QString enMots = mots.join(QStringLiteral(", "));
     actuel_->setAccessibleName(actuel);
-    calcule_->setAccessibleName(QStringLiteral("Calculé : %1").arg(LecteurDEcran::montant(ligne.calcule)));
+    calcule_->setAccessibleName(QStringLiteral("Calculé : %1").arg(Format::dit(ligne.calcule)));
     copier_->setAccessibleName(ligne.aCopier.isEmpty() ? QStringLiteral("Rien à copier, %1").arg(enMots)
                                                        : QStringLiteral("Copier %1, %2").arg(ligne.aCopier, enMots));
     etat_->setAccessibleName(enMots);

@@ -18,7 +18,7 @@ public:
     FeuilleMiseAJour(MisesAJour &misesAJour, QWidget *parent);
 
 private:
-    void actualiser() final;
+    void actualiser();
     void retirer();
 
     MisesAJour &misesAJour_;

@@ -1,5 +1,6 @@
 #include "ui/reponse/Mail.h"
 
+#include "documents/AdresseMail.h"
 #include "model/Echec.h"
 
 #include <QProcess>
@@ -101,23 +102,12 @@ bool ouvrir(GAppInfo *programme, const QString &adresse)
 
 } // namespace
 
-bool Mail::estUneAdresse(const QString &texte)
-{
-    const QString adresse = texte.trimmed();
-    const auto interdite = [](QChar lettre) {
-        return QStringView(u",;\"<>()[]:\\").contains(lettre) || lettre.isSpace() || !lettre.isPrint();
-    };
-    return adresse.count(u'@') == 1 && !adresse.startsWith(u'@') && !adresse.endsWith(u'@')
-           && !adresse.contains(QLatin1String("=?")) // an encoded word, which a mail program would read as other text
-           && std::ranges::none_of(adresse, interdite);
-}
-
 void Mail::ecrire(const QString &a, const QString &sujet, const QString &corps, const std::optional<QString> &enGras)
 {
     const Programme programme(g_app_info_get_default_for_uri_scheme("mailto"));
     if (!programme)
         return;
-    const QString destinataire = estUneAdresse(a) ? a.trimmed() : QString();
+    const QString destinataire = AdresseMail::estSeule(a) ? a.trimmed() : QString();
     const QString titre = surUneLigne(sujet);
     const bool parti = estThunderbird(programme.get())
                            ? composer(programme.get(), pourThunderbird(destinataire, titre, enHtml(corps, enGras)))

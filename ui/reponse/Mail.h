@@ -7,10 +7,6 @@
 // The way out through the user's mail program.
 namespace Mail {
 
-// Whether the text, blanks around it aside, is one plain address: nothing that could name another recipient, a header
-// or a file.
-bool estUneAdresse(const QString &texte);
-
 // Opens a new message, ready to send. `a` is handed over only when it is one plain address. The first occurrence of
 // `enGras` in `corps` is bold, where the mail program takes styled text. Without any mail program, does nothing.
 // Throws Echec when there is one that does not start.

@@ -1,6 +1,6 @@
 #include "ui/reponse/TextesReponse.h"
 
-#include "ui/reponse/Mail.h"
+#include "documents/AdresseMail.h"
 
 QString TextesReponse::lienAbsent(const ReponseType &reponse)
 {
@@ -12,7 +12,7 @@ QString TextesReponse::lienAbsent(const ReponseType &reponse)
 
 QString TextesReponse::adresseRefusee(const QString &adresse)
 {
-    if (adresse.trimmed().isEmpty() || Mail::estUneAdresse(adresse))
+    if (adresse.trimmed().isEmpty() || AdresseMail::estSeule(adresse))
         return {};
     return QStringLiteral("Ce n’est pas une adresse seule : le message s’ouvrira sans destinataire.");
 }

@@ -41,7 +41,7 @@ QLineEdit *champ(const QString &nom, const QString &exemple)
 } // namespace
 
 VueReponse::VueReponse(const Catalogue &catalogue, Commande &commande, Aujourdhui aujourdhui, QWidget *parent)
-    : Feuille(QStringLiteral("Réponse à l’acheteur"), std::move(aujourdhui), parent),
+    : FeuilleDuJour(QStringLiteral("Réponse à l’acheteur"), std::move(aujourdhui), parent),
       catalogue_(catalogue),
       commande_(commande),
       langue_(new ChoixLangue),

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/commun/Feuille.h"
+#include "ui/FeuilleDuJour.h"
 
 #include <optional>
 
@@ -15,7 +15,7 @@ class QPushButton;
 class QStackedWidget;
 
 // The reply to the buyer: the seller pastes the payment link, reads the message, and hands it to the mail program.
-class VueReponse : public Feuille
+class VueReponse : public FeuilleDuJour
 {
     Q_OBJECT
 

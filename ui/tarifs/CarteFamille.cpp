@@ -1,5 +1,6 @@
 #include "ui/tarifs/CarteFamille.h"
 
+#include "model/Format.h"
 #include "ui/Theme.h"
 #include "ui/commun/Dessin.h"
 #include "ui/commun/LecteurDEcran.h"
@@ -25,7 +26,7 @@ public:
     {
         setContentsMargins(0, 0, retrait, 0);
         setFont(Theme::enGras(font(), enCours_ ? QFont::DemiBold : QFont::Medium));
-        const QString dit = LecteurDEcran::montant(prix.texte);
+        const QString dit = Format::dit(prix.texte);
         setAccessibleName(enCours_ ? QStringLiteral("%1, %2 : %3, palier de la commande en cours").arg(zone, poids, dit)
                                    : QStringLiteral("%1, %2 : %3").arg(zone, poids, dit));
         if (enCours_)
@@ -73,6 +74,7 @@ QWidget *rangee(const TextesTarifs::Palier &palier, const QStringList &zones)
 
 CarteFamille::CarteFamille(const TextesTarifs::Famille &famille, QWidget *parent) : QWidget(parent)
 {
+    LecteurDEcran::jouer(this, QAccessible::Grouping);
     auto *colonne = new QVBoxLayout(this);
     colonne->setContentsMargins(18, 8, 18, 12);
     colonne->setSpacing(0);

@@ -11,8 +11,6 @@ using TextesTarifs::Famille;
 using TextesTarifs::Palier;
 using TextesTarifs::Prix;
 
-const QString absent = QStringLiteral("—");
-
 QString titre(FamilleTarifs famille)
 {
     switch (famille) {
@@ -32,7 +30,7 @@ Prix prix(const GrilleColissimo &grille, Grammes jusqua, const std::optional<Cal
 {
     const auto palier = std::ranges::find(grille.paliers, jusqua, &::Palier::jusqua);
     if (palier == grille.paliers.end())
-        return {absent};
+        return {Format::absent};
     // A schedule to come may cut its tiers otherwise: what counts is the parcel.
     const bool enCours = commande && commande->palier && commande->grille->code == grille.code
                          && grille.palier(commande->poidsRetenu) == *palier;
@@ -92,6 +90,6 @@ QList<TextesTarifs::Frais> TextesTarifs::frais(const FraisPaypal &frais)
     for (const auto region : {RegionPaypal::eee, RegionPaypal::royaumeUni, RegionPaypal::autres})
         lignes.append({TextesFrais::region(region), frais.supplements.contains(Json::brut(region))
                                                         ? Format::pourcentage(frais.supplement(region))
-                                                        : absent});
+                                                        : QString(Format::absent)});
     return lignes;
 }

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace AdresseMail {
+
+// Whether the text, blanks around it aside, is one plain address: nothing that could name another recipient, a header
+// or a file.
+bool estSeule(const QString &texte);
+
+} // namespace AdresseMail
