@@ -1,9 +1,9 @@
 #include "bench/Gestes.h"
 #include "bench/Mesures.h"
 #include "bench/Scene.h"
+#include "composants/Ressort.h"
 #include "ui/Fenetre.h"
 #include "ui/commande/Couverture.h"
-#include "ui/commun/Ressort.h"
 
 #include <QScrollArea>
 

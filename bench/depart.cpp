@@ -1,9 +1,9 @@
 #include "bench/Memoire.h"
 #include "bench/Temoin.h"
+#include "composants/bureau/Bureau.h"
 #include "ui/Fenetre.h"
 #include "ui/InstanceUnique.h"
 #include "ui/QuilletApp.h"
-#include "ui/bureau/Bureau.h"
 #include "visite/HorsReseau.h"
 
 #include <QTimer>

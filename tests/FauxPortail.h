@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/bureau/Souhaits.h"
+#include "composants/bureau/Souhaits.h"
 
 #include <QDBusConnection>
 #include <QDBusVirtualObject>

@@ -1,7 +1,7 @@
 #include "ui/ControlePoste.h"
 
+#include "composants/Theme.h"
 #include "model/Couvertures.h"
-#include "ui/Theme.h"
 
 #include <QFileInfo>
 #include <QFontDatabase>

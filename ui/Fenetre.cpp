@@ -1,8 +1,8 @@
 #include "ui/Fenetre.h"
 
+#include "composants/Place.h"
+#include "composants/Theme.h"
 #include "ui/ContenuPrincipal.h"
-#include "ui/Theme.h"
-#include "ui/commun/Place.h"
 #include "ui/misesajour/FeuilleMiseAJour.h"
 #include "watch/MisesAJour.h"
 

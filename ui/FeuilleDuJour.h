@@ -1,7 +1,7 @@
 #pragma once
 
+#include "composants/Feuille.h"
 #include "ui/Aujourdhui.h"
-#include "ui/commun/Feuille.h"
 
 // A sheet that shows what depends on the day is brought up to date when it is seen again on another.
 class FeuilleDuJour : public Feuille

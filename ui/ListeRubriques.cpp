@@ -1,8 +1,8 @@
 #include "ui/ListeRubriques.h"
 
-#include "ui/Theme.h"
-#include "ui/commun/Dessin.h"
-#include "ui/commun/Icone.h"
+#include "composants/Dessin.h"
+#include "composants/Icone.h"
+#include "composants/Theme.h"
 
 #include <QPainter>
 #include <QStyledItemDelegate>

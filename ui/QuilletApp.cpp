@@ -1,11 +1,11 @@
 #include "ui/QuilletApp.h"
 
-#include "ui/ComplementFrancais.h"
+#include "composants/ComplementFrancais.h"
+#include "composants/LecteurDEcran.h"
+#include "composants/Style.h"
+#include "composants/TailleDuTexte.h"
+#include "composants/bureau/Bureau.h"
 #include "ui/Fenetre.h"
-#include "ui/bureau/Bureau.h"
-#include "ui/commun/LecteurDEcran.h"
-#include "ui/commun/Style.h"
-#include "ui/commun/TailleDuTexte.h"
 
 #include <QApplication>
 #include <QLibraryInfo>

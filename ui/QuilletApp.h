@@ -1,11 +1,11 @@
 #pragma once
 
+#include "composants/Theme.h"
 #include "model/Catalogue.h"
 #include "model/Commande.h"
 #include "model/Preferences.h"
 #include "ui/Aujourdhui.h"
-#include "ui/Theme.h"
-#include "ui/commun/ImagesCouvertures.h"
+#include "ui/couvertures/ImagesCouvertures.h"
 #include "watch/MisesAJour.h"
 #include "watch/Verifications.h"
 

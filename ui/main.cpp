@@ -1,9 +1,9 @@
+#include "composants/PressePapiers.h"
+#include "composants/bureau/Bureau.h"
 #include "ui/Fenetre.h"
 #include "ui/InstanceUnique.h"
 #include "ui/LigneDeCommande.h"
-#include "ui/PressePapiers.h"
 #include "ui/QuilletApp.h"
-#include "ui/bureau/Bureau.h"
 
 #include <QApplication>
 #include <QDesktopServices>

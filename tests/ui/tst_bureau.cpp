@@ -1,7 +1,7 @@
+#include "composants/Style.h"
+#include "composants/bureau/Bureau.h"
 #include "tests/FauxPortail.h"
 #include "ui/QuilletApp.h"
-#include "ui/bureau/Bureau.h"
-#include "ui/commun/Style.h"
 
 #include <QApplication>
 #include <QDBusVariant>

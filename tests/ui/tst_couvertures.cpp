@@ -1,7 +1,7 @@
 #include "tests/Banc.h"
 #include "ui/commande/Couverture.h"
-#include "ui/commun/DessinCouverture.h"
-#include "ui/commun/ImagesCouvertures.h"
+#include "ui/couvertures/DessinCouverture.h"
+#include "ui/couvertures/ImagesCouvertures.h"
 
 #include <QFile>
 #include <QSignalSpy>

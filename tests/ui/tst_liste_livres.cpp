@@ -1,7 +1,7 @@
 #include "tests/Banc.h"
-#include "ui/livres/FiltreLivres.h"
+#include "textes/FiltreLivres.h"
+#include "textes/TextesRetour.h"
 #include "ui/livres/ModeleLivres.h"
-#include "ui/livres/TextesRetour.h"
 
 #include <QAbstractItemModelTester>
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "ui/commun/Ressort.h"
+#include "composants/Ressort.h"
 
 #include <QApplication>
 #include <QProxyStyle>

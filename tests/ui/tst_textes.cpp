@@ -1,8 +1,8 @@
 #include "tests/Banc.h"
+#include "textes/TextesDocuments.h"
+#include "textes/TextesLivres.h"
+#include "textes/TextesRecapitulatif.h"
 #include "ui/ControlePoste.h"
-#include "ui/commande/TextesRecapitulatif.h"
-#include "ui/commun/TextesLivres.h"
-#include "ui/documents/TextesDocuments.h"
 
 #include <QTest>
 

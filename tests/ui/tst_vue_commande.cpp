@@ -1,7 +1,7 @@
+#include "composants/Icone.h"
 #include "tests/BancEcran.h"
 #include "ui/ContenuPrincipal.h"
 #include "ui/commande/TransitionCartes.h"
-#include "ui/commun/Icone.h"
 #include "visite/Ecran.h"
 
 #include <QAbstractButton>

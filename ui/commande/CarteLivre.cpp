@@ -1,15 +1,15 @@
 #include "ui/commande/CarteLivre.h"
 
+#include "composants/Chiffres.h"
+#include "composants/Dessin.h"
+#include "composants/TailleDuTexte.h"
+#include "composants/Theme.h"
 #include "model/Commande.h"
 #include "model/Format.h"
-#include "ui/Theme.h"
+#include "textes/TextesLivres.h"
 #include "ui/commande/Couverture.h"
 #include "ui/commande/SelecteurQuantite.h"
-#include "ui/commun/Chiffres.h"
-#include "ui/commun/Dessin.h"
-#include "ui/commun/DessinCouverture.h"
-#include "ui/commun/TailleDuTexte.h"
-#include "ui/commun/TextesLivres.h"
+#include "ui/couvertures/DessinCouverture.h"
 
 #include <QHelpEvent>
 #include <QHoverEvent>

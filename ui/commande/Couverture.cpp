@@ -1,11 +1,11 @@
 #include "ui/commande/Couverture.h"
 
-#include "ui/Theme.h"
-#include "ui/commun/Chiffres.h"
-#include "ui/commun/Dessin.h"
-#include "ui/commun/DessinCouverture.h"
-#include "ui/commun/ImagesCouvertures.h"
-#include "ui/commun/Ressort.h"
+#include "composants/Chiffres.h"
+#include "composants/Dessin.h"
+#include "composants/Ressort.h"
+#include "composants/Theme.h"
+#include "ui/couvertures/DessinCouverture.h"
+#include "ui/couvertures/ImagesCouvertures.h"
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/commun/Formulaire.h"
-#include "ui/commun/NombreRoulant.h"
+#include "composants/Formulaire.h"
+#include "composants/NombreRoulant.h"
 
 // A row of the summary whose value is a figure that rolls over.
 struct RangeeMontant

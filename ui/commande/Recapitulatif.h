@@ -1,7 +1,7 @@
 #pragma once
 
+#include "composants/Defilement.h"
 #include "model/Calcul.h"
-#include "ui/commun/Defilement.h"
 #include "ui/documents/OngletDocuments.h"
 
 class SectionDestination;

@@ -1,10 +1,10 @@
 #include "ui/commande/SectionDestination.h"
 
-#include "ui/Theme.h"
-#include "ui/commande/TextesRecapitulatif.h"
-#include "ui/commun/Choix.h"
-#include "ui/commun/Interrupteur.h"
-#include "ui/commun/Libelle.h"
+#include "composants/Choix.h"
+#include "composants/Interrupteur.h"
+#include "composants/Libelle.h"
+#include "composants/Theme.h"
+#include "textes/TextesRecapitulatif.h"
 
 SectionDestination::SectionDestination(const QList<Destination> &destinations, Commande &commande, QWidget *parent)
     : Section(QStringLiteral("Destination"), {}, parent),

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "composants/Formulaire.h"
 #include "model/Calcul.h"
-#include "ui/commun/Formulaire.h"
 
 class Choix;
 class Interrupteur;

@@ -1,8 +1,8 @@
 #include "ui/commande/SectionDocuments.h"
 
+#include "composants/Icone.h"
+#include "composants/TailleDuTexte.h"
 #include "model/Calcul.h"
-#include "ui/commun/Icone.h"
-#include "ui/commun/TailleDuTexte.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/commun/Formulaire.h"
+#include "composants/Formulaire.h"
 #include "ui/documents/OngletDocuments.h"
 
 class Calcul;

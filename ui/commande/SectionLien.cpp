@@ -1,12 +1,12 @@
 #include "ui/commande/SectionLien.h"
 
+#include "composants/ChampACopier.h"
+#include "composants/Icone.h"
+#include "composants/Lien.h"
+#include "composants/LigneDeTexte.h"
 #include "documents/ReponseType.h"
-#include "ui/commande/TextesRecapitulatif.h"
-#include "ui/commun/ChampACopier.h"
-#include "ui/commun/ChoixLangue.h"
-#include "ui/commun/Icone.h"
-#include "ui/commun/Lien.h"
-#include "ui/commun/LigneDeTexte.h"
+#include "textes/TextesRecapitulatif.h"
+#include "ui/reponse/ChoixLangue.h"
 
 #include <QLineEdit>
 #include <QPushButton>

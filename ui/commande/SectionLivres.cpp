@@ -1,9 +1,9 @@
 #include "ui/commande/SectionLivres.h"
 
+#include "composants/Libelle.h"
+#include "composants/Theme.h"
 #include "model/Format.h"
-#include "ui/Theme.h"
-#include "ui/commande/TextesRecapitulatif.h"
-#include "ui/commun/Libelle.h"
+#include "textes/TextesRecapitulatif.h"
 
 SectionLivres::SectionLivres(QWidget *parent)
     : Section(QStringLiteral("Livres"), {}, parent),

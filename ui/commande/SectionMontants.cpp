@@ -1,11 +1,11 @@
 #include "ui/commande/SectionMontants.h"
 
+#include "composants/Chiffres.h"
+#include "composants/Dessin.h"
+#include "composants/Libelle.h"
+#include "composants/Theme.h"
 #include "model/Format.h"
-#include "ui/Theme.h"
-#include "ui/commande/TextesRecapitulatif.h"
-#include "ui/commun/Chiffres.h"
-#include "ui/commun/Dessin.h"
-#include "ui/commun/Libelle.h"
+#include "textes/TextesRecapitulatif.h"
 
 #include <QEvent>
 #include <QHBoxLayout>

@@ -1,12 +1,12 @@
 #include "ui/commande/SectionPoids.h"
 
+#include "composants/Alerte.h"
+#include "composants/Choix.h"
+#include "composants/Libelle.h"
+#include "composants/Theme.h"
 #include "model/Format.h"
-#include "ui/Theme.h"
-#include "ui/commande/TextesRecapitulatif.h"
-#include "ui/commun/Alerte.h"
-#include "ui/commun/ChampGrammes.h"
-#include "ui/commun/Choix.h"
-#include "ui/commun/Libelle.h"
+#include "textes/TextesRecapitulatif.h"
+#include "ui/commande/ChampGrammes.h"
 
 #include <QHBoxLayout>
 

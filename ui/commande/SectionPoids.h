@@ -1,8 +1,8 @@
 #pragma once
 
 #include "model/Calcul.h"
+#include "textes/TextesRecapitulatif.h"
 #include "ui/commande/RangeeMontant.h"
-#include "ui/commande/TextesRecapitulatif.h"
 
 class ChampGrammes;
 class Choix;

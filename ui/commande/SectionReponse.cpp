@@ -1,8 +1,8 @@
 #include "ui/commande/SectionReponse.h"
 
+#include "composants/Icone.h"
 #include "documents/ReponseType.h"
-#include "ui/commande/TextesRecapitulatif.h"
-#include "ui/commun/Icone.h"
+#include "textes/TextesRecapitulatif.h"
 
 #include <QPushButton>
 

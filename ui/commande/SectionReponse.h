@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/commun/Formulaire.h"
+#include "composants/Formulaire.h"
 
 class Calcul;
 class Commande;

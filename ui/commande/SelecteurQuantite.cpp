@@ -1,13 +1,13 @@
 #include "ui/commande/SelecteurQuantite.h"
 
+#include "composants/Dessin.h"
+#include "composants/Icone.h"
+#include "composants/LecteurDEcran.h"
+#include "composants/NombreRoulant.h"
+#include "composants/Ressort.h"
+#include "composants/TailleDuTexte.h"
+#include "composants/Theme.h"
 #include "model/Commande.h"
-#include "ui/Theme.h"
-#include "ui/commun/Dessin.h"
-#include "ui/commun/Icone.h"
-#include "ui/commun/LecteurDEcran.h"
-#include "ui/commun/NombreRoulant.h"
-#include "ui/commun/Ressort.h"
-#include "ui/commun/TailleDuTexte.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,8 +1,8 @@
 #include "ui/commande/SelecteurSite.h"
 
-#include "ui/Theme.h"
-#include "ui/commun/ChoixSegmente.h"
-#include "ui/commun/NomsVendeurs.h"
+#include "composants/ChoixSegmente.h"
+#include "composants/Theme.h"
+#include "textes/NomsVendeurs.h"
 
 #include <QHBoxLayout>
 #include <QRadioButton>

@@ -1,8 +1,8 @@
 #include "ui/commande/TransitionCartes.h"
 
+#include "composants/Ressort.h"
 #include "ui/commande/CarteLivre.h"
-#include "ui/commun/ImagesCouvertures.h"
-#include "ui/commun/Ressort.h"
+#include "ui/couvertures/ImagesCouvertures.h"
 
 #include <QPainter>
 

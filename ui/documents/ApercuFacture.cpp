@@ -1,10 +1,10 @@
 #include "ui/documents/ApercuFacture.h"
 
-#include "ui/Theme.h"
-#include "ui/commun/Dessin.h"
-#include "ui/commun/Feuille.h"
-#include "ui/commun/PageAuClavier.h"
-#include "ui/commun/Place.h"
+#include "composants/Dessin.h"
+#include "composants/Feuille.h"
+#include "composants/PageAuClavier.h"
+#include "composants/Place.h"
+#include "composants/Theme.h"
 #include "ui/documents/PageFacture.h"
 
 #include <QPainter>

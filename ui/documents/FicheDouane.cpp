@@ -1,14 +1,14 @@
 #include "ui/documents/FicheDouane.h"
 
-#include "ui/Theme.h"
-#include "ui/commun/Alerte.h"
-#include "ui/commun/Boutons.h"
-#include "ui/commun/ChampACopier.h"
-#include "ui/commun/Defilement.h"
-#include "ui/commun/EtatVide.h"
-#include "ui/commun/Formulaire.h"
-#include "ui/commun/Libelle.h"
-#include "ui/commun/Lien.h"
+#include "composants/Alerte.h"
+#include "composants/Boutons.h"
+#include "composants/ChampACopier.h"
+#include "composants/Defilement.h"
+#include "composants/EtatVide.h"
+#include "composants/Formulaire.h"
+#include "composants/Libelle.h"
+#include "composants/Lien.h"
+#include "composants/Theme.h"
 
 #include <QPushButton>
 #include <QUrl>

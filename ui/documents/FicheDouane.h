@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/documents/TextesDocuments.h"
+#include "textes/TextesDocuments.h"
 
 #include <QStackedWidget>
 

@@ -1,7 +1,7 @@
 #include "ui/documents/PageFacture.h"
 
+#include "composants/Theme.h"
 #include "model/Format.h"
-#include "ui/Theme.h"
 
 #include <QApplication>
 #include <QPainter>

@@ -1,8 +1,8 @@
 #include "ui/documents/VueDocuments.h"
 
+#include "composants/ChoixSegmente.h"
 #include "model/Calcul.h"
 #include "model/Catalogue.h"
-#include "ui/commun/ChoixSegmente.h"
 #include "ui/documents/FicheDouane.h"
 #include "ui/documents/FicheFacture.h"
 

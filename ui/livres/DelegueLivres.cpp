@@ -1,14 +1,14 @@
 #include "ui/livres/DelegueLivres.h"
 
+#include "composants/Chiffres.h"
+#include "composants/Dessin.h"
+#include "composants/Theme.h"
 #include "model/Format.h"
-#include "ui/Theme.h"
-#include "ui/commun/Chiffres.h"
-#include "ui/commun/Dessin.h"
-#include "ui/commun/DessinCouverture.h"
-#include "ui/commun/NomsVendeurs.h"
-#include "ui/commun/TextesLivres.h"
+#include "textes/NomsVendeurs.h"
+#include "textes/TextesBoutons.h"
+#include "textes/TextesLivres.h"
+#include "ui/couvertures/DessinCouverture.h"
 #include "ui/livres/ModeleLivres.h"
-#include "ui/livres/TextesBoutons.h"
 
 #include <QPainter>
 

@@ -1,9 +1,9 @@
 #include "ui/livres/LigneEtat.h"
 
-#include "ui/Theme.h"
-#include "ui/commun/Dessin.h"
-#include "ui/commun/Icone.h"
-#include "ui/commun/TailleDuTexte.h"
+#include "composants/Dessin.h"
+#include "composants/Icone.h"
+#include "composants/TailleDuTexte.h"
+#include "composants/Theme.h"
 
 #include <QPainter>
 

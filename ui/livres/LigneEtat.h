@@ -1,7 +1,7 @@
 #pragma once
 
+#include "composants/Libelle.h"
 #include "model/PrixBouton.h"
-#include "ui/commun/Libelle.h"
 
 // The state of a PayPal button, in words behind its symbol.
 class LigneEtat : public Libelle

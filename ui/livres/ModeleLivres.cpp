@@ -1,9 +1,9 @@
 #include "ui/livres/ModeleLivres.h"
 
 #include "model/Catalogue.h"
-#include "ui/commun/TextesLivres.h"
-#include "ui/livres/Suivant.h"
-#include "ui/livres/TextesBoutons.h"
+#include "textes/Suivant.h"
+#include "textes/TextesBoutons.h"
+#include "textes/TextesLivres.h"
 
 #include <algorithm>
 #include <utility>

@@ -2,7 +2,7 @@
 
 #include "model/Livre.h"
 #include "model/Tarifs.h"
-#include "ui/livres/FiltreLivres.h"
+#include "textes/FiltreLivres.h"
 
 #include <QAbstractListModel>
 #include <QSet>

@@ -1,12 +1,12 @@
 #include "ui/livres/RangeeBouton.h"
 
+#include "composants/BoutonCopier.h"
+#include "composants/Boutons.h"
+#include "composants/Chiffres.h"
+#include "composants/LibelleChiffre.h"
+#include "composants/TailleDuTexte.h"
+#include "composants/Theme.h"
 #include "model/Format.h"
-#include "ui/Theme.h"
-#include "ui/commun/BoutonCopier.h"
-#include "ui/commun/Boutons.h"
-#include "ui/commun/Chiffres.h"
-#include "ui/commun/LibelleChiffre.h"
-#include "ui/commun/TailleDuTexte.h"
 #include "ui/livres/LigneEtat.h"
 
 #include <QApplication>

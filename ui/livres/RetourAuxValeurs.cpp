@@ -1,6 +1,6 @@
 #include "ui/livres/RetourAuxValeurs.h"
 
-#include "ui/livres/TextesRetour.h"
+#include "textes/TextesRetour.h"
 
 #include <QMessageBox>
 #include <QPushButton>

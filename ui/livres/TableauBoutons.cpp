@@ -1,9 +1,9 @@
 #include "ui/livres/TableauBoutons.h"
 
-#include "ui/Theme.h"
-#include "ui/commun/Dessin.h"
+#include "composants/Dessin.h"
+#include "composants/Theme.h"
+#include "textes/Suivant.h"
 #include "ui/livres/RangeeBouton.h"
-#include "ui/livres/Suivant.h"
 
 #include <QGridLayout>
 #include <QPainter>

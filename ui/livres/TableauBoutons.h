@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/livres/TextesBoutons.h"
+#include "textes/TextesBoutons.h"
 
 #include <QWidget>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/Tarifs.h"
-#include "ui/livres/FiltreLivres.h"
+#include "textes/FiltreLivres.h"
 
 #include <QWidget>
 

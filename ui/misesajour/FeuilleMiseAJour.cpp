@@ -1,12 +1,12 @@
 #include "ui/misesajour/FeuilleMiseAJour.h"
 
-#include "ui/Theme.h"
-#include "ui/commun/Alerte.h"
-#include "ui/commun/Boutons.h"
-#include "ui/commun/Libelle.h"
-#include "ui/commun/TailleDuTexte.h"
-#include "ui/commun/ZoneDeTexte.h"
-#include "ui/misesajour/TextesMiseAJour.h"
+#include "composants/Alerte.h"
+#include "composants/Boutons.h"
+#include "composants/Libelle.h"
+#include "composants/TailleDuTexte.h"
+#include "composants/Theme.h"
+#include "composants/ZoneDeTexte.h"
+#include "textes/TextesMiseAJour.h"
 #include "watch/MisesAJour.h"
 
 #include <QHBoxLayout>

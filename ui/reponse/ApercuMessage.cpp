@@ -1,7 +1,7 @@
 #include "ui/reponse/ApercuMessage.h"
 
-#include "ui/Theme.h"
-#include "ui/commun/Dessin.h"
+#include "composants/Dessin.h"
+#include "composants/Theme.h"
 
 #include <QEvent>
 #include <QPainter>

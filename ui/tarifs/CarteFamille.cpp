@@ -1,12 +1,12 @@
 #include "ui/tarifs/CarteFamille.h"
 
+#include "composants/Dessin.h"
+#include "composants/LecteurDEcran.h"
+#include "composants/Libelle.h"
+#include "composants/LibelleChiffre.h"
+#include "composants/RangeeDeTableau.h"
+#include "composants/Theme.h"
 #include "model/Format.h"
-#include "ui/Theme.h"
-#include "ui/commun/Dessin.h"
-#include "ui/commun/LecteurDEcran.h"
-#include "ui/commun/Libelle.h"
-#include "ui/commun/LibelleChiffre.h"
-#include "ui/tarifs/RangeeDeTableau.h"
 
 #include <QPainter>
 #include <QVBoxLayout>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/tarifs/TextesTarifs.h"
+#include "textes/TextesTarifs.h"
 
 #include <QWidget>
 

@@ -1,12 +1,12 @@
 #include "ui/tarifs/CarteNouveauxFrais.h"
 
+#include "composants/Icone.h"
+#include "composants/Libelle.h"
+#include "composants/LibelleChiffre.h"
+#include "composants/RangeeDeTableau.h"
+#include "composants/Theme.h"
 #include "model/Catalogue.h"
-#include "ui/Theme.h"
-#include "ui/commun/Icone.h"
-#include "ui/commun/Libelle.h"
-#include "ui/commun/LibelleChiffre.h"
-#include "ui/tarifs/RangeeDeTableau.h"
-#include "ui/tarifs/TextesTarifs.h"
+#include "textes/TextesTarifs.h"
 #include "watch/Verifications.h"
 
 #include <QPainter>

@@ -1,12 +1,12 @@
 #include "ui/tarifs/CarteNouveauxTarifs.h"
 
-#include "ui/commun/Alerte.h"
-#include "ui/commun/EtatVide.h"
-#include "ui/commun/Libelle.h"
-#include "ui/commun/LibelleChiffre.h"
-#include "ui/commun/PageAuClavier.h"
-#include "ui/tarifs/RangeeDeTableau.h"
-#include "ui/tarifs/TextesVerifications.h"
+#include "composants/Alerte.h"
+#include "composants/EtatVide.h"
+#include "composants/Libelle.h"
+#include "composants/LibelleChiffre.h"
+#include "composants/PageAuClavier.h"
+#include "composants/RangeeDeTableau.h"
+#include "textes/TextesVerifications.h"
 
 #include <QStyle>
 #include <QVBoxLayout>

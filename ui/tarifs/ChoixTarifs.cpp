@@ -1,9 +1,9 @@
 #include "ui/tarifs/ChoixTarifs.h"
 
+#include "composants/ChoixSegmente.h"
 #include "model/Catalogue.h"
 #include "model/Format.h"
-#include "ui/commun/ChoixSegmente.h"
-#include "ui/tarifs/TextesTarifs.h"
+#include "textes/TextesTarifs.h"
 
 #include <QHBoxLayout>
 #include <QRadioButton>

@@ -1,8 +1,8 @@
 #include "ui/tarifs/FeuilleDeReleve.h"
 
+#include "composants/Alerte.h"
+#include "composants/Boutons.h"
 #include "model/Fichier.h"
-#include "ui/commun/Alerte.h"
-#include "ui/commun/Boutons.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/commun/Feuille.h"
+#include "composants/Feuille.h"
 
 #include <functional>
 

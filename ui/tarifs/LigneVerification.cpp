@@ -1,10 +1,10 @@
 #include "ui/tarifs/LigneVerification.h"
 
-#include "ui/Theme.h"
-#include "ui/commun/Icone.h"
-#include "ui/commun/Libelle.h"
-#include "ui/commun/Lien.h"
-#include "ui/commun/TailleDuTexte.h"
+#include "composants/Icone.h"
+#include "composants/Libelle.h"
+#include "composants/Lien.h"
+#include "composants/TailleDuTexte.h"
+#include "composants/Theme.h"
 
 #include <QHBoxLayout>
 #include <QPainter>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/tarifs/TextesVerifications.h"
+#include "textes/TextesVerifications.h"
 
 #include <QWidget>
 

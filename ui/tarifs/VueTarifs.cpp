@@ -1,19 +1,19 @@
 #include "ui/tarifs/VueTarifs.h"
 
+#include "composants/EnTete.h"
+#include "composants/Formulaire.h"
+#include "composants/Libelle.h"
+#include "composants/PageAuClavier.h"
+#include "composants/TailleDuTexte.h"
+#include "composants/Theme.h"
 #include "model/Catalogue.h"
 #include "model/Commande.h"
-#include "ui/Theme.h"
-#include "ui/commun/EnTete.h"
-#include "ui/commun/Formulaire.h"
-#include "ui/commun/Libelle.h"
-#include "ui/commun/PageAuClavier.h"
-#include "ui/commun/TailleDuTexte.h"
+#include "textes/TextesVerifications.h"
 #include "ui/tarifs/CarteFamille.h"
 #include "ui/tarifs/CarteNouveauxFrais.h"
 #include "ui/tarifs/CarteNouveauxTarifs.h"
 #include "ui/tarifs/ChoixTarifs.h"
 #include "ui/tarifs/LigneVerification.h"
-#include "ui/tarifs/TextesVerifications.h"
 
 #include <QEvent>
 #include <QHBoxLayout>

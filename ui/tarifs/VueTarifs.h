@@ -1,7 +1,7 @@
 #pragma once
 
+#include "textes/TextesTarifs.h"
 #include "ui/Aujourdhui.h"
-#include "ui/tarifs/TextesTarifs.h"
 
 #include <QWidget>
 

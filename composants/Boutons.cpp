@@ -1,0 +1,12 @@
+#include "composants/Boutons.h"
+
+#include "composants/Icone.h"
+
+#include <QPushButton>
+
+QPushButton *Boutons::deFeuille(const QString &texte, const QString &symbole)
+{
+    auto *bouton = new QPushButton(symbole.isEmpty() ? QIcon() : Icone::icone(symbole), texte);
+    bouton->setAutoDefault(false);
+    return bouton;
+}

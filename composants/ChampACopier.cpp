@@ -1,0 +1,46 @@
+#include "composants/ChampACopier.h"
+
+#include "composants/BoutonCopier.h"
+#include "composants/Libelle.h"
+#include "composants/TailleDuTexte.h"
+#include "composants/Theme.h"
+
+#include <QHBoxLayout>
+
+ChampACopier::ChampACopier(const QString &titre, std::optional<int> colonneDuTitre, QWidget *parent)
+    : QWidget(parent), titre_(titre), affichage_(new Libelle({})), bouton_(new BoutonCopier)
+{
+    auto *titreAffiche = new Libelle(titre, Libelle::Rang::secondaire);
+    titreAffiche->setFont(Theme::encadre());
+    titreAffiche->setBuddy(affichage_);
+    affichage_->setWordWrap(true);
+    affichage_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    affichage_->setFocusPolicy(Qt::ClickFocus);
+    bouton_->setToolTip(QStringLiteral("Copier %1").arg(titre));
+
+    auto *textes = new QBoxLayout(colonneDuTitre ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    textes->setSpacing(colonneDuTitre ? 12 : 2);
+    if (colonneDuTitre) {
+        titreAffiche->setWordWrap(true);
+        TailleDuTexte::suivre(titreAffiche, [titreAffiche, largeur = *colonneDuTitre] {
+            titreAffiche->setFixedWidth(Theme::aLaTaille(largeur));
+        });
+    }
+    textes->addWidget(titreAffiche);
+    textes->addWidget(affichage_, colonneDuTitre ? 1 : 0);
+    auto *rangee = new QHBoxLayout(this);
+    rangee->setContentsMargins(0, 0, 0, 0);
+    rangee->setSpacing(8);
+    rangee->addLayout(textes, 1);
+    rangee->addWidget(bouton_, 0, Qt::AlignVCenter);
+}
+
+void ChampACopier::montrer(const QString &valeur, const QString &affichage)
+{
+    bouton_->setValeur(valeur);
+    const QString affiche = affichage.isEmpty() ? valeur : affichage;
+    affichage_->setText(affiche);
+    bouton_->setAccessibleName(QStringLiteral("Copier %1").arg(titre_.isEmpty() ? valeur : titre_));
+    if (!titre_.isEmpty()) // the button is all that the keyboard reaches
+        bouton_->setAccessibleDescription(affiche);
+}

@@ -1,0 +1,97 @@
+#include "composants/ChampSaisi.h"
+
+#include "composants/Alerte.h"
+#include "composants/Libelle.h"
+#include "composants/LigneDeTexte.h"
+#include "composants/TailleDuTexte.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+ChampSaisi::ChampSaisi(const QString &libelle, const Unite &unite, Refus refus, QWidget *parent)
+    : QWidget(parent), refus_(std::move(refus)), champ_(new LigneDeTexte), alerte_(new Alerte)
+{
+    auto *titre = new Libelle(libelle);
+    titre->setBuddy(champ_);
+    auto *mesure = new Libelle(unite.symbole, Libelle::Rang::secondaire);
+    champ_->setAlignment(Qt::AlignRight);
+    TailleDuTexte::suivre(mesure, [this, mesure] {
+        mesure->setFixedWidth(fontMetrics().horizontalAdvance(u'€') + 4); // fields line up whatever their unit
+        champ_->setFixedWidth(fontMetrics().horizontalAdvance(QStringLiteral("99 999,99")) + 32);
+    });
+    champ_->setAccessibleName(QStringLiteral("%1, en %2").arg(libelle, unite.nom));
+    champ_->installEventFilter(this);
+    connect(champ_, &QLineEdit::textEdited, this, [this](const QString &texte) { direLeRefus(refus_(texte)); });
+    connect(champ_, &QLineEdit::returnPressed, this, [this] {
+        conclure();
+        champ_->selectAll();
+    });
+
+    auto *rangee = new QHBoxLayout;
+    rangee->setSpacing(8);
+    rangee->addWidget(titre, 1);
+    rangee->addWidget(champ_);
+    rangee->addWidget(mesure);
+    auto *colonne = new QVBoxLayout(this);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(4);
+    colonne->addLayout(rangee);
+    colonne->addWidget(alerte_);
+}
+
+void ChampSaisi::setInvite(const QString &invite)
+{
+    champ_->setPlaceholderText(invite);
+}
+
+void ChampSaisi::montrer(const QString &valeur)
+{
+    if (valeur == valeur_)
+        return;
+    valeur_ = valeur;
+    oublier();
+}
+
+void ChampSaisi::oublier()
+{
+    champ_->setText(valeur_);
+    direLeRefus({});
+}
+
+void ChampSaisi::direLeRefus(const QString &refus)
+{
+    alerte_->montrer(refus);
+    champ_->setAccessibleDescription(refus);
+}
+
+void ChampSaisi::conclure()
+{
+    const QString texte = champ_->text();
+    if (texte == valeur_)
+        return;
+    champ_->setText(valeur_); // until somebody shows another
+    const QString refus = refus_(texte);
+    direLeRefus(refus);
+    if (refus.isEmpty())
+        emit saisi(texte);
+}
+
+bool ChampSaisi::eventFilter(QObject *objet, QEvent *evenement)
+{
+    const auto passager = [evenement] { return LigneDeTexte::reviendra(*static_cast<QFocusEvent *>(evenement)); };
+    if (evenement->type() == QEvent::FocusOut && !passager())
+        conclure();
+    if (evenement->type() == QEvent::FocusIn && !passager())
+        direLeRefus({}); // of an earlier try
+    if (evenement->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(evenement)->key() == Qt::Key_Escape)
+        oublier();
+    return QWidget::eventFilter(objet, evenement);
+}
+
+// The window may close with the focus still in the field.
+void ChampSaisi::hideEvent(QHideEvent *evenement)
+{
+    QWidget::hideEvent(evenement);
+    conclure();
+}

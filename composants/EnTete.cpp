@@ -1,0 +1,39 @@
+#include "composants/EnTete.h"
+
+#include "composants/Libelle.h"
+#include "composants/Theme.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QVBoxLayout>
+
+EnTete::EnTete(const QString &titre, QWidget *parent)
+    : QWidget(parent), sousTitre_(new Libelle({}, Libelle::Rang::secondaire)), rangee_(new QHBoxLayout(this))
+{
+    auto *grand = new Libelle(titre);
+    grand->setFont(Theme::titreEcran());
+    sousTitre_->setFont(Theme::encadre());
+    sousTitre_->hide();
+    auto *textes = new QVBoxLayout;
+    textes->setSpacing(0);
+    textes->addWidget(grand);
+    textes->addWidget(sousTitre_);
+    rangee_->setContentsMargins(Theme::margeDePage, 14, Theme::margeDePage, 14);
+    rangee_->addLayout(textes, 1);
+}
+
+void EnTete::setSousTitre(const QString &sousTitre)
+{
+    sousTitre_->setText(sousTitre);
+    sousTitre_->setVisible(!sousTitre.isEmpty());
+}
+
+void EnTete::ajouter(QWidget *commande)
+{
+    rangee_->addWidget(commande, 0, Qt::AlignVCenter);
+}
+
+void EnTete::paintEvent(QPaintEvent *)
+{
+    QPainter(this).fillRect(0, height() - 1, width(), 1, Theme::filet(palette()));
+}

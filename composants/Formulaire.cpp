@@ -1,0 +1,170 @@
+#include "composants/Formulaire.h"
+
+#include "composants/Dessin.h"
+#include "composants/LecteurDEcran.h"
+#include "composants/Libelle.h"
+#include "composants/Theme.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace Formulaire {
+
+namespace {
+
+Libelle *secondeLigne()
+{
+    Libelle *detail = Libelle::note({});
+    LecteurDEcran::jouer(detail, QAccessible::Paragraph); // describes the control of its row: said there, once
+    detail->hide();
+    return detail;
+}
+
+void montrerDetail(Libelle *libelle, const QString &detail)
+{
+    libelle->setText(detail);
+    libelle->setAccessibleName(detail);
+    libelle->setVisible(!detail.isEmpty());
+}
+
+QVBoxLayout *surDeuxLignes(Libelle *libelle, Libelle *detail)
+{
+    auto *textes = new QVBoxLayout;
+    textes->setSpacing(2);
+    textes->addWidget(libelle);
+    textes->addWidget(detail);
+    return textes;
+}
+
+// A screen reader says the label before the value it stands beside.
+void relier(Libelle *libelle, QWidget *valeur)
+{
+    libelle->setBuddy(valeur);
+    if (!qobject_cast<QLabel *>(valeur) && valeur->accessibleName().isEmpty())
+        valeur->setAccessibleName(libelle->text());
+}
+
+// The second line describes the control of its row.
+void decrire(QWidget *valeur, const QString &detail)
+{
+    QWidget *controle = valeur->focusProxy() ? valeur->focusProxy() : valeur;
+    if (!qobject_cast<QLabel *>(controle))
+        controle->setAccessibleDescription(detail);
+}
+
+} // namespace
+
+Groupe::Groupe(QWidget *parent) : QWidget(parent), rangees_(new QVBoxLayout(this))
+{
+    LecteurDEcran::jouer(this, QAccessible::Grouping); // called by the note of its section
+    rangees_->setContentsMargins(margeHorizontale, 3, margeHorizontale, 3);
+    rangees_->setSpacing(0);
+}
+
+void Groupe::ajouter(QWidget *rangee)
+{
+    inserer(rangees_->count(), rangee);
+}
+
+void Groupe::inserer(int indice, QWidget *rangee)
+{
+    rangee->setContentsMargins(0, margeVerticale, 0, margeVerticale);
+    rangees_->insertWidget(indice, rangee);
+}
+
+void Groupe::paintEvent(QPaintEvent *)
+{
+    QPainter peintre(this);
+    Dessin::carte(peintre, rect(), palette());
+
+    peintre.setPen(QPen(Theme::filet(palette()), 1));
+    bool premiere = true;
+    for (int i = 0; i < rangees_->count(); ++i) {
+        const QWidget *rangee = rangees_->itemAt(i)->widget();
+        if (!rangee || rangee->isHidden())
+            continue;
+        if (!std::exchange(premiere, false)) {
+            const double haut = rangee->y() + 0.5;
+            peintre.drawLine(QPointF(margeHorizontale, haut), QPointF(width() - margeHorizontale, haut));
+        }
+    }
+}
+
+Section::Section(const QString &titre, const QString &pied, QWidget *parent) : QWidget(parent), groupe_(new Groupe)
+{
+    LecteurDEcran::jouer(this, QAccessible::Grouping);
+    auto *colonne = new QVBoxLayout(this);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(6);
+    auto *tete = new Libelle(titre);
+    tete->setFont(Theme::titreCarte());
+    tete->setContentsMargins(2, 0, 2, 0);
+    colonne->addWidget(tete);
+    colonne->addWidget(groupe_);
+    if (!pied.isEmpty()) {
+        Libelle *note = Libelle::note(pied);
+        note->setContentsMargins(margeHorizontale, 0, margeHorizontale, 0);
+        note->setBuddy(groupe_); // else it is read with the whole sheet, and again here
+        colonne->addWidget(note);
+    }
+    setAccessibleName(titre);
+}
+
+Rangee::Rangee(const QString &libelle, QWidget *valeur, QWidget *parent)
+    : QWidget(parent), libelle_(new Libelle(libelle)), detail_(secondeLigne()), valeur_(valeur)
+{
+    auto *rangee = new QHBoxLayout(this);
+    rangee->setContentsMargins(0, 0, 0, 0);
+    rangee->setSpacing(8);
+    // A value that wants room takes what its label leaves; any other keeps to the right.
+    const bool large = valeur->sizePolicy().horizontalPolicy() == QSizePolicy::Expanding;
+    // A label that comes later may be long: a book's title, a list of territories.
+    libelle_->setWordWrap(libelle.isEmpty());
+    rangee->addLayout(surDeuxLignes(libelle_, detail_), large ? 0 : 1);
+    rangee->addWidget(valeur, large ? 1 : 0, large ? Qt::AlignVCenter : Qt::AlignRight | Qt::AlignVCenter);
+    relier(libelle_, valeur);
+}
+
+void Rangee::setTexte(const QString &libelle)
+{
+    // Beside a control Qt would take an & for the mark of a key.
+    libelle_->setText(libelle_->buddy() ? QString(libelle).replace(u'&', QStringLiteral("&&")) : libelle);
+}
+
+void Rangee::setDetail(const QString &detail)
+{
+    montrerDetail(detail_, detail);
+    decrire(valeur_, detail);
+}
+
+RangeeHaute::RangeeHaute(const QString &libelle, QWidget *valeur, QWidget *parent)
+    : QWidget(parent), detail_(secondeLigne()), valeur_(valeur)
+{
+    auto *titre = new Libelle(libelle);
+    auto *colonne = new QVBoxLayout(this);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(6);
+    colonne->addLayout(surDeuxLignes(titre, detail_));
+    colonne->addWidget(valeur);
+    relier(titre, valeur);
+}
+
+void RangeeHaute::setDetail(const QString &detail)
+{
+    montrerDetail(detail_, detail);
+    decrire(valeur_, detail);
+}
+
+QWidget *seul(QWidget *controle)
+{
+    auto *rangee = new QWidget;
+    auto *place = new QVBoxLayout(rangee);
+    place->setContentsMargins(0, 0, 0, 0);
+    place->addWidget(controle);
+    return rangee;
+}
+
+} // namespace Formulaire

@@ -1,0 +1,14 @@
+#include "composants/Lien.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QMessageBox>
+#include <QUrl>
+
+void Lien::ouvrir(const QUrl &adresse, QWidget *parent)
+{
+    if (adresse.scheme() == QLatin1String("https") && QDesktopServices::openUrl(adresse))
+        return;
+    QMessageBox::information(parent, QCoreApplication::applicationName(),
+                             QStringLiteral("Aucun navigateur n’a ouvert cette page :\n%1").arg(adresse.toString()));
+}

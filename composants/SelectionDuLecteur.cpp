@@ -1,0 +1,21 @@
+#include "composants/SelectionDuLecteur.h"
+
+#include <QItemSelectionModel>
+
+SelectionDuLecteur::SelectionDuLecteur(const QItemSelectionModel *lignes, QObject *parent) : QObject(parent)
+{
+    connect(lignes, &QItemSelectionModel::selectionChanged, this, &SelectionDuLecteur::noter);
+    connect(lignes, &QItemSelectionModel::currentChanged, this, [this] { ligne_ = QModelIndex(); });
+}
+
+void SelectionDuLecteur::noter(const QItemSelection &lignes)
+{
+    ligne_ = lignes.isEmpty() ? QModelIndex() : lignes.indexes().constFirst();
+    QMetaObject::invokeMethod(this, &SelectionDuLecteur::dire, Qt::QueuedConnection); // the current row changes after
+}
+
+void SelectionDuLecteur::dire()
+{
+    if (ligne_.isValid())
+        emit prise(ligne_);
+}

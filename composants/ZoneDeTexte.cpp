@@ -1,0 +1,38 @@
+#include "composants/ZoneDeTexte.h"
+
+#include "composants/TailleDuTexte.h"
+
+#include <QPainter>
+#include <QStyleOption>
+
+namespace {
+
+constexpr int marge = 5;  // above and below the text
+constexpr int gauche = 7; // as in a field of one line
+
+} // namespace
+
+ZoneDeTexte::ZoneDeTexte(int lignes, QWidget *parent) : QPlainTextEdit(parent)
+{
+    setTabChangesFocus(true);
+    setFrameShape(QFrame::NoFrame);
+    viewport()->setAutoFillBackground(false);
+    setViewportMargins(gauche, marge, 1, marge);
+    document()->setDocumentMargin(1);
+    TailleDuTexte::suivre(this,
+                          [this, lignes] { setFixedHeight(lignes * fontMetrics().lineSpacing() + 2 * (marge + 1)); });
+}
+
+// The frame holds the scroll bar too, and changes as a whole with the focus.
+bool ZoneDeTexte::event(QEvent *evenement)
+{
+    if (evenement->type() == QEvent::FocusIn || evenement->type() == QEvent::FocusOut)
+        update();
+    if (evenement->type() != QEvent::Paint)
+        return QPlainTextEdit::event(evenement);
+    QStyleOptionFrame cadre;
+    cadre.initFrom(this);
+    QPainter peintre(this);
+    style()->drawPrimitive(QStyle::PE_PanelLineEdit, &cadre, &peintre, this);
+    return true;
+}

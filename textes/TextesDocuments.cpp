@@ -1,0 +1,134 @@
+#include "textes/TextesDocuments.h"
+
+#include "documents/ArticleDouane.h"
+#include "documents/Facture.h"
+#include "documents/NumerotationFactures.h"
+#include "documents/VendeurUnique.h"
+#include "model/Format.h"
+#include "textes/NomsVendeurs.h"
+
+namespace {
+
+using TextesDocuments::Champ;
+using TextesDocuments::Rubrique;
+
+Champ montant(const QString &titre, Centimes valeur)
+{
+    return {titre, Format::montant(valeur), Format::euros(valeur)};
+}
+
+Rubrique envoi(const Calcul &calcul)
+{
+    Rubrique envoi{QStringLiteral("Envoi"),
+                   {{QStringLiteral("Nature de l’envoi"), QStringLiteral("Vente de marchandises"), {}}}};
+    if (calcul.envoi)
+        envoi.champs.append(montant(QStringLiteral("Frais de port"), *calcul.envoi));
+    envoi.champs.append({QStringLiteral("Poids brut du colis (kg)"), Format::kilos(calcul.poidsRetenu), {}});
+    envoi.champs.append(montant(QStringLiteral("Valeur totale"), calcul.sousTotal));
+    return envoi;
+}
+
+Rubrique article(int numero, const ArticleDouane &article)
+{
+    return {QStringLiteral("Article %1").arg(numero),
+            {{QStringLiteral("Description"), article.description, {}},
+             {QStringLiteral("Poids net unitaire (kg)"), Format::kilos(article.poidsUnitaire), {}},
+             montant(QStringLiteral("Valeur unitaire"), article.valeurUnitaire),
+             {QStringLiteral("Pays d’origine"), article.origine, {}},
+             {QStringLiteral("N° tarifaire (SH)"), article.codeSH, {}}}};
+}
+
+Rubrique expediteur(const IdentiteVendeur &vendeur)
+{
+    Rubrique expediteur{QStringLiteral("Expéditeur"), {}};
+    for (const QString &ligne : vendeur.adresse)
+        expediteur.champs.append({expediteur.champs.isEmpty() ? QStringLiteral("Adresse") : QString(), ligne, {}});
+    return expediteur;
+}
+
+} // namespace
+
+QString TextesDocuments::siteDeLaPoste()
+{
+    return QStringLiteral("laposte.fr");
+}
+
+QStringList TextesDocuments::instructionsDeDouane()
+{
+    static_assert(Facture::exemplaires == 2); // as the third one says
+    return {QStringLiteral("1. Achetez l’affranchissement Colissimo, en ligne ou au guichet."),
+            QStringLiteral("2. Sur %1, remplissez la déclaration avec les valeurs ci-dessous ; le destinataire est "
+                           "l’adresse de livraison du paiement PayPal.")
+                .arg(siteDeLaPoste()),
+            QStringLiteral("3. Imprimez-la et signez les deux exemplaires. Glissez-les, avec deux exemplaires de la "
+                           "facture, dans une pochette plastique collée sur le colis.")};
+}
+
+QList<Rubrique> TextesDocuments::declaration(const Calcul &calcul, const Reglages &reglages)
+{
+    QList<Rubrique> rubriques{envoi(calcul)};
+    int numero = 0;
+    for (const ArticleDouane &declare : articlesDouane(calcul, reglages.douane.codeSH))
+        rubriques.append(article(++numero, declare));
+    if (const auto vendeur = vendeurUnique(calcul, reglages); vendeur && !vendeur->adresse.isEmpty())
+        rubriques.append(expediteur(*vendeur));
+    return rubriques;
+}
+
+std::optional<TextesDocuments::Obstacle> TextesDocuments::obstacleALaFacture(const Calcul &calcul,
+                                                                             const Reglages &reglages)
+{
+    const QString impossible = QStringLiteral("Facture impossible");
+    if (calcul.vendeurs().size() != 1)
+        return Obstacle{QStringLiteral("person.2"), impossible,
+                        QStringLiteral("Une facture par vendeur : séparez les livres de Davrel et ceux de Mireva en "
+                                       "deux commandes.")};
+    if (const QString manque = sansIdentite(calcul, reglages); !manque.isEmpty())
+        return Obstacle{QStringLiteral("person.2"), impossible, manque};
+    if (!calcul.envoi)
+        return Obstacle{QStringLiteral("doc.plaintext"),
+                        {},
+                        QStringLiteral("Le port n’est pas encore connu : la facture apparaîtra avec lui.")};
+    return std::nullopt;
+}
+
+QString TextesDocuments::sansIdentite(const Calcul &calcul, const Reglages &reglages)
+{
+    for (const Vendeur vendeur : calcul.vendeurs())
+        if (!reglages.identite(vendeur))
+            return QStringLiteral("Le nom et l’adresse de %1 manquent dans les réglages.")
+                .arg(NomsVendeurs::court(vendeur));
+    return {};
+}
+
+QString TextesDocuments::remarqueSurLeNumero(const QString &numero, QDate jour)
+{
+    using Rapport = NumerotationFactures::Rapport;
+    switch (NumerotationFactures::rapport(numero, jour)) {
+    case Rapport::aucun:
+        return QStringLiteral("Ce numéro n’a pas la forme %1 : il ne sera pas retenu.")
+            .arg(NumerotationFactures::premier(jour));
+    case Rapport::anterieur:
+        return QStringLiteral("Ce numéro est d’une année passée : la suite de %1 n’en change pas.").arg(jour.year());
+    case Rapport::posterieur:
+        return QStringLiteral("Ce numéro est d’une année à venir : après lui, ceux de %1 ne seront plus retenus.")
+            .arg(jour.year());
+    case Rapport::dansLaSerie:
+        return {};
+    }
+    Q_UNREACHABLE();
+}
+
+QString TextesDocuments::vendeur(const IdentiteVendeur &vendeur)
+{
+    QStringList lignes = QStringList{vendeur.nom} + coordonnees(vendeur);
+    if (!vendeur.mentionTva.isEmpty())
+        lignes.append(vendeur.mentionTva);
+    return lignes.join(u'\n');
+}
+
+QString TextesDocuments::sansSiret(const IdentiteVendeur &vendeur)
+{
+    return vendeur.siret ? QString()
+                         : QStringLiteral("Numéro SIRET manquant : obligatoire sur la facture d’une micro-entreprise.");
+}

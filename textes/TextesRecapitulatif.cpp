@@ -1,0 +1,123 @@
+#include "textes/TextesRecapitulatif.h"
+
+#include "documents/ReponseType.h"
+#include "model/Format.h"
+#include "textes/TextesFrais.h"
+
+namespace {
+
+const QString triangle = QStringLiteral("exclamationmark.triangle");
+const QString balance = QStringLiteral("scalemass");
+
+} // namespace
+
+QString TextesRecapitulatif::sousTitre(const Calcul &calcul)
+{
+    const int nombre = calcul.nombreDeLivres();
+    if (nombre == 0)
+        return QStringLiteral("Aucun livre");
+    const QString livres =
+        nombre == 1 ? QStringLiteral("1 livre · ") : QString::number(nombre) + QStringLiteral(" livres · ");
+    return livres + Format::poids(calcul.poidsRetenu);
+}
+
+QString TextesRecapitulatif::resume(const Calcul &calcul)
+{
+    if (calcul.nombreDeLivres() == 0)
+        return sousTitre(calcul);
+    return QStringLiteral("%1, total à payer : %2").arg(sousTitre(calcul), Format::dit(Format::euros(calcul.total)));
+}
+
+QList<TextesRecapitulatif::Ligne> TextesRecapitulatif::livres(const Calcul &calcul)
+{
+    QList<Ligne> lignes;
+    for (const Calcul::Ligne &ligne : calcul.lignes)
+        lignes.append({ligne.livre.titre,
+                       QString::number(ligne.quantite) + QStringLiteral(" × ") + Format::euros(ligne.livre.prix),
+                       Format::euros(ligne.montant())});
+    return lignes;
+}
+
+QString TextesRecapitulatif::emballage(const Emballage &emballage)
+{
+    return emballage.nom + QStringLiteral(" (") + Format::poids(emballage.poids) + u')';
+}
+
+std::optional<TextesRecapitulatif::Ligne> TextesRecapitulatif::palier(const Calcul &calcul)
+{
+    if (!calcul.palier)
+        return std::nullopt;
+    const Grammes jusqua = calcul.palier->jusqua;
+    return Ligne{QStringLiteral("Palier Colissimo"),
+                 QStringLiteral("encore %1 avant le palier suivant").arg(Format::poids(jusqua - calcul.poidsRetenu)),
+                 Format::jusqua(jusqua)};
+}
+
+QList<TextesRecapitulatif::Avertissement> TextesRecapitulatif::avertissementsDePesee(const Calcul &calcul)
+{
+    QList<Avertissement> avertissements;
+    if (calcul.poidsPese && *calcul.poidsPese < calcul.poidsLivres)
+        avertissements.append({triangle, QStringLiteral("Le colis pesé est plus léger que les livres seuls (%1) : "
+                                                        "vérifiez la pesée.")
+                                             .arg(Format::poids(calcul.poidsLivres))});
+    if (!calcul.poidsPese)
+        for (const Livre &livre : calcul.livresNonPeses)
+            avertissements.append(
+                {balance, livre.titre + QStringLiteral(" n’a pas encore été pesé : pesez le colis.")});
+    if (calcul.depasseLaGrille())
+        avertissements.append(
+            {triangle, QStringLiteral("Au-delà de %1, le dernier palier de la grille : faire deux colis.")
+                           .arg(Format::palier(calcul.grille->paliers.last().jusqua))});
+    return avertissements;
+}
+
+QString TextesRecapitulatif::destinationComplete(const Calcul &calcul)
+{
+    const auto &destination = calcul.destination;
+    return destination && destination->libelleFr != destination->libelleCourt ? destination->libelleFr : QString();
+}
+
+QString TextesRecapitulatif::declaration(const Calcul &calcul)
+{
+    return calcul.douaneRequise ? QStringLiteral("Oui, CN23") : QStringLiteral("Non");
+}
+
+QString TextesRecapitulatif::detailEnvoi(const Calcul &calcul)
+{
+    if (!calcul.grille || !calcul.palier)
+        return {};
+    return calcul.grille->nomCourt + QStringLiteral(", ") + Format::jusqua(calcul.palier->jusqua);
+}
+
+QString TextesRecapitulatif::detailFrais(const Calcul &calcul, const FraisPaypal &frais)
+{
+    if (!calcul.regionPaypal)
+        return {};
+    const RegionPaypal region = *calcul.regionPaypal;
+    return TextesFrais::formule(frais.taux + frais.supplement(region), frais.fixe) + QStringLiteral(" · ")
+           + TextesFrais::region(region);
+}
+
+std::optional<TextesRecapitulatif::LienDePaiement>
+TextesRecapitulatif::lienDePaiement(const Calcul &calcul, const Reglages &reglages, const Commande &commande)
+{
+    const auto message = ReponseType::de(calcul, reglages, commande);
+    if (!message || !calcul.total)
+        return std::nullopt;
+    const bool anglais = message->langue == Langue::anglais;
+    return LienDePaiement{
+        .nomDeLObjet = message->nomDeLObjet(),
+        .description = message->descriptionDuLien(),
+        .prix = Format::montant(*calcul.total),
+        .prixAffiche = Format::euros(calcul.total),
+        .retour = message->vendeur.retourPaypal,
+        .indicationDuPays = anglais ? QStringLiteral("en anglais, pour la description")
+                                    : QStringLiteral("en français, avec l’article : la Belgique, l’Italie, le Canada"),
+        .paysPropose = calcul.destination ? calcul.destination->libelleCourtEnLangue(message->langue) : QString(),
+    };
+}
+
+QString TextesRecapitulatif::libelleDeLaReponse(Langue langue)
+{
+    return langue == Langue::anglais ? QStringLiteral("E-mail en anglais") : QStringLiteral("E-mail en français");
+}
