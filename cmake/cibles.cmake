@@ -1,13 +1,15 @@
-# quillet_bibliotheque(<floor> <sources>... LIENS <libraries>...): the static library quillet-<floor>.
-# Whoever links it links LIENS too.
-function(quillet_bibliotheque etage)
+# quillet_bibliotheque(<name> <sources>... LIENS <libraries>...): the static library quillet-<name>, linked as Quillet::<name>:
+# a slip of the pen in such a name stops CMake, instead of reaching the linker. Whoever links it links LIENS too.
+function(quillet_bibliotheque nom)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" LIENS)
-    add_library(quillet-${etage} STATIC ${arg_UNPARSED_ARGUMENTS})
-    target_link_libraries(quillet-${etage} PUBLIC quillet-options ${arg_LIENS})
+    add_library(quillet-${nom} STATIC ${arg_UNPARSED_ARGUMENTS})
+    add_library(Quillet::${nom} ALIAS quillet-${nom})
+    target_link_libraries(quillet-${nom} PUBLIC Quillet::options ${arg_LIENS})
 endfunction()
 
 # What Qt 6.8 has for tests to wait, QTRY_VERIFY and the like, narrows a duration by itself.
 add_library(quillet-options-test INTERFACE)
+add_library(Quillet::options-test ALIAS quillet-options-test)
 target_compile_options(quillet-options-test INTERFACE -Wno-conversion)
 
 # quillet_donnees_de_test(<target>): where QFINDTESTDATA starts from when the compiler was given relative paths, as ccache may.
@@ -19,7 +21,7 @@ endfunction()
 function(quillet_test nom)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" LIENS)
     add_executable(${nom} ${arg_UNPARSED_ARGUMENTS})
-    target_link_libraries(${nom} PRIVATE quillet-options quillet-options-test Qt6::Test ${arg_LIENS})
+    target_link_libraries(${nom} PRIVATE Quillet::options Quillet::options-test Qt6::Test ${arg_LIENS})
     quillet_donnees_de_test(${nom})
     add_test(NAME ${nom} COMMAND ${nom})
 endfunction()

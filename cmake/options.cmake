@@ -1,4 +1,4 @@
-# How everything is compiled: `quillet-options`, which every target of ours links.
+# How everything is compiled: `Quillet::options`, which every target of ours links.
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -13,6 +13,7 @@ if(LLD)
 endif()
 
 add_library(quillet-options INTERFACE)
+add_library(Quillet::options ALIAS quillet-options)
 target_include_directories(quillet-options INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_options(quillet-options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual
