@@ -12,13 +12,13 @@ Ressources Ressources::duProgramme()
 
 Ressources Ressources::autourDe(const QDir &programme)
 {
-    const QFileInfo propres(programme.filePath(QStringLiteral("../share/quillet-donnees")));
+    const QFileInfo propres(programme.filePath(QStringLiteral(QUILLET_PARTAGE "/quillet-donnees")));
     if (propres.exists() || propres.isSymLink()) { // a link may lead to a disk that is not there today
         Ressources ressources(QDir(QDir::cleanPath(propres.absoluteFilePath())));
         ressources.duVendeur_ = true;
         return ressources;
     }
-    for (const QString &dossier : {QStringLiteral("../share/quillet"), QStringLiteral("resources")})
+    for (const QString &dossier : {QStringLiteral(QUILLET_PARTAGE "/quillet"), QStringLiteral("resources")})
         if (programme.exists(dossier + QStringLiteral("/livres.json")))
             return Ressources(QDir(programme.filePath(dossier)));
     throw RessourceIllisible(QStringLiteral("livres.json : fichier introuvable"));
