@@ -7,6 +7,19 @@ function(quillet_bibliotheque nom)
     target_link_libraries(quillet-${nom} PUBLIC Quillet::options ${arg_LIENS})
 endfunction()
 
+# What only some checks need: they are left out where it is missing, unless all are wanted.
+if(QUILLET_TOUT_VERIFIER)
+    set(exige REQUIRED)
+endif()
+
+# quillet_outil(<variable> <program>): the path of a program that checks need.
+function(quillet_outil variable programme)
+    find_program(${variable} ${programme} ${exige})
+    if(NOT ${variable})
+        message(STATUS "${programme} is missing: what it checks will be left out")
+    endif()
+endfunction()
+
 # What Qt 6.8 has for tests to wait, QTRY_VERIFY and the like, narrows a duration by itself.
 add_library(quillet-options-test INTERFACE)
 add_library(Quillet::options-test ALIAS quillet-options-test)
