@@ -1,6 +1,7 @@
 #include "bench/Echantillon.h"
 #include "bench/Mesures.h"
 #include "model/Calcul.h"
+#include "model/Catalogue.h"
 
 #include <chrono>
 
@@ -14,19 +15,18 @@ constexpr auto dureeDUneSerie = std::chrono::milliseconds(20);
 const QDate jour(2026, 3, 2);
 
 // Microseconds a call, with an order of ten titles or so from all over the catalogue.
-QList<double> calculer(const Catalogue &catalogue)
+QList<double> calculer(const Donnees &donnees)
 {
-    const qsizetype pas = catalogue.livres().size() / 10;
-    Commande commande;
-    commande.setPoidsPese(Grammes{1200});
-    for (qsizetype i = 0; i < catalogue.livres().size(); i += pas)
-        commande.ajuster(catalogue.livres()[i], 1);
+    const qsizetype pas = donnees.livres.size() / 10;
+    BonDeCommande bon{.poidsPese = Grammes{1200}};
+    for (qsizetype i = 0; i < donnees.livres.size(); i += pas)
+        bon.ajuster(donnees.livres[i], 1);
     QList<double> durees;
     while (durees.size() < series) {
         int appels = 0;
         const auto debut = Horloge::now();
         do {
-            const Calcul calcul(catalogue, commande, jour);
+            const Calcul calcul = Calcul::de(donnees, bon, jour);
             if (!calcul.total)
                 qFatal("La commande mesurée n’a pas de prix");
             ++appels;
@@ -39,7 +39,7 @@ QList<double> calculer(const Catalogue &catalogue)
 QList<double> calculer(int livres)
 {
     const Echantillon echantillon(livres, Echantillon::Images::sans);
-    return calculer(*Catalogue::charge(echantillon.ressources(), echantillon.stockage()));
+    return calculer(Catalogue::charge(echantillon.ressources(), echantillon.stockage())->donnees());
 }
 
 } // namespace
@@ -52,7 +52,8 @@ QList<Releve> mesurerCalcul()
     constexpr int petit = 1'000;
     constexpr int grand = 100'000;
     Releve catalogueLivre =
-        releve(QStringLiteral("Calcul, %1 livres (catalogue livré)").arg(livre->livres().size()), us, calculer(*livre));
+        releve(QStringLiteral("Calcul, %1 livres (catalogue livré)").arg(livre->donnees().livres.size()), us,
+               calculer(livre->donnees()));
     catalogueLivre.but = 100;
     const Releve mille = releve(QStringLiteral("Calcul, 1 000 livres"), us, calculer(petit));
     const Releve centMille = releve(QStringLiteral("Calcul, 100 000 livres"), us, calculer(grand));

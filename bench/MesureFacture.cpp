@@ -16,13 +16,12 @@ QList<Releve> mesurerFacture()
     QuilletApp::preparer();
     const Echantillon echantillon;
     const auto catalogue = Catalogue::charge(echantillon.ressources(), echantillon.stockage());
-    Commande commande;
-    commande.setPoidsPese(Grammes{1200});
+    BonDeCommande bon{.poidsPese = Grammes{1200}};
     for (qsizetype i = 0; i < 5; ++i)
-        commande.ajuster(catalogue->livres()[i], 2);
-    const auto facture =
-        Facture::de(Calcul(*catalogue, commande, jour), catalogue->reglages(), QStringLiteral("2026-001"), jour,
-                    QStringLiteral("Ada Exemple\n3 rue de l’Exemple\n00000 Exempleville"));
+        bon.ajuster(catalogue->donnees().livres[i], 2);
+    const auto facture = Facture::de(Calcul::de(catalogue->donnees(), bon, jour), catalogue->donnees().reglages,
+                                     QStringLiteral("2026-001"), jour,
+                                     QStringLiteral("Ada Exemple\n3 rue de l’Exemple\n00000 Exempleville"));
     if (!facture)
         qFatal("La commande mesurée n’a pas de facture");
 

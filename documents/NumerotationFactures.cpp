@@ -1,6 +1,7 @@
 #include "documents/NumerotationFactures.h"
 
 #include "model/ChiffresAscii.h"
+#include "model/Enumeration.h"
 
 #include <limits>
 #include <optional>
@@ -17,7 +18,7 @@ struct Numero
 
 QString cle(Vendeur vendeur)
 {
-    return QStringLiteral("derniereFacture.") + Json::brut(vendeur);
+    return QStringLiteral("derniereFacture.") + brut(vendeur);
 }
 
 // Base 10, nothing around the digits but a sign.

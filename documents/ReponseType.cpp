@@ -1,7 +1,6 @@
 #include "documents/ReponseType.h"
 
 #include "documents/VendeurUnique.h"
-#include "model/Commande.h"
 #include "model/Format.h"
 
 namespace {
@@ -57,17 +56,13 @@ const Phrases &phrases(Langue langue)
         .conge = QStringLiteral("\nBest regards,\n\n"),
         .prixComprend = QStringLiteral("Price includes books and shipping to "),
     };
-    return langue == Langue::francais ? francais : anglais;
-}
-
-QString euros(Centimes montant, Langue langue)
-{
-    return langue == Langue::francais ? Format::euros(montant) : Format::eurosAnglais(montant);
-}
-
-QString eurosOuTiret(const std::optional<Centimes> &montant, Langue langue)
-{
-    return montant ? euros(*montant, langue) : QString(Format::absent);
+    switch (langue) {
+    case Langue::francais:
+        return francais;
+    case Langue::anglais:
+        return anglais;
+    }
+    Q_UNREACHABLE();
 }
 
 QString libelleCourt(const std::optional<Destination> &destination, Langue langue)
@@ -96,7 +91,7 @@ QString ReponseType::sujet() const
 
 QString ReponseType::ligneTotal() const
 {
-    return phrases(langue).total + eurosOuTiret(calcul.total, langue);
+    return phrases(langue).total + Format::euros(calcul.total, langue);
 }
 
 QString ReponseType::corps() const
@@ -107,11 +102,11 @@ QString ReponseType::corps() const
     QStringList livres;
     for (const Calcul::Ligne &ligne : calcul.lignes)
         livres.append(puce + ligne.livre.titre + QStringLiteral(" × ") + QString::number(ligne.quantite)
-                      + mots.deuxPoints + euros(ligne.montant(), langue));
+                      + mots.deuxPoints + Format::euros(ligne.montant(), langue));
     const QString lienOuPlace = lien.trimmed().isEmpty() ? mots.lienAbsent : lien.trimmed();
 
     return mots.salutation + livres.join(u'\n') + u'\n' + puce + mots.envoi + libelleCourt(calcul.destination, langue)
-           + u')' + mots.deuxPoints + eurosOuTiret(calcul.envoi, langue) + QStringLiteral("\n\n") + ligneTotal()
+           + u')' + mots.deuxPoints + Format::euros(calcul.envoi, langue) + QStringLiteral("\n\n") + ligneTotal()
            + mots.invitation + lienOuPlace + mots.paiement + (calcul.douaneRequise ? mots.douane : QString())
            + mots.conge + vendeur.nom;
 }
@@ -133,19 +128,20 @@ QString ReponseType::descriptionDuLien() const
     return livres.join(u'\n') + QStringLiteral("\n\n") + phrases(langue).prixComprend + vers + u'.';
 }
 
-Langue langueAcheteur(const Commande &commande, const Calcul &calcul)
+Langue langueAcheteur(const BonDeCommande &bon, const Calcul &calcul)
 {
-    if (commande.langue())
-        return *commande.langue();
+    if (bon.langue)
+        return *bon.langue;
     static const QStringList francophones{QStringLiteral("france"), QStringLiteral("om1"), QStringLiteral("om2")};
-    return !calcul.destination || francophones.contains(calcul.destination->code) ? Langue::francais : Langue::anglais;
+    return !calcul.destination || francophones.contains(calcul.destination->code.texte()) ? Langue::francais
+                                                                                          : Langue::anglais;
 }
 
-std::optional<ReponseType> ReponseType::de(const Calcul &calcul, const Reglages &reglages, const Commande &commande,
+std::optional<ReponseType> ReponseType::de(const Calcul &calcul, const Reglages &reglages, const BonDeCommande &bon,
                                            const QString &lien)
 {
     const auto vendeur = vendeurUnique(calcul, reglages);
     if (!vendeur)
         return std::nullopt;
-    return ReponseType{calcul, langueAcheteur(commande, calcul), *vendeur, lien, commande.paysLivraison()};
+    return ReponseType{calcul, langueAcheteur(bon, calcul), *vendeur, lien, bon.paysLivraison};
 }

@@ -9,8 +9,6 @@
 
 #include <optional>
 
-class Commande;
-
 // The reply to a buyer, and the texts pasted into PayPal's page for creating a payment link.
 struct ReponseType
 {
@@ -21,7 +19,7 @@ struct ReponseType
     QString pays;            // delivery country as typed; may be empty
 
     // None unless `vendeurUnique` finds who answers.
-    static std::optional<ReponseType> de(const Calcul &calcul, const Reglages &reglages, const Commande &commande,
+    static std::optional<ReponseType> de(const Calcul &calcul, const Reglages &reglages, const BonDeCommande &bon,
                                          const QString &lien = {});
     static QUrl creationDuLien();
     // Stands in the message until a link is pasted.
@@ -35,4 +33,4 @@ struct ReponseType
 };
 
 // The language chosen for the buyer or, until one is chosen, the destination's own.
-Langue langueAcheteur(const Commande &commande, const Calcul &calcul);
+Langue langueAcheteur(const BonDeCommande &bon, const Calcul &calcul);

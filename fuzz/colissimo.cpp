@@ -25,7 +25,7 @@ void verifier(const TarifsColissimo &lus, const TarifsColissimo &modele)
             avant = jusqua;
         }
     }
-    exiger(lus.validite.size() == 10 && !Format::date(lus.validite).isEmpty(), "date d'effet");
+    exiger(lus.validite.texte().size() == 10 && !Format::date(lus.validite).isEmpty(), "date d'effet");
     exiger(Json::decoder<TarifsColissimo>(Json::encoder(lus), QStringLiteral("lus")) == lus, "aller et retour");
     for (const EcartTarif &ecart : EcartTarif::ecarts(modele, lus))
         if (const auto variation = ecart.variation())

@@ -11,7 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *octets, std::size_t ta
     exiger(texte == texte.simplified(), "une ligne");
     try {
         const FraisPaypal frais = RelevePaypal::analyser(page, QDate(2026, 3, 2));
-        exiger(frais.supplements.size() == std::ssize(Json::valeursBrutes<RegionPaypal>), "chaque region");
+        exiger(frais.supplements.size() == std::ssize(tous<RegionPaypal>), "chaque region");
         exiger(Json::decoder<FraisPaypal>(Json::encoder(frais), QStringLiteral("lus")) == frais, "aller et retour");
         for (const auto region : {RegionPaypal::eee, RegionPaypal::royaumeUni, RegionPaypal::autres})
             exiger(frais.frais(Centimes{UniteCentime::maximum}, region) >= frais.frais(Centimes{}, region), "frais");

@@ -1,64 +1,44 @@
 #include "model/Calcul.h"
 
-#include "model/Format.h"
-
 #include <algorithm>
 
 namespace {
 
-QList<Calcul::Ligne> lignesVendues(const QList<Livre> &livres, const Commande &commande)
+QList<Calcul::Ligne> lignesVendues(const QList<Livre> &livres, const BonDeCommande &bon)
 {
     QList<Calcul::Ligne> lignes;
     for (const Livre &livre : livres) {
-        const int quantite = commande.quantite(livre);
-        if (livre.vendeur == commande.vendeur() && livre.disponible && quantite > 0)
+        const int quantite = bon.quantite(livre);
+        if (livre.vendeur == bon.vendeur && livre.disponible && quantite > 0)
             lignes.append({livre, quantite});
     }
     return lignes;
 }
 
-Centimes prixDesLivres(const QList<Calcul::Ligne> &lignes)
+Grammes poidsDeLEmballage(const QList<Emballage> &emballages, const BonDeCommande &bon)
 {
-    Centimes somme;
-    for (const auto &ligne : lignes)
-        somme += ligne.montant();
-    return somme;
-}
-
-Grammes poidsDesLivres(const QList<Calcul::Ligne> &lignes)
-{
-    Grammes somme;
-    for (const auto &ligne : lignes)
-        somme += ligne.livre.poids.value_or(Grammes{}) * ligne.quantite;
-    return somme;
-}
-
-QList<Livre> sansPoids(const QList<Calcul::Ligne> &lignes)
-{
-    QList<Livre> livres;
-    for (const auto &ligne : lignes)
-        if (!ligne.livre.poids)
-            livres.append(ligne.livre);
-    return livres;
-}
-
-Grammes poidsDeLEmballage(const QList<Emballage> &emballages, const Commande &commande)
-{
-    if (commande.emballage() == Commande::autrePoids())
-        return std::max(commande.poidsEmballageLibre(), Grammes{});
-    const auto choisi = std::ranges::find(emballages, commande.emballage(), &Emballage::nom);
+    if (bon.emballage == BonDeCommande::autrePoids())
+        return std::max(bon.poidsEmballageLibre, Grammes{});
+    const auto choisi = std::ranges::find(emballages, bon.emballage, &Emballage::nom);
     return choisi == emballages.end() ? Grammes{} : std::max(choisi->poids, Grammes{});
 }
 
-std::optional<Grammes> pesee(const std::optional<Grammes> &poids)
+void additionner(Calcul &calcul)
 {
-    return poids && *poids >= Grammes{1} ? poids : std::nullopt;
+    for (const auto &[livre, quantite] : calcul.lignes) {
+        calcul.sousTotal += livre.prix * quantite;
+        calcul.poidsLivres += livre.poids.value_or(Grammes{}) * quantite;
+        if (!livre.poids)
+            calcul.livresNonPeses.append(livre);
+    }
 }
 
-std::optional<GrilleColissimo> grillePour(const Destination &destination, const TarifsColissimo &tarifs)
+void destiner(Calcul &calcul, const TarifsColissimo &tarifs, bool horsUE)
 {
-    const GrilleColissimo *grille = tarifs.grille(destination.grille);
-    return grille ? std::optional(*grille) : std::nullopt;
+    calcul.regionPaypal = calcul.destination->regionPaypal;
+    calcul.douaneRequise = calcul.destination->douaneRequise(horsUE);
+    if (const GrilleColissimo *grille = tarifs.grille(calcul.destination->grille))
+        calcul.grille = *grille;
 }
 
 // The parcel has a price once there is something in it and its weight is really known.
@@ -69,40 +49,33 @@ std::optional<Palier> palierDuColis(const Calcul &calcul)
     return calcul.grille->palier(calcul.poidsRetenu);
 }
 
-template <typename T, typename Fonction>
-auto si(const std::optional<T> &valeur, Fonction fonction) -> std::optional<decltype(fonction(*valeur))>
+void facturer(Calcul &calcul, const FraisPaypal &frais)
 {
-    return valeur ? std::optional(fonction(*valeur)) : std::nullopt;
-}
-
-std::optional<Centimes> fraisDuPaiement(const Calcul &calcul, const FraisPaypal &frais)
-{
-    if (!calcul.total || !calcul.regionPaypal)
-        return std::nullopt;
-    return frais.frais(*calcul.total, *calcul.regionPaypal);
+    calcul.envoi = calcul.palier->prix;
+    calcul.total = calcul.sousTotal + *calcul.envoi;
+    calcul.fraisPaypal = frais.frais(*calcul.total, *calcul.regionPaypal);
+    calcul.reste = calcul.sousTotal - *calcul.fraisPaypal;
 }
 
 } // namespace
 
-Calcul::Calcul(const Catalogue &catalogue, const Commande &commande, QDate aujourdhui)
-    : lignes(lignesVendues(catalogue.livres(), commande)),
-      sousTotal(prixDesLivres(lignes)),
-      poidsLivres(poidsDesLivres(lignes)),
-      livresNonPeses(sansPoids(lignes)),
-      poidsEmballage(poidsDeLEmballage(catalogue.reglages().emballages, commande)),
-      poidsCalcule(poidsLivres + poidsEmballage),
-      poidsPese(pesee(commande.poidsPese())),
-      poidsRetenu(poidsPese.value_or(poidsCalcule)),
-      destination(catalogue.destination(commande.codeDestination())),
-      regionPaypal(si(destination, [](const Destination &d) { return d.regionPaypal; })),
-      douaneRequise(destination && destination->douaneRequise(commande.horsUE())),
-      grille(destination ? grillePour(*destination, catalogue.tarifs(Format::iso(aujourdhui))) : std::nullopt),
-      palier(palierDuColis(*this)),
-      envoi(si(palier, [](const Palier &p) { return p.prix; })),
-      total(si(envoi, [this](Centimes port) { return sousTotal + port; })),
-      fraisPaypal(fraisDuPaiement(*this, catalogue.reglages().fraisPaypal)),
-      reste(si(fraisPaypal, [this](Centimes frais) { return sousTotal - frais; }))
+Calcul Calcul::de(const Donnees &donnees, const BonDeCommande &bon, const Jour &aujourdhui)
 {
+    Calcul calcul;
+    calcul.lignes = lignesVendues(donnees.livres, bon);
+    additionner(calcul);
+    calcul.poidsEmballage = poidsDeLEmballage(donnees.reglages.emballages, bon);
+    calcul.poidsCalcule = calcul.poidsLivres + calcul.poidsEmballage;
+    if (bon.poidsPese >= Grammes{1})
+        calcul.poidsPese = bon.poidsPese;
+    calcul.poidsRetenu = calcul.poidsPese.value_or(calcul.poidsCalcule);
+    calcul.destination = donnees.destination(bon.codeDestination);
+    if (calcul.destination)
+        destiner(calcul, donnees.tarifs(aujourdhui), bon.horsUE);
+    calcul.palier = palierDuColis(calcul);
+    if (calcul.palier)
+        facturer(calcul, donnees.reglages.fraisPaypal);
+    return calcul;
 }
 
 bool Calcul::depasseLaGrille() const

@@ -1,17 +1,16 @@
 #pragma once
 
-#include "model/Catalogue.h"
-#include "model/Commande.h"
+#include "model/BonDeCommande.h"
+#include "model/Donnees.h"
 
-#include <QDate>
+#include <QList>
 #include <QSet>
 
 #include <optional>
 
-// Every figure that follows from one order on one day. Fields are computed in the order in which they stand.
-class Calcul
+// Every figure that follows from one order on one day. Each follows from those above it.
+struct Calcul
 {
-public:
     struct Ligne
     {
         Livre livre;
@@ -21,26 +20,26 @@ public:
         bool operator==(const Ligne &) const = default;
     };
 
-    Calcul(const Catalogue &catalogue, const Commande &commande, QDate aujourdhui);
+    static Calcul de(const Donnees &donnees, const BonDeCommande &bon, const Jour &aujourdhui);
 
-    const QList<Ligne> lignes; // in catalogue order
-    const Centimes sousTotal;  // the books alone
-    const Grammes poidsLivres; // a book not yet weighed counts nothing
-    const QList<Livre> livresNonPeses;
-    const Grammes poidsEmballage;
-    const Grammes poidsCalcule;
-    const std::optional<Grammes> poidsPese; // at least 1 g; none: not weighed
-    const Grammes poidsRetenu;
-    const std::optional<Destination> destination;
-    const std::optional<RegionPaypal> regionPaypal;
-    const bool douaneRequise;
-    const std::optional<GrilleColissimo> grille;
+    QList<Ligne> lignes; // in catalogue order
+    Centimes sousTotal;  // the books alone
+    Grammes poidsLivres; // a book not yet weighed counts nothing
+    QList<Livre> livresNonPeses;
+    Grammes poidsEmballage;
+    Grammes poidsCalcule;
+    std::optional<Grammes> poidsPese; // at least 1 g; none: not weighed
+    Grammes poidsRetenu;
+    std::optional<Destination> destination;
+    std::optional<RegionPaypal> regionPaypal;
+    bool douaneRequise = false;
+    std::optional<GrilleColissimo> grille;
     // None of the five below when the parcel cannot be priced.
-    const std::optional<Palier> palier;
-    const std::optional<Centimes> envoi;
-    const std::optional<Centimes> total;
-    const std::optional<Centimes> fraisPaypal; // on the whole payment, postage included
-    const std::optional<Centimes> reste;       // of the books, once the fee is paid; may be negative
+    std::optional<Palier> palier;
+    std::optional<Centimes> envoi;
+    std::optional<Centimes> total;
+    std::optional<Centimes> fraisPaypal; // on the whole payment, postage included
+    std::optional<Centimes> reste;       // of the books, once the fee is paid; may be negative
 
     // Whether the parcel's weight rests on nothing missing: it was weighed, or every book was.
     [[nodiscard]] bool poidsConnu() const { return poidsPese || livresNonPeses.isEmpty(); }
@@ -50,4 +49,6 @@ public:
     [[nodiscard]] bool pretAPartir() const { return total && vendeurs().size() == 1; }
     [[nodiscard]] QSet<Vendeur> vendeurs() const;
     [[nodiscard]] int nombreDeLivres() const;
+
+    bool operator==(const Calcul &) const = default;
 };

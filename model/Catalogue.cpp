@@ -1,7 +1,5 @@
 #include "model/Catalogue.h"
 
-#include "model/Format.h"
-
 #include <QThread>
 
 #include <algorithm>
@@ -18,6 +16,11 @@ QString fichierDesFrais()
     return QStringLiteral("frais-paypal.json");
 }
 
+Cle<Livre> cle(const Livre &livre)
+{
+    return Cle<Livre>(QString::number(livre.id));
+}
+
 QList<TarifsColissimo> fusion(QList<TarifsColissimo> livrees, const QList<TarifsColissimo> &enregistrees)
 {
     for (const TarifsColissimo &tarifs : enregistrees) {
@@ -28,15 +31,6 @@ QList<TarifsColissimo> fusion(QList<TarifsColissimo> livrees, const QList<Tarifs
             *remplacee = tarifs;
     }
     return livrees;
-}
-
-bool memesPrix(const TarifsColissimo &connus, const TarifsColissimo &lus)
-{
-    return connus.grilles.size() == lus.grilles.size()
-           && std::ranges::all_of(lus.grilles, [&](const GrilleColissimo &lue) {
-                  const GrilleColissimo *connue = connus.grille(lue.code);
-                  return connue && connue->paliers == lue.paliers;
-              });
 }
 
 template <typename Modification>
@@ -66,65 +60,32 @@ QList<Livre> livresModifies(const Ressources &ressources, Stockage &stockage)
     auto livres = ressources.lire<QList<Livre>>(QStringLiteral("livres"));
     const auto modifications = stockage.lire<ModificationsLivres>(fichierDesLivres()).value_or(ModificationsLivres{});
     for (Livre &livre : livres)
-        if (const auto trouvee = modifications.find(QString::number(livre.id)); trouvee != modifications.end())
+        if (const auto trouvee = modifications.find(cle(livre)); trouvee != modifications.end())
             trouvee->appliquer(livre);
     return livres;
+}
+
+// The first that cannot be read is the one that the user is told of.
+Donnees charger(const Ressources &ressources, Stockage &stockage)
+{
+    Donnees donnees;
+    donnees.grillesConnues = fusion(ressources.tarifs(), stockage.grillesEnregistrees());
+    donnees.reglages = reglagesAvecFrais(ressources, stockage);
+    donnees.livres = livresModifies(ressources, stockage);
+    donnees.destinations = ressources.lire<QList<Destination>>(QStringLiteral("destinations"));
+    return donnees;
 }
 
 } // namespace
 
 Catalogue::Catalogue(const Ressources &ressources, Stockage stockage)
-    : ressources_(ressources),
-      stockage_(std::move(stockage)),
-      grillesConnues_(fusion(ressources.tarifs(), stockage_.grillesEnregistrees())),
-      reglages_(reglagesAvecFrais(ressources, stockage_)),
-      livres_(livresModifies(ressources, stockage_)),
-      destinations_(ressources.lire<QList<Destination>>(QStringLiteral("destinations")))
+    : ressources_(ressources), stockage_(std::move(stockage)), donnees_(charger(ressources, stockage_))
 {
 }
 
 std::unique_ptr<Catalogue> Catalogue::charge(const Ressources &ressources, Stockage stockage)
 {
     return std::unique_ptr<Catalogue>(new Catalogue(ressources, std::move(stockage)));
-}
-
-const TarifsColissimo &Catalogue::tarifs(const QString &date) const
-{
-    Q_ASSERT(!grillesConnues_.isEmpty());
-    const TarifsColissimo *enVigueur = nullptr;
-    for (const TarifsColissimo &tarifs : grillesConnues_)
-        if (tarifs.validite <= date && (!enVigueur || tarifs.validite > enVigueur->validite))
-            enVigueur = &tarifs;
-    return enVigueur ? *enVigueur
-                     : *std::ranges::min_element(grillesConnues_, std::ranges::less{}, &TarifsColissimo::validite);
-}
-
-std::optional<TarifsColissimo> Catalogue::tarifsAVenir(QDate aujourdhui) const
-{
-    const QString date = Format::iso(aujourdhui);
-    std::optional<TarifsColissimo> prochains;
-    for (const TarifsColissimo &tarifs : grillesConnues_)
-        if (tarifs.validite > date && (!prochains || tarifs.validite < prochains->validite))
-            prochains = tarifs;
-    return prochains;
-}
-
-bool Catalogue::connait(const TarifsColissimo &tarifs) const
-{
-    return std::ranges::any_of(grillesConnues_,
-                               [&](const TarifsColissimo &connus) { return memesPrix(connus, tarifs); });
-}
-
-std::optional<Destination> Catalogue::destination(const QString &code) const
-{
-    const auto trouvee = std::ranges::find(destinations_, code, &Destination::code);
-    return trouvee == destinations_.end() ? std::nullopt : std::optional(*trouvee);
-}
-
-QList<PrixBouton> Catalogue::boutons(const Livre &livre, const TarifsColissimo &tarifs) const
-{
-    const Grammes emballage = reglages_.emballages.isEmpty() ? Grammes{} : reglages_.emballages.first().poids;
-    return PrixBouton::calculer(livre, tarifs, destinations_, emballage);
 }
 
 template <typename T>
@@ -140,26 +101,21 @@ void Catalogue::adopter(T &champ, const T &valeur)
 void Catalogue::enregistrer(const TarifsColissimo &tarifs)
 {
     stockage_.ecrire(tarifs, tarifs.nomDeFichier());
-    auto connues = grillesConnues_;
+    auto connues = donnees_.grillesConnues;
     connues.removeIf([&](const TarifsColissimo &connus) { return connus.validite == tarifs.validite; });
     connues.append(tarifs);
-    adopter(grillesConnues_, connues);
+    adopter(donnees_.grillesConnues, connues);
 }
 
 void Catalogue::enregistrer(const FraisPaypal &frais)
 {
     stockage_.ecrire(frais, fichierDesFrais());
-    adopter(reglages_.fraisPaypal, frais);
-}
-
-void Catalogue::enregistrerLivres()
-{
-    ecrireLivres(livres_);
+    adopter(donnees_.reglages.fraisPaypal, frais);
 }
 
 void Catalogue::modifier(const QList<Livre> &livres)
 {
-    QList<Livre> modifies = livres_;
+    QList<Livre> modifies = donnees_.livres;
     for (const Livre &livre : livres)
         modifies = avecModification(std::move(modifies), livre.id, [&](Livre &ancien) { ancien = livre; });
     ecrireLivres(modifies);
@@ -169,14 +125,14 @@ void Catalogue::garder(const Livre &livre, const PrixBouton &ligne)
 {
     if (!ligne.calcule)
         return;
-    ecrireLivres(avecModification(livres_, livre.id, [&](Livre &garde) {
+    ecrireLivres(avecModification(donnees_.livres, livre.id, [&](Livre &garde) {
         creeAuBesoin(garde.prixEcartes).insert(ligne.destination.code, *ligne.calcule);
     }));
 }
 
 void Catalogue::reporter(const Livre &livre, const QList<PrixBouton> &lignes)
 {
-    ecrireLivres(avecModification(livres_, livre.id, [&](Livre &reporte) {
+    ecrireLivres(avecModification(donnees_.livres, livre.id, [&](Livre &reporte) {
         for (const PrixBouton &ligne : lignes) {
             if (!ligne.calcule || ligne.calcule == ligne.actuel)
                 continue;
@@ -190,7 +146,7 @@ void Catalogue::revenirAuxValeursLivrees()
 {
     const QList<Livre> livres = valeursLivrees();
     stockage_.effacer(fichierDesLivres());
-    adopter(livres_, livres);
+    adopter(donnees_.livres, livres);
 }
 
 QList<Livre> Catalogue::valeursLivrees() const
@@ -202,7 +158,7 @@ void Catalogue::ecrireLivres(const QList<Livre> &livres)
 {
     ModificationsLivres modifications;
     for (const Livre &livre : livres)
-        modifications.insert(QString::number(livre.id), ModificationLivre::de(livre));
+        modifications.insert(cle(livre), ModificationLivre::de(livre));
     stockage_.ecrire(modifications, fichierDesLivres());
-    adopter(livres_, livres);
+    adopter(donnees_.livres, livres);
 }

@@ -2,6 +2,7 @@
 
 #include "model/Json.h"
 #include "model/Langue.h"
+#include "model/Tarifs.h"
 
 #include <QString>
 
@@ -9,35 +10,49 @@
 
 enum class RegionPaypal { eee, royaumeUni, autres };
 
+constexpr const char *valeurBrute(RegionPaypal region)
+{
+    switch (region) {
+    case RegionPaypal::eee:
+        return "eee";
+    case RegionPaypal::royaumeUni:
+        return "royaume-uni";
+    case RegionPaypal::autres:
+        return "autres";
+    }
+    return nullptr;
+}
+
+using CodeDestination = Cle<struct Destination>;
+
 // Where a parcel goes: its labels, its Colissimo grid, its PayPal region and its customs rule.
 struct Destination
 {
-    QString code;
+    CodeDestination code;
     QString libelleCourt;
     QString libelleCourtEn;
     QString valeurPaypal; // what stands for this destination in the sellers' PayPal buttons
     QString libelleFr;
     QString libelleEn;
-    QString grille; // code of a GrilleColissimo
+    CodeGrille grille;
     RegionPaypal regionPaypal = RegionPaypal::eee;
     bool douane = false;
     std::optional<QString> douaneSauf; // territories outside the EU customs area
 
-    [[nodiscard]] QString libelleCourtEnLangue(Langue langue) const
+    [[nodiscard]] const QString &libelleCourtEnLangue(Langue langue) const
     {
-        return langue == Langue::anglais ? libelleCourtEn : libelleCourt;
+        switch (langue) {
+        case Langue::francais:
+            return libelleCourt;
+        case Langue::anglais:
+            return libelleCourtEn;
+        }
+        Q_UNREACHABLE();
     }
     // `horsUE` counts only where some territories are an exception.
     [[nodiscard]] bool douaneRequise(bool horsUE) const { return douane || (douaneSauf && horsUE); }
 
     bool operator==(const Destination &) const = default;
-};
-
-template <>
-inline constexpr std::array Json::valeursBrutes<RegionPaypal>{
-    Json::ValeurBrute{RegionPaypal::eee, "eee"},
-    Json::ValeurBrute{RegionPaypal::royaumeUni, "royaume-uni"},
-    Json::ValeurBrute{RegionPaypal::autres, "autres"},
 };
 
 template <>

@@ -1,11 +1,15 @@
 #include "model/Format.h"
 
+#include "model/Enumeration.h"
+
 #include <QTimeZone>
 
 #include <unicode/gregocal.h>
 #include <unicode/numberformatter.h>
 #include <unicode/smpdtfmt.h>
 
+#include <algorithm>
+#include <array>
 #include <memory>
 #include <string>
 
@@ -17,13 +21,7 @@ using icu::number::Precision;
 
 const icu::Locale &francais()
 {
-    static const icu::Locale locale("fr_FR");
-    return locale;
-}
-
-const icu::Locale &anglais()
-{
-    static const icu::Locale locale("en_GB");
+    static const icu::Locale locale(traits(Langue::francais).locale);
     return locale;
 }
 
@@ -55,13 +53,13 @@ QString formater(const LocalizedNumberFormatter &formateur, qint64 valeur, std::
     return versTexte(resultat);
 }
 
-LocalizedNumberFormatter enEuros(const icu::Locale &locale)
+LocalizedNumberFormatter enEuros(Langue langue)
 {
     UErrorCode statut = U_ZERO_ERROR;
     const icu::CurrencyUnit euro(u"EUR", statut);
     if (U_FAILURE(statut))
         qFatal("ICU : %s", u_errorName(statut));
-    return NumberFormatter::withLocale(locale).unit(euro);
+    return NumberFormatter::withLocale(icu::Locale(traits(langue).locale)).unit(euro);
 }
 
 LocalizedNumberFormatter avecDecimales(int decimales)
@@ -89,26 +87,24 @@ QString Format::dit(const QString &montant)
     return montant == absent ? QStringLiteral("aucun montant") : montant;
 }
 
-QString Format::euros(Centimes montant)
+QString Format::euros(Centimes montant, Langue langue)
 {
-    static const LocalizedNumberFormatter formateur = enEuros(francais());
-    return formater(formateur, montant.valeur(), 2);
+    static const auto formateurs = [] {
+        std::array<LocalizedNumberFormatter, tous<Langue>.size()> parLangue;
+        std::ranges::transform(tous<Langue>, parLangue.begin(), enEuros);
+        return parLangue;
+    }();
+    return formater(formateurs[static_cast<std::size_t>(langue)], montant.valeur(), 2);
 }
 
-QString Format::euros(const std::optional<Centimes> &montant)
+QString Format::euros(const std::optional<Centimes> &montant, Langue langue)
 {
-    return montant ? euros(*montant) : QString(absent);
+    return montant ? euros(*montant, langue) : QString(absent);
 }
 
 QString Format::ecart(Centimes difference)
 {
     return (difference > Centimes{} ? QStringLiteral("+") : QString()) + euros(difference);
-}
-
-QString Format::eurosAnglais(Centimes montant)
-{
-    static const LocalizedNumberFormatter formateur = enEuros(anglais());
-    return formater(formateur, montant.valeur(), 2);
 }
 
 QString Format::montant(Centimes montant)
@@ -154,7 +150,7 @@ QString Format::pourcentage(Taux taux)
 
 QString Format::iso(QDate jour)
 {
-    return jour.toString(Qt::ISODate);
+    return Jour(jour).texte();
 }
 
 QString Format::date(QDate jour)
@@ -167,15 +163,8 @@ QString Format::date(QDate jour)
     return texte.startsWith(QLatin1String("1 ")) ? QStringLiteral("1er ") + texte.mid(2) : texte;
 }
 
-// Qt also reads other forms.
-QDate Format::jour(const QString &iso)
+QString Format::date(const Jour &jour)
 {
-    const QDate jour = QDate::fromString(iso, Qt::ISODate);
-    return Format::iso(jour) == iso ? jour : QDate();
-}
-
-QString Format::date(const QString &iso)
-{
-    const QDate lu = jour(iso);
-    return lu.isValid() ? date(lu) : iso;
+    const QDate date = jour.date();
+    return date.isValid() ? Format::date(date) : jour.texte();
 }

@@ -21,7 +21,7 @@ HistoriqueLivres::HistoriqueLivres(Catalogue &catalogue, QObject *parent) : QObj
 
 void HistoriqueLivres::modifier(const Livre &livre, const QString &nom)
 {
-    if (!catalogue_.livres().contains(livre)) // else a value was typed again: nothing to write
+    if (!catalogue_.donnees().livres.contains(livre)) // else a value was typed again: nothing to write
         executer(nom, [this, livre] { catalogue_.modifier({livre}); });
 }
 
@@ -42,9 +42,9 @@ void HistoriqueLivres::revenirAuxValeursLivrees(const QString &nom)
 
 void HistoriqueLivres::executer(const QString &nom, const std::function<void()> &faire)
 {
-    const QList<Livre> avant = catalogue_.livres();
+    const QList<Livre> avant = catalogue_.donnees().livres;
     faire();
-    const QList<Livre> livresTouches = touches(avant, catalogue_.livres());
+    const QList<Livre> livresTouches = touches(avant, catalogue_.donnees().livres);
     if (livresTouches.isEmpty())
         return;
     faits_.append({nom, faire, livresTouches});

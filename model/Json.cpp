@@ -60,6 +60,13 @@ void lire(const QJsonValue &json, const Lieu &lieu, QString &valeur)
     valeur = json.toString();
 }
 
+void lire(const QJsonValue &json, const Lieu &lieu, Jour &valeur)
+{
+    QString texte;
+    lire(json, lieu, texte);
+    valeur = Jour(texte);
+}
+
 void lire(const QJsonValue &json, const Lieu &lieu, QUrl &valeur)
 {
     QString texte;

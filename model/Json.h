@@ -1,5 +1,8 @@
 #pragma once
 
+#include "model/Cle.h"
+#include "model/Enumeration.h"
+#include "model/Jour.h"
 #include "model/LieuJson.h"
 #include "model/Quantite.h"
 
@@ -18,8 +21,7 @@
 #include <tuple>
 #include <utility>
 
-// Plain records to JSON and back. A record lists its fields once, in `champs<Record>`; an enumeration that is
-// stored as text lists its raw values once, in `valeursBrutes<Enum>`. Everything else follows from these.
+// Plain records to JSON and back. A record lists its fields once, in `champs<Record>`. Everything else follows.
 namespace Json {
 
 template <typename Enregistrement, typename Type>
@@ -31,54 +33,22 @@ struct Champ
 template <typename Enregistrement, typename Type>
 Champ(const char *, Type Enregistrement::*) -> Champ<Enregistrement, Type>;
 
-template <typename Enum>
-struct ValeurBrute
-{
-    Enum cas;
-    const char *texte;
-};
-template <typename Enum>
-ValeurBrute(Enum, const char *) -> ValeurBrute<Enum>;
-
 template <typename Enregistrement>
 inline constexpr auto champs = nullptr;
 
-template <typename Enum>
-inline constexpr auto valeursBrutes = nullptr;
-
 template <typename T>
 concept EstEnregistrement = !std::same_as<decltype(champs<T>), const std::nullptr_t>;
-
-template <typename T>
-concept EstEnumeration = std::is_enum_v<T> && !std::same_as<decltype(valeursBrutes<T>), const std::nullptr_t>;
-
-template <EstEnumeration Enum>
-QString brut(Enum cas)
-{
-    for (const auto &valeur : valeursBrutes<Enum>)
-        if (valeur.cas == cas)
-            return QString::fromLatin1(valeur.texte);
-    Q_UNREACHABLE();
-}
-
-template <EstEnumeration Enum>
-std::optional<Enum> depuisBrut(const QString &texte)
-{
-    for (const auto &valeur : valeursBrutes<Enum>)
-        if (texte == QLatin1String(valeur.texte))
-            return valeur.cas;
-    return std::nullopt;
-}
 
 // One `lire` and one `ecrire` a kind of value. A `lire` refuses anything that is not exactly its kind.
 void lire(const QJsonValue &json, const Lieu &lieu, qint64 &valeur);
 void lire(const QJsonValue &json, const Lieu &lieu, bool &valeur);
 void lire(const QJsonValue &json, const Lieu &lieu, QString &valeur);
 void lire(const QJsonValue &json, const Lieu &lieu, QUrl &valeur);
+void lire(const QJsonValue &json, const Lieu &lieu, Jour &valeur);
 
-template <typename Unite>
-void lire(const QJsonValue &json, const Lieu &lieu, Quantite<Unite> &valeur);
-template <EstEnumeration Enum>
+template <typename Unite> // the sum of that many
+void lire(const QJsonValue &json, const Lieu &lieu, Quantite<Unite> &valeur, qint64 termes = 1);
+template <Enumeration Enum>
 void lire(const QJsonValue &json, const Lieu &lieu, Enum &valeur);
 template <EstEnregistrement Enregistrement>
 void lire(const QJsonValue &json, const Lieu &lieu, Enregistrement &valeur);
@@ -86,10 +56,10 @@ template <typename T>
 void lire(const QJsonValue &json, const Lieu &lieu, std::optional<T> &valeur);
 template <typename T>
 void lire(const QJsonValue &json, const Lieu &lieu, QList<T> &valeur);
-template <typename T>
-void lire(const QJsonValue &json, const Lieu &lieu, QMap<QString, T> &valeur);
-template <typename Unite>
-void lire(const QJsonValue &json, const Lieu &lieu, QMap<QString, Quantite<Unite>> &valeur);
+template <typename Sorte>
+void lire(const QJsonValue &json, const Lieu &lieu, Cle<Sorte> &valeur);
+template <typename Sorte, typename T>
+void lire(const QJsonValue &json, const Lieu &lieu, QMap<Cle<Sorte>, T> &valeur);
 
 inline QJsonValue ecrire(qint64 valeur)
 {
@@ -107,10 +77,14 @@ inline QJsonValue ecrire(const QUrl &valeur)
 {
     return QString::fromLatin1(valeur.toEncoded());
 }
+inline QJsonValue ecrire(const Jour &valeur)
+{
+    return valeur.texte();
+}
 
 template <typename Unite>
 QJsonValue ecrire(Quantite<Unite> valeur);
-template <EstEnumeration Enum>
+template <Enumeration Enum>
 QJsonValue ecrire(Enum valeur);
 template <EstEnregistrement Enregistrement>
 QJsonValue ecrire(const Enregistrement &valeur);
@@ -118,8 +92,10 @@ template <typename T>
 QJsonValue ecrire(const std::optional<T> &valeur);
 template <typename T>
 QJsonValue ecrire(const QList<T> &valeur);
-template <typename T>
-QJsonValue ecrire(const QMap<QString, T> &valeur);
+template <typename Sorte>
+QJsonValue ecrire(const Cle<Sorte> &valeur);
+template <typename Sorte, typename T>
+QJsonValue ecrire(const QMap<Cle<Sorte>, T> &valeur);
 
 // Throws Erreur when the bytes are not JSON.
 QJsonValue analyser(const QByteArray &octets, const Lieu &fichier);
@@ -143,22 +119,17 @@ QByteArray encoder(const T &valeur)
 }
 
 template <typename Unite>
-void lireBornee(const QJsonValue &json, const Lieu &lieu, Quantite<Unite> &valeur, qint64 borne)
+void lire(const QJsonValue &json, const Lieu &lieu, Quantite<Unite> &valeur, qint64 termes)
 {
     qint64 nombre = 0;
     lire(json, lieu, nombre);
-    if (nombre < -borne || nombre > borne)
+    const auto bornee = Quantite<Unite>::bornee(nombre, termes);
+    if (!bornee)
         lieu.refuser(QStringLiteral("valeur hors limites"));
-    valeur = Quantite<Unite>{nombre};
+    valeur = *bornee;
 }
 
-template <typename Unite>
-void lire(const QJsonValue &json, const Lieu &lieu, Quantite<Unite> &valeur)
-{
-    lireBornee(json, lieu, valeur, Unite::maximum);
-}
-
-template <EstEnumeration Enum>
+template <Enumeration Enum>
 void lire(const QJsonValue &json, const Lieu &lieu, Enum &valeur)
 {
     QString texte;
@@ -213,29 +184,28 @@ void lire(const QJsonValue &json, const Lieu &lieu, QList<T> &valeur)
         lieu.tenter([&] { lire(liste.at(i), Lieu(lieu, i), valeur[i]); });
 }
 
-template <typename T, typename Lecture>
-void lireTable(const QJsonValue &json, const Lieu &lieu, QMap<QString, T> &valeur, Lecture lireEntree)
+template <typename Sorte>
+void lire(const QJsonValue &json, const Lieu &lieu, Cle<Sorte> &valeur)
+{
+    QString texte;
+    lire(json, lieu, texte);
+    valeur = Cle<Sorte>(texte);
+}
+
+template <typename Sorte, typename T, typename Lecture>
+void lireTable(const QJsonValue &json, const Lieu &lieu, QMap<Cle<Sorte>, T> &valeur, Lecture lireEntree)
 {
     lieu.exiger(json.isObject(), json, QStringLiteral("objet attendu"));
     const QJsonObject objet = json.toObject();
     for (auto entree = objet.begin(); entree != objet.end(); ++entree)
-        lieu.tenter([&] { lireEntree(entree.value(), Lieu(lieu, entree.key()), valeur[entree.key()]); });
+        lieu.tenter([&] { lireEntree(entree.value(), Lieu(lieu, entree.key()), valeur[Cle<Sorte>(entree.key())]); });
 }
 
-template <typename T>
-void lire(const QJsonValue &json, const Lieu &lieu, QMap<QString, T> &valeur)
+template <typename Sorte, typename T>
+void lire(const QJsonValue &json, const Lieu &lieu, QMap<Cle<Sorte>, T> &valeur)
 {
     lireTable(json, lieu, valeur,
               [](const QJsonValue &entree, const Lieu &place, T &lue) { lire(entree, place, lue); });
-}
-
-// What a table of quantities holds may be a sum of two: a book and its postage.
-template <typename Unite>
-void lire(const QJsonValue &json, const Lieu &lieu, QMap<QString, Quantite<Unite>> &valeur)
-{
-    lireTable(json, lieu, valeur, [](const QJsonValue &entree, const Lieu &place, Quantite<Unite> &lue) {
-        lireBornee(entree, place, lue, 2 * Unite::maximum);
-    });
 }
 
 template <typename Unite>
@@ -244,7 +214,7 @@ QJsonValue ecrire(Quantite<Unite> valeur)
     return valeur.valeur();
 }
 
-template <EstEnumeration Enum>
+template <Enumeration Enum>
 QJsonValue ecrire(Enum valeur)
 {
     return brut(valeur);
@@ -278,12 +248,18 @@ QJsonValue ecrire(const QList<T> &valeur)
     return liste;
 }
 
-template <typename T>
-QJsonValue ecrire(const QMap<QString, T> &valeur)
+template <typename Sorte>
+QJsonValue ecrire(const Cle<Sorte> &valeur)
+{
+    return valeur.texte();
+}
+
+template <typename Sorte, typename T>
+QJsonValue ecrire(const QMap<Cle<Sorte>, T> &valeur)
 {
     QJsonObject objet;
     for (auto entree = valeur.begin(); entree != valeur.end(); ++entree)
-        objet.insert(entree.key(), ecrire(entree.value()));
+        objet.insert(entree.key().texte(), ecrire(entree.value()));
     return objet;
 }
 

@@ -1,5 +1,11 @@
 #include "model/Livre.h"
 
+void Json::lire(const QJsonValue &json, const Lieu &lieu, PrixParDestination &prix)
+{
+    lireTable(json, lieu, prix,
+              [](const QJsonValue &entree, const Lieu &place, Centimes &lu) { lire(entree, place, lu, 2); });
+}
+
 void Json::lire(const QJsonValue &json, const Lieu &lieu, Livre &livre)
 {
     lire<Livre>(json, lieu, livre);

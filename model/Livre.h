@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Destination.h"
+#include "model/Json.h"
 #include "model/Quantite.h"
 #include "model/Vendeur.h"
 
@@ -10,8 +12,7 @@
 
 #include <optional>
 
-// Prices per destination code.
-using PrixParDestination = QMap<QString, Centimes>;
+using PrixParDestination = QMap<CodeDestination, Centimes>;
 
 // One printed title that one of the two sellers sells.
 struct Livre
@@ -54,7 +55,7 @@ struct ModificationLivre
 };
 
 // Overrides by the decimal text of the book's id.
-using ModificationsLivres = QMap<QString, ModificationLivre>;
+using ModificationsLivres = QMap<Cle<Livre>, ModificationLivre>;
 
 template <>
 inline constexpr auto Json::champs<Livre> = std::tuple{
@@ -79,6 +80,8 @@ inline constexpr auto Json::champs<Livre> = std::tuple{
 
 namespace Json {
 
+// Each is the sum of two: a book and its postage.
+void lire(const QJsonValue &json, const Lieu &lieu, PrixParDestination &prix);
 // Refuses a tint that is no colour: nothing could be painted in place of a missing cover.
 void lire(const QJsonValue &json, const Lieu &lieu, Livre &livre);
 

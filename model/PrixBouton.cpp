@@ -2,7 +2,7 @@
 
 namespace {
 
-std::optional<Centimes> entree(const std::optional<PrixParDestination> &prix, const QString &code)
+std::optional<Centimes> entree(const std::optional<PrixParDestination> &prix, const CodeDestination &code)
 {
     if (!prix || !prix->contains(code))
         return std::nullopt;

@@ -4,6 +4,7 @@
 
 #include <compare>
 #include <limits>
+#include <optional>
 
 // A whole number of one unit. Two units never mix, and arithmetic that leaves 64 bits stops the program:
 // a wrong amount must not reach a buyer.
@@ -13,6 +14,14 @@ class Quantite
 public:
     constexpr Quantite() = default;
     constexpr explicit Quantite(qint64 valeur) : valeur_(valeur) {}
+
+    // What any source gives passes here. None without a number, or for one that is too large, of either sign; a sum of
+    // several may be as much larger.
+    static constexpr std::optional<Quantite> bornee(std::optional<qint64> valeur, qint64 termes = 1)
+    {
+        const qint64 borne = termes * Unite::maximum;
+        return valeur && -borne <= *valeur && *valeur <= borne ? std::optional(Quantite{*valeur}) : std::nullopt;
+    }
 
     [[nodiscard]] constexpr qint64 valeur() const { return valeur_; }
 
@@ -55,8 +64,8 @@ private:
     qint64 valeur_ = 0;
 };
 
-// The most that is taken of each unit, from a typist, a public page or a data file; only a table of prices may hold
-// twice as much, the sum of two. What any order can make of it stays far below 64 bits.
+// The most that is taken of each unit, from a typist, a public page or a data file. What any order can make of it stays
+// far below 64 bits.
 struct UniteCentime
 {
     static constexpr qint64 maximum = 9'999'999;

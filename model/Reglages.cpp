@@ -8,6 +8,6 @@ Centimes FraisPaypal::frais(Centimes montant, RegionPaypal region) const
 
 std::optional<IdentiteVendeur> Reglages::identite(Vendeur vendeur) const
 {
-    const auto trouvee = vendeurs.find(Json::brut(vendeur));
+    const auto trouvee = vendeurs.find(vendeur);
     return trouvee == vendeurs.end() ? std::nullopt : std::optional(*trouvee);
 }

@@ -14,14 +14,14 @@
 // PayPal's fees for receiving a payment.
 struct FraisPaypal
 {
-    QString releve; // day on which it was read, yyyy-mm-dd
+    Jour releve; // day on which it was read
     QUrl source;
     Taux taux;
     Centimes fixe;
-    QMap<QString, Taux> supplements; // by raw value of RegionPaypal; no entry: no extra rate
+    QMap<Cle<RegionPaypal>, Taux> supplements; // no entry: no extra rate
 
     // Zero when the region has no entry.
-    [[nodiscard]] Taux supplement(RegionPaypal region) const { return supplements.value(Json::brut(region)); }
+    [[nodiscard]] Taux supplement(RegionPaypal region) const { return supplements.value(region); }
     // Fee of one payment, its proportional part rounded to the nearest cent, halves upward.
     [[nodiscard]] Centimes frais(Centimes montant, RegionPaypal region) const;
 
@@ -64,7 +64,7 @@ struct Reglages
     FraisPaypal fraisPaypal;
     QList<Emballage> emballages; // the first is the default one
     MentionsDouane douane;
-    QMap<QString, IdentiteVendeur> vendeurs; // by raw value of Vendeur
+    QMap<Cle<Vendeur>, IdentiteVendeur> vendeurs;
 
     [[nodiscard]] std::optional<IdentiteVendeur> identite(Vendeur vendeur) const;
 

@@ -16,13 +16,12 @@ bool estNegatif(const QString &texte)
     return texte.startsWith(u'-') || texte.startsWith(u'\u2212');
 }
 
-// None above what a data file may hold.
-template <typename Unite>
-std::optional<Quantite<Unite>> quantite(const QString &chiffres)
+template <typename Quantite>
+std::optional<Quantite> quantite(const QString &chiffres)
 {
     bool tient = false;
     const qint64 valeur = chiffres.toLongLong(&tient);
-    return tient && valeur <= Unite::maximum ? std::optional(Quantite<Unite>{valeur}) : std::nullopt;
+    return tient ? Quantite::bornee(valeur) : std::nullopt;
 }
 
 } // namespace
@@ -42,7 +41,7 @@ Saisie::Lecture<Centimes> Saisie::prix(const QString &texte)
         return Refus{QStringLiteral("Un prix s’écrit en chiffres, comme 18,50.")};
     if (decimales.size() > 2)
         return Refus{QStringLiteral("Deux décimales au plus, comme 18,50.")};
-    if (const auto prix = quantite<UniteCentime>(euros + decimales.leftJustified(2, u'0')))
+    if (const auto prix = quantite<Centimes>(euros + decimales.leftJustified(2, u'0')))
         return *prix;
     return Refus{QStringLiteral("Un prix va jusqu’à %1.").arg(Format::euros(Centimes{UniteCentime::maximum}))};
 }
@@ -58,7 +57,7 @@ Saisie::Lecture<std::optional<Grammes>> Saisie::poids(const QString &texte)
         return Refus{QStringLiteral("Un poids ne peut pas être négatif.")};
     if (!queDesChiffres(saisi))
         return Refus{QStringLiteral("Un poids s’écrit en grammes entiers, comme 355.")};
-    if (const auto poids = quantite<UniteGramme>(saisi))
+    if (const auto poids = quantite<Grammes>(saisi))
         return poids;
     return Refus{QStringLiteral("Un poids va jusqu’à %1.").arg(Format::poids(Grammes{UniteGramme::maximum}))};
 }

@@ -15,7 +15,7 @@ std::optional<QString> GrilleColissimo::pays() const
     return reste == nomCourt ? std::nullopt : std::optional(reste);
 }
 
-const GrilleColissimo *TarifsColissimo::grille(const QString &code) const
+const GrilleColissimo *TarifsColissimo::grille(const CodeGrille &code) const
 {
     const auto trouvee = std::ranges::find(grilles, code, &GrilleColissimo::code);
     return trouvee == grilles.end() ? nullptr : &*trouvee;
@@ -23,7 +23,7 @@ const GrilleColissimo *TarifsColissimo::grille(const QString &code) const
 
 QString TarifsColissimo::nomDeFichier() const
 {
-    return QStringLiteral("tarifs-colissimo-%1.json").arg(validite);
+    return QStringLiteral("tarifs-colissimo-%1.json").arg(validite.texte());
 }
 
 QString TarifsColissimo::motifDeFichier()

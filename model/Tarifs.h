@@ -20,14 +20,52 @@ struct Palier
 
 enum class FamilleTarifs { france, outreMer, europe, monde };
 
+constexpr const char *valeurBrute(FamilleTarifs famille)
+{
+    switch (famille) {
+    case FamilleTarifs::france:
+        return "france";
+    case FamilleTarifs::outreMer:
+        return "outre-mer";
+    case FamilleTarifs::europe:
+        return "europe";
+    case FamilleTarifs::monde:
+        return "monde";
+    }
+    return nullptr;
+}
+
 // The grids of La Poste's page. Any other could not be found there, and every weekly reading would fail.
 enum class ZoneColissimo { franceDomicile, om1, om2, ueSuisse, royaumeUni, zoneB, zoneC };
 
+constexpr const char *valeurBrute(ZoneColissimo zone)
+{
+    switch (zone) {
+    case ZoneColissimo::franceDomicile:
+        return "france-domicile";
+    case ZoneColissimo::om1:
+        return "om1";
+    case ZoneColissimo::om2:
+        return "om2";
+    case ZoneColissimo::ueSuisse:
+        return "ue-suisse";
+    case ZoneColissimo::royaumeUni:
+        return "royaume-uni";
+    case ZoneColissimo::zoneB:
+        return "zone-b";
+    case ZoneColissimo::zoneC:
+        return "zone-c";
+    }
+    return nullptr;
+}
+
+using CodeGrille = Cle<ZoneColissimo>;
+
 struct GrilleColissimo
 {
-    QString code; // raw value of a ZoneColissimo
+    CodeGrille code;
     QString nomCourt;
-    QString famille; // raw value of a FamilleTarifs; another text belongs to no family
+    Cle<FamilleTarifs> famille; // without case: belongs to no family
     QString nom;
     QList<Palier> paliers; // ascending `jusqua`
 
@@ -42,38 +80,19 @@ struct GrilleColissimo
 // One complete price list of La Poste.
 struct TarifsColissimo
 {
-    QString validite; // first day in force, yyyy-mm-dd
-    QString releve;   // day on which it was read, yyyy-mm-dd
+    Jour validite; // first day in force
+    Jour releve;   // day on which it was read
     QUrl source;
     QList<GrilleColissimo> grilles;
 
     // The pointer lives as long as this record; null when no grid has the code.
-    [[nodiscard]] const GrilleColissimo *grille(const QString &code) const;
+    [[nodiscard]] const GrilleColissimo *grille(const CodeGrille &code) const;
 
     // The schedules' files, shipped and saved alike: one name, and the pattern of all.
     [[nodiscard]] QString nomDeFichier() const;
     static QString motifDeFichier();
 
     bool operator==(const TarifsColissimo &) const = default;
-};
-
-template <>
-inline constexpr std::array Json::valeursBrutes<FamilleTarifs>{
-    Json::ValeurBrute{FamilleTarifs::france, "france"},
-    Json::ValeurBrute{FamilleTarifs::outreMer, "outre-mer"},
-    Json::ValeurBrute{FamilleTarifs::europe, "europe"},
-    Json::ValeurBrute{FamilleTarifs::monde, "monde"},
-};
-
-template <>
-inline constexpr std::array Json::valeursBrutes<ZoneColissimo>{
-    Json::ValeurBrute{ZoneColissimo::franceDomicile, "france-domicile"},
-    Json::ValeurBrute{ZoneColissimo::om1, "om1"},
-    Json::ValeurBrute{ZoneColissimo::om2, "om2"},
-    Json::ValeurBrute{ZoneColissimo::ueSuisse, "ue-suisse"},
-    Json::ValeurBrute{ZoneColissimo::royaumeUni, "royaume-uni"},
-    Json::ValeurBrute{ZoneColissimo::zoneB, "zone-b"},
-    Json::ValeurBrute{ZoneColissimo::zoneC, "zone-c"},
 };
 
 template <>

@@ -1,17 +1,28 @@
 #pragma once
 
-#include "model/Json.h"
+#include <QStringView>
 
-#include <array>
-
-// The two sellers' places; the names that documents show are data.
+// The sellers' places, in the order in which screens name them; the names that documents show are data.
 enum class Vendeur { davrel, mireva };
 
-// In the order in which screens name them.
-inline constexpr std::array tousLesVendeurs{Vendeur::davrel, Vendeur::mireva};
-
-template <>
-inline constexpr std::array Json::valeursBrutes<Vendeur>{
-    Json::ValeurBrute{Vendeur::davrel, "davrel"},
-    Json::ValeurBrute{Vendeur::mireva, "mireva"},
+struct TraitsDeVendeur
+{
+    const char *brut = nullptr; // the raw value
+    QStringView nom;            // the short one, of the screens
 };
+
+constexpr TraitsDeVendeur traits(Vendeur vendeur)
+{
+    switch (vendeur) {
+    case Vendeur::davrel:
+        return {"davrel", u"Davrel"};
+    case Vendeur::mireva:
+        return {"mireva", u"Mireva"};
+    }
+    return {};
+}
+
+constexpr const char *valeurBrute(Vendeur vendeur)
+{
+    return traits(vendeur).brut;
+}

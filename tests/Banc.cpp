@@ -37,18 +37,23 @@ Livre unLivre(qint64 id, Vendeur vendeur, Centimes prix, std::optional<Grammes> 
             .teinte = {30, 90, 120}};
 }
 
-TarifsColissimo desTarifs(const QString &validite, Centimes premierPrix)
+CodeDestination vers(const char *code)
+{
+    return CodeDestination(QString::fromLatin1(code));
+}
+
+TarifsColissimo desTarifs(const char *validite, Centimes premierPrix)
 {
     const QList<Palier> paliers{
         {Grammes{250}, premierPrix}, {Grammes{500}, Centimes{759}}, {Grammes{2000}, Centimes{1119}}};
-    const auto grille = [&](const QString &code, const QString &nom, const QString &famille) {
+    const auto grille = [&](ZoneColissimo code, const QString &nom, FamilleTarifs famille) {
         return GrilleColissimo{code, nom, famille, nom + QStringLiteral(" : ici et là"), paliers};
     };
-    return {validite,
-            QStringLiteral("2025-12-15"),
+    return {Jour(QString::fromLatin1(validite)),
+            Jour(QStringLiteral("2025-12-15")),
             QUrl(QStringLiteral("https://poste.example/tarifs")),
-            {grille(QStringLiteral("france-domicile"), QStringLiteral("France"), QStringLiteral("france")),
-             grille(QStringLiteral("ue-suisse"), QStringLiteral("UE et Suisse"), QStringLiteral("europe"))}};
+            {grille(ZoneColissimo::franceDomicile, QStringLiteral("France"), FamilleTarifs::france),
+             grille(ZoneColissimo::ueSuisse, QStringLiteral("UE et Suisse"), FamilleTarifs::europe)}};
 }
 
 Banc::Banc()
@@ -58,10 +63,10 @@ Banc::Banc()
               unLivre(3, Vendeur::mireva, Centimes{1800}, Grammes{300}),
               unLivre(4, Vendeur::davrel, Centimes{900}, Grammes{150})};
     livres[3].disponible = false;
-    tarifs = {desTarifs(QStringLiteral("2026-01-01"), Centimes{549})};
+    tarifs = {desTarifs("2026-01-01", Centimes{549})};
     const auto destination = [](const QString &code, const QString &fr, const QString &en, const QString &grille,
                                 RegionPaypal region, bool douane) {
-        return Destination{code, fr, en, fr, fr, en, grille, region, douane, std::nullopt};
+        return Destination{CodeDestination(code), fr, en, fr, fr, en, CodeGrille(grille), region, douane, std::nullopt};
     };
     destinations = {
         destination(QStringLiteral("france"), QStringLiteral("France"), QStringLiteral("France"),
@@ -75,14 +80,14 @@ Banc::Banc()
     };
     destinations[1].douaneSauf = QStringLiteral("les Canaries & Ceuta");
     reglages = {
-        .fraisPaypal = {QStringLiteral("2026-07-24"),
+        .fraisPaypal = {Jour(QStringLiteral("2026-07-24")),
                         QUrl(QStringLiteral("https://paypal.example/frais")),
                         Taux{290},
                         Centimes{35},
-                        {{QStringLiteral("autres"), Taux{199}}}},
+                        {{RegionPaypal::autres, Taux{199}}}},
         .emballages = {{QStringLiteral("Enveloppe à bulles"), Grammes{40}}, {QStringLiteral("Carton"), Grammes{180}}},
         .douane = {QStringLiteral("Livres imprimés"), QStringLiteral("Printed books"), QStringLiteral("490199")},
-        .vendeurs = {{QStringLiteral("davrel"),
+        .vendeurs = {{Vendeur::davrel,
                       {.nom = QStringLiteral("Éditions Davrel"),
                        .adresse = {QStringLiteral("1 rue Exemple"), QStringLiteral("00000 Exempleville")},
                        .siret = QStringLiteral("00000000000000"),

@@ -16,6 +16,8 @@ struct Banc
     QList<TarifsColissimo> tarifs;
     Reglages reglages;
 
+    // As they would be loaded, without a file.
+    [[nodiscard]] Donnees donnees() const { return {livres, tarifs, destinations, reglages}; }
     // Writes the records as shipped resources.
     void deposer() const;
     // The same, then loads them with the user's files over them.
@@ -44,4 +46,5 @@ inline const QDate jourDuBanc(2026, 3, 2);
 // What a screen or a message says, its no-break spaces made plain.
 QString lisible(QString texte);
 Livre unLivre(qint64 id, Vendeur vendeur, Centimes prix, std::optional<Grammes> poids);
-TarifsColissimo desTarifs(const QString &validite, Centimes premierPrix);
+TarifsColissimo desTarifs(const char *validite, Centimes premierPrix);
+CodeDestination vers(const char *code);

@@ -25,7 +25,7 @@ void BancEcran::demarrer(const Preferences &preferences)
 void BancEcran::commander(const QString &destination) const
 {
     app->commande().ajuster(donnees.livres[0], 2);
-    app->commande().setCodeDestination(destination);
+    app->commande().setCodeDestination(CodeDestination(destination));
 }
 
 QDialog *BancEcran::ouvrir(const QString &bouton) const

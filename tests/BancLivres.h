@@ -13,12 +13,12 @@ struct BancLivres : BancEcran
 {
     BancLivres()
     {
-        donnees.livres[0].prixPaypal = {{QStringLiteral("france"), Centimes{2000}}};
+        donnees.livres[0].prixPaypal = {{vers("france"), Centimes{2000}}};
         demarrer();
         app->fenetre().contenu()->montrer(Rubrique::livres);
     }
     [[nodiscard]] Fenetre *fenetre() const { return &app->fenetre(); }
-    [[nodiscard]] Livre enregistre(qsizetype rang) const { return donnees.charger()->livres()[rang]; }
+    [[nodiscard]] Livre enregistre(qsizetype rang) const { return donnees.charger()->donnees().livres[rang]; }
     [[nodiscard]] QListView *liste() const
     {
         return qobject_cast<QListView *>(Ecran::controle(fenetre(), QStringLiteral("Livres")));

@@ -2,7 +2,15 @@
 
 QString NomsVendeurs::court(Vendeur vendeur)
 {
-    return vendeur == Vendeur::davrel ? QStringLiteral("Davrel") : QStringLiteral("Mireva");
+    return traits(vendeur).nom.toString();
+}
+
+QString NomsVendeurs::livresDeChacun()
+{
+    QStringList noms;
+    for (const Vendeur vendeur : tous<Vendeur>)
+        noms.append(court(vendeur));
+    return QStringLiteral("les livres de ") + noms.join(QStringLiteral(" et ceux de "));
 }
 
 QString NomsVendeurs::complet(Vendeur vendeur, const Reglages &reglages)

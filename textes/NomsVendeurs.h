@@ -7,6 +7,8 @@ namespace NomsVendeurs {
 
 // "Davrel", "Mireva".
 QString court(Vendeur vendeur);
+// "les livres de Davrel et ceux de Mireva"
+QString livresDeChacun();
 // The name on the seller's documents; the short one when the seller has no identity.
 QString complet(Vendeur vendeur, const Reglages &reglages);
 // The seller's web site; the short name when the seller has none.

@@ -81,8 +81,8 @@ std::optional<TextesDocuments::Obstacle> TextesDocuments::obstacleALaFacture(con
     const QString impossible = QStringLiteral("Facture impossible");
     if (calcul.vendeurs().size() != 1)
         return Obstacle{QStringLiteral("person.2"), impossible,
-                        QStringLiteral("Une facture par vendeur : séparez les livres de Davrel et ceux de Mireva en "
-                                       "deux commandes.")};
+                        QStringLiteral("Une facture par vendeur : séparez %1 en deux commandes.")
+                            .arg(NomsVendeurs::livresDeChacun())};
     if (const QString manque = sansIdentite(calcul, reglages); !manque.isEmpty())
         return Obstacle{QStringLiteral("person.2"), impossible, manque};
     if (!calcul.envoi)

@@ -99,25 +99,24 @@ QString TextesRecapitulatif::detailFrais(const Calcul &calcul, const FraisPaypal
 }
 
 std::optional<TextesRecapitulatif::LienDePaiement>
-TextesRecapitulatif::lienDePaiement(const Calcul &calcul, const Reglages &reglages, const Commande &commande)
+TextesRecapitulatif::lienDePaiement(const Calcul &calcul, const Reglages &reglages, const BonDeCommande &bon)
 {
-    const auto message = ReponseType::de(calcul, reglages, commande);
+    const auto message = ReponseType::de(calcul, reglages, bon);
     if (!message || !calcul.total)
         return std::nullopt;
-    const bool anglais = message->langue == Langue::anglais;
+    const TraitsDeLangue langue = traits(message->langue);
     return LienDePaiement{
         .nomDeLObjet = message->nomDeLObjet(),
         .description = message->descriptionDuLien(),
         .prix = Format::montant(*calcul.total),
         .prixAffiche = Format::euros(calcul.total),
         .retour = message->vendeur.retourPaypal,
-        .indicationDuPays = anglais ? QStringLiteral("en anglais, pour la description")
-                                    : QStringLiteral("en français, avec l’article : la Belgique, l’Italie, le Canada"),
+        .indicationDuPays = QStringLiteral("en %1, %2").arg(langue.nom, langue.formeDuPays),
         .paysPropose = calcul.destination ? calcul.destination->libelleCourtEnLangue(message->langue) : QString(),
     };
 }
 
 QString TextesRecapitulatif::libelleDeLaReponse(Langue langue)
 {
-    return langue == Langue::anglais ? QStringLiteral("E-mail en anglais") : QStringLiteral("E-mail en français");
+    return QStringLiteral("E-mail en %1").arg(traits(langue).nom);
 }

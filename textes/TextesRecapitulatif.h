@@ -52,7 +52,7 @@ QString destinationComplete(const Calcul &calcul);
 QString declaration(const Calcul &calcul);
 QString detailEnvoi(const Calcul &calcul);
 QString detailFrais(const Calcul &calcul, const FraisPaypal &frais);
-std::optional<LienDePaiement> lienDePaiement(const Calcul &calcul, const Reglages &reglages, const Commande &commande);
+std::optional<LienDePaiement> lienDePaiement(const Calcul &calcul, const Reglages &reglages, const BonDeCommande &bon);
 QString libelleDeLaReponse(Langue langue);
 
 } // namespace TextesRecapitulatif

@@ -17,7 +17,7 @@ qsizetype differences(const std::optional<PrixParDestination> &a, const std::opt
     qsizetype differentes = 0;
     for (const auto &[code, prix] : gauche.asKeyValueRange())
         differentes += droite.contains(code) && droite.value(code) == prix ? 0 : 1;
-    for (const QString &code : droite.keys())
+    for (const CodeDestination &code : droite.keys())
         differentes += gauche.contains(code) ? 0 : 1;
     return differentes;
 }

@@ -72,10 +72,10 @@ QString TextesTarifs::aPartirDu(const TarifsColissimo &tarifs)
 QList<Famille> TextesTarifs::familles(const TarifsColissimo &tarifs, const std::optional<Calcul> &commande)
 {
     QList<Famille> familles;
-    for (const auto &[famille, brut] : Json::valeursBrutes<FamilleTarifs>) {
+    for (const FamilleTarifs famille : tous<FamilleTarifs>) {
         QList<GrilleColissimo> grilles;
         for (const GrilleColissimo &grille : tarifs.grilles)
-            if (grille.famille == QLatin1String(brut))
+            if (grille.famille == famille)
                 grilles.append(grille);
         if (!grilles.isEmpty())
             familles.append(tableau(titre(famille), grilles, commande));
@@ -87,8 +87,8 @@ QList<TextesTarifs::Frais> TextesTarifs::frais(const FraisPaypal &frais)
 {
     QList<Frais> lignes{{QStringLiteral("Taux de base"), Format::pourcentage(frais.taux)},
                         {QStringLiteral("Part fixe"), Format::euros(frais.fixe)}};
-    for (const auto region : {RegionPaypal::eee, RegionPaypal::royaumeUni, RegionPaypal::autres})
-        lignes.append({TextesFrais::region(region), frais.supplements.contains(Json::brut(region))
+    for (const RegionPaypal region : tous<RegionPaypal>)
+        lignes.append({TextesFrais::region(region), frais.supplements.contains(region)
                                                         ? Format::pourcentage(frais.supplement(region))
                                                         : QString(Format::absent)});
     return lignes;

@@ -62,10 +62,10 @@ QString TextesVerifications::rythme()
                           "accord.");
 }
 
-Ligne TextesVerifications::laPoste(const Verifications &verifications, const Catalogue &catalogue, QDate jour)
+Ligne TextesVerifications::laPoste(const Verifications &verifications, const Donnees &donnees, QDate jour)
 {
-    QString detail = TextesTarifs::enVigueur(catalogue.tarifs(Format::iso(jour)));
-    if (const auto suivants = catalogue.tarifsAVenir(jour))
+    QString detail = TextesTarifs::enVigueur(donnees.tarifs(jour));
+    if (const auto suivants = donnees.tarifsAVenir(jour))
         detail += QStringLiteral(", nouvelle grille au ") + Format::date(suivants->validite);
     Ligne ligne{.symbole = QStringLiteral("shippingbox"),
                 .titre = QStringLiteral("Tarifs Colissimo"),
@@ -77,9 +77,9 @@ Ligne TextesVerifications::laPoste(const Verifications &verifications, const Cat
     return ligne;
 }
 
-Ligne TextesVerifications::paypal(const Verifications &verifications, const Catalogue &catalogue)
+Ligne TextesVerifications::paypal(const Verifications &verifications, const Donnees &donnees)
 {
-    const FraisPaypal &frais = catalogue.reglages().fraisPaypal;
+    const FraisPaypal &frais = donnees.reglages.fraisPaypal;
     const QString detail = TextesFrais::formule(frais.taux, frais.fixe) + QStringLiteral(" ; Royaume-Uni + ")
                            + Format::pourcentage(frais.supplement(RegionPaypal::royaumeUni))
                            + QStringLiteral(", autres pays + ")

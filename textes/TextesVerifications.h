@@ -28,8 +28,8 @@ struct Ligne
 
 // When the pages are read, and that nothing follows by itself.
 QString rythme();
-Ligne laPoste(const Verifications &verifications, const Catalogue &catalogue, QDate jour);
-Ligne paypal(const Verifications &verifications, const Catalogue &catalogue);
+Ligne laPoste(const Verifications &verifications, const Donnees &donnees, QDate jour);
+Ligne paypal(const Verifications &verifications, const Donnees &donnees);
 
 // One tier whose price changes.
 struct Ecart

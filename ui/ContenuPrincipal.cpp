@@ -146,7 +146,7 @@ QWidget *ContenuPrincipal::ecran(Rubrique rubrique)
 
 void ContenuPrincipal::actualiser()
 {
-    const TarifsColissimo &tarifs = catalogue_.tarifs(Format::iso(aujourdhui_()));
+    const TarifsColissimo &tarifs = catalogue_.donnees().tarifs(aujourdhui_());
     enVigueur_->setText(TextesTarifs::enVigueur(tarifs));
     rubriques_->setPastille(static_cast<int>(Rubrique::tarifs), verifications_.nombreASignaler());
 }

@@ -11,7 +11,7 @@
 namespace {
 
 // What La Poste writes over the column of each grid.
-QString entete(const QString &code)
+QString entete(const CodeGrille &code)
 {
     static const QHash<ZoneColissimo, QString> entetes{
         {ZoneColissimo::franceDomicile, QStringLiteral("France métropolitaine – livraison à domicile")},
@@ -21,8 +21,8 @@ QString entete(const QString &code)
         {ZoneColissimo::royaumeUni, QStringLiteral("Royaume-Uni")},
         {ZoneColissimo::zoneB, QStringLiteral("Zone B")},
         {ZoneColissimo::zoneC, QStringLiteral("Zone C")}};
-    const auto zone = Json::depuisBrut<ZoneColissimo>(code);
-    return zone ? entetes.value(*zone) : code;
+    const auto zone = code.cas();
+    return zone ? entetes.value(*zone) : code.texte();
 }
 
 QString euros(Centimes montant)

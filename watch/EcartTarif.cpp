@@ -1,7 +1,5 @@
 #include "watch/EcartTarif.h"
 
-#include "model/Format.h"
-
 #include <map>
 #include <utility>
 
@@ -9,11 +7,11 @@ namespace {
 
 using AvantApres = std::pair<std::optional<Centimes>, std::optional<Centimes>>;
 
-// A text that is no day comes back unchanged.
-QString veille(const QString &iso)
+// A day that no calendar has comes back unchanged.
+Jour veille(const Jour &jour)
 {
-    const QDate jour = Format::jour(iso);
-    return jour.isValid() ? Format::iso(jour.addDays(-1)) : iso;
+    const QDate date = jour.date();
+    return date.isValid() ? Jour(date.addDays(-1)) : jour;
 }
 
 } // namespace
@@ -29,7 +27,7 @@ std::optional<Taux> EcartTarif::variation() const
 
 QString EcartTarif::id() const
 {
-    return grille.code + u'-' + QString::number(jusqua.valeur());
+    return grille.code.texte() + u'-' + QString::number(jusqua.valeur());
 }
 
 QList<EcartTarif> EcartTarif::ecarts(const TarifsColissimo &de, const TarifsColissimo &a)
@@ -51,7 +49,7 @@ QList<EcartTarif> EcartTarif::ecarts(const TarifsColissimo &de, const TarifsColi
     return lignes;
 }
 
-QList<EcartTarif> EcartTarif::duReleve(const Catalogue &catalogue, const TarifsColissimo &releves)
+QList<EcartTarif> EcartTarif::duReleve(const Donnees &donnees, const TarifsColissimo &releves)
 {
-    return ecarts(catalogue.tarifs(veille(releves.validite)), releves);
+    return ecarts(donnees.tarifs(veille(releves.validite)), releves);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Catalogue.h"
+#include "model/Donnees.h"
 
 #include <QList>
 #include <QString>
@@ -25,7 +25,7 @@ struct EcartTarif
     // Where a grid holds two tiers of one weight, the first counts, as it does for prices.
     static QList<EcartTarif> ecarts(const TarifsColissimo &de, const TarifsColissimo &a);
     // What these schedules change of those in force on the day before they come into force.
-    static QList<EcartTarif> duReleve(const Catalogue &catalogue, const TarifsColissimo &releves);
+    static QList<EcartTarif> duReleve(const Donnees &donnees, const TarifsColissimo &releves);
 
     bool operator==(const EcartTarif &) const = default;
 };

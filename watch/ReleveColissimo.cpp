@@ -1,10 +1,8 @@
 #include "watch/ReleveColissimo.h"
 
 #include "model/ChiffresAscii.h"
-#include "model/Format.h"
 #include "watch/ErreurReleve.h"
 #include "watch/Nombres.h"
-#include "watch/QuantiteLue.h"
 #include "watch/TexteHTML.h"
 
 #include <QHash>
@@ -14,12 +12,12 @@
 
 namespace {
 
-using PaliersParCode = QHash<QString, QList<Palier>>;
+using PaliersParCode = QHash<CodeGrille, QList<Palier>>;
 
 struct Colonne
 {
     qsizetype place;
-    QString code;
+    CodeGrille code;
 };
 
 QList<Colonne> colonnes(const TexteHTML::Rangee &entetes)
@@ -35,14 +33,13 @@ void lireTableau(const TexteHTML::Tableau &tableau, PaliersParCode &paliers)
 {
     const QList<Colonne> grilles = colonnes(tableau.first());
     for (const TexteHTML::Rangee &rangee : tableau.sliced(1)) {
-        const auto poids =
-            rangee.isEmpty() ? std::nullopt : quantiteLue<UniteGramme>(TexteHTML::grammes(rangee.first()));
+        const auto poids = rangee.isEmpty() ? std::nullopt : Grammes::bornee(TexteHTML::grammes(rangee.first()));
         if (!poids)
             continue;
         for (const Colonne &colonne : grilles) {
             if (colonne.place >= rangee.size())
                 break; // columns stand in order: a short row must not cost a wide header
-            if (const auto prix = quantiteLue<UniteCentime>(TexteHTML::centiemes(rangee[colonne.place])))
+            if (const auto prix = Centimes::bornee(TexteHTML::centiemes(rangee[colonne.place])))
                 paliers[colonne.code].append({*poids, *prix});
         }
     }
@@ -90,13 +87,12 @@ QUrl ReleveColissimo::adresse()
     return QUrl(QStringLiteral("https://www.laposte.fr/tarif-colissimo"));
 }
 
-std::optional<QString> ReleveColissimo::code(const QString &entete)
+std::optional<CodeGrille> ReleveColissimo::code(const QString &entete)
 {
-    const auto annoncee = zone(entete.toLower());
-    return annoncee ? std::optional(Json::brut(*annoncee)) : std::nullopt;
+    return zone(entete.toLower());
 }
 
-std::optional<QString> ReleveColissimo::dateDEffet(const QString &texte)
+std::optional<Jour> ReleveColissimo::dateDEffet(const QString &texte)
 {
     static const QStringList mois{QStringLiteral("janvier"), QStringLiteral("février"),  QStringLiteral("mars"),
                                   QStringLiteral("avril"),   QStringLiteral("mai"),      QStringLiteral("juin"),
@@ -117,10 +113,8 @@ std::optional<QString> ReleveColissimo::dateDEffet(const QString &texte)
     const qsizetype numero = mois.indexOf(date[2].toLower()) + 1;
     if (numero == 0 || !queDesChiffres(date[1]) || !queDesChiffres(date[3]))
         return std::nullopt;
-    return QStringLiteral("%1-%2-%3")
-        .arg(date[3])
-        .arg(numero, 2, 10, QLatin1Char('0'))
-        .arg(date[1], 2, QLatin1Char('0'));
+    return Jour(
+        QStringLiteral("%1-%2-%3").arg(date[3]).arg(numero, 2, 10, QLatin1Char('0')).arg(date[1], 2, QLatin1Char('0')));
 }
 
 ReleveColissimo ReleveColissimo::analyser(const QString &page, const TarifsColissimo &modele, QDate releve)
@@ -133,8 +127,7 @@ ReleveColissimo ReleveColissimo::analyser(const QString &page, const TarifsColis
     for (const GrilleColissimo &grille : modele.grilles)
         grilles.append(lireGrille(grille, paliers));
 
-    const QString jour = Format::iso(releve);
     const auto date = dateDEffet(TexteHTML::texte(page));
-    return {{.validite = date.value_or(jour), .releve = jour, .source = adresse(), .grilles = grilles},
+    return {{.validite = date.value_or(releve), .releve = releve, .source = adresse(), .grilles = grilles},
             date.has_value()};
 }

@@ -19,9 +19,9 @@ struct ReleveColissimo
     // weights do not rise.
     static ReleveColissimo analyser(const QString &page, const TarifsColissimo &modele, QDate releve);
     // The code of the grid that a column's header announces; none for other services.
-    static std::optional<QString> code(const QString &entete);
-    // The first day in force that a plain text announces, yyyy-mm-dd; it may not exist in the calendar.
-    static std::optional<QString> dateDEffet(const QString &texte);
+    static std::optional<CodeGrille> code(const QString &entete);
+    // The first day in force that a plain text announces; it may not exist in the calendar.
+    static std::optional<Jour> dateDEffet(const QString &texte);
 
     bool operator==(const ReleveColissimo &) const = default;
 };

@@ -1,9 +1,7 @@
 #include "watch/RelevePaypal.h"
 
-#include "model/Format.h"
 #include "watch/ErreurReleve.h"
 #include "watch/Nombres.h"
-#include "watch/QuantiteLue.h"
 #include "watch/Signes.h"
 #include "watch/TexteHTML.h"
 
@@ -43,10 +41,10 @@ std::optional<qint64> chercher(const QString &texte, const Figure &figure)
     throw ErreurReleve::pageIllisible(figure.nom + QStringLiteral(" introuvable"));
 }
 
-template <typename Unite>
-Quantite<Unite> exiger(std::optional<qint64> figure)
+template <typename Quantite>
+Quantite exiger(std::optional<qint64> figure)
 {
-    const auto valeur = quantiteLue<Unite>(figure);
+    const auto valeur = Quantite::bornee(figure);
     if (!valeur)
         throw ErreurReleve::pageIllisible(QStringLiteral("chiffres illisibles"));
     return *valeur;
@@ -77,14 +75,14 @@ FraisPaypal RelevePaypal::analyser(const QString &page, QDate releve)
     const auto autres = chercher(texte, {.libelle = QStringLiteral("Tous les autres marchés"),
                                          .unite = u"%",
                                          .nom = QStringLiteral("supplément des autres pays")});
-    return {.releve = Format::iso(releve),
+    return {.releve = releve,
             .source = adresse(),
-            .taux = exiger<UniteCentiemeDePourcent>(taux),
-            .fixe = exiger<UniteCentime>(fixe),
+            .taux = exiger<Taux>(taux),
+            .fixe = exiger<Centimes>(fixe),
             .supplements = {
                 // No commission is no number.
-                {Json::brut(RegionPaypal::eee), eee ? exiger<UniteCentiemeDePourcent>(eee) : Taux{}},
-                {Json::brut(RegionPaypal::royaumeUni), exiger<UniteCentiemeDePourcent>(royaumeUni)},
-                {Json::brut(RegionPaypal::autres), exiger<UniteCentiemeDePourcent>(autres)},
+                {RegionPaypal::eee, eee ? exiger<Taux>(eee) : Taux{}},
+                {RegionPaypal::royaumeUni, exiger<Taux>(royaumeUni)},
+                {RegionPaypal::autres, exiger<Taux>(autres)},
             }};
 }

@@ -1,7 +1,5 @@
 #include "watch/Verifications.h"
 
-#include "model/Format.h"
-
 #include <utility>
 
 using namespace std::chrono_literals;
@@ -51,8 +49,8 @@ void Verifications::verifierLaPoste(Catalogue &catalogue)
 {
     laPoste_.analyser = [this, &catalogue](const QString &page) -> std::optional<ReleveColissimo> {
         const QDate jour = maintenant_().date();
-        const auto releve = ReleveColissimo::analyser(page, catalogue.tarifs(Format::iso(jour)), jour);
-        return catalogue.connait(releve.tarifs) ? std::nullopt : std::optional(releve);
+        const auto releve = ReleveColissimo::analyser(page, catalogue.donnees().tarifs(jour), jour);
+        return catalogue.donnees().connait(releve.tarifs) ? std::nullopt : std::optional(releve);
     };
     lancer(laPoste_);
 }
@@ -61,7 +59,7 @@ void Verifications::verifierPaypal(Catalogue &catalogue)
 {
     paypal_.analyser = [this, &catalogue](const QString &page) -> std::optional<FraisPaypal> {
         const FraisPaypal frais = RelevePaypal::analyser(page, maintenant_().date());
-        return memesFrais(frais, catalogue.reglages().fraisPaypal) ? std::nullopt : std::optional(frais);
+        return memesFrais(frais, catalogue.donnees().reglages.fraisPaypal) ? std::nullopt : std::optional(frais);
     };
     lancer(paypal_);
 }

@@ -13,7 +13,7 @@ void rien(Poste &) {}
 
 void changerUnPrix(Poste &poste, int rang)
 {
-    Livre livre = poste.catalogue->livres().first();
+    Livre livre = poste.catalogue->donnees().livres.first();
     livre.prix = Centimes{1000 + rang};
     poste.historique.modifier(livre, QStringLiteral("prix"));
 }
@@ -21,24 +21,24 @@ void changerUnPrix(Poste &poste, int rang)
 // Every book, so that a mixture of two writings shows.
 void changerLesPrix(Poste &poste, int rang)
 {
-    QList<Livre> livres = poste.catalogue->livres();
+    QList<Livre> livres = poste.catalogue->donnees().livres;
     for (Livre &livre : livres) {
         livre.prix = Centimes{1000 + rang};
-        livre.prixPaypal = {{QStringLiteral("france"), Centimes{rang}}};
+        livre.prixPaypal = {{CodeDestination(QStringLiteral("france")), Centimes{rang}}};
     }
     poste.catalogue->modifier(livres);
 }
 
 void enregistrerLesTarifs(Poste &poste, int rang)
 {
-    poste.catalogue->enregistrer(desTarifs(QStringLiteral("2099-01-01"), Centimes{1 + rang}));
+    poste.catalogue->enregistrer(desTarifs("2099-01-01", Centimes{1 + rang}));
 }
 
 void enregistrerLesFrais(Poste &poste, int rang)
 {
     const QUrl page(QStringLiteral("https://paypal.example/frais"));
     poste.catalogue->enregistrer(
-        FraisPaypal{QStringLiteral("2026-07-24"), page, Taux{290}, Centimes{1 + rang}, {{page.host(), Taux{rang}}}});
+        FraisPaypal{QDate(2026, 7, 24), page, Taux{290}, Centimes{1 + rang}, {{RegionPaypal::autres, Taux{rang}}}});
 }
 
 void retenirUnNumero(Poste &poste, int rang)
@@ -55,7 +55,7 @@ void fausserLesBoutons(Poste &poste)
 QList<PrixBouton> boutons(const Poste &poste)
 {
     const Catalogue &catalogue = *poste.catalogue;
-    return catalogue.boutons(catalogue.livres().first(), catalogue.grillesConnues().first());
+    return catalogue.donnees().boutons(catalogue.donnees().livres.first(), catalogue.donnees().grillesConnues.first());
 }
 
 } // namespace
@@ -68,13 +68,13 @@ Poste::Poste(const Ressources &ressources, const QString &dossier)
 }
 
 Contenu::Contenu(const Poste &poste)
-    : livres(poste.catalogue->livres()),
-      frais(poste.catalogue->reglages().fraisPaypal),
+    : livres(poste.catalogue->donnees().livres),
+      frais(poste.catalogue->donnees().reglages.fraisPaypal),
       aAnnuler(poste.historique.aAnnuler())
 {
-    for (const TarifsColissimo &jeu : poste.catalogue->grillesConnues())
+    for (const TarifsColissimo &jeu : poste.catalogue->donnees().grillesConnues)
         tarifs.insert(jeu.validite, jeu);
-    for (const Vendeur vendeur : {Vendeur::davrel, Vendeur::mireva})
+    for (const Vendeur vendeur : tous<Vendeur>)
         numeros.append(poste.numeros.prochain(vendeur, QDate(2026, 3, 2)));
 }
 
@@ -90,12 +90,13 @@ QList<Geste> gestes()
         {"changer un prix", fichierLivres, rien, changerUnPrix},
         {"garder un bouton", fichierLivres, fausserLesBoutons,
          [](Poste &poste, int) {
-             poste.historique.garder(poste.catalogue->livres().first(), boutons(poste).first(),
+             poste.historique.garder(poste.catalogue->donnees().livres.first(), boutons(poste).first(),
                                      QStringLiteral("garde"));
          }},
         {"reporter les boutons", fichierLivres, fausserLesBoutons,
          [](Poste &poste, int) {
-             poste.historique.reporter(poste.catalogue->livres().first(), boutons(poste), QStringLiteral("report"));
+             poste.historique.reporter(poste.catalogue->donnees().livres.first(), boutons(poste),
+                                       QStringLiteral("report"));
          }},
         {"revenir aux valeurs livrées", fichierLivres, rien,
          [](Poste &poste, int) { poste.historique.revenirAuxValeursLivrees(QStringLiteral("retour")); }},

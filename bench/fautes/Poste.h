@@ -20,7 +20,7 @@ struct Contenu
     explicit Contenu(const Poste &poste);
 
     QList<Livre> livres;
-    QMap<QString, TarifsColissimo> tarifs;
+    QMap<Jour, TarifsColissimo> tarifs;
     FraisPaypal frais;
     QStringList numeros;
     QString aAnnuler;

@@ -2,7 +2,6 @@
 
 #include "model/Couvertures.h"
 #include "model/Fichier.h"
-#include "model/Format.h"
 #include "model/Ressources.h"
 #include "model/controle/ClesDoublees.h"
 #include "model/controle/Regles.h"
@@ -71,11 +70,11 @@ private:
 // Before the first one, the earliest counts.
 bool aucunEnVigueur(const Regles::TarifsParFichier &fichiers, QDate aujourdhui)
 {
-    QStringList jours;
+    QList<Jour> jours;
     for (const auto &[nom, tarifs] : fichiers)
-        if (Format::jour(tarifs.validite).isValid())
+        if (tarifs.validite.date().isValid())
             jours.append(tarifs.validite);
-    return !jours.isEmpty() && std::ranges::min(jours) > Format::iso(aujourdhui);
+    return !jours.isEmpty() && std::ranges::min(jours) > Jour(aujourdhui);
 }
 
 QString compte(qsizetype nombre, const QString &un, const QString &plusieurs)

@@ -24,8 +24,8 @@ using TarifsParFichier = QList<std::pair<QString, TarifsColissimo>>;
 // What books name of the other files; an empty list says that there is nothing to compare with.
 struct Reperes
 {
-    QStringList destinations; // codes
-    QStringList vendeurs;     // raw values
+    QList<CodeDestination> destinations;
+    QList<Cle<Vendeur>> vendeurs;
     QDir dossierDesCouvertures;
     QHash<QString, QString> couvertures; // its files by name
 };

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "model/Format.h"
 #include "model/Json.h"
 #include "model/Livre.h"
 #include "model/Reglages.h"
@@ -33,6 +32,20 @@ inline void controler(const QString &texte, const Json::Lieu &lieu)
         lieu.noter(QStringLiteral("texte vide"));
 }
 
+inline void controler(const Jour &jour, const Json::Lieu &lieu)
+{
+    if (jour.texte().trimmed().isEmpty())
+        lieu.noter(QStringLiteral("texte vide"));
+    if (!jour.date().isValid())
+        lieu.noter(QStringLiteral("jour attendu, de la forme 2026-01-31"));
+}
+
+template <typename Sorte>
+void controler(const Cle<Sorte> &cle, const Json::Lieu &lieu)
+{
+    controler(cle.texte(), lieu);
+}
+
 inline void controler(const QUrl &adresse, const Json::Lieu &lieu)
 {
     if (adresse.scheme() != QLatin1String("https"))
@@ -50,8 +63,8 @@ template <Json::EstEnregistrement Enregistrement>
 void controler(const Enregistrement &valeur, const Json::Lieu &lieu);
 template <typename T>
 void controler(const QList<T> &valeurs, const Json::Lieu &lieu);
-template <typename T>
-void controler(const QMap<QString, T> &valeurs, const Json::Lieu &lieu);
+template <typename Sorte, typename T>
+void controler(const QMap<Cle<Sorte>, T> &valeurs, const Json::Lieu &lieu);
 
 template <typename T>
 void controler(const std::optional<T> &valeur, const Json::Lieu &lieu)
@@ -78,18 +91,11 @@ void controler(const QList<T> &valeurs, const Json::Lieu &lieu)
         controler(valeurs[i], Json::Lieu(lieu, i));
 }
 
-template <typename T>
-void controler(const QMap<QString, T> &valeurs, const Json::Lieu &lieu)
+template <typename Sorte, typename T>
+void controler(const QMap<Cle<Sorte>, T> &valeurs, const Json::Lieu &lieu)
 {
     for (auto entree = valeurs.begin(); entree != valeurs.end(); ++entree)
-        controler(entree.value(), Json::Lieu(lieu, entree.key()));
-}
-
-// A day of the calendar, as schedules and fees write it.
-inline void jour(const QString &texte, const Json::Lieu &lieu)
-{
-    if (!Format::jour(texte).isValid())
-        lieu.noter(QStringLiteral("jour attendu, de la forme 2026-01-31"));
+        controler(entree.value(), Json::Lieu(lieu, entree.key().texte()));
 }
 
 // The program takes the first of two: the second would never be found.
@@ -108,12 +114,12 @@ void sansDoublon(const QList<T> &liste, const char *cle, Valeur T::*membre, cons
 
 // Every code of a list; none as soon as one is empty, for it may be the one that others name.
 template <typename T>
-QStringList codes(const QList<T> &liste)
+auto codes(const QList<T> &liste)
 {
-    QStringList codes;
+    QList<decltype(T::code)> codes;
     for (const T &element : liste)
         codes.append(element.code);
-    return codes.contains(QString()) ? QStringList() : codes;
+    return codes.contains(decltype(T::code)()) ? decltype(codes)() : codes;
 }
 
 } // namespace ReglesCommunes

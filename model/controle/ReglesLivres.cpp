@@ -33,20 +33,21 @@ void teinte(const QList<qint64> &teinte, const Lieu &lieu)
             Lieu(lieu, i).noter(QStringLiteral("nombre de 0 à 255 attendu"));
 }
 
-void prixParDestination(const std::optional<PrixParDestination> &prix, const QStringList &codes, const Lieu &lieu)
+void prixParDestination(const std::optional<PrixParDestination> &prix, const QList<CodeDestination> &codes,
+                        const Lieu &lieu)
 {
     if (!prix || codes.isEmpty())
         return;
-    for (const QString &code : prix->keys())
+    for (const CodeDestination &code : prix->keys())
         if (!codes.contains(code))
-            Lieu(lieu, code).noter(QStringLiteral("aucune destination n’a ce code"));
+            Lieu(lieu, code.texte()).noter(QStringLiteral("aucune destination n’a ce code"));
 }
 
 void livre(const Livre &livre, const Reperes &reperes, const Lieu &lieu)
 {
-    if (const QString vendeur = Json::brut(livre.vendeur);
-        !reperes.vendeurs.isEmpty() && !reperes.vendeurs.contains(vendeur))
-        lieu.noter("vendeur", QStringLiteral("« %1 » n’a pas d’identité dans reglages.vendeurs").arg(vendeur));
+    if (!reperes.vendeurs.isEmpty() && !reperes.vendeurs.contains(livre.vendeur))
+        lieu.noter("vendeur",
+                   QStringLiteral("« %1 » n’a pas d’identité dans reglages.vendeurs").arg(brut(livre.vendeur)));
     if (livre.poids && *livre.poids == Grammes{})
         lieu.noter("poids", QStringLiteral("0 g ; laissez-le absent tant qu’il n’est pas pesé"));
     if (!livre.isbn.isEmpty() && !NumeroDeControle::isbn(livre.isbn))

@@ -1,4 +1,4 @@
-#include "model/Commande.h"
+#include "model/BonDeCommande.h"
 #include "model/controle/NumeroDeControle.h"
 #include "model/controle/Regles.h"
 #include "model/controle/ReglesCommunes.h"
@@ -9,13 +9,13 @@ namespace {
 
 using Json::Lieu;
 
-// `Enum` lists the keys that are ever looked up.
-template <Json::EstEnumeration Enum, typename T>
-void clesParmi(const QMap<QString, T> &table, const Lieu &lieu)
+// Only a case is ever looked up.
+template <typename Enum, typename T>
+void clesConnues(const QMap<Cle<Enum>, T> &table, const Lieu &lieu)
 {
-    for (const QString &cle : table.keys())
-        if (!Json::depuisBrut<Enum>(cle))
-            Lieu(lieu, cle).noter(QStringLiteral("clé inconnue"));
+    for (const Cle<Enum> &cle : table.keys())
+        if (!cle.cas())
+            Lieu(lieu, cle.texte()).noter(QStringLiteral("clé inconnue"));
 }
 
 void emballages(const QList<Emballage> &emballages, const Lieu &lieu)
@@ -24,12 +24,12 @@ void emballages(const QList<Emballage> &emballages, const Lieu &lieu)
         return; // sellers who weigh every parcel need none
     ReglesCommunes::sansDoublon(emballages, "nom", &Emballage::nom, lieu);
     for (qsizetype i = 0; i < emballages.size(); ++i)
-        if (emballages[i].nom == Commande::autrePoids())
+        if (emballages[i].nom == BonDeCommande::autrePoids())
             Lieu(lieu, i).noter("nom", QStringLiteral("nom réservé au poids que l’on tape"));
     if (emballages.first().poids == Grammes{})
         Lieu(lieu, 0).noter("poids",
                             QStringLiteral("plus de 0 g attendus, ce poids compte dans les prix des boutons PayPal"));
-    const QString deDepart = Commande().emballage();
+    const QString deDepart = BonDeCommande().emballage;
     if (std::ranges::find(emballages, deDepart, &Emballage::nom) == emballages.end())
         lieu.noter(QStringLiteral("aucun ne s’appelle « %1 », l’emballage d’une nouvelle commande : il compterait 0 g")
                        .arg(deDepart));
@@ -57,14 +57,13 @@ void vendeur(const IdentiteVendeur &identite, const Lieu &lieu)
 void Regles::reglages(const Reglages &reglages, const Lieu &lieu)
 {
     const Lieu frais(lieu, QStringLiteral("fraisPaypal"));
-    ReglesCommunes::jour(reglages.fraisPaypal.releve, Lieu(frais, QStringLiteral("releve")));
-    clesParmi<RegionPaypal>(reglages.fraisPaypal.supplements, Lieu(frais, QStringLiteral("supplements")));
+    clesConnues(reglages.fraisPaypal.supplements, Lieu(frais, QStringLiteral("supplements")));
     emballages(reglages.emballages, Lieu(lieu, QStringLiteral("emballages")));
 
     const Lieu vendeurs(lieu, QStringLiteral("vendeurs"));
     if (reglages.vendeurs.isEmpty())
         vendeurs.noter(QStringLiteral("aucun vendeur"));
-    clesParmi<Vendeur>(reglages.vendeurs, vendeurs);
+    clesConnues(reglages.vendeurs, vendeurs);
     for (auto entree = reglages.vendeurs.begin(); entree != reglages.vendeurs.end(); ++entree)
-        vendeur(entree.value(), Lieu(vendeurs, entree.key()));
+        vendeur(entree.value(), Lieu(vendeurs, entree.key().texte()));
 }

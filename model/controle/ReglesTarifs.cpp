@@ -3,12 +3,12 @@
 
 namespace {
 
-template <Json::EstEnumeration Enum>
+template <Enumeration Enum>
 QString valeurs()
 {
     QStringList textes;
-    for (const auto &valeur : Json::valeursBrutes<Enum>)
-        textes.append(QString::fromLatin1(valeur.texte));
+    for (const Enum cas : tous<Enum>)
+        textes.append(brut(cas));
     return textes.join(QStringLiteral(", "));
 }
 
@@ -29,12 +29,12 @@ void paliers(const QList<Palier> &paliers, const Json::Lieu &lieu)
 
 void grille(const GrilleColissimo &grille, const Json::Lieu &lieu)
 {
-    if (!Json::depuisBrut<ZoneColissimo>(grille.code))
+    if (!grille.code.cas())
         lieu.noter("code", QStringLiteral("grille inconnue « %1 » ; celles de La Poste : %2")
-                               .arg(grille.code, valeurs<ZoneColissimo>()));
-    if (!Json::depuisBrut<FamilleTarifs>(grille.famille))
+                               .arg(grille.code.texte(), valeurs<ZoneColissimo>()));
+    if (!grille.famille.cas())
         lieu.noter("famille", QStringLiteral("famille inconnue « %1 », la grille ne serait pas montrée ; attendu : %2")
-                                  .arg(grille.famille, valeurs<FamilleTarifs>()));
+                                  .arg(grille.famille.texte(), valeurs<FamilleTarifs>()));
     paliers(grille.paliers, Json::Lieu(lieu, QStringLiteral("paliers")));
 }
 
@@ -42,12 +42,9 @@ void grille(const GrilleColissimo &grille, const Json::Lieu &lieu)
 
 void Regles::tarifs(const TarifsColissimo &tarifs, const TarifsParFichier &precedents, const Json::Lieu &lieu)
 {
-    const Json::Lieu validite(lieu, QStringLiteral("validite"));
-    ReglesCommunes::jour(tarifs.validite, validite);
-    ReglesCommunes::jour(tarifs.releve, Json::Lieu(lieu, QStringLiteral("releve")));
     for (const auto &[nom, precedent] : precedents)
         if (precedent.validite == tarifs.validite)
-            validite.noter(QStringLiteral("déjà pris par %1").arg(nom));
+            lieu.noter("validite", QStringLiteral("déjà pris par %1").arg(nom));
 
     const Json::Lieu grilles(lieu, QStringLiteral("grilles"));
     if (tarifs.grilles.isEmpty())

@@ -18,14 +18,13 @@ private slots:
 void TestFacture::factureDeLaCommande()
 {
     const Banc banc;
-    const auto catalogue = banc.charger();
-    Commande commande;
-    commande.ajuster(banc.livres[0], 2);
-    commande.setPoidsPese(Grammes{450});
-    commande.ajuster(banc.livres[1], 1);
-    commande.setCodeDestination(QStringLiteral("suisse"));
-    const Calcul calcul(*catalogue, commande, jourDuBanc);
-    const auto facture = Facture::de(calcul, catalogue->reglages(), QStringLiteral("2026-004"), jourDuBanc,
+    BonDeCommande bon;
+    bon.ajuster(banc.livres[0], 2);
+    bon.poidsPese = Grammes{450};
+    bon.ajuster(banc.livres[1], 1);
+    bon.codeDestination = vers("suisse");
+    const Calcul calcul = Calcul::de(banc.donnees(), bon, jourDuBanc);
+    const auto facture = Facture::de(calcul, banc.donnees().reglages, QStringLiteral("2026-004"), jourDuBanc,
                                      QStringLiteral("Ada Exemple\nExempleville"));
     QVERIFY(facture);
     QCOMPARE(*facture, (Facture{.numero = QStringLiteral("2026-004"),
@@ -47,19 +46,17 @@ void TestFacture::factureDeLaCommande()
 void TestFacture::pasDeFacture()
 {
     Banc banc;
-    const auto catalogue = banc.charger();
-    const auto existe = [&](const Commande &commande) {
-        return Facture::de(Calcul(*catalogue, commande, jourDuBanc), catalogue->reglages(), {}, jourDuBanc, {})
+    const auto existe = [&](const BonDeCommande &bon) {
+        return Facture::de(Calcul::de(banc.donnees(), bon, jourDuBanc), banc.donnees().reglages, {}, jourDuBanc, {})
             .has_value();
     };
-    Commande commande;
-    QVERIFY(!existe(commande)); // no book
-    commande.ajuster(banc.livres[0], 1);
-    QVERIFY(existe(commande));
-    commande.setPoidsPese(Grammes{2001}); // no tier
-    QVERIFY(!existe(commande));
-    Commande sansIdentite;
-    sansIdentite.setVendeur(Vendeur::mireva);
+    BonDeCommande bon;
+    QVERIFY(!existe(bon)); // no book
+    bon.ajuster(banc.livres[0], 1);
+    QVERIFY(existe(bon));
+    bon.poidsPese = Grammes{2001}; // no tier
+    QVERIFY(!existe(bon));
+    BonDeCommande sansIdentite{.vendeur = Vendeur::mireva};
     sansIdentite.ajuster(banc.livres[2], 1);
     QVERIFY(!existe(sansIdentite));
 }

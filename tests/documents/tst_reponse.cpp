@@ -21,13 +21,12 @@ namespace {
 struct Cas
 {
     Banc banc;
-    std::unique_ptr<Catalogue> catalogue = banc.charger();
-    Commande commande;
+    BonDeCommande bon;
 
     [[nodiscard]] ReponseType reponse(Langue langue, const QString &lien = {}) const
     {
-        return {Calcul(*catalogue, commande, jourDuBanc), langue, *catalogue->reglages().identite(Vendeur::davrel),
-                lien, commande.paysLivraison()};
+        return {Calcul::de(banc.donnees(), bon, jourDuBanc), langue, *banc.donnees().reglages.identite(Vendeur::davrel),
+                lien, bon.paysLivraison};
     }
 };
 
@@ -36,7 +35,7 @@ struct Cas
 void TestReponse::corpsEnFrancais()
 {
     Cas cas;
-    cas.commande.ajuster(cas.banc.livres[0], 2);
+    cas.bon.ajuster(cas.banc.livres[0], 2);
     const auto reponse = cas.reponse(Langue::francais, QStringLiteral(" \n https://lien.example/1 "));
     QCOMPARE(lisible(reponse.corps()),
              QStringLiteral("Bonjour,\n\nMerci pour votre commande :\n\n"
@@ -54,9 +53,9 @@ void TestReponse::corpsEnFrancais()
 void TestReponse::corpsEnAnglaisEtDouane()
 {
     Cas cas;
-    cas.commande.ajuster(cas.banc.livres[0], 1);
-    cas.commande.ajuster(cas.banc.livres[1], 1); // not weighed: no price
-    cas.commande.setCodeDestination(QStringLiteral("suisse"));
+    cas.bon.ajuster(cas.banc.livres[0], 1);
+    cas.bon.ajuster(cas.banc.livres[1], 1); // not weighed: no price
+    cas.bon.codeDestination = vers("suisse");
     QCOMPARE(cas.reponse(Langue::anglais, QStringLiteral("  ")).corps(),
              QStringLiteral("Hello,\n\nThank you for your order:\n\n"
                             "   • Livre 1 × 1: €15.00\n"
@@ -74,7 +73,7 @@ void TestReponse::corpsEnAnglaisEtDouane()
                 .contains(QStringLiteral("suivi.\n\nLe colis passe en douane : des taxes d’importation peuvent vous "
                                          "être demandées à la livraison.\n\nBien cordialement")));
     QVERIFY(cas.reponse(Langue::francais).corps().contains(QStringLiteral("[lien]")));
-    cas.commande.setCodeDestination(QStringLiteral("mars"));
+    cas.bon.codeDestination = vers("mars");
     QVERIFY(cas.reponse(Langue::francais).corps().contains(QStringLiteral("Envoi via Colissimo () : —")));
 }
 
@@ -82,7 +81,7 @@ void TestReponse::sujet()
 {
     Cas cas;
     QCOMPARE(cas.reponse(Langue::anglais).sujet(), QStringLiteral("Your book order – Éditions Davrel"));
-    cas.commande.ajuster(cas.banc.livres[0], 1);
+    cas.bon.ajuster(cas.banc.livres[0], 1);
     QCOMPARE(cas.reponse(Langue::francais).sujet(), QStringLiteral("Votre commande de livres – davrel.example"));
     auto sansSite = cas.reponse(Langue::francais);
     sansSite.vendeur.site.reset();
@@ -93,17 +92,17 @@ void TestReponse::objetEtDescription()
 {
     Cas cas;
     QCOMPARE(cas.reponse(Langue::francais).nomDeLObjet(), QStringLiteral("Éditions Davrel – 0 book"));
-    cas.commande.ajuster(cas.banc.livres[0], 1);
+    cas.bon.ajuster(cas.banc.livres[0], 1);
     QCOMPARE(cas.reponse(Langue::francais).nomDeLObjet(), QStringLiteral("Éditions Davrel – 1 book"));
-    cas.commande.ajuster(cas.banc.livres[1], 2);
-    cas.commande.setCodeDestination(QStringLiteral("ue"));
+    cas.bon.ajuster(cas.banc.livres[1], 2);
+    cas.bon.codeDestination = vers("ue");
     QCOMPARE(cas.reponse(Langue::francais).nomDeLObjet(), QStringLiteral("Éditions Davrel – 3 books"));
     QCOMPARE(cas.reponse(Langue::francais).descriptionDuLien(),
              QStringLiteral("Livre 1\nLivre 2 × 2\n\nLe prix comprend les livres et l’envoi vers Union européenne."));
-    cas.commande.setPaysLivraison(QStringLiteral(" \n"));
+    cas.bon.paysLivraison = QStringLiteral(" \n");
     QCOMPARE(cas.reponse(Langue::anglais).descriptionDuLien(),
              QStringLiteral("Livre 1\nLivre 2 × 2\n\nPrice includes books and shipping to European Union."));
-    cas.commande.setPaysLivraison(QStringLiteral("la Belgique "));
+    cas.bon.paysLivraison = QStringLiteral("la Belgique ");
     QVERIFY(cas.reponse(Langue::francais).descriptionDuLien().endsWith(QStringLiteral("vers la Belgique .")));
 }
 
@@ -112,18 +111,17 @@ void TestReponse::langueDeLAcheteur()
     Cas cas;
     for (const char *code : {"om1", "om2"}) {
         cas.banc.destinations.append(cas.banc.destinations[0]);
-        cas.banc.destinations.last().code = QString::fromLatin1(code);
+        cas.banc.destinations.last().code = vers(code);
     }
-    cas.catalogue = cas.banc.charger();
     const auto langue = [&](const char *code) {
-        cas.commande.setCodeDestination(QString::fromLatin1(code));
-        return langueAcheteur(cas.commande, Calcul(*cas.catalogue, cas.commande, jourDuBanc));
+        cas.bon.codeDestination = vers(code);
+        return langueAcheteur(cas.bon, Calcul::de(cas.banc.donnees(), cas.bon, jourDuBanc));
     };
     for (const char *francophone : {"france", "om1", "om2", "mars"})
         QVERIFY2(langue(francophone) == Langue::francais, francophone);
     QCOMPARE(langue("ue"), Langue::anglais);
-    cas.commande.setLangue(Langue::francais);
-    QCOMPARE(langueAcheteur(cas.commande, Calcul(*cas.catalogue, cas.commande, jourDuBanc)), Langue::francais);
+    cas.bon.langue = Langue::francais;
+    QCOMPARE(langueAcheteur(cas.bon, Calcul::de(cas.banc.donnees(), cas.bon, jourDuBanc)), Langue::francais);
 }
 
 QTEST_GUILESS_MAIN(TestReponse)

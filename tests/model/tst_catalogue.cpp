@@ -44,51 +44,50 @@ void TestCatalogue::tarifsDUnJour()
     QFETCH(QString, enVigueur);
     QFETCH(QString, aVenir);
     Banc banc;
-    banc.tarifs = {desTarifs(QStringLiteral("2026-01-01"), Centimes{549}),
-                   desTarifs(QStringLiteral("2027-01-01"), Centimes{579}),
-                   desTarifs(QStringLiteral("2025-01-01"), Centimes{525})};
+    banc.tarifs = {desTarifs("2026-01-01", Centimes{549}), desTarifs("2027-01-01", Centimes{579}),
+                   desTarifs("2025-01-01", Centimes{525})};
     const auto catalogue = banc.charger();
-    QCOMPARE(catalogue->tarifs(jour).validite, enVigueur);
-    const auto prochains = catalogue->tarifsAVenir(QDate::fromString(jour, Qt::ISODate));
-    QCOMPARE(prochains ? prochains->validite : QString(), aVenir);
+    QCOMPARE(catalogue->donnees().tarifs(Jour(jour)).validite.texte(), enVigueur);
+    const auto prochains = catalogue->donnees().tarifsAVenir(Jour(jour));
+    QCOMPARE(prochains ? prochains->validite.texte() : QString(), aVenir);
 }
 
 void TestCatalogue::grillesEnregistreesAvantLesLivrees()
 {
     Banc banc;
-    const auto premier = [](const Catalogue &c, const QString &jour) {
-        return c.tarifs(jour).grilles[0].paliers[0].prix;
+    const auto premier = [](const Catalogue &c, QDate jour) {
+        return c.donnees().tarifs(jour).grilles[0].paliers[0].prix;
     };
-    const QString deuxMilleVingtSix = QStringLiteral("2026-01-01");
+    const char *const debut2026 = "2026-01-01";
     {
         const auto catalogue = banc.charger();
         QSignalSpy change(catalogue.get(), &Catalogue::change);
-        catalogue->enregistrer(desTarifs(deuxMilleVingtSix, Centimes{600}));
-        catalogue->enregistrer(desTarifs(QStringLiteral("2027-01-01"), Centimes{700}));
+        catalogue->enregistrer(desTarifs(debut2026, Centimes{600}));
+        catalogue->enregistrer(desTarifs("2027-01-01", Centimes{700}));
         QCOMPARE(change.count(), 2);
-        QCOMPARE(catalogue->grillesConnues().size(), 2);
-        QCOMPARE(premier(*catalogue, deuxMilleVingtSix), Centimes{600});
+        QCOMPARE(catalogue->donnees().grillesConnues.size(), 2);
+        QCOMPARE(premier(*catalogue, {2026, 1, 1}), Centimes{600});
     }
     banc.ecrireUtilisateur(QStringLiteral("tarifs-colissimo-abime.json"), R"({"validite":"2030-01-01"})");
     banc.ecrireUtilisateur(QStringLiteral("tarifs-colissimo-bis.json"),
-                           Json::encoder(desTarifs(deuxMilleVingtSix, Centimes{610})));
+                           Json::encoder(desTarifs(debut2026, Centimes{610})));
     const auto relu = banc.charger();
-    QCOMPARE(relu->grillesConnues().size(), 2);
-    QCOMPARE(premier(*relu, deuxMilleVingtSix), Centimes{610});
-    QCOMPARE(premier(*relu, QStringLiteral("2028-01-01")), Centimes{700});
+    QCOMPARE(relu->donnees().grillesConnues.size(), 2);
+    QCOMPARE(premier(*relu, {2026, 1, 1}), Centimes{610});
+    QCOMPARE(premier(*relu, {2028, 1, 1}), Centimes{700});
 }
 
 void TestCatalogue::connaitParLesPrix()
 {
     const auto catalogue = Banc().charger();
-    auto lus = desTarifs(QStringLiteral("2029-01-01"), Centimes{549});
+    auto lus = desTarifs("2029-01-01", Centimes{549});
     std::swap(lus.grilles[0], lus.grilles[1]);
-    QVERIFY(catalogue->connait(lus));
+    QVERIFY(catalogue->donnees().connait(lus));
     lus.grilles[0].paliers[1].prix += Centimes{1};
-    QVERIFY(!catalogue->connait(lus));
-    lus = desTarifs(QStringLiteral("2026-01-01"), Centimes{549});
+    QVERIFY(!catalogue->donnees().connait(lus));
+    lus = desTarifs("2026-01-01", Centimes{549});
     lus.grilles.append(lus.grilles[0]);
-    QVERIFY(!catalogue->connait(lus));
+    QVERIFY(!catalogue->donnees().connait(lus));
 }
 
 void TestCatalogue::modificationsAppliquees_data()
@@ -96,7 +95,7 @@ void TestCatalogue::modificationsAppliquees_data()
     QTest::addColumn<QByteArray>("fichier");
     QTest::addColumn<bool>("appliquee");
     QTest::addColumn<PrixParDestination>("ecartes");
-    const PrixParDestination livres{{QStringLiteral("france"), Centimes{2000}}};
+    const PrixParDestination livres{{vers("france"), Centimes{2000}}};
     QTest::newRow("prix écartés absents : gardés")
         << QByteArray(R"({"1":{"prix":1700,"disponible":false}, "99":{"prix":1,"disponible":true}})") << true << livres;
     QTest::newRow("prix écartés vides : remplacés")
@@ -113,10 +112,10 @@ void TestCatalogue::modificationsAppliquees()
     QFETCH(bool, appliquee);
     QFETCH(PrixParDestination, ecartes);
     Banc banc;
-    banc.livres[0].prixPaypal = banc.livres[0].prixEcartes = {{QStringLiteral("france"), Centimes{2000}}};
+    banc.livres[0].prixPaypal = banc.livres[0].prixEcartes = {{vers("france"), Centimes{2000}}};
     banc.ecrireUtilisateur(QStringLiteral("livres-modifies.json"), fichier);
     const auto catalogue = banc.charger();
-    const Livre &livre = catalogue->livres()[0];
+    const Livre &livre = catalogue->donnees().livres[0];
     QCOMPARE(livre.prix, appliquee ? Centimes{1700} : Centimes{1500});
     QCOMPARE(livre.poids.has_value(), !appliquee);
     QCOMPARE(livre.prixPaypal.has_value(), !appliquee);
@@ -145,9 +144,9 @@ void TestCatalogue::fraisEnregistres()
     FraisPaypal frais = banc.reglages.fraisPaypal;
     frais.taux = Taux{310};
     banc.charger()->enregistrer(frais);
-    QCOMPARE(banc.charger()->reglages().fraisPaypal, frais);
+    QCOMPARE(banc.charger()->donnees().reglages.fraisPaypal, frais);
     banc.ecrireUtilisateur(QStringLiteral("frais-paypal.json"), "[]");
-    QCOMPARE(banc.charger()->reglages().fraisPaypal, banc.reglages.fraisPaypal);
+    QCOMPARE(banc.charger()->donnees().reglages.fraisPaypal, banc.reglages.fraisPaypal);
 }
 
 void TestCatalogue::prixDesBoutons_data()
@@ -194,16 +193,16 @@ void TestCatalogue::prixDesBoutons()
     Banc banc;
     banc.livres[0].poids = poids;
     if (actuel)
-        banc.livres[0].prixPaypal = {{destination, *actuel}};
+        banc.livres[0].prixPaypal = {{CodeDestination(destination), *actuel}};
     if (ecarte)
-        banc.livres[0].prixEcartes = {{destination, *ecarte}};
+        banc.livres[0].prixEcartes = {{CodeDestination(destination), *ecarte}};
     banc.reglages.emballages.clear();
     if (emballage >= 0)
         banc.reglages.emballages = {{QStringLiteral("Enveloppe"), Grammes{emballage}}};
     const auto catalogue = banc.charger();
-    const auto boutons = catalogue->boutons(catalogue->livres()[0], banc.tarifs[0]);
+    const auto boutons = catalogue->donnees().boutons(catalogue->donnees().livres[0], banc.tarifs[0]);
     const auto bouton =
-        std::ranges::find(boutons, destination, [](const PrixBouton &du) { return du.destination.code; });
+        std::ranges::find(boutons, destination, [](const PrixBouton &du) { return du.destination.code.texte(); });
     QTEST(bouton->calcule, "calcule");
     QTEST(bouton->etat(), "etat");
     QCOMPARE(bouton->actuel, actuel);
@@ -215,9 +214,9 @@ void TestCatalogue::garderPuisReporter()
     const Banc banc;
     const auto catalogue = banc.charger();
     const auto lignes = [&] {
-        return PrixBouton::calculer(catalogue->livres()[0], banc.tarifs[0], banc.destinations, Grammes{40});
+        return PrixBouton::calculer(catalogue->donnees().livres[0], banc.tarifs[0], banc.destinations, Grammes{40});
     };
-    const Livre livre = catalogue->livres()[0];
+    const Livre livre = catalogue->donnees().livres[0];
     catalogue->garder(livre, lignes()[0]);
     catalogue->garder(livre, lignes()[1]);
     QCOMPARE(lignes()[0].etat(), PrixBouton::Etat::garde);
@@ -226,7 +225,7 @@ void TestCatalogue::garderPuisReporter()
     QVERIFY(!lignes()[0].ecarte);
     QCOMPARE(lignes()[1].etat(), PrixBouton::Etat::garde);
     QVERIFY(!lignes()[3].actuel);
-    QCOMPARE(banc.charger()->livres(), catalogue->livres());
+    QCOMPARE(banc.charger()->donnees().livres, catalogue->donnees().livres);
 }
 
 // What a button may be reported at can be read back: one unreadable figure would lose every edit of every book.
@@ -234,12 +233,12 @@ void TestCatalogue::leBoutonLePlusCher()
 {
     const Banc banc;
     const auto catalogue = banc.charger();
-    Livre livre = catalogue->livres()[0];
+    Livre livre = catalogue->donnees().livres[0];
     livre.prix = Centimes{UniteCentime::maximum};
     catalogue->modifier({livre});
-    const auto boutons = catalogue->boutons(livre, desTarifs(QStringLiteral("2026-01-01"), livre.prix));
+    const auto boutons = catalogue->donnees().boutons(livre, desTarifs("2026-01-01", livre.prix));
     catalogue->reporter(livre, boutons);
-    QCOMPARE(banc.charger()->livres(), catalogue->livres());
+    QCOMPARE(banc.charger()->donnees().livres, catalogue->donnees().livres);
 }
 
 QTEST_GUILESS_MAIN(TestCatalogue)

@@ -44,9 +44,9 @@ void TestCommande::ajuster()
     Commande commande;
     commande.ajuster(banc.livres[0], depart);
     commande.ajuster(banc.livres[0], pas);
-    QCOMPARE(commande.quantite(banc.livres[0]), arrivee);
-    QVERIFY(commande.quantites().contains(1));
-    QCOMPARE(commande.estVide(), arrivee == 0);
+    QCOMPARE(commande.bon().quantite(banc.livres[0]), arrivee);
+    QVERIFY(commande.bon().quantites.contains(1));
+    QCOMPARE(commande.bon().estVide(), arrivee == 0);
 }
 
 void TestCommande::viderEtSignaux()
@@ -54,7 +54,7 @@ void TestCommande::viderEtSignaux()
     const Banc banc;
     Commande commande;
     QSignalSpy change(&commande, &Commande::change);
-    commande.setCodeDestination(QStringLiteral("ue"));
+    commande.setCodeDestination(vers("ue"));
     commande.setHorsUE(true);
     commande.setPaysLivraison(QStringLiteral("l’Italie"));
     commande.setLangue(Langue::anglais);
@@ -64,28 +64,28 @@ void TestCommande::viderEtSignaux()
     QCOMPARE(change.count(), 7);
     commande.setEmballage(QStringLiteral("Carton"));
     commande.setPoidsPese(Grammes{450});
-    commande.setCodeDestination(QStringLiteral("ue"));
+    commande.setCodeDestination(vers("ue"));
     commande.ajuster(banc.livres[2], 0);
     QCOMPARE(change.count(), 7);
-    QVERIFY(commande.horsUE() && commande.langue());
+    QVERIFY(commande.bon().horsUE && commande.bon().langue);
     commande.setVendeur(Vendeur::mireva);
-    QCOMPARE(commande.poidsEmballageLibre(), Grammes{100});
+    QCOMPARE(commande.bon().poidsEmballageLibre, Grammes{100});
     commande.setPoidsEmballageLibre(Grammes{60});
 
     commande.vider();
     QCOMPARE(change.count(), 10);
-    QCOMPARE(commande.vendeur(), Vendeur::mireva);
-    QCOMPARE(commande.poidsEmballageLibre(), Grammes{60});
-    QVERIFY(commande.estVide() && !commande.poidsPese() && !commande.horsUE() && !commande.langue());
-    QVERIFY(commande.paysLivraison().isEmpty());
-    QCOMPARE(commande.codeDestination(), QStringLiteral("ue"));
-    QCOMPARE(commande.emballage(), QStringLiteral("Carton"));
+    QCOMPARE(commande.bon().vendeur, Vendeur::mireva);
+    QCOMPARE(commande.bon().poidsEmballageLibre, Grammes{60});
+    QVERIFY(commande.bon().estVide() && !commande.bon().poidsPese && !commande.bon().horsUE && !commande.bon().langue);
+    QVERIFY(commande.bon().paysLivraison.isEmpty());
+    QCOMPARE(commande.bon().codeDestination, vers("ue"));
+    QCOMPARE(commande.bon().emballage, QStringLiteral("Carton"));
 
     commande.setHorsUE(true);
     commande.setPaysLivraison(QStringLiteral("Lugano"));
     commande.setLangue(Langue::francais);
-    commande.setCodeDestination(QStringLiteral("suisse"));
-    QVERIFY(!commande.horsUE() && commande.paysLivraison().isEmpty() && !commande.langue());
+    commande.setCodeDestination(vers("suisse"));
+    QVERIFY(!commande.bon().horsUE && commande.bon().paysLivraison.isEmpty() && !commande.bon().langue);
 }
 
 void TestCommande::depassementArrete_data()

@@ -21,29 +21,29 @@ void TestEditionLivres::annulerEtRetablir()
     const Banc banc;
     const auto catalogue = banc.charger();
     HistoriqueLivres historique(*catalogue);
-    historique.modifier(catalogue->livres()[0], QStringLiteral("rien"));
+    historique.modifier(catalogue->donnees().livres[0], QStringLiteral("rien"));
     QVERIFY(!QFile::exists(banc.cheminUtilisateur(QStringLiteral("livres-modifies.json"))));
-    QList<QList<Livre>> etapes{catalogue->livres()};
-    const auto boutons = [&] { return catalogue->boutons(catalogue->livres()[0], banc.tarifs[0]); };
-    Livre livre = catalogue->livres()[0];
+    QList<QList<Livre>> etapes{catalogue->donnees().livres};
+    const auto boutons = [&] { return catalogue->donnees().boutons(catalogue->donnees().livres[0], banc.tarifs[0]); };
+    Livre livre = catalogue->donnees().livres[0];
     livre.prix = Centimes{1600};
     historique.modifier(livre, QStringLiteral("prix"));
-    etapes.append(catalogue->livres());
+    etapes.append(catalogue->donnees().livres);
     historique.garder(livre, boutons()[0], QStringLiteral("gardé"));
-    etapes.append(catalogue->livres());
+    etapes.append(catalogue->donnees().livres);
     historique.reporter(livre, PrixBouton::aReporter(boutons()), QStringLiteral("reportés"));
-    etapes.append(catalogue->livres());
+    etapes.append(catalogue->donnees().livres);
     QSignalSpy change(catalogue.get(), &Catalogue::change);
     historique.revenirAuxValeursLivrees(QStringLiteral("retour"));
     QCOMPARE(change.count(), 1);
-    etapes.append(catalogue->livres());
+    etapes.append(catalogue->donnees().livres);
     QCOMPARE(etapes.last(), etapes.first());
 
     const QStringList noms{QStringLiteral("prix"), QStringLiteral("gardé"), QStringLiteral("reportés"),
                            QStringLiteral("retour")};
     const auto verifier = [&](qsizetype etape) {
-        QCOMPARE(catalogue->livres(), etapes[etape]);
-        QCOMPARE(banc.charger()->livres(), etapes[etape]);
+        QCOMPARE(catalogue->donnees().livres, etapes[etape]);
+        QCOMPARE(banc.charger()->donnees().livres, etapes[etape]);
         QCOMPARE(historique.aAnnuler(), etape > 0 ? noms[etape - 1] : QString());
         QCOMPARE(historique.aRetablir(), etape < noms.size() ? noms[etape] : QString());
     };
@@ -69,7 +69,7 @@ void TestEditionLivres::echecSansTrace()
     const Banc banc;
     const auto catalogue = banc.charger();
     HistoriqueLivres historique(*catalogue);
-    Livre livre = catalogue->livres()[1];
+    Livre livre = catalogue->donnees().livres[1];
     livre.poids = Grammes{410};
     {
         const DisquePlein plein;
@@ -77,16 +77,16 @@ void TestEditionLivres::echecSansTrace()
     }
     QVERIFY(historique.aAnnuler().isEmpty());
     historique.modifier(livre, QStringLiteral("poids"));
-    const QList<Livre> apres = catalogue->livres();
+    const QList<Livre> apres = catalogue->donnees().livres;
     {
         const DisquePlein plein;
         QVERIFY_THROWS_EXCEPTION(ErreurStockage, historique.annuler());
     }
-    QCOMPARE(catalogue->livres(), apres);
-    QCOMPARE(banc.charger()->livres(), apres);
+    QCOMPARE(catalogue->donnees().livres, apres);
+    QCOMPARE(banc.charger()->donnees().livres, apres);
     QCOMPARE(historique.aAnnuler(), QStringLiteral("poids")); // to be tried again
     historique.annuler();
-    QCOMPARE(catalogue->livres(), banc.livres);
+    QCOMPARE(catalogue->donnees().livres, banc.livres);
 }
 
 QTEST_GUILESS_MAIN(TestEditionLivres)

@@ -38,8 +38,8 @@ void TestFormat::nombres_data()
     cas("—", Format::euros(std::nullopt));
     cas("+0,05~€", Format::ecart(Centimes{5}));
     cas("-0,05~€", Format::ecart(Centimes{-5}));
-    cas("€12.50", Format::eurosAnglais(Centimes{1250}));
-    cas("-€0.05", Format::eurosAnglais(Centimes{-5}));
+    cas("€12.50", Format::euros(Centimes{1250}, Langue::anglais));
+    cas("-€0.05", Format::euros(Centimes{-5}, Langue::anglais));
     cas("12,50", Format::montant(Centimes{1250}));
     cas("1,250", Format::kilos(Grammes{1250}));
     cas("0,080", Format::kilos(Grammes{80}));
@@ -80,7 +80,7 @@ void TestFormat::dates()
 {
     QFETCH(QString, iso);
     QFETCH(QString, attendu);
-    QCOMPARE(Format::date(iso), attendu);
+    QCOMPARE(Format::date(Jour(iso)), attendu);
     const QDate jour = QDate::fromString(iso, Qt::ISODate);
     if (jour.isValid() && iso != attendu)
         QCOMPARE(Format::iso(jour), iso);

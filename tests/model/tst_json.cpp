@@ -111,7 +111,7 @@ void TestJson::allerRetour()
     const Banc banc;
     Livre livre = banc.livres[0];
     livre.lienPaypal = QUrl(QStringLiteral("https://exemple.example/a%20b?c=d&e=%C3%A9"));
-    livre.prixPaypal = {{QStringLiteral("france"), Centimes{2049}}};
+    livre.prixPaypal = {{vers("france"), Centimes{2049}}};
     livre.prixEcartes = PrixParDestination{};
     QCOMPARE(Json::decoder<Livre>(Json::encoder(livre), QStringLiteral("x")), livre);
     QCOMPARE(Json::decoder<Reglages>(Json::encoder(banc.reglages), QStringLiteral("x")), banc.reglages);

@@ -38,7 +38,7 @@ const QString livresModifies = QStringLiteral("livres-modifies.json");
 
 QString erreurALaModification(Catalogue &catalogue)
 {
-    Livre livre = catalogue.livres()[0];
+    Livre livre = catalogue.donnees().livres[0];
     livre.prix = Centimes{4200};
     try {
         catalogue.modifier({livre});
@@ -58,7 +58,7 @@ void TestStockage::fichierAbimeMisDeCote()
     const auto catalogue = banc.charger();
     QCOMPARE(erreurALaModification(*catalogue), QString());
     QCOMPARE(banc.lireUtilisateur(copie), QByteArray("{ mes prix, mal fermés"));
-    QCOMPARE(banc.charger()->livres(), catalogue->livres());
+    QCOMPARE(banc.charger()->donnees().livres, catalogue->donnees().livres);
 
     banc.ecrireUtilisateur(livresModifies, "encore abîmé");
     QCOMPARE(erreurALaModification(*catalogue), QString());
@@ -73,11 +73,11 @@ void TestStockage::fichierChangeEntreTemps()
     const Banc banc;
     banc.ecrireUtilisateur(livresModifies, repare + ',');
     const auto catalogue = banc.charger();
-    QCOMPARE(catalogue->livres()[0].prix, Centimes{1500});
+    QCOMPARE(catalogue->donnees().livres[0].prix, Centimes{1500});
     banc.ecrireUtilisateur(livresModifies, repare);
     QCOMPARE(erreurALaModification(*catalogue), QString());
     QCOMPARE(banc.lireUtilisateur(livresModifies + QStringLiteral(".illisible")), repare);
-    catalogue->enregistrerLivres();
+    catalogue->modifier({});
     QVERIFY(!QFile::exists(banc.cheminUtilisateur(livresModifies + QStringLiteral(".illisible-2"))));
 }
 
@@ -125,7 +125,7 @@ void TestStockage::echecLaisseToutIntact()
     QFETCH(QString, raison);
     const Banc banc;
     const auto catalogue = banc.charger();
-    const QList<Livre> avant = catalogue->livres();
+    const QList<Livre> avant = catalogue->donnees().livres;
     std::optional<DisquePlein> plein;
     QByteArray fichierAvant;
     if (panne == QStringLiteral("fichier")) {
@@ -136,7 +136,7 @@ void TestStockage::echecLaisseToutIntact()
     } else if (panne == QStringLiteral("dossier")) {
         QVERIFY(QDir().mkpath(banc.cheminUtilisateur(livresModifies)));
     } else {
-        catalogue->enregistrerLivres();
+        catalogue->modifier({});
         fichierAvant = banc.lireUtilisateur(livresModifies);
         if (panne == QStringLiteral("plein"))
             plein.emplace();
@@ -146,7 +146,7 @@ void TestStockage::echecLaisseToutIntact()
     disqueSourd = false;
     plein.reset();
     QVERIFY2(erreur.contains(raison), qPrintable(erreur));
-    QCOMPARE(catalogue->livres(), avant);
+    QCOMPARE(catalogue->donnees().livres, avant);
     QCOMPARE(banc.lireUtilisateur(livresModifies), fichierAvant);
     const QStringList restes = QDir(banc.cheminUtilisateur()).entryList(QDir::Files | QDir::Hidden);
     QVERIFY2(restes.size() <= 1, qPrintable(restes.join(u' ')));

@@ -20,7 +20,7 @@ private slots:
 void TestBoutonsPaypal::ordreDuClavier()
 {
     BancLivres cas;
-    cas.donnees.tarifs.append(desTarifs(QStringLiteral("2026-04-01"), Centimes{600}));
+    cas.donnees.tarifs.append(desTarifs("2026-04-01", Centimes{600}));
     cas.demarrer();
     cas.fenetre()->contenu()->montrer(Rubrique::livres);
     QVERIFY(cas.cliquer(QStringLiteral("À partir du 1er avril 2026")));
@@ -36,7 +36,7 @@ void TestBoutonsPaypal::boutonsPaypal()
     cas.champ(champDuPrix)->setFocus();
     QVERIFY(Ecran::taper(cas.fenetre(), champDuPrix, QStringLiteral("16")));
     QVERIFY(cas.cliquer(QStringLiteral("Reporter, Suisse"))); // the price read there, not the one that follows
-    QCOMPARE(cas.enregistre(0).prixPaypal->value(QStringLiteral("suisse")), Centimes{2049});
+    QCOMPARE(cas.enregistre(0).prixPaypal->value(vers("suisse")), Centimes{2049});
     QVERIFY(cas.cliquer(QStringLiteral("Copier 20,49, France")));
     QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("21,49")); // what the edit makes of it
     QVERIFY(cas.cliquer(QStringLiteral("Annuler : prix de « Livre 1 »")));
@@ -46,16 +46,16 @@ void TestBoutonsPaypal::boutonsPaypal()
     auto *garder = Ecran::controle(cas.fenetre(), QStringLiteral("Garder, France"));
     garder->setFocus();
     QTest::keyClick(garder, Qt::Key_Space);
-    QCOMPARE(cas.enregistre(0).prixEcartes, PrixParDestination({{QStringLiteral("france"), Centimes{2049}}}));
+    QCOMPARE(cas.enregistre(0).prixEcartes, PrixParDestination({{vers("france"), Centimes{2049}}}));
     // The keyboard is led to the next price to report, and on to the next book after the last.
     const QString focus = QApplication::focusWidget()->accessibleName();
     QVERIFY2(focus.startsWith(QStringLiteral("Copier 20,49, Union européenne, À reporter")), qPrintable(focus));
     auto *tout = Ecran::controle(cas.fenetre(), QStringLiteral("Reporter, Union européenne"));
     tout->setFocus();
     QTest::keyClick(tout, Qt::Key_Space);
-    const PrixParDestination reportes{{QStringLiteral("france"), Centimes{2000}}, // kept: never undone by the rest
-                                      {QStringLiteral("suisse"), Centimes{2049}},
-                                      {QStringLiteral("ue"), Centimes{2049}}};
+    const PrixParDestination reportes{{vers("france"), Centimes{2000}}, // kept: never undone by the rest
+                                      {vers("suisse"), Centimes{2049}},
+                                      {vers("ue"), Centimes{2049}}};
     QCOMPARE(cas.enregistre(0).prixPaypal, reportes);
     QCOMPARE(cas.texte(QStringLiteral("Rien")), QStringLiteral("Rien à reporter"));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
@@ -64,7 +64,7 @@ void TestBoutonsPaypal::boutonsPaypal()
     QCOMPARE(cas.enregistre(3).prixPaypal->size(), 3);
     cas.choisir(0);
     QVERIFY(cas.cliquer(QStringLiteral("Reporter, France"))); // a kept price may still be reported
-    QCOMPARE(cas.enregistre(0).prixPaypal->value(QStringLiteral("france")), Centimes{2049});
+    QCOMPARE(cas.enregistre(0).prixPaypal->value(vers("france")), Centimes{2049});
     QVERIFY(cas.enregistre(0).prixEcartes->isEmpty());
 }
 

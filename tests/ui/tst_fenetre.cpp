@@ -74,7 +74,7 @@ void TestFenetre::raccourcis()
 void TestFenetre::leJourChange()
 {
     BancEcran banc;
-    banc.donnees.tarifs.append(desTarifs(QStringLiteral("2027-01-01"), Centimes{600}));
+    banc.donnees.tarifs.append(desTarifs("2027-01-01", Centimes{600}));
     banc.jour = QDate(2026, 12, 31);
     banc.demarrer();
     banc.app->commande().ajuster(banc.donnees.livres[0], 1);

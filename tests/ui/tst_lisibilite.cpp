@@ -47,7 +47,7 @@ void exagerer(Banc &donnees)
         livre.auteur = phrase;
         livre.prix = Centimes{9'999'999};
         livre.poids = livre.poids ? std::optional(Grammes{400'000}) : std::nullopt;
-        livre.prixPaypal = {{QStringLiteral("france"), Centimes{19'999'998}}};
+        livre.prixPaypal = {{vers("france"), Centimes{19'999'998}}};
     }
     for (TarifsColissimo &jeu : donnees.tarifs)
         for (GrilleColissimo &grille : jeu.grilles) {
@@ -124,7 +124,7 @@ void TestLisibilite::toutSeLit()
     };
 
     BancEcran banc;
-    TarifsColissimo nouveaux = desTarifs(QStringLiteral("2026-04-01"), Centimes{99'999});
+    TarifsColissimo nouveaux = desTarifs("2026-04-01", Centimes{99'999});
     FraisPaypal frais = banc.donnees.reglages.fraisPaypal;
     frais.taux = Taux{340};
     const SiteDeLaVisite site(SiteDeLaVisite::page(nouveaux, QStringLiteral("1er avril 2026")),

@@ -120,8 +120,8 @@ void TestListeLivres::pertes()
     QVERIFY(TextesRetour::pertes(actuels, livres).isEmpty());
     actuels[0].poids.reset();
     actuels[0].disponible = false;
-    actuels[0].prixPaypal = {{QStringLiteral("france"), Centimes{1}}, {QStringLiteral("ue"), Centimes{2}}};
-    actuels[0].prixEcartes = {{QStringLiteral("ue"), Centimes{2}}};
+    actuels[0].prixPaypal = {{vers("france"), Centimes{1}}, {vers("ue"), Centimes{2}}};
+    actuels[0].prixEcartes = {{vers("ue"), Centimes{2}}};
     for (Livre &livre : actuels)
         livre.prix = Centimes{1250};
     const QStringList pertes = TextesRetour::pertes(actuels, livres);

@@ -32,10 +32,9 @@ namespace {
 struct Cas
 {
     Banc banc;
-    std::unique_ptr<Catalogue> catalogue = banc.charger();
-    Commande commande;
+    BonDeCommande bon;
 
-    [[nodiscard]] Calcul calcul() const { return {*catalogue, commande, jourDuBanc}; }
+    [[nodiscard]] Calcul calcul() const { return Calcul::de(banc.donnees(), bon, jourDuBanc); }
 };
 
 } // namespace
@@ -76,11 +75,11 @@ void TestTextes::avertissements()
     QFETCH(QString, destination);
     QFETCH(QStringList, attendus);
     Cas cas;
-    cas.commande.ajuster(cas.banc.livres[0], quantites[0]);
-    cas.commande.ajuster(cas.banc.livres[1], quantites[1]);
-    cas.commande.setCodeDestination(destination);
+    cas.bon.ajuster(cas.banc.livres[0], quantites[0]);
+    cas.bon.ajuster(cas.banc.livres[1], quantites[1]);
+    cas.bon.codeDestination = CodeDestination(destination);
     if (pesee > 0)
-        cas.commande.setPoidsPese(Grammes{pesee});
+        cas.bon.poidsPese = Grammes{pesee};
     QStringList obtenus;
     for (const auto &avertissement : avertissementsDePesee(cas.calcul()))
         obtenus.append(avertissement.symbole + u'|' + lisible(avertissement.texte));
@@ -91,11 +90,11 @@ void TestTextes::sousTitres()
 {
     Cas cas;
     QCOMPARE(sousTitre(cas.calcul()), QStringLiteral("Aucun livre"));
-    cas.commande.ajuster(cas.banc.livres[0], 1);
+    cas.bon.ajuster(cas.banc.livres[0], 1);
     QCOMPARE(sousTitre(cas.calcul()), QStringLiteral("1 livre · 240 g"));
-    cas.commande.ajuster(cas.banc.livres[0], 5);
+    cas.bon.ajuster(cas.banc.livres[0], 5);
     QCOMPARE(lisible(sousTitre(cas.calcul())), QStringLiteral("6 livres · 1 240 g"));
-    cas.commande.setPoidsPese(Grammes{1300});
+    cas.bon.poidsPese = Grammes{1300};
     QCOMPARE(lisible(sousTitre(cas.calcul())), QStringLiteral("6 livres · 1 300 g"));
 }
 
@@ -104,9 +103,9 @@ void TestTextes::resumes()
 {
     Cas cas;
     QCOMPARE(resume(cas.calcul()), QStringLiteral("Aucun livre"));
-    cas.commande.ajuster(cas.banc.livres[0], 1);
+    cas.bon.ajuster(cas.banc.livres[0], 1);
     QCOMPARE(lisible(resume(cas.calcul())), QStringLiteral("1 livre · 240 g, total à payer : 20,49 €"));
-    cas.commande.setPoidsPese(Grammes{2001}); // beyond the last tier
+    cas.bon.poidsPese = Grammes{2001}; // beyond the last tier
     QCOMPARE(lisible(resume(cas.calcul())), QStringLiteral("1 livre · 2 001 g, total à payer : aucun montant"));
 }
 
@@ -114,7 +113,7 @@ void TestTextes::lignesEtPalier()
 {
     Cas cas;
     QVERIFY(!palier(cas.calcul()));
-    cas.commande.ajuster(cas.banc.livres[0], 2);
+    cas.bon.ajuster(cas.banc.livres[0], 2);
     const auto lignes = livres(cas.calcul());
     QCOMPARE(lignes.size(), 1);
     QCOMPARE(lignes[0].libelle, QStringLiteral("Livre 1"));
@@ -149,8 +148,8 @@ void TestTextes::detailsDesMontants()
     QFETCH(QString, frais);
     QFETCH(QString, declaration);
     Cas cas;
-    cas.commande.ajuster(cas.banc.livres[0], 1);
-    cas.commande.setCodeDestination(destination);
+    cas.bon.ajuster(cas.banc.livres[0], 1);
+    cas.bon.codeDestination = CodeDestination(destination);
     const Calcul calcul = cas.calcul();
     QCOMPARE(detailEnvoi(calcul), envoi);
     QCOMPARE(lisible(detailFrais(calcul, cas.banc.reglages.fraisPaypal)), frais);
@@ -160,17 +159,17 @@ void TestTextes::detailsDesMontants()
 void TestTextes::lienDePaiementSelonLaLangue()
 {
     Cas cas;
-    cas.commande.ajuster(cas.banc.livres[0], 1);
-    cas.commande.setCodeDestination(QStringLiteral("suisse"));
-    const auto lien = [&] { return lienDePaiement(cas.calcul(), cas.banc.reglages, cas.commande); };
+    cas.bon.ajuster(cas.banc.livres[0], 1);
+    cas.bon.codeDestination = vers("suisse");
+    const auto lien = [&] { return lienDePaiement(cas.calcul(), cas.banc.reglages, cas.bon); };
     QVERIFY(lien());
     QCOMPARE(lien()->indicationDuPays, QStringLiteral("en anglais, pour la description"));
     QCOMPARE(lien()->paysPropose, QStringLiteral("Switzerland"));
     QCOMPARE(lien()->prix, QStringLiteral("20,49"));
     QCOMPARE(lisible(lien()->prixAffiche), QStringLiteral("20,49 €"));
     QCOMPARE(lien()->retour, QStringLiteral("https://davrel.example/merci"));
-    cas.commande.setLangue(Langue::francais);
-    cas.commande.setPaysLivraison(QStringLiteral("la Suisse"));
+    cas.bon.langue = Langue::francais;
+    cas.bon.paysLivraison = QStringLiteral("la Suisse");
     QCOMPARE(lien()->indicationDuPays,
              QStringLiteral("en français, avec l’article : la Belgique, l’Italie, le Canada"));
     QCOMPARE(lien()->paysPropose, QStringLiteral("Suisse"));
@@ -191,10 +190,10 @@ void TestTextes::lienDePaiementAbsent()
     QFETCH(qint64, livre);
     QFETCH(Vendeur, vendeur);
     Cas cas;
-    cas.commande.setVendeur(vendeur);
+    cas.bon.vendeur = vendeur;
     if (livre > 0)
-        cas.commande.ajuster(cas.banc.livres[livre - 1], 1);
-    QVERIFY(!lienDePaiement(cas.calcul(), cas.banc.reglages, cas.commande));
+        cas.bon.ajuster(cas.banc.livres[livre - 1], 1);
+    QVERIFY(!lienDePaiement(cas.calcul(), cas.banc.reglages, cas.bon));
 }
 
 void TestTextes::champsVides()

@@ -50,7 +50,7 @@ private:
     }
     [[nodiscard]] int quantite(int livre) const
     {
-        return banc_->app->commande().quantite(banc_->donnees.livres[livre - 1]);
+        return banc_->app->commande().bon().quantite(banc_->donnees.livres[livre - 1]);
     }
 
     std::unique_ptr<BancEcran> banc_;
@@ -120,7 +120,7 @@ void TestVueCommande::autrePoids()
     choisir(QStringLiteral("Emballage"), QStringLiteral("Autre poids"));
     QCOMPARE(controle<QLineEdit>(champ)->text(), QStringLiteral("100"));
     taper(champ, QStringLiteral("75"));
-    QCOMPARE(banc_->app->commande().poidsEmballageLibre(), Grammes{75});
+    QCOMPARE(banc_->app->commande().bon().poidsEmballageLibre, Grammes{75});
     QCOMPARE(valeur(QStringLiteral("Poids calculé")), QStringLiteral("75 g"));
     auto *saisi = controle<QLineEdit>(champ);
     QTest::keyClick(saisi, Qt::Key_Backspace);
@@ -144,12 +144,12 @@ void TestVueCommande::changerDeDestination()
     QApplication::clipboard()->setText(QStringLiteral("Sp\r\nain\n")); // as a page gives it
     pays->paste();
     QCOMPARE(pays->text(), QStringLiteral("Spain"));
-    QCOMPARE(banc_->app->commande().paysLivraison(), QStringLiteral("Spain"));
+    QCOMPARE(banc_->app->commande().bon().paysLivraison, QStringLiteral("Spain"));
     cliquer(QStringLiteral("Français"));
-    QVERIFY(banc_->app->commande().langue() == Langue::francais);
+    QVERIFY(banc_->app->commande().bon().langue == Langue::francais);
 
     choisir(QStringLiteral("Envoi vers"), QStringLiteral("Suisse"));
-    QVERIFY(!banc_->app->commande().horsUE() && !banc_->app->commande().langue());
+    QVERIFY(!banc_->app->commande().bon().horsUE && !banc_->app->commande().bon().langue);
     QCOMPARE(controle<QLineEdit>(QStringLiteral("Pays de livraison"))->text(), QString());
     QVERIFY(controle<QAbstractButton>(QStringLiteral("Anglais"))->isChecked());
     QVERIFY(!controle(QStringLiteral("Colis pour les Canaries & Ceuta")));
@@ -171,12 +171,12 @@ void TestVueCommande::peserLeColis()
     QCoreApplication::sendEvent(champ, &menu);
     QVERIFY(champ->hasSelectedText()); // what its menu would copy
     QTest::keyClick(champ, Qt::Key_Delete);
-    QVERIFY(!banc_->app->commande().poidsPese());
+    QVERIFY(!banc_->app->commande().bon().poidsPese);
     QCOMPARE(valeur(QStringLiteral("TOTAL À PAYER")), QStringLiteral("—"));
     taper(colisPese, QStringLiteral("-4a5,0")); // keys that make no sense have no effect
-    QCOMPARE(banc_->app->commande().poidsPese(), Grammes{450});
+    QCOMPARE(banc_->app->commande().bon().poidsPese, Grammes{450});
     taper(colisPese, QStringLiteral("9999999"));
-    QCOMPARE(banc_->app->commande().poidsPese(), Grammes{999999});
+    QCOMPARE(banc_->app->commande().bon().poidsPese, Grammes{999999});
 }
 
 void TestVueCommande::toutReinitialiser()
@@ -187,8 +187,8 @@ void TestVueCommande::toutReinitialiser()
     taper(colisPese, QStringLiteral("450"));
     taper(QStringLiteral("Pays de livraison"), QStringLiteral("Switzerland"));
     cliquer(reinitialiser);
-    QVERIFY(banc_->app->commande().estVide() && !banc_->app->commande().poidsPese()
-            && banc_->app->commande().paysLivraison().isEmpty());
+    QVERIFY(banc_->app->commande().bon().estVide() && !banc_->app->commande().bon().poidsPese
+            && banc_->app->commande().bon().paysLivraison.isEmpty());
     QCOMPARE(controle<QLineEdit>(colisPese)->text(), QString());
     QCOMPARE(controle<QComboBox>(QStringLiteral("Emballage"))->currentText(), QStringLiteral("Carton (180 g)"));
     QCOMPARE(controle<QComboBox>(QStringLiteral("Envoi vers"))->currentText(), QStringLiteral("Suisse"));
@@ -319,19 +319,19 @@ void TestVueCommande::parUnLecteurDEcran()
     envoi->showPopup();
     const QModelIndex suisse = envoi->model()->index(envoi->findText(QStringLiteral("Suisse")), 0);
     envoi->view()->selectionModel()->select(suisse, QItemSelectionModel::ClearAndSelect);
-    QTRY_COMPARE(banc_->app->commande().codeDestination(), QStringLiteral("suisse"));
+    QTRY_COMPARE(banc_->app->commande().bon().codeDestination, vers("suisse"));
 
     controle<QLineEdit>(colisPese)->setText(QStringLiteral("501"));
-    QCOMPARE(banc_->app->commande().poidsPese(), Grammes{501});
+    QCOMPARE(banc_->app->commande().bon().poidsPese, Grammes{501});
     controle<QLineEdit>(colisPese)->setText(QStringLiteral("abc"));
-    QCOMPARE(banc_->app->commande().poidsPese(), Grammes{501});
+    QCOMPARE(banc_->app->commande().bon().poidsPese, Grammes{501});
     controle<QLineEdit>(QStringLiteral("Pays de livraison"))->setText(QStringLiteral("Switzerland"));
-    QCOMPARE(banc_->app->commande().paysLivraison(), QStringLiteral("Switzerland"));
+    QCOMPARE(banc_->app->commande().bon().paysLivraison, QStringLiteral("Switzerland"));
 
     auto *francais = controle<QAbstractButton>(QStringLiteral("Français"));
     QVERIFY(!(francais->focusPolicy() & Qt::TabFocus)); // Tab leads to the language shown
     francais->toggle();
-    QVERIFY(banc_->app->commande().langue() == Langue::francais && (francais->focusPolicy() & Qt::TabFocus));
+    QVERIFY(banc_->app->commande().bon().langue == Langue::francais && (francais->focusPolicy() & Qt::TabFocus));
 }
 
 void TestVueCommande::sansRubriqueLaCommande()

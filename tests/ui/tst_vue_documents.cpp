@@ -302,7 +302,7 @@ void TestVueDocuments::etatsDeLaFacture()
 
     banc_->app->commande().setVendeur(Vendeur::mireva);
     banc_->app->commande().ajuster(banc_->donnees.livres[2], 1);
-    banc_->app->commande().setCodeDestination(QStringLiteral("suisse"));
+    banc_->app->commande().setCodeDestination(vers("suisse"));
     feuille = banc_->ouvrir(facture);
     const QString sansIdentite = QStringLiteral("Le nom et l’adresse de Mireva manquent dans les réglages.");
     QVERIFY(Ecran::montre(feuille, sansIdentite));
@@ -310,7 +310,7 @@ void TestVueDocuments::etatsDeLaFacture()
     QVERIFY(Ecran::montre(feuille, sansIdentite));
     QVERIFY(!Ecran::montre(feuille, QStringLiteral("Expéditeur")));
 
-    banc_->donnees.reglages.vendeurs[QStringLiteral("davrel")].siret.reset();
+    banc_->donnees.reglages.vendeurs[Vendeur::davrel].siret.reset();
     banc_->demarrer(banc_->donnees.preferences());
     banc_->commander(QStringLiteral("suisse"));
     QVERIFY(Ecran::montre(banc_->ouvrir(facture), sansSiret));
@@ -319,7 +319,7 @@ void TestVueDocuments::etatsDeLaFacture()
 // A sheet left open over New Year's Eve.
 void TestVueDocuments::laFeuilleSuitLeJour()
 {
-    banc_->donnees.tarifs.append(desTarifs(QStringLiteral("2027-01-01"), Centimes{600}));
+    banc_->donnees.tarifs.append(desTarifs("2027-01-01", Centimes{600}));
     banc_->jour = QDate(2026, 12, 31);
     banc_->demarrer();
     banc_->commander(QStringLiteral("france"));

@@ -65,9 +65,8 @@ const QString enregistrer = QStringLiteral("Enregistrer ces tarifs");
 void TestVueTarifs::init()
 {
     banc_ = std::make_unique<BancEcran>();
-    banc_->donnees.reglages.fraisPaypal.supplements = {{QStringLiteral("eee"), Taux{0}},
-                                                       {QStringLiteral("royaume-uni"), Taux{129}},
-                                                       {QStringLiteral("autres"), Taux{199}}};
+    banc_->donnees.reglages.fraisPaypal.supplements = {
+        {RegionPaypal::eee, Taux{0}}, {RegionPaypal::royaumeUni, Taux{129}}, {RegionPaypal::autres, Taux{199}}};
 }
 
 void TestVueTarifs::demarrer(const TarifsColissimo &tarifs, const FraisPaypal &frais, const QString &dateDEffet)
@@ -85,18 +84,17 @@ void TestVueTarifs::tableaux()
     Banc &donnees = banc_->donnees;
     TarifsColissimo &tarifs = donnees.tarifs.last();
     GrilleColissimo lointaine = tarifs.grilles[1];
-    lointaine.code = QStringLiteral("royaume-uni");
+    lointaine.code = ZoneColissimo::royaumeUni;
     lointaine.nomCourt = lointaine.nom = QStringLiteral("Royaume-Uni");
     lointaine.paliers.removeAt(1);
     GrilleColissimo ailleurs = tarifs.grilles[0];
-    ailleurs.famille = QStringLiteral("lune");
+    ailleurs.famille = Cle<FamilleTarifs>(QStringLiteral("lune"));
     tarifs.grilles += {lointaine, ailleurs};
-    const auto catalogue = donnees.charger();
-    Commande commande;
-    commande.ajuster(donnees.livres[0], 2);
-    commande.setCodeDestination(QStringLiteral("ue"));
+    BonDeCommande bon;
+    bon.ajuster(donnees.livres[0], 2);
+    bon.codeDestination = vers("ue");
 
-    const auto familles = TextesTarifs::familles(tarifs, Calcul(*catalogue, commande, jourDuBanc));
+    const auto familles = TextesTarifs::familles(tarifs, Calcul::de(donnees.donnees(), bon, jourDuBanc));
     QStringList titres;
     for (const auto &famille : familles)
         titres.append(famille.titre);
@@ -133,15 +131,15 @@ void TestVueTarifs::lignes()
     QFETCH(QString, etat);
     Preferences preferences = banc_->donnees.preferences();
     preferences.ecrire(QStringLiteral("verification.laPoste"), verifie);
-    banc_->donnees.tarifs.append(desTarifs(QStringLiteral("2026-04-01"), Centimes{600}));
+    banc_->donnees.tarifs.append(desTarifs("2026-04-01", Centimes{600}));
     const auto catalogue = banc_->donnees.charger();
     const Verifications verifications(
         preferences, [] { return QDateTime(jourDuBanc, QTime(10, 0)); }, horsReseau());
-    const auto ligne = TextesVerifications::laPoste(verifications, *catalogue, jourDuBanc);
+    const auto ligne = TextesVerifications::laPoste(verifications, catalogue->donnees(), jourDuBanc);
     QCOMPARE(ligne.detail, QStringLiteral("en vigueur au 1er janvier 2026, nouvelle grille au 1er avril 2026"));
     QCOMPARE(ligne.symboleEtat, symbole);
     QCOMPARE(ligne.etat, etat);
-    QCOMPARE(lisible(TextesVerifications::paypal(verifications, *catalogue).detail),
+    QCOMPARE(lisible(TextesVerifications::paypal(verifications, catalogue->donnees()).detail),
              QStringLiteral("2,90 % + 0,35 € ; Royaume-Uni + 1,29 %, autres pays + 1,99 %"));
 }
 
@@ -173,7 +171,7 @@ void TestVueTarifs::ecarts()
 
 void TestVueTarifs::compte()
 {
-    const TarifsColissimo tarifs = desTarifs(QStringLiteral("2026-04-01"), Centimes{600});
+    const TarifsColissimo tarifs = desTarifs("2026-04-01", Centimes{600});
     const QList<EcartTarif> un(1);
     QCOMPARE(TextesVerifications::compte(un, tarifs), QStringLiteral("1 palier sur 6 changent."));
     QCOMPARE(TextesVerifications::compte(un + un, tarifs), QStringLiteral("2 paliers sur 6 changent."));
@@ -272,7 +270,7 @@ void TestVueTarifs::pasDeChangement()
 {
     const TarifsColissimo connus = banc_->donnees.tarifs.last();
     TarifsColissimo courts = connus;
-    courts.validite = QStringLiteral("2026-03-01");
+    courts.validite = QDate(2026, 3, 1);
     courts.grilles.removeLast();
     courts.grilles[0].paliers[0].prix = Centimes{600};
     banc_->donnees.tarifs.append(courts);

@@ -20,7 +20,7 @@ TarifsColissimo tarifs(const QString &texte)
 {
     TarifsColissimo tarifs;
     for (const QString &grille : texte.split(QStringLiteral(", "))) {
-        tarifs.grilles.append({.code = grille.section(u' ', 0, 0)});
+        tarifs.grilles.append({.code = CodeGrille(grille.section(u' ', 0, 0))});
         for (const QString &palier : grille.section(u' ', 1).split(u' '))
             tarifs.grilles.last().paliers.append(
                 {Grammes{palier.section(u':', 0, 0).toLongLong()}, Centimes{palier.section(u':', 1).toLongLong()}});
@@ -76,12 +76,10 @@ void TestEcarts::ecarts()
 void TestEcarts::duReleve()
 {
     Banc banc;
-    banc.tarifs = {desTarifs(QStringLiteral("2026-01-01"), Centimes{500}),
-                   desTarifs(QStringLiteral("2028-02-29"), Centimes{600}),
-                   desTarifs(QStringLiteral("2028-03-01"), Centimes{700})};
-    const auto catalogue = banc.charger();
+    banc.tarifs = {desTarifs("2026-01-01", Centimes{500}), desTarifs("2028-02-29", Centimes{600}),
+                   desTarifs("2028-03-01", Centimes{700})};
     const auto avant = [&](const char *jour) {
-        const auto ecarts = EcartTarif::duReleve(*catalogue, desTarifs(QString::fromLatin1(jour), Centimes{800}));
+        const auto ecarts = EcartTarif::duReleve(banc.donnees(), desTarifs(jour, Centimes{800}));
         return ecarts.first().avant.value_or(Centimes{});
     };
     QCOMPARE(avant("2028-02-29"), Centimes{500});

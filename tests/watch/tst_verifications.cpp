@@ -53,12 +53,11 @@ void TestVerifications::init()
 {
     maintenant_ = QDateTime(jourDuBanc, QTime(10, 0), QTimeZone::utc());
     banc_ = std::make_unique<Banc>();
-    banc_->reglages.fraisPaypal.supplements = {{QStringLiteral("eee"), Taux{0}},
-                                               {QStringLiteral("royaume-uni"), Taux{129}},
-                                               {QStringLiteral("autres"), Taux{199}}};
+    banc_->reglages.fraisPaypal.supplements = {
+        {RegionPaypal::eee, Taux{0}}, {RegionPaypal::royaumeUni, Taux{129}}, {RegionPaypal::autres, Taux{199}}};
     catalogue_ = banc_->charger();
     serveur_ = std::make_unique<ServeurLocal>();
-    servir(catalogue_->tarifs(QStringLiteral("2026-03-02")), catalogue_->reglages().fraisPaypal);
+    servir(catalogue_->donnees().tarifs(QDate(2026, 3, 2)), catalogue_->donnees().reglages.fraisPaypal);
 }
 
 void TestVerifications::servir(const TarifsColissimo &tarifs, const FraisPaypal &frais)
@@ -136,15 +135,15 @@ void TestVerifications::quandUneSemaineAPasse()
 
 void TestVerifications::changementsAcceptes()
 {
-    TarifsColissimo tarifs = catalogue_->tarifs(QStringLiteral("2026-03-02"));
+    TarifsColissimo tarifs = catalogue_->donnees().tarifs(QDate(2026, 3, 2));
     tarifs.grilles[0].paliers[0].prix = Centimes{600};
-    FraisPaypal frais = catalogue_->reglages().fraisPaypal;
-    frais.supplements[QStringLiteral("royaume-uni")] = Taux{130};
+    FraisPaypal frais = catalogue_->donnees().reglages.fraisPaypal;
+    frais.supplements[RegionPaypal::royaumeUni] = Taux{130};
     servir(tarifs, frais);
     const auto v = verifications();
     v->verifierSiNecessaire(*catalogue_);
     QTRY_COMPARE(v->etatPaypal().cas, Cas::changement);
-    QVERIFY(!catalogue_->tarifsAVenir(jourDuBanc)); // nothing has changed yet
+    QVERIFY(!catalogue_->donnees().tarifsAVenir(jourDuBanc)); // nothing has changed yet
     const auto verifie = v->verifieLaPoste();
     maintenant_ = maintenant_.addSecs(60);
 
@@ -153,10 +152,10 @@ void TestVerifications::changementsAcceptes()
     QVERIFY(!v->nouveauxTarifs());
     QCOMPARE(v->verifieLaPoste(), verifie);
     QCOMPARE(v->nombreASignaler(), 1);
-    QCOMPARE(catalogue_->tarifs(QStringLiteral("2026-04-01")).grilles[0].paliers[0].prix, Centimes{600});
-    QCOMPARE(catalogue_->tarifs(QStringLiteral("2026-03-31")).grilles[0].paliers[0].prix, Centimes{549});
+    QCOMPARE(catalogue_->donnees().tarifs(QDate(2026, 4, 1)).grilles[0].paliers[0].prix, Centimes{600});
+    QCOMPARE(catalogue_->donnees().tarifs(QDate(2026, 3, 31)).grilles[0].paliers[0].prix, Centimes{549});
     v->accepterFrais(*catalogue_);
-    QCOMPARE(catalogue_->reglages().fraisPaypal.supplement(RegionPaypal::royaumeUni), Taux{130});
+    QCOMPARE(catalogue_->donnees().reglages.fraisPaypal.supplement(RegionPaypal::royaumeUni), Taux{130});
     QCOMPARE(v->nombreASignaler(), 0);
 
     v->verifierLaPoste(*catalogue_);

@@ -92,7 +92,7 @@ CarteLivre::CarteLivre(const Livre &livre, Commande &commande, ImagesCouvertures
 {
     setAttribute(Qt::WA_Hover);
     connect(couverture_, &QAbstractButton::clicked, this, [this, &commande] { commande.ajuster(livre_, 1); });
-    montrer(livre, commande.quantite(livre));
+    montrer(livre, commande.bon().quantite(livre));
     TailleDuTexte::suivre(this, [this] { placer(); });
 }
 

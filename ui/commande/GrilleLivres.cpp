@@ -56,7 +56,7 @@ void GrilleLivres::montrer(const QList<Livre> &livres)
     }
     TransitionCartes::arreter(this); // it shows the cards as they were
     for (qsizetype i = 0; i < livres.size(); ++i)
-        cartes_[i]->montrer(livres[i], commande_.quantite(livres[i]));
+        cartes_[i]->montrer(livres[i], commande_.bon().quantite(livres[i]));
 }
 
 void GrilleLivres::remplacerLesCartes(const QList<Livre> &livres)

@@ -1,5 +1,7 @@
 #include "ui/commande/Recapitulatif.h"
 
+#include "model/Catalogue.h"
+#include "model/Commande.h"
 #include "ui/commande/SectionDestination.h"
 #include "ui/commande/SectionDocuments.h"
 #include "ui/commande/SectionLien.h"
@@ -19,10 +21,10 @@ constexpr int largeurMinimale = 330;
 Recapitulatif::Recapitulatif(const Catalogue &catalogue, Commande &commande, QWidget *parent)
     : Defilement(parent),
       livres_(new SectionLivres),
-      poids_(new SectionPoids(catalogue.reglages().emballages, commande)),
-      destination_(new SectionDestination(catalogue.destinations(), commande)),
-      montants_(new SectionMontants(catalogue.reglages())),
-      lien_(new SectionLien(catalogue.reglages(), commande)),
+      poids_(new SectionPoids(catalogue.donnees().reglages.emballages, commande)),
+      destination_(new SectionDestination(catalogue.donnees().destinations, commande)),
+      montants_(new SectionMontants(catalogue.donnees().reglages)),
+      lien_(new SectionLien(catalogue.donnees().reglages, commande)),
       documents_(new SectionDocuments),
       reponse_(new SectionReponse(commande))
 {

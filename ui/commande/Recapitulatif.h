@@ -4,6 +4,8 @@
 #include "model/Calcul.h"
 #include "ui/documents/OngletDocuments.h"
 
+class Catalogue;
+class Commande;
 class SectionDestination;
 class SectionDocuments;
 class SectionLien;

@@ -17,7 +17,7 @@ SectionDestination::SectionDestination(const QList<Destination> &destinations, C
       rangeeDeclaration_(new Formulaire::Rangee(QStringLiteral("Déclaration en douane"), declaration_))
 {
     for (const Destination &destination : destinations)
-        destination_->ajouter(destination.libelleCourt, destination.code);
+        destination_->ajouter(destination.libelleCourt, destination.code.texte());
     nomComplet_->setFont(Theme::encadre());
     nomComplet_->setWordWrap(true);
     rangeeHorsUE_->setDetail(QStringLiteral("hors Union européenne : déclaration en douane"));
@@ -27,13 +27,14 @@ SectionDestination::SectionDestination(const QList<Destination> &destinations, C
     groupe()->ajouter(rangeeHorsUE_);
     groupe()->ajouter(rangeeDeclaration_);
 
-    connect(destination_, &Choix::choisi, &commande_, &Commande::setCodeDestination);
+    connect(destination_, &Choix::choisi, &commande_,
+            [this](const QString &code) { commande_.setCodeDestination(CodeDestination(code)); });
     connect(horsUE_, &QAbstractButton::toggled, &commande_, &Commande::setHorsUE);
 }
 
 void SectionDestination::montrer(const Calcul &calcul)
 {
-    destination_->montrer(commande_.codeDestination());
+    destination_->montrer(commande_.bon().codeDestination.texte());
     const QString complet = TextesRecapitulatif::destinationComplete(calcul);
     nomComplet_->setText(complet);
     nomComplet_->setVisible(!complet.isEmpty());
@@ -45,7 +46,7 @@ void SectionDestination::montrer(const Calcul &calcul)
         rangeeHorsUE_->setTexte(colis);
         horsUE_->setAccessibleName(colis);
     }
-    horsUE_->setChecked(commande_.horsUE());
+    horsUE_->setChecked(commande_.bon().horsUE);
 
     rangeeDeclaration_->setVisible(calcul.destination.has_value());
     declaration_->setText(TextesRecapitulatif::declaration(calcul));

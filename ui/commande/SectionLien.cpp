@@ -42,11 +42,11 @@ SectionLien::SectionLien(const Reglages &reglages, Commande &commande, QWidget *
 
 void SectionLien::montrer(const Calcul &calcul)
 {
-    langue_->montrer(langueAcheteur(commande_, calcul));
-    if (pays_->text() != commande_.paysLivraison())
-        pays_->setText(commande_.paysLivraison());
+    langue_->montrer(langueAcheteur(commande_.bon(), calcul));
+    if (pays_->text() != commande_.bon().paysLivraison)
+        pays_->setText(commande_.bon().paysLivraison);
 
-    const auto lien = TextesRecapitulatif::lienDePaiement(calcul, reglages_, commande_);
+    const auto lien = TextesRecapitulatif::lienDePaiement(calcul, reglages_, commande_.bon());
     rangeePays_->setVisible(lien.has_value());
     for (ChampACopier *champ : {nomDeLObjet_, description_, prix_})
         champ->setVisible(lien.has_value());

@@ -2,6 +2,7 @@
 
 #include "composants/Formulaire.h"
 #include "model/Calcul.h"
+#include "model/Commande.h"
 
 class ChampACopier;
 class ChoixLangue;

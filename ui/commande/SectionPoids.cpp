@@ -38,7 +38,7 @@ Choix *choixDEmballage(const QList<Emballage> &emballages)
     for (const Emballage &emballage : emballages)
         choix->ajouter(TextesRecapitulatif::emballage(emballage), emballage.nom);
     choix->insertSeparator(choix->count());
-    choix->ajouter(Commande::autrePoids(), Commande::autrePoids());
+    choix->ajouter(BonDeCommande::autrePoids(), BonDeCommande::autrePoids());
     return choix;
 }
 
@@ -81,11 +81,11 @@ SectionPoids::SectionPoids(const QList<Emballage> &emballages, Commande &command
 void SectionPoids::montrer(const Calcul &calcul)
 {
     poidsLivres_.montant->afficher(Format::poids(calcul.poidsLivres));
-    emballage_->montrer(commande_.emballage());
-    rangeePoidsLibre_->setVisible(commande_.emballage() == Commande::autrePoids());
-    poidsLibre_->montrer(commande_.poidsEmballageLibre());
+    emballage_->montrer(commande_.bon().emballage);
+    rangeePoidsLibre_->setVisible(commande_.bon().emballage == BonDeCommande::autrePoids());
+    poidsLibre_->montrer(commande_.bon().poidsEmballageLibre);
     montrerPoidsCalcule(calcul);
-    poidsPese_->montrer(commande_.poidsPese());
+    poidsPese_->montrer(commande_.bon().poidsPese);
 
     const auto palier = TextesRecapitulatif::palier(calcul);
     palier_.rangee->setVisible(palier.has_value());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Calcul.h"
+#include "model/Commande.h"
 #include "textes/TextesRecapitulatif.h"
 #include "ui/commande/RangeeMontant.h"
 

@@ -2,6 +2,7 @@
 
 #include "composants/Icone.h"
 #include "documents/ReponseType.h"
+#include "model/Commande.h"
 #include "textes/TextesRecapitulatif.h"
 
 #include <QPushButton>
@@ -18,6 +19,6 @@ SectionReponse::SectionReponse(const Commande &commande, QWidget *parent)
 
 void SectionReponse::montrer(const Calcul &calcul)
 {
-    ecrire_->setText(TextesRecapitulatif::libelleDeLaReponse(langueAcheteur(commande_, calcul)));
+    ecrire_->setText(TextesRecapitulatif::libelleDeLaReponse(langueAcheteur(commande_.bon(), calcul)));
     ecrire_->setEnabled(calcul.pretAPartir());
 }

@@ -12,7 +12,7 @@ namespace {
 QStringList sites(const Reglages &reglages)
 {
     QStringList noms;
-    for (const Vendeur vendeur : tousLesVendeurs)
+    for (const Vendeur vendeur : tous<Vendeur>)
         noms.append(NomsVendeurs::site(vendeur, reglages));
     return noms;
 }
@@ -31,18 +31,18 @@ SelecteurSite::SelecteurSite(const Reglages &reglages, QWidget *parent)
     auto *rangee = new QHBoxLayout(this);
     rangee->setContentsMargins(0, 0, 0, 0);
     rangee->addWidget(choix_, 0, Qt::AlignCenter);
-    for (const Vendeur vendeur : tousLesVendeurs)
+    for (const Vendeur vendeur : tous<Vendeur>)
         choix_->bouton(static_cast<int>(vendeur))
             ->setAccessibleName(
                 QStringLiteral("%1, livres de %2")
                     .arg(NomsVendeurs::site(vendeur, reglages), NomsVendeurs::complet(vendeur, reglages)));
     connect(choix_, &ChoixSegmente::choisi, this,
-            [this](int indice) { emit choisi(tousLesVendeurs[static_cast<std::size_t>(indice)]); });
+            [this](int indice) { emit choisi(tous<Vendeur>[static_cast<std::size_t>(indice)]); });
 }
 
 QWidget *SelecteurSite::dernierControle() const
 {
-    return choix_->bouton(static_cast<int>(tousLesVendeurs.back()));
+    return choix_->bouton(static_cast<int>(tous<Vendeur>.back()));
 }
 
 void SelecteurSite::montrer(Vendeur vendeur)

@@ -9,6 +9,8 @@
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
 #include "model/Calcul.h"
+#include "model/Catalogue.h"
+#include "model/Commande.h"
 #include "textes/TextesRecapitulatif.h"
 #include "ui/commande/Couverture.h"
 #include "ui/commande/GrilleLivres.h"
@@ -51,7 +53,7 @@ VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesC
       enTete_(new EnTete(QStringLiteral("Commande"))),
       reinitialiser_(new QPushButton(Icone::icone(QStringLiteral("arrow.counterclockwise")),
                                      QStringLiteral("Tout réinitialiser"))),
-      selecteur_(new SelecteurSite(catalogue.reglages())),
+      selecteur_(new SelecteurSite(catalogue.donnees().reglages)),
       grille_(new GrilleLivres(commande, images, selecteur_->dernierControle())),
       sansLivre_(new EtatVide(QStringLiteral("books.vertical"), {},
                               QStringLiteral("Le catalogue n’a pas de livre de ce vendeur."))),
@@ -118,13 +120,13 @@ QWidget *VueCommande::colonneDesLivres()
 
 void VueCommande::actualiser()
 {
-    const Calcul calcul(catalogue_, commande_, aujourdhui_());
+    const Calcul calcul = Calcul::de(catalogue_.donnees(), commande_.bon(), aujourdhui_());
     enTete_->setSousTitre(TextesRecapitulatif::sousTitre(calcul));
-    reinitialiser_->setEnabled(!commande_.estVide());
-    selecteur_->montrer(commande_.vendeur());
+    reinitialiser_->setEnabled(!commande_.bon().estVide());
+    selecteur_->montrer(commande_.bon().vendeur);
     QList<Livre> livres;
-    std::ranges::copy_if(catalogue_.livres(), std::back_inserter(livres),
-                         [&](const Livre &livre) { return livre.vendeur == commande_.vendeur(); });
+    std::ranges::copy_if(catalogue_.donnees().livres, std::back_inserter(livres),
+                         [&](const Livre &livre) { return livre.vendeur == commande_.bon().vendeur; });
     grille_->montrer(livres);
     grille_->setVisible(!livres.isEmpty());
     sansLivre_->setVisible(livres.isEmpty());

@@ -3,6 +3,7 @@
 #include "composants/ChoixSegmente.h"
 #include "model/Calcul.h"
 #include "model/Catalogue.h"
+#include "model/Commande.h"
 #include "ui/documents/FicheDouane.h"
 #include "ui/documents/FicheFacture.h"
 
@@ -20,8 +21,8 @@ VueDocuments::VueDocuments(const Catalogue &catalogue, const Commande &commande,
     : FeuilleDuJour(QStringLiteral("Documents d’envoi"), aujourdhui, parent),
       catalogue_(catalogue),
       commande_(commande),
-      douane_(new FicheDouane(catalogue.reglages())),
-      facture_(new FicheFacture(catalogue.reglages(), preferences, std::move(aujourdhui)))
+      douane_(new FicheDouane(catalogue.donnees().reglages)),
+      facture_(new FicheFacture(catalogue.donnees().reglages, preferences, std::move(aujourdhui)))
 {
     auto *onglets =
         new ChoixSegmente({QStringLiteral("Déclaration en douane"), QStringLiteral("Facture")}, {.police = font()});
@@ -46,7 +47,7 @@ VueDocuments::VueDocuments(const Catalogue &catalogue, const Commande &commande,
 
 void VueDocuments::actualiser()
 {
-    const Calcul calcul(catalogue_, commande_, aujourdhui());
+    const Calcul calcul = Calcul::de(catalogue_.donnees(), commande_.bon(), aujourdhui());
     douane_->montrer(calcul);
     facture_->montrer(calcul);
 }

@@ -50,14 +50,15 @@ void ModeleLivres::retenir(qint64 id)
 void ModeleLivres::compter()
 {
     const QList<Compte> avant = std::exchange(comptes_, {});
-    const QList<Livre> &livres = catalogue_.livres();
+    const QList<Livre> &livres = catalogue_.donnees().livres;
     comptes_.reserve(livres.size());
     for (qsizetype place = 0; place < livres.size(); ++place) {
         const Livre &livre = livres[place];
         if (place < avant.size() && avant[place].livre == livre)
             comptes_.append(avant[place]);
         else
-            comptes_.append({livre, tarifs_ ? PrixBouton::aReporter(catalogue_.boutons(livre, *tarifs_)).size() : 0,
+            comptes_.append({livre,
+                             tarifs_ ? PrixBouton::aReporter(catalogue_.donnees().boutons(livre, *tarifs_)).size() : 0,
                              FiltreLivres::texteCherche(livre)});
     }
 }
@@ -65,7 +66,7 @@ void ModeleLivres::compter()
 QList<ModeleLivres::Rang> ModeleLivres::ranger() const
 {
     QList<Rang> rangs;
-    const QList<Livre> &livres = catalogue_.livres();
+    const QList<Livre> &livres = catalogue_.donnees().livres;
     for (qsizetype place = 0; place < livres.size(); ++place) {
         const Livre &livre = livres[place];
         const Compte &compte = comptes_[place];
@@ -103,7 +104,7 @@ qsizetype ModeleLivres::aReporter() const
 
 const Livre &ModeleLivres::livre(int rang) const
 {
-    return catalogue_.livres()[rangs_[rang].place];
+    return catalogue_.donnees().livres[rangs_[rang].place];
 }
 
 std::optional<int> ModeleLivres::rang(qint64 id) const

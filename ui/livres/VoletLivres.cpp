@@ -92,7 +92,7 @@ QWidget *VoletLivres::filtres()
     if (auto *croix = recherche_->findChild<QAction *>(QStringLiteral("_q_qlineeditclearaction")))
         croix->setText(QStringLiteral("Effacer la recherche"));
     QStringList vendeurs{QStringLiteral("Tous")};
-    for (const Vendeur vendeur : tousLesVendeurs)
+    for (const Vendeur vendeur : tous<Vendeur>)
         vendeurs.append(NomsVendeurs::court(vendeur));
     auto *vendeur = new ChoixSegmente(vendeurs, {.police = Theme::encadre(), .hauteur = 26});
     vendeur->setAccessibleName(QStringLiteral("Vendeur"));
@@ -109,7 +109,7 @@ QWidget *VoletLivres::filtres()
         filtrer();
     });
     connect(vendeur, &ChoixSegmente::choisi, this, [this](int choisi) {
-        filtre_.vendeur = choisi == 0 ? std::nullopt : std::optional(tousLesVendeurs[choisi - 1]);
+        filtre_.vendeur = choisi == 0 ? std::nullopt : std::optional(tous<Vendeur>[choisi - 1]);
         filtrer();
     });
     connect(etat, &Choix::choisi, this, [this](const QString &choisi) {
@@ -183,7 +183,7 @@ void VoletLivres::seReplacer()
     place_->setCurrentIndex(vide ? 1 : 0);
     if (vide)
         vide_->montrer(QStringLiteral("magnifyingglass"), QStringLiteral("Aucun livre"),
-                       catalogue_.livres().isEmpty()
+                       catalogue_.donnees().livres.isEmpty()
                            ? QStringLiteral("Le catalogue est vide.")
                            : QStringLiteral("Aucun livre ne répond à la recherche et aux filtres."));
     if (vide)

@@ -150,14 +150,14 @@ void VueLivres::actualiser()
 {
     if (!isVisible())
         return; // up to date again when it shows
-    choix_->actualiser(catalogue_, aujourdhui_());
+    choix_->actualiser(catalogue_.donnees(), aujourdhui_());
     const TarifsColissimo &tarifs = choix_->tarifs();
     volet_->setTarifs(tarifs);
-    enTete_->setSousTitre(TextesBoutons::bilan(catalogue_.livres().size(), volet_->aReporter()));
+    enTete_->setSousTitre(TextesBoutons::bilan(catalogue_.donnees().livres.size(), volet_->aReporter()));
     const Livre *choisi = volet_->choisi();
     place_->setCurrentIndex(choisi ? 0 : 1);
     if (choisi)
-        fiche_->montrer(*choisi, catalogue_.boutons(*choisi, tarifs), tarifs, volet_->aUnSuivant());
+        fiche_->montrer(*choisi, catalogue_.donnees().boutons(*choisi, tarifs), tarifs, volet_->aUnSuivant());
 }
 
 // A disabled button would hand the focus to a neighbour that has nothing to do with it.
@@ -197,7 +197,7 @@ void VueLivres::tenter(const std::function<void()> &geste)
 void VueLivres::revenir()
 {
     tenter([this] {
-        if (RetourAuxValeurs::accepte(catalogue_.livres(), catalogue_.valeursLivrees(), this))
+        if (RetourAuxValeurs::accepte(catalogue_.donnees().livres, catalogue_.valeursLivrees(), this))
             historique_.revenirAuxValeursLivrees(TextesGestes::retour());
     });
 }

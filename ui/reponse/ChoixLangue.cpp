@@ -1,15 +1,30 @@
 #include "ui/reponse/ChoixLangue.h"
 
+#include "model/Enumeration.h"
+
 #include <QApplication>
 
-ChoixLangue::ChoixLangue(QWidget *parent)
-    : ChoixSegmente({QStringLiteral("Français"), QStringLiteral("Anglais")}, {.police = QApplication::font()}, parent)
+namespace {
+
+QStringList noms()
+{
+    QStringList noms;
+    for (const Langue langue : tous<Langue>) {
+        const QString nom = traits(langue).nom.toString();
+        noms.append(nom.first(1).toUpper() + nom.sliced(1));
+    }
+    return noms;
+}
+
+} // namespace
+
+ChoixLangue::ChoixLangue(QWidget *parent) : ChoixSegmente(noms(), {.police = QApplication::font()}, parent)
 {
     connect(this, &ChoixSegmente::choisi, this,
-            [this](int indice) { emit choisie(indice == 0 ? Langue::francais : Langue::anglais); });
+            [this](int indice) { emit choisie(tous<Langue>[static_cast<std::size_t>(indice)]); });
 }
 
 void ChoixLangue::montrer(Langue langue)
 {
-    ChoixSegmente::montrer(langue == Langue::francais ? 0 : 1);
+    ChoixSegmente::montrer(static_cast<int>(langue));
 }

@@ -10,7 +10,9 @@
 #include "composants/Theme.h"
 #include "documents/ReponseType.h"
 #include "model/Catalogue.h"
+#include "model/Commande.h"
 #include "model/Echec.h"
+#include "textes/NomsVendeurs.h"
 #include "textes/TextesReponse.h"
 #include "ui/reponse/ApercuMessage.h"
 #include "ui/reponse/ChoixLangue.h"
@@ -63,7 +65,7 @@ VueReponse::VueReponse(const Catalogue &catalogue, Commande &commande, Aujourdhu
     pages_->addWidget(ecran);
     pages_->addWidget(
         new EtatVide(QStringLiteral("person.2"), QStringLiteral("Réponse impossible"),
-                     QStringLiteral("Une réponse par vendeur : séparez les livres de Davrel et ceux de Mireva.")));
+                     QStringLiteral("Une réponse par vendeur : séparez %1.").arg(NomsVendeurs::livresDeChacun())));
     meubler(langue_, pages_);
     envoyer_->setDefault(true); // only now does it have a sheet to be the default of
 
@@ -122,8 +124,8 @@ QWidget *VueReponse::message()
 
 std::optional<ReponseType> VueReponse::reponse() const
 {
-    const Calcul calcul(catalogue_, commande_, aujourdhui());
-    return ReponseType::de(calcul, catalogue_.reglages(), commande_, lien_->text());
+    const Calcul calcul = Calcul::de(catalogue_.donnees(), commande_.bon(), aujourdhui());
+    return ReponseType::de(calcul, catalogue_.donnees().reglages, commande_.bon(), lien_->text());
 }
 
 void VueReponse::actualiser()

@@ -59,7 +59,7 @@ CarteNouveauxFrais::CarteNouveauxFrais(Catalogue &catalogue, Verifications &veri
     colonne->addSpacing(6);
     colonne->addWidget(origine);
     colonne->addSpacing(14);
-    const auto avant = TextesTarifs::frais(catalogue.reglages().fraisPaypal);
+    const auto avant = TextesTarifs::frais(catalogue.donnees().reglages.fraisPaypal);
     const auto apres = TextesTarifs::frais(*verifications.nouveauxFrais());
     for (qsizetype i = 0; i < avant.size(); ++i)
         colonne->addWidget(ligne(avant[i], apres[i]));

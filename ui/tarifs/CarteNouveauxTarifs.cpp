@@ -63,7 +63,7 @@ CarteNouveauxTarifs::CarteNouveauxTarifs(Catalogue &catalogue, Verifications &ve
     : FeuilleDeReleve(QStringLiteral("Nouveaux tarifs Colissimo"), parent)
 {
     const ReleveColissimo &releve = *verifications.nouveauxTarifs();
-    const auto ecarts = EcartTarif::duReleve(catalogue, releve.tarifs);
+    const auto ecarts = EcartTarif::duReleve(catalogue.donnees(), releve.tarifs);
     if (ecarts.isEmpty()) {
         composerVide(new EtatVide(QStringLiteral("checkmark.seal"), QStringLiteral("Pas de changement"),
                                   QStringLiteral("Les tarifs de laposte.fr sont ceux de l’app.")));

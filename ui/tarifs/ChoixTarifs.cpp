@@ -22,9 +22,9 @@ ChoixTarifs::ChoixTarifs(QWidget *parent)
     });
 }
 
-void ChoixTarifs::actualiser(const Catalogue &catalogue, QDate jour)
+void ChoixTarifs::actualiser(const Donnees &donnees, QDate jour)
 {
-    const auto suivants = catalogue.tarifsAVenir(jour);
+    const auto suivants = donnees.tarifsAVenir(jour);
     const QString offert = suivants ? TextesTarifs::aPartirDu(*suivants) : QString();
     if (offert != offert_) {
         offert_ = offert;
@@ -33,5 +33,5 @@ void ChoixTarifs::actualiser(const Catalogue &catalogue, QDate jour)
         choix_->montrer(0);
         setVisible(suivants.has_value());
     }
-    tarifs_ = montreLesSuivants_ ? *suivants : catalogue.tarifs(Format::iso(jour));
+    tarifs_ = montreLesSuivants_ ? *suivants : donnees.tarifs(jour);
 }

@@ -5,8 +5,8 @@
 #include <QDate>
 #include <QWidget>
 
-class Catalogue;
 class ChoixSegmente;
+struct Donnees;
 
 // Which schedule a screen shows: the one in force, or the next one when there is one to look at.
 class ChoixTarifs : public QWidget
@@ -17,7 +17,7 @@ public:
     explicit ChoixTarifs(QWidget *parent = nullptr);
 
     // Offers what the catalogue knows on that day; when that is something else, the schedule in force is shown again.
-    void actualiser(const Catalogue &catalogue, QDate jour);
+    void actualiser(const Donnees &donnees, QDate jour);
     [[nodiscard]] const TarifsColissimo &tarifs() const { return tarifs_; }
     [[nodiscard]] bool montreLesSuivants() const { return montreLesSuivants_; }
 

@@ -131,19 +131,19 @@ void VueTarifs::actualiser()
     if (!isVisible())
         return; // up to date again when it shows
     const QDate jour = aujourdhui_();
-    choix_->actualiser(catalogue_, jour);
+    choix_->actualiser(catalogue_.donnees(), jour);
     const TarifsColissimo &tarifs = choix_->tarifs();
     enTete_->setSousTitre(choix_->montreLesSuivants() ? TextesTarifs::aPartirDu(tarifs)
                                                       : TextesTarifs::enVigueur(tarifs));
-    laPoste_->montrer(TextesVerifications::laPoste(verifications_, catalogue_, jour));
-    paypal_->montrer(TextesVerifications::paypal(verifications_, catalogue_));
+    laPoste_->montrer(TextesVerifications::laPoste(verifications_, catalogue_.donnees(), jour));
+    paypal_->montrer(TextesVerifications::paypal(verifications_, catalogue_.donnees()));
 
     // What says the same stays: the page keeps its place.
     std::optional<Calcul> enCours;
-    if (!commande_.estVide())
-        enCours.emplace(catalogue_, commande_, jour);
+    if (!commande_.bon().estVide())
+        enCours = Calcul::de(catalogue_.donnees(), commande_.bon(), jour);
     const auto familles = TextesTarifs::familles(tarifs, enCours);
-    const auto frais = TextesTarifs::frais(catalogue_.reglages().fraisPaypal);
+    const auto frais = TextesTarifs::frais(catalogue_.donnees().reglages.fraisPaypal);
     if (tableaux_ && familles == familles_ && frais == frais_)
         return;
     familles_ = familles;

@@ -1,0 +1,32 @@
+#include "model/BonDeCommande.h"
+
+#include <algorithm>
+
+bool BonDeCommande::estVide() const
+{
+    return std::ranges::none_of(quantites, [](int quantite) { return quantite > 0; });
+}
+
+void BonDeCommande::ajuster(const Livre &livre, int delta)
+{
+    const auto voulue = qint64{quantite(livre)} + delta;
+    quantites[livre.id] = static_cast<int>(std::clamp<qint64>(voulue, 0, quantiteMaximale));
+}
+
+void BonDeCommande::destiner(const CodeDestination &code)
+{
+    if (code == codeDestination)
+        return;
+    codeDestination = code;
+    horsUE = false;
+    paysLivraison.clear();
+    langue.reset();
+}
+
+void BonDeCommande::vider()
+{
+    *this = {.vendeur = vendeur,
+             .emballage = emballage,
+             .poidsEmballageLibre = poidsEmballageLibre,
+             .codeDestination = codeDestination};
+}

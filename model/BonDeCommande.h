@@ -1,0 +1,43 @@
+#pragma once
+
+#include "model/Destination.h"
+#include "model/Langue.h"
+#include "model/Livre.h"
+#include "model/Quantite.h"
+#include "model/Vendeur.h"
+
+#include <QMap>
+#include <QString>
+
+#include <optional>
+
+// What the seller entered of one order. What follows from it is a Calcul.
+struct BonDeCommande
+{
+    static constexpr int quantiteMaximale = 99;
+    // The packaging whose weight the seller types.
+    static QString autrePoids() { return QStringLiteral("Autre poids"); }
+
+    Vendeur vendeur = Vendeur::davrel;
+    QMap<qint64, int> quantites; // by a book's id; no entry: none
+    QString emballage = QStringLiteral("Enveloppe à bulles");
+    Grammes poidsEmballageLibre{100}; // counts only in `autrePoids`
+    std::optional<Grammes> poidsPese;
+    CodeDestination codeDestination{QStringLiteral("france")};
+    bool horsUE = false;
+    QString paysLivraison;        // as the buyer wrote it
+    std::optional<Langue> langue; // none: not chosen yet
+
+    [[nodiscard]] int quantite(const Livre &livre) const { return quantites.value(livre.id); }
+    // No copy of any book, of either seller.
+    [[nodiscard]] bool estVide() const;
+
+    // Keeps the count between 0 and `quantiteMaximale`.
+    void ajuster(const Livre &livre, int delta);
+    // Another destination asks its own questions: country, language and customs exception start afresh.
+    void destiner(const CodeDestination &code);
+    // Ready for the next buyer; seller, packaging and destination stay.
+    void vider();
+
+    bool operator==(const BonDeCommande &) const = default;
+};

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "model/Enumeration.h"
+
+#include <QHashFunctions>
+#include <QString>
+
+#include <compare>
+#include <optional>
+#include <utility>
+
+// What names a thing of one kind in the files: any text, compared as text, also one that names nothing. Two kinds
+// never mix. For an enumeration it holds a raw value, or a text that is none.
+template <typename Sorte>
+class Cle
+{
+public:
+    Cle() = default;
+    explicit Cle(QString texte) : texte_(std::move(texte)) {}
+    Cle(Sorte cas) requires Enumeration<Sorte> : texte_(brut(cas)) {}
+
+    [[nodiscard]] const QString &texte() const { return texte_; }
+    [[nodiscard]] std::optional<Sorte> cas() const requires Enumeration<Sorte> { return depuisBrut<Sorte>(texte_); }
+
+    bool operator==(const Cle &) const = default;
+    std::strong_ordering operator<=>(const Cle &autre) const { return texte_.compare(autre.texte_) <=> 0; }
+    friend std::size_t qHash(const Cle &cle, std::size_t graine = 0) { return ::qHash(cle.texte_, graine); }
+
+private:
+    QString texte_;
+};
