@@ -7,7 +7,7 @@ paquets=(
     pkg-config qt6-wayland qt6-translations-l10n ca-certificates
     fonts-inter fonts-linuxlibertine fonts-dejavu-core
     poppler-utils libgumbo-dev dbus-daemon
-    python3 desktop-file-utils appstream
+    python3 desktop-file-utils appstream clang-format-19
 )
 # Taken where the release has it: Qt's SVG plugins left libqt6svg6 for a package of their own.
 paquets_s_il_y_en_a=(qt6-svg-plugins)
