@@ -9,13 +9,13 @@
 #include "model/Commande.h"
 #include "model/Format.h"
 #include "textes/TextesTarifs.h"
+#include "ui/JourCourant.h"
 #include "ui/ListeRubriques.h"
 #include "ui/commande/VueCommande.h"
 #include "ui/livres/VueLivres.h"
 #include "ui/tarifs/VueTarifs.h"
 #include "watch/Verifications.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -36,7 +36,7 @@ constexpr int barreMaximum = 260;
 } // namespace
 
 ContenuPrincipal::ContenuPrincipal(Catalogue &catalogue, Commande &commande, Verifications &verifications,
-                                   ImagesCouvertures &images, Preferences preferences, Aujourdhui aujourdhui,
+                                   ImagesCouvertures &images, Preferences preferences, JourCourant &jour,
                                    QWidget *parent)
     : QWidget(parent),
       catalogue_(catalogue),
@@ -44,7 +44,7 @@ ContenuPrincipal::ContenuPrincipal(Catalogue &catalogue, Commande &commande, Ver
       verifications_(verifications),
       images_(images),
       preferences_(std::move(preferences)),
-      aujourdhui_(std::move(aujourdhui)),
+      jour_(jour),
       rubriques_(new ListeRubriques({{QStringLiteral("shippingbox"), QStringLiteral("Commande")},
                                      {QStringLiteral("tablecells"), QStringLiteral("Tarifs Colissimo")},
                                      {QStringLiteral("books.vertical"), QStringLiteral("Livres")}})),
@@ -58,11 +58,13 @@ ContenuPrincipal::ContenuPrincipal(Catalogue &catalogue, Commande &commande, Ver
     colonnes->addWidget(Partage::entre(barre, detail_, barre, Theme::aLaTaille(barreIdeale)));
 
     connect(rubriques_, &QListWidget::itemSelectionChanged, this, [this] {
+        jour_.regarder(); // before a screen is seen again
         detail_->setCurrentWidget(ecran(rubrique().value_or(Rubrique::commande)));
         actualiser();
     });
     connect(&catalogue_, &Catalogue::change, this, &ContenuPrincipal::actualiser);
     connect(&verifications_, &Verifications::change, this, &ContenuPrincipal::actualiser);
+    connect(&jour_, &JourCourant::change, this, &ContenuPrincipal::actualiser);
     actualiser();
     montrer(Rubrique::commande);
 }
@@ -130,13 +132,13 @@ QWidget *ContenuPrincipal::ecran(Rubrique rubrique)
     if (!place) {
         switch (rubrique) {
         case Rubrique::commande:
-            place = new VueCommande(catalogue_, commande_, images_, preferences_, aujourdhui_);
+            place = new VueCommande(catalogue_, commande_, images_, preferences_, jour_);
             break;
         case Rubrique::tarifs:
-            place = new VueTarifs(catalogue_, commande_, verifications_, aujourdhui_);
+            place = new VueTarifs(catalogue_, commande_, verifications_, jour_);
             break;
         case Rubrique::livres:
-            place = new VueLivres(catalogue_, images_, aujourdhui_);
+            place = new VueLivres(catalogue_, images_, jour_);
             break;
         }
         detail_->addWidget(place);
@@ -146,17 +148,9 @@ QWidget *ContenuPrincipal::ecran(Rubrique rubrique)
 
 void ContenuPrincipal::actualiser()
 {
-    const TarifsColissimo &tarifs = catalogue_.donnees().tarifs(aujourdhui_());
+    const TarifsColissimo &tarifs = catalogue_.donnees().tarifs(jour_.aujourdhui());
     enVigueur_->setText(TextesTarifs::enVigueur(tarifs));
     rubriques_->setPastille(static_cast<int>(Rubrique::tarifs), verifications_.nombreASignaler());
-}
-
-// A window left open overnight comes back on another day.
-bool ContenuPrincipal::event(QEvent *evenement)
-{
-    if (evenement->type() == QEvent::WindowActivate)
-        actualiser();
-    return QWidget::event(evenement);
 }
 
 // The weekly checks are looked at once, when there is a window to tell their outcome.

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "model/Preferences.h"
-#include "ui/Aujourdhui.h"
 
 #include <QWidget>
 
@@ -11,6 +10,7 @@
 class Catalogue;
 class Commande;
 class ImagesCouvertures;
+class JourCourant;
 class Libelle;
 class ListeRubriques;
 class QStackedWidget;
@@ -29,7 +29,7 @@ public:
     static constexpr std::chrono::milliseconds apresLaPremiereImage{150};
 
     ContenuPrincipal(Catalogue &catalogue, Commande &commande, Verifications &verifications, ImagesCouvertures &images,
-                     Preferences preferences, Aujourdhui aujourdhui, QWidget *parent = nullptr);
+                     Preferences preferences, JourCourant &jour, QWidget *parent = nullptr);
 
     // No section at all shows the order.
     void montrer(std::optional<Rubrique> rubrique);
@@ -40,7 +40,6 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
-    bool event(QEvent *evenement) override;
     void showEvent(QShowEvent *evenement) override;
 
 private:
@@ -54,7 +53,7 @@ private:
     Verifications &verifications_;
     ImagesCouvertures &images_;
     Preferences preferences_;
-    Aujourdhui aujourdhui_;
+    JourCourant &jour_;
     ListeRubriques *rubriques_;
     Libelle *enVigueur_;
     QStackedWidget *detail_;

@@ -23,8 +23,8 @@ constexpr QSize contenuParDefaut(1320, 860);
 } // namespace
 
 Fenetre::Fenetre(Catalogue &catalogue, Commande &commande, Verifications &verifications, MisesAJour &misesAJour,
-                 ImagesCouvertures &images, const Preferences &preferences, Aujourdhui aujourdhui)
-    : contenu_(new ContenuPrincipal(catalogue, commande, verifications, images, preferences, std::move(aujourdhui)))
+                 ImagesCouvertures &images, const Preferences &preferences, JourCourant &jour)
+    : contenu_(new ContenuPrincipal(catalogue, commande, verifications, images, preferences, jour))
 {
     setObjectName(QStringLiteral("quillet"));
     setWindowTitle(QStringLiteral("Quillet"));

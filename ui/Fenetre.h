@@ -1,13 +1,12 @@
 #pragma once
 
-#include "ui/Aujourdhui.h"
-
 #include <QMainWindow>
 
 class Catalogue;
 class Commande;
 class ContenuPrincipal;
 class ImagesCouvertures;
+class JourCourant;
 class MisesAJour;
 class Preferences;
 class Verifications;
@@ -19,7 +18,7 @@ class Fenetre : public QMainWindow
 
 public:
     Fenetre(Catalogue &catalogue, Commande &commande, Verifications &verifications, MisesAJour &misesAJour,
-            ImagesCouvertures &images, const Preferences &preferences, Aujourdhui aujourdhui);
+            ImagesCouvertures &images, const Preferences &preferences, JourCourant &jour);
 
     // What it opens at, on a screen that is large enough.
     [[nodiscard]] QSize tailleParDefaut() const;

@@ -52,8 +52,9 @@ QuilletApp::QuilletApp(const Ressources &ressources, Stockage stockage, const Pr
           preferences, [aujourdhui] { return QDateTime(aujourdhui(), QTime::currentTime()); }, pages),
       misesAJour_(misesAJour),
       images_(QDir(ressources.chemin(QStringLiteral("couvertures")))),
-      fenetre_(std::make_unique<Fenetre>(*catalogue_, commande_, verifications_, misesAJour_, images_, preferences,
-                                         std::move(aujourdhui)))
+      jour_(std::move(aujourdhui)),
+      fenetre_(
+          std::make_unique<Fenetre>(*catalogue_, commande_, verifications_, misesAJour_, images_, preferences, jour_))
 {
 }
 

@@ -4,7 +4,7 @@
 #include "model/Catalogue.h"
 #include "model/Commande.h"
 #include "model/Preferences.h"
-#include "ui/Aujourdhui.h"
+#include "ui/JourCourant.h"
 #include "ui/couvertures/ImagesCouvertures.h"
 #include "watch/MisesAJour.h"
 #include "watch/Verifications.h"
@@ -41,5 +41,6 @@ private:
     Verifications verifications_;
     MisesAJour misesAJour_;
     ImagesCouvertures images_;
+    JourCourant jour_;
     std::unique_ptr<Fenetre> fenetre_;
 };

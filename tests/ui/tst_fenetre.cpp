@@ -11,6 +11,8 @@
 
 #include <algorithm>
 
+using namespace std::chrono_literals;
+
 // The frame around the screens.
 class TestFenetre : public QObject
 {
@@ -22,6 +24,7 @@ private slots:
     void raccourcis_data();
     void raccourcis();
     void leJourChange();
+    void minuitPasse();
     void nuitEnCoursDeRoute();
     void uneSeuleInstance();
     void appelsHostiles();
@@ -88,6 +91,16 @@ void TestFenetre::leJourChange()
                 .startsWith(QStringLiteral("6,00")));
     banc.app->fenetre().contenu()->montrer(Rubrique::tarifs);
     QVERIFY(Ecran::montre(banc.app->fenetre().contenu(), QStringLiteral("en vigueur au 1er janvier 2027")));
+}
+
+// The window stays in front, and nobody touches it.
+void TestFenetre::minuitPasse()
+{
+    QDate jour(2026, 12, 31);
+    const JourCourant veille([&] { return jour; }, 10ms);
+    QSignalSpy change(&veille, &JourCourant::change);
+    jour = jour.addDays(1);
+    QVERIFY(change.wait());
 }
 
 // The desktop turns dark: what hands colours down to its parts must hand down new ones.

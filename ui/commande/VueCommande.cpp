@@ -12,6 +12,7 @@
 #include "model/Catalogue.h"
 #include "model/Commande.h"
 #include "textes/TextesRecapitulatif.h"
+#include "ui/JourCourant.h"
 #include "ui/commande/Couverture.h"
 #include "ui/commande/GrilleLivres.h"
 #include "ui/commande/Recapitulatif.h"
@@ -19,7 +20,6 @@
 #include "ui/documents/VueDocuments.h"
 #include "ui/reponse/VueReponse.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScrollBar>
@@ -44,12 +44,12 @@ constexpr int panneauMaximum = 460;
 } // namespace
 
 VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesCouvertures &images,
-                         Preferences preferences, Aujourdhui aujourdhui, QWidget *parent)
+                         Preferences preferences, JourCourant &jour, QWidget *parent)
     : QWidget(parent),
       catalogue_(catalogue),
       commande_(commande),
       preferences_(std::move(preferences)),
-      aujourdhui_(std::move(aujourdhui)),
+      jour_(jour),
       enTete_(new EnTete(QStringLiteral("Commande"))),
       reinitialiser_(new QPushButton(Icone::icone(QStringLiteral("arrow.counterclockwise")),
                                      QStringLiteral("Tout réinitialiser"))),
@@ -78,6 +78,7 @@ VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesC
     connect(recapitulatif_, &Recapitulatif::reponseDemandee, this, &VueCommande::ouvrirLaReponse);
     connect(&commande_, &Commande::change, this, &VueCommande::actualiser);
     connect(&catalogue_, &Catalogue::change, this, &VueCommande::actualiser);
+    connect(&jour_, &JourCourant::change, this, &VueCommande::actualiser);
     annonce_.setSingleShot(true);
     annonce_.setInterval(600ms); // typing has come to a rest
     connect(&annonce_, &QTimer::timeout, this, [this] { LecteurDEcran::annoncer(this, resume_); });
@@ -120,7 +121,7 @@ QWidget *VueCommande::colonneDesLivres()
 
 void VueCommande::actualiser()
 {
-    const Calcul calcul = Calcul::de(catalogue_.donnees(), commande_.bon(), aujourdhui_());
+    const Calcul calcul = Calcul::de(catalogue_.donnees(), commande_.bon(), jour_.aujourdhui());
     enTete_->setSousTitre(TextesRecapitulatif::sousTitre(calcul));
     reinitialiser_->setEnabled(!commande_.bon().estVide());
     selecteur_->montrer(commande_.bon().vendeur);
@@ -138,18 +139,10 @@ void VueCommande::actualiser()
 
 void VueCommande::ouvrirLesDocuments(OngletDocuments onglet)
 {
-    (new VueDocuments(catalogue_, commande_, preferences_, aujourdhui_, onglet, window()))->ouvrir();
+    (new VueDocuments(catalogue_, commande_, preferences_, jour_, onglet, window()))->ouvrir();
 }
 
 void VueCommande::ouvrirLaReponse()
 {
-    (new VueReponse(catalogue_, commande_, aujourdhui_, window()))->ouvrir();
-}
-
-// A window left open overnight comes back on another day, and this screen perhaps later.
-bool VueCommande::event(QEvent *evenement)
-{
-    if (evenement->type() == QEvent::Show || evenement->type() == QEvent::WindowActivate)
-        actualiser();
-    return QWidget::event(evenement);
+    (new VueReponse(catalogue_, commande_, jour_, window()))->ouvrir();
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "model/Preferences.h"
-#include "ui/Aujourdhui.h"
 #include "ui/documents/OngletDocuments.h"
 
 #include <QTimer>
@@ -13,6 +12,7 @@ class EnTete;
 class EtatVide;
 class GrilleLivres;
 class ImagesCouvertures;
+class JourCourant;
 class QPushButton;
 class Recapitulatif;
 class SelecteurSite;
@@ -24,10 +24,7 @@ class VueCommande : public QWidget
 
 public:
     VueCommande(const Catalogue &catalogue, Commande &commande, ImagesCouvertures &images, Preferences preferences,
-                Aujourdhui aujourdhui, QWidget *parent = nullptr);
-
-protected:
-    bool event(QEvent *evenement) override;
+                JourCourant &jour, QWidget *parent = nullptr);
 
 private:
     QWidget *colonneDesLivres();
@@ -38,7 +35,7 @@ private:
     const Catalogue &catalogue_;
     Commande &commande_;
     Preferences preferences_;
-    Aujourdhui aujourdhui_;
+    JourCourant &jour_;
     EnTete *enTete_;
     QPushButton *reinitialiser_;
     SelecteurSite *selecteur_;

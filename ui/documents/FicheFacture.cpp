@@ -12,6 +12,7 @@
 #include "composants/ZoneDeTexte.h"
 #include "documents/NumerotationFactures.h"
 #include "textes/TextesDocuments.h"
+#include "ui/JourCourant.h"
 #include "ui/documents/ApercuFacture.h"
 #include "ui/documents/ImpressionFacture.h"
 
@@ -29,11 +30,11 @@ const QString cleDossier = QStringLiteral("dossierDesFactures");
 
 } // namespace
 
-FicheFacture::FicheFacture(const Reglages &reglages, Preferences preferences, Aujourdhui aujourdhui, QWidget *parent)
+FicheFacture::FicheFacture(const Reglages &reglages, Preferences preferences, const JourCourant &jour, QWidget *parent)
     : QStackedWidget(parent),
       reglages_(reglages),
       preferences_(std::move(preferences)),
-      aujourdhui_(std::move(aujourdhui)),
+      jour_(jour),
       impossible_(new EtatVide),
       numero_(new LigneDeTexte),
       remarque_(new Alerte),
@@ -121,18 +122,18 @@ void FicheFacture::montrer(const Calcul &calcul)
         return;
     }
     vendeur_ = *calcul.vendeurs().begin();
-    const bool aJour =
-        NumerotationFactures::rapport(numero_->text(), aujourdhui_()) == NumerotationFactures::Rapport::dansLaSerie;
+    const bool aJour = NumerotationFactures::rapport(numero_->text(), jour_.aujourdhui())
+                       == NumerotationFactures::Rapport::dansLaSerie;
     if (numero_->text() == propose_ && !aJour)
         proposer();
-    facture_ = Facture::de(calcul, reglages_, {}, aujourdhui_(), {});
+    facture_ = Facture::de(calcul, reglages_, {}, jour_.aujourdhui(), {});
     completer();
 }
 
 void FicheFacture::proposer()
 {
     try {
-        propose_ = NumerotationFactures{preferences_}.prochain(vendeur_, aujourdhui_());
+        propose_ = NumerotationFactures{preferences_}.prochain(vendeur_, jour_.aujourdhui());
         sansProposition_.clear();
     } catch (const ErreurStockage &erreur) {
         propose_.clear();

@@ -2,7 +2,6 @@
 
 #include "documents/Facture.h"
 #include "model/Preferences.h"
-#include "ui/Aujourdhui.h"
 
 #include <QStackedWidget>
 
@@ -12,6 +11,7 @@
 class Alerte;
 class ApercuFacture;
 class EtatVide;
+class JourCourant;
 class Libelle;
 class QLineEdit;
 class ZoneDeTexte;
@@ -23,7 +23,7 @@ class FicheFacture : public QStackedWidget
 
 public:
     // `reglages` is read each time the screen is brought up to date.
-    FicheFacture(const Reglages &reglages, Preferences preferences, Aujourdhui aujourdhui, QWidget *parent = nullptr);
+    FicheFacture(const Reglages &reglages, Preferences preferences, const JourCourant &jour, QWidget *parent = nullptr);
     void montrer(const Calcul &calcul);
     // To where the buyer is typed.
     void prendreLeFocus();
@@ -46,7 +46,7 @@ private:
 
     const Reglages &reglages_;
     Preferences preferences_;
-    Aujourdhui aujourdhui_;
+    const JourCourant &jour_;
     Vendeur vendeur_ = Vendeur::davrel;
     std::optional<Facture> facture_; // the one shown
     EtatVide *impossible_;

@@ -4,6 +4,7 @@
 #include "model/Calcul.h"
 #include "model/Catalogue.h"
 #include "model/Commande.h"
+#include "ui/JourCourant.h"
 #include "ui/documents/FicheDouane.h"
 #include "ui/documents/FicheFacture.h"
 
@@ -17,12 +18,13 @@ constexpr QSize tailleDesDocuments(760, 720);
 } // namespace
 
 VueDocuments::VueDocuments(const Catalogue &catalogue, const Commande &commande, const Preferences &preferences,
-                           Aujourdhui aujourdhui, OngletDocuments onglet, QWidget *parent)
-    : FeuilleDuJour(QStringLiteral("Documents d’envoi"), aujourdhui, parent),
+                           JourCourant &jour, OngletDocuments onglet, QWidget *parent)
+    : Feuille(QStringLiteral("Documents d’envoi"), parent),
       catalogue_(catalogue),
       commande_(commande),
+      jour_(jour),
       douane_(new FicheDouane(catalogue.donnees().reglages)),
-      facture_(new FicheFacture(catalogue.donnees().reglages, preferences, std::move(aujourdhui)))
+      facture_(new FicheFacture(catalogue.donnees().reglages, preferences, jour))
 {
     auto *onglets =
         new ChoixSegmente({QStringLiteral("Déclaration en douane"), QStringLiteral("Facture")}, {.police = font()});
@@ -36,7 +38,8 @@ VueDocuments::VueDocuments(const Catalogue &catalogue, const Commande &commande,
 
     connect(&commande_, &Commande::change, this, &VueDocuments::actualiser);
     connect(&catalogue_, &Catalogue::change, this, &VueDocuments::actualiser);
-    connect(facture_, &FicheFacture::emission, this, &VueDocuments::suivreLeJour);
+    connect(&jour_, &JourCourant::change, this, &VueDocuments::actualiser);
+    connect(facture_, &FicheFacture::emission, &jour_, &JourCourant::regarder);
     actualiser();
     if (onglet == OngletDocuments::facture)
         facture_->prendreLeFocus();
@@ -47,7 +50,7 @@ VueDocuments::VueDocuments(const Catalogue &catalogue, const Commande &commande,
 
 void VueDocuments::actualiser()
 {
-    const Calcul calcul = Calcul::de(catalogue_.donnees(), commande_.bon(), aujourdhui());
+    const Calcul calcul = Calcul::de(catalogue_.donnees(), commande_.bon(), jour_.aujourdhui());
     douane_->montrer(calcul);
     facture_->montrer(calcul);
 }

@@ -12,16 +12,17 @@
 #include "model/Catalogue.h"
 #include "textes/TextesBoutons.h"
 #include "textes/TextesGestes.h"
+#include "ui/JourCourant.h"
 #include "ui/livres/FicheLivre.h"
 #include "ui/livres/RetourAuxValeurs.h"
 #include "ui/livres/VoletLivres.h"
 #include "ui/tarifs/ChoixTarifs.h"
 
 #include <QAction>
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QShortcut>
+#include <QShowEvent>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStyle>
@@ -47,11 +48,11 @@ void nommer(QToolButton *bouton, const QString &nom, const QString &geste)
 
 } // namespace
 
-VueLivres::VueLivres(Catalogue &catalogue, ImagesCouvertures &images, Aujourdhui aujourdhui, QWidget *parent)
+VueLivres::VueLivres(Catalogue &catalogue, ImagesCouvertures &images, const JourCourant &jour, QWidget *parent)
     : QWidget(parent),
       catalogue_(catalogue),
       historique_(catalogue),
-      aujourdhui_(std::move(aujourdhui)),
+      jour_(jour),
       enTete_(new EnTete(QStringLiteral("Livres"))),
       choix_(new ChoixTarifs),
       volet_(new VoletLivres(catalogue, images)),
@@ -85,6 +86,7 @@ VueLivres::VueLivres(Catalogue &catalogue, ImagesCouvertures &images, Aujourdhui
     connect(volet_, &VoletLivres::choixChange, this, &VueLivres::actualiser);
     connect(choix_, &ChoixTarifs::choisi, this, &VueLivres::actualiser);
     connect(&catalogue_, &Catalogue::change, this, &VueLivres::actualiser);
+    connect(&jour_, &JourCourant::change, this, &VueLivres::actualiser);
     montrerAnnulation();
     auto *chercher = new QShortcut(QKeySequence::Find, this);
     connect(chercher, &QShortcut::activated, volet_, &VoletLivres::chercher);
@@ -150,7 +152,7 @@ void VueLivres::actualiser()
 {
     if (!isVisible())
         return; // up to date again when it shows
-    choix_->actualiser(catalogue_.donnees(), aujourdhui_());
+    choix_->actualiser(catalogue_.donnees(), jour_.aujourdhui());
     const TarifsColissimo &tarifs = choix_->tarifs();
     volet_->setTarifs(tarifs);
     enTete_->setSousTitre(TextesBoutons::bilan(catalogue_.donnees().livres.size(), volet_->aReporter()));
@@ -202,10 +204,8 @@ void VueLivres::revenir()
     });
 }
 
-// Another day may have come since the screen was last seen.
-bool VueLivres::event(QEvent *evenement)
+void VueLivres::showEvent(QShowEvent *evenement)
 {
-    if (evenement->type() == QEvent::Show || evenement->type() == QEvent::WindowActivate)
-        actualiser();
-    return QWidget::event(evenement);
+    QWidget::showEvent(evenement);
+    actualiser();
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "model/HistoriqueLivres.h"
-#include "ui/Aujourdhui.h"
 
 #include <QKeySequence>
 #include <QWidget>
@@ -14,6 +13,7 @@ class ChoixTarifs;
 class EnTete;
 class FicheLivre;
 class ImagesCouvertures;
+class JourCourant;
 class QStackedWidget;
 class QToolButton;
 class VoletLivres;
@@ -25,13 +25,13 @@ class VueLivres : public QWidget
     Q_OBJECT
 
 public:
-    VueLivres(Catalogue &catalogue, ImagesCouvertures &images, Aujourdhui aujourdhui, QWidget *parent = nullptr);
+    VueLivres(Catalogue &catalogue, ImagesCouvertures &images, const JourCourant &jour, QWidget *parent = nullptr);
 
     // Ends the edit under way; false when it could not be saved, which the screen says.
     [[nodiscard]] bool conclure();
 
 protected:
-    bool event(QEvent *evenement) override;
+    void showEvent(QShowEvent *evenement) override;
 
 private:
     QWidget *gauche();
@@ -44,7 +44,7 @@ private:
 
     Catalogue &catalogue_;
     HistoriqueLivres historique_;
-    Aujourdhui aujourdhui_;
+    const JourCourant &jour_;
     EnTete *enTete_;
     ChoixTarifs *choix_;
     VoletLivres *volet_;

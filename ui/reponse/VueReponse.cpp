@@ -14,6 +14,7 @@
 #include "model/Echec.h"
 #include "textes/NomsVendeurs.h"
 #include "textes/TextesReponse.h"
+#include "ui/JourCourant.h"
 #include "ui/reponse/ApercuMessage.h"
 #include "ui/reponse/ChoixLangue.h"
 #include "ui/reponse/Mail.h"
@@ -42,10 +43,11 @@ QLineEdit *champ(const QString &nom, const QString &exemple)
 
 } // namespace
 
-VueReponse::VueReponse(const Catalogue &catalogue, Commande &commande, Aujourdhui aujourdhui, QWidget *parent)
-    : FeuilleDuJour(QStringLiteral("Réponse à l’acheteur"), std::move(aujourdhui), parent),
+VueReponse::VueReponse(const Catalogue &catalogue, Commande &commande, const JourCourant &jour, QWidget *parent)
+    : Feuille(QStringLiteral("Réponse à l’acheteur"), parent),
       catalogue_(catalogue),
       commande_(commande),
+      jour_(jour),
       langue_(new ChoixLangue),
       lien_(champ(QStringLiteral("Lien de paiement"), QStringLiteral("https://www.paypal.com/ncp/payment/…"))),
       adresse_(champ(QStringLiteral("E-mail de l’acheteur"), QStringLiteral("prenom.nom@exemple.fr"))),
@@ -74,6 +76,7 @@ VueReponse::VueReponse(const Catalogue &catalogue, Commande &commande, Aujourdhu
     connect(adresse_, &QLineEdit::textChanged, this, &VueReponse::actualiser);
     connect(&commande_, &Commande::change, this, &VueReponse::actualiser);
     connect(&catalogue_, &Catalogue::change, this, &VueReponse::actualiser);
+    connect(&jour_, &JourCourant::change, this, &VueReponse::actualiser);
     passerA(reponse() ? Page::reponse : Page::impossible);
     actualiser();
     lien_->setFocus();
@@ -124,7 +127,7 @@ QWidget *VueReponse::message()
 
 std::optional<ReponseType> VueReponse::reponse() const
 {
-    const Calcul calcul = Calcul::de(catalogue_.donnees(), commande_.bon(), aujourdhui());
+    const Calcul calcul = Calcul::de(catalogue_.donnees(), commande_.bon(), jour_.aujourdhui());
     return ReponseType::de(calcul, catalogue_.donnees().reglages, commande_.bon(), lien_->text());
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/FeuilleDuJour.h"
+#include "composants/Feuille.h"
 
 #include <optional>
 
@@ -9,25 +9,24 @@ class ApercuMessage;
 class Catalogue;
 class ChoixLangue;
 class Commande;
+class JourCourant;
 struct ReponseType;
 class QLineEdit;
 class QPushButton;
 class QStackedWidget;
 
 // The reply to the buyer: the seller pastes the payment link, reads the message, and hands it to the mail program.
-class VueReponse : public FeuilleDuJour
+class VueReponse : public Feuille
 {
     Q_OBJECT
 
 public:
-    VueReponse(const Catalogue &catalogue, Commande &commande, Aujourdhui aujourdhui, QWidget *parent = nullptr);
-
-protected:
-    void actualiser() final;
+    VueReponse(const Catalogue &catalogue, Commande &commande, const JourCourant &jour, QWidget *parent = nullptr);
 
 private:
     enum class Page { reponse, impossible };
 
+    void actualiser();
     QWidget *saisie();
     QWidget *message();
     void passerA(Page page);
@@ -36,6 +35,7 @@ private:
 
     const Catalogue &catalogue_;
     Commande &commande_;
+    const JourCourant &jour_;
     ChoixLangue *langue_;
     QLineEdit *lien_;
     QLineEdit *adresse_;

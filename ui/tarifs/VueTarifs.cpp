@@ -9,15 +9,16 @@
 #include "model/Catalogue.h"
 #include "model/Commande.h"
 #include "textes/TextesVerifications.h"
+#include "ui/JourCourant.h"
 #include "ui/tarifs/CarteFamille.h"
 #include "ui/tarifs/CarteNouveauxFrais.h"
 #include "ui/tarifs/CarteNouveauxTarifs.h"
 #include "ui/tarifs/ChoixTarifs.h"
 #include "ui/tarifs/LigneVerification.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QScrollBar>
+#include <QShowEvent>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -61,12 +62,12 @@ QWidget *tableaux(const QList<TextesTarifs::Famille> &familles, const QList<Text
 } // namespace
 
 VueTarifs::VueTarifs(Catalogue &catalogue, const Commande &commande, Verifications &verifications,
-                     Aujourdhui aujourdhui, QWidget *parent)
+                     const JourCourant &jour, QWidget *parent)
     : QWidget(parent),
       catalogue_(catalogue),
       commande_(commande),
       verifications_(verifications),
-      aujourdhui_(std::move(aujourdhui)),
+      jour_(jour),
       enTete_(new EnTete(QStringLiteral("Tarifs Colissimo"))),
       choix_(new ChoixTarifs),
       laPoste_(new LigneVerification(QStringLiteral("Tarifs Colissimo"))),
@@ -99,6 +100,7 @@ VueTarifs::VueTarifs(Catalogue &catalogue, const Commande &commande, Verificatio
     enTete_->ajouter(choix_);
     connect(choix_, &ChoixTarifs::choisi, this, &VueTarifs::actualiser);
     connect(&catalogue_, &Catalogue::change, this, &VueTarifs::actualiser);
+    connect(&jour_, &JourCourant::change, this, &VueTarifs::actualiser);
     connect(&commande_, &Commande::change, this, &VueTarifs::actualiser);
     connect(&verifications_, &Verifications::change, this, &VueTarifs::actualiser);
 }
@@ -130,7 +132,7 @@ void VueTarifs::actualiser()
 {
     if (!isVisible())
         return; // up to date again when it shows
-    const QDate jour = aujourdhui_();
+    const QDate jour = jour_.aujourdhui();
     choix_->actualiser(catalogue_.donnees(), jour);
     const TarifsColissimo &tarifs = choix_->tarifs();
     enTete_->setSousTitre(choix_->montreLesSuivants() ? TextesTarifs::aPartirDu(tarifs)
@@ -154,10 +156,8 @@ void VueTarifs::actualiser()
     delete avant;
 }
 
-// Another day may have come since the screen was last seen.
-bool VueTarifs::event(QEvent *evenement)
+void VueTarifs::showEvent(QShowEvent *evenement)
 {
-    if (evenement->type() == QEvent::Show || evenement->type() == QEvent::WindowActivate)
-        actualiser();
-    return QWidget::event(evenement);
+    QWidget::showEvent(evenement);
+    actualiser();
 }

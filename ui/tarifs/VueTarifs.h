@@ -1,7 +1,6 @@
 #pragma once
 
 #include "textes/TextesTarifs.h"
-#include "ui/Aujourdhui.h"
 
 #include <QWidget>
 
@@ -9,6 +8,7 @@ class Catalogue;
 class ChoixTarifs;
 class Commande;
 class EnTete;
+class JourCourant;
 class LigneVerification;
 class QVBoxLayout;
 class Verifications;
@@ -19,11 +19,11 @@ class VueTarifs : public QWidget
     Q_OBJECT
 
 public:
-    VueTarifs(Catalogue &catalogue, const Commande &commande, Verifications &verifications, Aujourdhui aujourdhui,
+    VueTarifs(Catalogue &catalogue, const Commande &commande, Verifications &verifications, const JourCourant &jour,
               QWidget *parent = nullptr);
 
 protected:
-    bool event(QEvent *evenement) override;
+    void showEvent(QShowEvent *evenement) override;
 
 private:
     QWidget *controles();
@@ -32,7 +32,7 @@ private:
     Catalogue &catalogue_;
     const Commande &commande_;
     Verifications &verifications_;
-    Aujourdhui aujourdhui_;
+    const JourCourant &jour_;
     EnTete *enTete_;
     ChoixTarifs *choix_;
     LigneVerification *laPoste_;
