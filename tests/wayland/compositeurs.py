@@ -25,8 +25,7 @@ class Compositeur:
         self._journal = (self.session / "compositeur.log").open("w")
         self._programme = subprocess.Popen(commande, env=self.clients | environnement, stdout=self._journal,
                                            stderr=self._journal)
-        self.prise = str(self.session / prise)
-        attendre(Path(self.prise).is_socket, f"{commande[0]} ne démarre pas")
+        attendre((self.session / prise).is_socket, f"{commande[0]} ne démarre pas")
 
     def arreter(self):
         self._programme.terminate()

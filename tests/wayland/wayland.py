@@ -4,9 +4,9 @@ import re
 import subprocess
 import sys
 import tempfile
+from contextlib import contextmanager
 from pathlib import Path
 
-import jeton
 import par_l_arbre
 from acces import Abandon, Compte
 from arbre import (Echec, agir, application, attendre, cadre, cherche, ecrire, exiger, fenetre, montre, presser,
@@ -165,14 +165,33 @@ def revenir(partie):
         exiger(partie.relancer() == 0, "il a échoué")
     if not partie.compositeur.siege:
         return
-    with partie.compte.etape("Un second départ, par un lanceur, ramène la fenêtre devant une autre"):
-        partie.compositeur.demander("exec weston-terminal")
-        attendre(lambda: partie.compositeur.devant() not in (None, "quillet"), "aucune autre fenêtre ne passe devant")
+    with (partie.compte.etape("Un second départ, par un lanceur, ramène la fenêtre devant la sienne"),
+          lanceur(partie) as donner_un_jeton):
         partie.relancer(XDG_ACTIVATION_TOKEN="un-jeton-que-personne-n-a-donne")
         attendre(lambda: partie.protocole(r'activate\("un-jeton-que-personne-n-a-donne"'), "le jeton n’est pas transmis")
         exiger(partie.compositeur.devant() != "quillet", "la fenêtre revient sans y être autorisée")
-        partie.relancer(XDG_ACTIVATION_TOKEN=jeton.demander(partie.compositeur.prise))
+        partie.relancer(XDG_ACTIVATION_TOKEN=donner_un_jeton())
         attendre(lambda: partie.compositeur.devant() == "quillet", "la fenêtre ne revient pas")
+
+
+@contextmanager
+def lanceur(partie):
+    """Another window, in front; what gives a token there: a compositor gives none to who has not the keyboard."""
+    dit = Path(partie.dossier) / "jetons"
+
+    def donner_un_jeton():
+        partie.compositeur.taper("space")
+        return attendre(dit.read_text, "le lanceur ne reçoit aucun jeton").strip()
+
+    with dit.open("w") as sortie:
+        autre = subprocess.Popen(["/usr/bin/python3", Path(__file__).with_name("lanceur.py")], stdout=sortie,
+                                 env=partie.compositeur.clients)
+    try:
+        attendre(lambda: partie.compositeur.devant() not in (None, "quillet"), "aucune autre fenêtre ne passe devant")
+        yield donner_un_jeton
+    finally:
+        autre.kill()
+        autre.wait()
 
 
 def main(binaire, images, *choisis):
