@@ -44,7 +44,8 @@ Alerte::Alerte(QString symbole, const QString &texte, Ton ton, QWidget *parent)
 
 void Alerte::montrer(const QString &texte)
 {
-    dire(texte);
+    if (!texte.isEmpty())
+        dire(texte); // one that goes keeps its words: a reader may be about to say them
     setVisible(!texte.isEmpty());
 }
 

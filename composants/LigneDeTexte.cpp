@@ -26,6 +26,7 @@ public:
 LigneDeTexte::LigneDeTexte(QWidget *parent) : QLineEdit(parent)
 {
     setValidator(new SurUneLigne(this));
+    setCursorPosition(0); // done by the first focus, it would be all that a reader tells of the field
     connect(this, &QLineEdit::textChanged, this, &LigneDeTexte::inviter);
 }
 

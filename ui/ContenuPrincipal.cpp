@@ -1,5 +1,6 @@
 #include "ui/ContenuPrincipal.h"
 
+#include "composants/LecteurDEcran.h"
 #include "composants/Libelle.h"
 #include "composants/Partage.h"
 #include "composants/Place.h"
@@ -72,6 +73,8 @@ ContenuPrincipal::ContenuPrincipal(Catalogue &catalogue, Commande &commande, Ver
 void ContenuPrincipal::montrer(std::optional<Rubrique> rubrique)
 {
     rubriques_->setCurrentRow(rubrique ? static_cast<int>(*rubrique) : -1);
+    if (rubrique && isVisible() && !rubriques_->hasFocus()) // else the list says it
+        LecteurDEcran::annoncer(this, rubriques_->currentItem()->text());
 }
 
 std::optional<Rubrique> ContenuPrincipal::rubrique() const

@@ -85,7 +85,7 @@ public:
 
 } // namespace
 
-ListeRubriques::ListeRubriques(const QList<Entree> &entrees, QWidget *parent) : QListWidget(parent)
+ListeRubriques::ListeRubriques(const QList<Entree> &entrees, QWidget *parent) : ListeDite(parent)
 {
     setAccessibleName(QStringLiteral("Rubriques"));
     setFrameShape(QFrame::NoFrame);

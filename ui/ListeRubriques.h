@@ -1,9 +1,11 @@
 #pragma once
 
+#include "composants/ListeDite.h"
+
 #include <QListWidget>
 
 // The sidebar's list of sections.
-class ListeRubriques : public QListWidget
+class ListeRubriques : public ListeDite<QListWidget>
 {
     Q_OBJECT
 

@@ -4,11 +4,14 @@
 #include "composants/ChoixSegmente.h"
 #include "composants/EtatVide.h"
 #include "composants/Icone.h"
+#include "composants/LecteurDEcran.h"
 #include "composants/LigneDeTexte.h"
+#include "composants/ListeDite.h"
 #include "composants/SelectionDuLecteur.h"
 #include "composants/Theme.h"
 #include "model/Catalogue.h"
 #include "textes/NomsVendeurs.h"
+#include "textes/TextesLivres.h"
 #include "ui/couvertures/ImagesCouvertures.h"
 #include "ui/livres/DelegueLivres.h"
 #include "ui/livres/ModeleLivres.h"
@@ -21,10 +24,12 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+using namespace std::chrono_literals;
+
 namespace {
 
 // The margins belong to the list: its scroll bar stands at the edge of the pane.
-class Liste : public QListView
+class Liste : public ListeDite<QListView>
 {
 public:
     Liste()
@@ -69,6 +74,10 @@ VoletLivres::VoletLivres(const Catalogue &catalogue, ImagesCouvertures &images, 
     connect(new SelectionDuLecteur(liste_->selectionModel(), this), &SelectionDuLecteur::prise, liste_,
             &QAbstractItemView::setCurrentIndex);
     connect(modele_, &QAbstractItemModel::modelReset, this, &VoletLivres::seReplacer);
+    annonce_.setSingleShot(true);
+    annonce_.setInterval(600ms); // typing has come to a rest
+    connect(&annonce_, &QTimer::timeout, this,
+            [this] { LecteurDEcran::annoncer(this, TextesLivres::nombre(modele_->rowCount())); });
 
     place_->addWidget(liste_);
     place_->addWidget(vide_);
@@ -174,6 +183,7 @@ void VoletLivres::chercher()
 void VoletLivres::filtrer()
 {
     modele_->setFiltre(filtre_);
+    annonce_.start();
 }
 
 // The list was filled again: the same book when it is still there, else the first one.

@@ -3,6 +3,7 @@
 #include "model/Tarifs.h"
 #include "textes/FiltreLivres.h"
 
+#include <QTimer>
 #include <QWidget>
 
 class Catalogue;
@@ -52,4 +53,5 @@ private:
     EtatVide *vide_;
     QStackedWidget *place_;
     qint64 choisi_ = 0; // id of the book last chosen
+    QTimer annonce_;    // of how many books answer the filter
 };
