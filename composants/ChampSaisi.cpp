@@ -21,6 +21,7 @@ ChampSaisi::ChampSaisi(const QString &libelle, const Unite &unite, Refus refus, 
         champ_->setFixedWidth(fontMetrics().horizontalAdvance(QStringLiteral("99 999,99")) + 32);
     });
     champ_->setAccessibleName(QStringLiteral("%1, en %2").arg(libelle, unite.nom));
+    titre->setAccessibleName(champ_->accessibleName()); // a reader takes the label's
     champ_->installEventFilter(this);
     connect(champ_, &QLineEdit::textEdited, this, [this](const QString &texte) { direLeRefus(refus_(texte)); });
     connect(champ_, &QLineEdit::returnPressed, this, [this] {

@@ -37,7 +37,7 @@ void TestBoutonsPaypal::boutonsPaypal()
     QVERIFY(Ecran::taper(cas.fenetre(), champDuPrix, QStringLiteral("16")));
     QVERIFY(cas.cliquer(QStringLiteral("Reporter, Suisse"))); // the price read there, not the one that follows
     QCOMPARE(cas.enregistre(0).prixPaypal->value(vers("suisse")), Centimes{2049});
-    QVERIFY(cas.cliquer(QStringLiteral("Copier 20,49, France")));
+    QVERIFY(cas.cliquer(QStringLiteral("Copier 20,49\u00A0€, France")));
     QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("21,49")); // what the edit makes of it
     QVERIFY(cas.cliquer(QStringLiteral("Annuler : prix de « Livre 1 »")));
     QCOMPARE(cas.texte(QStringLiteral("+0,49")), QStringLiteral("+0,49 €"));
@@ -49,7 +49,7 @@ void TestBoutonsPaypal::boutonsPaypal()
     QCOMPARE(cas.enregistre(0).prixEcartes, PrixParDestination({{vers("france"), Centimes{2049}}}));
     // The keyboard is led to the next price to report, and on to the next book after the last.
     const QString focus = QApplication::focusWidget()->accessibleName();
-    QVERIFY2(focus.startsWith(QStringLiteral("Copier 20,49, Union européenne, À reporter")), qPrintable(focus));
+    QVERIFY2(focus.startsWith(QStringLiteral("Copier 20,49\u00A0€, Union européenne, À reporter")), qPrintable(focus));
     auto *tout = Ecran::controle(cas.fenetre(), QStringLiteral("Reporter, Union européenne"));
     tout->setFocus();
     QTest::keyClick(tout, Qt::Key_Space);

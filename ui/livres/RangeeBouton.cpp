@@ -158,7 +158,7 @@ void RangeeBouton::montrer(const TextesBoutons::Ligne &ligne)
     actuel_->setAccessibleName(actuel);
     calcule_->setAccessibleName(QStringLiteral("Calculé : %1").arg(Format::dit(ligne.calcule)));
     copier_->setAccessibleName(ligne.aCopier.isEmpty() ? QStringLiteral("Rien à copier, %1").arg(enMots)
-                                                       : QStringLiteral("Copier %1, %2").arg(ligne.aCopier, enMots));
+                                                       : QStringLiteral("Copier %1, %2").arg(ligne.calcule, enMots));
     etat_->setAccessibleName(enMots);
     reporter_->setToolTip(QStringLiteral("Le bouton PayPal demande maintenant %1").arg(ligne.calcule));
     reporter_->setAccessibleName(QStringLiteral("Reporter, %1").arg(ligne.destination));
