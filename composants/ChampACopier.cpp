@@ -16,7 +16,6 @@ ChampACopier::ChampACopier(const QString &titre, std::optional<int> colonneDuTit
     affichage_->setWordWrap(true);
     affichage_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     affichage_->setFocusPolicy(Qt::ClickFocus);
-    bouton_->setToolTip(QStringLiteral("Copier %1").arg(titre));
 
     auto *textes = new QBoxLayout(colonneDuTitre ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     textes->setSpacing(colonneDuTitre ? 12 : 2);
@@ -40,7 +39,9 @@ void ChampACopier::montrer(const QString &valeur, const QString &affichage)
     bouton_->setValeur(valeur);
     const QString affiche = affichage.isEmpty() ? valeur : affichage;
     affichage_->setText(affiche);
-    bouton_->setAccessibleName(QStringLiteral("Copier %1").arg(titre_.isEmpty() ? valeur : titre_));
+    const QString geste = QStringLiteral("Copier %1").arg(titre_.isEmpty() ? valeur : titre_);
+    bouton_->setToolTip(geste);
+    bouton_->setAccessibleName(geste);
     if (!titre_.isEmpty()) // the button is all that the keyboard reaches
         bouton_->setAccessibleDescription(affiche);
 }

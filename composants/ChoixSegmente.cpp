@@ -96,7 +96,7 @@ ChoixSegmente::ChoixSegmente(const QStringList &options, const Apparence &appare
       apparence_(apparence),
       position_(new Ressort(Ressorts::action, this, [this](double position) { eclairer(position); }))
 {
-    LecteurDEcran::jouer(this, QAccessible::Grouping);
+    LecteurDEcran::jouer(this, QAccessible::Client); // its radio buttons say its name: a group would say it too
     auto *rangee = new QHBoxLayout(this);
     rangee->setContentsMargins(apparence.marge, apparence.marge, apparence.marge, apparence.marge);
     rangee->setSpacing(apparence.espace);

@@ -114,11 +114,13 @@ void SelecteurQuantite::montrer(int quantite)
     plein_->vers(quantite > 0 ? 1 : 0);
 }
 
-// All cards have the same buttons: a screen reader hears whose they are from the group, then the number.
+// All cards have the same buttons: a screen reader hears whose they are from the group, then the number. The group says
+// the number only where it may have the focus, at 0: Orca 48 would say it again at each copy.
 void SelecteurQuantite::decrire()
 {
     const QString etat = QStringLiteral("%1 dans la commande").arg(quantite_);
-    for (QWidget *partie : std::initializer_list<QWidget *>{this, moins_, plus_})
+    setAccessibleDescription(quantite_ == 0 ? etat : QString());
+    for (QWidget *partie : {moins_, plus_})
         partie->setAccessibleDescription(etat);
 }
 
