@@ -2,6 +2,7 @@
 
 import json
 import os
+import shutil
 import subprocess
 import tempfile
 from pathlib import Path
@@ -56,7 +57,7 @@ class Weston(Compositeur):
     def photographier(self, image):
         with tempfile.TemporaryDirectory() as dossier:
             self.lancer(["weston-screenshooter"], cwd=dossier)
-            next(Path(dossier).iterdir()).rename(image)
+            shutil.move(next(Path(dossier).iterdir()), image)  # which may be on another disk
 
 
 class Sway(Compositeur):
