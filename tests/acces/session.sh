@@ -27,16 +27,16 @@ isoler() {
         9>&2 2>/dev/null # what the buses say of themselves
 }
 
-# isoler_sous_x script argument…: plays the script anew on that desktop, with a network that leads nowhere, which a plain
-# user may have too.
+# isoler_sous_x script argument…: plays the script anew on that desktop, with a network that leads nowhere and nobody else's
+# processes (Orca does not start beside another one), which a plain user may have too.
 isoler_sous_x() {
     exiger Xvfb:xvfb xauth:xauth xdotool:xdotool openbox:openbox
-    local sans_reseau
-    ((EUID == 0)) && sans_reseau=(unshare --net --mount) ||
-        sans_reseau=(unshare --user --map-current-user --net --mount) # what a portal mounts goes too
+    local seul=(unshare --net --mount --pid --fork --kill-child --mount-proc) # what a portal mounts goes too
+    ((EUID == 0)) || seul+=(--user --map-current-user)
     # A root of its own (chroot) has its mounts already.
-    "${sans_reseau[@]}" true 2>/dev/null || sans_reseau+=(--propagation unchanged)
-    isoler xcb "${sans_reseau[@]}" xvfb-run -a -s '-screen 0 1400x1000x24' dbus-run-session -- "$@"
+    "${seul[@]}" true 2>/dev/null || seul+=(--propagation unchanged)
+    # Xvfb does not tell a parent that is process 1 that it is ready.
+    isoler xcb "${seul[@]}" bash -c '"$@"; exit' lancer xvfb-run -a -s '-screen 0 1400x1000x24' dbus-run-session -- "$@"
 }
 
 ouvrir_l_acces() {
