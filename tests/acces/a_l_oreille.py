@@ -68,7 +68,7 @@ def jouer(programme, compte, _dossier):
     documenter(programme, vendeur, compte)
     consulter(vendeur, compte)
     vider(programme, vendeur, compte)
-    vendeur.touche("ctrl+q")
+    clavier.touche("ctrl+q")  # nobody is left to say it
     with compte.etape("La voix : les montants entiers, le signe moins dit"):
         exiger(not (mal_dits := list(fautes_de_la_voix(os.environ["ACCES_TRANSCRIPTION"]))), " ; ".join(mal_dits))
 
@@ -106,7 +106,7 @@ def ouvrir(programme, vendeur, bouton, titre):
 
 def fermer(programme, vendeur):
     titre = nom(vendeur.racine)
-    vendeur.touche("Escape")
+    vendeur.touche("Escape", "Quillet")
     attendre(lambda: cherche(programme, "dialog", titre) is None, "la feuille reste ouverte")
     vendeur.racine = fenetre(programme, "frame", "Quillet")
 
@@ -125,7 +125,7 @@ def repondre(programme, vendeur, compte):
     with compte.etape("La réponse à l’acheteur"):
         ouvrir(programme, vendeur, "E-mail en anglais", "Réponse à l’acheteur")
         vendeur.taper(LIEN)
-        vendeur.touche("Tab")
+        vendeur.pas()
         vendeur.taper(ADRESSE)
         faire_le_tour(vendeur)
         fermer(programme, vendeur)
@@ -147,12 +147,13 @@ def documenter(programme, vendeur, compte):
 
 def consulter(vendeur, compte):
     with compte.etape("Les tarifs"):
-        vendeur.touche("ctrl+2")
+        vendeur.touche("ctrl+2", "Tarifs Colissimo")
         faire_le_tour(vendeur)
     with compte.etape("Les livres, une recherche, une fiche"):
-        vendeur.touche("ctrl+3")
+        vendeur.touche("ctrl+3", "Livres")
+        vendeur.pas()  # the search has the focus already
         vendeur.touche("ctrl+f", "Chercher un livre")
-        vendeur.taper("davrel")
+        vendeur.taper("davrel", "4 livres")
         vendeur.aller("list item", "Le Phare de sel")
         vendeur.touche("Down", "Les Marées lentes")
         faire_le_tour(vendeur)
@@ -160,6 +161,6 @@ def consulter(vendeur, compte):
 
 def vider(programme, vendeur, compte):
     with compte.etape("Tout réinitialiser"):
-        vendeur.touche("ctrl+1")
+        vendeur.touche("ctrl+1", "Commande")
         vendeur.aller("push button", "Tout réinitialiser")
         vendeur.touche("space", "Aucun livre")

@@ -9,7 +9,8 @@ from arbre import ancetres, lisible, nom
 SILENCE = 0.3  # seconds without a line from Orca after which it has said all it had to say
 PATIENCE = 30  # seconds for that
 DIT = re.compile(r"^[\d:.]+ - SPEECH OUTPUT: '(.*?)' ?(?:voice=\w+ ?)?(?:\{[^\n]*\}|None)?$", re.MULTILINE | re.DOTALL)
-COUPE = re.compile(r"\d *, *\d\d\b(?! *(?:euro|pour ?cent))")  # an amount, or a rate, without its unit
+# An amount, or a rate, without its unit; a field that is entered has its text said, and its unit with its name.
+COUPE = re.compile(r"\d *, *\d\d\b(?! *(?:euro|pour ?cent)|\s+sélectionné)")
 
 
 class Oreille:
@@ -57,8 +58,9 @@ def roles_sans_nom(noeud):
 def fautes(dits, noeud):
     """What is wrong with what was said on the way to a control, in words."""
     for avant, dit in zip([""] + dits, dits):
-        if sans_point(dit) and sans_point(dit) == sans_point(avant):
-            yield f"dit deux fois : « {dit} »"
+        court, long = sorted((sans_point(avant), sans_point(dit)), key=len)
+        if court and (court == long or len(court) > 3 and long.startswith(court + " ")):  # a role may follow
+            yield f"dit deux fois : « {avant} » puis « {dit} »"
         parts = [part for part in re.split(r"[.,:] |\n", sans_point(dit)) if len(part) > 3]
         for premier, second in zip(parts, parts[1:]):
             if premier == second:
@@ -71,6 +73,8 @@ def fautes(dits, noeud):
 
 def fautes_de_la_voix(transcription):
     """What is wrong with what the voice was given, once the symbols were put into words."""
-    for ligne in Path(f"{transcription}.voix").read_text(encoding="utf-8").splitlines():
+    # speech-dispatcher 0.12 garbles the letters that are spelled.
+    dits = Path(f"{transcription}.voix").read_text(encoding="utf-8", errors="replace")
+    for ligne in dict.fromkeys(re.split(r"\n(?!sélectionné)", dits)):
         if COUPE.search(ligne) or "insécable" in ligne or re.search(r"(tiret|-) *\d+ *, *\d\d", ligne):
             yield f"montant mal dit : « {ligne} »"
