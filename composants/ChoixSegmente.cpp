@@ -15,6 +15,14 @@
 
 namespace {
 
+// Readers of the time of Qt 6.8 say the name of a choice with its radio button, and again if it is a group; earlier
+// ones say it only then.
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
+constexpr QAccessible::Role roleDuChoix = QAccessible::Grouping;
+#else
+constexpr QAccessible::Role roleDuChoix = QAccessible::Client;
+#endif
+
 constexpr int margeTexte = 18;
 constexpr double reductionMinimale = 0.8;
 
@@ -96,7 +104,7 @@ ChoixSegmente::ChoixSegmente(const QStringList &options, const Apparence &appare
       apparence_(apparence),
       position_(new Ressort(Ressorts::action, this, [this](double position) { eclairer(position); }))
 {
-    LecteurDEcran::jouer(this, QAccessible::Client); // its radio buttons say its name: a group would say it too
+    LecteurDEcran::jouer(this, roleDuChoix);
     auto *rangee = new QHBoxLayout(this);
     rangee->setContentsMargins(apparence.marge, apparence.marge, apparence.marge, apparence.marge);
     rangee->setSpacing(apparence.espace);

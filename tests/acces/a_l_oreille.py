@@ -17,7 +17,6 @@ class Vendeur:
         self._compte = compte
         self._oreille = Oreille(os.environ["ACCES_TRANSCRIPTION"])
         self._signalees = set()
-        self.dits = []
         self._entendre("ouverture", ["Quillet", "Commande"])
 
     def touche(self, une, *attendus):
@@ -39,12 +38,19 @@ class Vendeur:
             attendus.append(lisible(ici.get_name()))
         self._entendre(touche, attendus)
 
+    def choisir(self, liste, touche):
+        """One step in a list to choose from: the new choice is to be heard."""
+        avant = liste.get_name()
+        clavier.touche(touche)
+        attendre(lambda: liste.get_name() != avant, "le choix ne change pas")
+        self._entendre(touche, [lisible(liste.get_name())])
+
     def _entendre(self, quoi, attendus, epele=False):
         """Judges what came, but for letters spelled as they are typed; what is wrong is said once."""
-        self.dits = self._oreille.ecouter(quoi, attendus)
+        dits = self._oreille.ecouter(quoi, attendus)
         ici = foyer(self.racine)
-        trouvees = [] if epele else list(fautes(self.dits, ici))
-        trouvees += [f"« {a} » n’est pas dit : {self.dits}" for a in attendus if a not in " ".join(self.dits)]
+        trouvees = [] if epele else list(fautes(dits, ici))
+        trouvees += [f"« {a} » n’est pas dit : {dits}" for a in attendus if a not in " ".join(dits)]
         for faute in trouvees:
             if faute not in self._signalees:
                 self._signalees.add(faute)
@@ -86,8 +92,7 @@ def commander(vendeur, compte):
         for _ in range(20):
             if lisible(liste.get_name()) == "Suisse":
                 break
-            vendeur.touche("Down")
-            exiger(lisible(liste.get_name()) in " ".join(vendeur.dits), f"le choix n’est pas dit : {vendeur.dits}")
+            vendeur.choisir(liste, "Down")
     with compte.etape("Le colis pesé"):
         vendeur.aller("text", "Colis pesé, en grammes", "shift+Tab")
         vendeur.taper(PESEE, "total à payer : 73,19 €")
