@@ -56,8 +56,8 @@ QSize Libelle::sizeHint() const
 
 QSize Libelle::minimumSizeHint() const
 {
-    return wordWrap() ? avecMarges(
-               std::clamp(motLePlusLong(), Theme::aLaTaille(largeurMinimale), Theme::aLaTaille(largeurDUnMot)))
+    return wordWrap() ? avecMarges(std::clamp(motLePlusLong(), Theme::aLaTaille(largeurMinimale),
+                                              Theme::aLaTaille(largeurDUnMot)))
                       : QLabel::minimumSizeHint();
 }
 

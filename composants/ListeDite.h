@@ -16,8 +16,7 @@ protected:
     {
         Liste::focusInEvent(evenement);
         // The list itself is told of after this.
-        QMetaObject::invokeMethod(
-            this, [this] { direLaLigne(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, [this] { direLaLigne(); }, Qt::QueuedConnection);
     }
 
     void currentChanged(const QModelIndex &ligne, const QModelIndex &precedente) override

@@ -17,10 +17,18 @@ class Cle
 public:
     Cle() = default;
     explicit Cle(QString texte) : texte_(std::move(texte)) {}
-    Cle(Sorte cas) requires Enumeration<Sorte> : texte_(brut(cas)) {}
+    Cle(Sorte cas)
+        requires Enumeration<Sorte>
+        : texte_(brut(cas))
+    {
+    }
 
     [[nodiscard]] const QString &texte() const { return texte_; }
-    [[nodiscard]] std::optional<Sorte> cas() const requires Enumeration<Sorte> { return depuisBrut<Sorte>(texte_); }
+    [[nodiscard]] std::optional<Sorte> cas() const
+        requires Enumeration<Sorte>
+    {
+        return depuisBrut<Sorte>(texte_);
+    }
 
     bool operator==(const Cle &) const = default;
     std::strong_ordering operator<=>(const Cle &autre) const { return texte_.compare(autre.texte_) <=> 0; }

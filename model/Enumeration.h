@@ -12,11 +12,8 @@
 // An enumeration whose cases count from 0 and are stored as text names each of them in a `valeurBrute` beside it, a
 // `switch` without default: the compiler asks for the name of a new case, and all else follows from it.
 template <typename Enum>
-concept Enumeration = std::is_enum_v<Enum> && requires(Enum cas)
-{
-    {
-        valeurBrute(cas)
-        } -> std::same_as<const char *>;
+concept Enumeration = std::is_enum_v<Enum> && requires(Enum cas) {
+    { valeurBrute(cas) } -> std::same_as<const char *>;
 };
 
 namespace EnumerationDetail {
@@ -34,11 +31,9 @@ consteval std::size_t nombre()
 
 // Every case, in order.
 template <Enumeration Enum>
-inline constexpr auto tous = []<std::size_t... rang>(std::index_sequence<rang...>)
-{
+inline constexpr auto tous = []<std::size_t... rang>(std::index_sequence<rang...>) {
     return std::array{static_cast<Enum>(rang)...};
-}
-(std::make_index_sequence<EnumerationDetail::nombre<Enum>()>());
+}(std::make_index_sequence<EnumerationDetail::nombre<Enum>()>());
 
 template <Enumeration Enum>
 QString brut(Enum cas)

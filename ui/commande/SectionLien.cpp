@@ -13,10 +13,10 @@
 
 SectionLien::SectionLien(const Reglages &reglages, Commande &commande, QWidget *parent)
     : Section(
-        QStringLiteral("Lien de paiement PayPal"),
-        QStringLiteral("Un prix fixe en EUR, Quantité désactivée. Onglet Checkout : adresse de livraison activée. "
-                       "Onglet Confirmation : URL de redirection automatique."),
-        parent),
+          QStringLiteral("Lien de paiement PayPal"),
+          QStringLiteral("Un prix fixe en EUR, Quantité désactivée. Onglet Checkout : adresse de livraison activée. "
+                         "Onglet Confirmation : URL de redirection automatique."),
+          parent),
       reglages_(reglages),
       commande_(commande),
       langue_(new ChoixLangue),

@@ -26,8 +26,7 @@ QString encode(const QString &texte, const QByteArray &saufs = {})
 // A line break would begin another header.
 QString surUneLigne(QString texte)
 {
-    std::ranges::replace_if(
-        texte, [](QChar lettre) { return lettre.category() == QChar::Other_Control; }, u' ');
+    std::ranges::replace_if(texte, [](QChar lettre) { return lettre.category() == QChar::Other_Control; }, u' ');
     return texte;
 }
 
