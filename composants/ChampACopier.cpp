@@ -39,9 +39,8 @@ void ChampACopier::montrer(const QString &valeur, const QString &affichage)
     bouton_->setValeur(valeur);
     const QString affiche = affichage.isEmpty() ? valeur : affichage;
     affichage_->setText(affiche);
-    const QString geste = QStringLiteral("Copier %1").arg(titre_.isEmpty() ? valeur : titre_);
-    bouton_->setToolTip(geste);
-    bouton_->setAccessibleName(geste);
-    if (!titre_.isEmpty()) // the button is all that the keyboard reaches
-        bouton_->setAccessibleDescription(affiche);
+    bouton_->setToolTip(QStringLiteral("Copier ") + titre_);
+    // The button is all that the keyboard reaches. Without a description of its own, its tooltip would be read.
+    bouton_->setAccessibleName(QStringLiteral("Copier %1").arg(titre_.isEmpty() ? valeur : titre_));
+    bouton_->setAccessibleDescription(titre_.isEmpty() ? QStringLiteral("suite") : affiche);
 }
