@@ -66,6 +66,7 @@ ContenuPrincipal::ContenuPrincipal(Catalogue &catalogue, Commande &commande, Ver
     connect(&catalogue_, &Catalogue::change, this, &ContenuPrincipal::actualiser);
     connect(&verifications_, &Verifications::change, this, &ContenuPrincipal::actualiser);
     connect(&jour_, &JourCourant::change, this, &ContenuPrincipal::actualiser);
+    connect(&jour_, &JourCourant::retour, this, &ContenuPrincipal::actualiser);
     actualiser();
     montrer(Rubrique::commande);
 }

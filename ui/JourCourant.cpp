@@ -8,7 +8,11 @@
 JourCourant::JourCourant(Aujourdhui aujourdhui, std::chrono::milliseconds periode)
     : aujourdhui_(std::move(aujourdhui)), vu_(aujourdhui_())
 {
-    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &JourCourant::regarder);
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow *devant) {
+        regarder();
+        if (devant)
+            emit retour();
+    });
     connect(&minuterie_, &QTimer::timeout, this, &JourCourant::regarder);
     minuterie_.start(periode);
 }

@@ -26,6 +26,8 @@ public:
 
 signals:
     void change();
+    // One of the windows came to the front: what grows old within a day may have.
+    void retour();
 
 private:
     Aujourdhui aujourdhui_;

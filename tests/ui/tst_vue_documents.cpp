@@ -150,6 +150,7 @@ void TestVueDocuments::numeroRetenuALEnregistrement()
     QVERIFY(contenu(chemin).startsWith("%PDF-"));
     QCOMPARE(retenu(), QStringLiteral("2026-012"));
     const QString issue = QStringLiteral("Facture 2026-012 enregistrée.");
+    BancEcran::revenirA(feuille); // on the same day, it still stands
     QVERIFY(Ecran::montre(feuille, issue));
     QVERIFY(Ecran::cliquer(feuille, fermer));
 

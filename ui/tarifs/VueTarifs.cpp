@@ -101,6 +101,7 @@ VueTarifs::VueTarifs(Catalogue &catalogue, const Commande &commande, Verificatio
     connect(choix_, &ChoixTarifs::choisi, this, &VueTarifs::actualiser);
     connect(&catalogue_, &Catalogue::change, this, &VueTarifs::actualiser);
     connect(&jour_, &JourCourant::change, this, &VueTarifs::actualiser);
+    connect(&jour_, &JourCourant::retour, this, &VueTarifs::actualiser);
     connect(&commande_, &Commande::change, this, &VueTarifs::actualiser);
     connect(&verifications_, &Verifications::change, this, &VueTarifs::actualiser);
 }
