@@ -1,4 +1,4 @@
-# Run by ctest: a floor includes itself and what stands below it. Static libraries alone would let a header slip through.
+# Run by ctest: a room includes itself and the rooms named after it. Static libraries alone would let a header slip through.
 cmake_policy(VERSION 3.25)
 
 function(etage nom)

@@ -18,7 +18,7 @@ struct Donnees
     QList<Destination> destinations;
     Reglages reglages;
 
-    // The schedule in force on a day; before the first one, the earliest. It lives as long as these data.
+    // The schedule in force on a day; before the first one, the earliest. It lives until these data change.
     [[nodiscard]] const TarifsColissimo &tarifs(const Jour &jour) const;
     // The next schedule that is not yet in force.
     [[nodiscard]] std::optional<TarifsColissimo> tarifsAVenir(const Jour &aujourdhui) const;

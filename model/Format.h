@@ -9,7 +9,7 @@
 
 #include <optional>
 
-// Every conversion of amounts, weights, rates and days into text, and of days back. Separators are those of the CLDR.
+// Every conversion of amounts, weights, rates and days into text. Separators are those of the CLDR.
 namespace Format {
 
 inline constexpr QChar absent(u'—'); // in place of an amount that is missing
