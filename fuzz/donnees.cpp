@@ -5,6 +5,7 @@
 #include "documents/ReponseType.h"
 #include "fuzz/Cible.h"
 #include "model/Calcul.h"
+#include "model/Catalogue.h"
 #include "model/Format.h"
 #include "model/controle/ControleDonnees.h"
 
