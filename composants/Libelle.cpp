@@ -56,9 +56,10 @@ QSize Libelle::sizeHint() const
 
 QSize Libelle::minimumSizeHint() const
 {
-    return wordWrap() ? avecMarges(std::clamp(motLePlusLong(), Theme::aLaTaille(largeurMinimale),
-                                              Theme::aLaTaille(largeurDUnMot)))
-                      : QLabel::minimumSizeHint();
+    if (!wordWrap())
+        return QLabel::minimumSizeHint();
+    const int plusPetite = Theme::aLaTaille(largeurMinimale);
+    return avecMarges(std::clamp(motLePlusLong(), plusPetite, Theme::aLaTaille(largeurDUnMot)));
 }
 
 QSize Libelle::avecMarges(int largeur) const

@@ -16,7 +16,8 @@ protected:
     {
         Liste::focusInEvent(evenement);
         // The list itself is told of after this.
-        QMetaObject::invokeMethod(this, [this] { direLaLigne(); }, Qt::QueuedConnection);
+        const auto dire = [this] { direLaLigne(); };
+        QMetaObject::invokeMethod(this, dire, Qt::QueuedConnection);
     }
 
     void currentChanged(const QModelIndex &ligne, const QModelIndex &precedente) override

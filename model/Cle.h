@@ -6,7 +6,7 @@
 #include <QString>
 
 #include <compare>
-#include <optional>
+#include <concepts>
 #include <utility>
 
 // What names a thing of one kind in the files: any text, compared as text, also one that names nothing. Two kinds
@@ -17,18 +17,13 @@ class Cle
 public:
     Cle() = default;
     explicit Cle(QString texte) : texte_(std::move(texte)) {}
-    Cle(Sorte cas)
-        requires Enumeration<Sorte>
-        : texte_(brut(cas))
+    template <std::same_as<Sorte> Enum> // of an enumeration alone, as `cas`
+    Cle(Enum cas) : texte_(brut(cas))
     {
     }
 
     [[nodiscard]] const QString &texte() const { return texte_; }
-    [[nodiscard]] std::optional<Sorte> cas() const
-        requires Enumeration<Sorte>
-    {
-        return depuisBrut<Sorte>(texte_);
-    }
+    [[nodiscard]] auto cas() const { return depuisBrut<Sorte>(texte_); }
 
     bool operator==(const Cle &) const = default;
     std::strong_ordering operator<=>(const Cle &autre) const { return texte_.compare(autre.texte_) <=> 0; }

@@ -7,14 +7,11 @@
 #include <cstddef>
 #include <optional>
 #include <type_traits>
-#include <utility>
 
 // An enumeration whose cases count from 0 and are stored as text names each of them in a `valeurBrute` beside it, a
 // `switch` without default: the compiler asks for the name of a new case, and all else follows from it.
 template <typename Enum>
-concept Enumeration = std::is_enum_v<Enum> && requires(Enum cas) {
-    { valeurBrute(cas) } -> std::same_as<const char *>;
-};
+concept Enumeration = std::is_enum_v<Enum> && std::same_as<decltype(valeurBrute(Enum{})), const char *>;
 
 namespace EnumerationDetail {
 
@@ -27,13 +24,20 @@ consteval std::size_t nombre()
     return nombre;
 }
 
+template <Enumeration Enum>
+consteval auto liste()
+{
+    std::array<Enum, nombre<Enum>()> liste{};
+    for (std::size_t rang = 0; rang < liste.size(); ++rang)
+        liste[rang] = static_cast<Enum>(rang);
+    return liste;
+}
+
 } // namespace EnumerationDetail
 
 // Every case, in order.
 template <Enumeration Enum>
-inline constexpr auto tous = []<std::size_t... rang>(std::index_sequence<rang...>) {
-    return std::array{static_cast<Enum>(rang)...};
-}(std::make_index_sequence<EnumerationDetail::nombre<Enum>()>());
+inline constexpr auto tous = EnumerationDetail::liste<Enum>();
 
 template <Enumeration Enum>
 QString brut(Enum cas)

@@ -49,11 +49,10 @@ QString cause(QNetworkReply::NetworkError erreur)
 
 QString agent(Transfert::Usage usage)
 {
-    return usage == Transfert::Usage::miseAJour
-               ? QStringLiteral("Quillet")
-               : QStringLiteral(
-                     "Mozilla/5.0 (Macintosh; Intel Mac OS X 10_15_7) AppleWebKit/605.1.15 (KHTML, like Gecko) "
-                     "Version/18.0 Safari/605.1.15");
+    if (usage == Transfert::Usage::miseAJour)
+        return QStringLiteral("Quillet");
+    return QStringLiteral("Mozilla/5.0 (Macintosh; Intel Mac OS X 10_15_7) AppleWebKit/605.1.15 (KHTML, like Gecko) "
+                          "Version/18.0 Safari/605.1.15");
 }
 
 int statut(const QNetworkReply &reponse)
@@ -111,7 +110,8 @@ void Transfert::demander(const QUrl &url, const QByteArray &codages)
     reponse_->setReadBufferSize(std::min(limites_.taille, redirectionMaximale));
     // Queued: a reply is neither aborted nor destroyed while its own signal is under way.
     connect(reponse_, &QNetworkReply::metaDataChanged, this, &Transfert::recevoirEntete, Qt::QueuedConnection);
-    connect(reponse_, &QNetworkReply::redirected, this, [this] { entete_ = false; }, Qt::QueuedConnection);
+    const auto oublierLEntete = [this] { entete_ = false; };
+    connect(reponse_, &QNetworkReply::redirected, this, oublierLEntete, Qt::QueuedConnection);
     connect(reponse_, &QNetworkReply::readyRead, this, &Transfert::recevoir, Qt::QueuedConnection);
     connect(reponse_, &QNetworkReply::finished, this, &Transfert::conclure, Qt::QueuedConnection);
     silence_.start(limites_.silence);

@@ -88,8 +88,10 @@ void Verifications::preparer(Controle<Releve> &controle, const QString &cle, con
     controle.verifie = lire(cle);
     connect(&controle.telechargement, &Telechargement::lue, this,
             [this, &controle](const QString &page) { recevoir(controle, page); });
-    connect(&controle.telechargement, &Telechargement::echouee, this,
-            [this, &controle](const ErreurReleve &erreur) { conclure(controle, {Cas::erreur, erreur.texte()}); });
+    const auto echouer = [this, &controle](const ErreurReleve &erreur) {
+        conclure(controle, {Cas::erreur, erreur.texte()});
+    };
+    connect(&controle.telechargement, &Telechargement::echouee, this, echouer);
 }
 
 template <typename Releve>

@@ -239,8 +239,10 @@ void TestMisesAJour::refus_data()
         "altéré", [=, this] { livrer(http("200 OK", paquet_.chopped(1) + '!').octets); }, nouvelle,
         "Mise à jour refusée : sa signature n’est pas celle de Quillet.");
     const char *longueur = "Mise à jour refusée : le fichier n’a pas la longueur annoncée.";
-    cas("plus court", [=, this] { annoncer(v12, paquet_.size() + 1); }, nouvelle, longueur);
-    cas("plus long", [=, this] { annoncer(v12, paquet_.size() - 1); }, nouvelle, longueur);
+    for (const int ecart : {+1, -1})
+        cas(
+            ecart > 0 ? "plus court" : "plus long", [=, this] { annoncer(v12, paquet_.size() + ecart); }, nouvelle,
+            longueur);
     cas(
         "coupé", [=, this] { livrer(http("200 OK", paquet_).octets.chopped(1)); }, nouvelle,
         "Téléchargement impossible : connexion interrompue.");

@@ -5,18 +5,23 @@
 #include "composants/Lien.h"
 #include "composants/LigneDeTexte.h"
 #include "documents/ReponseType.h"
+#include "model/Commande.h"
 #include "textes/TextesRecapitulatif.h"
 #include "ui/reponse/ChoixLangue.h"
 
 #include <QLineEdit>
 #include <QPushButton>
 
+namespace {
+
+const QString reglagesDuLien =
+    QStringLiteral("Un prix fixe en EUR, Quantité désactivée. Onglet Checkout : adresse de livraison activée. "
+                   "Onglet Confirmation : URL de redirection automatique.");
+
+} // namespace
+
 SectionLien::SectionLien(const Reglages &reglages, Commande &commande, QWidget *parent)
-    : Section(
-          QStringLiteral("Lien de paiement PayPal"),
-          QStringLiteral("Un prix fixe en EUR, Quantité désactivée. Onglet Checkout : adresse de livraison activée. "
-                         "Onglet Confirmation : URL de redirection automatique."),
-          parent),
+    : Section(QStringLiteral("Lien de paiement PayPal"), reglagesDuLien, parent),
       reglages_(reglages),
       commande_(commande),
       langue_(new ChoixLangue),

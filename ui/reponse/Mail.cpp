@@ -26,7 +26,8 @@ QString encode(const QString &texte, const QByteArray &saufs = {})
 // A line break would begin another header.
 QString surUneLigne(QString texte)
 {
-    std::ranges::replace_if(texte, [](QChar lettre) { return lettre.category() == QChar::Other_Control; }, u' ');
+    const auto commande = [](QChar lettre) { return lettre.category() == QChar::Other_Control; };
+    std::ranges::replace_if(texte, commande, u' ');
     return texte;
 }
 
