@@ -4,7 +4,6 @@
 #include "composants/EnTete.h"
 #include "composants/EtatVide.h"
 #include "composants/Icone.h"
-#include "composants/LecteurDEcran.h"
 #include "composants/Partage.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
@@ -31,8 +30,6 @@
 #include <iterator>
 #include <utility>
 
-using namespace std::chrono_literals;
-
 namespace {
 
 constexpr int margeVerticale = 28;
@@ -57,7 +54,8 @@ VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesC
       grille_(new GrilleLivres(commande, images, selecteur_->dernierControle())),
       sansLivre_(new EtatVide(QStringLiteral("books.vertical"), {},
                               QStringLiteral("Le catalogue n’a pas de livre de ce vendeur."))),
-      recapitulatif_(new Recapitulatif(catalogue, commande))
+      recapitulatif_(new Recapitulatif(catalogue, commande)),
+      annonce_(this, [this] { return resume_; })
 {
     reinitialiser_->setToolTip(
         QStringLiteral("Tout réinitialiser : quantités, colis pesé et pays de livraison ; l’emballage et la "
@@ -79,9 +77,6 @@ VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesC
     connect(&commande_, &Commande::change, this, &VueCommande::actualiser);
     connect(&catalogue_, &Catalogue::change, this, &VueCommande::actualiser);
     connect(&jour_, &JourCourant::change, this, &VueCommande::actualiser);
-    annonce_.setSingleShot(true);
-    annonce_.setInterval(600ms); // typing has come to a rest
-    connect(&annonce_, &QTimer::timeout, this, [this] { LecteurDEcran::annoncer(this, resume_); });
     actualiser();
     annonce_.stop();
 }

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "composants/AnnonceAuRepos.h"
 #include "model/Preferences.h"
 #include "ui/documents/OngletDocuments.h"
 
-#include <QTimer>
 #include <QWidget>
 
 class Catalogue;
@@ -43,5 +43,5 @@ private:
     EtatVide *sansLivre_;
     Recapitulatif *recapitulatif_;
     QString resume_; // as announced
-    QTimer annonce_;
+    AnnonceAuRepos annonce_;
 };

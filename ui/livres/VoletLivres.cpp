@@ -4,7 +4,6 @@
 #include "composants/ChoixSegmente.h"
 #include "composants/EtatVide.h"
 #include "composants/Icone.h"
-#include "composants/LecteurDEcran.h"
 #include "composants/LigneDeTexte.h"
 #include "composants/ListeDite.h"
 #include "composants/SelectionDuLecteur.h"
@@ -23,8 +22,6 @@
 #include <QStackedWidget>
 #include <QStyle>
 #include <QVBoxLayout>
-
-using namespace std::chrono_literals;
 
 namespace {
 
@@ -53,7 +50,8 @@ VoletLivres::VoletLivres(const Catalogue &catalogue, ImagesCouvertures &images, 
       recherche_(new LigneDeTexte),
       liste_(new Liste),
       vide_(new EtatVide),
-      place_(new QStackedWidget)
+      place_(new QStackedWidget),
+      annonce_(this, [this] { return TextesLivres::nombre(modele_->rowCount()); })
 {
     liste_->setModel(modele_);
     liste_->setItemDelegate(new DelegueLivres(*modele_, images, liste_));
@@ -74,10 +72,6 @@ VoletLivres::VoletLivres(const Catalogue &catalogue, ImagesCouvertures &images, 
     connect(new SelectionDuLecteur(liste_->selectionModel(), this), &SelectionDuLecteur::prise, liste_,
             &QAbstractItemView::setCurrentIndex);
     connect(modele_, &QAbstractItemModel::modelReset, this, &VoletLivres::seReplacer);
-    annonce_.setSingleShot(true);
-    annonce_.setInterval(600ms); // typing has come to a rest
-    connect(&annonce_, &QTimer::timeout, this,
-            [this] { LecteurDEcran::annoncer(this, TextesLivres::nombre(modele_->rowCount())); });
 
     place_->addWidget(liste_);
     place_->addWidget(vide_);

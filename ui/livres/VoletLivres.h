@@ -1,9 +1,9 @@
 #pragma once
 
+#include "composants/AnnonceAuRepos.h"
 #include "model/Tarifs.h"
 #include "textes/FiltreLivres.h"
 
-#include <QTimer>
 #include <QWidget>
 
 class Catalogue;
@@ -52,6 +52,6 @@ private:
     QListView *liste_;
     EtatVide *vide_;
     QStackedWidget *place_;
-    qint64 choisi_ = 0; // id of the book last chosen
-    QTimer annonce_;    // of how many books answer the filter
+    qint64 choisi_ = 0;      // id of the book last chosen
+    AnnonceAuRepos annonce_; // of how many books answer the filter
 };
