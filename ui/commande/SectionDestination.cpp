@@ -4,6 +4,7 @@
 #include "composants/Interrupteur.h"
 #include "composants/Libelle.h"
 #include "composants/Theme.h"
+#include "model/Commande.h"
 #include "textes/TextesRecapitulatif.h"
 
 SectionDestination::SectionDestination(const QList<Destination> &destinations, Commande &commande, QWidget *parent)

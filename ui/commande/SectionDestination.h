@@ -2,8 +2,8 @@
 
 #include "composants/Formulaire.h"
 #include "model/Calcul.h"
-#include "model/Commande.h"
 
+class Commande;
 class Choix;
 class Interrupteur;
 class Libelle;

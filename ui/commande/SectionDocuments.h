@@ -3,7 +3,7 @@
 #include "composants/Formulaire.h"
 #include "ui/documents/OngletDocuments.h"
 
-class Calcul;
+struct Calcul;
 class QPushButton;
 
 // What goes with the parcel.

@@ -4,6 +4,7 @@
 #include "composants/Choix.h"
 #include "composants/Libelle.h"
 #include "composants/Theme.h"
+#include "model/Commande.h"
 #include "model/Format.h"
 #include "textes/TextesRecapitulatif.h"
 #include "ui/commande/ChampGrammes.h"

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "model/Calcul.h"
-#include "model/Commande.h"
 #include "textes/TextesRecapitulatif.h"
 #include "ui/commande/RangeeMontant.h"
 
+class Commande;
 class ChampGrammes;
 class Choix;
 

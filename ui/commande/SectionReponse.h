@@ -2,7 +2,7 @@
 
 #include "composants/Formulaire.h"
 
-class Calcul;
+struct Calcul;
 class Commande;
 class QPushButton;
 
