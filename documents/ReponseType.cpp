@@ -132,9 +132,10 @@ Langue langueAcheteur(const BonDeCommande &bon, const Calcul &calcul)
 {
     if (bon.langue)
         return *bon.langue;
-    static const QStringList francophones{QStringLiteral("france"), QStringLiteral("om1"), QStringLiteral("om2")};
-    return !calcul.destination || francophones.contains(calcul.destination->code.texte()) ? Langue::francais
-                                                                                          : Langue::anglais;
+    static const QList<CodeDestination> francophones{CodeDestination(QStringLiteral("france")),
+                                                     CodeDestination(QStringLiteral("om1")),
+                                                     CodeDestination(QStringLiteral("om2"))};
+    return !calcul.destination || francophones.contains(calcul.destination->code) ? Langue::francais : Langue::anglais;
 }
 
 std::optional<ReponseType> ReponseType::de(const Calcul &calcul, const Reglages &reglages, const BonDeCommande &bon,

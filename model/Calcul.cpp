@@ -49,7 +49,7 @@ std::optional<Palier> palierDuColis(const Calcul &calcul)
     return calcul.grille->palier(calcul.poidsRetenu);
 }
 
-void facturer(Calcul &calcul, const FraisPaypal &frais)
+void chiffrer(Calcul &calcul, const FraisPaypal &frais)
 {
     calcul.envoi = calcul.palier->prix;
     calcul.total = calcul.sousTotal + *calcul.envoi;
@@ -74,7 +74,7 @@ Calcul Calcul::de(const Donnees &donnees, const BonDeCommande &bon, const Jour &
         destiner(calcul, donnees.tarifs(aujourdhui), bon.horsUE);
     calcul.palier = palierDuColis(calcul);
     if (calcul.palier)
-        facturer(calcul, donnees.reglages.fraisPaypal);
+        chiffrer(calcul, donnees.reglages.fraisPaypal);
     return calcul;
 }
 

@@ -46,7 +46,7 @@ void lire(const QJsonValue &json, const Lieu &lieu, QString &valeur);
 void lire(const QJsonValue &json, const Lieu &lieu, QUrl &valeur);
 void lire(const QJsonValue &json, const Lieu &lieu, Jour &valeur);
 
-template <typename Unite> // the sum of that many
+template <typename Unite> // at most so many times what a single one may be
 void lire(const QJsonValue &json, const Lieu &lieu, Quantite<Unite> &valeur, qint64 termes = 1);
 template <Enumeration Enum>
 void lire(const QJsonValue &json, const Lieu &lieu, Enum &valeur);

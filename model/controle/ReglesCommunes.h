@@ -34,8 +34,7 @@ inline void controler(const QString &texte, const Json::Lieu &lieu)
 
 inline void controler(const Jour &jour, const Json::Lieu &lieu)
 {
-    if (jour.texte().trimmed().isEmpty())
-        lieu.noter(QStringLiteral("texte vide"));
+    controler(jour.texte(), lieu);
     if (!jour.date().isValid())
         lieu.noter(QStringLiteral("jour attendu, de la forme 2026-01-31"));
 }
