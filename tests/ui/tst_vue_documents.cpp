@@ -327,9 +327,13 @@ void TestVueDocuments::laFeuilleSuitLeJour()
     QDialog *feuille = banc_->ouvrir(facture);
     const auto propose = [&] { return qobject_cast<QLineEdit *>(Ecran::controle(feuille, numero))->text(); };
     QCOMPARE(propose(), QStringLiteral("2026-001"));
-    banc_->jour = QDate(2027, 1, 1);
-    BancEcran::revenirA(feuille);
-    QCOMPARE(propose(), QStringLiteral("2027-001"));
+    banc_->jour = QDate(2027, 1, 1); // nobody left the sheet: the day is asked before an invoice leaves
+    QString nom;
+    QVERIFY(Dialogues::cliquerPuisRepondre(feuille, enregistrer, {[&](QDialog *dialogue) {
+                                               nom = dialogue->findChild<QLineEdit *>()->text();
+                                               dialogue->reject();
+                                           }}));
+    QCOMPARE(nom, QStringLiteral("Facture 2027-001 – Éditions Davrel.pdf"));
     qobject_cast<QLineEdit *>(Ecran::controle(feuille, numero))->setText(QStringLiteral("2027-040")); // dictated
     banc_->jour = QDate(2028, 1, 1);
     BancEcran::revenirA(feuille);
