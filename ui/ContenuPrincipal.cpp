@@ -6,25 +6,17 @@
 #include "composants/Place.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
-#include "model/Catalogue.h"
-#include "model/Commande.h"
-#include "model/Format.h"
+#include "model/Enumeration.h"
 #include "textes/TextesTarifs.h"
-#include "ui/JourCourant.h"
+#include "ui/Contexte.h"
 #include "ui/ListeRubriques.h"
-#include "ui/commande/VueCommande.h"
-#include "ui/livres/VueLivres.h"
-#include "ui/tarifs/VueTarifs.h"
-#include "watch/Verifications.h"
 
 #include <QHBoxLayout>
 #include <QSplitter>
 #include <QStackedWidget>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <utility>
 
 namespace {
 
@@ -34,39 +26,36 @@ constexpr int barreMinimum = 190;
 constexpr int barreIdeale = 210;
 constexpr int barreMaximum = 260;
 
+QList<ListeRubriques::Entree> entrees()
+{
+    QList<ListeRubriques::Entree> entrees;
+    for (const Rubrique rubrique : tous<Rubrique>) {
+        const TraitsDeRubrique t = traits(rubrique);
+        entrees.append({t.symbole, t.libelle});
+    }
+    return entrees;
+}
+
 } // namespace
 
-ContenuPrincipal::ContenuPrincipal(Catalogue &catalogue, Commande &commande, Verifications &verifications,
-                                   ImagesCouvertures &images, Preferences preferences, JourCourant &jour,
-                                   QWidget *parent)
+ContenuPrincipal::ContenuPrincipal(const Contexte &contexte, QWidget *parent)
     : QWidget(parent),
-      catalogue_(catalogue),
-      commande_(commande),
-      verifications_(verifications),
-      images_(images),
-      preferences_(std::move(preferences)),
-      jour_(jour),
-      rubriques_(new ListeRubriques({{QStringLiteral("shippingbox"), QStringLiteral("Commande")},
-                                     {QStringLiteral("tablecells"), QStringLiteral("Tarifs Colissimo")},
-                                     {QStringLiteral("books.vertical"), QStringLiteral("Livres")}})),
+      contexte_(contexte),
+      rubriques_(new ListeRubriques(entrees())),
       enVigueur_(new Libelle({}, Libelle::Rang::secondaire)),
       detail_(new QStackedWidget),
-      ecrans_(3, nullptr)
+      ecrans_(tous<Rubrique>.size(), nullptr)
 {
     QWidget *barre = barreLaterale();
     auto *colonnes = new QHBoxLayout(this);
     colonnes->setContentsMargins(0, 0, 0, 0);
     colonnes->addWidget(Partage::entre(barre, detail_, barre, Theme::aLaTaille(barreIdeale)));
 
-    connect(rubriques_, &QListWidget::itemSelectionChanged, this, [this] {
-        jour_.regarder(); // before a screen is seen again
-        detail_->setCurrentWidget(ecran(rubrique().value_or(Rubrique::commande)));
-        actualiser();
-    });
-    connect(&catalogue_, &Catalogue::change, this, &ContenuPrincipal::actualiser);
-    connect(&verifications_, &Verifications::change, this, &ContenuPrincipal::actualiser);
-    connect(&jour_, &JourCourant::change, this, &ContenuPrincipal::actualiser);
-    connect(&jour_, &JourCourant::retour, this, &ContenuPrincipal::actualiser);
+    connect(rubriques_, &QListWidget::itemSelectionChanged, this, &ContenuPrincipal::changerDEcran);
+    connect(&contexte_.catalogue, &Catalogue::change, this, &ContenuPrincipal::actualiser);
+    connect(&contexte_.verifications, &Verifications::change, this, &ContenuPrincipal::actualiser);
+    connect(&contexte_.jour, &JourCourant::change, this, &ContenuPrincipal::actualiser);
+    connect(&contexte_.jour, &JourCourant::retour, this, &ContenuPrincipal::actualiser);
     actualiser();
     montrer(Rubrique::commande);
 }
@@ -86,8 +75,26 @@ std::optional<Rubrique> ContenuPrincipal::rubrique() const
 
 bool ContenuPrincipal::conclure()
 {
-    auto *livres = qobject_cast<VueLivres *>(detail_->currentWidget());
-    return !livres || livres->conclure();
+    EcranDeRubrique *montre = ecranMontre();
+    return !montre || montre->conclure();
+}
+
+EcranDeRubrique *ContenuPrincipal::ecranMontre() const
+{
+    return qobject_cast<EcranDeRubrique *>(detail_->currentWidget());
+}
+
+void ContenuPrincipal::changerDEcran()
+{
+    contexte_.jour.regarder(); // before a screen is seen again
+    EcranDeRubrique *voulu = ecran(rubrique().value_or(Rubrique::commande));
+    if (voulu != ecranMontre() && !conclure()) { // it stays, and says why
+        const auto rester = [this] { rubriques_->setCurrentRow(static_cast<int>(ecrans_.indexOf(ecranMontre()))); };
+        QMetaObject::invokeMethod(this, rester, Qt::QueuedConnection);
+        return;
+    }
+    detail_->setCurrentWidget(voulu);
+    actualiser();
 }
 
 QSize ContenuPrincipal::minimumSizeHint() const
@@ -130,21 +137,11 @@ QWidget *ContenuPrincipal::tarifsEnVigueur()
     return bloc;
 }
 
-QWidget *ContenuPrincipal::ecran(Rubrique rubrique)
+EcranDeRubrique *ContenuPrincipal::ecran(Rubrique rubrique)
 {
-    QWidget *&place = ecrans_[static_cast<int>(rubrique)];
+    EcranDeRubrique *&place = ecrans_[static_cast<int>(rubrique)];
     if (!place) {
-        switch (rubrique) {
-        case Rubrique::commande:
-            place = new VueCommande(catalogue_, commande_, images_, preferences_, jour_);
-            break;
-        case Rubrique::tarifs:
-            place = new VueTarifs(catalogue_, commande_, verifications_, jour_);
-            break;
-        case Rubrique::livres:
-            place = new VueLivres(catalogue_, images_, jour_);
-            break;
-        }
+        place = traits(rubrique).construire(contexte_);
         detail_->addWidget(place);
     }
     return place;
@@ -152,15 +149,7 @@ QWidget *ContenuPrincipal::ecran(Rubrique rubrique)
 
 void ContenuPrincipal::actualiser()
 {
-    const TarifsColissimo &tarifs = catalogue_.donnees().tarifs(jour_.aujourdhui());
-    enVigueur_->setText(TextesTarifs::enVigueur(tarifs));
-    rubriques_->setPastille(static_cast<int>(Rubrique::tarifs), verifications_.nombreASignaler());
-}
-
-// The weekly checks are looked at once, when there is a window to tell their outcome.
-void ContenuPrincipal::showEvent(QShowEvent *evenement)
-{
-    QWidget::showEvent(evenement);
-    if (!std::exchange(dejaMontre_, true)) // the network's own start must not delay the first image
-        QTimer::singleShot(apresLaPremiereImage, this, [this] { verifications_.verifierSiNecessaire(catalogue_); });
+    enVigueur_->setText(TextesTarifs::enVigueur(contexte_.donnees().tarifs(contexte_.jour.aujourdhui())));
+    for (const Rubrique rubrique : tous<Rubrique>)
+        rubriques_->setPastille(static_cast<int>(rubrique), traits(rubrique).aSignaler(contexte_));
 }

@@ -2,6 +2,7 @@
 
 #include "composants/Place.h"
 #include "composants/Theme.h"
+#include "model/Enumeration.h"
 #include "ui/ContenuPrincipal.h"
 #include "ui/misesajour/FeuilleMiseAJour.h"
 #include "watch/MisesAJour.h"
@@ -13,18 +14,19 @@
 #include <QShortcut>
 #include <QTimer>
 
-#include <array>
-#include <tuple>
+#include <chrono>
+#include <utility>
+
+using namespace std::chrono_literals;
 
 namespace {
 
 constexpr QSize contenuParDefaut(1320, 860);
+constexpr auto apresLaPremiereImage = 150ms;
 
 } // namespace
 
-Fenetre::Fenetre(Catalogue &catalogue, Commande &commande, Verifications &verifications, MisesAJour &misesAJour,
-                 ImagesCouvertures &images, const Preferences &preferences, JourCourant &jour)
-    : contenu_(new ContenuPrincipal(catalogue, commande, verifications, images, preferences, jour))
+Fenetre::Fenetre(const Contexte &contexte, MisesAJour &misesAJour) : contenu_(new ContenuPrincipal(contexte))
 {
     setObjectName(QStringLiteral("quillet"));
     setWindowTitle(QStringLiteral("Quillet"));
@@ -54,13 +56,11 @@ void Fenetre::closeEvent(QCloseEvent *evenement)
     evenement->setAccepted(contenu_->conclure());
 }
 
-// Drawing the icon in all its sizes takes a tenth of what the first image does.
 void Fenetre::showEvent(QShowEvent *evenement)
 {
     QMainWindow::showEvent(evenement);
-    if (windowIcon().isNull())
-        QTimer::singleShot(ContenuPrincipal::apresLaPremiereImage, this,
-                           [] { QApplication::setWindowIcon(QIcon(QStringLiteral(":/quillet.svg"))); });
+    if (!std::exchange(dejaMontree_, true))
+        QTimer::singleShot(apresLaPremiereImage, this, &Fenetre::installee);
 }
 
 void Fenetre::ramener(const QByteArray &jeton)
@@ -99,16 +99,13 @@ void Fenetre::creerMenu(MisesAJour &misesAJour)
 
 void Fenetre::creerRaccourcis()
 {
-    // The second key of each is where a French keyboard has the digit.
-    const std::array<std::tuple<Qt::Key, Qt::Key, Rubrique>, 3> touches{{
-        {Qt::Key_1, Qt::Key_Ampersand, Rubrique::commande},
-        {Qt::Key_2, Qt::Key_Eacute, Rubrique::tarifs},
-        {Qt::Key_3, Qt::Key_QuoteDbl, Rubrique::livres},
-    }};
-    for (const auto &[chiffre, francaise, rubrique] : touches) {
+    for (const Rubrique rubrique : tous<Rubrique>) {
         auto *raccourci = new QShortcut(this);
-        raccourci->setKeys({QKeySequence(Qt::CTRL | chiffre), QKeySequence(Qt::CTRL | francaise)});
-        connect(raccourci, &QShortcut::activated, this, [this, choisie = rubrique] { contenu_->montrer(choisie); });
+        QList<QKeySequence> touches;
+        for (const Qt::Key touche : traits(rubrique).touches)
+            touches.append(QKeySequence(Qt::CTRL | touche));
+        raccourci->setKeys(touches);
+        connect(raccourci, &QShortcut::activated, this, [this, rubrique] { contenu_->montrer(rubrique); });
     }
 }
 

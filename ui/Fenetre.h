@@ -2,14 +2,9 @@
 
 #include <QMainWindow>
 
-class Catalogue;
-class Commande;
 class ContenuPrincipal;
-class ImagesCouvertures;
-class JourCourant;
 class MisesAJour;
-class Preferences;
-class Verifications;
+struct Contexte;
 
 // The one window and its menu. Closing it ends the program.
 class Fenetre : public QMainWindow
@@ -17,8 +12,7 @@ class Fenetre : public QMainWindow
     Q_OBJECT
 
 public:
-    Fenetre(Catalogue &catalogue, Commande &commande, Verifications &verifications, MisesAJour &misesAJour,
-            ImagesCouvertures &images, const Preferences &preferences, JourCourant &jour);
+    Fenetre(const Contexte &contexte, MisesAJour &misesAJour);
 
     // What it opens at, on a screen that is large enough.
     [[nodiscard]] QSize tailleParDefaut() const;
@@ -26,6 +20,10 @@ public:
     // Back from an icon or from behind other windows. The token is what a compositor allows it by; without one it may
     // only ask for attention.
     void ramener(const QByteArray &jeton);
+
+signals:
+    // Once, when the first image has had the time to be on the screen.
+    void installee();
 
 protected:
     void closeEvent(QCloseEvent *evenement) override;
@@ -38,4 +36,5 @@ private:
     void aPropos();
 
     ContenuPrincipal *contenu_;
+    bool dejaMontree_ = false;
 };

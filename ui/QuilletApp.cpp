@@ -49,13 +49,19 @@ QuilletApp::QuilletApp(const Ressources &ressources, Stockage stockage, const Pr
                        Aujourdhui aujourdhui, const PagesSurveillees &pages, const SourceMisesAJour &misesAJour)
     : catalogue_(Catalogue::charge(ressources, std::move(stockage))),
       verifications_(
-          preferences, [aujourdhui] { return QDateTime(aujourdhui(), QTime::currentTime()); }, pages),
+          *catalogue_, preferences, [aujourdhui] { return QDateTime(aujourdhui(), QTime::currentTime()); }, pages),
       misesAJour_(misesAJour),
       images_(QDir(ressources.chemin(QStringLiteral("couvertures")))),
       jour_(std::move(aujourdhui)),
-      fenetre_(
-          std::make_unique<Fenetre>(*catalogue_, commande_, verifications_, misesAJour_, images_, preferences, jour_))
+      preferences_(preferences),
+      contexte_{*catalogue_, commande_, verifications_, images_, jour_, preferences_},
+      fenetre_(std::make_unique<Fenetre>(contexte_, misesAJour_))
 {
+    // Neither drawing the icon in all its sizes nor the network's own start may delay the first image.
+    QObject::connect(fenetre_.get(), &Fenetre::installee, fenetre_.get(), [this] {
+        QApplication::setWindowIcon(QIcon(QStringLiteral(":/quillet.svg")));
+        verifications_.verifierSiNecessaire();
+    });
 }
 
 QuilletApp::~QuilletApp() = default;

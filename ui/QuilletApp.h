@@ -1,13 +1,8 @@
 #pragma once
 
 #include "composants/Theme.h"
-#include "model/Catalogue.h"
-#include "model/Commande.h"
-#include "model/Preferences.h"
-#include "ui/JourCourant.h"
-#include "ui/couvertures/ImagesCouvertures.h"
+#include "ui/Contexte.h"
 #include "watch/MisesAJour.h"
-#include "watch/Verifications.h"
 
 #include <memory>
 #include <optional>
@@ -42,5 +37,7 @@ private:
     MisesAJour misesAJour_;
     ImagesCouvertures images_;
     JourCourant jour_;
+    Preferences preferences_;
+    Contexte contexte_;
     std::unique_ptr<Fenetre> fenetre_;
 };

@@ -18,11 +18,21 @@ bool memesFrais(const FraisPaypal &a, const FraisPaypal &b)
 
 } // namespace
 
-Verifications::Verifications(Preferences preferences, Horloge maintenant, const PagesSurveillees &pages)
-    : preferences_(std::move(preferences)), maintenant_(std::move(maintenant))
+Verifications::Verifications(Catalogue &catalogue, Preferences preferences, Horloge maintenant,
+                             const PagesSurveillees &pages)
+    : catalogue_(catalogue), preferences_(std::move(preferences)), maintenant_(std::move(maintenant))
 {
     preparer(laPoste_, QStringLiteral("verification.laPoste"), pages.laPoste);
     preparer(paypal_, QStringLiteral("verification.paypal"), pages.paypal);
+    laPoste_.analyser = [this](const QString &page) -> std::optional<ReleveColissimo> {
+        const QDate jour = maintenant_().date();
+        const auto releve = ReleveColissimo::analyser(page, catalogue_.donnees().tarifs(jour), jour);
+        return catalogue_.donnees().connait(releve.tarifs) ? std::nullopt : std::optional(releve);
+    };
+    paypal_.analyser = [this](const QString &page) -> std::optional<FraisPaypal> {
+        const FraisPaypal frais = RelevePaypal::analyser(page, maintenant_().date());
+        return memesFrais(frais, catalogue_.donnees().reglages.fraisPaypal) ? std::nullopt : std::optional(frais);
+    };
 }
 
 int Verifications::nombreASignaler() const
@@ -31,52 +41,43 @@ int Verifications::nombreASignaler() const
            + static_cast<int>(paypal_.nouveau || paypalAVerifier());
 }
 
-void Verifications::verifierSiNecessaire(Catalogue &catalogue)
+void Verifications::verifierSiNecessaire()
 {
-    const auto puisPaypal = [this, &catalogue] {
+    const auto puisPaypal = [this] {
         if (plusVieuxQue(paypal_.verifie, uneSemaine))
-            verifierPaypal(catalogue);
+            verifierPaypal();
     };
     if (laPoste_.etat.cas == Cas::enCours || !plusVieuxQue(laPoste_.verifie, uneSemaine)) {
         puisPaypal();
         return;
     }
     laPoste_.suite = puisPaypal;
-    verifierLaPoste(catalogue);
+    verifierLaPoste();
 }
 
-void Verifications::verifierLaPoste(Catalogue &catalogue)
+void Verifications::verifierLaPoste()
 {
-    laPoste_.analyser = [this, &catalogue](const QString &page) -> std::optional<ReleveColissimo> {
-        const QDate jour = maintenant_().date();
-        const auto releve = ReleveColissimo::analyser(page, catalogue.donnees().tarifs(jour), jour);
-        return catalogue.donnees().connait(releve.tarifs) ? std::nullopt : std::optional(releve);
-    };
     lancer(laPoste_);
 }
 
-void Verifications::verifierPaypal(Catalogue &catalogue)
+void Verifications::verifierPaypal()
 {
-    paypal_.analyser = [this, &catalogue](const QString &page) -> std::optional<FraisPaypal> {
-        const FraisPaypal frais = RelevePaypal::analyser(page, maintenant_().date());
-        return memesFrais(frais, catalogue.donnees().reglages.fraisPaypal) ? std::nullopt : std::optional(frais);
-    };
     lancer(paypal_);
 }
 
-void Verifications::accepterTarifs(Catalogue &catalogue)
+void Verifications::accepterTarifs()
 {
     if (!laPoste_.nouveau)
         return;
-    catalogue.enregistrer(laPoste_.nouveau->tarifs);
+    catalogue_.enregistrer(laPoste_.nouveau->tarifs);
     accepter(laPoste_);
 }
 
-void Verifications::accepterFrais(Catalogue &catalogue)
+void Verifications::accepterFrais()
 {
     if (!paypal_.nouveau)
         return;
-    catalogue.enregistrer(*paypal_.nouveau);
+    catalogue_.enregistrer(*paypal_.nouveau);
     accepter(paypal_);
 }
 

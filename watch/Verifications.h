@@ -36,7 +36,9 @@ public:
         bool operator==(const Etat &) const = default;
     };
     using Horloge = std::function<QDateTime()>;
-    Verifications(Preferences preferences, Horloge maintenant, const PagesSurveillees &pages = {});
+    // The catalogue must outlive them.
+    Verifications(Catalogue &catalogue, Preferences preferences, Horloge maintenant,
+                  const PagesSurveillees &pages = {});
 
     [[nodiscard]] const Etat &etatLaPoste() const { return laPoste_.etat; }
     [[nodiscard]] const Etat &etatPaypal() const { return paypal_.etat; }
@@ -52,15 +54,14 @@ public:
     // 0 to 2: what the user should look at.
     [[nodiscard]] int nombreASignaler() const;
 
-    // All return at once; `change` tells the rest. The catalogue must live until the check has ended. A check that runs
-    // is not started again.
-    void verifierSiNecessaire(Catalogue &catalogue); // La Poste's, then PayPal's, each when a week has passed
-    void verifierLaPoste(Catalogue &catalogue);
-    void verifierPaypal(Catalogue &catalogue);
+    // All return at once; `change` tells the rest. A check that runs is not started again.
+    void verifierSiNecessaire(); // La Poste's, then PayPal's, each when a week has passed
+    void verifierLaPoste();
+    void verifierPaypal();
 
     // Store what was found. Throw ErreurStockage; what was found is then still to be accepted.
-    void accepterTarifs(Catalogue &catalogue);
-    void accepterFrais(Catalogue &catalogue);
+    void accepterTarifs();
+    void accepterFrais();
 
 signals:
     void change();
@@ -95,6 +96,7 @@ private:
     [[nodiscard]] bool plusVieuxQue(const std::optional<QDateTime> &date, std::chrono::seconds duree) const;
     [[nodiscard]] bool perime(const std::optional<QDateTime> &date) const;
 
+    Catalogue &catalogue_;
     Preferences preferences_;
     Horloge maintenant_;
     Controle<ReleveColissimo> laPoste_;

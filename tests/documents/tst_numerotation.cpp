@@ -1,4 +1,4 @@
-#include "documents/NumerotationFactures.h"
+#include "documents/EmissionFacture.h"
 #include "tests/Banc.h"
 #include "tests/DisquePlein.h"
 
@@ -15,6 +15,8 @@ private slots:
     void retenir();
     void unVendeurAPart();
     void disquePlein();
+    void numeroDuChamp();
+    void compteUneFoisPartie();
 };
 
 namespace {
@@ -112,6 +114,38 @@ void TestNumerotation::disquePlein()
     QCOMPARE(preferences.texte(QStringLiteral("dossier")).size(), 400);
     numerotation.retenir(QStringLiteral("2026-002"), Vendeur::davrel); // and goes on once there is room
     QCOMPARE(numerotation.prochain(Vendeur::davrel, jourDuBanc), QStringLiteral("2026-003"));
+}
+
+// What somebody typed stays; what was proposed follows the day and the seller's series.
+void TestNumerotation::numeroDuChamp()
+{
+    const Banc banc;
+    EmissionFacture emission(banc.preferences());
+    const auto numero = [&](const char *saisi, QDate jour) {
+        return emission.numero(QString::fromLatin1(saisi), Vendeur::davrel, jour);
+    };
+    QCOMPARE(numero("", jourDuBanc), QStringLiteral("2026-001"));
+    NumerotationFactures{banc.preferences()}.retenir(QStringLiteral("2026-004"), Vendeur::davrel);
+    QCOMPARE(numero("2026-001", jourDuBanc), QStringLiteral("2026-001")); // of the day's series
+    QCOMPARE(numero("2026-001", QDate(2027, 1, 1)), QStringLiteral("2027-001"));
+    QCOMPARE(numero("F-12", QDate(2028, 1, 1)), QStringLiteral("F-12"));
+    QVERIFY(emission.obstacle().isEmpty());
+}
+
+void TestNumerotation::compteUneFoisPartie()
+{
+    const Banc banc;
+    EmissionFacture emission(banc.preferences());
+    const Facture facture{.numero = QStringLiteral("2026-007")};
+    const auto retenu = [&] { return banc.preferences().texte(cleDavrel); };
+    const auto emettre = [&](const std::function<bool(const Facture &)> &sortir) {
+        return emission.emettre(facture, Vendeur::davrel, sortir);
+    };
+    QVERIFY(!emettre([](const Facture &) { return false; })); // given up
+    QVERIFY_THROWS_EXCEPTION(Echec, emettre([](const Facture &) -> bool { throw Echec(QStringLiteral("refusée")); }));
+    QVERIFY(retenu().isEmpty());
+    QVERIFY(emettre([&](const Facture &partie) { return partie == facture && retenu().isEmpty(); }));
+    QCOMPARE(retenu(), facture.numero);
 }
 
 QTEST_GUILESS_MAIN(TestNumerotation)

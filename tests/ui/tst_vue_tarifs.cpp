@@ -134,7 +134,7 @@ void TestVueTarifs::lignes()
     banc_->donnees.tarifs.append(desTarifs("2026-04-01", Centimes{600}));
     const auto catalogue = banc_->donnees.charger();
     const auto maintenant = [] { return QDateTime(jourDuBanc, QTime(10, 0)); };
-    const Verifications verifications(preferences, maintenant, horsReseau());
+    const Verifications verifications(*catalogue, preferences, maintenant, horsReseau());
     const auto ligne = TextesVerifications::laPoste(verifications, catalogue->donnees(), jourDuBanc);
     QCOMPARE(ligne.detail, QStringLiteral("en vigueur au 1er janvier 2026, nouvelle grille au 1er avril 2026"));
     QCOMPARE(ligne.symboleEtat, symbole);

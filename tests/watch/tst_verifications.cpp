@@ -69,7 +69,7 @@ void TestVerifications::servir(const TarifsColissimo &tarifs, const FraisPaypal 
 std::unique_ptr<Verifications> TestVerifications::verifications()
 {
     return std::make_unique<Verifications>(
-        banc_->preferences(), [this] { return maintenant_; },
+        *catalogue_, banc_->preferences(), [this] { return maintenant_; },
         PagesSurveillees{serveur_->adresse(laPoste), serveur_->adresse(paypal)});
 }
 
@@ -86,7 +86,7 @@ void TestVerifications::premierLancement()
     const auto v = verifications();
     QCOMPARE(v->etatLaPoste(), (Verifications::Etat{}));
     QCOMPARE(v->nombreASignaler(), 2); // never checked
-    v->verifierSiNecessaire(*catalogue_);
+    v->verifierSiNecessaire();
     QCOMPARE(v->etatLaPoste().cas, Cas::enCours);
     QCOMPARE(v->etatPaypal().cas, Cas::inconnu); // its turn comes next
     QTRY_COMPARE(v->etatPaypal().cas, Cas::aJour);
@@ -128,7 +128,7 @@ void TestVerifications::quandUneSemaineAPasse()
     preferences.ecrire(clePaypal, paypal);
     const auto v = verifications();
     QCOMPARE(v->nombreASignaler(), pastille);
-    v->verifierSiNecessaire(*catalogue_);
+    v->verifierSiNecessaire();
     QTRY_VERIFY(terminees(*v) && demandees().size() >= attendues.size());
     QCOMPARE(demandees(), attendues);
 }
@@ -141,24 +141,24 @@ void TestVerifications::changementsAcceptes()
     frais.supplements[RegionPaypal::royaumeUni] = Taux{130};
     servir(tarifs, frais);
     const auto v = verifications();
-    v->verifierSiNecessaire(*catalogue_);
+    v->verifierSiNecessaire();
     QTRY_COMPARE(v->etatPaypal().cas, Cas::changement);
     QVERIFY(!catalogue_->donnees().tarifsAVenir(jourDuBanc)); // nothing has changed yet
     const auto verifie = v->verifieLaPoste();
     maintenant_ = maintenant_.addSecs(60);
 
-    v->accepterTarifs(*catalogue_);
+    v->accepterTarifs();
     QCOMPARE(v->etatLaPoste().cas, Cas::aJour);
     QVERIFY(!v->nouveauxTarifs());
     QCOMPARE(v->verifieLaPoste(), verifie);
     QCOMPARE(v->nombreASignaler(), 1);
     QCOMPARE(catalogue_->donnees().tarifs(QDate(2026, 4, 1)).grilles[0].paliers[0].prix, Centimes{600});
     QCOMPARE(catalogue_->donnees().tarifs(QDate(2026, 3, 31)).grilles[0].paliers[0].prix, Centimes{549});
-    v->accepterFrais(*catalogue_);
+    v->accepterFrais();
     QCOMPARE(catalogue_->donnees().reglages.fraisPaypal.supplement(RegionPaypal::royaumeUni), Taux{130});
     QCOMPARE(v->nombreASignaler(), 0);
 
-    v->verifierLaPoste(*catalogue_);
+    v->verifierLaPoste();
     QTRY_COMPARE(v->etatLaPoste().cas, Cas::aJour); // the page still shows what is known now
 }
 
@@ -183,7 +183,7 @@ void TestVerifications::echecs()
     banc_->preferences().ecrire(cleLaPoste, avant);
     serveur_->servir(laPoste, http(statut, corps));
     const auto v = verifications();
-    v->verifierSiNecessaire(*catalogue_);
+    v->verifierSiNecessaire();
     QTRY_COMPARE(v->etatPaypal().cas, Cas::aJour); // checked all the same
     QCOMPARE(v->etatLaPoste(), (Verifications::Etat{Cas::erreur, message}));
     QCOMPARE(banc_->preferences().texte(cleLaPoste), avant);
@@ -193,8 +193,8 @@ void TestVerifications::uneSeuleALaFois()
 {
     const auto v = verifications();
     QSignalSpy changements(v.get(), &Verifications::change);
-    v->verifierLaPoste(*catalogue_);
-    v->verifierLaPoste(*catalogue_);
+    v->verifierLaPoste();
+    v->verifierLaPoste();
     QCOMPARE(changements.size(), 1);
     QTRY_VERIFY(terminees(*v));
     QCOMPARE(demandees(), QStringList{laPoste});

@@ -1,7 +1,6 @@
 #include "ui/commande/Recapitulatif.h"
 
-#include "model/Catalogue.h"
-#include "model/Commande.h"
+#include "ui/Contexte.h"
 #include "ui/commande/SectionDestination.h"
 #include "ui/commande/SectionDocuments.h"
 #include "ui/commande/SectionLien.h"
@@ -18,15 +17,15 @@ constexpr int largeurMinimale = 330;
 
 } // namespace
 
-Recapitulatif::Recapitulatif(const Catalogue &catalogue, Commande &commande, QWidget *parent)
+Recapitulatif::Recapitulatif(const Contexte &contexte, QWidget *parent)
     : Defilement(parent),
       livres_(new SectionLivres),
-      poids_(new SectionPoids(catalogue.donnees().reglages.emballages, commande)),
-      destination_(new SectionDestination(catalogue.donnees().destinations, commande)),
-      montants_(new SectionMontants(catalogue.donnees().reglages)),
-      lien_(new SectionLien(catalogue.donnees().reglages, commande)),
+      poids_(new SectionPoids(contexte.donnees().reglages.emballages, contexte.commande)),
+      destination_(new SectionDestination(contexte.donnees().destinations, contexte.commande)),
+      montants_(new SectionMontants(contexte.donnees().reglages)),
+      lien_(new SectionLien(contexte.donnees().reglages, contexte.commande)),
       documents_(new SectionDocuments),
-      reponse_(new SectionReponse(commande))
+      reponse_(new SectionReponse(contexte.commande))
 {
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::AlternateBase);

@@ -4,8 +4,6 @@
 #include "model/Calcul.h"
 #include "ui/documents/OngletDocuments.h"
 
-class Catalogue;
-class Commande;
 class SectionDestination;
 class SectionDocuments;
 class SectionLien;
@@ -13,6 +11,7 @@ class SectionLivres;
 class SectionMontants;
 class SectionPoids;
 class SectionReponse;
+struct Contexte;
 
 // The side panel: everything that follows from the order, and the choices that complete it. Its widgets are built
 // once; `montrer` brings them up to date.
@@ -21,7 +20,7 @@ class Recapitulatif : public Defilement
     Q_OBJECT
 
 public:
-    Recapitulatif(const Catalogue &catalogue, Commande &commande, QWidget *parent = nullptr);
+    explicit Recapitulatif(const Contexte &contexte, QWidget *parent = nullptr);
 
     void montrer(const Calcul &calcul);
     [[nodiscard]] QSize minimumSizeHint() const override;

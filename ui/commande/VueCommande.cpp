@@ -7,11 +7,8 @@
 #include "composants/Partage.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
-#include "model/Calcul.h"
-#include "model/Catalogue.h"
-#include "model/Commande.h"
 #include "textes/TextesRecapitulatif.h"
-#include "ui/JourCourant.h"
+#include "ui/Contexte.h"
 #include "ui/commande/Couverture.h"
 #include "ui/commande/GrilleLivres.h"
 #include "ui/commande/Recapitulatif.h"
@@ -40,21 +37,17 @@ constexpr int panneauMaximum = 460;
 
 } // namespace
 
-VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesCouvertures &images,
-                         Preferences preferences, JourCourant &jour, QWidget *parent)
-    : QWidget(parent),
-      catalogue_(catalogue),
-      commande_(commande),
-      preferences_(std::move(preferences)),
-      jour_(jour),
+VueCommande::VueCommande(const Contexte &contexte, QWidget *parent)
+    : EcranDeRubrique(parent),
+      contexte_(contexte),
       enTete_(new EnTete(QStringLiteral("Commande"))),
       reinitialiser_(new QPushButton(Icone::icone(QStringLiteral("arrow.counterclockwise")),
                                      QStringLiteral("Tout réinitialiser"))),
-      selecteur_(new SelecteurSite(catalogue.donnees().reglages)),
-      grille_(new GrilleLivres(commande, images, selecteur_->dernierControle())),
+      selecteur_(new SelecteurSite(contexte.donnees().reglages)),
+      grille_(new GrilleLivres(contexte.commande, contexte.images, selecteur_->dernierControle())),
       sansLivre_(new EtatVide(QStringLiteral("books.vertical"), {},
                               QStringLiteral("Le catalogue n’a pas de livre de ce vendeur."))),
-      recapitulatif_(new Recapitulatif(catalogue, commande)),
+      recapitulatif_(new Recapitulatif(contexte)),
       annonce_(this, [this] { return resume_; })
 {
     reinitialiser_->setToolTip(
@@ -70,13 +63,13 @@ VueCommande::VueCommande(const Catalogue &catalogue, Commande &commande, ImagesC
     page->setContentsMargins(0, 0, 0, 0);
     page->addWidget(Partage::entre(colonneDesLivres(), recapitulatif_, recapitulatif_, Theme::aLaTaille(panneauIdeal)));
 
-    connect(reinitialiser_, &QPushButton::clicked, &commande_, &Commande::vider);
-    connect(selecteur_, &SelecteurSite::choisi, &commande_, &Commande::setVendeur);
+    connect(reinitialiser_, &QPushButton::clicked, &contexte_.commande, &Commande::vider);
+    connect(selecteur_, &SelecteurSite::choisi, &contexte_.commande, &Commande::setVendeur);
     connect(recapitulatif_, &Recapitulatif::documentsDemandes, this, &VueCommande::ouvrirLesDocuments);
     connect(recapitulatif_, &Recapitulatif::reponseDemandee, this, &VueCommande::ouvrirLaReponse);
-    connect(&commande_, &Commande::change, this, &VueCommande::actualiser);
-    connect(&catalogue_, &Catalogue::change, this, &VueCommande::actualiser);
-    connect(&jour_, &JourCourant::change, this, &VueCommande::actualiser);
+    connect(&contexte_.commande, &Commande::change, this, &VueCommande::actualiser);
+    connect(&contexte_.catalogue, &Catalogue::change, this, &VueCommande::actualiser);
+    connect(&contexte_.jour, &JourCourant::change, this, &VueCommande::actualiser);
     actualiser();
     annonce_.stop();
 }
@@ -116,13 +109,13 @@ QWidget *VueCommande::colonneDesLivres()
 
 void VueCommande::actualiser()
 {
-    const Calcul calcul = Calcul::de(catalogue_.donnees(), commande_.bon(), jour_.aujourdhui());
+    const Calcul calcul = contexte_.calcul();
     enTete_->setSousTitre(TextesRecapitulatif::sousTitre(calcul));
-    reinitialiser_->setEnabled(!commande_.bon().estVide());
-    selecteur_->montrer(commande_.bon().vendeur);
+    reinitialiser_->setEnabled(!contexte_.bon().estVide());
+    selecteur_->montrer(contexte_.bon().vendeur);
     QList<Livre> livres;
-    std::ranges::copy_if(catalogue_.donnees().livres, std::back_inserter(livres),
-                         [&](const Livre &livre) { return livre.vendeur == commande_.bon().vendeur; });
+    std::ranges::copy_if(contexte_.donnees().livres, std::back_inserter(livres),
+                         [&](const Livre &livre) { return livre.vendeur == contexte_.bon().vendeur; });
     grille_->montrer(livres);
     grille_->setVisible(!livres.isEmpty());
     sansLivre_->setVisible(livres.isEmpty());
@@ -134,10 +127,10 @@ void VueCommande::actualiser()
 
 void VueCommande::ouvrirLesDocuments(OngletDocuments onglet)
 {
-    (new VueDocuments(catalogue_, commande_, preferences_, jour_, onglet, window()))->ouvrir();
+    (new VueDocuments(contexte_, onglet, window()))->ouvrir();
 }
 
 void VueCommande::ouvrirLaReponse()
 {
-    (new VueReponse(catalogue_, commande_, jour_, window()))->ouvrir();
+    (new VueReponse(contexte_, window()))->ouvrir();
 }

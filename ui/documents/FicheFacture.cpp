@@ -10,9 +10,8 @@
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
 #include "composants/ZoneDeTexte.h"
-#include "documents/NumerotationFactures.h"
 #include "textes/TextesDocuments.h"
-#include "ui/JourCourant.h"
+#include "ui/Contexte.h"
 #include "ui/documents/ApercuFacture.h"
 #include "ui/documents/ImpressionFacture.h"
 
@@ -30,11 +29,10 @@ const QString cleDossier = QStringLiteral("dossierDesFactures");
 
 } // namespace
 
-FicheFacture::FicheFacture(const Reglages &reglages, Preferences preferences, const JourCourant &jour, QWidget *parent)
+FicheFacture::FicheFacture(const Contexte &contexte, QWidget *parent)
     : QStackedWidget(parent),
-      reglages_(reglages),
-      preferences_(std::move(preferences)),
-      jour_(jour),
+      contexte_(contexte),
+      emission_(contexte.preferences),
       impossible_(new EtatVide),
       numero_(new LigneDeTexte),
       remarque_(new Alerte),
@@ -114,7 +112,7 @@ QWidget *FicheFacture::sorties()
 
 void FicheFacture::montrer(const Calcul &calcul)
 {
-    const auto obstacle = TextesDocuments::obstacleALaFacture(calcul, reglages_);
+    const auto obstacle = TextesDocuments::obstacleALaFacture(calcul, contexte_.donnees().reglages);
     setCurrentIndex(obstacle ? 1 : 0);
     if (obstacle) {
         facture_.reset();
@@ -122,24 +120,11 @@ void FicheFacture::montrer(const Calcul &calcul)
         return;
     }
     vendeur_ = *calcul.vendeurs().begin();
-    const bool aJour = NumerotationFactures::rapport(numero_->text(), jour_.aujourdhui())
-                       == NumerotationFactures::Rapport::dansLaSerie;
-    if (numero_->text() == propose_ && !aJour)
-        proposer();
-    facture_ = Facture::de(calcul, reglages_, {}, jour_.aujourdhui(), {});
+    const QDate jour = contexte_.jour.aujourdhui();
+    if (const QString numero = emission_.numero(numero_->text(), vendeur_, jour); numero != numero_->text())
+        numero_->setText(numero);
+    facture_ = Facture::de(calcul, contexte_.donnees().reglages, {}, jour, {});
     completer();
-}
-
-void FicheFacture::proposer()
-{
-    try {
-        propose_ = NumerotationFactures{preferences_}.prochain(vendeur_, jour_.aujourdhui());
-        sansProposition_.clear();
-    } catch (const ErreurStockage &erreur) {
-        propose_.clear();
-        sansProposition_ = QStringLiteral("Le dernier numéro n’a pas pu être lu.\n%1").arg(erreur.texte());
-    }
-    numero_->setText(propose_);
 }
 
 // No focus proxy: Tab would go by it to the buyer, past the number.
@@ -155,8 +140,8 @@ void FicheFacture::completer()
         return;
     facture_->numero = numero_->text();
     facture_->acheteur = acheteur_->toPlainText();
-    remarque_->montrer(facture_->numero.isEmpty() && !sansProposition_.isEmpty()
-                           ? sansProposition_
+    remarque_->montrer(facture_->numero.isEmpty() && !emission_.obstacle().isEmpty()
+                           ? emission_.obstacle()
                            : TextesDocuments::remarqueSurLeNumero(facture_->numero, facture_->date));
     identite_->setText(TextesDocuments::vendeur(facture_->vendeur));
     sansSiret_->montrer(TextesDocuments::sansSiret(facture_->vendeur));
@@ -175,13 +160,13 @@ void FicheFacture::enregistrer()
 {
     std::optional<QString> chemin;
     const bool faite = emettre(QStringLiteral("Facture %1 enregistrée."), [&](const Facture &facture) {
-        chemin = ImpressionFacture::enregistrer(facture, preferences_.texte(cleDossier), this);
+        chemin = ImpressionFacture::enregistrer(facture, contexte_.preferences.texte(cleDossier), this);
         return chemin.has_value();
     });
     if (!faite)
         return;
     try {
-        preferences_.ecrire(cleDossier, QFileInfo(*chemin).absolutePath());
+        contexte_.preferences.ecrire(cleDossier, QFileInfo(*chemin).absolutePath());
     } catch (const ErreurStockage &erreur) {
         prevenir(QStringLiteral("Le dossier choisi ne sera pas proposé la prochaine fois.\n%1").arg(erreur.texte()));
     }
@@ -189,15 +174,14 @@ void FicheFacture::enregistrer()
 
 bool FicheFacture::emettre(const QString &issue, const std::function<bool(const Facture &)> &sortir)
 {
-    emit emission();
+    contexte_.jour.regarder(); // the invoice is of the day on which it leaves
     if (!facture_)
         return false;
     issue_->montrer({});
     const Facture facture = *facture_; // whatever changes while a dialog is open
     try {
-        if (!sortir(facture))
+        if (!emission_.emettre(facture, vendeur_, sortir))
             return false;
-        retenir(facture.numero);
         issue_->montrer(issue.arg(facture.numero));
         return true;
     } catch (const Echec &echec) {
@@ -209,14 +193,4 @@ bool FicheFacture::emettre(const QString &issue, const std::function<bool(const 
 void FicheFacture::prevenir(const QString &message)
 {
     QMessageBox::warning(this, QStringLiteral("Facture"), message);
-}
-
-void FicheFacture::retenir(const QString &numero)
-{
-    try {
-        NumerotationFactures{preferences_}.retenir(numero, vendeur_);
-    } catch (const ErreurStockage &erreur) {
-        throw Echec(QStringLiteral("La facture %1 est partie, mais son numéro n’a pas été retenu.\n%2")
-                        .arg(numero, erreur.texte()));
-    }
 }

@@ -1,10 +1,7 @@
 #include "ui/documents/VueDocuments.h"
 
 #include "composants/ChoixSegmente.h"
-#include "model/Calcul.h"
-#include "model/Catalogue.h"
-#include "model/Commande.h"
-#include "ui/JourCourant.h"
+#include "ui/Contexte.h"
 #include "ui/documents/FicheDouane.h"
 #include "ui/documents/FicheFacture.h"
 
@@ -17,14 +14,11 @@ constexpr QSize tailleDesDocuments(760, 720);
 
 } // namespace
 
-VueDocuments::VueDocuments(const Catalogue &catalogue, const Commande &commande, const Preferences &preferences,
-                           JourCourant &jour, OngletDocuments onglet, QWidget *parent)
+VueDocuments::VueDocuments(const Contexte &contexte, OngletDocuments onglet, QWidget *parent)
     : Feuille(QStringLiteral("Documents d’envoi"), parent),
-      catalogue_(catalogue),
-      commande_(commande),
-      jour_(jour),
-      douane_(new FicheDouane(catalogue.donnees().reglages)),
-      facture_(new FicheFacture(catalogue.donnees().reglages, preferences, jour))
+      contexte_(contexte),
+      douane_(new FicheDouane(contexte.donnees().reglages)),
+      facture_(new FicheFacture(contexte))
 {
     auto *onglets =
         new ChoixSegmente({QStringLiteral("Déclaration en douane"), QStringLiteral("Facture")}, {.police = font()});
@@ -36,10 +30,9 @@ VueDocuments::VueDocuments(const Catalogue &catalogue, const Commande &commande,
     onglets->montrer(static_cast<int>(onglet));
     pages->setCurrentIndex(static_cast<int>(onglet));
 
-    connect(&commande_, &Commande::change, this, &VueDocuments::actualiser);
-    connect(&catalogue_, &Catalogue::change, this, &VueDocuments::actualiser);
-    connect(&jour_, &JourCourant::change, this, &VueDocuments::actualiser);
-    connect(facture_, &FicheFacture::emission, &jour_, &JourCourant::regarder);
+    connect(&contexte_.commande, &Commande::change, this, &VueDocuments::actualiser);
+    connect(&contexte_.catalogue, &Catalogue::change, this, &VueDocuments::actualiser);
+    connect(&contexte_.jour, &JourCourant::change, this, &VueDocuments::actualiser);
     actualiser();
     if (onglet == OngletDocuments::facture)
         facture_->prendreLeFocus();
@@ -50,7 +43,7 @@ VueDocuments::VueDocuments(const Catalogue &catalogue, const Commande &commande,
 
 void VueDocuments::actualiser()
 {
-    const Calcul calcul = Calcul::de(catalogue_.donnees(), commande_.bon(), jour_.aujourdhui());
+    const Calcul calcul = contexte_.calcul();
     douane_->montrer(calcul);
     facture_->montrer(calcul);
 }

@@ -1,14 +1,11 @@
 #pragma once
 
 #include "composants/Feuille.h"
-#include "model/Preferences.h"
 #include "ui/documents/OngletDocuments.h"
 
-class Catalogue;
-class Commande;
 class FicheDouane;
 class FicheFacture;
-class JourCourant;
+struct Contexte;
 
 // What goes with the parcel: the values of the customs form, and the invoice.
 class VueDocuments : public Feuille
@@ -16,15 +13,12 @@ class VueDocuments : public Feuille
     Q_OBJECT
 
 public:
-    VueDocuments(const Catalogue &catalogue, const Commande &commande, const Preferences &preferences,
-                 JourCourant &jour, OngletDocuments onglet, QWidget *parent = nullptr);
+    VueDocuments(const Contexte &contexte, OngletDocuments onglet, QWidget *parent = nullptr);
 
 private:
     void actualiser();
 
-    const Catalogue &catalogue_;
-    const Commande &commande_;
-    JourCourant &jour_;
+    const Contexte &contexte_;
     FicheDouane *douane_;
     FicheFacture *facture_;
 };

@@ -9,10 +9,9 @@
 #include "composants/Partage.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
-#include "model/Catalogue.h"
 #include "textes/TextesBoutons.h"
 #include "textes/TextesGestes.h"
-#include "ui/JourCourant.h"
+#include "ui/Contexte.h"
 #include "ui/livres/FicheLivre.h"
 #include "ui/livres/RetourAuxValeurs.h"
 #include "ui/livres/VoletLivres.h"
@@ -48,15 +47,14 @@ void nommer(QToolButton *bouton, const QString &nom, const QString &geste)
 
 } // namespace
 
-VueLivres::VueLivres(Catalogue &catalogue, ImagesCouvertures &images, const JourCourant &jour, QWidget *parent)
-    : QWidget(parent),
-      catalogue_(catalogue),
-      historique_(catalogue),
-      jour_(jour),
+VueLivres::VueLivres(const Contexte &contexte, QWidget *parent)
+    : EcranDeRubrique(parent),
+      contexte_(contexte),
+      historique_(contexte.catalogue),
       enTete_(new EnTete(QStringLiteral("Livres"))),
       choix_(new ChoixTarifs),
-      volet_(new VoletLivres(catalogue, images)),
-      fiche_(new FicheLivre(images)),
+      volet_(new VoletLivres(contexte.catalogue, contexte.images)),
+      fiche_(new FicheLivre(contexte.images)),
       echec_(new Alerte),
       annuler_(creerBouton(QStringLiteral("arrow.uturn.backward"), QKeySequence::Undo)),
       retablir_(creerBouton(QStringLiteral("arrow.uturn.forward"), QKeySequence::Redo))
@@ -85,8 +83,8 @@ VueLivres::VueLivres(Catalogue &catalogue, ImagesCouvertures &images, const Jour
     connect(fiche_, &FicheLivre::livreSuivant, volet_, &VoletLivres::passerAuSuivant);
     connect(volet_, &VoletLivres::choixChange, this, &VueLivres::actualiser);
     connect(choix_, &ChoixTarifs::choisi, this, &VueLivres::actualiser);
-    connect(&catalogue_, &Catalogue::change, this, &VueLivres::actualiser);
-    connect(&jour_, &JourCourant::change, this, &VueLivres::actualiser);
+    connect(&contexte_.catalogue, &Catalogue::change, this, &VueLivres::actualiser);
+    connect(&contexte_.jour, &JourCourant::change, this, &VueLivres::actualiser);
     montrerAnnulation();
     auto *chercher = new QShortcut(QKeySequence::Find, this);
     connect(chercher, &QShortcut::activated, volet_, &VoletLivres::chercher);
@@ -152,14 +150,14 @@ void VueLivres::actualiser()
 {
     if (!isVisible())
         return; // up to date again when it shows
-    choix_->actualiser(catalogue_.donnees(), jour_.aujourdhui());
+    choix_->actualiser(contexte_.donnees(), contexte_.jour.aujourdhui());
     const TarifsColissimo &tarifs = choix_->tarifs();
     volet_->setTarifs(tarifs);
-    enTete_->setSousTitre(TextesBoutons::bilan(catalogue_.donnees().livres.size(), volet_->aReporter()));
+    enTete_->setSousTitre(TextesBoutons::bilan(contexte_.donnees().livres.size(), volet_->aReporter()));
     const Livre *choisi = volet_->choisi();
     place_->setCurrentIndex(choisi ? 0 : 1);
     if (choisi)
-        fiche_->montrer(*choisi, catalogue_.donnees().boutons(*choisi, tarifs), tarifs, volet_->aUnSuivant());
+        fiche_->montrer(*choisi, contexte_.donnees().boutons(*choisi, tarifs), tarifs, volet_->aUnSuivant());
 }
 
 // A disabled button would hand the focus to a neighbour that has nothing to do with it.
@@ -199,13 +197,13 @@ void VueLivres::tenter(const std::function<void()> &geste)
 void VueLivres::revenir()
 {
     tenter([this] {
-        if (RetourAuxValeurs::accepte(catalogue_.donnees().livres, catalogue_.valeursLivrees(), this))
+        if (RetourAuxValeurs::accepte(contexte_.donnees().livres, contexte_.catalogue.valeursLivrees(), this))
             historique_.revenirAuxValeursLivrees(TextesGestes::retour());
     });
 }
 
 void VueLivres::showEvent(QShowEvent *evenement)
 {
-    QWidget::showEvent(evenement);
+    EcranDeRubrique::showEvent(evenement);
     actualiser();
 }

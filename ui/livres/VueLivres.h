@@ -1,34 +1,30 @@
 #pragma once
 
 #include "model/HistoriqueLivres.h"
+#include "ui/Rubriques.h"
 
 #include <QKeySequence>
-#include <QWidget>
 
 #include <functional>
 
 class Alerte;
-class Catalogue;
 class ChoixTarifs;
 class EnTete;
 class FicheLivre;
-class ImagesCouvertures;
-class JourCourant;
 class QStackedWidget;
 class QToolButton;
 class VoletLivres;
 
 // Both sellers' books: their list on the left, the chosen one beside it to edit. Every change is saved at once and can
 // be undone until the program closes.
-class VueLivres : public QWidget
+class VueLivres : public EcranDeRubrique
 {
     Q_OBJECT
 
 public:
-    VueLivres(Catalogue &catalogue, ImagesCouvertures &images, const JourCourant &jour, QWidget *parent = nullptr);
+    explicit VueLivres(const Contexte &contexte, QWidget *parent = nullptr);
 
-    // Ends the edit under way; false when it could not be saved, which the screen says.
-    [[nodiscard]] bool conclure();
+    [[nodiscard]] bool conclure() override;
 
 protected:
     void showEvent(QShowEvent *evenement) override;
@@ -42,9 +38,8 @@ private:
     void tenter(const std::function<void()> &geste);
     void revenir();
 
-    Catalogue &catalogue_;
+    const Contexte &contexte_;
     HistoriqueLivres historique_;
-    const JourCourant &jour_;
     EnTete *enTete_;
     ChoixTarifs *choix_;
     VoletLivres *volet_;

@@ -9,12 +9,10 @@
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
 #include "documents/ReponseType.h"
-#include "model/Catalogue.h"
-#include "model/Commande.h"
 #include "model/Echec.h"
 #include "textes/NomsVendeurs.h"
 #include "textes/TextesReponse.h"
-#include "ui/JourCourant.h"
+#include "ui/Contexte.h"
 #include "ui/reponse/ApercuMessage.h"
 #include "ui/reponse/ChoixLangue.h"
 #include "ui/reponse/Mail.h"
@@ -43,11 +41,9 @@ QLineEdit *champ(const QString &nom, const QString &exemple)
 
 } // namespace
 
-VueReponse::VueReponse(const Catalogue &catalogue, Commande &commande, const JourCourant &jour, QWidget *parent)
+VueReponse::VueReponse(const Contexte &contexte, QWidget *parent)
     : Feuille(QStringLiteral("Réponse à l’acheteur"), parent),
-      catalogue_(catalogue),
-      commande_(commande),
-      jour_(jour),
+      contexte_(contexte),
       langue_(new ChoixLangue),
       lien_(champ(QStringLiteral("Lien de paiement"), QStringLiteral("https://www.paypal.com/ncp/payment/…"))),
       adresse_(champ(QStringLiteral("E-mail de l’acheteur"), QStringLiteral("prenom.nom@exemple.fr"))),
@@ -71,12 +67,12 @@ VueReponse::VueReponse(const Catalogue &catalogue, Commande &commande, const Jou
     meubler(langue_, pages_);
     envoyer_->setDefault(true); // only now does it have a sheet to be the default of
 
-    connect(langue_, &ChoixLangue::choisie, &commande_, &Commande::setLangue);
+    connect(langue_, &ChoixLangue::choisie, &contexte_.commande, &Commande::setLangue);
     connect(lien_, &QLineEdit::textChanged, this, &VueReponse::actualiser);
     connect(adresse_, &QLineEdit::textChanged, this, &VueReponse::actualiser);
-    connect(&commande_, &Commande::change, this, &VueReponse::actualiser);
-    connect(&catalogue_, &Catalogue::change, this, &VueReponse::actualiser);
-    connect(&jour_, &JourCourant::change, this, &VueReponse::actualiser);
+    connect(&contexte_.commande, &Commande::change, this, &VueReponse::actualiser);
+    connect(&contexte_.catalogue, &Catalogue::change, this, &VueReponse::actualiser);
+    connect(&contexte_.jour, &JourCourant::change, this, &VueReponse::actualiser);
     passerA(reponse() ? Page::reponse : Page::impossible);
     actualiser();
     lien_->setFocus();
@@ -127,8 +123,7 @@ QWidget *VueReponse::message()
 
 std::optional<ReponseType> VueReponse::reponse() const
 {
-    const Calcul calcul = Calcul::de(catalogue_.donnees(), commande_.bon(), jour_.aujourdhui());
-    return ReponseType::de(calcul, catalogue_.donnees().reglages, commande_.bon(), lien_->text());
+    return ReponseType::de(contexte_.calcul(), contexte_.donnees().reglages, contexte_.bon(), lien_->text());
 }
 
 void VueReponse::actualiser()

@@ -6,10 +6,8 @@
 
 class Alerte;
 class ApercuMessage;
-class Catalogue;
 class ChoixLangue;
-class Commande;
-class JourCourant;
+struct Contexte;
 struct ReponseType;
 class QLineEdit;
 class QPushButton;
@@ -21,7 +19,7 @@ class VueReponse : public Feuille
     Q_OBJECT
 
 public:
-    VueReponse(const Catalogue &catalogue, Commande &commande, const JourCourant &jour, QWidget *parent = nullptr);
+    explicit VueReponse(const Contexte &contexte, QWidget *parent = nullptr);
 
 private:
     enum class Page { reponse, impossible };
@@ -33,9 +31,7 @@ private:
     void ouvrirDansMail();
     [[nodiscard]] std::optional<ReponseType> reponse() const;
 
-    const Catalogue &catalogue_;
-    Commande &commande_;
-    const JourCourant &jour_;
+    const Contexte &contexte_;
     ChoixLangue *langue_;
     QLineEdit *lien_;
     QLineEdit *adresse_;

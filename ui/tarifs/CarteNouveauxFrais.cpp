@@ -5,9 +5,8 @@
 #include "composants/LibelleChiffre.h"
 #include "composants/RangeeDeTableau.h"
 #include "composants/Theme.h"
-#include "model/Catalogue.h"
 #include "textes/TextesTarifs.h"
-#include "watch/Verifications.h"
+#include "ui/Contexte.h"
 
 #include <QPainter>
 #include <QVBoxLayout>
@@ -46,7 +45,7 @@ QWidget *ligne(const TextesTarifs::Frais &avant, const TextesTarifs::Frais &apre
 
 } // namespace
 
-CarteNouveauxFrais::CarteNouveauxFrais(Catalogue &catalogue, Verifications &verifications, QWidget *parent)
+CarteNouveauxFrais::CarteNouveauxFrais(const Contexte &contexte, QWidget *parent)
     : FeuilleDeReleve(QStringLiteral("Nouveaux frais PayPal"), parent)
 {
     auto *origine = new Libelle(QStringLiteral("Relevés sur paypal.com, tarifs marchands pour la France"),
@@ -59,12 +58,12 @@ CarteNouveauxFrais::CarteNouveauxFrais(Catalogue &catalogue, Verifications &veri
     colonne->addSpacing(6);
     colonne->addWidget(origine);
     colonne->addSpacing(14);
-    const auto avant = TextesTarifs::frais(catalogue.donnees().reglages.fraisPaypal);
-    const auto apres = TextesTarifs::frais(*verifications.nouveauxFrais());
+    const auto avant = TextesTarifs::frais(contexte.donnees().reglages.fraisPaypal);
+    const auto apres = TextesTarifs::frais(*contexte.verifications.nouveauxFrais());
     for (qsizetype i = 0; i < avant.size(); ++i)
         colonne->addWidget(ligne(avant[i], apres[i]));
     colonne->addStretch(1);
     composer(page, QStringLiteral("Enregistrer ces frais"),
-             [&catalogue, &verifications] { verifications.accepterFrais(catalogue); });
+             [&verifications = contexte.verifications] { verifications.accepterFrais(); });
     prendreLaTaille(taille);
 }

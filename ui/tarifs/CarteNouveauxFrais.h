@@ -2,8 +2,7 @@
 
 #include "ui/tarifs/FeuilleDeReleve.h"
 
-class Catalogue;
-class Verifications;
+struct Contexte;
 
 // PayPal's fees in use beside those that its page shows, and the choice to keep them.
 class CarteNouveauxFrais : public FeuilleDeReleve
@@ -12,5 +11,5 @@ class CarteNouveauxFrais : public FeuilleDeReleve
 
 public:
     // To be opened while a reading is held.
-    CarteNouveauxFrais(Catalogue &catalogue, Verifications &verifications, QWidget *parent = nullptr);
+    explicit CarteNouveauxFrais(const Contexte &contexte, QWidget *parent = nullptr);
 };

@@ -7,6 +7,7 @@
 #include "composants/PageAuClavier.h"
 #include "composants/RangeeDeTableau.h"
 #include "textes/TextesVerifications.h"
+#include "ui/Contexte.h"
 
 #include <QStyle>
 #include <QVBoxLayout>
@@ -59,11 +60,11 @@ QWidget *tableau(const QList<TextesVerifications::Ecart> &ecarts)
 
 } // namespace
 
-CarteNouveauxTarifs::CarteNouveauxTarifs(Catalogue &catalogue, Verifications &verifications, QWidget *parent)
+CarteNouveauxTarifs::CarteNouveauxTarifs(const Contexte &contexte, QWidget *parent)
     : FeuilleDeReleve(QStringLiteral("Nouveaux tarifs Colissimo"), parent)
 {
-    const ReleveColissimo &releve = *verifications.nouveauxTarifs();
-    const auto ecarts = EcartTarif::duReleve(catalogue.donnees(), releve.tarifs);
+    const ReleveColissimo &releve = *contexte.verifications.nouveauxTarifs();
+    const auto ecarts = EcartTarif::duReleve(contexte.donnees(), releve.tarifs);
     if (ecarts.isEmpty()) {
         composerVide(new EtatVide(QStringLiteral("checkmark.seal"), QStringLiteral("Pas de changement"),
                                   QStringLiteral("Les tarifs de laposte.fr sont ceux de l’app.")));
@@ -102,6 +103,6 @@ CarteNouveauxTarifs::CarteNouveauxTarifs(Catalogue &catalogue, Verifications &ve
     colonne->addWidget(filet(Qt::Horizontal));
     colonne->addWidget(compte);
     composer(page, QStringLiteral("Enregistrer ces tarifs"),
-             [&catalogue, &verifications] { verifications.accepterTarifs(catalogue); });
+             [&verifications = contexte.verifications] { verifications.accepterTarifs(); });
     prendreLaTaille(taille);
 }

@@ -2,8 +2,7 @@
 
 #include "ui/tarifs/FeuilleDeReleve.h"
 
-class Catalogue;
-class Verifications;
+struct Contexte;
 
 // What La Poste's page changes, tier by tier, and the choice to keep it.
 class CarteNouveauxTarifs : public FeuilleDeReleve
@@ -12,5 +11,5 @@ class CarteNouveauxTarifs : public FeuilleDeReleve
 
 public:
     // To be opened while a reading is held.
-    CarteNouveauxTarifs(Catalogue &catalogue, Verifications &verifications, QWidget *parent = nullptr);
+    explicit CarteNouveauxTarifs(const Contexte &contexte, QWidget *parent = nullptr);
 };

@@ -6,10 +6,8 @@
 #include "composants/PageAuClavier.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
-#include "model/Catalogue.h"
-#include "model/Commande.h"
 #include "textes/TextesVerifications.h"
-#include "ui/JourCourant.h"
+#include "ui/Contexte.h"
 #include "ui/tarifs/CarteFamille.h"
 #include "ui/tarifs/CarteNouveauxFrais.h"
 #include "ui/tarifs/CarteNouveauxTarifs.h"
@@ -61,13 +59,9 @@ QWidget *tableaux(const QList<TextesTarifs::Famille> &familles, const QList<Text
 
 } // namespace
 
-VueTarifs::VueTarifs(Catalogue &catalogue, const Commande &commande, Verifications &verifications,
-                     const JourCourant &jour, QWidget *parent)
-    : QWidget(parent),
-      catalogue_(catalogue),
-      commande_(commande),
-      verifications_(verifications),
-      jour_(jour),
+VueTarifs::VueTarifs(const Contexte &contexte, QWidget *parent)
+    : EcranDeRubrique(parent),
+      contexte_(contexte),
       enTete_(new EnTete(QStringLiteral("Tarifs Colissimo"))),
       choix_(new ChoixTarifs),
       laPoste_(new LigneVerification(QStringLiteral("Tarifs Colissimo"))),
@@ -99,11 +93,11 @@ VueTarifs::VueTarifs(Catalogue &catalogue, const Commande &commande, Verificatio
     colonne->addWidget(defilement, 1);
     enTete_->ajouter(choix_);
     connect(choix_, &ChoixTarifs::choisi, this, &VueTarifs::actualiser);
-    connect(&catalogue_, &Catalogue::change, this, &VueTarifs::actualiser);
-    connect(&jour_, &JourCourant::change, this, &VueTarifs::actualiser);
-    connect(&jour_, &JourCourant::retour, this, &VueTarifs::actualiser);
-    connect(&commande_, &Commande::change, this, &VueTarifs::actualiser);
-    connect(&verifications_, &Verifications::change, this, &VueTarifs::actualiser);
+    connect(&contexte_.catalogue, &Catalogue::change, this, &VueTarifs::actualiser);
+    connect(&contexte_.jour, &JourCourant::change, this, &VueTarifs::actualiser);
+    connect(&contexte_.jour, &JourCourant::retour, this, &VueTarifs::actualiser);
+    connect(&contexte_.commande, &Commande::change, this, &VueTarifs::actualiser);
+    connect(&contexte_.verifications, &Verifications::change, this, &VueTarifs::actualiser);
 }
 
 QWidget *VueTarifs::controles()
@@ -118,14 +112,13 @@ QWidget *VueTarifs::controles()
     colonne->addWidget(Libelle::titreDeSection(QStringLiteral("Vérifications")));
     colonne->addWidget(groupe);
     colonne->addWidget(Libelle::note(TextesVerifications::rythme()));
-    connect(laPoste_, &LigneVerification::verificationDemandee, this,
-            [this] { verifications_.verifierLaPoste(catalogue_); });
-    connect(paypal_, &LigneVerification::verificationDemandee, this,
-            [this] { verifications_.verifierPaypal(catalogue_); });
+    Verifications &verifications = contexte_.verifications;
+    connect(laPoste_, &LigneVerification::verificationDemandee, &verifications, &Verifications::verifierLaPoste);
+    connect(paypal_, &LigneVerification::verificationDemandee, &verifications, &Verifications::verifierPaypal);
     connect(laPoste_, &LigneVerification::changementsDemandes, this,
-            [this] { (new CarteNouveauxTarifs(catalogue_, verifications_, window()))->ouvrir(); });
+            [this] { (new CarteNouveauxTarifs(contexte_, window()))->ouvrir(); });
     connect(paypal_, &LigneVerification::changementsDemandes, this,
-            [this] { (new CarteNouveauxFrais(catalogue_, verifications_, window()))->ouvrir(); });
+            [this] { (new CarteNouveauxFrais(contexte_, window()))->ouvrir(); });
     return section;
 }
 
@@ -133,20 +126,20 @@ void VueTarifs::actualiser()
 {
     if (!isVisible())
         return; // up to date again when it shows
-    const QDate jour = jour_.aujourdhui();
-    choix_->actualiser(catalogue_.donnees(), jour);
+    const QDate jour = contexte_.jour.aujourdhui();
+    choix_->actualiser(contexte_.donnees(), jour);
     const TarifsColissimo &tarifs = choix_->tarifs();
     enTete_->setSousTitre(choix_->montreLesSuivants() ? TextesTarifs::aPartirDu(tarifs)
                                                       : TextesTarifs::enVigueur(tarifs));
-    laPoste_->montrer(TextesVerifications::laPoste(verifications_, catalogue_.donnees(), jour));
-    paypal_->montrer(TextesVerifications::paypal(verifications_, catalogue_.donnees()));
+    laPoste_->montrer(TextesVerifications::laPoste(contexte_.verifications, contexte_.donnees(), jour));
+    paypal_->montrer(TextesVerifications::paypal(contexte_.verifications, contexte_.donnees()));
 
     // What says the same stays: the page keeps its place.
     std::optional<Calcul> enCours;
-    if (!commande_.bon().estVide())
-        enCours = Calcul::de(catalogue_.donnees(), commande_.bon(), jour);
+    if (!contexte_.bon().estVide())
+        enCours = contexte_.calcul();
     const auto familles = TextesTarifs::familles(tarifs, enCours);
-    const auto frais = TextesTarifs::frais(catalogue_.donnees().reglages.fraisPaypal);
+    const auto frais = TextesTarifs::frais(contexte_.donnees().reglages.fraisPaypal);
     if (tableaux_ && familles == familles_ && frais == frais_)
         return;
     familles_ = familles;
@@ -159,6 +152,6 @@ void VueTarifs::actualiser()
 
 void VueTarifs::showEvent(QShowEvent *evenement)
 {
-    QWidget::showEvent(evenement);
+    EcranDeRubrique::showEvent(evenement);
     actualiser();
 }

@@ -1,26 +1,20 @@
 #pragma once
 
 #include "textes/TextesTarifs.h"
+#include "ui/Rubriques.h"
 
-#include <QWidget>
-
-class Catalogue;
 class ChoixTarifs;
-class Commande;
 class EnTete;
-class JourCourant;
 class LigneVerification;
 class QVBoxLayout;
-class Verifications;
 
 // The schedule in force or the next one, PayPal's fees, and the two weekly checks.
-class VueTarifs : public QWidget
+class VueTarifs : public EcranDeRubrique
 {
     Q_OBJECT
 
 public:
-    VueTarifs(Catalogue &catalogue, const Commande &commande, Verifications &verifications, const JourCourant &jour,
-              QWidget *parent = nullptr);
+    explicit VueTarifs(const Contexte &contexte, QWidget *parent = nullptr);
 
 protected:
     void showEvent(QShowEvent *evenement) override;
@@ -29,10 +23,7 @@ private:
     QWidget *controles();
     void actualiser();
 
-    Catalogue &catalogue_;
-    const Commande &commande_;
-    Verifications &verifications_;
-    const JourCourant &jour_;
+    const Contexte &contexte_;
     EnTete *enTete_;
     ChoixTarifs *choix_;
     LigneVerification *laPoste_;

@@ -1,0 +1,30 @@
+#include "documents/EmissionFacture.h"
+
+QString EmissionFacture::numero(const QString &saisi, Vendeur vendeur, QDate jour)
+{
+    const bool aJour = NumerotationFactures::rapport(saisi, jour) == NumerotationFactures::Rapport::dansLaSerie;
+    if (saisi != propose_ || aJour)
+        return saisi;
+    try {
+        propose_ = numerotation_.prochain(vendeur, jour);
+        obstacle_.clear();
+    } catch (const ErreurStockage &erreur) {
+        propose_.clear();
+        obstacle_ = QStringLiteral("Le dernier numéro n’a pas pu être lu.\n%1").arg(erreur.texte());
+    }
+    return propose_;
+}
+
+bool EmissionFacture::emettre(const Facture &facture, Vendeur vendeur,
+                              const std::function<bool(const Facture &)> &sortir)
+{
+    if (!sortir(facture))
+        return false;
+    try {
+        numerotation_.retenir(facture.numero, vendeur);
+    } catch (const ErreurStockage &erreur) {
+        throw Echec(QStringLiteral("La facture %1 est partie, mais son numéro n’a pas été retenu.\n%2")
+                        .arg(facture.numero, erreur.texte()));
+    }
+    return true;
+}
