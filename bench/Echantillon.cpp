@@ -4,6 +4,8 @@
 
 #include <QFile>
 
+namespace Quillet {
+
 namespace {
 
 void relier(const QString &fichier, const QString &lien)
@@ -40,3 +42,5 @@ Echantillon::Echantillon(int nombre, Images images) : ressources_(QDir(dossier_.
     }
     Stockage(partage).ecrire(livres, QStringLiteral("livres.json"));
 }
+
+} // namespace Quillet

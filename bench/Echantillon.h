@@ -6,6 +6,8 @@
 
 #include <QTemporaryDir>
 
+namespace Quillet {
+
 // A catalogue and the folder of its user, both for the time of a measurement.
 class Echantillon
 {
@@ -29,3 +31,5 @@ private:
     QTemporaryDir dossier_;
     Ressources ressources_;
 };
+
+} // namespace Quillet

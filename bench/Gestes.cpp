@@ -11,6 +11,8 @@
 #include <QMenuBar>
 #include <QTest>
 
+namespace Quillet {
+
 namespace {
 
 void rienAPreparer(Scene &) {}
@@ -184,3 +186,5 @@ QList<Gestes::Geste> Gestes::ecrans()
     return {{QStringLiteral("tarifs"), QStringLiteral("Écran des tarifs"), composer, allerAuxTarifs},
             {QStringLiteral("livres"), QStringLiteral("Écran des livres"), rienAPreparer, allerAuxLivres}};
 }
+
+} // namespace Quillet

@@ -3,6 +3,8 @@
 #include <QList>
 #include <QString>
 
+namespace Quillet {
+
 class Couverture;
 class Scene;
 
@@ -28,3 +30,5 @@ QList<Geste> ecrans();
 QList<Couverture *> couverturesVisibles(Scene &scene);
 
 } // namespace Gestes
+
+} // namespace Quillet

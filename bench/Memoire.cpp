@@ -4,6 +4,8 @@
 
 #include <malloc.h>
 
+namespace Quillet {
+
 namespace {
 
 double champ(const char *nom)
@@ -34,3 +36,5 @@ double Memoire::auPlusHaut()
 {
     return champ("VmHWM:");
 }
+
+} // namespace Quillet

@@ -1,5 +1,7 @@
 #pragma once
 
+namespace Quillet {
+
 // What this process holds, in KiB.
 namespace Memoire {
 
@@ -8,3 +10,5 @@ double residente();  // of the machine's memory
 double auPlusHaut(); // the most it was
 
 } // namespace Memoire
+
+} // namespace Quillet

@@ -5,6 +5,8 @@
 
 #include <chrono>
 
+namespace Quillet {
+
 namespace {
 
 using Horloge = std::chrono::steady_clock;
@@ -67,3 +69,5 @@ QList<Releve> mesurerCalcul()
              .reference = mille.mediane * nsParUs / petit,
              .but = 2}};
 }
+
+} // namespace Quillet

@@ -3,6 +3,8 @@
 
 #include <chrono>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int repetitions = 15;
@@ -58,3 +60,5 @@ QList<Releve> mesurerDepart()
             comparer(QStringLiteral("mémoire, couvertures peintes"), mio, &Departs::memoire, 1.7),
             comparer(QStringLiteral("mémoire au plus haut"), mio, &Departs::memoireAuPlusHaut, 1.7)};
 }
+
+} // namespace Quillet

@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 constexpr double uneImage = 16; // ms
@@ -78,3 +80,5 @@ QList<Releve> mesurerEcran(Temoin &temoin)
     return parTaille(uneImage, mesurer(Scene(temoin, livre), QStringLiteral("catalogue livré")), mesurer(temoin, 300),
                      mesurer(temoin, 2'000));
 }
+
+} // namespace Quillet

@@ -6,6 +6,8 @@
 
 #include <chrono>
 
+namespace Quillet {
+
 QList<Releve> mesurerFacture()
 {
     using Horloge = std::chrono::steady_clock;
@@ -40,3 +42,5 @@ QList<Releve> mesurerFacture()
              .mediane = static_cast<double>(pdf.size()) / unKio,
              .but = 40}};
 }
+
+} // namespace Quillet

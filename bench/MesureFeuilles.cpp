@@ -2,6 +2,8 @@
 #include "bench/Mesures.h"
 #include "bench/Programme.h"
 
+namespace Quillet {
+
 namespace {
 
 constexpr int processus = 7;
@@ -38,3 +40,5 @@ QList<Releve> mesurerFeuilles()
     releves += mesurer(livres, livres.enMots + QStringLiteral(", 2 000 livres"), 2'000, std::nullopt);
     return releves;
 }
+
+} // namespace Quillet

@@ -8,6 +8,8 @@
 #include <QListView>
 #include <QTest>
 
+namespace Quillet {
+
 namespace {
 
 constexpr double uneImage = 16; // ms
@@ -103,3 +105,5 @@ QList<Releve> mesurerLivres(Temoin &temoin)
     return parTaille(uneImage, mesurer(temoin, Echantillon(), QStringLiteral("catalogue livré")), mesurer(temoin, 300),
                      mesurer(temoin, 2'000));
 }
+
+} // namespace Quillet

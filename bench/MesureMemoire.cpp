@@ -9,6 +9,8 @@
 #include <QAbstractButton>
 #include <QTest>
 
+namespace Quillet {
+
 namespace {
 
 // What is held may move a little with the pictures that happen to be cached.
@@ -138,3 +140,5 @@ QList<Releve> mesurerMemoire(Temoin &temoin)
         releves += repeter(temoin, ecran, 200);
     return releves;
 }
+
+} // namespace Quillet

@@ -15,6 +15,8 @@
 #include <chrono>
 #include <functional>
 
+namespace Quillet {
+
 namespace {
 
 const QDate jour(2026, 3, 2);
@@ -209,3 +211,5 @@ QList<Releve> mesurerPages()
     };
     return releves + mesurerHostiles();
 }
+
+} // namespace Quillet

@@ -2,6 +2,8 @@
 
 #include "bench/Releve.h"
 
+namespace Quillet {
+
 class Temoin;
 
 // From the start of a process to its painted window, beside an empty one; in milliseconds and MiB.
@@ -19,3 +21,5 @@ QList<Releve> mesurerCalcul();
 QList<Releve> mesurerFacture();
 // The two pages of the tariff watch, and pages made to be slow, in milliseconds.
 QList<Releve> mesurerPages();
+
+} // namespace Quillet

@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QProcess>
 
+namespace Quillet {
+
 QList<double> Programme::valeurs(const QString &nom, const QStringList &arguments)
 {
     QProcess enfant;
@@ -15,3 +17,5 @@ QList<double> Programme::valeurs(const QString &nom, const QStringList &argument
         valeurs.append(valeur.toDouble());
     return valeurs;
 }
+
+} // namespace Quillet

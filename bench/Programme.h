@@ -3,6 +3,8 @@
 #include <QList>
 #include <QStringList>
 
+namespace Quillet {
+
 // The programs that stand beside this one.
 namespace Programme {
 
@@ -10,3 +12,5 @@ namespace Programme {
 QList<double> valeurs(const QString &nom, const QStringList &arguments);
 
 } // namespace Programme
+
+} // namespace Quillet

@@ -6,6 +6,8 @@
 #include <array>
 #include <cmath>
 
+namespace Quillet {
+
 namespace {
 
 using Rangee = std::array<QString, 7>;
@@ -88,3 +90,5 @@ QString tableau(const QList<Releve> &releves, Forme forme)
     }
     return texte;
 }
+
+} // namespace Quillet

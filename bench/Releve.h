@@ -5,6 +5,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // One row of the report: what was measured, and what it is held against.
 struct Releve
 {
@@ -26,3 +28,5 @@ QList<Releve> parTaille(double but, QList<Releve> peu, QList<Releve> beaucoup, Q
 enum class Forme { texte, markdown };
 // The whole report, as one table.
 QString tableau(const QList<Releve> &releves, Forme forme);
+
+} // namespace Quillet

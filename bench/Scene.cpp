@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <thread>
 
+namespace Quillet {
+
 namespace {
 
 using namespace std::chrono_literals;
@@ -170,3 +172,5 @@ QList<double> Scene::defiler(QAbstractScrollArea &zone, int crans)
     }
     return durees;
 }
+
+} // namespace Quillet

@@ -9,6 +9,8 @@
 
 class QAbstractScrollArea;
 
+namespace Quillet {
+
 // The real window on the bench's own data and day, worked through the window system's events. Both public pages
 // announce changes, and where updates should be there is nothing.
 class Scene
@@ -49,3 +51,5 @@ private:
     QuilletApp quillet_;
     Fenetre &fenetre_;
 };
+
+} // namespace Quillet

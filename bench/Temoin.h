@@ -8,6 +8,8 @@
 #include <chrono>
 #include <optional>
 
+namespace Quillet {
+
 // An application that notes when its windows have been painted and handed to the display.
 class Temoin : public QApplication
 {
@@ -60,3 +62,5 @@ private:
     std::optional<Horloge::time_point> premiere_;
     std::optional<Horloge::time_point> derniere_;
 };
+
+} // namespace Quillet

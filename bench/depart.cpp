@@ -10,6 +10,8 @@
 
 #include <cstdio>
 
+using namespace Quillet;
+
 // bench-depart vide|quillet <start, in nanoseconds of the monotonic clock>: opens one window, waits until it stops
 // changing, prints when its first and last images were done (ms) and what memory it holds and held (KiB), and leaves.
 namespace {

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cstdio>
 
+using namespace Quillet;
+
 // bench-gestes <gesture> <times> [books]: plays one gesture over and over in a window of its own, prints the
 // milliseconds of each. The first one finds nothing in memory of what it needs.
 int main(int argc, char **argv)

@@ -8,6 +8,8 @@
 
 #include <cstdio>
 
+using namespace Quillet;
+
 namespace {
 
 // The user's files and the lock of a program that runs are none of our business; a display is not required.

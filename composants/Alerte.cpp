@@ -9,6 +9,8 @@
 #include <QHBoxLayout>
 #include <QPainter>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int espace = 8;
@@ -64,3 +66,5 @@ void Alerte::paintEvent(QPaintEvent *)
     const QColor couleur = ton_ == Ton::avertissement ? Theme::orange(palette()) : Theme::secondaire(palette());
     Icone::peindre(peintre, symbole_, QRectF(0, haut, coteSymbole(), coteSymbole()), couleur);
 }
+
+} // namespace Quillet

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QWidget>
 
+namespace Quillet {
+
 class Libelle;
 
 // A line set off by a symbol: orange for a warning, quiet for a note.
@@ -29,3 +31,5 @@ private:
     Ton ton_;
     Libelle *texte_;
 };
+
+} // namespace Quillet

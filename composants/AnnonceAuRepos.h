@@ -7,6 +7,8 @@
 
 class QWidget;
 
+namespace Quillet {
+
 // Has a text spoken once it has come to rest: `start` at each change, while somebody still types or clicks.
 class AnnonceAuRepos : public QTimer
 {
@@ -15,3 +17,5 @@ class AnnonceAuRepos : public QTimer
 public:
     AnnonceAuRepos(QWidget *origine, const std::function<QString()> &texte);
 };
+
+} // namespace Quillet

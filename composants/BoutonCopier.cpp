@@ -8,6 +8,8 @@
 
 using namespace std::chrono_literals;
 
+namespace Quillet {
+
 BoutonCopier::BoutonCopier(QWidget *parent) : QToolButton(parent)
 {
     setAutoRaise(true);
@@ -41,3 +43,5 @@ void BoutonCopier::montrerEtat()
     const bool copie = retour_.isActive();
     setIcon(Icone::icone(copie ? QStringLiteral("checkmark.circle.fill") : QStringLiteral("doc.on.doc")));
 }
+
+} // namespace Quillet

@@ -3,6 +3,8 @@
 #include <QTimer>
 #include <QToolButton>
 
+namespace Quillet {
+
 // Puts a value on the clipboard, and shows a check mark for a moment to say so.
 class BoutonCopier : public QToolButton
 {
@@ -20,3 +22,5 @@ private:
     QString valeur_;
     QTimer retour_; // runs while the check mark shows
 };
+
+} // namespace Quillet

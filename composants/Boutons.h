@@ -4,9 +4,9 @@
 
 class QPushButton;
 
-namespace Boutons {
+namespace Quillet::Boutons {
 
 // A button of a sheet, which never becomes its default one by having the focus.
 QPushButton *deFeuille(const QString &texte, const QString &symbole = {});
 
-} // namespace Boutons
+} // namespace Quillet::Boutons

@@ -7,6 +7,8 @@
 
 #include <QHBoxLayout>
 
+namespace Quillet {
+
 ChampACopier::ChampACopier(const QString &titre, std::optional<int> colonneDuTitre, QWidget *parent)
     : QWidget(parent), titre_(titre), affichage_(new Libelle({})), bouton_(new BoutonCopier)
 {
@@ -44,3 +46,5 @@ void ChampACopier::montrer(const QString &valeur, const QString &affichage)
     bouton_->setAccessibleName(QStringLiteral("Copier %1").arg(titre_.isEmpty() ? valeur : titre_));
     bouton_->setAccessibleDescription(titre_.isEmpty() ? QStringLiteral("suite") : affiche);
 }
+
+} // namespace Quillet

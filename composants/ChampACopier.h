@@ -4,6 +4,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 class BoutonCopier;
 class Libelle;
 
@@ -26,3 +28,5 @@ private:
     Libelle *affichage_;
     BoutonCopier *bouton_;
 };
+
+} // namespace Quillet

@@ -9,6 +9,8 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
+namespace Quillet {
+
 ChampSaisi::ChampSaisi(const QString &libelle, const Unite &unite, Refus refus, QWidget *parent)
     : QWidget(parent), refus_(std::move(refus)), champ_(new LigneDeTexte), alerte_(new Alerte)
 {
@@ -96,3 +98,5 @@ void ChampSaisi::hideEvent(QHideEvent *evenement)
     QWidget::hideEvent(evenement);
     conclure();
 }
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 
 #include <functional>
 
+namespace Quillet {
+
 class Alerte;
 class LigneDeTexte;
 
@@ -48,3 +50,5 @@ private:
     LigneDeTexte *champ_;
     Alerte *alerte_;
 };
+
+} // namespace Quillet

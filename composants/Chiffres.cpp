@@ -3,6 +3,8 @@
 #include <QFontMetrics>
 #include <QPainter>
 
+namespace Quillet {
+
 int Chiffres::largeur(const QFontMetrics &mesures, QChar caractere)
 {
     return mesures.horizontalAdvance(caractere.isDigit() ? QChar(u'0') : caractere);
@@ -46,3 +48,5 @@ void Chiffres::peindre(QPainter &peintre, const QRectF &cadre, Qt::Alignment ali
         x += largeur(mesures, caractere);
     }
 }
+
+} // namespace Quillet

@@ -7,6 +7,8 @@ class QFontMetrics;
 class QPainter;
 class QRectF;
 
+namespace Quillet {
+
 // Figures in cells of one width, so that they line up whatever the font's own digits do.
 namespace Chiffres {
 
@@ -20,3 +22,5 @@ void peindre(QPainter &peintre, QChar caractere, double x, double ligneDeBase);
 void peindre(QPainter &peintre, const QRectF &cadre, Qt::Alignment alignement, const QString &texte);
 
 } // namespace Chiffres
+
+} // namespace Quillet

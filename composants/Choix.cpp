@@ -7,6 +7,8 @@
 #include <QStyleOptionComboBox>
 #include <QWheelEvent>
 
+namespace Quillet {
+
 Choix::Choix(QWidget *parent) : QComboBox(parent)
 {
     setFocusPolicy(Qt::StrongFocus); // the wheel must not take the focus either
@@ -60,3 +62,5 @@ void Choix::prendre(const QModelIndex &ligne)
     hidePopup();
     emit activated(ligne.row());
 }
+
+} // namespace Quillet

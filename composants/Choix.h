@@ -2,6 +2,8 @@
 
 #include <QComboBox>
 
+namespace Quillet {
+
 class SelectionDuLecteur;
 
 // A pop-up choice keyed by texts. The wheel scrolls the page, it never changes the choice by accident.
@@ -31,3 +33,5 @@ private:
 
     SelectionDuLecteur *lecteur_ = nullptr; // from the first opening on
 };
+
+} // namespace Quillet

@@ -13,6 +13,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace Quillet {
+
 namespace {
 
 // Readers of the time of Qt 6.8 say the name of a choice with its radio button, and again if it is a group; earlier
@@ -187,3 +189,5 @@ void ChoixSegmente::paintEvent(QPaintEvent *)
     }
     peintre.drawRoundedRect(choisi, rayon, rayon);
 }
+
+} // namespace Quillet

@@ -5,6 +5,9 @@
 #include <QWidget>
 
 class QRadioButton;
+
+namespace Quillet {
+
 class Ressort;
 
 // A few choices side by side in a capsule; one highlight slides from choice to choice.
@@ -46,3 +49,5 @@ private:
     Ressort *position_;
     bool montre_ = false; // while `montrer` checks a button
 };
+
+} // namespace Quillet

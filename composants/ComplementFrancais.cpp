@@ -2,6 +2,8 @@
 
 #include <QHash>
 
+namespace Quillet {
+
 QString ComplementFrancais::translate(const char *contexte, const char *texte, const char *, int) const
 {
     if (qstrcmp(contexte, "QPrintSettingsOutput") != 0)
@@ -14,3 +16,5 @@ QString ComplementFrancais::translate(const char *contexte, const char *texte, c
     };
     return textes.value(texte);
 }
+
+} // namespace Quillet

@@ -2,6 +2,8 @@
 
 #include <QTranslator>
 
+namespace Quillet {
+
 // What Qt's own French leaves in English, in its printing dialog.
 class ComplementFrancais : public QTranslator
 {
@@ -14,3 +16,5 @@ public:
     [[nodiscard]] QString translate(const char *contexte, const char *texte, const char *precision,
                                     int nombre) const override;
 };
+
+} // namespace Quillet

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 Defilement::Defilement(QWidget *parent) : QScrollArea(parent)
 {
     setFrameShape(QFrame::NoFrame);
@@ -36,3 +38,5 @@ bool Defilement::eventFilter(QObject *objet, QEvent *evenement)
         updateGeometry();
     return QScrollArea::eventFilter(objet, evenement);
 }
+
+} // namespace Quillet

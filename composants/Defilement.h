@@ -2,6 +2,8 @@
 
 #include <QScrollArea>
 
+namespace Quillet {
+
 // A page that scrolls downward only, as wide as its place, which is never narrower than it needs.
 class Defilement : public QScrollArea
 {
@@ -14,3 +16,5 @@ public:
 protected:
     bool eventFilter(QObject *objet, QEvent *evenement) override;
 };
+
+} // namespace Quillet

@@ -11,6 +11,8 @@
 #include <numbers>
 #include <vector>
 
+namespace Quillet {
+
 QColor Dessin::melange(const QColor &a, const QColor &b, double part)
 {
     const auto p = static_cast<float>(std::clamp(part, 0.0, 1.0));
@@ -114,3 +116,5 @@ QPixmap Dessin::ombre(const QSizeF &taille, qreal rayon, const QColor &couleur, 
     image.setDevicePixelRatio(densite);
     return QPixmap::fromImage(std::move(image));
 }
+
+} // namespace Quillet

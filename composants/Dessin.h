@@ -9,6 +9,8 @@
 class QPainter;
 class QWidget;
 
+namespace Quillet {
+
 // Shapes that several widgets paint alike.
 namespace Dessin {
 
@@ -49,3 +51,5 @@ void ombreDouce(QPainter &peintre, const QRectF &capsule);
 QPixmap ombre(const QSizeF &taille, qreal rayon, const QColor &couleur, qreal densite);
 
 } // namespace Dessin
+
+} // namespace Quillet

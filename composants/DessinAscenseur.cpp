@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 QRect poignee(const QStyleOptionSlider &option)
@@ -56,3 +58,5 @@ QRect DessinAscenseur::partie(const QStyleOptionSlider &option, QStyle::SubContr
         return {};
     }
 }
+
+} // namespace Quillet

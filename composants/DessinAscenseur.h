@@ -5,6 +5,8 @@
 class QPainter;
 class QStyleOptionSlider;
 
+namespace Quillet {
+
 // A slim scroll bar: a handle alone, without buttons at its ends.
 namespace DessinAscenseur {
 
@@ -14,3 +16,5 @@ void peindre(QPainter &peintre, const QStyleOptionSlider &option);
 QRect partie(const QStyleOptionSlider &option, QStyle::SubControl partie);
 
 } // namespace DessinAscenseur
+
+} // namespace Quillet

@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+namespace Quillet {
+
 EnTete::EnTete(const QString &titre, QWidget *parent)
     : QWidget(parent), sousTitre_(new Libelle({}, Libelle::Rang::secondaire)), rangee_(new QHBoxLayout(this))
 {
@@ -37,3 +39,5 @@ void EnTete::paintEvent(QPaintEvent *)
 {
     QPainter(this).fillRect(0, height() - 1, width(), 1, Theme::filet(palette()));
 }
+
+} // namespace Quillet

@@ -2,8 +2,11 @@
 
 #include <QWidget>
 
-class Libelle;
 class QHBoxLayout;
+
+namespace Quillet {
+
+class Libelle;
 
 // The head of a screen: its title, a line under it, its commands on the right.
 class EnTete : public QWidget
@@ -22,3 +25,5 @@ private:
     Libelle *sousTitre_;
     QHBoxLayout *rangee_;
 };
+
+} // namespace Quillet

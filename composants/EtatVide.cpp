@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int largeurDuTexte = 340;
@@ -61,3 +63,5 @@ void EtatVide::paintEvent(QPaintEvent *)
     QPainter peintre(this);
     Icone::peindre(peintre, symbole_, place_->geometry(), Theme::secondaire(palette()));
 }
+
+} // namespace Quillet

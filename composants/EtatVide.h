@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+namespace Quillet {
+
 class Libelle;
 
 // What stands in place of a screen that has nothing to show: a symbol, a title, the reason.
@@ -24,3 +26,5 @@ private:
     Libelle *titre_;
     Libelle *raison_;
 };
+
+} // namespace Quillet

@@ -9,6 +9,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+namespace Quillet {
+
 Feuille::Feuille(const QString &titre, QWidget *parent) : QDialog(parent)
 {
     setWindowTitle(titre);
@@ -60,3 +62,5 @@ QWidget *Feuille::filet(Qt::Orientation sens)
     filet->setBackgroundRole(QPalette::Mid);
     return filet;
 }
+
+} // namespace Quillet

@@ -2,6 +2,8 @@
 
 #include <QDialog>
 
+namespace Quillet {
+
 // A sheet over the window; Escape closes it.
 class Feuille : public QDialog
 {
@@ -21,3 +23,5 @@ protected:
     static QWidget *filet(Qt::Orientation sens);
     void keyPressEvent(QKeyEvent *evenement) override;
 };
+
+} // namespace Quillet

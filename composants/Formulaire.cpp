@@ -11,7 +11,7 @@
 
 #include <utility>
 
-namespace Formulaire {
+namespace Quillet::Formulaire {
 
 namespace {
 
@@ -167,4 +167,4 @@ QWidget *seul(QWidget *controle)
     return rangee;
 }
 
-} // namespace Formulaire
+} // namespace Quillet::Formulaire

@@ -2,8 +2,11 @@
 
 #include <QWidget>
 
-class Libelle;
 class QVBoxLayout;
+
+namespace Quillet {
+
+class Libelle;
 
 // A grouped form: titled sections, each a raised group of rows parted by hairlines.
 namespace Formulaire {
@@ -78,3 +81,5 @@ inline constexpr int margeHorizontale = 14;
 inline constexpr int margeVerticale = 9;
 
 } // namespace Formulaire
+
+} // namespace Quillet

@@ -7,6 +7,8 @@
 #include <QPixmapCache>
 #include <QSvgRenderer>
 
+namespace Quillet {
+
 namespace {
 
 // Read once a size, in the file's own colour.
@@ -76,3 +78,5 @@ QIcon Icone::icone(const QString &symbole)
 {
     return QIcon(new Moteur(symbole));
 }
+
+} // namespace Quillet

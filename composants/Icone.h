@@ -6,6 +6,8 @@
 
 class QPainter;
 
+namespace Quillet {
+
 // Our own one-colour symbols, by their keys ("shippingbox", "minus"…), sharp at any pixel density.
 namespace Icone {
 
@@ -14,3 +16,5 @@ void peindre(QPainter &peintre, const QString &symbole, const QRectF &cadre, con
 QIcon icone(const QString &symbole);
 
 } // namespace Icone
+
+} // namespace Quillet

@@ -6,6 +6,8 @@
 
 #include <QPainter>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int marge = 3; // room for the focus ring
@@ -55,3 +57,5 @@ void Interrupteur::paintEvent(QPaintEvent *)
         Dessin::anneauDeFocus(peintre, piste.adjusted(-marge, -marge, marge, marge), piste.height() / 2 + marge,
                               Theme::accentTexte(palette()));
 }
+
+} // namespace Quillet

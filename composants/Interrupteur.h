@@ -2,6 +2,8 @@
 
 #include <QCheckBox>
 
+namespace Quillet {
+
 class Ressort;
 
 // An on/off switch; its label stands outside.
@@ -20,3 +22,5 @@ protected:
 private:
     Ressort *position_;
 };
+
+} // namespace Quillet

@@ -7,6 +7,8 @@
 
 using namespace std::chrono_literals;
 
+namespace Quillet {
+
 namespace {
 
 constexpr auto partJouee = "role";
@@ -93,3 +95,5 @@ void LecteurDEcran::annoncer(QWidget *origine, const QString &texte)
     QAccessible::updateAccessibility(&annonce);
 #endif
 }
+
+} // namespace Quillet

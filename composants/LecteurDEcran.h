@@ -5,7 +5,7 @@
 
 class QWidget;
 
-namespace LecteurDEcran {
+namespace Quillet::LecteurDEcran {
 
 // Makes screen readers see the parts that widgets play.
 void preparer();
@@ -17,4 +17,4 @@ void jouer(QWidget *widget, QAccessible::Role role);
 // Has it spoken now: what a gesture changed elsewhere than under the focus.
 void annoncer(QWidget *origine, const QString &texte);
 
-} // namespace LecteurDEcran
+} // namespace Quillet::LecteurDEcran

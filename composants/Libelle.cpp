@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int largeurVoulue = 240; // of a text that wraps
@@ -170,3 +172,5 @@ void Libelle::changeEvent(QEvent *evenement)
     oublier(); // whatever changed, a font or a style, measures may have
     QLabel::changeEvent(evenement);
 }
+
+} // namespace Quillet

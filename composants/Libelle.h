@@ -7,6 +7,8 @@
 
 class QTextDocument;
 
+namespace Quillet {
+
 // A plain text that takes its colour from the palette by its rank, and keeps it when the palette changes.
 class Libelle : public QLabel
 {
@@ -46,3 +48,5 @@ private:
     mutable QHash<int, int> hauteurs_; // by width
     mutable std::optional<int> motLePlusLong_;
 };
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 
 #include <QPainter>
 
+namespace Quillet {
+
 LibelleChiffre::LibelleChiffre(const QString &texte, Rang rang, QWidget *parent) : Libelle(texte, rang, parent)
 {
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -25,3 +27,5 @@ void LibelleChiffre::paintEvent(QPaintEvent *)
     peintre.setPen(palette().color(foregroundRole()));
     Chiffres::peindre(peintre, contentsRect(), alignment(), text());
 }
+
+} // namespace Quillet

@@ -2,6 +2,8 @@
 
 #include "composants/Libelle.h"
 
+namespace Quillet {
+
 // A short text of figures, all of one width, which keeps to the right: amounts one above the other line up.
 class LibelleChiffre : public Libelle
 {
@@ -16,3 +18,5 @@ public:
 protected:
     void paintEvent(QPaintEvent *evenement) override;
 };
+
+} // namespace Quillet

@@ -5,6 +5,8 @@
 #include <QMessageBox>
 #include <QUrl>
 
+namespace Quillet {
+
 void Lien::ouvrir(const QUrl &adresse, QWidget *parent)
 {
     if (adresse.scheme() == QLatin1String("https") && QDesktopServices::openUrl(adresse))
@@ -12,3 +14,5 @@ void Lien::ouvrir(const QUrl &adresse, QWidget *parent)
     QMessageBox::information(parent, QCoreApplication::applicationName(),
                              QStringLiteral("Aucun navigateur n’a ouvert cette page :\n%1").arg(adresse.toString()));
 }
+
+} // namespace Quillet

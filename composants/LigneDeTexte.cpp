@@ -5,6 +5,8 @@
 #include <QRegularExpression>
 #include <QValidator>
 
+namespace Quillet {
+
 namespace {
 
 // QLineEdit keeps line breaks, though it shows none. A validator takes them out before any signal tells of them.
@@ -60,3 +62,5 @@ bool LigneDeTexte::reviendra(const QFocusEvent &perte)
 {
     return perte.reason() == Qt::ActiveWindowFocusReason || perte.reason() == Qt::PopupFocusReason;
 }
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // A line of text that keeps undo and redo to itself only while it has typing of its own, otherwise its screen answers
 // the same keys; and that drops the line breaks that are pasted.
 class LigneDeTexte : public QLineEdit
@@ -26,3 +28,5 @@ private:
 
     std::optional<QString> invite_; // none: the field has a placeholder of another kind, or none
 };
+
+} // namespace Quillet

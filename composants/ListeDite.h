@@ -3,6 +3,8 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 
+namespace Quillet {
+
 // A QListView or a QListWidget of which screen readers are told where the focus is: on its row as soon as the list has
 // it, nowhere in the list as long as it has not. Qt 6.4 tells neither.
 template <typename Liste>
@@ -38,3 +40,5 @@ private:
         QAccessible::updateAccessibility(&ligne);
     }
 };
+
+} // namespace Quillet

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 NombreRoulant::NombreRoulant(QWidget *parent)
     : LibelleChiffre({}, Rang::principal, parent), progres_(new Ressort(Ressorts::action, this))
 {
@@ -56,3 +58,5 @@ void NombreRoulant::paintEvent(QPaintEvent *)
             dessiner(ancien, x, ligne - course * progres, 1 - progres);
     }
 }
+
+} // namespace Quillet

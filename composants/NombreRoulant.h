@@ -2,6 +2,8 @@
 
 #include "composants/LibelleChiffre.h"
 
+namespace Quillet {
+
 class Ressort;
 
 // A short text of digits, all of one width; when it changes, the characters that differ roll over.
@@ -24,3 +26,5 @@ private:
     int sens_ = 1;
     Ressort *progres_;
 };
+
+} // namespace Quillet

@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QScrollBar>
 
+namespace Quillet {
+
 PageAuClavier::PageAuClavier(QWidget *parent) : Defilement(parent)
 {
     LecteurDEcran::jouer(this, QAccessible::Document);
@@ -46,3 +48,5 @@ void PageAuClavier::paintEvent(QPaintEvent *evenement)
     Dessin::anneauDeFocus(peintre, QRectF(viewport()->rect()).adjusted(3, 3, -3, -3), Theme::rayonControle,
                           Theme::accentTexte(palette()));
 }
+
+} // namespace Quillet

@@ -2,6 +2,8 @@
 
 #include "composants/Defilement.h"
 
+namespace Quillet {
+
 // A page that is read more than worked: it takes the focus itself, so that the keys scroll it.
 class PageAuClavier : public Defilement
 {
@@ -16,3 +18,5 @@ protected:
     void focusOutEvent(QFocusEvent *evenement) override;
     void paintEvent(QPaintEvent *evenement) override;
 };
+
+} // namespace Quillet

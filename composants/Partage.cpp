@@ -7,6 +7,8 @@
 
 #include <utility>
 
+namespace Quillet {
+
 QSplitter *Partage::entre(QWidget *gauche, QWidget *droite, QWidget *fixe, int largeur)
 {
     auto *partage = new QSplitter;
@@ -31,3 +33,5 @@ QSplitter *Partage::entre(QWidget *gauche, QWidget *droite, QWidget *fixe, int l
     });
     return partage;
 }
+
+} // namespace Quillet

@@ -3,10 +3,10 @@
 class QSplitter;
 class QWidget;
 
-namespace Partage {
+namespace Quillet::Partage {
 
 // Two panes side by side, read from left to right; neither can be folded away. `fixe`, one of the two, starts at
 // `largeur` and keeps its width when the window grows.
 QSplitter *entre(QWidget *gauche, QWidget *droite, QWidget *fixe, int largeur);
 
-} // namespace Partage
+} // namespace Quillet::Partage

@@ -4,9 +4,9 @@
 
 class QWidget;
 
-namespace Place {
+namespace Quillet::Place {
 
 // What a window may take of its screen, its frame left out: the frame is not known before the window shows.
 QSize surLEcran(const QWidget *fenetre);
 
-} // namespace Place
+} // namespace Quillet::Place

@@ -14,6 +14,8 @@
 
 using namespace std::chrono_literals;
 
+namespace Quillet {
+
 namespace {
 
 constexpr auto pourLire = 100ms; // what was copied just now, by those who were told so then
@@ -87,3 +89,5 @@ void PressePapiers::leguer()
     boucle.exec();
     qGuiApp->removeNativeEventFilter(&reponse);
 }
+
+} // namespace Quillet

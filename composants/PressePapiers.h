@@ -1,5 +1,7 @@
 #pragma once
 
+namespace Quillet {
+
 // What was copied belongs to the program that copied it, and is lost with it unless another program takes it over.
 namespace PressePapiers {
 
@@ -8,3 +10,5 @@ namespace PressePapiers {
 void leguer();
 
 } // namespace PressePapiers
+
+} // namespace Quillet

@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int espace = 12;
@@ -56,3 +58,5 @@ void RangeeDeTableau::paintEvent(QPaintEvent *)
     if (filet_ == Filet::dessus)
         QPainter(this).fillRect(0, 0, width(), 1, Theme::filet(palette()));
 }
+
+} // namespace Quillet

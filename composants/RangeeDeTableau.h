@@ -3,6 +3,8 @@
 #include <QList>
 #include <QWidget>
 
+namespace Quillet {
+
 // A row of a table, under a hairline unless it is the first. Rows that are given the same parts have their columns at
 // the same places.
 class RangeeDeTableau : public QWidget
@@ -33,3 +35,5 @@ private:
     QList<Cellule> cellules_;
     Filet filet_;
 };
+
+} // namespace Quillet

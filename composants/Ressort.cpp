@@ -7,6 +7,8 @@
 #include <cmath>
 #include <numbers>
 
+namespace Quillet {
+
 Ressort::Ressort(Reglage reglage, QWidget *anime, std::function<void(double)> applique)
     : QAbstractAnimation(anime), reglage_(reglage), anime_(anime), applique_(std::move(applique))
 {
@@ -72,3 +74,5 @@ void Ressort::appliquer()
     else
         anime_->update();
 }
+
+} // namespace Quillet

@@ -6,6 +6,8 @@
 
 class QWidget;
 
+namespace Quillet {
+
 // A damped spring that carries one number of a widget toward its target; a new target keeps the speed it has. It jumps
 // at once when the widget cannot be seen or the platform asks for no animation.
 class Ressort : public QAbstractAnimation
@@ -49,3 +51,5 @@ namespace Ressorts {
 inline constexpr Ressort::Reglage action{0.5, 0.85}; // what a click changes
 inline constexpr Ressort::Reglage survol{0.4, 0.72}; // what the pointer lifts
 } // namespace Ressorts
+
+} // namespace Quillet

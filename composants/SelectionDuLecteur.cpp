@@ -2,6 +2,8 @@
 
 #include <QItemSelectionModel>
 
+namespace Quillet {
+
 SelectionDuLecteur::SelectionDuLecteur(const QItemSelectionModel *lignes, QObject *parent) : QObject(parent)
 {
     connect(lignes, &QItemSelectionModel::selectionChanged, this, &SelectionDuLecteur::noter);
@@ -19,3 +21,5 @@ void SelectionDuLecteur::dire()
     if (ligne_.isValid())
         emit prise(ligne_);
 }
+
+} // namespace Quillet

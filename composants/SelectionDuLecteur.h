@@ -6,6 +6,8 @@
 class QItemSelection;
 class QItemSelectionModel;
 
+namespace Quillet {
+
 // The row that a screen reader selects. It does not make it the current one, which lists that follow the current row
 // never hear of; keys and pointer make it current in the same breath, and are not told here.
 class SelectionDuLecteur : public QObject
@@ -24,3 +26,5 @@ private:
 
     QPersistentModelIndex ligne_;
 };
+
+} // namespace Quillet

@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int hauteurControle = 30;
@@ -273,3 +275,5 @@ int Style::styleHint(StyleHint indice, const QStyleOption *option, const QWidget
         return QProxyStyle::styleHint(indice, option, widget, retour);
     }
 }
+
+} // namespace Quillet

@@ -6,6 +6,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // Fusion with the colours and shapes of Theme: hairlines, rounded controls, a clear focus ring, slim scroll bars.
 class Style : public QProxyStyle
 {
@@ -40,3 +42,5 @@ private:
     std::optional<Theme::Mode> mode_;
     Souhaits souhaits_;
 };
+
+} // namespace Quillet

@@ -7,6 +7,8 @@
 
 #include <utility>
 
+namespace Quillet {
+
 namespace {
 
 // Said once all fonts have changed: a widget in between would measure with the old ones.
@@ -83,3 +85,5 @@ void TailleDuTexte::suivre(QWidget *widget, std::function<void()> regle)
 {
     new Suivi(widget, std::move(regle));
 }
+
+} // namespace Quillet

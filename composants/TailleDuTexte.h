@@ -5,6 +5,8 @@
 class QFont;
 class QWidget;
 
+namespace Quillet {
+
 // The size of the text may change while the program runs.
 namespace TailleDuTexte {
 
@@ -15,3 +17,5 @@ void changer(const QFont &police);
 void suivre(QWidget *widget, std::function<void()> regle);
 
 } // namespace TailleDuTexte
+
+} // namespace Quillet

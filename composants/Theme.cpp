@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 struct Teintes
@@ -252,3 +254,5 @@ QFont Theme::enGras(QFont police, QFont::Weight graisse)
     police.setWeight(graisse);
     return police;
 }
+
+} // namespace Quillet

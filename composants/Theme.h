@@ -6,6 +6,8 @@
 #include <QSize>
 #include <QStringList>
 
+namespace Quillet {
+
 // Colours and type shared by every screen: a bookseller's desk, by day and by night.
 namespace Theme {
 
@@ -60,3 +62,5 @@ constexpr int rayonControle = 8;
 constexpr int rayonCouverture = 3;
 
 } // namespace Theme
+
+} // namespace Quillet

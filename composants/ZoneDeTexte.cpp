@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QStyleOption>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int marge = 5;  // above and below the text
@@ -36,3 +38,5 @@ bool ZoneDeTexte::event(QEvent *evenement)
     style()->drawPrimitive(QStyle::PE_PanelLineEdit, &cadre, &peintre, this);
     return true;
 }
+
+} // namespace Quillet

@@ -2,6 +2,8 @@
 
 #include <QPlainTextEdit>
 
+namespace Quillet {
+
 // A field of several lines that looks like the other fields; Tab leaves it.
 class ZoneDeTexte : public QPlainTextEdit
 {
@@ -13,3 +15,5 @@ public:
 protected:
     bool event(QEvent *evenement) override;
 };
+
+} // namespace Quillet

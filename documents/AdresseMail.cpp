@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 bool AdresseMail::estSeule(const QString &texte)
 {
     const QString adresse = texte.trimmed();
@@ -12,3 +14,5 @@ bool AdresseMail::estSeule(const QString &texte)
            && !adresse.contains(QLatin1String("=?")) // an encoded word, which a mail program would read as other text
            && std::ranges::none_of(adresse, interdite);
 }
+
+} // namespace Quillet

@@ -1,5 +1,7 @@
 #include "documents/ArticleDouane.h"
 
+namespace Quillet {
+
 QList<ArticleDouane> articlesDouane(const Calcul &calcul, const QString &codeSH)
 {
     QList<ArticleDouane> articles;
@@ -13,3 +15,5 @@ QList<ArticleDouane> articlesDouane(const Calcul &calcul, const QString &codeSH)
                          .origine = QStringLiteral("France")});
     return articles;
 }
+
+} // namespace Quillet

@@ -5,6 +5,8 @@
 #include <QList>
 #include <QString>
 
+namespace Quillet {
+
 // One line of a customs declaration: a book of the order.
 struct ArticleDouane
 {
@@ -21,3 +23,5 @@ struct ArticleDouane
 
 // In the order of the computation's lines. Descriptions are in English, whatever the buyer's language.
 QList<ArticleDouane> articlesDouane(const Calcul &calcul, const QString &codeSH);
+
+} // namespace Quillet

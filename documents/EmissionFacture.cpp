@@ -1,5 +1,7 @@
 #include "documents/EmissionFacture.h"
 
+namespace Quillet {
+
 QString EmissionFacture::numero(const QString &saisi, Vendeur vendeur, QDate jour)
 {
     const bool aJour = NumerotationFactures::rapport(saisi, jour) == NumerotationFactures::Rapport::dansLaSerie;
@@ -28,3 +30,5 @@ bool EmissionFacture::emettre(const Facture &facture, Vendeur vendeur,
     }
     return true;
 }
+
+} // namespace Quillet

@@ -8,6 +8,8 @@
 #include <functional>
 #include <utility>
 
+namespace Quillet {
+
 // How an invoice gets its number and leaves.
 class EmissionFacture
 {
@@ -29,3 +31,5 @@ private:
     QString propose_; // the last one: while the field holds it, nobody has typed or dictated another
     QString obstacle_;
 };
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 constexpr qsizetype octetsDuNom = 240; // systems stop at 255, and some add a suffix while they write
@@ -66,3 +68,5 @@ QStringList coordonnees(const IdentiteVendeur &vendeur)
         lignes.append(QStringLiteral("SIRET ") + *vendeur.siret);
     return lignes;
 }
+
+} // namespace Quillet

@@ -9,6 +9,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // One sale, as it is invoiced.
 struct Facture
 {
@@ -52,3 +54,5 @@ struct Facture
 
 // The seller's address and registration, one printed line each, without the name.
 QStringList coordonnees(const IdentiteVendeur &vendeur);
+
+} // namespace Quillet

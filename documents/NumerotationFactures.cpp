@@ -6,6 +6,8 @@
 #include <limits>
 #include <optional>
 
+namespace Quillet {
+
 namespace {
 
 struct Numero
@@ -80,3 +82,5 @@ QString NumerotationFactures::premier(QDate date)
 {
     return composer({date.year(), 1});
 }
+
+} // namespace Quillet

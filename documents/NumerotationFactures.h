@@ -5,6 +5,8 @@
 
 #include <QDate>
 
+namespace Quillet {
+
 // Numbers of invoices, "2026-007": one series for each seller, starting again with each year. Only the last number of
 // each seller is kept: after one of a year to come, no earlier one is.
 struct NumerotationFactures
@@ -24,3 +26,5 @@ struct NumerotationFactures
     // The first number of the day's series: "2026-001".
     static QString premier(QDate date);
 };
+
+} // namespace Quillet

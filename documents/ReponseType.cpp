@@ -3,6 +3,8 @@
 #include "documents/VendeurUnique.h"
 #include "model/Format.h"
 
+namespace Quillet {
+
 namespace {
 
 // Everything the message says, in one language.
@@ -146,3 +148,5 @@ std::optional<ReponseType> ReponseType::de(const Calcul &calcul, const Reglages 
         return std::nullopt;
     return ReponseType{calcul, langueAcheteur(bon, calcul), *vendeur, lien, bon.paysLivraison};
 }
+
+} // namespace Quillet

@@ -9,6 +9,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // The reply to a buyer, and the texts pasted into PayPal's page for creating a payment link.
 struct ReponseType
 {
@@ -34,3 +36,5 @@ struct ReponseType
 
 // The language chosen for the buyer or, until one is chosen, the destination's own.
 Langue langueAcheteur(const BonDeCommande &bon, const Calcul &calcul);
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 
 #include <cstdint>
 
+namespace Quillet {
+
 // Libfuzzer's bytes, without a copy.
 inline QByteArray contenu(const std::uint8_t *octets, std::size_t taille)
 {
@@ -16,3 +18,5 @@ inline void exiger(bool tenu, const char *quoi)
     if (!tenu)
         qFatal("Exigence non tenue : %s", quoi);
 }
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 #include "fuzz/Cible.h"
 #include "watch/ErreurMiseAJour.h"
 
+using namespace Quillet;
+
 namespace {
 
 void verifierLOrdre(const NumeroDeVersion &a, const NumeroDeVersion &b)

@@ -6,6 +6,8 @@
 #include "watch/ErreurReleve.h"
 #include "watch/ReleveColissimo.h"
 
+using namespace Quillet;
+
 namespace {
 
 template <typename Unite>

@@ -15,6 +15,8 @@
 
 #include <memory>
 
+using namespace Quillet;
+
 namespace {
 
 // A copy of the shipped data, and a user's folder, in which one file is another for a while.

@@ -8,6 +8,8 @@
 
 #include <limits>
 
+using namespace Quillet;
+
 namespace {
 
 using Rapport = NumerotationFactures::Rapport;

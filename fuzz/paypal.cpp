@@ -4,6 +4,8 @@
 #include "watch/RelevePaypal.h"
 #include "watch/TexteHTML.h"
 
+using namespace Quillet;
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *octets, std::size_t taille)
 {
     const auto page = QString::fromUtf8(contenu(octets, taille));

@@ -7,6 +7,8 @@
 
 #include <ctime>
 
+using namespace Quillet;
+
 namespace {
 
 constexpr qsizetype longueur = qsizetype{256} << 10;

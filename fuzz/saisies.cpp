@@ -2,6 +2,8 @@
 #include "fuzz/Cible.h"
 #include "model/Saisie.h"
 
+using namespace Quillet;
+
 namespace {
 
 template <typename Unite>

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 bool BonDeCommande::estVide() const
 {
     return std::ranges::none_of(quantites, [](int quantite) { return quantite > 0; });
@@ -30,3 +32,5 @@ void BonDeCommande::vider()
              .poidsEmballageLibre = poidsEmballageLibre,
              .codeDestination = codeDestination};
 }
+
+} // namespace Quillet

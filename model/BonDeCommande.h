@@ -11,6 +11,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // What the seller entered of one order. What follows from it is a Calcul.
 struct BonDeCommande
 {
@@ -41,3 +43,5 @@ struct BonDeCommande
 
     bool operator==(const BonDeCommande &) const = default;
 };
+
+} // namespace Quillet

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 QList<Calcul::Ligne> lignesVendues(const QList<Livre> &livres, const BonDeCommande &bon)
@@ -98,3 +100,5 @@ int Calcul::nombreDeLivres() const
         nombre += ligne.quantite;
     return nombre;
 }
+
+} // namespace Quillet

@@ -8,6 +8,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // Every figure that follows from one order on one day. Each follows from those above it.
 struct Calcul
 {
@@ -52,3 +54,5 @@ struct Calcul
 
     bool operator==(const Calcul &) const = default;
 };
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 QString fichierDesLivres()
@@ -162,3 +164,5 @@ void Catalogue::ecrireLivres(const QList<Livre> &livres)
     stockage_.ecrire(modifications, fichierDesLivres());
     adopter(donnees_.livres, livres);
 }
+
+} // namespace Quillet

@@ -8,6 +8,8 @@
 
 #include <memory>
 
+namespace Quillet {
+
 // The one store of reference data: shipped resources, with the user's files over them. Holds them, saves them, tells
 // when they changed. A change is written before memory moves: an operation that throws ErreurStockage has changed
 // nothing.
@@ -48,3 +50,5 @@ private:
     Stockage stockage_;
     Donnees donnees_;
 };
+
+} // namespace Quillet

@@ -3,6 +3,8 @@
 #include <array>
 #include <cerrno>
 
+namespace Quillet {
+
 namespace {
 
 struct Cause
@@ -51,3 +53,5 @@ QString CauseSysteme::enFrancais(const QString &erreurQt)
             return QString::fromUtf8(cause.phrase);
     return autre(erreurQt);
 }
+
+} // namespace Quillet

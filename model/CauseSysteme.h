@@ -4,6 +4,8 @@
 
 #include <system_error>
 
+namespace Quillet {
+
 // Why the system refused an operation on a file, in French.
 namespace CauseSysteme {
 
@@ -12,3 +14,5 @@ QString enFrancais(const std::error_code &code);
 QString enFrancais(const QString &erreurQt);
 
 } // namespace CauseSysteme
+
+} // namespace Quillet

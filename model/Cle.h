@@ -9,6 +9,8 @@
 #include <concepts>
 #include <utility>
 
+namespace Quillet {
+
 // What names a thing of one kind in the files: any text, compared as text, also one that names nothing. Two kinds
 // never mix. For an enumeration it holds a raw value, or a text that is none.
 template <typename Sorte>
@@ -32,3 +34,5 @@ public:
 private:
     QString texte_;
 };
+
+} // namespace Quillet

@@ -1,5 +1,7 @@
 #include "model/Commande.h"
 
+namespace Quillet {
+
 void Commande::setCodeDestination(const CodeDestination &code)
 {
     BonDeCommande bon = bon_;
@@ -28,3 +30,5 @@ void Commande::adopter(const BonDeCommande &bon)
     bon_ = bon;
     emit change();
 }
+
+} // namespace Quillet

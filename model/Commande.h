@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+namespace Quillet {
+
 // The one order being prepared: holds it, and tells when it changed.
 class Commande : public QObject
 {
@@ -41,3 +43,5 @@ private:
 
     BonDeCommande bon_;
 };
+
+} // namespace Quillet

@@ -1,5 +1,7 @@
 #include "model/Couvertures.h"
 
+namespace Quillet {
+
 QString Couvertures::nom(const QString &fichier)
 {
     const qsizetype point = fichier.lastIndexOf(u'.');
@@ -19,3 +21,5 @@ QHash<QString, QString> Couvertures::fichiers(const QDir &dossier)
         fichiers.insert(nom(fichier), fichier);
     return fichiers;
 }
+
+} // namespace Quillet

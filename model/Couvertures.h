@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+namespace Quillet {
+
 // The pictures of covers in a folder. A book's `couverture` and a file go together when they are the same but for
 // what follows the last dot.
 namespace Couvertures {
@@ -16,3 +18,5 @@ QStringList formats();
 QHash<QString, QString> fichiers(const QDir &dossier);
 
 } // namespace Couvertures
+
+} // namespace Quillet

@@ -8,6 +8,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 enum class RegionPaypal { eee, royaumeUni, autres };
 
 constexpr const char *valeurBrute(RegionPaypal region)
@@ -68,3 +70,5 @@ inline constexpr auto Json::champs<Destination> = std::tuple{
     Champ{"douane", &Destination::douane},
     Champ{"douaneSauf", &Destination::douaneSauf},
 };
+
+} // namespace Quillet

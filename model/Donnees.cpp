@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 bool memesPrix(const TarifsColissimo &connus, const TarifsColissimo &lus)
@@ -52,3 +54,5 @@ QList<PrixBouton> Donnees::boutons(const Livre &livre, const TarifsColissimo &ta
     const Grammes emballage = reglages.emballages.isEmpty() ? Grammes{} : reglages.emballages.first().poids;
     return PrixBouton::calculer(livre, tarifs, destinations, emballage);
 }
+
+} // namespace Quillet

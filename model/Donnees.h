@@ -10,6 +10,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // The reference data that orders are computed from.
 struct Donnees
 {
@@ -30,3 +32,5 @@ struct Donnees
 
     bool operator==(const Donnees &) const = default;
 };
+
+} // namespace Quillet

@@ -8,6 +8,8 @@
 #include <optional>
 #include <type_traits>
 
+namespace Quillet {
+
 // An enumeration whose cases count from 0 and are stored as text names each of them in a `valeurBrute` beside it, a
 // `switch` without default: the compiler asks for the name of a new case, and all else follows from it.
 template <typename Enum>
@@ -53,3 +55,5 @@ std::optional<Enum> depuisBrut(const QString &texte)
             return cas;
     return std::nullopt;
 }
+
+} // namespace Quillet

@@ -12,6 +12,8 @@
 #include <filesystem>
 #include <utility>
 
+namespace Quillet {
+
 namespace {
 
 // Some disks say only now that they are full or failing, and QSaveFile does not listen. Gives the error's number, 0 for
@@ -104,3 +106,5 @@ void Fichier::ecrire(const QString &chemin, const QByteArray &octets)
     if (!fichier.commit())
         throw ErreurStockage(chemin, CauseSysteme::enFrancais(fichier.errorString()));
 }
+
+} // namespace Quillet

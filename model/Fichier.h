@@ -10,6 +10,8 @@
 
 class QIODevice;
 
+namespace Quillet {
+
 // A file could not be read, written or deleted; the text names it and says why, in French.
 class ErreurStockage : public Echec
 {
@@ -38,3 +40,5 @@ bool toutEcrire(QIODevice &fichier, QByteArrayView octets);
 void ecrire(const QString &chemin, const QByteArray &octets);
 
 } // namespace Fichier
+
+} // namespace Quillet

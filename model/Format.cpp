@@ -13,6 +13,8 @@
 #include <memory>
 #include <string>
 
+namespace Quillet {
+
 namespace {
 
 using icu::number::LocalizedNumberFormatter;
@@ -168,3 +170,5 @@ QString Format::date(const Jour &jour)
     const QDate date = jour.date();
     return date.isValid() ? Format::date(date) : jour.texte();
 }
+
+} // namespace Quillet

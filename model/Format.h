@@ -9,6 +9,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // Every conversion of amounts, weights, rates and days into text. Separators are those of the CLDR.
 namespace Format {
 
@@ -33,3 +35,5 @@ QString date(QDate jour);       // 14 mars 2025, 1er mars 2025
 QString date(const Jour &jour); // one that no calendar has, as it was written
 
 } // namespace Format
+
+} // namespace Quillet

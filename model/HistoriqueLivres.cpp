@@ -2,6 +2,8 @@
 
 #include "model/Catalogue.h"
 
+namespace Quillet {
+
 namespace {
 
 // What stood before, of the books that a change of the catalogue touched. Shipped data may be shorter than it was: the
@@ -77,3 +79,5 @@ qint64 HistoriqueLivres::retablir()
     emit change();
     return faits_.last().avant.first().id;
 }
+
+} // namespace Quillet

@@ -7,6 +7,8 @@
 
 #include <functional>
 
+namespace Quillet {
+
 class Catalogue;
 struct PrixBouton;
 
@@ -51,3 +53,5 @@ private:
     QList<Geste> faits_;
     QList<Geste> annules_;
 };
+
+} // namespace Quillet

@@ -6,6 +6,8 @@
 #include <compare>
 #include <utility>
 
+namespace Quillet {
+
 // A day as files and pages write it, yyyy-mm-dd, compared as text: one that no calendar has stays as it was written.
 class Jour
 {
@@ -28,3 +30,5 @@ public:
 private:
     QString texte_;
 };
+
+} // namespace Quillet

@@ -3,6 +3,8 @@
 #include <QJsonDocument>
 #include <QJsonParseError>
 
+namespace Quillet {
+
 namespace {
 
 QString raison(QJsonParseError::ParseError erreur)
@@ -92,3 +94,5 @@ QByteArray rediger(const QJsonValue &json)
 }
 
 } // namespace Json
+
+} // namespace Quillet

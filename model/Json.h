@@ -21,6 +21,8 @@
 #include <tuple>
 #include <utility>
 
+namespace Quillet {
+
 // Plain records to JSON and back. A record lists its fields once, in `champs<Record>`. Everything else follows.
 namespace Json {
 
@@ -264,3 +266,5 @@ QJsonValue ecrire(const QMap<Cle<Sorte>, T> &valeur)
 }
 
 } // namespace Json
+
+} // namespace Quillet

@@ -2,6 +2,8 @@
 
 #include <QStringView>
 
+namespace Quillet {
+
 // The language in which a buyer is answered.
 enum class Langue { francais, anglais };
 
@@ -28,3 +30,5 @@ constexpr const char *valeurBrute(Langue langue)
 {
     return traits(langue).brut;
 }
+
+} // namespace Quillet

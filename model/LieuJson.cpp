@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace Json {
+namespace Quillet::Json {
 
 void Refus::noter(const QString &lieu, const QString &raison)
 {
@@ -54,4 +54,4 @@ void Lieu::noter(const char *cle, const QString &raison) const
     Lieu(*this, QString::fromLatin1(cle)).noter(raison);
 }
 
-} // namespace Json
+} // namespace Quillet::Json

@@ -8,7 +8,7 @@
 
 #include <utility>
 
-namespace Json {
+namespace Quillet::Json {
 
 // Says where and what was expected, in words for the user: "livres[3].prix : entier attendu".
 class Erreur : public Echec
@@ -73,4 +73,4 @@ private:
     qsizetype indice_ = -1;
 };
 
-} // namespace Json
+} // namespace Quillet::Json

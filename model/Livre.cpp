@@ -1,5 +1,7 @@
 #include "model/Livre.h"
 
+namespace Quillet {
+
 void Json::lire(const QJsonValue &json, const Lieu &lieu, PrixParDestination &prix)
 {
     lireTable(json, lieu, prix,
@@ -27,3 +29,5 @@ void ModificationLivre::appliquer(Livre &livre) const
     if (prixEcartes)
         livre.prixEcartes = prixEcartes;
 }
+
+} // namespace Quillet

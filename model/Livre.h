@@ -12,6 +12,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 using PrixParDestination = QMap<CodeDestination, Centimes>;
 
 // One printed title that one of the two sellers sells.
@@ -95,3 +97,5 @@ inline constexpr auto Json::champs<ModificationLivre> = std::tuple{
     Champ{"prixPaypal", &ModificationLivre::prixPaypal},
     Champ{"prixEcartes", &ModificationLivre::prixEcartes},
 };
+
+} // namespace Quillet

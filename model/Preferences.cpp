@@ -5,6 +5,8 @@
 #include <QMap>
 #include <QStandardPaths>
 
+namespace Quillet {
+
 namespace {
 
 using Valeurs = QMap<QString, QString>;
@@ -51,3 +53,5 @@ void Preferences::ecrire(const QString &cle, const QString &texte)
     valeurs.insert(cle, texte);
     Fichier::ecrire(fichier_, encoder(valeurs));
 }
+
+} // namespace Quillet

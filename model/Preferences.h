@@ -6,6 +6,8 @@
 
 #include <utility>
 
+namespace Quillet {
+
 // What the user's habits leave behind: texts of one line by key, in one INI file.
 class Preferences
 {
@@ -24,3 +26,5 @@ public:
 private:
     QString fichier_;
 };
+
+} // namespace Quillet

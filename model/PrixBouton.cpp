@@ -1,5 +1,7 @@
 #include "model/PrixBouton.h"
 
+namespace Quillet {
+
 namespace {
 
 std::optional<Centimes> entree(const std::optional<PrixParDestination> &prix, const CodeDestination &code)
@@ -50,3 +52,5 @@ QList<PrixBouton> PrixBouton::aReporter(QList<PrixBouton> boutons)
     boutons.removeIf([](const PrixBouton &bouton) { return bouton.etat() != Etat::aReporter; });
     return boutons;
 }
+
+} // namespace Quillet

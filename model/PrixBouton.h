@@ -8,6 +8,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // What one book's PayPal button should charge for one destination: the book alone in the default packaging.
 struct PrixBouton
 {
@@ -28,3 +30,5 @@ struct PrixBouton
 
     bool operator==(const PrixBouton &) const = default;
 };
+
+} // namespace Quillet

@@ -6,6 +6,8 @@
 #include <limits>
 #include <optional>
 
+namespace Quillet {
+
 // A whole number of one unit. Two units never mix, and arithmetic that leaves 64 bits stops the program:
 // a wrong amount must not reach a buyer.
 template <typename Unite>
@@ -83,3 +85,5 @@ using Centimes = Quantite<UniteCentime>;
 using Grammes = Quantite<UniteGramme>;
 // Hundredths of a percent: 290 is 2,90 %.
 using Taux = Quantite<UniteCentiemeDePourcent>;
+
+} // namespace Quillet

@@ -1,5 +1,7 @@
 #include "model/Reglages.h"
 
+namespace Quillet {
+
 Centimes FraisPaypal::frais(Centimes montant, RegionPaypal region) const
 {
     const Taux tauxTotal = taux + supplement(region);
@@ -11,3 +13,5 @@ std::optional<IdentiteVendeur> Reglages::identite(Vendeur vendeur) const
     const auto trouvee = vendeurs.find(vendeur);
     return trouvee == vendeurs.end() ? std::nullopt : std::optional(*trouvee);
 }
+
+} // namespace Quillet

@@ -11,6 +11,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // PayPal's fees for receiving a payment.
 struct FraisPaypal
 {
@@ -110,3 +112,5 @@ inline constexpr auto Json::champs<Reglages> = std::tuple{
     Champ{"douane", &Reglages::douane},
     Champ{"vendeurs", &Reglages::vendeurs},
 };
+
+} // namespace Quillet

@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+namespace Quillet {
+
 Ressources Ressources::duProgramme()
 {
     return autourDe(QDir(QCoreApplication::applicationDirPath()));
@@ -67,3 +69,5 @@ void Ressources::refuser(const QString &raison) const
                                            "corriger, dans un terminal :\nquillet --verifier \"%2\"");
     throw RessourceIllisible(conseil.arg(raison, dossier_.path()));
 }
+
+} // namespace Quillet

@@ -8,6 +8,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // Data that cannot be read: the program cannot go on.
 class RessourceIllisible : public Echec
 {
@@ -73,3 +75,5 @@ private:
     QDir dossier_;
     bool duVendeur_ = false;
 };
+
+} // namespace Quillet

@@ -3,6 +3,8 @@
 #include "model/ChiffresAscii.h"
 #include "model/Format.h"
 
+namespace Quillet {
+
 namespace {
 
 QString sansEspaces(QString texte)
@@ -71,3 +73,5 @@ QString Saisie::ecrit(const std::optional<Grammes> &poids)
 {
     return poids ? Format::grammes(*poids) : QString();
 }
+
+} // namespace Quillet

@@ -7,6 +7,8 @@
 #include <optional>
 #include <variant>
 
+namespace Quillet {
+
 // What a seller typed into a field, read as a quantity, or the sentence that refuses it.
 namespace Saisie {
 
@@ -28,3 +30,5 @@ QString ecrit(Centimes prix);
 QString ecrit(const std::optional<Grammes> &poids);
 
 } // namespace Saisie
+
+} // namespace Quillet

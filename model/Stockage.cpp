@@ -6,6 +6,8 @@
 
 #include <filesystem>
 
+namespace Quillet {
+
 Stockage Stockage::deLUtilisateur()
 {
     const QDir donnees(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
@@ -58,3 +60,5 @@ void Stockage::preserver(const QString &nom) const
     }
     Fichier::ecrire(dossier_.filePath(copie), *contenu);
 }
+
+} // namespace Quillet

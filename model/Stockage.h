@@ -10,6 +10,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // The user's folder of JSON files. Files are written whole or not at all, and a file that this program did not
 // understand, or that somebody else changed meanwhile, is copied aside before anything replaces or deletes it.
 class Stockage
@@ -55,3 +57,5 @@ private:
     QDir dossier_;
     QHash<QString, QByteArray> compris_; // what each file held when it was last read or written here
 };
+
+} // namespace Quillet

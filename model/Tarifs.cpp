@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 std::optional<Palier> GrilleColissimo::palier(Grammes poids) const
 {
     const auto trouve = std::ranges::find_if(paliers, [&](const Palier &palier) { return palier.jusqua >= poids; });
@@ -30,3 +32,5 @@ QString TarifsColissimo::motifDeFichier()
 {
     return QStringLiteral("tarifs-colissimo-*.json");
 }
+
+} // namespace Quillet

@@ -9,6 +9,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // The price of every weight up to and including `jusqua`.
 struct Palier
 {
@@ -115,3 +117,5 @@ inline constexpr auto Json::champs<TarifsColissimo> = std::tuple{
     Champ{"source", &TarifsColissimo::source},
     Champ{"grilles", &TarifsColissimo::grilles},
 };
+
+} // namespace Quillet

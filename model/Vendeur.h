@@ -2,6 +2,8 @@
 
 #include <QStringView>
 
+namespace Quillet {
+
 // The sellers' places, in the order in which screens name them; the names that documents show are data.
 enum class Vendeur { davrel, mireva };
 
@@ -26,3 +28,5 @@ constexpr const char *valeurBrute(Vendeur vendeur)
 {
     return traits(vendeur).brut;
 }
+
+} // namespace Quillet

@@ -2,6 +2,8 @@
 
 #include <QFile>
 
+namespace Quillet {
+
 namespace {
 
 void ecrire(const QString &chemin, const QByteArray &octets)
@@ -131,3 +133,5 @@ void Banc::ecrireRessource(const QString &nom, const QByteArray &octets) const
 {
     ecrire(dossier_.filePath(QStringLiteral("partage/") + nom), octets);
 }
+
+} // namespace Quillet

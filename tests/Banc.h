@@ -6,6 +6,8 @@
 
 #include <QTemporaryDir>
 
+namespace Quillet {
+
 // A small catalogue on temporary folders, read and written by the real code. Change the records, then load.
 struct Banc
 {
@@ -48,3 +50,5 @@ QString lisible(QString texte);
 Livre unLivre(qint64 id, Vendeur vendeur, Centimes prix, std::optional<Grammes> poids);
 TarifsColissimo desTarifs(const char *validite, Centimes premierPrix);
 CodeDestination vers(const char *code);
+
+} // namespace Quillet

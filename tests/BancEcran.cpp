@@ -6,6 +6,8 @@
 #include <QDialog>
 #include <QTest>
 
+namespace Quillet {
+
 void BancEcran::demarrer()
 {
     demarrer(donnees.preferences());
@@ -46,3 +48,5 @@ void BancEcran::revenirA(QWidget *fenetre)
             qFatal("Une fenêtre ne vient pas devant");
     }
 }
+
+} // namespace Quillet

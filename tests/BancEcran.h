@@ -7,6 +7,8 @@
 
 class QDialog;
 
+namespace Quillet {
+
 // The real window over a small catalogue.
 struct BancEcran
 {
@@ -26,3 +28,5 @@ struct BancEcran
     // Looks at another window and comes back.
     static void revenirA(QWidget *fenetre);
 };
+
+} // namespace Quillet

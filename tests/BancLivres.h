@@ -8,6 +8,8 @@
 #include <QLineEdit>
 #include <QListView>
 
+namespace Quillet {
+
 // The books' screen, opened on the bench's books; the first one has a PayPal button.
 struct BancLivres : BancEcran
 {
@@ -41,3 +43,5 @@ struct BancLivres : BancEcran
 };
 
 inline const QString champDuPrix = QStringLiteral("Prix, en euros");
+
+} // namespace Quillet

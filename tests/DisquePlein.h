@@ -6,6 +6,8 @@
 
 #include <csignal>
 
+namespace Quillet {
+
 // The system refuses to let any file grow beyond a few bytes: what a full disk does, without one.
 class DisquePlein
 {
@@ -23,3 +25,5 @@ public:
 private:
     rlimit avant_{};
 };
+
+} // namespace Quillet

@@ -7,6 +7,8 @@
 
 #include <gio/gio.h>
 
+namespace Quillet {
+
 namespace {
 
 void ecrire(const QString &chemin, const QString &texte)
@@ -82,3 +84,5 @@ QList<std::pair<QString, QString>> champsDeThunderbird(const QString &option)
         champs.append({champ.section(u'=', 0, 0), QUrl::fromPercentEncoding(champ.section(u'=', 1).toLatin1())});
     return champs;
 }
+
+} // namespace Quillet

@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+namespace Quillet {
+
 // A mail program that notes its arguments, declared on a desktop of its own as a real one is. One a process, made
 // before anything asks for the desktop's programs.
 class FausseMessagerie
@@ -26,3 +28,5 @@ private:
 
 // Names and values of the option of Thunderbird that opens a message, in their order.
 QList<std::pair<QString, QString>> champsDeThunderbird(const QString &option);
+
+} // namespace Quillet

@@ -5,6 +5,8 @@
 #include <QDBusVariant>
 #include <QFile>
 
+namespace Quillet {
+
 namespace {
 
 const QString nomDeConnexion = QStringLiteral("faux portail");
@@ -90,3 +92,5 @@ bool FauxPortail::handleMessage(const QDBusMessage &message, const QDBusConnecti
         bus.send(message.createReply(reponse));
     return true;
 }
+
+} // namespace Quillet

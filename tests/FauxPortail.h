@@ -7,6 +7,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+namespace Quillet {
+
 // The bus of this process and of its children, that knows no service but those played on it. To be made before
 // anything asks for the session's.
 class BusPrive
@@ -45,3 +47,5 @@ public:
 private:
     QDBusConnection bus_;
 };
+
+} // namespace Quillet

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 // Nobody types accents, ligatures or curly apostrophes to find a book.
@@ -44,3 +46,5 @@ bool FiltreLivres::retient(const Candidat &candidat) const
         return false;
     return std::ranges::all_of(recherche, [&](const QString &mot) { return candidat.texte.contains(mot); });
 }
+
+} // namespace Quillet

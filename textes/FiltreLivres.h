@@ -6,6 +6,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // Which books the list shows.
 struct FiltreLivres
 {
@@ -32,3 +34,5 @@ struct FiltreLivres
 
     bool operator==(const FiltreLivres &) const = default;
 };
+
+} // namespace Quillet

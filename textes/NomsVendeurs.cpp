@@ -1,5 +1,7 @@
 #include "textes/NomsVendeurs.h"
 
+namespace Quillet {
+
 QString NomsVendeurs::court(Vendeur vendeur)
 {
     return traits(vendeur).nom.toString();
@@ -24,3 +26,5 @@ QString NomsVendeurs::site(Vendeur vendeur, const Reglages &reglages)
     const auto identite = reglages.identite(vendeur);
     return identite ? identite->site.value_or(court(vendeur)) : court(vendeur);
 }
+
+} // namespace Quillet

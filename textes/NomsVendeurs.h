@@ -2,6 +2,8 @@
 
 #include "model/Reglages.h"
 
+namespace Quillet {
+
 // How the sellers are called on the screens.
 namespace NomsVendeurs {
 
@@ -15,3 +17,5 @@ QString complet(Vendeur vendeur, const Reglages &reglages);
 QString site(Vendeur vendeur, const Reglages &reglages);
 
 } // namespace NomsVendeurs
+
+} // namespace Quillet

@@ -2,6 +2,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // The next of `nombre` ranks after `rang` that waits for the seller, from the first again after the last; never `rang`
 // itself.
 template <typename Attend>
@@ -12,3 +14,5 @@ std::optional<int> suivantDuTour(int rang, int nombre, Attend attend)
             return suivant;
     return std::nullopt;
 }
+
+} // namespace Quillet

@@ -3,6 +3,8 @@
 #include "model/Format.h"
 #include "textes/TextesLivres.h"
 
+namespace Quillet {
+
 namespace {
 
 QString ecart(const PrixBouton &bouton)
@@ -84,3 +86,5 @@ QString TextesBoutons::bilan(qsizetype livres, qsizetype aReporter)
     const QString nombre = TextesLivres::nombre(livres);
     return aReporter == 0 ? nombre : nombre + QStringLiteral(" · ") + nombreAReporter(aReporter);
 }
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+namespace Quillet {
+
 // What the books' screen says of the PayPal buttons: texts only, laid out by the widgets.
 namespace TextesBoutons {
 
@@ -35,3 +37,5 @@ QString situation(const Livre &livre, qsizetype aReporter);
 QString bilan(qsizetype livres, qsizetype aReporter);
 
 } // namespace TextesBoutons
+
+} // namespace Quillet

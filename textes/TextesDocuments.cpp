@@ -7,6 +7,8 @@
 #include "model/Format.h"
 #include "textes/NomsVendeurs.h"
 
+namespace Quillet {
+
 namespace {
 
 using TextesDocuments::Champ;
@@ -132,3 +134,5 @@ QString TextesDocuments::sansSiret(const IdentiteVendeur &vendeur)
     return vendeur.siret ? QString()
                          : QStringLiteral("Numéro SIRET manquant : obligatoire sur la facture d’une micro-entreprise.");
 }
+
+} // namespace Quillet

@@ -8,6 +8,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // What the documents' screens say: texts only, laid out by the widgets.
 namespace TextesDocuments {
 
@@ -55,3 +57,5 @@ QString vendeur(const IdentiteVendeur &vendeur);
 QString sansSiret(const IdentiteVendeur &vendeur);
 
 } // namespace TextesDocuments
+
+} // namespace Quillet

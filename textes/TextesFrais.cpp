@@ -2,6 +2,8 @@
 
 #include "model/Format.h"
 
+namespace Quillet {
+
 QString TextesFrais::region(RegionPaypal region)
 {
     switch (region) {
@@ -19,3 +21,5 @@ QString TextesFrais::formule(Taux taux, Centimes fixe)
 {
     return Format::pourcentage(taux) + QStringLiteral(" + ") + Format::euros(fixe);
 }
+
+} // namespace Quillet

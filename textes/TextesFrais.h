@@ -5,6 +5,8 @@
 
 #include <QString>
 
+namespace Quillet {
+
 // PayPal's fees in words.
 namespace TextesFrais {
 
@@ -14,3 +16,5 @@ QString region(RegionPaypal region);
 QString formule(Taux taux, Centimes fixe);
 
 } // namespace TextesFrais
+
+} // namespace Quillet

@@ -1,5 +1,7 @@
 #include "textes/TextesGestes.h"
 
+namespace Quillet {
+
 QString TextesGestes::prix(const Livre &livre)
 {
     return QStringLiteral("prix de « %1 »").arg(livre.titre);
@@ -30,3 +32,5 @@ QString TextesGestes::retour()
 {
     return QStringLiteral("retour aux valeurs d’origine");
 }
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+namespace Quillet {
+
 // What is done to a book, in the words in which it is undone.
 namespace TextesGestes {
 
@@ -16,3 +18,5 @@ QString report(const Livre &livre, qsizetype boutons);
 QString retour();
 
 } // namespace TextesGestes
+
+} // namespace Quillet

@@ -5,6 +5,8 @@
 
 #include <QStringList>
 
+namespace Quillet {
+
 namespace {
 
 QString vendu(const Livre &livre)
@@ -55,3 +57,5 @@ QString TextesLivres::enMots(const Livre &livre)
         mots.append(epuise());
     return mots.join(QStringLiteral(", "));
 }
+
+} // namespace Quillet

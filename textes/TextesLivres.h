@@ -4,6 +4,8 @@
 
 #include <QString>
 
+namespace Quillet {
+
 // What the books' screen and the cards of an order say of the books: texts only, laid out by the widgets.
 namespace TextesLivres {
 
@@ -22,3 +24,5 @@ QString epuise();
 QString enMots(const Livre &livre);
 
 } // namespace TextesLivres
+
+} // namespace Quillet

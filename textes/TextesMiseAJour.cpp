@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 using Cas = MisesAJour::Etat::Cas;
@@ -65,3 +67,5 @@ Page TextesMiseAJour::page(const MisesAJour::Etat &etat, const QString &installe
     }
     return {.titre = QStringLiteral("Recherche des mises à jour…"), .retrait = annuler, .attente = true};
 }
+
+} // namespace Quillet

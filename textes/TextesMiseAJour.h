@@ -6,6 +6,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // What the sheet of updates says: texts only, laid out by the widget.
 namespace TextesMiseAJour {
 
@@ -24,3 +26,5 @@ struct Page
 Page page(const MisesAJour::Etat &etat, const QString &installee);
 
 } // namespace TextesMiseAJour
+
+} // namespace Quillet

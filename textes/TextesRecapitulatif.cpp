@@ -4,6 +4,8 @@
 #include "model/Format.h"
 #include "textes/TextesFrais.h"
 
+namespace Quillet {
+
 namespace {
 
 const QString triangle = QStringLiteral("exclamationmark.triangle");
@@ -120,3 +122,5 @@ QString TextesRecapitulatif::libelleDeLaReponse(Langue langue)
 {
     return QStringLiteral("E-mail en %1").arg(traits(langue).nom);
 }
+
+} // namespace Quillet

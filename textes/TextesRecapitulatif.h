@@ -8,6 +8,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // What the order screen and its summary say of one order: texts only, laid out by the widgets.
 namespace TextesRecapitulatif {
 
@@ -56,3 +58,5 @@ std::optional<LienDePaiement> lienDePaiement(const Calcul &calcul, const Reglage
 QString libelleDeLaReponse(Langue langue);
 
 } // namespace TextesRecapitulatif
+
+} // namespace Quillet

@@ -2,6 +2,8 @@
 
 #include "documents/AdresseMail.h"
 
+namespace Quillet {
+
 QString TextesReponse::lienAbsent(const ReponseType &reponse)
 {
     if (!reponse.lien.trimmed().isEmpty())
@@ -16,3 +18,5 @@ QString TextesReponse::adresseRefusee(const QString &adresse)
         return {};
     return QStringLiteral("Ce n’est pas une adresse seule : le message s’ouvrira sans destinataire.");
 }
+
+} // namespace Quillet

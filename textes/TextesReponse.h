@@ -2,6 +2,8 @@
 
 #include "documents/ReponseType.h"
 
+namespace Quillet {
+
 // What the reply's screen says beside the message: texts only, laid out by the widgets.
 namespace TextesReponse {
 
@@ -11,3 +13,5 @@ QString lienAbsent(const ReponseType &reponse);
 QString adresseRefusee(const QString &adresse);
 
 } // namespace TextesReponse
+
+} // namespace Quillet

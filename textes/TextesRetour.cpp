@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 constexpr qsizetype livresNommes = 8;
@@ -63,3 +65,5 @@ QStringList TextesRetour::pertes(const QList<Livre> &actuels, const QList<Livre>
     }
     return pertes;
 }
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+namespace Quillet {
+
 // What the return of every book to its shipped values would undo.
 namespace TextesRetour {
 
@@ -11,3 +13,5 @@ namespace TextesRetour {
 QStringList pertes(const QList<Livre> &actuels, const QList<Livre> &livres);
 
 } // namespace TextesRetour
+
+} // namespace Quillet

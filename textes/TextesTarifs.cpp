@@ -5,6 +5,8 @@
 
 #include <set>
 
+namespace Quillet {
+
 namespace {
 
 using TextesTarifs::Famille;
@@ -28,7 +30,7 @@ QString titre(FamilleTarifs famille)
 
 Prix prix(const GrilleColissimo &grille, Grammes jusqua, const std::optional<Calcul> &commande)
 {
-    const auto palier = std::ranges::find(grille.paliers, jusqua, &::Palier::jusqua);
+    const auto palier = std::ranges::find(grille.paliers, jusqua, &Quillet::Palier::jusqua);
     if (palier == grille.paliers.end())
         return {Format::absent};
     // A schedule to come may cut its tiers otherwise: what counts is the parcel.
@@ -45,7 +47,7 @@ Famille tableau(const QString &titre, const QList<GrilleColissimo> &grilles, con
         famille.zones.append(grille.nomCourt);
         if (const auto pays = grille.pays())
             famille.pays.append(grille.nomCourt + QStringLiteral(" : ") + *pays);
-        for (const ::Palier &palier : grille.paliers)
+        for (const Quillet::Palier &palier : grille.paliers)
             poids.insert(palier.jusqua);
     }
     for (const Grammes jusqua : poids) {
@@ -93,3 +95,5 @@ QList<TextesTarifs::Frais> TextesTarifs::frais(const FraisPaypal &frais)
                                                         : QString(Format::absent)});
     return lignes;
 }
+
+} // namespace Quillet

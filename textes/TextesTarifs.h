@@ -8,6 +8,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // What the tariffs screen says of the schedules and fees: texts only, laid out by the widgets.
 namespace TextesTarifs {
 
@@ -57,3 +59,5 @@ QList<Famille> familles(const TarifsColissimo &tarifs, const std::optional<Calcu
 QList<Frais> frais(const FraisPaypal &frais);
 
 } // namespace TextesTarifs
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 #include "textes/TextesFrais.h"
 #include "textes/TextesTarifs.h"
 
+namespace Quillet {
+
 namespace {
 
 using TextesVerifications::Ligne;
@@ -118,3 +120,5 @@ QString TextesVerifications::dates(const TarifsColissimo &nouveaux)
     return QStringLiteral("En vigueur à partir du %1 · relevés sur %2 le %3")
         .arg(Format::date(nouveaux.validite), siteLaPoste, Format::date(nouveaux.releve));
 }
+
+} // namespace Quillet

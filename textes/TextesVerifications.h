@@ -7,6 +7,8 @@
 #include <QList>
 #include <QString>
 
+namespace Quillet {
+
 // What the screens say of the two weekly checks, and of what they found: texts only, laid out by the widgets.
 namespace TextesVerifications {
 
@@ -49,3 +51,5 @@ QString compte(const QList<EcartTarif> &ecarts, const TarifsColissimo &nouveaux)
 QString dates(const TarifsColissimo &nouveaux);
 
 } // namespace TextesVerifications
+
+} // namespace Quillet

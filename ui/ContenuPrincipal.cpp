@@ -18,6 +18,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 constexpr QSize tailleMinimale(980, 640);
@@ -153,3 +155,5 @@ void ContenuPrincipal::actualiser()
     for (const Rubrique rubrique : tous<Rubrique>)
         rubriques_->setPastille(static_cast<int>(rubrique), traits(rubrique).aSignaler(contexte_));
 }
+
+} // namespace Quillet

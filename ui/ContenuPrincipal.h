@@ -4,9 +4,12 @@
 
 #include <optional>
 
+class QStackedWidget;
+
+namespace Quillet {
+
 class Libelle;
 class ListeRubriques;
-class QStackedWidget;
 struct Contexte;
 
 // The window's two columns: the sections on the left, the chosen one's screen beside them.
@@ -39,3 +42,5 @@ private:
     QStackedWidget *detail_;
     QList<EcranDeRubrique *> ecrans_; // by section; a screen is built when it is first shown
 };
+
+} // namespace Quillet

@@ -8,6 +8,8 @@
 #include "ui/couvertures/ImagesCouvertures.h"
 #include "watch/Verifications.h"
 
+namespace Quillet {
+
 // What every screen is given, and outlives them: what they show, change and follow.
 struct Contexte
 {
@@ -23,3 +25,5 @@ struct Contexte
     // Of the order in progress, today: never to be kept.
     [[nodiscard]] Calcul calcul() const { return Calcul::de(donnees(), bon(), jour.aujourdhui()); }
 };
+
+} // namespace Quillet

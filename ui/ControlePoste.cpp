@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 QStringList imagesIllisibles(const QList<QByteArray> &lues, const QStringList &couvertures)
@@ -67,3 +69,5 @@ QStringList ControlePoste::manques(const Moyens &moyens, const QStringList &couv
             "ce système n’a pas de TLS pour Qt : ni les pages des tarifs ni les mises à jour ne seront lues"));
     return phrases;
 }
+
+} // namespace Quillet

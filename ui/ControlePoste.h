@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+namespace Quillet {
+
 // What the machine lacks to show the window as it was drawn. Quillet works without: nothing else tells.
 namespace ControlePoste {
 
@@ -24,3 +26,5 @@ Moyens moyens();
 QStringList manques(const Moyens &moyens, const QStringList &couvertures);
 
 } // namespace ControlePoste
+
+} // namespace Quillet

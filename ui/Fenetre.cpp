@@ -19,6 +19,8 @@
 
 using namespace std::chrono_literals;
 
+namespace Quillet {
+
 namespace {
 
 constexpr QSize contenuParDefaut(1320, 860);
@@ -119,3 +121,5 @@ void Fenetre::aPropos()
             "<p>© 2026 The Quillet authors · licence MIT</p>")
             .arg(QApplication::applicationVersion()));
 }
+
+} // namespace Quillet

@@ -2,6 +2,8 @@
 
 #include <QMainWindow>
 
+namespace Quillet {
+
 class ContenuPrincipal;
 class MisesAJour;
 struct Contexte;
@@ -38,3 +40,5 @@ private:
     ContenuPrincipal *contenu_;
     bool dejaMontree_ = false;
 };
+
+} // namespace Quillet

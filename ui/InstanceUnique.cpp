@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int attente = 2000; // ms
@@ -88,3 +90,5 @@ void InstanceUnique::ecouter(QLocalSocket *appel)
     });
     QTimer::singleShot(attente, appel, &QLocalSocket::abort);
 }
+
+} // namespace Quillet

@@ -3,6 +3,8 @@
 #include <QLocalServer>
 #include <QLockFile>
 
+namespace Quillet {
+
 // Only one Quillet runs per user: two would write the same files. A second start asks the first to show itself.
 class InstanceUnique : public QObject
 {
@@ -26,3 +28,5 @@ private:
     QLockFile verrou_;
     QLocalServer serveur_;
 };
+
+} // namespace Quillet

@@ -5,6 +5,8 @@
 
 #include <utility>
 
+namespace Quillet {
+
 JourCourant::JourCourant(Aujourdhui aujourdhui, std::chrono::milliseconds periode)
     : aujourdhui_(std::move(aujourdhui)), vu_(aujourdhui_())
 {
@@ -22,3 +24,5 @@ void JourCourant::regarder()
     if (const QDate jour = aujourdhui_(); std::exchange(vu_, jour) != jour)
         emit change();
 }
+
+} // namespace Quillet

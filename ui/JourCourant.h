@@ -7,6 +7,8 @@
 #include <chrono>
 #include <functional>
 
+namespace Quillet {
+
 // Where the interface takes the day from: the clock, or the day that a test or the tour fixes.
 using Aujourdhui = std::function<QDate()>;
 
@@ -34,3 +36,5 @@ private:
     QDate vu_;
     QTimer minuterie_;
 };
+
+} // namespace Quillet

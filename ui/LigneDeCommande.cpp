@@ -10,6 +10,8 @@
 
 #include <array>
 
+namespace Quillet {
+
 namespace {
 
 using LigneDeCommande::Reponse;
@@ -104,3 +106,5 @@ std::optional<Reponse> LigneDeCommande::repondre(const QStringList &arguments)
         return controle(analyseur.value(verifier));
     return std::nullopt;
 }
+
+} // namespace Quillet

@@ -5,6 +5,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // What the program answers to a command line without opening a window, hence without a display.
 namespace LigneDeCommande {
 
@@ -18,3 +20,5 @@ struct Reponse
 std::optional<Reponse> repondre(const QStringList &arguments);
 
 } // namespace LigneDeCommande
+
+} // namespace Quillet

@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int roleSymbole = Qt::UserRole;
@@ -118,3 +120,5 @@ QSize ListeRubriques::minimumSizeHint() const
     const int pastille = static_cast<int>(std::ceil(taillePastille(1).width()));
     return {4 * marge + coteSymbole() + texte + 2 * aDroite + pastille + jeu, QListWidget::minimumSizeHint().height()};
 }
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 
 #include <QListWidget>
 
+namespace Quillet {
+
 // The sidebar's list of sections.
 class ListeRubriques : public ListeDite<QListWidget>
 {
@@ -22,3 +24,5 @@ public:
     // As wide as the longest of its sections with a badge.
     [[nodiscard]] QSize minimumSizeHint() const override;
 };
+
+} // namespace Quillet

@@ -13,6 +13,8 @@
 #include <QScreen>
 #include <QTranslator>
 
+namespace Quillet {
+
 void QuilletApp::preparer(std::optional<Theme::Mode> mode)
 {
     // The name only: an organisation of the same name would double the data folder.
@@ -65,3 +67,5 @@ QuilletApp::QuilletApp(const Ressources &ressources, Stockage stockage, const Pr
 }
 
 QuilletApp::~QuilletApp() = default;
+
+} // namespace Quillet

@@ -7,6 +7,8 @@
 #include <memory>
 #include <optional>
 
+namespace Quillet {
+
 class Bureau;
 class Fenetre;
 
@@ -41,3 +43,5 @@ private:
     Contexte contexte_;
     std::unique_ptr<Fenetre> fenetre_;
 };
+
+} // namespace Quillet

@@ -5,6 +5,8 @@
 #include "ui/livres/VueLivres.h"
 #include "ui/tarifs/VueTarifs.h"
 
+namespace Quillet {
+
 namespace {
 
 template <typename Ecran>
@@ -44,3 +46,5 @@ TraitsDeRubrique traits(Rubrique rubrique)
     }
     Q_UNREACHABLE();
 }
+
+} // namespace Quillet

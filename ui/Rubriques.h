@@ -6,6 +6,8 @@
 #include <array>
 #include <functional>
 
+namespace Quillet {
+
 struct Contexte;
 
 // The sections of the window, in the sidebar's order.
@@ -47,3 +49,5 @@ struct TraitsDeRubrique
 };
 
 TraitsDeRubrique traits(Rubrique rubrique);
+
+} // namespace Quillet

@@ -13,6 +13,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+using namespace Quillet;
+
 namespace {
 
 // As this program was packaged; no feed unless it runs from where the package puts it: an update of another copy would

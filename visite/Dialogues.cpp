@@ -9,6 +9,8 @@
 
 #include <cstdio>
 
+namespace Quillet {
+
 QDialog *Dialogues::devant()
 {
     return qobject_cast<QDialog *>(QApplication::activeModalWidget());
@@ -54,3 +56,5 @@ Dialogues::Reponse Dialogues::enregistrerSous(const QString &chemin)
         QMetaObject::invokeMethod(dialogue, "accept");
     };
 }
+
+} // namespace Quillet

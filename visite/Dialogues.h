@@ -8,6 +8,8 @@
 class QDialog;
 class QWidget;
 
+namespace Quillet {
+
 // The sheets and dialogs that open over a window, and how a person answers those that hold the program up.
 namespace Dialogues {
 
@@ -24,3 +26,5 @@ Reponse renoncer();
 Reponse enregistrerSous(const QString &chemin);
 
 } // namespace Dialogues
+
+} // namespace Quillet

@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <cstdio>
 
+namespace Quillet {
+
 namespace {
 
 bool porteLeNom(const QWidget *widget, const QString &nom)
@@ -123,3 +125,5 @@ QString Ecran::valeurEnFaceDe(const QWidget *fenetre, const QString &libelle)
     });
     return valeur == valeurs.end() ? QString() : (*valeur)->text();
 }
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 
 class QWidget;
 
+namespace Quillet {
+
 // Finds the controls of a window by what a screen reader says of them, and works them as a person does. Each returns
 // false, and says which control is missing, when there is none.
 namespace Ecran {
@@ -23,3 +25,5 @@ bool montre(const QWidget *fenetre, const QString &texte);
 QString valeurEnFaceDe(const QWidget *fenetre, const QString &libelle);
 
 } // namespace Ecran
+
+} // namespace Quillet

@@ -18,6 +18,8 @@
 #include <cmath>
 #include <utility>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int echelle = 3;        // of the picture: strokes must have a core that antialiasing leaves alone
@@ -198,7 +200,7 @@ void chercherDans(const QWidget *page, const QList<TextePeint> &textes, QStringL
 
 double Lisibilite::rapport(const QColor &a, const QColor &b)
 {
-    return ::rapport(luminance(a.rgb()), luminance(b.rgb()));
+    return Quillet::rapport(luminance(a.rgb()), luminance(b.rgb()));
 }
 
 QList<Lisibilite::Contraste> Lisibilite::contrastes(QWidget *fenetre)
@@ -248,3 +250,5 @@ QStringList Lisibilite::coupes(QWidget *fenetre)
     }
     return coupes;
 }
+
+} // namespace Quillet

@@ -6,6 +6,8 @@
 
 class QWidget;
 
+namespace Quillet {
+
 // Whether a window can be read: looked for in what it paints.
 namespace Lisibilite {
 
@@ -30,3 +32,5 @@ QList<Contraste> contrastes(QWidget *fenetre);
 QStringList coupes(QWidget *fenetre);
 
 } // namespace Lisibilite
+
+} // namespace Quillet

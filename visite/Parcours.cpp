@@ -10,6 +10,8 @@
 
 #include <cstdio>
 
+namespace Quillet {
+
 namespace {
 
 // A fixed day, so that the same schedule is in force whenever the tour is played.
@@ -159,3 +161,5 @@ bool Parcours::photographier(const QString &nom)
     std::fprintf(stderr, "Image impossible à écrire : %s\n", qPrintable(chemin));
     return false;
 }
+
+} // namespace Quillet

@@ -8,6 +8,8 @@
 
 class QDialog;
 
+namespace Quillet {
+
 // Drives the real window through one typical order, as a seller would: by clicks and keys.
 class Parcours
 {
@@ -40,3 +42,5 @@ private:
     SiteDeLaVisite site_;
     QuilletApp quillet_;
 };
+
+} // namespace Quillet

@@ -8,6 +8,8 @@
 
 #include <utility>
 
+namespace Quillet {
+
 namespace {
 
 // What La Poste writes over the column of each grid.
@@ -111,3 +113,5 @@ void SiteDeLaVisite::servir()
         visiteur->disconnectFromHost();
     });
 }
+
+} // namespace Quillet

@@ -6,6 +6,8 @@
 
 #include <QTcpServer>
 
+namespace Quillet {
+
 // Poses as La Poste and PayPal on this machine, with tariffs of its own making, so that the checks find changes.
 class SiteDeLaVisite
 {
@@ -26,3 +28,5 @@ private:
     QString paypal_;
     QTcpServer serveur_;
 };
+
+} // namespace Quillet

@@ -10,6 +10,8 @@
 
 #include <cmath>
 
+namespace Quillet {
+
 namespace {
 
 constexpr double jeu = 4; // px, between two figures of one width
@@ -119,3 +121,5 @@ QList<TextePeint> textesPeints(QWidget *page)
     textes.removeIf([](const TextePeint &texte) { return texte.encre.isEmpty() || texte.decoupe.isEmpty(); });
     return textes;
 }
+
+} // namespace Quillet

@@ -7,6 +7,8 @@
 
 class QWidget;
 
+namespace Quillet {
+
 // A run of text as a widget paints it, on one line.
 struct TextePeint
 {
@@ -21,3 +23,5 @@ struct TextePeint
 
 // Every text of `page`, whoever draws it: labels, fields, delegates, hand-drawn widgets. In the order of painting.
 QList<TextePeint> textesPeints(QWidget *page);
+
+} // namespace Quillet

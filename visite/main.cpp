@@ -7,6 +7,8 @@
 
 #include <cstdio>
 
+using namespace Quillet;
+
 namespace {
 
 struct Apparence

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 using Appcast::Parution;
@@ -213,3 +215,5 @@ QString Appcast::notes(const QString &description)
     }
     return texte.size() > notesMaximales ? debut(texte, notesMaximales) + u'…' : texte;
 }
+
+} // namespace Quillet

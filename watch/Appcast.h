@@ -7,6 +7,8 @@
 #include <QString>
 #include <QUrl>
 
+namespace Quillet {
+
 // The feed of updates, in Sparkle's format.
 namespace Appcast {
 
@@ -36,3 +38,5 @@ std::optional<Parution> aProposer(const QList<Parution> &parutions, const Numero
 QString notes(const QString &description);
 
 } // namespace Appcast
+
+} // namespace Quillet

@@ -3,6 +3,8 @@
 #include <map>
 #include <utility>
 
+namespace Quillet {
+
 namespace {
 
 using AvantApres = std::pair<std::optional<Centimes>, std::optional<Centimes>>;
@@ -53,3 +55,5 @@ QList<EcartTarif> EcartTarif::duReleve(const Donnees &donnees, const TarifsColis
 {
     return ecarts(donnees.tarifs(veille(releves.validite)), releves);
 }
+
+} // namespace Quillet

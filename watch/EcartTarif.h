@@ -7,6 +7,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // One tier whose price is not the same in two schedules.
 struct EcartTarif
 {
@@ -29,3 +31,5 @@ struct EcartTarif
 
     bool operator==(const EcartTarif &) const = default;
 };
+
+} // namespace Quillet

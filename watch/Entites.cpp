@@ -5,6 +5,8 @@
 #include <optional>
 #include <utility>
 
+namespace Quillet {
+
 namespace {
 
 constexpr std::array<std::pair<QStringView, char16_t>, 25> entitesNommees{{
@@ -72,3 +74,5 @@ QString TexteHTML::decoderEntites(QStringView texte)
     }
     return resultat += texte.sliced(suite);
 }
+
+} // namespace Quillet

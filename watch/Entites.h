@@ -2,9 +2,9 @@
 
 #include <QString>
 
-namespace TexteHTML {
+namespace Quillet::TexteHTML {
 
 // "&eacute;", "&#233;" and "&#xE9;" become "é"; what is not known stays as written.
 QString decoderEntites(QStringView texte);
 
-} // namespace TexteHTML
+} // namespace Quillet::TexteHTML

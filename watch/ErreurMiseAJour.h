@@ -2,6 +2,8 @@
 
 #include "model/Echec.h"
 
+namespace Quillet {
+
 // Why an update could not be found or was not taken: the whole sentence that the user reads. `detail` is a short
 // phrase in lower case.
 class ErreurMiseAJour : public Echec
@@ -21,3 +23,5 @@ public:
 private:
     explicit ErreurMiseAJour(const QString &texte) : Echec(texte) {}
 };
+
+} // namespace Quillet

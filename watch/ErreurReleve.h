@@ -4,6 +4,8 @@
 
 #include <utility>
 
+namespace Quillet {
+
 // Why a page could not be read. `texte` is the whole sentence that the tariffs screen shows; `detail` is the short
 // phrase, in lower case, of whoever threw it.
 class ErreurReleve : public Echec
@@ -25,3 +27,5 @@ private:
     Cas cas_;
     QString detail_;
 };
+
+} // namespace Quillet

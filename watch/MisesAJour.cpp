@@ -5,6 +5,8 @@
 
 #include <utility>
 
+namespace Quillet {
+
 namespace {
 
 constexpr Limites limitesDuFlux{.taille = qint64{256} << 10};
@@ -107,3 +109,5 @@ void MisesAJour::passerA(Etat etat)
     peutVerifier_ = actif_ && !recherche_ && !paquet_;
     emit change();
 }
+
+} // namespace Quillet

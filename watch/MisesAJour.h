@@ -9,6 +9,8 @@
 #include <memory>
 #include <optional>
 
+namespace Quillet {
+
 class Telechargement;
 
 // Where updates come from and where they go. Given when the program is packaged; a test gives its own.
@@ -72,3 +74,5 @@ private:
     std::unique_ptr<Telechargement> recherche_; // each check has its own: nothing is left of the one before
     std::unique_ptr<TelechargementPaquet> paquet_;
 };
+
+} // namespace Quillet

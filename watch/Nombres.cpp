@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <array>
 
+namespace Quillet {
+
 namespace {
 
 // A whole part and its decimals, as `decimales` digits of a larger whole: missing ones are zeros, further ones are cut.
@@ -74,3 +76,5 @@ std::optional<qint64> TexteHTML::grammes(QStringView texte)
     }
     return std::nullopt;
 }
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // Amounts and weights of short French texts, as a pattern of ICU's dialect would find them.
 namespace TexteHTML {
 
@@ -13,3 +15,5 @@ std::optional<qint64> centiemes(QStringView texte);
 std::optional<qint64> grammes(QStringView texte);
 
 } // namespace TexteHTML
+
+} // namespace Quillet

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace Quillet {
+
 namespace {
 
 constexpr qsizetype longueurMaximale = 64;
@@ -67,3 +69,5 @@ std::strong_ordering NumeroDeVersion::operator<=>(const NumeroDeVersion &autre) 
     return std::lexicographical_compare_three_way(suffixe_.begin(), suffixe_.end(), autre.suffixe_.begin(),
                                                   autre.suffixe_.end(), ordre);
 }
+
+} // namespace Quillet

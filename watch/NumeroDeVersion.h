@@ -7,6 +7,8 @@
 #include <compare>
 #include <optional>
 
+namespace Quillet {
+
 // A version's number in its order: 1.9 < 1.10-beta.2 < 1.10-rc1 < 1.10. "1.2" is "1.2.0", and what follows a "+" counts
 // for nothing.
 class NumeroDeVersion
@@ -24,3 +26,5 @@ private:
     QVersionNumber nombres_; // without zeros at the end
     QStringList suffixe_;    // runs of letters or of digits; empty for a release
 };
+
+} // namespace Quillet

@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <functional>
 
+namespace Quillet {
+
 namespace {
 
 using PaliersParCode = QHash<CodeGrille, QList<Palier>>;
@@ -131,3 +133,5 @@ ReleveColissimo ReleveColissimo::analyser(const QString &page, const TarifsColis
     return {{.validite = date.value_or(releve), .releve = releve, .source = adresse(), .grilles = grilles},
             date.has_value()};
 }
+
+} // namespace Quillet

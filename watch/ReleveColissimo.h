@@ -8,6 +8,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // One reading of La Poste's page of Colissimo tariffs.
 struct ReleveColissimo
 {
@@ -25,3 +27,5 @@ struct ReleveColissimo
 
     bool operator==(const ReleveColissimo &) const = default;
 };
+
+} // namespace Quillet

@@ -5,6 +5,8 @@
 #include "watch/Signes.h"
 #include "watch/TexteHTML.h"
 
+namespace Quillet {
+
 namespace {
 
 // "label\s+(\d+,\d+)\s*unit", without case: an engine would try it at every "e" of a page made of them.
@@ -86,3 +88,5 @@ FraisPaypal RelevePaypal::analyser(const QString &page, QDate releve)
                 {RegionPaypal::autres, exiger<Taux>(autres)},
             }};
 }
+
+} // namespace Quillet

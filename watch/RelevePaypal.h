@@ -6,6 +6,8 @@
 #include <QString>
 #include <QUrl>
 
+namespace Quillet {
+
 // PayPal's page of merchant fees for France.
 namespace RelevePaypal {
 
@@ -14,3 +16,5 @@ QUrl adresse();
 FraisPaypal analyser(const QString &page, QDate releve);
 
 } // namespace RelevePaypal
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 template <typename Octets>
@@ -36,3 +38,5 @@ bool SignatureEd25519::valide(const Cle &cle, const Signature &signature, std::s
     return sodium_init() >= 0
            && crypto_sign_verify_detached(signature.data(), octets.data(), octets.size(), cle.data()) == 0;
 }
+
+} // namespace Quillet

@@ -6,7 +6,7 @@
 #include <optional>
 #include <span>
 
-namespace SignatureEd25519 {
+namespace Quillet::SignatureEd25519 {
 
 using Cle = std::array<unsigned char, 32>; // public
 using Signature = std::array<unsigned char, 64>;
@@ -17,4 +17,4 @@ std::optional<Signature> signature(const QByteArray &base64);
 // Whether whoever holds the key's other half signed just these bytes.
 bool valide(const Cle &cle, const Signature &signature, std::span<const unsigned char> octets);
 
-} // namespace SignatureEd25519
+} // namespace Quillet::SignatureEd25519

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 UChar32 caractere(QStringView texte, qsizetype place)
@@ -84,3 +86,5 @@ qsizetype Signes::finDesBlancs(QStringView texte, qsizetype place)
     return std::find_if_not(texte.begin() + place, texte.end(), [](QChar signe) { return signe.isSpace(); })
            - texte.begin();
 }
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 
 #include <limits>
 
+namespace Quillet {
+
 // The small parts of the patterns, each taking exactly what ICU's engine lets it take.
 namespace Signes {
 
@@ -19,3 +21,5 @@ qsizetype finDesChiffres(QStringView texte, qsizetype place, int auPlus = std::n
 qsizetype finDesBlancs(QStringView texte, qsizetype place);
 
 } // namespace Signes
+
+} // namespace Quillet

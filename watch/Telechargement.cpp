@@ -7,6 +7,8 @@
 #define ZLIB_CONST
 #include <zlib.h>
 
+namespace Quillet {
+
 namespace {
 
 constexpr qint64 tampon = qint64{64} << 10;
@@ -85,3 +87,5 @@ void Telechargement::conclure(const QByteArray &codage)
     }
     emit lue(lu);
 }
+
+} // namespace Quillet

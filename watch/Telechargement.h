@@ -3,6 +3,8 @@
 #include "watch/ErreurReleve.h"
 #include "watch/Transfert.h"
 
+namespace Quillet {
+
 // Fetches a public page as text, without waiting for it. Destroying it gives the download up at once, without a signal.
 class Telechargement : public QObject
 {
@@ -27,3 +29,5 @@ private:
     QByteArray corps_;
     Transfert transfert_;
 };
+
+} // namespace Quillet

@@ -7,6 +7,8 @@
 #include <filesystem>
 #include <utility>
 
+namespace Quillet {
+
 namespace {
 
 // The line may be slow; the size is bounded by what the feed announces.
@@ -113,3 +115,5 @@ bool TelechargementPaquet::signe()
                cle_, *parution_.signature,
                {reinterpret_cast<const uchar *>(octets.data()), static_cast<size_t>(octets.size())});
 }
+
+} // namespace Quillet

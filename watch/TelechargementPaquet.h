@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QTemporaryFile>
 
+namespace Quillet {
+
 // Fetches the package of an update. It gets its name in the folder only once its length and its signature are right;
 // whatever else happens, giving up included, nothing of it stays on the disk.
 class TelechargementPaquet : public QObject
@@ -43,3 +45,5 @@ private:
     QString refus_; // the sentence that ended the transfer from here; empty when none did
     Transfert transfert_;
 };
+
+} // namespace Quillet

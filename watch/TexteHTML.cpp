@@ -9,6 +9,8 @@
 
 #include <initializer_list>
 
+namespace Quillet {
+
 namespace {
 
 struct Balises
@@ -165,3 +167,5 @@ QList<QStringList> TexteHTML::groupes(const QString &motif, const QString &texte
     }
     return trouves;
 }
+
+} // namespace Quillet

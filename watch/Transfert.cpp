@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int redirectionsMaximales = 20;
@@ -188,3 +190,5 @@ std::optional<QString> Transfert::raisonDEchec(const QNetworkReply &reponse) con
         return tropVolumineuse();
     return std::nullopt;
 }
+
+} // namespace Quillet

@@ -10,6 +10,8 @@
 
 class QNetworkReply;
 
+namespace Quillet {
+
 // What a download may cost.
 struct Limites
 {
@@ -66,3 +68,5 @@ private:
     qint64 octets_ = 0;
     QString interruption_; // why it was broken off here; empty when it was not
 };
+
+} // namespace Quillet

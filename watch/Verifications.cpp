@@ -4,6 +4,8 @@
 
 using namespace std::chrono_literals;
 
+namespace Quillet {
+
 namespace {
 
 constexpr auto uneSemaine = 604'800s;
@@ -162,3 +164,5 @@ bool Verifications::perime(const std::optional<QDateTime> &date) const
 {
     return plusVieuxQue(date, troisMois);
 }
+
+} // namespace Quillet

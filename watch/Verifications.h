@@ -12,6 +12,8 @@
 #include <functional>
 #include <optional>
 
+namespace Quillet {
+
 // Where the public pages are; a test puts its own in their place.
 struct PagesSurveillees
 {
@@ -102,3 +104,5 @@ private:
     Controle<ReleveColissimo> laPoste_;
     Controle<FraisPaypal> paypal_;
 };
+
+} // namespace Quillet

@@ -14,6 +14,8 @@
 #include <cstddef>
 #include <iterator>
 
+namespace Quillet {
+
 namespace {
 
 // Nothing of ours asks for its parent: the call only marks the two ends.
@@ -132,3 +134,5 @@ QByteArray Appels::nom(long appel)
     const auto *const trouve = std::ranges::find(noms, appel, &Nom::appel);
     return trouve == std::end(noms) ? "appel " + QByteArray::number(qlonglong(appel)) : QByteArray(trouve->nom);
 }
+
+} // namespace Quillet

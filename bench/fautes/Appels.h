@@ -6,6 +6,8 @@
 
 #include <functional>
 
+namespace Quillet {
+
 // The system calls of another process, one of which is made to fail, or to be its last.
 namespace Appels {
 
@@ -29,3 +31,5 @@ Suivi suivre(pid_t enfant, Disque disque, int rang, int erreur);
 QByteArray nom(long appel);
 
 } // namespace Appels
+
+} // namespace Quillet

@@ -10,6 +10,8 @@
 #include <cstdio>
 #include <cstring>
 
+namespace Quillet {
+
 namespace {
 
 using ParAppel = QMap<QByteArray, int>; // how often each was touched
@@ -102,3 +104,5 @@ int arretsAChaqueAppel(const Ressources &ressources, const QString &travail)
     std::printf("    %d laissent un reste temporaire\n", restes);
     return bilan.fautes;
 }
+
+} // namespace Quillet

@@ -17,6 +17,8 @@
 #include <cstdio>
 #include <thread>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int arrets = 1000;
@@ -131,3 +133,5 @@ int arretsAuHasard(const Ressources &ressources, const QString &travail)
                 nombreDeRestes(dossier), fautes);
     return fautes;
 }
+
+} // namespace Quillet

@@ -2,6 +2,8 @@
 
 #include "bench/fautes/Essai.h"
 
+namespace Quillet {
+
 // How the trials of one part ended.
 struct Bilan
 {
@@ -22,3 +24,5 @@ struct Bilan
         return QStringLiteral("%1 réussis, %2 refusés, %3 fautes").arg(reussis).arg(refuses).arg(fautes).toUtf8();
     }
 };
+
+} // namespace Quillet

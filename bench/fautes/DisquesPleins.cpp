@@ -12,6 +12,8 @@
 #include <cstdlib>
 #include <stdexcept>
 
+namespace Quillet {
+
 namespace {
 
 // A file that takes all the room a small disk has left, but for what is wanted.
@@ -99,3 +101,5 @@ int disquesPleins(const Ressources &ressources, const QString &travail)
         fautes += dansUnProcessus([&] { return remplir(ressources, travail, disque); }) != 0;
     return fautes;
 }
+
+} // namespace Quillet

@@ -9,6 +9,8 @@
 #include <cstdlib>
 #include <stdexcept>
 
+namespace Quillet {
+
 namespace {
 
 struct Obstacle
@@ -103,3 +105,5 @@ int dossiersPerdus(const Ressources &ressources, const QString &travail)
 {
     return dansUnProcessus([&] { return sansDroits(ressources, travail); }) != 0;
 }
+
+} // namespace Quillet

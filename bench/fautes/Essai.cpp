@@ -5,6 +5,8 @@
 #include <array>
 #include <cstdio>
 
+namespace Quillet {
+
 namespace {
 
 const QByteArray abime = "{ mes prix, mal fermés";
@@ -157,3 +159,5 @@ QList<Essai> essais(const Ressources &ressources, const QString &temoin)
                 tous.append(Essai(ressources, geste, depart, temoin));
     return tous;
 }
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 
 #include <QMap>
 
+namespace Quillet {
+
 // What the folder holds before the program starts: nothing, the file of an earlier save, or a damaged one.
 enum class Depart { vide, connu, illisible };
 
@@ -46,3 +48,5 @@ private:
 
 // Every gesture from every start that means something for it.
 QList<Essai> essais(const Ressources &ressources, const QString &temoin);
+
+} // namespace Quillet

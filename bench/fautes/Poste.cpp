@@ -2,6 +2,8 @@
 
 #include "tests/Banc.h"
 
+namespace Quillet {
+
 namespace {
 
 const QString fichierLivres = QStringLiteral("livres-modifies.json");
@@ -123,3 +125,5 @@ QList<Geste> gestesEntiers()
         {"un numéro", fichierNumeros, rien, retenirUnNumero},
     };
 }
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 #include "model/Catalogue.h"
 #include "model/HistoriqueLivres.h"
 
+namespace Quillet {
+
 // All that saves in the program, at work on one folder.
 struct Poste
 {
@@ -42,3 +44,5 @@ struct Geste
 QList<Geste> gestes();
 // Those that write a whole file with nothing but their rank, one a file.
 QList<Geste> gestesEntiers();
+
+} // namespace Quillet

@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <exception>
 
+namespace Quillet {
+
 pid_t lancer(const std::function<int()> &travail)
 {
     std::fflush(stdout);
@@ -35,3 +37,5 @@ int dansUnProcessus(const std::function<int()> &travail)
 {
     return attendre(lancer(travail));
 }
+
+} // namespace Quillet

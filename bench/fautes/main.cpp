@@ -9,6 +9,8 @@
 #include <chrono>
 #include <cstdio>
 
+using namespace Quillet;
+
 namespace {
 
 struct Partie

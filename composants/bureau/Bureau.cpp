@@ -9,6 +9,8 @@
 
 using namespace std::chrono_literals;
 
+namespace Quillet {
+
 namespace {
 
 // Between two changes of the whole window, whatever a broken portal sends.
@@ -57,3 +59,5 @@ void Bureau::prendre()
     repit_.start();
     emit change();
 }
+
+} // namespace Quillet

@@ -6,6 +6,8 @@
 #include <QThread>
 #include <QTimer>
 
+namespace Quillet {
+
 // Follows what the desktop says. It never waits: the bus and the portal are asked in a thread of its own, and until
 // they answer there are no wishes.
 class Bureau : public QObject
@@ -33,3 +35,5 @@ private:
     QTimer repit_;
     QThread *fil_;
 };
+
+} // namespace Quillet

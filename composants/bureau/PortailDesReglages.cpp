@@ -6,6 +6,8 @@
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 
+namespace Quillet {
+
 namespace {
 
 const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
@@ -54,3 +56,5 @@ void PortailDesReglages::changer(const QString &espace, const QString &cle, cons
     souhaits_.retenir(espace, cle, valeur.variant());
     emit dit(souhaits_);
 }
+
+} // namespace Quillet

@@ -10,6 +10,8 @@
 
 class QDBusPendingCallWatcher;
 
+namespace Quillet {
+
 // Asks the desktop's portal for its settings and listens to them. Connecting to a bus and following a service wait for
 // the bus: it must live in a thread where that holds nobody up.
 class PortailDesReglages : public QObject
@@ -32,3 +34,5 @@ private:
     std::optional<QDBusConnection> bus_;
     Souhaits souhaits_;
 };
+
+} // namespace Quillet

@@ -5,6 +5,8 @@
 #include <array>
 #include <cmath>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int emboitements = 8; // more variants one in the other than any portal sends
@@ -80,3 +82,5 @@ double agrandissement(double texte, const QString &plateforme, double echelle, d
     const bool compris = deja > 0.5 && std::abs(deja - std::round(deja)) < 0.02;
     return compris ? 1 : texte;
 }
+
+} // namespace Quillet

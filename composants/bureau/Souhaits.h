@@ -7,6 +7,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // What the desktop asks of its programs. A wish that is not said, or not in a way that can be read, is as here.
 struct Souhaits
 {
@@ -43,3 +45,5 @@ Souhaits souhaits(const ReglagesDuPortail &reglages);
 // What is left to enlarge texts by, where the display may already do so: on X11 the desktop has put its text size into
 // the display's density, which Qt draws everything by (`echelle`); elsewhere it may be in the points an inch (`ppp`).
 double agrandissement(double texte, const QString &plateforme, double echelle, double ppp);
+
+} // namespace Quillet

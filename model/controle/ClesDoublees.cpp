@@ -2,6 +2,8 @@
 
 #include <QSet>
 
+namespace Quillet {
+
 namespace {
 
 // Where the text ends that begins after a quote.
@@ -47,3 +49,5 @@ QList<ClesDoublees::Cle> ClesDoublees::dans(const QByteArray &json)
     }
     return doublees;
 }
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 #include <QList>
 #include <QString>
 
+namespace Quillet {
+
 // Keys that one object of a JSON text has twice: reading takes the last without a word.
 namespace ClesDoublees {
 
@@ -17,3 +19,5 @@ struct Cle
 QList<Cle> dans(const QByteArray &json);
 
 } // namespace ClesDoublees
+
+} // namespace Quillet

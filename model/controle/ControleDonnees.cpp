@@ -13,6 +13,8 @@
 #include <optional>
 #include <vector>
 
+namespace Quillet {
+
 namespace {
 
 // None: it can be entered.
@@ -136,3 +138,5 @@ QString ControleDonnees::bilan() const
     return deListe ? bilan + QStringLiteral(" Les listes se comptent à partir de 0 : livres[0] est le premier livre.")
                    : bilan;
 }
+
+} // namespace Quillet

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+namespace Quillet {
+
 // What a folder of data holds, and all that is to be corrected in it: what loading would refuse, and what it would let
 // pass to surprise the sellers later.
 struct ControleDonnees
@@ -18,3 +20,5 @@ struct ControleDonnees
     // One line that ends the report.
     [[nodiscard]] QString bilan() const;
 };
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 #include <optional>
 #include <vector>
 
+namespace Quillet {
+
 namespace {
 
 using Chiffres = std::vector<int>;
@@ -65,3 +67,5 @@ bool NumeroDeControle::siret(const QString &numero)
     }
     return somme % 10 == 0;
 }
+
+} // namespace Quillet

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace Quillet {
+
 // Numbers whose last digit checks the others: a typing error shows. Spaces count for nothing.
 namespace NumeroDeControle {
 
@@ -11,3 +13,5 @@ bool isbn(const QString &numero);
 bool siret(const QString &numero);
 
 } // namespace NumeroDeControle
+
+} // namespace Quillet

@@ -14,6 +14,8 @@
 
 #include <utility>
 
+namespace Quillet {
+
 // What the content of each file must keep to, beyond ReglesCommunes: what the program takes for granted, and what would
 // go wrong without a word. Each notes its mistakes at their place.
 namespace Regles {
@@ -37,3 +39,5 @@ void destinations(const QList<Destination> &destinations, const TarifsParFichier
 void livres(const QList<Livre> &livres, const Reperes &reperes, const Json::Lieu &lieu);
 
 } // namespace Regles
+
+} // namespace Quillet

@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <array>
 
+namespace Quillet {
+
 // What holds for every value of its kind, wherever it stands: texts say something, quantities are not negative, links
 // open (the program follows https only).
 namespace ReglesCommunes {
@@ -122,3 +124,5 @@ auto codes(const QList<T> &liste)
 }
 
 } // namespace ReglesCommunes
+
+} // namespace Quillet

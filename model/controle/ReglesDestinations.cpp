@@ -2,6 +2,8 @@
 #include "model/controle/Regles.h"
 #include "model/controle/ReglesCommunes.h"
 
+namespace Quillet {
+
 namespace {
 
 QStringList fichiersSans(const CodeGrille &grille, const Regles::TarifsParFichier &fichiers)
@@ -33,3 +35,5 @@ void Regles::destinations(const QList<Destination> &destinations, const TarifsPa
     if (codes.size() == destinations.size() && !codes.contains(deDepart))
         lieu.noter(QStringLiteral("aucune n’a le code « %1 », celui d’une nouvelle commande").arg(deDepart.texte()));
 }
+
+} // namespace Quillet

@@ -5,6 +5,8 @@
 
 #include <QFileInfo>
 
+namespace Quillet {
+
 namespace {
 
 using Json::Lieu;
@@ -72,3 +74,5 @@ void Regles::livres(const QList<Livre> &livres, const Reperes &reperes, const Li
     for (qsizetype i = 0; i < livres.size(); ++i)
         livre(livres[i], reperes, Lieu(lieu, i));
 }
+
+} // namespace Quillet

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 using Json::Lieu;
@@ -67,3 +69,5 @@ void Regles::reglages(const Reglages &reglages, const Lieu &lieu)
     for (auto entree = reglages.vendeurs.begin(); entree != reglages.vendeurs.end(); ++entree)
         vendeur(entree.value(), Lieu(vendeurs, entree.key().texte()));
 }
+
+} // namespace Quillet

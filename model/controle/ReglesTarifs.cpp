@@ -1,6 +1,8 @@
 #include "model/controle/Regles.h"
 #include "model/controle/ReglesCommunes.h"
 
+namespace Quillet {
+
 namespace {
 
 template <Enumeration Enum>
@@ -53,3 +55,5 @@ void Regles::tarifs(const TarifsColissimo &tarifs, const TarifsParFichier &prece
     for (qsizetype i = 0; i < tarifs.grilles.size(); ++i)
         grille(tarifs.grilles[i], Json::Lieu(grilles, i));
 }
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 
 #include <QTest>
 
+using namespace Quillet;
+
 class TestNumerotation : public QObject
 {
     Q_OBJECT

@@ -4,6 +4,8 @@
 
 #include <QTest>
 
+using namespace Quillet;
+
 class TestReponse : public QObject
 {
     Q_OBJECT

@@ -3,6 +3,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+using namespace Quillet;
+
 class TestCatalogue : public QObject
 {
     Q_OBJECT

@@ -10,6 +10,8 @@
 #include <functional>
 #include <limits>
 
+using namespace Quillet;
+
 // What the order holds, and the quantities it is counted in.
 class TestCommande : public QObject
 {

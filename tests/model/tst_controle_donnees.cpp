@@ -7,6 +7,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Quillet;
+
 class TestControleDonnees : public QObject
 {
     Q_OBJECT

@@ -5,6 +5,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+using namespace Quillet;
+
 // What sellers change of their books, and the way back from it.
 class TestEditionLivres : public QObject
 {

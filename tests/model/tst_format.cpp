@@ -2,6 +2,8 @@
 
 #include <QTest>
 
+using namespace Quillet;
+
 class TestFormat : public QObject
 {
     Q_OBJECT

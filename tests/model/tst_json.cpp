@@ -5,6 +5,8 @@
 
 #include <QTest>
 
+using namespace Quillet;
+
 class TestJson : public QObject
 {
     Q_OBJECT

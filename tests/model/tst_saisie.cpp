@@ -3,6 +3,8 @@
 
 #include <QTest>
 
+using namespace Quillet;
+
 class TestSaisie : public QObject
 {
     Q_OBJECT

@@ -6,6 +6,8 @@
 
 #include <cerrno>
 
+using namespace Quillet;
+
 namespace {
 
 bool disqueSourd = false;

@@ -7,6 +7,8 @@
 #include <QTest>
 #include <QTimer>
 
+namespace Quillet {
+
 namespace {
 
 QByteArray lire(const QString &nom)
@@ -128,3 +130,5 @@ void ServeurLocal::repondre(QTcpSocket &ligne, const QByteArray &tete)
     });
     horloge->start(reponse.parOctet);
 }
+
+} // namespace Quillet

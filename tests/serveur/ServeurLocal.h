@@ -8,6 +8,8 @@
 #include <chrono>
 #include <memory>
 
+namespace Quillet {
+
 // What the server sends for a path, byte for byte: a broken answer is written as it breaks.
 struct Reponse
 {
@@ -55,3 +57,5 @@ private:
     qint64 envoyes_ = 0;
     int ouvertes_ = 0;
 };
+
+} // namespace Quillet

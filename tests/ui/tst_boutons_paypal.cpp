@@ -4,6 +4,8 @@
 #include <QClipboard>
 #include <QTest>
 
+using namespace Quillet;
+
 // PayPal's buttons on the books' screen, for the schedule in force and the next.
 class TestBoutonsPaypal : public QObject
 {

@@ -14,6 +14,8 @@
 #include <cstdlib>
 #include <limits>
 
+using namespace Quillet;
+
 using Mode = Theme::Mode;
 using Contraste = Theme::Contraste;
 

@@ -7,6 +7,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+using namespace Quillet;
+
 // Pictures of covers: read when asked for, and never in the way.
 class TestCouvertures : public QObject
 {

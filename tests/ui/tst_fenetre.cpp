@@ -11,6 +11,7 @@
 
 #include <algorithm>
 
+using namespace Quillet;
 using namespace std::chrono_literals;
 
 // The frame around the screens.

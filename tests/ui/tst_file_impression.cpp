@@ -4,6 +4,8 @@
 #include <QPrinter>
 #include <QTest>
 
+using namespace Quillet;
+
 // What a print queue is asked, and what its silence becomes.
 class TestFileImpression : public QObject
 {

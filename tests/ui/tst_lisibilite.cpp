@@ -12,6 +12,8 @@
 #include <QRegularExpression>
 #include <QTest>
 
+using namespace Quillet;
+
 // Every screen and sheet can be read: by day and by night, with a larger text, with whatever the data hold.
 class TestLisibilite : public QObject
 {

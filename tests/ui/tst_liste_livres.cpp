@@ -6,6 +6,8 @@
 #include <QAbstractItemModelTester>
 #include <QTest>
 
+using namespace Quillet;
+
 // What the books' screen lists and says, without a window.
 class TestListeLivres : public QObject
 {

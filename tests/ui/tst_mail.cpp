@@ -4,6 +4,8 @@
 
 #include <QTest>
 
+using namespace Quillet;
+
 // What a mail program receives.
 class TestMail : public QObject
 {

@@ -13,6 +13,8 @@
 
 #include <sodium.h>
 
+using namespace Quillet;
+
 // Updates from the menu to the platform's installer, through the real sheet and a server that is honest or not.
 class TestMisesAJour : public QObject
 {

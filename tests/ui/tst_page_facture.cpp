@@ -11,6 +11,8 @@
 
 #include <algorithm>
 
+using namespace Quillet;
+
 // The invoice's page, read back from the bytes of its PDF.
 class TestPageFacture : public QObject
 {

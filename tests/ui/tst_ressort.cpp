@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Quillet;
+
 class TestRessort : public QObject
 {
     Q_OBJECT

@@ -6,6 +6,8 @@
 
 #include <QTest>
 
+using namespace Quillet;
+
 using namespace TextesRecapitulatif;
 
 class TestTextes : public QObject

@@ -13,6 +13,8 @@
 #include <QListWidget>
 #include <QTest>
 
+using namespace Quillet;
+
 // The real window, worked by clicks and keys.
 class TestVueCommande : public QObject
 {

@@ -15,6 +15,8 @@
 #include <QSpinBox>
 #include <QTest>
 
+using namespace Quillet;
+
 // The documents of the parcel, over the real window, through the real dialogs.
 class TestVueDocuments : public QObject
 {

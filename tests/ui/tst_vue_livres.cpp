@@ -10,6 +10,8 @@
 
 #include <functional>
 
+using namespace Quillet;
+
 // The books' screen: the list and what narrows it, edits through the real fields into the real file.
 class TestVueLivres : public QObject
 {

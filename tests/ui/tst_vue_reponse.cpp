@@ -14,6 +14,8 @@
 #include <QTest>
 #include <QTextEdit>
 
+using namespace Quillet;
+
 // The reply, over the real window.
 class TestVueReponse : public QObject
 {

@@ -17,6 +17,8 @@
 
 #include <algorithm>
 
+using namespace Quillet;
+
 // The tariffs screen, its sheets, and what they say.
 class TestVueTarifs : public QObject
 {

@@ -8,6 +8,8 @@
 
 #include <memory>
 
+namespace Quillet {
+
 namespace {
 
 // As they stand: QString::fromUtf16 would take a leading U+FEFF for a byte-order mark.
@@ -128,3 +130,5 @@ QString Motifs::fragment(std::mt19937 &hasard, const QStringList &morceaux)
     }
     return texte;
 }
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 
 #include <random>
 
+namespace Quillet {
+
 // What TexteHTML and Nombres promise, said with the patterns themselves and run by ICU's engine: slow, and true.
 namespace Motifs {
 
@@ -17,3 +19,5 @@ std::optional<qint64> grammes(const QString &texte);
 QString fragment(std::mt19937 &hasard, const QStringList &morceaux);
 
 } // namespace Motifs
+
+} // namespace Quillet

@@ -5,6 +5,8 @@
 
 #include <sodium.h>
 
+using namespace Quillet;
+
 // The feed of updates: what it says, what it may not say, which version comes after which, and who signed.
 class TestAppcast : public QObject
 {

@@ -3,6 +3,8 @@
 
 #include <QTest>
 
+using namespace Quillet;
+
 class TestEcarts : public QObject
 {
     Q_OBJECT

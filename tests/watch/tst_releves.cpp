@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QTest>
 
+using namespace Quillet;
+
 class TestReleves : public QObject
 {
     Q_OBJECT

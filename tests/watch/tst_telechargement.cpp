@@ -8,6 +8,7 @@
 
 #include <array>
 
+using namespace Quillet;
 using namespace std::chrono_literals;
 
 // Downloads from a real server on this machine, honest, broken or hostile.

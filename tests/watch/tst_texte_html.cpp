@@ -4,6 +4,8 @@
 
 #include <QTest>
 
+using namespace Quillet;
+
 class TestTexteHTML : public QObject
 {
     Q_OBJECT

@@ -7,6 +7,8 @@
 #include <QTest>
 #include <QTimeZone>
 
+using namespace Quillet;
+
 // The two checks, against a real server on this machine, by a clock of the test's own.
 class TestVerifications : public QObject
 {

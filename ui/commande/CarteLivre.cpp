@@ -19,6 +19,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int espace = 14;    // between the parts of a card
@@ -212,3 +214,5 @@ void CarteLivre::paintEvent(QPaintEvent *)
     peintre.setPen(livre_.disponible ? texte : secondaire);
     Chiffres::peindre(peintre, bas, Qt::AlignLeft, prix);
 }
+
+} // namespace Quillet

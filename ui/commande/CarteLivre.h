@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+namespace Quillet {
+
 class Commande;
 class Couverture;
 class ImagesCouvertures;
@@ -45,3 +47,5 @@ private:
     Couverture *couverture_;
     SelecteurQuantite *selecteur_;
 };
+
+} // namespace Quillet

@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace Quillet {
+
 namespace {
 
 constexpr Grammes maximum{UniteGramme::maximum};
@@ -98,3 +100,5 @@ void ChampGrammes::focusOutEvent(QFocusEvent *evenement)
     accepter();
     setText(Saisie::ecrit(montre_));
 }
+
+} // namespace Quillet

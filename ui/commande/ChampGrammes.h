@@ -6,6 +6,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // A weight in whole grams, as the French write it, counted at each key; empty when there is none.
 class ChampGrammes : public QLineEdit
 {
@@ -33,3 +35,5 @@ private:
     std::optional<Grammes> montre_;
     std::optional<QString> description_; // while a refusal stands in its place
 };
+
+} // namespace Quillet

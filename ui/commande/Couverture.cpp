@@ -14,6 +14,8 @@
 #include <numbers>
 #include <utility>
 
+namespace Quillet {
+
 namespace {
 
 struct Ombre
@@ -175,3 +177,5 @@ void Couverture::peindrePastille(QPainter &peintre) const
     Chiffres::peindre(peintre, capsule, Qt::AlignCenter, nombre);
     peintre.restore();
 }
+
+} // namespace Quillet

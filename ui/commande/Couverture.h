@@ -5,6 +5,8 @@
 #include <QAbstractButton>
 #include <QPixmap>
 
+namespace Quillet {
+
 class ImagesCouvertures;
 class Ressort;
 
@@ -45,3 +47,5 @@ private:
     Ressort *soulevement_;
     Ressort *pastille_;
 };
+
+} // namespace Quillet

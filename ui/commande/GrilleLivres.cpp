@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int largeurMaximale = 210;
@@ -130,3 +132,5 @@ void GrilleLivres::placer()
         cartes_[i]->setGeometry(gauche + (i % colonnes) * (largeur + espace), (i / colonnes) * (hauteur + espace),
                                 largeur + 2 * debord, hauteur + 2 * debord);
 }
+
+} // namespace Quillet

@@ -5,6 +5,8 @@
 #include <QList>
 #include <QWidget>
 
+namespace Quillet {
+
 class CarteLivre;
 class Commande;
 class ImagesCouvertures;
@@ -44,3 +46,5 @@ private:
     QWidget *precedent_;
     QList<CarteLivre *> cartes_;
 };
+
+} // namespace Quillet

@@ -3,6 +3,8 @@
 #include "composants/Formulaire.h"
 #include "composants/NombreRoulant.h"
 
+namespace Quillet {
+
 // A row of the summary whose value is a figure that rolls over.
 struct RangeeMontant
 {
@@ -14,3 +16,5 @@ struct RangeeMontant
     NombreRoulant *montant;
     Formulaire::Rangee *rangee; // owned by the group it is put into
 };
+
+} // namespace Quillet

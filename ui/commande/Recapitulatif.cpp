@@ -11,6 +11,8 @@
 
 #include <QVBoxLayout>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int largeurMinimale = 330;
@@ -62,3 +64,5 @@ void Recapitulatif::montrer(const Calcul &calcul)
     documents_->montrer(calcul);
     reponse_->montrer(calcul);
 }
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 #include "model/Calcul.h"
 #include "ui/documents/OngletDocuments.h"
 
+namespace Quillet {
+
 class SectionDestination;
 class SectionDocuments;
 class SectionLien;
@@ -38,3 +40,5 @@ private:
     SectionDocuments *documents_;
     SectionReponse *reponse_;
 };
+
+} // namespace Quillet

@@ -7,6 +7,8 @@
 #include "model/Commande.h"
 #include "textes/TextesRecapitulatif.h"
 
+namespace Quillet {
+
 SectionDestination::SectionDestination(const QList<Destination> &destinations, Commande &commande, QWidget *parent)
     : Section(QStringLiteral("Destination"), {}, parent),
       commande_(commande),
@@ -52,3 +54,5 @@ void SectionDestination::montrer(const Calcul &calcul)
     rangeeDeclaration_->setVisible(calcul.destination.has_value());
     declaration_->setText(TextesRecapitulatif::declaration(calcul));
 }
+
+} // namespace Quillet

@@ -3,6 +3,8 @@
 #include "composants/Formulaire.h"
 #include "model/Calcul.h"
 
+namespace Quillet {
+
 class Commande;
 class Choix;
 class Interrupteur;
@@ -26,3 +28,5 @@ private:
     Libelle *declaration_;
     Formulaire::Rangee *rangeeDeclaration_;
 };
+
+} // namespace Quillet

@@ -7,6 +7,8 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 
+namespace Quillet {
+
 SectionDocuments::SectionDocuments(QWidget *parent)
     : Section(QStringLiteral("Documents d’envoi"), {}, parent),
       douane_(new QPushButton(Icone::icone(QStringLiteral("doc.text.magnifyingglass")),
@@ -33,3 +35,5 @@ void SectionDocuments::montrer(const Calcul &calcul)
     douane_->setEnabled(pret);
     facture_->setEnabled(pret);
 }
+
+} // namespace Quillet

@@ -3,8 +3,11 @@
 #include "composants/Formulaire.h"
 #include "ui/documents/OngletDocuments.h"
 
-struct Calcul;
 class QPushButton;
+
+namespace Quillet {
+
+struct Calcul;
 
 // What goes with the parcel.
 class SectionDocuments : public Formulaire::Section
@@ -22,3 +25,5 @@ private:
     QPushButton *douane_;
     QPushButton *facture_;
 };
+
+} // namespace Quillet

@@ -12,6 +12,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+namespace Quillet {
+
 namespace {
 
 const QString reglagesDuLien =
@@ -65,3 +67,5 @@ void SectionLien::montrer(const Calcul &calcul)
     prix_->montrer(lien->prix, lien->prixAffiche);
     retour_->montrer(lien->retour.value_or(QString()));
 }
+
+} // namespace Quillet

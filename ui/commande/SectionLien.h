@@ -3,6 +3,8 @@
 #include "composants/Formulaire.h"
 #include "model/Calcul.h"
 
+namespace Quillet {
+
 class Commande;
 class ChampACopier;
 class ChoixLangue;
@@ -29,3 +31,5 @@ private:
     ChampACopier *prix_;
     ChampACopier *retour_;
 };
+
+} // namespace Quillet

@@ -5,6 +5,8 @@
 #include "model/Format.h"
 #include "textes/TextesRecapitulatif.h"
 
+namespace Quillet {
+
 SectionLivres::SectionLivres(QWidget *parent)
     : Section(QStringLiteral("Livres"), {}, parent),
       aucunLivre_(new Libelle(QStringLiteral("Aucun livre pour l’instant : cliquez sur une couverture ou sur +."),
@@ -38,3 +40,5 @@ void SectionLivres::montrer(const Calcul &calcul)
     sousTotal_.rangee->setVisible(!textes.isEmpty());
     sousTotal_.montant->afficher(Format::euros(calcul.sousTotal));
 }
+
+} // namespace Quillet

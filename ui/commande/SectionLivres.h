@@ -3,6 +3,8 @@
 #include "model/Calcul.h"
 #include "ui/commande/RangeeMontant.h"
 
+namespace Quillet {
+
 class Libelle;
 
 // The books of the order and their sub-total.
@@ -19,3 +21,5 @@ private:
     QList<RangeeMontant> lignes_; // as many as the longest order so far; the spare ones are hidden
     RangeeMontant sousTotal_;
 };
+
+} // namespace Quillet

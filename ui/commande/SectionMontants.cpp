@@ -11,6 +11,8 @@
 #include <QHBoxLayout>
 #include <QPainter>
 
+namespace Quillet {
+
 // The amount to ask, set off from the other rows.
 class SectionMontants::LigneDuTotal : public QWidget
 {
@@ -101,3 +103,5 @@ void SectionMontants::montrer(const Calcul &calcul)
     afficher(frais_.montant, negatif(calcul.fraisPaypal));
     afficher(reste_.montant, calcul.reste);
 }
+
+} // namespace Quillet

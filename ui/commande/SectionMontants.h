@@ -3,6 +3,8 @@
 #include "model/Calcul.h"
 #include "ui/commande/RangeeMontant.h"
 
+namespace Quillet {
+
 // Postage, total, PayPal's fee and what remains.
 class SectionMontants : public Formulaire::Section
 {
@@ -23,3 +25,5 @@ private:
     RangeeMontant frais_;
     RangeeMontant reste_;
 };
+
+} // namespace Quillet

@@ -11,6 +11,8 @@
 
 #include <QHBoxLayout>
 
+namespace Quillet {
+
 namespace {
 
 ChampGrammes *champ(const QString &nom)
@@ -123,3 +125,5 @@ void SectionPoids::montrerAvertissements(const Calcul &calcul)
         alerte->show(); // now: a layout would show it one turn of the event loop later
     }
 }
+
+} // namespace Quillet

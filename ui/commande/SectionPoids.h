@@ -4,6 +4,8 @@
 #include "textes/TextesRecapitulatif.h"
 #include "ui/commande/RangeeMontant.h"
 
+namespace Quillet {
+
 class Commande;
 class ChampGrammes;
 class Choix;
@@ -32,3 +34,5 @@ private:
     QWidget *avertissements_;
     QList<TextesRecapitulatif::Avertissement> avertissementsMontres_;
 };
+
+} // namespace Quillet

@@ -7,6 +7,8 @@
 
 #include <QPushButton>
 
+namespace Quillet {
+
 SectionReponse::SectionReponse(const Commande &commande, QWidget *parent)
     : Section(QStringLiteral("Réponse à l’acheteur"),
               QStringLiteral("Dans la langue choisie pour le lien de paiement."), parent),
@@ -22,3 +24,5 @@ void SectionReponse::montrer(const Calcul &calcul)
     ecrire_->setText(TextesRecapitulatif::libelleDeLaReponse(langueAcheteur(commande_.bon(), calcul)));
     ecrire_->setEnabled(calcul.pretAPartir());
 }
+
+} // namespace Quillet

@@ -2,9 +2,12 @@
 
 #include "composants/Formulaire.h"
 
+class QPushButton;
+
+namespace Quillet {
+
 struct Calcul;
 class Commande;
-class QPushButton;
 
 // The way to the reply, in the buyer's language.
 class SectionReponse : public Formulaire::Section
@@ -22,3 +25,5 @@ private:
     const Commande &commande_;
     QPushButton *ecrire_;
 };
+
+} // namespace Quillet

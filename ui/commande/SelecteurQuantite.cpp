@@ -18,6 +18,8 @@
 #include <algorithm>
 #include <initializer_list>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int ombre = 2;        // px around the capsule, but above
@@ -158,3 +160,5 @@ void SelecteurQuantite::paintEvent(QPaintEvent *)
     Dessin::ombreDouce(peintre, capsule);
     Dessin::aplat(peintre, capsule, rayon, Theme::accent(palette()));
 }
+
+} // namespace Quillet

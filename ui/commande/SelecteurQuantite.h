@@ -4,9 +4,12 @@
 
 #include <QWidget>
 
+class QAbstractButton;
+
+namespace Quillet {
+
 class Commande;
 class NombreRoulant;
-class QAbstractButton;
 class Ressort;
 
 // The stepper of one card: minus, the number of copies, plus.
@@ -35,3 +38,5 @@ private:
     NombreRoulant *nombre_;
     Ressort *plein_; // 0: empty, 1: on the accent capsule
 };
+
+} // namespace Quillet

@@ -7,6 +7,8 @@
 #include <QHBoxLayout>
 #include <QRadioButton>
 
+namespace Quillet {
+
 namespace {
 
 QStringList sites(const Reglages &reglages)
@@ -49,3 +51,5 @@ void SelecteurSite::montrer(Vendeur vendeur)
 {
     choix_->montrer(static_cast<int>(vendeur));
 }
+
+} // namespace Quillet

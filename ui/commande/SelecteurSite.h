@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+namespace Quillet {
+
 class ChoixSegmente;
 
 // The seller picker, by the names of the sellers' sites.
@@ -24,3 +26,5 @@ signals:
 private:
     ChoixSegmente *choix_;
 };
+
+} // namespace Quillet

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 constexpr double echelleInitiale = 0.96;
@@ -90,3 +92,5 @@ void TransitionCartes::paintEvent(QPaintEvent *)
     for (const Instantane &carte : entrantes_)
         dessiner(carte, progres_->valeur());
 }
+
+} // namespace Quillet

@@ -5,6 +5,8 @@
 #include <QPointer>
 #include <QWidget>
 
+namespace Quillet {
+
 class CarteLivre;
 class ImagesCouvertures;
 class Ressort;
@@ -43,3 +45,5 @@ private:
     QList<Instantane> entrantes_;
     Ressort *progres_;
 };
+
+} // namespace Quillet

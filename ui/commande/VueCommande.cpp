@@ -27,6 +27,8 @@
 #include <iterator>
 #include <utility>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int margeVerticale = 28;
@@ -134,3 +136,5 @@ void VueCommande::ouvrirLaReponse()
 {
     (new VueReponse(contexte_, window()))->ouvrir();
 }
+
+} // namespace Quillet

@@ -4,10 +4,13 @@
 #include "ui/Rubriques.h"
 #include "ui/documents/OngletDocuments.h"
 
+class QPushButton;
+
+namespace Quillet {
+
 class EnTete;
 class EtatVide;
 class GrilleLivres;
-class QPushButton;
 class Recapitulatif;
 class SelecteurSite;
 
@@ -35,3 +38,5 @@ private:
     QString resume_; // as announced
     AnnonceAuRepos annonce_;
 };
+
+} // namespace Quillet

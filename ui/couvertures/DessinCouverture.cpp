@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace Quillet {
+
 namespace {
 
 QColor voile(int gris, double opacite)
@@ -86,3 +88,5 @@ QPixmap DessinCouverture::dessin(const Livre &livre, const QSizeF &taille, const
     peintre.end();
     return livre.disponible ? dessin : enGris(dessin);
 }
+
+} // namespace Quillet

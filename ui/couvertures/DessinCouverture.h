@@ -5,6 +5,8 @@
 #include <QColor>
 #include <QPixmap>
 
+namespace Quillet {
+
 class ImagesCouvertures;
 
 namespace DessinCouverture {
@@ -23,3 +25,5 @@ QPixmap dessin(const Livre &livre, const QSizeF &taille, const QSizeF &tailleDeL
                ImagesCouvertures &images);
 
 } // namespace DessinCouverture
+
+} // namespace Quillet

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int memoireKio = 64 * 1024;
@@ -77,3 +79,5 @@ void ImagesCouvertures::recevoir(const QString &couverture, const QString &cle, 
         images_.insert(cle, new QImage(image), std::max<qsizetype>(1, image.sizeInBytes() / 1024));
     emit prete(couverture);
 }
+
+} // namespace Quillet

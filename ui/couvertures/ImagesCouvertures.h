@@ -8,6 +8,8 @@
 #include <QSet>
 #include <QThreadPool>
 
+namespace Quillet {
+
 // The covers' pictures, read beside the window's own thread: painting asks and never waits.
 class ImagesCouvertures : public QObject
 {
@@ -34,3 +36,5 @@ private:
     int rang_ = 0;
     QThreadPool lecteurs_;
 };
+
+} // namespace Quillet

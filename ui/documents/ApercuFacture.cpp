@@ -11,6 +11,8 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+namespace Quillet {
+
 namespace {
 
 constexpr double reduction = 0.25;
@@ -97,3 +99,5 @@ void ApercuFacture::agrandir()
     vue->resize(voulue.boundedTo(Place::surLEcran(vue)));
     vue->ouvrir();
 }
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 
 #include <QAbstractButton>
 
+namespace Quillet {
+
 // The invoice's page, reduced; a click shows it at its own size.
 class ApercuFacture : public QAbstractButton
 {
@@ -21,3 +23,5 @@ private:
 
     Facture facture_;
 };
+
+} // namespace Quillet

@@ -14,6 +14,8 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int colonneDesTitres = 170;
@@ -82,3 +84,5 @@ QWidget *FicheDouane::page(const QString &manque)
     colonne->addStretch(1);
     return page;
 }
+
+} // namespace Quillet

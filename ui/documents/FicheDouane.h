@@ -4,6 +4,8 @@
 
 #include <QStackedWidget>
 
+namespace Quillet {
+
 class Defilement;
 
 // What the seller copies into La Poste's customs form.
@@ -24,3 +26,5 @@ private:
     QList<TextesDocuments::Rubrique> montrees_;
     Defilement *defilement_;
 };
+
+} // namespace Quillet

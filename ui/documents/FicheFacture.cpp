@@ -22,6 +22,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int largeurDesChamps = 360;
@@ -194,3 +196,5 @@ void FicheFacture::prevenir(const QString &message)
 {
     QMessageBox::warning(this, QStringLiteral("Facture"), message);
 }
+
+} // namespace Quillet

@@ -7,12 +7,15 @@
 #include <functional>
 #include <optional>
 
+class QLineEdit;
+
+namespace Quillet {
+
 class Alerte;
 class ApercuFacture;
 class EtatVide;
 class Libelle;
 struct Contexte;
-class QLineEdit;
 class ZoneDeTexte;
 
 // The invoice of the order: its number and buyer to complete, then paper or PDF.
@@ -49,3 +52,5 @@ private:
     ApercuFacture *apercu_;
     Alerte *issue_;
 };
+
+} // namespace Quillet

@@ -9,6 +9,8 @@
 
 #include <memory>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int patience = 5'000; // ms that a server may stay silent
@@ -115,3 +117,5 @@ void FileImpression::envoyer(const QByteArray &pdf, const QString &titre, const 
     if (destinataire.imprimer(connexion.get(), fichier.fileName(), titre) == 0)
         refuser(raison(cupsLastError()));
 }
+
+} // namespace Quillet

@@ -8,6 +8,8 @@
 
 class QPrinter;
 
+namespace Quillet {
+
 // The system's print queues (CUPS), whose own answer is believed: Qt's printer says success even when the queue
 // refused the job or no server runs.
 namespace FileImpression {
@@ -20,3 +22,5 @@ QList<std::pair<QByteArray, QByteArray>> options(const QPrinter &choix);
 void envoyer(const QByteArray &pdf, const QString &titre, const QPrinter &choix);
 
 } // namespace FileImpression
+
+} // namespace Quillet

@@ -17,6 +17,8 @@
 #include <QPrinter>
 #include <QStandardPaths>
 
+namespace Quillet {
+
 namespace {
 
 const QString titreDuDialogue = QStringLiteral("Enregistrer la facture");
@@ -105,3 +107,5 @@ std::optional<QString> ImpressionFacture::enregistrer(const Facture &facture, co
         ecrire(*chemin, pdf(facture));
     return chemin;
 }
+
+} // namespace Quillet

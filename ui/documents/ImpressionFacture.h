@@ -8,6 +8,8 @@
 
 class QWidget;
 
+namespace Quillet {
+
 // How an invoice leaves the program: on paper or as a file.
 namespace ImpressionFacture {
 
@@ -23,3 +25,5 @@ bool imprimer(const Facture &facture, int exemplaires, QWidget *parent);
 std::optional<QString> enregistrer(const Facture &facture, const QString &dossier, QWidget *parent);
 
 } // namespace ImpressionFacture
+
+} // namespace Quillet

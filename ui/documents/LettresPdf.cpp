@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 using Lettres = QHash<char16_t, char16_t>; // what a glyph stands for, the character that was written
@@ -117,3 +119,5 @@ QByteArray LettresPdf::retablir(const QByteArray &document, const QString &ecrit
         throw Echec(QStringLiteral("La facture n’a pas pu être mise en page."));
     }
 }
+
+} // namespace Quillet

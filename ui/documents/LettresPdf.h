@@ -4,6 +4,8 @@
 #include <QFont>
 #include <QString>
 
+namespace Quillet {
+
 // The letters that a PDF gives to those who search or copy its text. Qt has a glyph stand for the first character that
 // shares it: where a typeface draws them alike, an apostrophe comes out as the letter U+02BC, a Greek iota as a Latin
 // one.
@@ -14,3 +16,5 @@ namespace LettresPdf {
 QByteArray retablir(const QByteArray &document, const QString &ecrit, const QFont &police);
 
 } // namespace LettresPdf
+
+} // namespace Quillet

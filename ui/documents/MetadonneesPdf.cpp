@@ -2,6 +2,8 @@
 
 #include <QXmlStreamWriter>
 
+namespace Quillet {
+
 namespace {
 
 const QString rdf = QStringLiteral("http://www.w3.org/1999/02/22-rdf-syntax-ns#");
@@ -43,3 +45,5 @@ QByteArray MetadonneesPdf::paquet(const QString &titre, const QString &auteur)
     octets += "\n<?xpacket end='w'?>";
     return octets;
 }
+
+} // namespace Quillet

@@ -3,9 +3,13 @@
 #include <QByteArray>
 #include <QString>
 
+namespace Quillet {
+
 // What a PDF says of itself. Its metadata packet (XMP) is the only place where a QPdfWriter takes an author.
 namespace MetadonneesPdf {
 
 QByteArray paquet(const QString &titre, const QString &auteur);
 
 } // namespace MetadonneesPdf
+
+} // namespace Quillet

@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 constexpr double marge = 48;
@@ -269,3 +271,5 @@ QString PageFacture::textes(const Facture &facture)
     page.composer();
     return page.ecrit();
 }
+
+} // namespace Quillet

@@ -7,6 +7,8 @@
 
 class QPainter;
 
+namespace Quillet {
+
 // The invoice as one A4 page, painted alike on the screen, in a PDF and on paper.
 namespace PageFacture {
 
@@ -29,3 +31,5 @@ void peindre(QPainter &peintre, const Facture &facture, const Couleurs &couleurs
 QString textes(const Facture &facture);
 
 } // namespace PageFacture
+
+} // namespace Quillet

@@ -8,6 +8,8 @@
 #include <QRadioButton>
 #include <QStackedWidget>
 
+namespace Quillet {
+
 namespace {
 
 constexpr QSize tailleDesDocuments(760, 720);
@@ -47,3 +49,5 @@ void VueDocuments::actualiser()
     douane_->montrer(calcul);
     facture_->montrer(calcul);
 }
+
+} // namespace Quillet

@@ -3,6 +3,8 @@
 #include "composants/Feuille.h"
 #include "ui/documents/OngletDocuments.h"
 
+namespace Quillet {
+
 class FicheDouane;
 class FicheFacture;
 struct Contexte;
@@ -22,3 +24,5 @@ private:
     FicheDouane *douane_;
     FicheFacture *facture_;
 };
+
+} // namespace Quillet

@@ -14,6 +14,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 constexpr QSize couverture(40, 60);
@@ -174,3 +176,5 @@ void DelegueLivres::peindreLivre(QPainter &peintre, const QRect &cadre, int rang
                       peintre.fontMetrics().elidedText(QStringLiteral("· ") + TextesLivres::poids(livre),
                                                        Qt::ElideRight, ligne.width()));
 }
+
+} // namespace Quillet

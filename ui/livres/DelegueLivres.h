@@ -2,6 +2,8 @@
 
 #include <QStyledItemDelegate>
 
+namespace Quillet {
+
 class ImagesCouvertures;
 class ModeleLivres;
 struct Livre;
@@ -25,3 +27,5 @@ private:
     const ModeleLivres &modele_;
     ImagesCouvertures &images_;
 };
+
+} // namespace Quillet

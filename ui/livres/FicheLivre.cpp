@@ -19,6 +19,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+namespace Quillet {
+
 namespace {
 
 constexpr QSize couverture(112, 168);
@@ -212,3 +214,5 @@ void FicheLivre::conclure()
     prix_->conclure();
     poids_->conclure();
 }
+
+} // namespace Quillet

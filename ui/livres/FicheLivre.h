@@ -6,11 +6,14 @@
 
 #include <QWidget>
 
+class QPushButton;
+
+namespace Quillet {
+
 class ChampSaisi;
 class ImagesCouvertures;
 class Interrupteur;
 class Libelle;
-class QPushButton;
 class TableauBoutons;
 
 // One book: its price, weight and availability to edit, and its PayPal buttons to keep in step.
@@ -54,3 +57,5 @@ private:
     QPushButton *suivant_;
     TableauBoutons *tableau_;
 };
+
+} // namespace Quillet

@@ -7,6 +7,8 @@
 
 #include <QPainter>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int espace = 6;
@@ -81,3 +83,5 @@ void LigneEtat::paintEvent(QPaintEvent *evenement)
                    QRectF(0, premiereLigne - coteSymbole() / 2.0, coteSymbole(), coteSymbole()),
                    couleur(etat_, palette()));
 }
+
+} // namespace Quillet

@@ -3,6 +3,8 @@
 #include "composants/Libelle.h"
 #include "model/PrixBouton.h"
 
+namespace Quillet {
+
 // The state of a PayPal button, in words behind its symbol.
 class LigneEtat : public Libelle
 {
@@ -21,3 +23,5 @@ private:
 
     PrixBouton::Etat etat_ = PrixBouton::Etat::sansPrix;
 };
+
+} // namespace Quillet

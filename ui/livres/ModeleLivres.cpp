@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace Quillet {
+
 ModeleLivres::ModeleLivres(const Catalogue &catalogue, QObject *parent)
     : QAbstractListModel(parent), catalogue_(catalogue)
 {
@@ -158,3 +160,5 @@ QVariant ModeleLivres::data(const QModelIndex &indice, int role) const
         return {};
     }
 }
+
+} // namespace Quillet

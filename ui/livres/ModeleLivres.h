@@ -9,6 +9,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 class Catalogue;
 
 // The books that the filter retains, one seller's after the other's, each in the catalogue's order. A book that the
@@ -70,3 +72,5 @@ private:
     QList<Compte> comptes_; // in the catalogue's order
     QList<Rang> rangs_;
 };
+
+} // namespace Quillet

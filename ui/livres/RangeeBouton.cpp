@@ -13,6 +13,8 @@
 #include <QGridLayout>
 #include <QPushButton>
 
+namespace Quillet {
+
 namespace {
 
 enum Colonne { destination, actuel, calcule, copie, etat };
@@ -182,3 +184,5 @@ void RangeeBouton::prendreLeFocus()
 {
     copier_->setFocus();
 }
+
+} // namespace Quillet

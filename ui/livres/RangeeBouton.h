@@ -4,11 +4,14 @@
 
 #include <QWidget>
 
+class QGridLayout;
+class QPushButton;
+
+namespace Quillet {
+
 class BoutonCopier;
 class Libelle;
 class LigneEtat;
-class QGridLayout;
-class QPushButton;
 
 // One PayPal button of a book, as a row of a grid: what it charges, what it should charge, and what to do about it.
 class RangeeBouton : public QObject
@@ -43,3 +46,5 @@ private:
     QPushButton *reporter_;
     QPushButton *garder_;
 };
+
+} // namespace Quillet

@@ -5,6 +5,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+namespace Quillet {
+
 bool RetourAuxValeurs::accepte(const QList<Livre> &actuels, const QList<Livre> &livres, QWidget *parent)
 {
     const QStringList perdus = TextesRetour::pertes(actuels, livres);
@@ -25,3 +27,5 @@ bool RetourAuxValeurs::accepte(const QList<Livre> &actuels, const QList<Livre> &
     question.exec();
     return question.clickedButton() == revenir;
 }
+
+} // namespace Quillet

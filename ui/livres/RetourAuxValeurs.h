@@ -4,6 +4,8 @@
 
 class QWidget;
 
+namespace Quillet {
+
 // The return of every book to its shipped values.
 namespace RetourAuxValeurs {
 
@@ -11,3 +13,5 @@ namespace RetourAuxValeurs {
 bool accepte(const QList<Livre> &actuels, const QList<Livre> &livres, QWidget *parent);
 
 } // namespace RetourAuxValeurs
+
+} // namespace Quillet

@@ -10,6 +10,8 @@
 
 #include <algorithm>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int marge = 16;
@@ -75,3 +77,5 @@ void TableauBoutons::paintEvent(QPaintEvent *)
     for (qsizetype rang = 0; rang < lignes_.size(); ++rang)
         peintre.fillRect(marge, rangees_[rang]->haut(), width() - 2 * marge, 1, Theme::filet(palette()));
 }
+
+} // namespace Quillet

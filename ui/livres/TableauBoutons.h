@@ -7,6 +7,9 @@
 #include <optional>
 
 class QGridLayout;
+
+namespace Quillet {
+
 class RangeeBouton;
 
 // A book's PayPal buttons, one row a destination, in a raised group.
@@ -35,3 +38,5 @@ private:
     QList<RangeeBouton *> rangees_;
     QList<TextesBoutons::Ligne> lignes_; // as shown
 };
+
+} // namespace Quillet

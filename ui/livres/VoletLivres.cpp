@@ -23,6 +23,8 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+namespace Quillet {
+
 namespace {
 
 // The margins belong to the list: its scroll bar stands at the edge of the pane.
@@ -195,3 +197,5 @@ void VoletLivres::seReplacer()
     else
         liste_->setCurrentIndex(modele_->index(modele_->rang(choisi_).value_or(0)));
 }
+
+} // namespace Quillet

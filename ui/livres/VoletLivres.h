@@ -6,13 +6,16 @@
 
 #include <QWidget>
 
+class QListView;
+class QStackedWidget;
+
+namespace Quillet {
+
 class Catalogue;
 class EtatVide;
 class ImagesCouvertures;
 class ModeleLivres;
 class LigneDeTexte;
-class QListView;
-class QStackedWidget;
 
 // The list of books, with what narrows it down: words, seller, state.
 class VoletLivres : public QWidget
@@ -55,3 +58,5 @@ private:
     qint64 choisi_ = 0;      // id of the book last chosen
     AnnonceAuRepos annonce_; // of how many books answer the filter
 };
+
+} // namespace Quillet

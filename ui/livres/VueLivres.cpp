@@ -30,6 +30,8 @@
 
 #include <utility>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int largeurDuVolet = 340;
@@ -207,3 +209,5 @@ void VueLivres::showEvent(QShowEvent *evenement)
     EcranDeRubrique::showEvent(evenement);
     actualiser();
 }
+
+} // namespace Quillet

@@ -7,12 +7,15 @@
 
 #include <functional>
 
+class QStackedWidget;
+class QToolButton;
+
+namespace Quillet {
+
 class Alerte;
 class ChoixTarifs;
 class EnTete;
 class FicheLivre;
-class QStackedWidget;
-class QToolButton;
 class VoletLivres;
 
 // Both sellers' books: their list on the left, the chosen one beside it to edit. Every change is saved at once and can
@@ -49,3 +52,5 @@ private:
     QToolButton *annuler_;
     QToolButton *retablir_;
 };
+
+} // namespace Quillet

@@ -14,6 +14,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int largeur = 440; // of what is read
@@ -99,3 +101,5 @@ void FeuilleMiseAJour::retirer()
     else
         reject();
 }
+
+} // namespace Quillet

@@ -2,11 +2,14 @@
 
 #include "composants/Feuille.h"
 
+class QProgressBar;
+class QPushButton;
+
+namespace Quillet {
+
 class Alerte;
 class Libelle;
 class MisesAJour;
-class QProgressBar;
-class QPushButton;
 class ZoneDeTexte;
 
 // Looks for updates as soon as it opens, says what is new, fetches it on demand. Closing it gives up what is under way.
@@ -30,3 +33,5 @@ private:
     QPushButton *retrait_;
     QPushButton *action_;
 };
+
+} // namespace Quillet

@@ -8,6 +8,8 @@
 #include <QScrollBar>
 #include <QTextBlock>
 
+namespace Quillet {
+
 ApercuMessage::ApercuMessage(QWidget *parent) : QTextEdit(parent)
 {
     setReadOnly(true);
@@ -76,3 +78,5 @@ bool ApercuMessage::event(QEvent *evenement)
     }
     return QTextEdit::event(evenement);
 }
+
+} // namespace Quillet

@@ -6,6 +6,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // The message as the buyer will read it: to be read, selected and copied, not edited.
 class ApercuMessage : public QTextEdit
 {
@@ -26,3 +28,5 @@ private:
     std::optional<ReponseType> reponse_;
     QString adresse_;
 };
+
+} // namespace Quillet

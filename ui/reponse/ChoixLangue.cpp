@@ -4,6 +4,8 @@
 
 #include <QApplication>
 
+namespace Quillet {
+
 namespace {
 
 QStringList noms()
@@ -28,3 +30,5 @@ void ChoixLangue::montrer(Langue langue)
 {
     ChoixSegmente::montrer(static_cast<int>(langue));
 }
+
+} // namespace Quillet

@@ -3,6 +3,8 @@
 #include "composants/ChoixSegmente.h"
 #include "model/Langue.h"
 
+namespace Quillet {
+
 // The language in which the buyer is answered.
 class ChoixLangue : public ChoixSegmente
 {
@@ -15,3 +17,5 @@ public:
 signals:
     void choisie(Langue langue);
 };
+
+} // namespace Quillet

@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <memory>
 
+namespace Quillet {
+
 namespace {
 
 template <auto liberer>
@@ -116,3 +118,5 @@ void Mail::ecrire(const QString &a, const QString &sujet, const QString &corps, 
         throw Echec(
             QStringLiteral("%1 ne s’est pas ouvert.").arg(QString::fromUtf8(g_app_info_get_name(programme.get()))));
 }
+
+} // namespace Quillet

@@ -4,6 +4,8 @@
 
 #include <optional>
 
+namespace Quillet {
+
 // The way out through the user's mail program.
 namespace Mail {
 
@@ -13,3 +15,5 @@ namespace Mail {
 void ecrire(const QString &a, const QString &sujet, const QString &corps, const std::optional<QString> &enGras);
 
 } // namespace Mail
+
+} // namespace Quillet

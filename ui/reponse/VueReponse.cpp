@@ -24,6 +24,8 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+namespace Quillet {
+
 namespace {
 
 constexpr QSize tailleDeLaReponse(960, 680);
@@ -163,3 +165,5 @@ void VueReponse::ouvrirDansMail()
         QMessageBox::warning(this, windowTitle(), echec.texte());
     }
 }
+
+} // namespace Quillet

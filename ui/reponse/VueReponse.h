@@ -4,14 +4,17 @@
 
 #include <optional>
 
+class QLineEdit;
+class QPushButton;
+class QStackedWidget;
+
+namespace Quillet {
+
 class Alerte;
 class ApercuMessage;
 class ChoixLangue;
 struct Contexte;
 struct ReponseType;
-class QLineEdit;
-class QPushButton;
-class QStackedWidget;
 
 // The reply to the buyer: the seller pastes the payment link, reads the message, and hands it to the mail program.
 class VueReponse : public Feuille
@@ -41,3 +44,5 @@ private:
     QPushButton *envoyer_;
     QStackedWidget *pages_;
 };
+
+} // namespace Quillet

@@ -11,6 +11,8 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int partDuPoids = 3;
@@ -93,3 +95,5 @@ void CarteFamille::paintEvent(QPaintEvent *)
     QPainter peintre(this);
     Dessin::carte(peintre, rect(), palette());
 }
+
+} // namespace Quillet

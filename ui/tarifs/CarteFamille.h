@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+namespace Quillet {
+
 // The grids of a family as one table on a raised card: tiers in rows, zones in columns.
 class CarteFamille : public QWidget
 {
@@ -15,3 +17,5 @@ public:
 protected:
     void paintEvent(QPaintEvent *evenement) override;
 };
+
+} // namespace Quillet

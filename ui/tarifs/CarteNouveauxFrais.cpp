@@ -11,6 +11,8 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+namespace Quillet {
+
 namespace {
 
 constexpr QSize taille(520, 340);
@@ -67,3 +69,5 @@ CarteNouveauxFrais::CarteNouveauxFrais(const Contexte &contexte, QWidget *parent
              [&verifications = contexte.verifications] { verifications.accepterFrais(); });
     prendreLaTaille(taille);
 }
+
+} // namespace Quillet

@@ -2,6 +2,8 @@
 
 #include "ui/tarifs/FeuilleDeReleve.h"
 
+namespace Quillet {
+
 struct Contexte;
 
 // PayPal's fees in use beside those that its page shows, and the choice to keep them.
@@ -13,3 +15,5 @@ public:
     // To be opened while a reading is held.
     explicit CarteNouveauxFrais(const Contexte &contexte, QWidget *parent = nullptr);
 };
+
+} // namespace Quillet

@@ -14,6 +14,8 @@
 
 #include <array>
 
+namespace Quillet {
+
 namespace {
 
 constexpr QSize taille(720, 640);
@@ -106,3 +108,5 @@ CarteNouveauxTarifs::CarteNouveauxTarifs(const Contexte &contexte, QWidget *pare
              [&verifications = contexte.verifications] { verifications.accepterTarifs(); });
     prendreLaTaille(taille);
 }
+
+} // namespace Quillet

@@ -8,6 +8,8 @@
 #include <QHBoxLayout>
 #include <QRadioButton>
 
+namespace Quillet {
+
 // The choice stands from the start, hidden: what is added later would come last in the keyboard's order.
 ChoixTarifs::ChoixTarifs(QWidget *parent)
     : QWidget(parent), choix_(new ChoixSegmente({QStringLiteral("En vigueur"), {}}, {.police = font()}))
@@ -35,3 +37,5 @@ void ChoixTarifs::actualiser(const Donnees &donnees, QDate jour)
     }
     tarifs_ = montreLesSuivants_ ? *suivants : donnees.tarifs(jour);
 }
+
+} // namespace Quillet

@@ -5,6 +5,8 @@
 #include <QDate>
 #include <QWidget>
 
+namespace Quillet {
+
 class ChoixSegmente;
 struct Donnees;
 
@@ -31,3 +33,5 @@ private:
     bool montreLesSuivants_ = false;
     TarifsColissimo tarifs_;
 };
+
+} // namespace Quillet

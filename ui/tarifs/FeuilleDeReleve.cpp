@@ -8,6 +8,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int marge = 24;
@@ -56,3 +58,5 @@ void FeuilleDeReleve::composerVide(QWidget *page)
     colonne->addWidget(page, 1);
     colonne->addWidget(fermer, 0, Qt::AlignHCenter);
 }
+
+} // namespace Quillet

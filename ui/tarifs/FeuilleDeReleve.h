@@ -4,6 +4,8 @@
 
 #include <functional>
 
+namespace Quillet {
+
 // A sheet that shows what a check found: kept on demand, put off otherwise. Nothing changes before that.
 class FeuilleDeReleve : public Feuille
 {
@@ -19,3 +21,5 @@ protected:
     // A page in place of a finding, with the one button that closes it.
     void composerVide(QWidget *page);
 };
+
+} // namespace Quillet

@@ -12,6 +12,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int espace = 12;
@@ -111,3 +113,5 @@ void LigneVerification::paintEvent(QPaintEvent *)
     const int haut = etat_->y() + (etat_->fontMetrics().height() - coteEtat()) / 2;
     Icone::peindre(peintre, ligne_.symboleEtat, QRectF(etat_->x(), haut, coteEtat(), coteEtat()), couleur);
 }
+
+} // namespace Quillet

@@ -4,9 +4,12 @@
 
 #include <QWidget>
 
-class Libelle;
 class QProgressBar;
 class QPushButton;
+
+namespace Quillet {
+
+class Libelle;
 
 // One check of the tariff watch: where it stands, and what can be done about it.
 class LigneVerification : public QWidget
@@ -37,3 +40,5 @@ private:
     QPushButton *page_;
     QPushButton *verifier_;
 };
+
+} // namespace Quillet

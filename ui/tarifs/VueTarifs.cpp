@@ -23,6 +23,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace Quillet {
+
 namespace {
 
 constexpr int entreSections = 32;
@@ -155,3 +157,5 @@ void VueTarifs::showEvent(QShowEvent *evenement)
     EcranDeRubrique::showEvent(evenement);
     actualiser();
 }
+
+} // namespace Quillet

@@ -3,10 +3,13 @@
 #include "textes/TextesTarifs.h"
 #include "ui/Rubriques.h"
 
+class QVBoxLayout;
+
+namespace Quillet {
+
 class ChoixTarifs;
 class EnTete;
 class LigneVerification;
-class QVBoxLayout;
 
 // The schedule in force or the next one, PayPal's fees, and the two weekly checks.
 class VueTarifs : public EcranDeRubrique
@@ -33,3 +36,5 @@ private:
     QList<TextesTarifs::Famille> familles_; // as shown
     QList<TextesTarifs::Frais> frais_;      // the same
 };
+
+} // namespace Quillet
