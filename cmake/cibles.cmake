@@ -9,12 +9,12 @@ endfunction()
 
 # What only some checks need: they are left out where it is missing, unless all are wanted.
 if(QUILLET_TOUT_VERIFIER)
-    set(exige REQUIRED)
+    set(QUILLET_EXIGE REQUIRED)
 endif()
 
 # quillet_outil(<variable> <program>): the path of a program that checks need.
 function(quillet_outil variable programme)
-    find_program(${variable} ${programme} ${exige})
+    find_program(${variable} ${programme} ${QUILLET_EXIGE})
     if(NOT ${variable})
         message(STATUS "${programme} is missing: what it checks will be left out")
     endif()

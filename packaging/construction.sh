@@ -12,8 +12,7 @@ atelier() {
     mkdir -p "$racine/tmp/sources"
     git archive "$commit" cmake | tar -x -C "$racine/tmp/sources"
     dans_racine "$racine" bash -euc 'cd /tmp/sources && source cmake/paquets.sh
-        paquets+=("${paquets_pour_empaqueter[@]}")
-        installer' >"$racine/tmp/apt.log" 2>&1 ||
+        installer "${paquets_pour_empaqueter[@]}"' >"$racine/tmp/apt.log" 2>&1 ||
         { tail "$racine/tmp/apt.log" >&2; return 1; }
 }
 
