@@ -11,8 +11,8 @@
 
 namespace Quillet {
 
-ChampSaisi::ChampSaisi(const QString &libelle, const Unite &unite, Refus refus, QWidget *parent)
-    : QWidget(parent), refus_(std::move(refus)), champ_(new LigneDeTexte), alerte_(new Alerte)
+ChampSaisi::ChampSaisi(const QString &libelle, const Unite &unite, Objection objection, QWidget *parent)
+    : QWidget(parent), objection_(std::move(objection)), champ_(new LigneDeTexte), alerte_(new Alerte)
 {
     auto *titre = new Libelle(libelle);
     titre->setBuddy(champ_);
@@ -25,7 +25,7 @@ ChampSaisi::ChampSaisi(const QString &libelle, const Unite &unite, Refus refus, 
     champ_->setAccessibleName(QStringLiteral("%1, en %2").arg(libelle, unite.nom));
     titre->setAccessibleName(champ_->accessibleName()); // a reader takes the label's
     champ_->installEventFilter(this);
-    connect(champ_, &QLineEdit::textEdited, this, [this](const QString &texte) { direLeRefus(refus_(texte)); });
+    connect(champ_, &QLineEdit::textEdited, this, [this](const QString &texte) { direLeRefus(objection_(texte)); });
     connect(champ_, &QLineEdit::returnPressed, this, [this] {
         conclure();
         champ_->selectAll();
@@ -74,7 +74,7 @@ void ChampSaisi::conclure()
     if (texte == valeur_)
         return;
     champ_->setText(valeur_); // until somebody shows another
-    const QString refus = refus_(texte);
+    const QString refus = objection_(texte);
     direLeRefus(refus);
     if (refus.isEmpty())
         emit saisi(texte);

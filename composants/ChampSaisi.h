@@ -16,8 +16,8 @@ class ChampSaisi : public QWidget
     Q_OBJECT
 
 public:
-    // `refus` says why a text is refused; empty: it is not.
-    using Refus = std::function<QString(const QString &)>;
+    // Why a text is refused; empty when it is not.
+    using Objection = std::function<QString(const QString &)>;
 
     struct Unite
     {
@@ -25,7 +25,7 @@ public:
         QString nom;     // as it is spoken: "euros"
     };
 
-    ChampSaisi(const QString &libelle, const Unite &unite, Refus refus, QWidget *parent = nullptr);
+    ChampSaisi(const QString &libelle, const Unite &unite, Objection objection, QWidget *parent = nullptr);
 
     void setInvite(const QString &invite); // what an empty field means
     // Leaves what is being typed alone while the value stays the same.
@@ -45,7 +45,7 @@ protected:
 private:
     void direLeRefus(const QString &refus);
 
-    Refus refus_;
+    Objection objection_;
     QString valeur_; // as shown
     LigneDeTexte *champ_;
     Alerte *alerte_;

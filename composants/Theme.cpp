@@ -213,7 +213,7 @@ QFont Theme::titre3()
     return aLEchelle(1.2);
 }
 
-QFont Theme::montant()
+QFont Theme::grandChiffre()
 {
     return enGras(aLEchelle(1.7), QFont::Bold);
 }

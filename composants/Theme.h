@@ -40,11 +40,11 @@ QStringList famillesDesTextes();
 QStringList famillesDesTitres();
 // What the application's font is: the system's size, enlarged, at least 10 pt.
 QFont police(double agrandissement = 1);
-QFont legende();    // caption, 0.83
-QFont encadre();    // callout, 0.92
-QFont titre3();     // 1.2
-QFont montant();    // the amount to pay
-QFont titreEcran(); // a screen's own title, serif
+QFont legende();      // caption, 0.83
+QFont encadre();      // callout, 0.92
+QFont titre3();       // 1.2
+QFont grandChiffre(); // what everything comes to
+QFont titreEcran();   // a screen's own title, serif
 QFont titreLivre();
 QFont titreSection();
 QFont titreCarte();

@@ -50,6 +50,11 @@ bool Fichier::existe(const QString &chemin)
     return statut.type() != std::filesystem::file_type::not_found;
 }
 
+QStringList Fichier::lister(const QDir &dossier, const QString &motif)
+{
+    return dossier.entryList({motif}, QDir::Files | QDir::CaseSensitive, QDir::Name);
+}
+
 std::optional<QByteArray> Fichier::lire(const QString &chemin)
 {
     QFile fichier(chemin);

@@ -5,9 +5,11 @@
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
+class QDir;
 class QIODevice;
 
 namespace Quillet {
@@ -27,6 +29,8 @@ namespace Fichier {
 
 // Throws ErreurStockage when the system does not tell.
 bool existe(const QString &chemin);
+// Names of the files that match, upper and lower case told apart, in order.
+QStringList lister(const QDir &dossier, const QString &motif);
 // None when the file is missing or cannot be read to its end.
 std::optional<QByteArray> lire(const QString &chemin);
 // None when there is no file. Throws ErreurStockage when it is there and cannot be read to its end.

@@ -15,11 +15,9 @@
 #include <QString>
 #include <QUrl>
 
-#include <array>
 #include <concepts>
 #include <optional>
 #include <tuple>
-#include <utility>
 
 namespace Quillet {
 

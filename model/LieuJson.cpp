@@ -4,7 +4,7 @@
 
 namespace Quillet::Json {
 
-void Refus::noter(const QString &lieu, const QString &raison)
+void Constats::noter(const QString &lieu, const QString &raison)
 {
     if (couvre(lieu))
         return;
@@ -12,7 +12,7 @@ void Refus::noter(const QString &lieu, const QString &raison)
     textes_.append(QStringLiteral("%1 : %2").arg(lieu, raison));
 }
 
-bool Refus::couvre(const QString &lieu) const
+bool Constats::couvre(const QString &lieu) const
 {
     return std::ranges::any_of(lieux_, [&](const QString &refuse) {
         const QString suite = lieu.startsWith(refuse) ? lieu.mid(refuse.size(), 1) : QStringLiteral("x");
@@ -30,8 +30,8 @@ QString Lieu::chemin() const
 
 void Lieu::refuser(const QString &raison) const
 {
-    if (refus_)
-        refus_->noter(chemin(), raison);
+    if (constats_)
+        constats_->noter(chemin(), raison);
     throw Erreur(QStringLiteral("%1 : %2").arg(chemin(), raison));
 }
 
@@ -45,8 +45,8 @@ void Lieu::exiger(bool bonne, const QJsonValue &json, const QString &attendu) co
 
 void Lieu::noter(const QString &raison) const
 {
-    Q_ASSERT(refus_);
-    refus_->noter(chemin(), raison);
+    Q_ASSERT(constats_);
+    constats_->noter(chemin(), raison);
 }
 
 void Lieu::noter(const char *cle, const QString &raison) const

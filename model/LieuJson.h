@@ -19,7 +19,7 @@ public:
 
 // What a reading that goes on after a mistake has to say of one file. One mistake a place: what repeats it, or lies
 // inside a refused value, adds nothing.
-class Refus
+class Constats
 {
 public:
     void noter(const QString &lieu, const QString &raison);
@@ -36,10 +36,10 @@ private:
 class Lieu
 {
 public:
-    // With a list of refusals, which must outlive the place, reading goes on after a mistake.
-    explicit Lieu(QString racine, Refus *refus = nullptr) : refus_(refus), nom_(std::move(racine)) {}
-    Lieu(const Lieu &parent, QString cle) : parent_(&parent), refus_(parent.refus_), nom_(std::move(cle)) {}
-    Lieu(const Lieu &parent, qsizetype indice) : parent_(&parent), refus_(parent.refus_), indice_(indice) {}
+    // With findings to note, which must outlive the place, reading goes on after a mistake.
+    explicit Lieu(QString racine, Constats *constats = nullptr) : constats_(constats), nom_(std::move(racine)) {}
+    Lieu(const Lieu &parent, QString cle) : parent_(&parent), constats_(parent.constats_), nom_(std::move(cle)) {}
+    Lieu(const Lieu &parent, qsizetype indice) : parent_(&parent), constats_(parent.constats_), indice_(indice) {}
 
     [[nodiscard]] QString chemin() const;
 
@@ -49,7 +49,7 @@ public:
     void exiger(bool bonne, const QJsonValue &json, const QString &attendu) const;
 
     // Whether refusals are collected; else the first one ends the reading.
-    [[nodiscard]] bool collecte() const { return refus_; }
+    [[nodiscard]] bool collecte() const { return constats_; }
     // A mistake that does not keep the value from being read. Only where refusals are collected.
     void noter(const QString &raison) const;
     // The same of one of its keys.
@@ -68,7 +68,7 @@ public:
 
 private:
     const Lieu *parent_ = nullptr;
-    Refus *refus_ = nullptr;
+    Constats *constats_ = nullptr;
     QString nom_;
     qsizetype indice_ = -1;
 };

@@ -28,8 +28,7 @@ Ressources Ressources::autourDe(const QDir &programme)
 
 QStringList Ressources::nomsDesTarifs() const
 {
-    QStringList noms =
-        dossier_.entryList({TarifsColissimo::motifDeFichier()}, QDir::Files | QDir::CaseSensitive, QDir::Name);
+    QStringList noms = Fichier::lister(dossier_, TarifsColissimo::motifDeFichier());
     for (QString &nom : noms)
         nom = QFileInfo(nom).completeBaseName();
     return noms;

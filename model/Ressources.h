@@ -41,10 +41,10 @@ public:
 
     // Reads what can be read of `nom`.json and collects all the rest; none when nothing can be read.
     template <typename T>
-    [[nodiscard]] std::optional<T> examiner(const QString &nom, Json::Refus &refus) const
+    [[nodiscard]] std::optional<T> examiner(const QString &nom, Json::Constats &constats) const
     {
         try {
-            return decoder<T>(nom, &refus);
+            return decoder<T>(nom, &constats);
         } catch (const Json::Erreur &) { // noted where it was refused
             return std::nullopt;
         }
@@ -61,12 +61,12 @@ public:
 
 private:
     template <typename T>
-    [[nodiscard]] T decoder(const QString &nom, Json::Refus *refus) const
+    [[nodiscard]] T decoder(const QString &nom, Json::Constats *constats) const
     {
-        const Json::Lieu fichier(nom + QStringLiteral(".json"), refus);
+        const Json::Lieu fichier(nom + QStringLiteral(".json"), constats);
         const QJsonValue json = Json::analyser(octets(fichier), fichier);
         T valeur{};
-        Json::lire(json, Json::Lieu(nom, refus), valeur);
+        Json::lire(json, Json::Lieu(nom, constats), valeur);
         return valeur;
     }
     [[nodiscard]] QByteArray octets(const Json::Lieu &fichier) const;

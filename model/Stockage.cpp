@@ -17,9 +17,7 @@ Stockage Stockage::deLUtilisateur()
 QList<TarifsColissimo> Stockage::grillesEnregistrees()
 {
     QList<TarifsColissimo> grilles;
-    const QStringList noms =
-        dossier_.entryList({TarifsColissimo::motifDeFichier()}, QDir::Files | QDir::CaseSensitive, QDir::Name);
-    for (const QString &nom : noms)
+    for (const QString &nom : Fichier::lister(dossier_, TarifsColissimo::motifDeFichier()))
         if (const auto tarifs = lire<TarifsColissimo>(nom))
             grilles.append(*tarifs);
     return grilles;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Catalogue.h"
+#include "model/Donnees.h"
 #include "watch/EcartTarif.h"
 #include "watch/Verifications.h"
 

@@ -1,10 +1,10 @@
 #include "ui/QuilletApp.h"
 
-#include "composants/ComplementFrancais.h"
 #include "composants/LecteurDEcran.h"
 #include "composants/Style.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/bureau/Bureau.h"
+#include "ui/ComplementFrancais.h"
 #include "ui/Fenetre.h"
 
 #include <QApplication>

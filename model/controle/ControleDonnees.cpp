@@ -38,14 +38,14 @@ public:
     FichierControle(const Ressources &ressources, const QString &nom)
         : nom_(nom),
           chemin_(ressources.chemin(nom + QStringLiteral(".json"))),
-          lu_(ressources.examiner<T>(nom, refus_)),
+          lu_(ressources.examiner<T>(nom, constats_)),
           valeur_(lu_.value_or(T{}))
     {
     }
 
     [[nodiscard]] const T &valeur() const { return valeur_; }
     [[nodiscard]] const QString &nom() const { return nom_; }
-    [[nodiscard]] const QStringList &erreurs() const { return refus_.textes(); }
+    [[nodiscard]] const QStringList &erreurs() const { return constats_.textes(); }
 
     // Nothing to say of the content of a file that could not be read at all.
     template <typename Regle, typename... Reperes>
@@ -54,9 +54,9 @@ public:
         if (!lu_)
             return;
         for (const auto &[ligne, cle] : ClesDoublees::dans(Fichier::lire(chemin_).value_or(QByteArray())))
-            Json::Lieu(QStringLiteral("%1.json, ligne %2").arg(nom_).arg(ligne), &refus_)
+            Json::Lieu(QStringLiteral("%1.json, ligne %2").arg(nom_).arg(ligne), &constats_)
                 .noter(QStringLiteral("clé « %1 » écrite deux fois, la dernière compte").arg(cle));
-        const Json::Lieu racine(nom_, &refus_);
+        const Json::Lieu racine(nom_, &constats_);
         ReglesCommunes::controler(valeur_, racine);
         regle(valeur_, reperes..., racine);
     }
@@ -64,7 +64,7 @@ public:
 private:
     QString nom_;
     QString chemin_;
-    Json::Refus refus_;
+    Json::Constats constats_;
     std::optional<T> lu_;
     T valeur_;
 };

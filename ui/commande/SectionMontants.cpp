@@ -34,7 +34,7 @@ public:
     {
         const QRect dedans = rect().marginsRemoved(layout()->contentsMargins());
         const int place = dedans.width() - libelle_->sizeHint().width() - layout()->spacing();
-        total_->setFont(Chiffres::ajustee(Theme::montant(), total_->text(), place));
+        total_->setFont(Chiffres::ajustee(Theme::grandChiffre(), total_->text(), place));
     }
 
 protected:

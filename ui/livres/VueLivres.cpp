@@ -28,8 +28,6 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include <utility>
-
 namespace Quillet {
 
 namespace {

@@ -1,8 +1,6 @@
 #include "ui/tarifs/ChoixTarifs.h"
 
 #include "composants/ChoixSegmente.h"
-#include "model/Catalogue.h"
-#include "model/Format.h"
 #include "textes/TextesTarifs.h"
 
 #include <QHBoxLayout>

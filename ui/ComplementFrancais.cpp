@@ -1,4 +1,4 @@
-#include "composants/ComplementFrancais.h"
+#include "ui/ComplementFrancais.h"
 
 #include <QHash>
 
