@@ -2,17 +2,17 @@
 
 namespace Quillet {
 
-QString EmissionFacture::numero(const QString &saisi, Vendeur vendeur, QDate jour)
+QString EmissionFacture::numeroPour(const QString &champ, Vendeur vendeur, QDate jour)
 {
-    const bool aJour = NumerotationFactures::rapport(saisi, jour) == NumerotationFactures::Rapport::dansLaSerie;
-    if (saisi != propose_ || aJour)
-        return saisi;
+    const bool aJour = NumerotationFactures::rapport(champ, jour) == NumerotationFactures::Rapport::dansLaSerie;
+    if (champ != propose_ || aJour)
+        return champ;
     try {
         propose_ = numerotation_.prochain(vendeur, jour);
-        obstacle_.clear();
+        sansProposition_.clear();
     } catch (const ErreurStockage &erreur) {
         propose_.clear();
-        obstacle_ = QStringLiteral("Le dernier numéro n’a pas pu être lu.\n%1").arg(erreur.texte());
+        sansProposition_ = QStringLiteral("Le dernier numéro n’a pas pu être lu.\n%1").arg(erreur.texte());
     }
     return propose_;
 }

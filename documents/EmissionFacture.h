@@ -16,11 +16,11 @@ class EmissionFacture
 public:
     explicit EmissionFacture(Preferences preferences) : numerotation_{std::move(preferences)} {}
 
-    // What the number's field is to hold: what somebody typed there, or else the next number of the day's series, empty
-    // when the last one could not be read.
-    [[nodiscard]] QString numero(const QString &saisi, Vendeur vendeur, QDate jour);
+    // What the number's field is to hold, given what it holds: what somebody typed there, or else the next number of
+    // the day's series, empty when the last one could not be read.
+    [[nodiscard]] QString numeroPour(const QString &champ, Vendeur vendeur, QDate jour);
     // Why no number could be proposed; empty when one was.
-    [[nodiscard]] const QString &obstacle() const { return obstacle_; }
+    [[nodiscard]] const QString &sansProposition() const { return sansProposition_; }
 
     // `sortir` says whether the invoice left the program: only then does its number count, and only then is this true.
     // Throws what `sortir` throws, and Echec when the invoice left but its number could not be kept.
@@ -29,7 +29,7 @@ public:
 private:
     NumerotationFactures numerotation_;
     QString propose_; // the last one: while the field holds it, nobody has typed or dictated another
-    QString obstacle_;
+    QString sansProposition_;
 };
 
 } // namespace Quillet

@@ -124,14 +124,14 @@ void TestNumerotation::numeroDuChamp()
     const Banc banc;
     EmissionFacture emission(banc.preferences());
     const auto numero = [&](const char *saisi, QDate jour) {
-        return emission.numero(QString::fromLatin1(saisi), Vendeur::davrel, jour);
+        return emission.numeroPour(QString::fromLatin1(saisi), Vendeur::davrel, jour);
     };
     QCOMPARE(numero("", jourDuBanc), QStringLiteral("2026-001"));
     NumerotationFactures{banc.preferences()}.retenir(QStringLiteral("2026-004"), Vendeur::davrel);
     QCOMPARE(numero("2026-001", jourDuBanc), QStringLiteral("2026-001")); // of the day's series
     QCOMPARE(numero("2026-001", QDate(2027, 1, 1)), QStringLiteral("2027-001"));
     QCOMPARE(numero("F-12", QDate(2028, 1, 1)), QStringLiteral("F-12"));
-    QVERIFY(emission.obstacle().isEmpty());
+    QVERIFY(emission.sansProposition().isEmpty());
 }
 
 void TestNumerotation::compteUneFoisPartie()

@@ -123,7 +123,7 @@ void FicheFacture::montrer(const Calcul &calcul)
     }
     vendeur_ = *calcul.vendeurs().begin();
     const QDate jour = contexte_.jour.aujourdhui();
-    if (const QString numero = emission_.numero(numero_->text(), vendeur_, jour); numero != numero_->text())
+    if (const QString numero = emission_.numeroPour(numero_->text(), vendeur_, jour); numero != numero_->text())
         numero_->setText(numero);
     facture_ = Facture::de(calcul, contexte_.donnees().reglages, {}, jour, {});
     completer();
@@ -142,8 +142,8 @@ void FicheFacture::completer()
         return;
     facture_->numero = numero_->text();
     facture_->acheteur = acheteur_->toPlainText();
-    remarque_->montrer(facture_->numero.isEmpty() && !emission_.obstacle().isEmpty()
-                           ? emission_.obstacle()
+    remarque_->montrer(facture_->numero.isEmpty() && !emission_.sansProposition().isEmpty()
+                           ? emission_.sansProposition()
                            : TextesDocuments::remarqueSurLeNumero(facture_->numero, facture_->date));
     identite_->setText(TextesDocuments::vendeur(facture_->vendeur));
     sansSiret_->montrer(TextesDocuments::sansSiret(facture_->vendeur));
@@ -176,7 +176,7 @@ void FicheFacture::enregistrer()
 
 bool FicheFacture::emettre(const QString &issue, const std::function<bool(const Facture &)> &sortir)
 {
-    contexte_.jour.regarder(); // the invoice is of the day on which it leaves
+    contexte_.jour.regarder(); // the invoice is of the day on which it leaves: on another, the sheet shows it anew
     if (!facture_)
         return false;
     issue_->montrer({});

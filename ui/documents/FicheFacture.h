@@ -15,8 +15,8 @@ class Alerte;
 class ApercuFacture;
 class EtatVide;
 class Libelle;
-struct Contexte;
 class ZoneDeTexte;
+struct Contexte;
 
 // The invoice of the order: its number and buyer to complete, then paper or PDF.
 class FicheFacture : public QStackedWidget
@@ -35,7 +35,7 @@ private:
     void completer();
     void imprimer();
     void enregistrer();
-    // `sortir` returns whether the invoice left the program; only then does its number count. True when all is done.
+    // True when all is done.
     bool emettre(const QString &issue, const std::function<bool(const Facture &)> &sortir);
     void prevenir(const QString &message);
 
