@@ -9,6 +9,7 @@
 #include "model/Enumeration.h"
 #include "textes/TextesTarifs.h"
 #include "ui/Contexte.h"
+#include "ui/EcranDeRubrique.h"
 #include "ui/ListeRubriques.h"
 
 #include <QHBoxLayout>
@@ -33,7 +34,7 @@ QList<ListeRubriques::Entree> entrees()
     QList<ListeRubriques::Entree> entrees;
     for (const Rubrique rubrique : tous<Rubrique>) {
         const TraitsDeRubrique t = traits(rubrique);
-        entrees.append({t.symbole, t.libelle});
+        entrees.append({t.symbole, t.libelle, QKeySequence(Qt::CTRL | t.touches.front())});
     }
     return entrees;
 }
@@ -65,7 +66,8 @@ ContenuPrincipal::ContenuPrincipal(const Contexte &contexte, QWidget *parent)
 void ContenuPrincipal::montrer(std::optional<Rubrique> rubrique)
 {
     rubriques_->setCurrentRow(rubrique ? static_cast<int>(*rubrique) : -1);
-    if (rubrique && isVisible() && !rubriques_->hasFocus()) // else the list says it
+    const bool montree = rubrique && ecranMontre() == ecran(*rubrique); // not kept by a screen that could not be left
+    if (montree && isVisible() && !rubriques_->hasFocus())              // else the list says it
         LecteurDEcran::annoncer(this, rubriques_->currentItem()->text());
 }
 

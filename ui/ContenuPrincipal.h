@@ -2,6 +2,9 @@
 
 #include "ui/Rubriques.h"
 
+#include <QList>
+#include <QWidget>
+
 #include <optional>
 
 class QStackedWidget;

@@ -62,7 +62,7 @@ void Fenetre::showEvent(QShowEvent *evenement)
 {
     QMainWindow::showEvent(evenement);
     if (!std::exchange(dejaMontree_, true))
-        QTimer::singleShot(apresLaPremiereImage, this, &Fenetre::installee);
+        QTimer::singleShot(apresLaPremiereImage, this, &Fenetre::posee);
 }
 
 void Fenetre::ramener(const QByteArray &jeton)

@@ -25,7 +25,7 @@ public:
 
 signals:
     // Once, when the first image has had the time to be on the screen.
-    void installee();
+    void posee();
 
 protected:
     void closeEvent(QCloseEvent *evenement) override;

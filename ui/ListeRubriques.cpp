@@ -98,7 +98,7 @@ ListeRubriques::ListeRubriques(const QList<Entree> &entrees, QWidget *parent) : 
     for (const Entree &entree : entrees) {
         auto *ligne = new QListWidgetItem(entree.libelle, this);
         ligne->setData(roleSymbole, entree.symbole);
-        ligne->setToolTip(QStringLiteral("%1 (Ctrl+%2)").arg(entree.libelle, QString::number(count())));
+        ligne->setToolTip(QStringLiteral("%1 (%2)").arg(entree.libelle, entree.touches.toString()));
     }
 }
 

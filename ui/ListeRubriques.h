@@ -2,6 +2,7 @@
 
 #include "composants/ListeDite.h"
 
+#include <QKeySequence>
 #include <QListWidget>
 
 namespace Quillet {
@@ -16,6 +17,7 @@ public:
     {
         QString symbole;
         QString libelle;
+        QKeySequence touches;
     };
 
     explicit ListeRubriques(const QList<Entree> &entrees, QWidget *parent = nullptr);

@@ -60,7 +60,7 @@ QuilletApp::QuilletApp(const Ressources &ressources, Stockage stockage, const Pr
       fenetre_(std::make_unique<Fenetre>(contexte_, misesAJour_))
 {
     // Neither drawing the icon in all its sizes nor the network's own start may delay the first image.
-    QObject::connect(fenetre_.get(), &Fenetre::installee, fenetre_.get(), [this] {
+    QObject::connect(fenetre_.get(), &Fenetre::posee, fenetre_.get(), [this] {
         QApplication::setWindowIcon(QIcon(QStringLiteral(":/quillet.svg")));
         verifications_.verifierSiNecessaire();
     });

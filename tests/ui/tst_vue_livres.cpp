@@ -1,5 +1,6 @@
 #include "tests/BancLivres.h"
 #include "tests/DisquePlein.h"
+#include "ui/ListeRubriques.h"
 #include "visite/Dialogues.h"
 #include "visite/Ecran.h"
 
@@ -26,7 +27,7 @@ private slots:
     void echecDit();
     void laSaisieNEstPasPerdue();
     void lEchecResteDit();
-    void fermerSansPerdre();
+    void sortirSansPerdre();
     void annulerAuClavier();
     void revenirAuxValeurs();
     void listeFiltree();
@@ -168,16 +169,35 @@ void TestVueLivres::lEchecResteDit()
     QVERIFY(!cas.texte(nonEnregistree).isEmpty());
 }
 
-// A window that could not save what was typed stays open to say so; closing again leaves it.
-void TestVueLivres::fermerSansPerdre()
+// A screen that could not save what was typed stays to say so, by whatever way one leaves; once more leaves it.
+void TestVueLivres::sortirSansPerdre()
 {
-    const BancLivres cas;
-    cas.champ(champDuPrix)->setFocus();
-    QVERIFY(Ecran::taper(cas.fenetre(), champDuPrix, QStringLiteral("16")));
-    const DisquePlein plein;
-    QVERIFY(!cas.fenetre()->close());
-    QVERIFY(!cas.texte(nonEnregistree).isEmpty());
-    QVERIFY(cas.fenetre()->close());
+    const auto partie = [](const BancLivres &cas) {
+        QCoreApplication::sendPostedEvents();
+        return cas.fenetre()->contenu()->rubrique() == Rubrique::commande;
+    };
+    const QList<std::function<bool(const BancLivres &)>> sorties{
+        [](const BancLivres &cas) { return cas.fenetre()->close(); },
+        [=](const BancLivres &cas) {
+            cas.fenetre()->contenu()->montrer(Rubrique::commande);
+            return partie(cas);
+        },
+        [=](const BancLivres &cas) { // the click takes the focus from the field first
+            auto *rubriques = cas.fenetre()->findChild<ListeRubriques *>();
+            QTest::mouseClick(rubriques->viewport(), Qt::LeftButton, {},
+                              rubriques->visualItemRect(rubriques->item(0)).center());
+            return partie(cas);
+        },
+    };
+    for (const auto &sortir : sorties) {
+        const BancLivres cas;
+        cas.champ(champDuPrix)->setFocus();
+        QVERIFY(Ecran::taper(cas.fenetre(), champDuPrix, QStringLiteral("16")));
+        const DisquePlein plein;
+        QVERIFY(!sortir(cas));
+        QVERIFY(!cas.texte(nonEnregistree).isEmpty());
+        QVERIFY(sortir(cas));
+    }
 }
 
 void TestVueLivres::annulerAuClavier()

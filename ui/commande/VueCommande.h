@@ -1,7 +1,7 @@
 #pragma once
 
 #include "composants/AnnonceAuRepos.h"
-#include "ui/Rubriques.h"
+#include "ui/EcranDeRubrique.h"
 #include "ui/documents/OngletDocuments.h"
 
 class QPushButton;
@@ -13,6 +13,7 @@ class EtatVide;
 class GrilleLivres;
 class Recapitulatif;
 class SelecteurSite;
+struct Contexte;
 
 // The order screen: the seller's books to click, and beside them what the order comes to.
 class VueCommande : public EcranDeRubrique

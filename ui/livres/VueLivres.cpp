@@ -28,6 +28,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace Quillet {
 
 namespace {
@@ -175,14 +177,17 @@ void VueLivres::montrerAnnulation()
 
 bool VueLivres::conclure()
 {
-    echec_->montrer({});
+    if (std::exchange(retenu_, false))
+        echec_->montrer({});
     fiche_->conclure();
-    return echec_->isHidden();
+    retenu_ = !echec_->isHidden();
+    return !retenu_;
 }
 
 // Screen, memory and file agree afterwards, whatever came of it.
 void VueLivres::tenter(const std::function<void()> &geste)
 {
+    retenu_ = false;
     QString echec;
     try {
         geste();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/HistoriqueLivres.h"
-#include "ui/Rubriques.h"
+#include "ui/EcranDeRubrique.h"
 
 #include <QKeySequence>
 
@@ -17,6 +17,7 @@ class ChoixTarifs;
 class EnTete;
 class FicheLivre;
 class VoletLivres;
+struct Contexte;
 
 // Both sellers' books: their list on the left, the chosen one beside it to edit. Every change is saved at once and can
 // be undone until the program closes.
@@ -48,6 +49,7 @@ private:
     VoletLivres *volet_;
     FicheLivre *fiche_;
     Alerte *echec_;
+    bool retenu_ = false; // the failure in sight has kept the screen: once is enough
     QStackedWidget *place_ = nullptr;
     QToolButton *annuler_;
     QToolButton *retablir_;

@@ -28,8 +28,8 @@ QString encode(const QString &texte, const QByteArray &saufs = {})
 // A line break would begin another header.
 QString surUneLigne(QString texte)
 {
-    const auto commande = [](QChar lettre) { return lettre.category() == QChar::Other_Control; };
-    std::ranges::replace_if(texte, commande, u' ');
+    const auto deControle = [](QChar lettre) { return lettre.category() == QChar::Other_Control; };
+    std::ranges::replace_if(texte, deControle, u' ');
     return texte;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "textes/TextesTarifs.h"
-#include "ui/Rubriques.h"
+#include "ui/EcranDeRubrique.h"
 
 class QVBoxLayout;
 
@@ -10,6 +10,7 @@ namespace Quillet {
 class ChoixTarifs;
 class EnTete;
 class LigneVerification;
+struct Contexte;
 
 // The schedule in force or the next one, PayPal's fees, and the two weekly checks.
 class VueTarifs : public EcranDeRubrique
