@@ -92,6 +92,9 @@ void TestFenetre::leJourChange()
                 .startsWith(QStringLiteral("6,00")));
     banc.app->fenetre().contenu()->montrer(Rubrique::tarifs);
     QVERIFY(Ecran::montre(banc.app->fenetre().contenu(), QStringLiteral("en vigueur au 1er janvier 2027")));
+    banc.jour = QDate(2026, 12, 31); // nobody left the window
+    banc.app->fenetre().contenu()->montrer(Rubrique::livres);
+    QVERIFY(Ecran::montre(&banc.app->fenetre(), QStringLiteral("en vigueur au 1er janvier 2026")));
 }
 
 // The window stays in front, and nobody touches it.

@@ -329,6 +329,9 @@ void TestVueDocuments::laFeuilleSuitLeJour()
     QDialog *feuille = banc_->ouvrir(facture);
     const auto propose = [&] { return qobject_cast<QLineEdit *>(Ecran::controle(feuille, numero))->text(); };
     QCOMPARE(propose(), QStringLiteral("2026-001"));
+    banc_->jour = QDate(2025, 12, 31);
+    BancEcran::revenirA(feuille);
+    QCOMPARE(propose(), QStringLiteral("2025-001"));
     banc_->jour = QDate(2027, 1, 1); // nobody left the sheet: the day is asked before an invoice leaves
     QString nom;
     QVERIFY(Dialogues::cliquerPuisRepondre(feuille, enregistrer, {[&](QDialog *dialogue) {
