@@ -1,11 +1,10 @@
 #pragma once
 
-#include <QString>
 #include <QWidget>
 
 namespace Quillet {
 
-class Libelle;
+class LibelleASymbole;
 
 // A line set off by a symbol: orange for a warning, quiet for a note.
 class Alerte : public QWidget
@@ -17,19 +16,15 @@ public:
 
     // A warning with its own symbol, a triangle.
     explicit Alerte(const QString &texte = {}, QWidget *parent = nullptr);
-    Alerte(QString symbole, const QString &texte, Ton ton, QWidget *parent = nullptr);
+    Alerte(const QString &symbole, const QString &texte, Ton ton, QWidget *parent = nullptr);
     // No text hides the line.
     void montrer(const QString &texte);
-
-protected:
-    void paintEvent(QPaintEvent *evenement) override;
 
 private:
     void dire(const QString &texte);
 
-    QString symbole_;
     Ton ton_;
-    Libelle *texte_;
+    LibelleASymbole *texte_;
 };
 
 } // namespace Quillet

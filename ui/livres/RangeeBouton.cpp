@@ -3,11 +3,11 @@
 #include "composants/BoutonCopier.h"
 #include "composants/Boutons.h"
 #include "composants/Chiffres.h"
+#include "composants/LibelleASymbole.h"
 #include "composants/LibelleChiffre.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
 #include "model/Format.h"
-#include "ui/livres/LigneEtat.h"
 
 #include <QApplication>
 #include <QGridLayout>
@@ -50,6 +50,33 @@ QPushButton *bouton(const QString &action)
     bouton->setFont(Theme::encadre());
     TailleDuTexte::suivre(bouton, [bouton, action] { bouton->setFixedWidth(largeur(action)); });
     return bouton;
+}
+
+QString symbole(PrixBouton::Etat etat)
+{
+    switch (etat) {
+    case PrixBouton::Etat::sansPrix:
+        return QStringLiteral("minus");
+    case PrixBouton::Etat::aJour:
+        return QStringLiteral("checkmark.circle");
+    case PrixBouton::Etat::garde:
+        return QStringLiteral("bookmark");
+    case PrixBouton::Etat::aReporter:
+        return QStringLiteral("arrow.right");
+    }
+    Q_UNREACHABLE();
+}
+
+LibelleASymbole::Couleur couleur(PrixBouton::Etat etat)
+{
+    switch (etat) {
+    case PrixBouton::Etat::aJour:
+        return Theme::accentTexte;
+    case PrixBouton::Etat::aReporter:
+        return Theme::orange;
+    default:
+        return Theme::secondaire;
+    }
 }
 
 // A cell of the grid, its lines centred one above the other.
@@ -99,7 +126,7 @@ RangeeBouton::RangeeBouton(QGridLayout &grille, int ligne, QObject *parent)
       calcule_(new LibelleChiffre),
       ecart_(new LibelleChiffre({}, Libelle::Rang::secondaire)),
       copier_(new BoutonCopier),
-      etat_(new LigneEtat),
+      etat_(new LibelleASymbole(16, 6)),
       reporter_(bouton(texteReporter())),
       garder_(bouton(texteGarder()))
 {
@@ -108,6 +135,7 @@ RangeeBouton::RangeeBouton(QGridLayout &grille, int ligne, QObject *parent)
     palier_->setFont(Theme::legende());
     calcule_->setFont(policeDuPrix());
     ecart_->setFont(Theme::legende());
+    etat_->setFont(Theme::enGras(etat_->font(), QFont::Medium));
     copier_->setToolTip(QStringLiteral("Copier le prix calculé"));
 
     auto *actions = new QWidget;
@@ -145,7 +173,9 @@ void RangeeBouton::montrer(const TextesBoutons::Ligne &ligne)
     ecart_->setVisible(!ligne.ecart.isEmpty());
     // A row without a price to copy is read there.
     etat_->setFocusPolicy(ligne.aCopier.isEmpty() ? Qt::TabFocus : Qt::NoFocus);
-    etat_->montrer(ligne.etat, ligne.etatEnMots);
+    etat_->setSymbole(symbole(ligne.etat), couleur(ligne.etat));
+    etat_->setRang(ligne.etat == PrixBouton::Etat::aReporter ? Libelle::Rang::principal : Libelle::Rang::secondaire);
+    etat_->setText(ligne.etatEnMots);
     copier_->setValeur(ligne.aCopier);
     copier_->setEnabled(!ligne.aCopier.isEmpty());
     reporter_->setVisible(ligne.peutReporter);

@@ -11,7 +11,7 @@ namespace Quillet {
 
 class BoutonCopier;
 class Libelle;
-class LigneEtat;
+class LibelleASymbole;
 
 // One PayPal button of a book, as a row of a grid: what it charges, what it should charge, and what to do about it.
 class RangeeBouton : public QObject
@@ -42,7 +42,7 @@ private:
     Libelle *calcule_;
     Libelle *ecart_;
     BoutonCopier *copier_;
-    LigneEtat *etat_;
+    LibelleASymbole *etat_;
     QPushButton *reporter_;
     QPushButton *garder_;
 };
