@@ -1,5 +1,7 @@
 #include "composants/LecteurDEcran.h"
 
+#include "composants/LectureDeTableau.h"
+
 #include <QAccessibleWidget>
 #include <QTimer>
 #include <QVariant>
@@ -71,6 +73,7 @@ private:
 void LecteurDEcran::preparer()
 {
     QAccessible::installFactory(interfaceDe);
+    QAccessible::installFactory(LectureDeTableau::interfaceDe);
 }
 
 void LecteurDEcran::jouer(QWidget *widget, QAccessible::Role role)

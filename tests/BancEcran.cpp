@@ -3,6 +3,7 @@
 #include "visite/Dialogues.h"
 #include "visite/Ecran.h"
 
+#include <QAccessible>
 #include <QDialog>
 #include <QTest>
 
@@ -36,6 +37,29 @@ QDialog *BancEcran::ouvrir(const QString &bouton) const
     if (!feuille || !QTest::qWaitForWindowActive(feuille))
         qFatal("Aucune feuille après : %s", qPrintable(bouton));
     return feuille;
+}
+
+QString BancEcran::luAuTableau(const QWidget *fenetre, const QString &rangee, const QString &tete)
+{
+    const auto nom = [](const QAccessibleInterface *lu) { return lu ? lu->text(QAccessible::Name) : QString(); };
+    for (auto *widget : fenetre->findChildren<QWidget *>()) {
+        auto *lu = widget->isVisible() ? QAccessible::queryAccessibleInterface(widget) : nullptr;
+        if (!lu || lu->role() != QAccessible::Table)
+            continue;
+        const auto *tableau = lu->tableInterface();
+        for (int ligne = 0; ligne < tableau->rowCount(); ++ligne)
+            for (int colonne = 1; colonne < tableau->columnCount(); ++colonne) {
+                auto *cellule = tableau->cellAt(ligne, colonne);
+                const auto *place = cellule->tableCellInterface();
+                if (place->table() != lu || place->rowIndex() != ligne || place->columnIndex() != colonne
+                    || lu->indexOfChild(cellule) < 0)
+                    qFatal("Une cellule ne sait pas où elle est");
+                if ((nom(tableau->cellAt(ligne, 0)) + u',').startsWith(rangee + u',')
+                    && nom(place->columnHeaderCells().value(0)) == tete)
+                    return lisible(nom(cellule));
+            }
+    }
+    return {};
 }
 
 void BancEcran::revenirA(QWidget *fenetre)

@@ -25,6 +25,8 @@ struct BancEcran
     void commander(const QString &destination) const;
     // The sheet behind a button of the window.
     [[nodiscard]] QDialog *ouvrir(const QString &bouton) const;
+    // What a screen reader finds in a table of the window, in the row that is called so and under that head.
+    [[nodiscard]] static QString luAuTableau(const QWidget *fenetre, const QString &rangee, const QString &tete);
     // Looks at another window and comes back.
     static void revenirA(QWidget *fenetre);
 };

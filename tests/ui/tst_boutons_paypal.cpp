@@ -39,6 +39,11 @@ void TestBoutonsPaypal::boutonsPaypal()
     QVERIFY(Ecran::taper(cas.fenetre(), champDuPrix, QStringLiteral("16")));
     QVERIFY(cas.cliquer(QStringLiteral("Reporter, Suisse"))); // the price read there, not the one that follows
     QCOMPARE(cas.enregistre(0).prixPaypal->value(vers("suisse")), Centimes{2049});
+    const auto lu = [&cas](const char *tete) {
+        return BancEcran::luAuTableau(cas.fenetre(), QStringLiteral("France"), QString::fromUtf8(tete));
+    };
+    QCOMPARE(lu("Actuel"), QStringLiteral("Actuel : 20,00 €"));
+    QVERIFY2(lu("État").startsWith(QStringLiteral("France, À reporter")), qPrintable(lu("État")));
     QVERIFY(cas.cliquer(QStringLiteral("Copier 20,49\u00A0€, France")));
     QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("21,49")); // what the edit makes of it
     QVERIFY(cas.cliquer(QStringLiteral("Annuler : prix de « Livre 1 »")));

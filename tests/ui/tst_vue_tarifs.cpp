@@ -216,6 +216,8 @@ void TestVueTarifs::changementsEnregistres()
     QVERIFY(Ecran::montre(feuille, QStringLiteral("En vigueur à partir du 1er avril 2026 · relevés sur laposte.fr le 2 "
                                                   "mars 2026")));
     QVERIFY(Ecran::montre(feuille, QStringLiteral("1 palier sur 6 changent.")));
+    QCOMPARE(BancEcran::luAuTableau(feuille, QStringLiteral("France"), QStringLiteral("Après")),
+             QStringLiteral("6,00 €"));
     QVERIFY(Ecran::cliquer(feuille, enregistrer));
     QTRY_VERIFY(!Dialogues::devant());
     QCOMPARE(rubrique(), QStringLiteral("Tarifs Colissimo"));
@@ -223,7 +225,8 @@ void TestVueTarifs::changementsEnregistres()
         Ecran::montre(&fenetre, QStringLiteral("en vigueur au 1er janvier 2026, nouvelle grille au 1er avril 2026")));
     QVERIFY(Ecran::cliquer(&fenetre, QStringLiteral("À partir du 1er avril 2026")));
     QTRY_VERIFY(Ecran::montre(&fenetre, QStringLiteral("À partir du 1er avril 2026")));
-    QTRY_COMPARE(lisible(Ecran::valeurEnFaceDe(&fenetre, QStringLiteral("jusqu’à 250 g"))), QStringLiteral("6,00 €"));
+    QTRY_COMPARE(BancEcran::luAuTableau(&fenetre, QStringLiteral("jusqu’à 250 g"), QStringLiteral("France")),
+                 QStringLiteral("France, jusqu’à 250 g : 6,00 €"));
 }
 
 void TestVueTarifs::fraisRemisAPlusTard()
@@ -233,7 +236,8 @@ void TestVueTarifs::fraisRemisAPlusTard()
     demarrer(banc_->donnees.tarifs.last(), frais);
     QDialog *feuille = banc_->ouvrir(voirFrais);
     QVERIFY(Ecran::montre(feuille, QStringLiteral("Relevés sur paypal.com, tarifs marchands pour la France")));
-    QCOMPARE(lisible(Ecran::valeurEnFaceDe(feuille, QStringLiteral("Taux de base"))), QStringLiteral("2,90 %"));
+    QCOMPARE(BancEcran::luAuTableau(feuille, QStringLiteral("Taux de base"), QStringLiteral("En vigueur")),
+             QStringLiteral("2,90 %"));
     QVERIFY(Ecran::cliquer(feuille, QStringLiteral("Plus tard")));
     QTRY_VERIFY(!Dialogues::devant());
     QCOMPARE(rubrique(), QStringLiteral("Tarifs Colissimo, 1 à voir")); // still there

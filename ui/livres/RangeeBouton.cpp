@@ -10,8 +10,8 @@
 #include "model/Format.h"
 
 #include <QApplication>
-#include <QGridLayout>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 namespace Quillet {
 
@@ -19,7 +19,6 @@ namespace {
 
 enum Colonne { destination, actuel, calcule, copie, etat };
 
-constexpr int margeVerticale = 9;
 constexpr int entreActions = 6;
 constexpr int sousLEtat = 5;
 constexpr int largeurMinimaleDuNom = 96; // of a destination
@@ -79,47 +78,44 @@ LibelleASymbole::Couleur couleur(PrixBouton::Etat etat)
     }
 }
 
-// A cell of the grid, its lines centred one above the other.
-QWidget *cellule(const QList<QWidget *> &lignes, int espace)
+// Lines centred one above the other.
+QWidget *pile(const QList<QWidget *> &lignes, int espace)
 {
-    auto *cellule = new QWidget;
-    auto *colonne = new QVBoxLayout(cellule);
-    colonne->setContentsMargins(0, margeVerticale, 0, margeVerticale);
+    auto *pile = new QWidget;
+    auto *colonne = new QVBoxLayout(pile);
+    colonne->setContentsMargins(0, 0, 0, 0);
     colonne->setSpacing(espace);
     colonne->addStretch(1);
     for (QWidget *ligne : lignes)
         colonne->addWidget(ligne);
     colonne->addStretch(1);
-    return cellule;
+    return pile;
 }
 
 } // namespace
 
-void RangeeBouton::placerLesTetes(QGridLayout &grille)
+QList<Tableau::Colonne> RangeeBouton::colonnes()
 {
-    const auto tete = [&grille](Colonne colonne, const QString &texte, Qt::Alignment cote) {
-        auto *libelle = new Libelle(texte, Libelle::Rang::secondaire);
-        libelle->setFont(Theme::enGras(Theme::encadre()));
-        libelle->setContentsMargins(0, margeVerticale, 0, margeVerticale);
-        grille.addWidget(libelle, 0, colonne, cote);
-    };
-    tete(destination, QStringLiteral("Destination"), Qt::AlignLeft);
-    tete(actuel, QStringLiteral("Actuel"), Qt::AlignRight);
-    tete(calcule, QStringLiteral("Calculé"), Qt::AlignRight);
-    tete(etat, QStringLiteral("État"), Qt::AlignLeft);
-    grille.setColumnStretch(destination, 1);
-    grille.setColumnMinimumWidth(destination, largeurMinimaleDuNom);
-    // Columns stand still from one book to the next.
-    TailleDuTexte::suivre(grille.parentWidget(), [&grille] {
+    return {{QStringLiteral("Destination"), Qt::AlignLeft, 1},
+            {QStringLiteral("Actuel"), Qt::AlignRight},
+            {QStringLiteral("Calculé"), Qt::AlignRight},
+            {{}}, // its buttons say what they do
+            {QStringLiteral("État")}};
+}
+
+void RangeeBouton::fixerLesLargeurs(Tableau &tableau)
+{
+    tableau.setLargeurMinimale(destination, largeurMinimaleDuNom);
+    TailleDuTexte::suivre(&tableau, [&tableau] {
         const int prix = Chiffres::largeur(QFontMetrics(policeDuPrix()), QStringLiteral("000,00 €"));
-        grille.setColumnMinimumWidth(actuel, prix);
-        grille.setColumnMinimumWidth(calcule, prix);
-        grille.setColumnMinimumWidth(etat, largeur(texteReporter()) + entreActions + largeur(texteGarder()));
+        tableau.setLargeurMinimale(actuel, prix);
+        tableau.setLargeurMinimale(calcule, prix);
+        tableau.setLargeurMinimale(etat, largeur(texteReporter()) + entreActions + largeur(texteGarder()));
     });
 }
 
-RangeeBouton::RangeeBouton(QGridLayout &grille, int ligne, QObject *parent)
-    : QObject(parent),
+RangeeBouton::RangeeBouton(Tableau &tableau)
+    : QObject(&tableau),
       destination_(new Libelle({})),
       palier_(new Libelle({}, Libelle::Rang::secondaire)),
       actuel_(new LibelleChiffre),
@@ -146,15 +142,13 @@ RangeeBouton::RangeeBouton(QGridLayout &grille, int ligne, QObject *parent)
     boutons->addWidget(garder_);
     boutons->addStretch(1);
 
-    cellules_ = {cellule({destination_, palier_}, 2), cellule({actuel_}, 0), cellule({calcule_, ecart_}, 2), copier_,
-                 cellule({etat_, actions}, sousLEtat)};
+    QWidget *situation = pile({etat_, actions}, sousLEtat);
     // As high as with its buttons: the rows below stand still when a price is reported.
-    TailleDuTexte::suivre(etat_, [this] {
-        cellules_[etat]->setMinimumHeight(etat_->sizeHint().height() + sousLEtat + reporter_->sizeHint().height()
-                                          + 2 * margeVerticale);
+    TailleDuTexte::suivre(etat_, [this, situation] {
+        situation->setMinimumHeight(etat_->sizeHint().height() + sousLEtat + reporter_->sizeHint().height());
     });
-    for (int colonne = 0; colonne < cellules_.size(); ++colonne)
-        grille.addWidget(cellules_[colonne], ligne, colonne, colonne == copie ? Qt::AlignVCenter : Qt::Alignment());
+    tableau.ajouter(
+        {pile({destination_, palier_}, 2), pile({actuel_}, 0), pile({calcule_, ecart_}, 2), copier_, situation});
     // A click reports the price that is read on the row: it must not end an edit that changes it.
     for (QPushButton *action : {reporter_, garder_})
         action->setFocusPolicy(Qt::TabFocus);
@@ -197,12 +191,6 @@ void RangeeBouton::montrer(const TextesBoutons::Ligne &ligne)
     garder_->setToolTip(
         QStringLiteral("Le bouton PayPal garde son prix, tant que le calcul donne %1").arg(ligne.calcule));
     garder_->setAccessibleName(QStringLiteral("Garder, %1").arg(ligne.destination));
-}
-
-void RangeeBouton::setVisible(bool visible)
-{
-    for (QWidget *cellule : cellules_)
-        cellule->setVisible(visible);
 }
 
 bool RangeeBouton::aLeFocus() const

@@ -1,10 +1,8 @@
 #pragma once
 
+#include "composants/Tableau.h"
 #include "textes/TextesBoutons.h"
 
-#include <QWidget>
-
-class QGridLayout;
 class QPushButton;
 
 namespace Quillet {
@@ -13,19 +11,20 @@ class BoutonCopier;
 class Libelle;
 class LibelleASymbole;
 
-// One PayPal button of a book, as a row of a grid: what it charges, what it should charge, and what to do about it.
+// One PayPal button of a book, as a row of a table: what it charges, what it should charge, and what to do about it.
 class RangeeBouton : public QObject
 {
     Q_OBJECT
 
 public:
-    // Row 0: the heads of the columns.
-    static void placerLesTetes(QGridLayout &grille);
+    static constexpr int marge = 9; // px, above and below its cells
+    static QList<Tableau::Colonne> colonnes();
+    // Columns stand still from one book to the next.
+    static void fixerLesLargeurs(Tableau &tableau);
 
-    RangeeBouton(QGridLayout &grille, int ligne, QObject *parent);
+    // Adds itself to the table, which owns it.
+    explicit RangeeBouton(Tableau &tableau);
     void montrer(const TextesBoutons::Ligne &ligne);
-    void setVisible(bool visible);
-    [[nodiscard]] int haut() const { return cellules_.first()->y(); }
     // Whether the focus is on one of its controls.
     [[nodiscard]] bool aLeFocus() const;
     void prendreLeFocus();
@@ -35,7 +34,6 @@ signals:
     void garder();
 
 private:
-    QList<QWidget *> cellules_;
     Libelle *destination_;
     Libelle *palier_;
     Libelle *actuel_;

@@ -1,11 +1,9 @@
 #include "ui/livres/TableauBoutons.h"
 
 #include "composants/Dessin.h"
-#include "composants/Theme.h"
 #include "textes/Suivant.h"
 #include "ui/livres/RangeeBouton.h"
 
-#include <QGridLayout>
 #include <QPainter>
 
 #include <algorithm>
@@ -14,8 +12,6 @@ namespace Quillet {
 
 namespace {
 
-constexpr int marge = 16;
-
 bool attend(const TextesBoutons::Ligne &ligne)
 {
     return ligne.etat == PrixBouton::Etat::aReporter;
@@ -23,12 +19,10 @@ bool attend(const TextesBoutons::Ligne &ligne)
 
 } // namespace
 
-TableauBoutons::TableauBoutons(QWidget *parent) : QWidget(parent), grille_(new QGridLayout(this))
+TableauBoutons::TableauBoutons(QWidget *parent) : Tableau(RangeeBouton::colonnes(), RangeeBouton::marge, parent)
 {
-    grille_->setContentsMargins(marge, 3, marge, 3);
-    grille_->setHorizontalSpacing(12);
-    grille_->setVerticalSpacing(0);
-    RangeeBouton::placerLesTetes(*grille_);
+    setContentsMargins(16, 3, 16, 3);
+    RangeeBouton::fixerLesLargeurs(*this);
 }
 
 void TableauBoutons::montrer(const QList<TextesBoutons::Ligne> &lignes)
@@ -37,7 +31,7 @@ void TableauBoutons::montrer(const QList<TextesBoutons::Ligne> &lignes)
         return;
     while (rangees_.size() < lignes.size()) {
         const int rang = static_cast<int>(rangees_.size());
-        auto *rangee = new RangeeBouton(*grille_, rang + 1, this);
+        auto *rangee = new RangeeBouton(*this);
         connect(rangee, &RangeeBouton::reporter, this, [this, rang] { emit reporter(rang); });
         connect(rangee, &RangeeBouton::garder, this, [this, rang] { emit garder(rang); });
         rangees_.append(rangee);
@@ -51,8 +45,8 @@ void TableauBoutons::montrer(const QList<TextesBoutons::Ligne> &lignes)
         rangees_[suivante.value_or(*traitee)]->prendreLeFocus();
     }
     lignes_ = lignes;
-    for (qsizetype rang = 0; rang < rangees_.size(); ++rang) {
-        rangees_[rang]->setVisible(rang < lignes.size());
+    for (int rang = 0; rang < rangees_.size(); ++rang) {
+        setRangeeVisible(rang + 1, rang < lignes.size());
         if (rang < lignes.size())
             rangees_[rang]->montrer(lignes[rang]);
     }
@@ -74,8 +68,7 @@ void TableauBoutons::paintEvent(QPaintEvent *)
 {
     QPainter peintre(this);
     Dessin::carte(peintre, rect(), palette());
-    for (qsizetype rang = 0; rang < lignes_.size(); ++rang)
-        peintre.fillRect(marge, rangees_[rang]->haut(), width() - 2 * marge, 1, Theme::filet(palette()));
+    peindreLesFilets(peintre);
 }
 
 } // namespace Quillet

@@ -1,19 +1,16 @@
 #pragma once
 
+#include "composants/Tableau.h"
 #include "textes/TextesBoutons.h"
 
-#include <QWidget>
-
 #include <optional>
-
-class QGridLayout;
 
 namespace Quillet {
 
 class RangeeBouton;
 
 // A book's PayPal buttons, one row a destination, in a raised group.
-class TableauBoutons : public QWidget
+class TableauBoutons : public Tableau
 {
     Q_OBJECT
 
@@ -34,7 +31,6 @@ protected:
 private:
     [[nodiscard]] std::optional<int> rangeeTraitee(const QList<TextesBoutons::Ligne> &lignes) const;
 
-    QGridLayout *grille_;
     QList<RangeeBouton *> rangees_;
     QList<TextesBoutons::Ligne> lignes_; // as shown
 };

@@ -4,7 +4,7 @@
 #include "composants/LecteurDEcran.h"
 #include "composants/Libelle.h"
 #include "composants/LibelleChiffre.h"
-#include "composants/RangeeDeTableau.h"
+#include "composants/Tableau.h"
 #include "composants/Theme.h"
 #include "model/Format.h"
 
@@ -52,24 +52,19 @@ private:
     bool enCours_;
 };
 
-QWidget *tetes(const TextesTarifs::Famille &famille)
+QWidget *tableau(const TextesTarifs::Famille &famille)
 {
-    QList<RangeeDeTableau::Cellule> cellules{
-        {RangeeDeTableau::tete(QStringLiteral("Poids"), Qt::AlignLeft), partDuPoids}};
-    for (const QString &zone : famille.zones) {
-        QWidget *tete = RangeeDeTableau::tete(zone, Qt::AlignRight);
-        tete->setContentsMargins(0, 0, retrait, 0);
-        cellules.append({tete, partDUneZone});
+    QList<Tableau::Colonne> colonnes{{QStringLiteral("Poids"), Qt::AlignLeft, partDuPoids}};
+    for (const QString &zone : famille.zones)
+        colonnes.append({zone, Qt::AlignRight, partDUneZone, retrait});
+    auto *tableau = new Tableau(colonnes);
+    for (const TextesTarifs::Palier &palier : famille.paliers) {
+        QList<QWidget *> cellules{new Libelle(palier.poids)};
+        for (qsizetype i = 0; i < famille.zones.size(); ++i)
+            cellules.append(new CasePrix(palier.prix[i], famille.zones[i], palier.poids));
+        tableau->ajouter(cellules);
     }
-    return new RangeeDeTableau(cellules, RangeeDeTableau::Filet::aucun);
-}
-
-QWidget *rangee(const TextesTarifs::Palier &palier, const QStringList &zones)
-{
-    QList<RangeeDeTableau::Cellule> cellules{{new Libelle(palier.poids), partDuPoids}};
-    for (qsizetype i = 0; i < zones.size(); ++i)
-        cellules.append({new CasePrix(palier.prix[i], zones[i], palier.poids), partDUneZone});
-    return new RangeeDeTableau(cellules);
+    return tableau;
 }
 
 } // namespace
@@ -80,9 +75,7 @@ CarteFamille::CarteFamille(const TextesTarifs::Famille &famille, QWidget *parent
     auto *colonne = new QVBoxLayout(this);
     colonne->setContentsMargins(18, 8, 18, 12);
     colonne->setSpacing(0);
-    colonne->addWidget(tetes(famille));
-    for (const TextesTarifs::Palier &palier : famille.paliers)
-        colonne->addWidget(rangee(palier, famille.zones));
+    colonne->addWidget(tableau(famille));
     for (const QString &pays : famille.pays) {
         colonne->addSpacing(6);
         colonne->addWidget(Libelle::note(pays));

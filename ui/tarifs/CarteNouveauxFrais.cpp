@@ -3,7 +3,7 @@
 #include "composants/Icone.h"
 #include "composants/Libelle.h"
 #include "composants/LibelleChiffre.h"
-#include "composants/RangeeDeTableau.h"
+#include "composants/Tableau.h"
 #include "composants/Theme.h"
 #include "textes/TextesTarifs.h"
 #include "ui/Contexte.h"
@@ -31,18 +31,20 @@ protected:
     }
 };
 
-QWidget *ligne(const TextesTarifs::Frais &avant, const TextesTarifs::Frais &apres)
+QWidget *tableau(const QList<TextesTarifs::Frais> &avant, const QList<TextesTarifs::Frais> &apres)
 {
-    const auto valeur = [](const QString &texte, bool change) {
-        auto *nombre = new LibelleChiffre(texte);
-        if (change)
-            nombre->setFont(Theme::enGras(nombre->font()));
-        return nombre;
-    };
-    return new RangeeDeTableau({{new Libelle(avant.libelle), 5},
-                                {valeur(avant.valeur, false), 2},
-                                {new Fleche, 1},
-                                {valeur(apres.valeur, avant != apres), 2}});
+    auto *tableau = new Tableau({{QStringLiteral("Frais"), Qt::AlignLeft, 5},
+                                 {QStringLiteral("En vigueur"), Qt::AlignRight, 2},
+                                 {{}, Qt::AlignLeft, 1},
+                                 {QStringLiteral("Relevés"), Qt::AlignRight, 2}});
+    tableau->setRangeeVisible(0, false);
+    for (qsizetype i = 0; i < avant.size(); ++i) {
+        auto *releve = new LibelleChiffre(apres[i].valeur);
+        if (avant[i] != apres[i])
+            releve->setFont(Theme::enGras(releve->font()));
+        tableau->ajouter({new Libelle(avant[i].libelle), new LibelleChiffre(avant[i].valeur), new Fleche, releve});
+    }
+    return tableau;
 }
 
 } // namespace
@@ -60,10 +62,8 @@ CarteNouveauxFrais::CarteNouveauxFrais(const Contexte &contexte, QWidget *parent
     colonne->addSpacing(6);
     colonne->addWidget(origine);
     colonne->addSpacing(14);
-    const auto avant = TextesTarifs::frais(contexte.donnees().reglages.fraisPaypal);
-    const auto apres = TextesTarifs::frais(*contexte.verifications.nouveauxFrais());
-    for (qsizetype i = 0; i < avant.size(); ++i)
-        colonne->addWidget(ligne(avant[i], apres[i]));
+    colonne->addWidget(tableau(TextesTarifs::frais(contexte.donnees().reglages.fraisPaypal),
+                               TextesTarifs::frais(*contexte.verifications.nouveauxFrais())));
     colonne->addStretch(1);
     composer(page, QStringLiteral("Enregistrer ces frais"),
              [&verifications = contexte.verifications] { verifications.accepterFrais(); });

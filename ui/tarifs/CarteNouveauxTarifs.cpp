@@ -5,14 +5,12 @@
 #include "composants/Libelle.h"
 #include "composants/LibelleChiffre.h"
 #include "composants/PageAuClavier.h"
-#include "composants/RangeeDeTableau.h"
+#include "composants/Tableau.h"
 #include "textes/TextesVerifications.h"
 #include "ui/Contexte.h"
 
 #include <QStyle>
 #include <QVBoxLayout>
-
-#include <array>
 
 namespace Quillet {
 
@@ -21,7 +19,6 @@ namespace {
 constexpr QSize taille(720, 640);
 constexpr QSize tailleVide(440, 300);
 constexpr int marge = 24;
-constexpr std::array parts{5, 2, 2, 2, 3, 2}; // of the columns; the last two are one, under its head
 
 QWidget *texte(const QString &texte, Qt::Alignment alignement)
 {
@@ -31,33 +28,32 @@ QWidget *texte(const QString &texte, Qt::Alignment alignement)
     return libelle;
 }
 
-QWidget *tetes()
+// With its heads only. The last two columns are one, under its head.
+Tableau *tableau()
 {
-    return new RangeeDeTableau({{RangeeDeTableau::tete(QStringLiteral("Zone"), Qt::AlignLeft), parts[0]},
-                                {RangeeDeTableau::tete(QStringLiteral("Jusqu’à"), Qt::AlignRight), parts[1]},
-                                {RangeeDeTableau::tete(QStringLiteral("Avant"), Qt::AlignRight), parts[2]},
-                                {RangeeDeTableau::tete(QStringLiteral("Après"), Qt::AlignRight), parts[3]},
-                                {RangeeDeTableau::tete(QStringLiteral("Écart"), Qt::AlignRight), parts[4]},
-                                {RangeeDeTableau::tete({}, Qt::AlignRight), parts[5]}},
-                               RangeeDeTableau::Filet::aucun);
+    return new Tableau({{QStringLiteral("Zone"), Qt::AlignLeft, 5},
+                        {QStringLiteral("Jusqu’à"), Qt::AlignRight, 2},
+                        {QStringLiteral("Avant"), Qt::AlignRight, 2},
+                        {QStringLiteral("Après"), Qt::AlignRight, 2},
+                        {QStringLiteral("Écart"), Qt::AlignRight, 3},
+                        {{}, Qt::AlignRight, 2, 0, QStringLiteral("Variation")}});
 }
 
-QWidget *tableau(const QList<TextesVerifications::Ecart> &ecarts)
+QWidget *changements(const QList<TextesVerifications::Ecart> &ecarts)
 {
-    auto *tableau = new QWidget;
-    auto *colonne = new QVBoxLayout(tableau);
-    const int ascenseur = tableau->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    colonne->setContentsMargins(marge, 0, marge - ascenseur, marge);
-    colonne->setSpacing(0);
+    Tableau *rangees = tableau();
+    rangees->setRangeeVisible(0, false); // the heads stay above the page that scrolls
     for (const TextesVerifications::Ecart &ecart : ecarts)
-        colonne->addWidget(new RangeeDeTableau({{texte(ecart.zone, Qt::AlignLeft), parts[0]},
-                                                {texte(ecart.jusqua, Qt::AlignRight), parts[1]},
-                                                {new LibelleChiffre(ecart.avant), parts[2]},
-                                                {new LibelleChiffre(ecart.apres), parts[3]},
-                                                {new LibelleChiffre(ecart.ecart), parts[4]},
-                                                {new LibelleChiffre(ecart.variation), parts[5]}}));
+        rangees->ajouter({texte(ecart.zone, Qt::AlignLeft), texte(ecart.jusqua, Qt::AlignRight),
+                          new LibelleChiffre(ecart.avant), new LibelleChiffre(ecart.apres),
+                          new LibelleChiffre(ecart.ecart), new LibelleChiffre(ecart.variation)});
+    auto *page = new QWidget;
+    auto *colonne = new QVBoxLayout(page);
+    const int ascenseur = page->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    colonne->setContentsMargins(marge, 0, marge - ascenseur, marge);
+    colonne->addWidget(rangees);
     colonne->addStretch(1);
-    return tableau;
+    return page;
 }
 
 } // namespace
@@ -87,10 +83,10 @@ CarteNouveauxTarifs::CarteNouveauxTarifs(const Contexte &contexte, QWidget *pare
                        QStringLiteral("Date d’effet introuvable sur la page : c’est le jour du relevé qui est retenu."),
                        Alerte::Ton::avertissement));
     tete->addSpacing(8);
-    tete->addWidget(tetes());
+    tete->addWidget(tableau());
     auto *defilement = new PageAuClavier;
     defilement->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // the heads above leave room for it
-    defilement->setWidget(tableau(TextesVerifications::ecarts(ecarts)));
+    defilement->setWidget(changements(TextesVerifications::ecarts(ecarts)));
     defilement->widget()->setAutoFillBackground(false); // the focus ring is painted behind it
     defilement->setAccessibleName(QStringLiteral("Paliers qui changent"));
     auto *compte = new Libelle(TextesVerifications::compte(ecarts, releve.tarifs));

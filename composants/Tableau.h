@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QList>
+#include <QPoint>
+#include <QWidget>
+
+class QGridLayout;
+
+namespace Quillet {
+
+// Rows of labels, figures or controls under the heads of their columns, each under a hairline. It is a table for who
+// hears it, too (LectureDeTableau).
+class Tableau : public QWidget
+{
+    Q_OBJECT
+
+public:
+    struct Colonne
+    {
+        QString tete;
+        Qt::Alignment alignement = Qt::AlignLeft; // of the head
+        int part = 0;                             // of the table's width; 0: what its cells ask for
+        int retrait = 0;                          // px, of the head, from the right
+        QString dite = tete;                      // the head, as it is heard
+    };
+
+    // `marge`: px, above and below each cell.
+    explicit Tableau(const QList<Colonne> &colonnes, int marge = 6, QWidget *parent = nullptr);
+    void ajouter(const QList<QWidget *> &contenus);
+    void setLargeurMinimale(int colonne, int largeur);
+    // Row 0: the heads, which are heard all the same.
+    void setRangeeVisible(int rangee, bool visible);
+
+    [[nodiscard]] int colonnes() const;
+    // Those that show, without the heads.
+    [[nodiscard]] QList<int> rangees() const;
+    [[nodiscard]] QWidget *cellule(int rangee, int colonne) const;
+    // Its column (x) and its row (y).
+    [[nodiscard]] QPoint place(QWidget *cellule) const;
+
+    // Columns that share the width are all as wide as the one that needs the most: two tables with the same heads have
+    // them at the same places.
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    void peindreLesFilets(QPainter &peintre) const;
+    void paintEvent(QPaintEvent *evenement) override;
+
+private:
+    void placer(QWidget *contenu, int rangee, int colonne, Qt::Alignment alignement = {});
+
+    QGridLayout *grille_;
+    int marge_;
+};
+
+} // namespace Quillet
