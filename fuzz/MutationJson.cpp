@@ -10,6 +10,8 @@
 #include <cstdint>
 #include <random>
 
+using namespace Quillet;
+
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t *octets, std::size_t taille, std::size_t place);
 
 namespace {
