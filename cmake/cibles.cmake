@@ -20,10 +20,10 @@ function(quillet_outil variable programme)
     endif()
 endfunction()
 
-# What Qt 6.8 has for tests to wait, QTRY_VERIFY and the like, narrows a duration by itself.
+# What Qt 6.8 has for tests to wait, QTRY_VERIFY and the like, narrows a duration by itself. Tests write a text as it reads.
 add_library(quillet-options-test INTERFACE)
 add_library(Quillet::options-test ALIAS quillet-options-test)
-target_compile_options(quillet-options-test INTERFACE -Wno-conversion)
+target_compile_options(quillet-options-test INTERFACE -Wno-conversion -UQT_NO_CAST_FROM_ASCII)
 
 # quillet_donnees_de_test(<target>): where QFINDTESTDATA starts from when the compiler was given relative paths, as ccache may.
 function(quillet_donnees_de_test cible)

@@ -66,19 +66,17 @@ Banc::Banc()
               unLivre(4, Vendeur::davrel, Centimes{900}, Grammes{150})};
     livres[3].disponible = false;
     tarifs = {desTarifs("2026-01-01", Centimes{549})};
-    const auto destination = [](const QString &code, const QString &fr, const QString &en, const QString &grille,
+    const auto destination = [](const char *code, const char *nom, const char *name, const char *grille,
                                 RegionPaypal region, bool douane) {
-        return Destination{CodeDestination(code), fr, en, fr, fr, en, CodeGrille(grille), region, douane, std::nullopt};
+        const QString fr = QString::fromUtf8(nom);
+        const QString en = QString::fromUtf8(name);
+        return Destination{vers(code), fr, en, fr, fr, en, CodeGrille(QLatin1String(grille)), region, douane, {}};
     };
     destinations = {
-        destination(QStringLiteral("france"), QStringLiteral("France"), QStringLiteral("France"),
-                    QStringLiteral("france-domicile"), RegionPaypal::eee, false),
-        destination(QStringLiteral("ue"), QStringLiteral("Union européenne"), QStringLiteral("European Union"),
-                    QStringLiteral("ue-suisse"), RegionPaypal::eee, false),
-        destination(QStringLiteral("suisse"), QStringLiteral("Suisse"), QStringLiteral("Switzerland"),
-                    QStringLiteral("ue-suisse"), RegionPaypal::autres, true),
-        destination(QStringLiteral("lune"), QStringLiteral("Lune"), QStringLiteral("Moon"), QStringLiteral("zone-lune"),
-                    RegionPaypal::autres, true),
+        destination("france", "France", "France", "france-domicile", RegionPaypal::eee, false),
+        destination("ue", "Union européenne", "European Union", "ue-suisse", RegionPaypal::eee, false),
+        destination("suisse", "Suisse", "Switzerland", "ue-suisse", RegionPaypal::autres, true),
+        destination("lune", "Lune", "Moon", "zone-lune", RegionPaypal::autres, true),
     };
     destinations[1].douaneSauf = QStringLiteral("les Canaries & Ceuta");
     reglages = {

@@ -1,10 +1,9 @@
 #include "tests/BancEcran.h"
 
-#include "visite/Dialogues.h"
 #include "visite/Ecran.h"
 
 #include <QAccessible>
-#include <QDialog>
+#include <QMessageBox>
 #include <QTest>
 
 namespace Quillet {
@@ -60,6 +59,14 @@ QString BancEcran::luAuTableau(const QWidget *fenetre, const QString &rangee, co
             }
     }
     return {};
+}
+
+Dialogues::Reponse BancEcran::lire(QString &message)
+{
+    return [&message](QDialog *boite) {
+        message = qobject_cast<QMessageBox *>(boite)->text();
+        boite->reject();
+    };
 }
 
 void BancEcran::revenirA(QWidget *fenetre)

@@ -3,9 +3,12 @@
 #include "tests/Banc.h"
 #include "ui/Fenetre.h"
 #include "ui/QuilletApp.h"
+#include "visite/Dialogues.h"
+#include "visite/Ecran.h"
 #include "visite/HorsReseau.h"
 
-class QDialog;
+#include <QDialog>
+#include <QTest>
 
 namespace Quillet {
 
@@ -27,6 +30,8 @@ struct BancEcran
     [[nodiscard]] QDialog *ouvrir(const QString &bouton) const;
     // What a screen reader finds in a table of the window, in the row that is called so and under that head.
     [[nodiscard]] static QString luAuTableau(const QWidget *fenetre, const QString &rangee, const QString &tete);
+    // Reads the sentence of a message, then closes it.
+    static Dialogues::Reponse lire(QString &message);
     // Looks at another window and comes back.
     static void revenirA(QWidget *fenetre);
 };

@@ -2,7 +2,6 @@
 
 #include "tests/BancEcran.h"
 #include "ui/ContenuPrincipal.h"
-#include "visite/Ecran.h"
 
 #include <QLabel>
 #include <QLineEdit>

@@ -6,18 +6,6 @@
 
 using namespace Quillet;
 
-class TestReponse : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void corpsEnFrancais();
-    void corpsEnAnglaisEtDouane();
-    void sujet();
-    void objetEtDescription();
-    void langueDeLAcheteur();
-};
-
 namespace {
 
 struct Cas
@@ -34,97 +22,103 @@ struct Cas
 
 } // namespace
 
-void TestReponse::corpsEnFrancais()
+class TestReponse : public QObject
 {
-    Cas cas;
-    cas.bon.ajuster(cas.banc.livres[0], 2);
-    const auto reponse = cas.reponse(Langue::francais, QStringLiteral(" \n https://lien.example/1 "));
-    QCOMPARE(lisible(reponse.corps()),
-             QStringLiteral("Bonjour,\n\nMerci pour votre commande :\n\n"
-                            "   • Livre 1 × 2 : 30,00 €\n"
-                            "   • Envoi via Colissimo (France) : 7,59 €\n\n"
-                            "Total à payer (livres + envoi) : 37,59 €\n\n"
-                            "Pour régler, ouvrez ce lien : https://lien.example/1\n\n"
-                            "Vous pouvez payer avec un compte PayPal, par Apple Pay ou par carte bancaire.\n"
-                            "Indiquez sur la page PayPal l’adresse où envoyer le colis.\n\n"
-                            "Le paquet part dès réception du paiement sous 2 jours ouvrés avec un numéro de suivi.\n"
-                            "\nBien cordialement,\n\nÉditions Davrel"));
-    QVERIFY(reponse.corps().contains(reponse.ligneTotal()));
-}
+    Q_OBJECT
 
-void TestReponse::corpsEnAnglaisEtDouane()
-{
-    Cas cas;
-    cas.bon.ajuster(cas.banc.livres[0], 1);
-    cas.bon.ajuster(cas.banc.livres[1], 1); // not weighed: no price
-    cas.bon.codeDestination = vers("suisse");
-    QCOMPARE(cas.reponse(Langue::anglais, QStringLiteral("  ")).corps(),
-             QStringLiteral("Hello,\n\nThank you for your order:\n\n"
-                            "   • Livre 1 × 1: €15.00\n"
-                            "   • Livre 2 × 1: €22.00\n"
-                            "   • Shipping via Colissimo (Switzerland): —\n\n"
-                            "Total to pay (books + shipping): —\n\n"
-                            "To pay, please open this link: [link]\n\n"
-                            "You can pay with a PayPal account, Apple Pay or a card.\n"
-                            "Please give the address the parcel should be sent to on the PayPal page.\n\n"
-                            "The parcel is sent within 2 working days of payment, with a tracking number.\n"
-                            "\nThe parcel goes through customs: import duties or taxes may be charged on delivery.\n"
-                            "\nBest regards,\n\nÉditions Davrel"));
-    QVERIFY(cas.reponse(Langue::francais)
-                .corps()
-                .contains(QStringLiteral("suivi.\n\nLe colis passe en douane : des taxes d’importation peuvent vous "
-                                         "être demandées à la livraison.\n\nBien cordialement")));
-    QVERIFY(cas.reponse(Langue::francais).corps().contains(QStringLiteral("[lien]")));
-    cas.bon.codeDestination = vers("mars");
-    QVERIFY(cas.reponse(Langue::francais).corps().contains(QStringLiteral("Envoi via Colissimo () : —")));
-}
-
-void TestReponse::sujet()
-{
-    Cas cas;
-    QCOMPARE(cas.reponse(Langue::anglais).sujet(), QStringLiteral("Your book order – Éditions Davrel"));
-    cas.bon.ajuster(cas.banc.livres[0], 1);
-    QCOMPARE(cas.reponse(Langue::francais).sujet(), QStringLiteral("Votre commande de livres – davrel.example"));
-    auto sansSite = cas.reponse(Langue::francais);
-    sansSite.vendeur.site.reset();
-    QCOMPARE(sansSite.sujet(), QStringLiteral("Votre commande de livres – Éditions Davrel"));
-}
-
-void TestReponse::objetEtDescription()
-{
-    Cas cas;
-    QCOMPARE(cas.reponse(Langue::francais).nomDeLObjet(), QStringLiteral("Éditions Davrel – 0 book"));
-    cas.bon.ajuster(cas.banc.livres[0], 1);
-    QCOMPARE(cas.reponse(Langue::francais).nomDeLObjet(), QStringLiteral("Éditions Davrel – 1 book"));
-    cas.bon.ajuster(cas.banc.livres[1], 2);
-    cas.bon.codeDestination = vers("ue");
-    QCOMPARE(cas.reponse(Langue::francais).nomDeLObjet(), QStringLiteral("Éditions Davrel – 3 books"));
-    QCOMPARE(cas.reponse(Langue::francais).descriptionDuLien(),
-             QStringLiteral("Livre 1\nLivre 2 × 2\n\nLe prix comprend les livres et l’envoi vers Union européenne."));
-    cas.bon.paysLivraison = QStringLiteral(" \n");
-    QCOMPARE(cas.reponse(Langue::anglais).descriptionDuLien(),
-             QStringLiteral("Livre 1\nLivre 2 × 2\n\nPrice includes books and shipping to European Union."));
-    cas.bon.paysLivraison = QStringLiteral("la Belgique ");
-    QVERIFY(cas.reponse(Langue::francais).descriptionDuLien().endsWith(QStringLiteral("vers la Belgique .")));
-}
-
-void TestReponse::langueDeLAcheteur()
-{
-    Cas cas;
-    for (const char *code : {"om1", "om2"}) {
-        cas.banc.destinations.append(cas.banc.destinations[0]);
-        cas.banc.destinations.last().code = vers(code);
+private slots:
+    void corpsEnFrancais()
+    {
+        Cas cas;
+        cas.bon.ajuster(cas.banc.livres[0], 2);
+        const auto reponse = cas.reponse(Langue::francais, " \n https://lien.example/1 ");
+        QCOMPARE(lisible(reponse.corps()),
+                 "Bonjour,\n\nMerci pour votre commande :\n\n"
+                 "   • Livre 1 × 2 : 30,00 €\n"
+                 "   • Envoi via Colissimo (France) : 7,59 €\n\n"
+                 "Total à payer (livres + envoi) : 37,59 €\n\n"
+                 "Pour régler, ouvrez ce lien : https://lien.example/1\n\n"
+                 "Vous pouvez payer avec un compte PayPal, par Apple Pay ou par carte bancaire.\n"
+                 "Indiquez sur la page PayPal l’adresse où envoyer le colis.\n\n"
+                 "Le paquet part dès réception du paiement sous 2 jours ouvrés avec un numéro de suivi.\n"
+                 "\nBien cordialement,\n\nÉditions Davrel");
+        QVERIFY(reponse.corps().contains(reponse.ligneTotal()));
     }
-    const auto langue = [&](const char *code) {
-        cas.bon.codeDestination = vers(code);
-        return langueAcheteur(cas.bon, Calcul::de(cas.banc.donnees(), cas.bon, jourDuBanc));
-    };
-    for (const char *francophone : {"france", "om1", "om2", "mars"})
-        QVERIFY2(langue(francophone) == Langue::francais, francophone);
-    QCOMPARE(langue("ue"), Langue::anglais);
-    cas.bon.langue = Langue::francais;
-    QCOMPARE(langueAcheteur(cas.bon, Calcul::de(cas.banc.donnees(), cas.bon, jourDuBanc)), Langue::francais);
-}
+
+    void corpsEnAnglaisEtDouane()
+    {
+        Cas cas;
+        cas.bon.ajuster(cas.banc.livres[0], 1);
+        cas.bon.ajuster(cas.banc.livres[1], 1); // not weighed: no price
+        cas.bon.codeDestination = vers("suisse");
+        QCOMPARE(cas.reponse(Langue::anglais, "  ").corps(),
+                 "Hello,\n\nThank you for your order:\n\n"
+                 "   • Livre 1 × 1: €15.00\n"
+                 "   • Livre 2 × 1: €22.00\n"
+                 "   • Shipping via Colissimo (Switzerland): —\n\n"
+                 "Total to pay (books + shipping): —\n\n"
+                 "To pay, please open this link: [link]\n\n"
+                 "You can pay with a PayPal account, Apple Pay or a card.\n"
+                 "Please give the address the parcel should be sent to on the PayPal page.\n\n"
+                 "The parcel is sent within 2 working days of payment, with a tracking number.\n"
+                 "\nThe parcel goes through customs: import duties or taxes may be charged on delivery.\n"
+                 "\nBest regards,\n\nÉditions Davrel");
+        QVERIFY(cas.reponse(Langue::francais)
+                    .corps()
+                    .contains("suivi.\n\nLe colis passe en douane : des taxes d’importation peuvent vous "
+                              "être demandées à la livraison.\n\nBien cordialement"));
+        QVERIFY(cas.reponse(Langue::francais).corps().contains("[lien]"));
+        cas.bon.codeDestination = vers("mars");
+        QVERIFY(cas.reponse(Langue::francais).corps().contains("Envoi via Colissimo () : —"));
+    }
+
+    void sujet()
+    {
+        Cas cas;
+        QCOMPARE(cas.reponse(Langue::anglais).sujet(), "Your book order – Éditions Davrel");
+        cas.bon.ajuster(cas.banc.livres[0], 1);
+        QCOMPARE(cas.reponse(Langue::francais).sujet(), "Votre commande de livres – davrel.example");
+        auto sansSite = cas.reponse(Langue::francais);
+        sansSite.vendeur.site.reset();
+        QCOMPARE(sansSite.sujet(), "Votre commande de livres – Éditions Davrel");
+    }
+
+    void objetEtDescription()
+    {
+        Cas cas;
+        QCOMPARE(cas.reponse(Langue::francais).nomDeLObjet(), "Éditions Davrel – 0 book");
+        cas.bon.ajuster(cas.banc.livres[0], 1);
+        QCOMPARE(cas.reponse(Langue::francais).nomDeLObjet(), "Éditions Davrel – 1 book");
+        cas.bon.ajuster(cas.banc.livres[1], 2);
+        cas.bon.codeDestination = vers("ue");
+        QCOMPARE(cas.reponse(Langue::francais).nomDeLObjet(), "Éditions Davrel – 3 books");
+        QCOMPARE(cas.reponse(Langue::francais).descriptionDuLien(),
+                 "Livre 1\nLivre 2 × 2\n\nLe prix comprend les livres et l’envoi vers Union européenne.");
+        cas.bon.paysLivraison = " \n";
+        QCOMPARE(cas.reponse(Langue::anglais).descriptionDuLien(),
+                 "Livre 1\nLivre 2 × 2\n\nPrice includes books and shipping to European Union.");
+        cas.bon.paysLivraison = "la Belgique ";
+        QVERIFY(cas.reponse(Langue::francais).descriptionDuLien().endsWith("vers la Belgique ."));
+    }
+
+    void langueDeLAcheteur()
+    {
+        Cas cas;
+        for (const char *code : {"om1", "om2"}) {
+            cas.banc.destinations.append(cas.banc.destinations[0]);
+            cas.banc.destinations.last().code = vers(code);
+        }
+        const auto langue = [&](const char *code) {
+            cas.bon.codeDestination = vers(code);
+            return langueAcheteur(cas.bon, Calcul::de(cas.banc.donnees(), cas.bon, jourDuBanc));
+        };
+        for (const char *francophone : {"france", "om1", "om2", "mars"})
+            QVERIFY2(langue(francophone) == Langue::francais, francophone);
+        QCOMPARE(langue("ue"), Langue::anglais);
+        cas.bon.langue = Langue::francais;
+        QCOMPARE(langueAcheteur(cas.bon, Calcul::de(cas.banc.donnees(), cas.bon, jourDuBanc)), Langue::francais);
+    }
+};
 
 QTEST_GUILESS_MAIN(TestReponse)
 #include "tst_reponse.moc"

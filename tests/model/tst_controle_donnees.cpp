@@ -2,28 +2,12 @@
 #include "model/Ressources.h"
 #include "model/controle/ControleDonnees.h"
 #include "model/controle/NumeroDeControle.h"
+#include "tests/Rangees.h"
 
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Quillet;
-
-class TestControleDonnees : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void erreurs_data();
-    void erreurs();
-    void dossierIllisible();
-    void aucunTarifEnVigueur();
-    void numeros_data();
-    void numeros();
-    void dossierDuVendeur();
-    void sansEcran_data();
-    void sansEcran();
-};
 
 namespace {
 
@@ -53,245 +37,240 @@ void remplacer(const QString &chemin, const QByteArray &avant, const QByteArray 
 
 } // namespace
 
-void TestControleDonnees::erreurs_data()
+class TestControleDonnees : public QObject
 {
-    QTest::addColumn<QString>("fichier");
-    QTest::addColumn<QByteArray>("avant");
-    QTest::addColumn<QByteArray>("apres");
-    QTest::addColumn<QString>("attendues");
-    const auto cas = [](const char *fichier, const char *avant, const char *apres, const char *attendues) {
-        QTest::addRow("%s %.60s", fichier, apres)
-            << QString::fromLatin1(fichier) << QByteArray(avant) << QByteArray(apres) << QString::fromUtf8(attendues);
-    };
-    cas("livres", "[", "[", "");
-    // What the codec refuses: every mistake of the file, and nothing inside a refused value.
-    cas("livres", R"("prix" : 1900,)", R"("prix" : "1900",)",
-        "livres[5].prix : entier attendu\nlivres[8].prix : entier attendu");
-    cas("livres", R"("id" : 3,)", R"("id" : 3.5, "poid" : 12,)",
-        "livres[2].id : entier attendu\nlivres[2].poid : clé inconnue");
-    cas("reglages", R"("douane" : {)", R"("douane" : 3, "x" : {)",
-        "reglages.douane : objet attendu\nreglages.x : clé inconnue");
-    cas("reglages", R"("taux" : 290)", R"("taux" : 290,)",
-        "reglages.json : JSON illisible, ligne 43, colonne 3 : virgule en trop");
-    cas("destinations", R"("code" : "france")", R"("code" : 1)", "destinations[0].code : texte attendu");
-    cas("tarifs-colissimo-2026-01-01", R"("code" : "om1")", R"("code" : 1)",
-        "tarifs-colissimo-2026-01-01.grilles[1].code : texte attendu");
-    cas("reglages", R"("taux" : 290)", R"("taux" : 290, "fixe" : 0, "x\"{" : "taux")",
-        "reglages.fraisPaypal.x\"{ : clé inconnue\n"
-        "reglages.json, ligne 42 : clé « fixe » écrite deux fois, la dernière compte");
-    // What holds everywhere.
-    cas("livres", "Le Phare de sel\"", " \"", "livres[0].titre : texte vide");
-    cas("livres", R"("france" : 1499)", R"("france" : -1)", "livres[1].prixPaypal.france : nombre négatif");
-    cas("livres", "https://boutique.atelier-mireva.example/le-renard\"", "http://boutique.example\"",
-        "livres[9].lienPaypal : adresse https attendue");
-    // Books.
-    cas("livres", R"("id" : 3,)", R"("id" : 1,)", "livres[2].id : déjà pris par livres[0]");
-    cas("livres", "979-99-0417-001-8", "979-99-0417-001-9",
-        "livres[0].isbn : « 979-99-0417-001-9 » n’est pas un ISBN : un chiffre manque ou est faux");
-    cas("livres", "979-99-0417-001-8", "", "");
-    cas("livres", "le-phare-de-sel.svg", "le-phare.svg",
-        "livres[0].couverture : pas d’image « le-phare.svg » dans couvertures");
-    cas("livres", "le-phare-de-sel.svg", "le-phare-de-sel", "");
-    cas("livres", "le-phare-de-sel.svg", "notes.txt",
-        "livres[0].couverture : couvertures/notes.txt n’est pas une image svg, png, jpg, jpeg, gif, bmp");
-    cas("livres", "le-phare-de-sel.svg", "vide.png", "livres[0].couverture : couvertures/vide.png est un fichier vide");
-    cas("livres", "29,\n      74,\n      99", "29, 74",
-        "livres[0].teinte : trois nombres attendus : rouge, vert, bleu");
-    cas("livres", "29,\n      74,\n      99", "29, -1, 256",
-        "livres[0].teinte[1] : nombre de 0 à 255 attendu\nlivres[0].teinte[2] : nombre de 0 à 255 attendu");
-    cas("livres", R"("poids" : 355)", R"("poids" : 0)",
-        "livres[0].poids : 0 g ; laissez-le absent tant qu’il n’est pas pesé");
-    cas("livres", R"("pages" : 288)", R"("pages" : 0)", "livres[0].pages : au moins une page attendue");
-    cas("livres", R"("om1" : 4300)", R"("om3" : 4300)", "livres[4].prixEcartes.om3 : aucune destination n’a ce code");
-    // Destinations.
-    cas("destinations", R"("code" : "france")", R"("code" : "om1")",
-        "…\ndestinations[1].code : déjà pris par destinations[0]\n"
-        "destinations : aucune n’a le code « france », celui d’une nouvelle commande");
-    cas("destinations", R"("grille" : "zone-c")", R"("grille" : "zone-d")",
-        "destinations[8].grille : pas de grille « zone-d » dans tarifs-colissimo-2025-01-01, "
-        "tarifs-colissimo-2026-01-01");
-    cas("destinations", R"("douane" : false,)", R"("douane" : true,)",
-        "destinations[3].douaneSauf : sans effet, douane étant true");
-    // Settings.
-    cas("reglages", "2026-07-24", "2026-02-30", "reglages.fraisPaypal.releve : jour attendu, de la forme 2026-01-31");
-    cas("reglages", R"("eee" : 0)", R"("europe" : 0)", "reglages.fraisPaypal.supplements.europe : clé inconnue");
-    cas("reglages", R"("mireva" : {)", R"("Mireva" : {)",
-        "…\nlivres[13].vendeur : « mireva » n’a pas d’identité dans reglages.vendeurs\nreglages.vendeurs.Mireva : clé "
-        "inconnue");
-    cas("reglages", R"("Enveloppe à bulles")", R"("Enveloppe")",
-        "reglages.emballages : aucun ne s’appelle « Enveloppe à bulles », l’emballage d’une nouvelle commande : il "
-        "compterait 0 g");
-    cas("reglages", "Pochette cartonnée", "Carton",
-        "reglages.emballages[4].nom : déjà pris par reglages.emballages[2]");
-    cas("reglages", "Pochette cartonnée", "Autre poids",
-        "reglages.emballages[2].nom : nom réservé au poids que l’on tape");
-    cas("reglages", R"("poids" : 40)", R"("poids" : 0)",
-        "reglages.emballages[0].poids : plus de 0 g attendus, ce poids compte dans les prix des boutons PayPal");
-    cas("reglages", "TVA non applicable, art. 293 B du CGI", "", "");
-    cas("reglages", "000 000 000 00000", "000 000 000 00001",
-        "reglages.vendeurs.davrel.siret : ce n’est pas un numéro SIRET");
-    cas("reglages", R"("site" : ")", R"("site" : "https://)",
-        "reglages.vendeurs.davrel.site : nom de site attendu, sans https:// ni page\n"
-        "reglages.vendeurs.mireva.site : nom de site attendu, sans https:// ni page");
-    cas("reglages", "https://editions-davrel.example/merci", "merci",
-        "reglages.vendeurs.davrel.retourPaypal : adresse https attendue");
-    // Schedules.
-    cas("tarifs-colissimo-2026-01-01", R"("2026-01-01")", R"("2025-01-01")",
-        "tarifs-colissimo-2026-01-01.validite : déjà pris par tarifs-colissimo-2025-01-01");
-    cas("tarifs-colissimo-2026-01-01", R"("jusqua" : 250,)", R"("jusqua" : 500,)",
-        "tarifs-colissimo-2026-01-01.grilles[0].paliers[1].jusqua : plus de 500 g attendus, les paliers vont en "
-        "montant");
-    cas("tarifs-colissimo-2026-01-01", R"("prix" : 549)", R"("prix" : 0)",
-        "tarifs-colissimo-2026-01-01.grilles[0].paliers[0].prix : plus de 0 attendu");
-    cas("tarifs-colissimo-2026-01-01", R"("code" : "om1")", R"("code" : "om3")",
-        "destinations[1].grille : pas de grille « om1 » dans "
-        "tarifs-colissimo-2026-01-01\ntarifs-colissimo-2026-01-01.grilles[1].code : grille inconnue « om3 » ; celles "
-        "de La Poste : france-domicile, om1, om2, ue-suisse, royaume-uni, zone-b, zone-c");
-    cas("tarifs-colissimo-2026-01-01", R"("famille" : "france")", R"("famille" : "métropole")",
-        "tarifs-colissimo-2026-01-01.grilles[0].famille : famille inconnue « métropole », la grille ne serait pas "
-        "montrée ; attendu : france, outre-mer, europe, monde");
-}
+    Q_OBJECT
 
+private slots:
+    void erreurs();
+
+    void dossierIllisible()
+    {
+        const QTemporaryDir dossier;
+        const QString absent = dossier.filePath("absent");
+        QCOMPARE(ControleDonnees::de(QDir(absent), jour).erreurs,
+                 QStringList{absent + QStringLiteral(" : dossier introuvable")});
+        QCOMPARE(ControleDonnees::de(QDir(dossier.path()), jour).erreurs,
+                 (QStringList{"livres.json : fichier introuvable", "destinations.json : fichier introuvable",
+                              "reglages.json : fichier introuvable", "tarifs-colissimo-….json : fichier introuvable"}));
+    }
+
+    void aucunTarifEnVigueur()
+    {
+        QCOMPARE(ControleDonnees::de(livrees(), QDate(2024, 12, 31)).erreurs,
+                 QStringList{"tarifs-colissimo-….json : aucun n’est en vigueur, le premier compterait avant son jour"});
+        QVERIFY(ControleDonnees::de(livrees(), QDate(2025, 1, 1)).erreurs.isEmpty());
+    }
+
+    void numeros()
+    {
+        for (const auto &[numero, regle, juste] : Rangees<bool (*)(const QString &), bool>{
+                 {"978-0-306-40615-7", NumeroDeControle::isbn, true},
+                 {"979 99 0417 001 8", NumeroDeControle::isbn, true},
+                 {"0-306-40615-2", NumeroDeControle::isbn, true},
+                 {"080442957X", NumeroDeControle::isbn, true},
+                 {"0804429570", NumeroDeControle::isbn, false},
+                 {"978-0-360-40615-7", NumeroDeControle::isbn, false},
+                 {"978-0-306-40615", NumeroDeControle::isbn, false},
+                 {"4006381333931", NumeroDeControle::isbn, false}, // a bar code, not a book's
+                 {"978-0-306-4O615-7", NumeroDeControle::isbn, false},
+                 {"732 829 320 00074", NumeroDeControle::siret, true},
+                 {"732 829 302 00074", NumeroDeControle::siret, false},
+                 {"732 829 320", NumeroDeControle::siret, false},
+             })
+            QVERIFY2(regle(numero) == juste, numero);
+    }
+
+    void dossierDuVendeur()
+    {
+        const QTemporaryDir temporaire;
+        const QDir racine(temporaire.path());
+        const QDir programme(racine.filePath("bin"));
+        const QString propres = racine.filePath("share/quillet-donnees");
+        QVERIFY(QDir().mkpath(programme.path()));
+        copier(livrees(), racine.filePath("share/quillet"));
+        const auto titre = [&] { return Ressources::autourDe(programme).lire<QList<Livre>>("livres")[0].titre; };
+        QCOMPARE(titre(), "Le Phare de sel");
+        copier(livrees(), propres);
+        remplacer(propres + QStringLiteral("/livres.json"), "Le Phare de sel\"", "Le mien\"");
+        QCOMPARE(titre(), "Le mien");
+
+        // Never the example's books instead of a folder that is there but cannot be read.
+        QVERIFY(QDir(propres).removeRecursively());
+        QVERIFY(QFile::link("/nulle/part", propres));
+        try {
+            titre();
+            QFAIL("lu");
+        } catch (const RessourceIllisible &illisible) {
+            QVERIFY(illisible.texte().startsWith(
+                QStringLiteral(
+                    "Ressource illisible : livres.json : fichier introuvable\n\nCe sont vos propres données, dans ")
+                + propres));
+            QVERIFY(illisible.texte().endsWith(QStringLiteral("quillet --verifier \"%1\"").arg(propres)));
+        }
+    }
+
+    // The program itself, where Qt would abort as soon as it looked for a display.
+    void sansEcran()
+    {
+        auto environnement = QProcessEnvironment::systemEnvironment();
+        for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environnement.remove(variable);
+        const QTemporaryDir session; // without one Qt complains
+        environnement.insert("XDG_RUNTIME_DIR", session.path());
+        const QString verifier = "--verifier";
+        for (const auto &[nom, arguments, code, sortie, erreur] : Rangees<QStringList, int, const char *, const char *>{
+                 {"données justes",
+                  {verifier, livrees().path()},
+                  0,
+                  "14 livres, 2 fichiers de tarifs, 10 destinations : rien à corriger.",
+                  ""},
+                 {"dossier absent",
+                  {verifier, "/nulle/part"},
+                  1,
+                  "/nulle/part : dossier introuvable\n1 erreur à corriger.",
+                  ""},
+                 {"sans dossier", {verifier}, 2, "", "quillet : « --verifier » attend un dossier\nUsage : "},
+                 {"option inconnue", {"--bidon"}, 2, "", "quillet : option inconnue « bidon »\nUsage : "},
+                 {"argument inattendu",
+                  {"livres.json"},
+                  2,
+                  "",
+                  "quillet : argument inattendu « livres.json »\nUsage : "},
+                 {"version", {"--version"}, 0, "Quillet ", ""},
+                 {"aide", {"--help"}, 0, "Usage : quillet", ""},
+             }) {
+            const Rangee rangee(nom);
+            QProcess quillet;
+            quillet.setProcessEnvironment(environnement);
+            quillet.start(QCoreApplication::applicationDirPath() + QStringLiteral("/quillet"), arguments);
+            QVERIFY(quillet.waitForFinished());
+            QCOMPARE(quillet.exitCode(), code);
+            const QByteArray dite = quillet.readAllStandardOutput();
+            QVERIFY(*sortie ? dite.startsWith(sortie) : dite.isEmpty());
+            const QByteArray plainte = quillet.readAllStandardError();
+            QVERIFY(*erreur ? plainte.startsWith(erreur) : plainte.isEmpty());
+        }
+    }
+};
+
+// Outside the class, which moc would not find for the braces of these texts.
 void TestControleDonnees::erreurs()
 {
-    QFETCH(QString, fichier);
-    QFETCH(QByteArray, avant);
-    QFETCH(QByteArray, apres);
-    QFETCH(QString, attendues);
-    const QTemporaryDir temporaire;
-    const QDir dossier(temporaire.path());
-    copier(livrees(), dossier);
-    copier(livrees().filePath(QStringLiteral("couvertures")), dossier.filePath(QStringLiteral("couvertures")));
-    for (const char *vide : {"couvertures/notes.txt", "couvertures/vide.png"})
-        QVERIFY(QFile(dossier.filePath(QString::fromLatin1(vide))).open(QIODevice::WriteOnly));
-    remplacer(dossier.filePath(fichier + QStringLiteral(".json")), avant, apres);
-    QString erreurs = ControleDonnees::de(dossier, jour).erreurs.join(u'\n');
-    if (attendues.startsWith(u'…')) // the same said of many books comes first
-        erreurs = u'…' + erreurs.right(attendues.size() - 1);
-    QCOMPARE(erreurs, attendues);
-}
-
-void TestControleDonnees::dossierIllisible()
-{
-    const QTemporaryDir dossier;
-    const QString absent = dossier.filePath(QStringLiteral("absent"));
-    QCOMPARE(ControleDonnees::de(QDir(absent), jour).erreurs,
-             QStringList{absent + QStringLiteral(" : dossier introuvable")});
-    QCOMPARE(ControleDonnees::de(QDir(dossier.path()), jour).erreurs,
-             (QStringList{QStringLiteral("livres.json : fichier introuvable"),
-                          QStringLiteral("destinations.json : fichier introuvable"),
-                          QStringLiteral("reglages.json : fichier introuvable"),
-                          QStringLiteral("tarifs-colissimo-….json : fichier introuvable")}));
-}
-
-void TestControleDonnees::aucunTarifEnVigueur()
-{
-    QCOMPARE(ControleDonnees::de(livrees(), QDate(2024, 12, 31)).erreurs,
-             QStringList{QStringLiteral(
-                 "tarifs-colissimo-….json : aucun n’est en vigueur, le premier compterait avant son jour")});
-    QVERIFY(ControleDonnees::de(livrees(), QDate(2025, 1, 1)).erreurs.isEmpty());
-}
-
-void TestControleDonnees::numeros_data()
-{
-    QTest::addColumn<bool (*)(const QString &)>("regle");
-    QTest::addColumn<bool>("juste");
-    const auto cas = [](const char *numero, bool (*regle)(const QString &), bool juste) {
-        QTest::newRow(numero) << regle << juste;
-    };
-    cas("978-0-306-40615-7", NumeroDeControle::isbn, true);
-    cas("979 99 0417 001 8", NumeroDeControle::isbn, true);
-    cas("0-306-40615-2", NumeroDeControle::isbn, true);
-    cas("080442957X", NumeroDeControle::isbn, true);
-    cas("0804429570", NumeroDeControle::isbn, false);
-    cas("978-0-360-40615-7", NumeroDeControle::isbn, false);
-    cas("978-0-306-40615", NumeroDeControle::isbn, false);
-    cas("4006381333931", NumeroDeControle::isbn, false); // a bar code, not a book's
-    cas("978-0-306-4O615-7", NumeroDeControle::isbn, false);
-    cas("732 829 320 00074", NumeroDeControle::siret, true);
-    cas("732 829 302 00074", NumeroDeControle::siret, false);
-    cas("732 829 320", NumeroDeControle::siret, false);
-}
-
-void TestControleDonnees::numeros()
-{
-    using Regle = bool (*)(const QString &);
-    QFETCH(Regle, regle);
-    QTEST(regle(QString::fromLatin1(QTest::currentDataTag())), "juste");
-}
-
-void TestControleDonnees::dossierDuVendeur()
-{
-    const QTemporaryDir temporaire;
-    const QDir racine(temporaire.path());
-    const QDir programme(racine.filePath(QStringLiteral("bin")));
-    const QString propres = racine.filePath(QStringLiteral("share/quillet-donnees"));
-    QVERIFY(QDir().mkpath(programme.path()));
-    copier(livrees(), racine.filePath(QStringLiteral("share/quillet")));
-    const auto titre = [&] {
-        return Ressources::autourDe(programme).lire<QList<Livre>>(QStringLiteral("livres"))[0].titre;
-    };
-    QCOMPARE(titre(), QStringLiteral("Le Phare de sel"));
-    copier(livrees(), propres);
-    remplacer(propres + QStringLiteral("/livres.json"), "Le Phare de sel\"", "Le mien\"");
-    QCOMPARE(titre(), QStringLiteral("Le mien"));
-
-    // Never the example's books instead of a folder that is there but cannot be read.
-    QVERIFY(QDir(propres).removeRecursively());
-    QVERIFY(QFile::link(QStringLiteral("/nulle/part"), propres));
-    try {
-        titre();
-        QFAIL("lu");
-    } catch (const RessourceIllisible &illisible) {
-        QVERIFY(illisible.texte().startsWith(
-            QStringLiteral(
-                "Ressource illisible : livres.json : fichier introuvable\n\nCe sont vos propres données, dans ")
-            + propres));
-        QVERIFY(illisible.texte().endsWith(QStringLiteral("quillet --verifier \"%1\"").arg(propres)));
+    for (const auto &[fichier, avant, apres, attendues] : Rangees<const char *, const char *, const char *>{
+             {"livres", "[", "[", ""},
+             // What the codec refuses: every mistake of the file, and nothing inside a refused value.
+             {"livres", R"("prix" : 1900,)", R"("prix" : "1900",)",
+              "livres[5].prix : entier attendu\nlivres[8].prix : entier attendu"},
+             {"livres", R"("id" : 3,)", R"("id" : 3.5, "poid" : 12,)",
+              "livres[2].id : entier attendu\nlivres[2].poid : clé inconnue"},
+             {"reglages", R"("douane" : {)", R"("douane" : 3, "x" : {)",
+              "reglages.douane : objet attendu\nreglages.x : clé inconnue"},
+             {"reglages", R"("taux" : 290)", R"("taux" : 290,)",
+              "reglages.json : JSON illisible, ligne 43, colonne 3 : virgule en trop"},
+             {"reglages", R"("taux" : 290)", R"("taux" : 290, "fixe" : 0, "x\"{" : "taux")",
+              "reglages.fraisPaypal.x\"{ : clé inconnue\n"
+              "reglages.json, ligne 42 : clé « fixe » écrite deux fois, la dernière compte"},
+             {"destinations", R"("code" : "france")", R"("code" : 1)", "destinations[0].code : texte attendu"},
+             {"tarifs-colissimo-2026-01-01", R"("code" : "om1")", R"("code" : 1)",
+              "tarifs-colissimo-2026-01-01.grilles[1].code : texte attendu"},
+             // What holds everywhere.
+             {"livres", "Le Phare de sel\"", " \"", "livres[0].titre : texte vide"},
+             {"livres", R"("france" : 1499)", R"("france" : -1)", "livres[1].prixPaypal.france : nombre négatif"},
+             {"livres", "https://boutique.atelier-mireva.example/le-renard\"", "http://boutique.example\"",
+              "livres[9].lienPaypal : adresse https attendue"},
+             // Books.
+             {"livres", R"("id" : 3,)", R"("id" : 1,)", "livres[2].id : déjà pris par livres[0]"},
+             {"livres", "979-99-0417-001-8", "979-99-0417-001-9",
+              "livres[0].isbn : « 979-99-0417-001-9 » n’est pas un ISBN : un chiffre manque ou est faux"},
+             {"livres", "979-99-0417-001-8", "", ""},
+             {"livres", "le-phare-de-sel.svg", "le-phare.svg",
+              "livres[0].couverture : pas d’image « le-phare.svg » dans couvertures"},
+             {"livres", "le-phare-de-sel.svg", "le-phare-de-sel", ""},
+             {"livres", "le-phare-de-sel.svg", "notes.txt",
+              "livres[0].couverture : couvertures/notes.txt n’est pas une image svg, png, jpg, jpeg, gif, bmp"},
+             {"livres", "le-phare-de-sel.svg", "vide.png",
+              "livres[0].couverture : couvertures/vide.png est un fichier vide"},
+             {"livres", "29,\n      74,\n      99", "29, 74",
+              "livres[0].teinte : trois nombres attendus : rouge, vert, bleu"},
+             {"livres", "29,\n      74,\n      99", "29, -1, 256",
+              "livres[0].teinte[1] : nombre de 0 à 255 attendu\nlivres[0].teinte[2] : nombre de 0 à 255 attendu"},
+             {"livres", R"("poids" : 355)", R"("poids" : 0)",
+              "livres[0].poids : 0 g ; laissez-le absent tant qu’il n’est pas pesé"},
+             {"livres", R"("pages" : 288)", R"("pages" : 0)", "livres[0].pages : au moins une page attendue"},
+             {"livres", R"("om1" : 4300)", R"("om3" : 4300)",
+              "livres[4].prixEcartes.om3 : aucune destination n’a ce code"},
+             // Destinations.
+             {"destinations", R"("code" : "france")", R"("code" : "om1")",
+              "…\ndestinations[1].code : déjà pris par destinations[0]\n"
+              "destinations : aucune n’a le code « france », celui d’une nouvelle commande"},
+             {"destinations", R"("grille" : "zone-c")", R"("grille" : "zone-d")",
+              "destinations[8].grille : pas de grille « zone-d » dans tarifs-colissimo-2025-01-01, "
+              "tarifs-colissimo-2026-01-01"},
+             {"destinations", R"("douane" : false,)", R"("douane" : true,)",
+              "destinations[3].douaneSauf : sans effet, douane étant true"},
+             // Settings.
+             {"reglages", "2026-07-24", "2026-02-30",
+              "reglages.fraisPaypal.releve : jour attendu, de la forme 2026-01-31"},
+             {"reglages", R"("eee" : 0)", R"("europe" : 0)", "reglages.fraisPaypal.supplements.europe : clé inconnue"},
+             {"reglages", R"("mireva" : {)", R"("Mireva" : {)",
+              "…\nlivres[13].vendeur : « mireva » n’a pas d’identité dans "
+              "reglages.vendeurs\nreglages.vendeurs.Mireva "
+              ": clé "
+              "inconnue"},
+             {"reglages", R"("Enveloppe à bulles")", R"("Enveloppe")",
+              "reglages.emballages : aucun ne s’appelle « Enveloppe à bulles », l’emballage d’une nouvelle commande "
+              ": "
+              "il "
+              "compterait 0 g"},
+             {"reglages", "Pochette cartonnée", "Carton",
+              "reglages.emballages[4].nom : déjà pris par reglages.emballages[2]"},
+             {"reglages", "Pochette cartonnée", "Autre poids",
+              "reglages.emballages[2].nom : nom réservé au poids que l’on tape"},
+             {"reglages", R"("poids" : 40)", R"("poids" : 0)",
+              "reglages.emballages[0].poids : plus de 0 g attendus, ce poids compte dans les prix des boutons "
+              "PayPal"},
+             {"reglages", "TVA non applicable, art. 293 B du CGI", "", ""},
+             {"reglages", "000 000 000 00000", "000 000 000 00001",
+              "reglages.vendeurs.davrel.siret : ce n’est pas un numéro SIRET"},
+             {"reglages", R"("site" : ")", R"("site" : "https://)",
+              "reglages.vendeurs.davrel.site : nom de site attendu, sans https:// ni page\n"
+              "reglages.vendeurs.mireva.site : nom de site attendu, sans https:// ni page"},
+             {"reglages", "https://editions-davrel.example/merci", "merci",
+              "reglages.vendeurs.davrel.retourPaypal : adresse https attendue"},
+             // Schedules.
+             {"tarifs-colissimo-2026-01-01", R"("2026-01-01")", R"("2025-01-01")",
+              "tarifs-colissimo-2026-01-01.validite : déjà pris par tarifs-colissimo-2025-01-01"},
+             {"tarifs-colissimo-2026-01-01", R"("jusqua" : 250,)", R"("jusqua" : 500,)",
+              "tarifs-colissimo-2026-01-01.grilles[0].paliers[1].jusqua : plus de 500 g attendus, les paliers vont "
+              "en "
+              "montant"},
+             {"tarifs-colissimo-2026-01-01", R"("prix" : 549)", R"("prix" : 0)",
+              "tarifs-colissimo-2026-01-01.grilles[0].paliers[0].prix : plus de 0 attendu"},
+             {"tarifs-colissimo-2026-01-01", R"("code" : "om1")", R"("code" : "om3")",
+              "destinations[1].grille : pas de grille « om1 » dans "
+              "tarifs-colissimo-2026-01-01\ntarifs-colissimo-2026-01-01.grilles[1].code : grille inconnue « om3 » ; "
+              "celles "
+              "de La Poste : france-domicile, om1, om2, ue-suisse, royaume-uni, zone-b, zone-c"},
+             {"tarifs-colissimo-2026-01-01", R"("famille" : "france")", R"("famille" : "métropole")",
+              "tarifs-colissimo-2026-01-01.grilles[0].famille : famille inconnue « métropole », la grille ne serait "
+              "pas "
+              "montrée ; attendu : france, outre-mer, europe, monde"},
+         }) {
+        const Rangee rangee(apres);
+        const QTemporaryDir temporaire;
+        const QDir dossier(temporaire.path());
+        copier(livrees(), dossier);
+        copier(livrees().filePath("couvertures"), dossier.filePath("couvertures"));
+        for (const char *vide : {"couvertures/notes.txt", "couvertures/vide.png"})
+            QVERIFY(QFile(dossier.filePath(vide)).open(QIODevice::WriteOnly));
+        remplacer(dossier.filePath(QString::fromLatin1(fichier) + QStringLiteral(".json")), avant, apres);
+        QString erreurs = ControleDonnees::de(dossier, jour).erreurs.join(u'\n');
+        const QString voulues = QString::fromUtf8(attendues);
+        if (voulues.startsWith(u'…')) // the same said of many books comes first
+            erreurs = u'…' + erreurs.right(voulues.size() - 1);
+        QCOMPARE(erreurs, voulues);
     }
-}
-
-void TestControleDonnees::sansEcran_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("sortie");
-    QTest::addColumn<QString>("erreur");
-    const auto cas = [](const QStringList &arguments, int code, const char *sortie, const char *erreur) {
-        QTest::addRow("%s", qPrintable(arguments.join(u' ')))
-            << arguments << code << QString::fromUtf8(sortie) << QString::fromUtf8(erreur);
-    };
-    const QString verifier = QStringLiteral("--verifier");
-    cas({verifier, livrees().path()}, 0, "14 livres, 2 fichiers de tarifs, 10 destinations : rien à corriger.", "");
-    cas({verifier, QStringLiteral("/nulle/part")}, 1, "/nulle/part : dossier introuvable\n1 erreur à corriger.", "");
-    cas({verifier}, 2, "", "quillet : « --verifier » attend un dossier\nUsage : ");
-    cas({QStringLiteral("--bidon")}, 2, "", "quillet : option inconnue « bidon »\nUsage : ");
-    cas({QStringLiteral("livres.json")}, 2, "", "quillet : argument inattendu « livres.json »\nUsage : ");
-    cas({QStringLiteral("--version")}, 0, "Quillet ", "");
-    cas({QStringLiteral("--help")}, 0, "Usage : quillet", "");
-}
-
-// The program itself, where Qt would abort as soon as it looked for a display.
-void TestControleDonnees::sansEcran()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(QString, sortie);
-    QFETCH(QString, erreur);
-    QProcess quillet;
-    auto environnement = QProcessEnvironment::systemEnvironment();
-    for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-        environnement.remove(QString::fromLatin1(variable));
-    const QTemporaryDir session; // without one Qt complains
-    environnement.insert(QStringLiteral("XDG_RUNTIME_DIR"), session.path());
-    quillet.setProcessEnvironment(environnement);
-    quillet.start(QCoreApplication::applicationDirPath() + QStringLiteral("/quillet"), arguments);
-    QVERIFY(quillet.waitForFinished());
-    QTEST(quillet.exitCode(), "code");
-    const auto commence = [](const QByteArray &lu, const QString &attendu) {
-        return attendu.isEmpty() ? lu.isEmpty() : QString::fromUtf8(lu).startsWith(attendu);
-    };
-    QVERIFY(commence(quillet.readAllStandardOutput(), sortie));
-    QVERIFY(commence(quillet.readAllStandardError(), erreur));
 }
 
 QTEST_GUILESS_MAIN(TestControleDonnees)

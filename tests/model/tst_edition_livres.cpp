@@ -13,83 +13,81 @@ class TestEditionLivres : public QObject
     Q_OBJECT
 
 private slots:
-    void annulerEtRetablir();
-    void echecSansTrace();
+    // Each step back and forth stands in memory and in the file; the return to shipped values too.
+    void annulerEtRetablir()
+    {
+        const Banc banc;
+        const auto catalogue = banc.charger();
+        HistoriqueLivres historique(*catalogue);
+        historique.modifier(catalogue->donnees().livres[0], "rien");
+        QVERIFY(!QFile::exists(banc.cheminUtilisateur("livres-modifies.json")));
+        QList<QList<Livre>> etapes{catalogue->donnees().livres};
+        const auto boutons = [&] {
+            return catalogue->donnees().boutons(catalogue->donnees().livres[0], banc.tarifs[0]);
+        };
+        Livre livre = catalogue->donnees().livres[0];
+        livre.prix = Centimes{1600};
+        historique.modifier(livre, "prix");
+        etapes.append(catalogue->donnees().livres);
+        historique.garder(livre, boutons()[0], "gardé");
+        etapes.append(catalogue->donnees().livres);
+        historique.reporter(livre, PrixBouton::aReporter(boutons()), "reportés");
+        etapes.append(catalogue->donnees().livres);
+        QSignalSpy change(catalogue.get(), &Catalogue::change);
+        historique.revenirAuxValeursLivrees("retour");
+        QCOMPARE(change.count(), 1);
+        etapes.append(catalogue->donnees().livres);
+        QCOMPARE(etapes.last(), etapes.first());
+
+        const QStringList noms{"prix", "gardé", "reportés", "retour"};
+        const auto verifier = [&](qsizetype etape) {
+            QCOMPARE(catalogue->donnees().livres, etapes[etape]);
+            QCOMPARE(banc.charger()->donnees().livres, etapes[etape]);
+            QCOMPARE(historique.aAnnuler(), etape > 0 ? noms[etape - 1] : QString());
+            QCOMPARE(historique.aRetablir(), etape < noms.size() ? noms[etape] : QString());
+        };
+        for (int fois = 0; fois < 2; ++fois) {
+            verifier(4);
+            for (qsizetype etape = 3; etape >= 0; --etape) {
+                QCOMPARE(historique.annuler(), 1);
+                verifier(etape);
+            }
+            for (qsizetype etape = 1; etape <= 4; ++etape) {
+                QCOMPARE(historique.retablir(), 1);
+                verifier(etape);
+            }
+        }
+        historique.annuler();
+        livre.prix = Centimes{1700};
+        historique.modifier(livre, "autre");
+        QVERIFY(historique.aRetablir().isEmpty());
+    }
+
+    void echecSansTrace()
+    {
+        const Banc banc;
+        const auto catalogue = banc.charger();
+        HistoriqueLivres historique(*catalogue);
+        Livre livre = catalogue->donnees().livres[1];
+        livre.poids = Grammes{410};
+        {
+            const DisquePlein plein;
+            QVERIFY_THROWS_EXCEPTION(ErreurStockage, historique.modifier(livre, "poids"));
+        }
+        QVERIFY(historique.aAnnuler().isEmpty());
+        historique.modifier(livre, "poids");
+        const QList<Livre> apres = catalogue->donnees().livres;
+        {
+            const DisquePlein plein;
+            QVERIFY_THROWS_EXCEPTION(ErreurStockage, historique.annuler());
+        }
+        QCOMPARE(catalogue->donnees().livres, apres);
+        QCOMPARE(banc.charger()->donnees().livres, apres);
+        QCOMPARE(historique.aAnnuler(), "poids"); // to be tried again
+        historique.annuler();
+        QCOMPARE(catalogue->donnees().livres, banc.livres);
+    }
 };
-
-// Each step back and forth stands in memory and in the file; the return to shipped values too.
-void TestEditionLivres::annulerEtRetablir()
-{
-    const Banc banc;
-    const auto catalogue = banc.charger();
-    HistoriqueLivres historique(*catalogue);
-    historique.modifier(catalogue->donnees().livres[0], QStringLiteral("rien"));
-    QVERIFY(!QFile::exists(banc.cheminUtilisateur(QStringLiteral("livres-modifies.json"))));
-    QList<QList<Livre>> etapes{catalogue->donnees().livres};
-    const auto boutons = [&] { return catalogue->donnees().boutons(catalogue->donnees().livres[0], banc.tarifs[0]); };
-    Livre livre = catalogue->donnees().livres[0];
-    livre.prix = Centimes{1600};
-    historique.modifier(livre, QStringLiteral("prix"));
-    etapes.append(catalogue->donnees().livres);
-    historique.garder(livre, boutons()[0], QStringLiteral("gardé"));
-    etapes.append(catalogue->donnees().livres);
-    historique.reporter(livre, PrixBouton::aReporter(boutons()), QStringLiteral("reportés"));
-    etapes.append(catalogue->donnees().livres);
-    QSignalSpy change(catalogue.get(), &Catalogue::change);
-    historique.revenirAuxValeursLivrees(QStringLiteral("retour"));
-    QCOMPARE(change.count(), 1);
-    etapes.append(catalogue->donnees().livres);
-    QCOMPARE(etapes.last(), etapes.first());
-
-    const QStringList noms{QStringLiteral("prix"), QStringLiteral("gardé"), QStringLiteral("reportés"),
-                           QStringLiteral("retour")};
-    const auto verifier = [&](qsizetype etape) {
-        QCOMPARE(catalogue->donnees().livres, etapes[etape]);
-        QCOMPARE(banc.charger()->donnees().livres, etapes[etape]);
-        QCOMPARE(historique.aAnnuler(), etape > 0 ? noms[etape - 1] : QString());
-        QCOMPARE(historique.aRetablir(), etape < noms.size() ? noms[etape] : QString());
-    };
-    for (int fois = 0; fois < 2; ++fois) {
-        verifier(4);
-        for (qsizetype etape = 3; etape >= 0; --etape) {
-            QCOMPARE(historique.annuler(), 1);
-            verifier(etape);
-        }
-        for (qsizetype etape = 1; etape <= 4; ++etape) {
-            QCOMPARE(historique.retablir(), 1);
-            verifier(etape);
-        }
-    }
-    historique.annuler();
-    livre.prix = Centimes{1700};
-    historique.modifier(livre, QStringLiteral("autre"));
-    QVERIFY(historique.aRetablir().isEmpty());
-}
-
-void TestEditionLivres::echecSansTrace()
-{
-    const Banc banc;
-    const auto catalogue = banc.charger();
-    HistoriqueLivres historique(*catalogue);
-    Livre livre = catalogue->donnees().livres[1];
-    livre.poids = Grammes{410};
-    {
-        const DisquePlein plein;
-        QVERIFY_THROWS_EXCEPTION(ErreurStockage, historique.modifier(livre, QStringLiteral("poids")));
-    }
-    QVERIFY(historique.aAnnuler().isEmpty());
-    historique.modifier(livre, QStringLiteral("poids"));
-    const QList<Livre> apres = catalogue->donnees().livres;
-    {
-        const DisquePlein plein;
-        QVERIFY_THROWS_EXCEPTION(ErreurStockage, historique.annuler());
-    }
-    QCOMPARE(catalogue->donnees().livres, apres);
-    QCOMPARE(banc.charger()->donnees().livres, apres);
-    QCOMPARE(historique.aAnnuler(), QStringLiteral("poids")); // to be tried again
-    historique.annuler();
-    QCOMPARE(catalogue->donnees().livres, banc.livres);
-}
 
 QTEST_GUILESS_MAIN(TestEditionLivres)
 #include "tst_edition_livres.moc"

@@ -1,8 +1,8 @@
 #include "tests/Banc.h"
 #include "tests/DisquePlein.h"
+#include "tests/Rangees.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 #include <cerrno>
 
@@ -21,22 +21,9 @@ extern "C" int fdatasync(int)
     return disqueSourd ? -1 : 0;
 }
 
-class TestStockage : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void fichierAbimeMisDeCote();
-    void fichierChangeEntreTemps();
-    void echecsRepetesSansCopiesEnTrop();
-    void effacerPreserveAussi();
-    void echecLaisseToutIntact_data();
-    void echecLaisseToutIntact();
-};
-
 namespace {
 
-const QString livresModifies = QStringLiteral("livres-modifies.json");
+const QString livresModifies = "livres-modifies.json";
 
 QString erreurALaModification(Catalogue &catalogue)
 {
@@ -52,107 +39,107 @@ QString erreurALaModification(Catalogue &catalogue)
 
 } // namespace
 
-void TestStockage::fichierAbimeMisDeCote()
+class TestStockage : public QObject
 {
-    const Banc banc;
-    const QString copie = livresModifies + QStringLiteral(".illisible");
-    banc.ecrireUtilisateur(livresModifies, "{ mes prix, mal fermés");
-    const auto catalogue = banc.charger();
-    QCOMPARE(erreurALaModification(*catalogue), QString());
-    QCOMPARE(banc.lireUtilisateur(copie), QByteArray("{ mes prix, mal fermés"));
-    QCOMPARE(banc.charger()->donnees().livres, catalogue->donnees().livres);
+    Q_OBJECT
 
-    banc.ecrireUtilisateur(livresModifies, "encore abîmé");
-    QCOMPARE(erreurALaModification(*catalogue), QString());
-    QCOMPARE(banc.lireUtilisateur(copie), QByteArray("{ mes prix, mal fermés"));
-    QCOMPARE(banc.lireUtilisateur(copie + QStringLiteral("-2")), QByteArray("encore abîmé"));
-}
+private slots:
+    void fichierAbimeMisDeCote()
+    {
+        const Banc banc;
+        const QString copie = livresModifies + QStringLiteral(".illisible");
+        banc.ecrireUtilisateur(livresModifies, "{ mes prix, mal fermés");
+        const auto catalogue = banc.charger();
+        QCOMPARE(erreurALaModification(*catalogue), QString());
+        QCOMPARE(banc.lireUtilisateur(copie), QByteArray("{ mes prix, mal fermés"));
+        QCOMPARE(banc.charger()->donnees().livres, catalogue->donnees().livres);
 
-// Repaired by hand, or restored from a backup, while the program held the shipped values in memory.
-void TestStockage::fichierChangeEntreTemps()
-{
-    const QByteArray repare = R"({"1":{"prix":1911,"disponible":true}})";
-    const Banc banc;
-    banc.ecrireUtilisateur(livresModifies, repare + ',');
-    const auto catalogue = banc.charger();
-    QCOMPARE(catalogue->donnees().livres[0].prix, Centimes{1500});
-    banc.ecrireUtilisateur(livresModifies, repare);
-    QCOMPARE(erreurALaModification(*catalogue), QString());
-    QCOMPARE(banc.lireUtilisateur(livresModifies + QStringLiteral(".illisible")), repare);
-    catalogue->modifier({});
-    QVERIFY(!QFile::exists(banc.cheminUtilisateur(livresModifies + QStringLiteral(".illisible-2"))));
-}
-
-void TestStockage::echecsRepetesSansCopiesEnTrop()
-{
-    const Banc banc;
-    banc.ecrireUtilisateur(livresModifies, "abîmé");
-    const auto catalogue = banc.charger();
-    for (int essai = 0; essai < 3; ++essai) {
-        const DisquePlein plein; // room for the copy, not for the books
-        QVERIFY(!erreurALaModification(*catalogue).isEmpty());
+        banc.ecrireUtilisateur(livresModifies, "encore abîmé");
+        QCOMPARE(erreurALaModification(*catalogue), QString());
+        QCOMPARE(banc.lireUtilisateur(copie), QByteArray("{ mes prix, mal fermés"));
+        QCOMPARE(banc.lireUtilisateur(copie + QStringLiteral("-2")), QByteArray("encore abîmé"));
     }
-    QCOMPARE(QDir(banc.cheminUtilisateur()).entryList(QDir::Files | QDir::Hidden),
-             (QStringList{livresModifies, livresModifies + QStringLiteral(".illisible")}));
-}
 
-void TestStockage::effacerPreserveAussi()
-{
-    const Banc banc;
-    banc.ecrireUtilisateur(livresModifies, "abîmé");
-    const auto catalogue = banc.charger();
-    QSignalSpy change(catalogue.get(), &Catalogue::change);
-    catalogue->revenirAuxValeursLivrees();
-    QCOMPARE(change.count(), 0); // they stood already
-    QVERIFY(!QFile::exists(banc.cheminUtilisateur(livresModifies)));
-    QCOMPARE(banc.lireUtilisateur(livresModifies + QStringLiteral(".illisible")), QByteArray("abîmé"));
-}
-
-void TestStockage::echecLaisseToutIntact_data()
-{
-    QTest::addColumn<QString>("panne");
-    QTest::addColumn<QString>("raison");
-    QTest::newRow("disque plein") << QStringLiteral("plein") << QStringLiteral("le fichier dépasse la taille permise");
-    QTest::newRow("disque qui ne prend pas tout")
-        << QStringLiteral("sourd") << QStringLiteral("le disque ne répond pas correctement");
-    QTest::newRow("un fichier à la place du dossier")
-        << QStringLiteral("fichier") << QStringLiteral("un fichier occupe la place d’un dossier");
-    QTest::newRow("un dossier à la place du fichier")
-        << QStringLiteral("dossier") << QStringLiteral("un dossier occupe la place du fichier");
-}
-
-void TestStockage::echecLaisseToutIntact()
-{
-    QFETCH(QString, panne);
-    QFETCH(QString, raison);
-    const Banc banc;
-    const auto catalogue = banc.charger();
-    const QList<Livre> avant = catalogue->donnees().livres;
-    std::optional<DisquePlein> plein;
-    QByteArray fichierAvant;
-    if (panne == QStringLiteral("fichier")) {
-        banc.ecrireUtilisateur(QStringLiteral("x"), {});
-        QVERIFY(QDir(banc.cheminUtilisateur()).removeRecursively());
-        QVERIFY(QFile(banc.ressources().chemin(QStringLiteral("livres.json")))
-                    .copy(QDir(banc.cheminUtilisateur()).absolutePath()));
-    } else if (panne == QStringLiteral("dossier")) {
-        QVERIFY(QDir().mkpath(banc.cheminUtilisateur(livresModifies)));
-    } else {
+    // Repaired by hand, or restored from a backup, while the program held the shipped values in memory.
+    void fichierChangeEntreTemps()
+    {
+        const QByteArray repare = R"({"1":{"prix":1911,"disponible":true}})";
+        const Banc banc;
+        banc.ecrireUtilisateur(livresModifies, repare + ',');
+        const auto catalogue = banc.charger();
+        QCOMPARE(catalogue->donnees().livres[0].prix, Centimes{1500});
+        banc.ecrireUtilisateur(livresModifies, repare);
+        QCOMPARE(erreurALaModification(*catalogue), QString());
+        QCOMPARE(banc.lireUtilisateur(livresModifies + QStringLiteral(".illisible")), repare);
         catalogue->modifier({});
-        fichierAvant = banc.lireUtilisateur(livresModifies);
-        if (panne == QStringLiteral("plein"))
-            plein.emplace();
-        disqueSourd = panne == QStringLiteral("sourd");
+        QVERIFY(!QFile::exists(banc.cheminUtilisateur(livresModifies + QStringLiteral(".illisible-2"))));
     }
-    const QString erreur = erreurALaModification(*catalogue);
-    disqueSourd = false;
-    plein.reset();
-    QVERIFY2(erreur.contains(raison), qPrintable(erreur));
-    QCOMPARE(catalogue->donnees().livres, avant);
-    QCOMPARE(banc.lireUtilisateur(livresModifies), fichierAvant);
-    const QStringList restes = QDir(banc.cheminUtilisateur()).entryList(QDir::Files | QDir::Hidden);
-    QVERIFY2(restes.size() <= 1, qPrintable(restes.join(u' ')));
-}
+
+    void echecsRepetesSansCopiesEnTrop()
+    {
+        const Banc banc;
+        banc.ecrireUtilisateur(livresModifies, "abîmé");
+        const auto catalogue = banc.charger();
+        for (int essai = 0; essai < 3; ++essai) {
+            const DisquePlein plein; // room for the copy, not for the books
+            QVERIFY(!erreurALaModification(*catalogue).isEmpty());
+        }
+        QCOMPARE(QDir(banc.cheminUtilisateur()).entryList(QDir::Files | QDir::Hidden),
+                 (QStringList{livresModifies, livresModifies + QStringLiteral(".illisible")}));
+    }
+
+    void effacerPreserveAussi()
+    {
+        const Banc banc;
+        banc.ecrireUtilisateur(livresModifies, "abîmé");
+        const auto catalogue = banc.charger();
+        QSignalSpy change(catalogue.get(), &Catalogue::change);
+        catalogue->revenirAuxValeursLivrees();
+        QCOMPARE(change.count(), 0); // they stood already
+        QVERIFY(!QFile::exists(banc.cheminUtilisateur(livresModifies)));
+        QCOMPARE(banc.lireUtilisateur(livresModifies + QStringLiteral(".illisible")), QByteArray("abîmé"));
+    }
+
+    void echecLaisseToutIntact()
+    {
+        enum class Panne { plein, sourd, fichier, dossier };
+        for (const auto &[raison, panne] : Rangees<Panne>{
+                 {"le fichier dépasse la taille permise", Panne::plein},
+                 {"le disque ne répond pas correctement", Panne::sourd},
+                 {"un fichier occupe la place d’un dossier", Panne::fichier},
+                 {"un dossier occupe la place du fichier", Panne::dossier},
+             }) {
+            const Rangee rangee(raison);
+            const Banc banc;
+            const auto catalogue = banc.charger();
+            const QList<Livre> avant = catalogue->donnees().livres;
+            std::optional<DisquePlein> plein;
+            QByteArray fichierAvant;
+            if (panne == Panne::fichier) {
+                banc.ecrireUtilisateur("x", {});
+                QVERIFY(QDir(banc.cheminUtilisateur()).removeRecursively());
+                QVERIFY(
+                    QFile(banc.ressources().chemin("livres.json")).copy(QDir(banc.cheminUtilisateur()).absolutePath()));
+            } else if (panne == Panne::dossier) {
+                QVERIFY(QDir().mkpath(banc.cheminUtilisateur(livresModifies)));
+            } else {
+                catalogue->modifier({});
+                fichierAvant = banc.lireUtilisateur(livresModifies);
+                if (panne == Panne::plein)
+                    plein.emplace();
+                disqueSourd = panne == Panne::sourd;
+            }
+            const QString erreur = erreurALaModification(*catalogue);
+            disqueSourd = false;
+            plein.reset();
+            QVERIFY2(erreur.contains(raison), qPrintable(erreur));
+            QCOMPARE(catalogue->donnees().livres, avant);
+            QCOMPARE(banc.lireUtilisateur(livresModifies), fichierAvant);
+            const QStringList restes = QDir(banc.cheminUtilisateur()).entryList(QDir::Files | QDir::Hidden);
+            QVERIFY2(restes.size() <= 1, qPrintable(restes.join(u' ')));
+        }
+    }
+};
 
 QTEST_GUILESS_MAIN(TestStockage)
 #include "tst_stockage.moc"

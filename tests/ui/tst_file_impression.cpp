@@ -14,33 +14,29 @@ class TestFileImpression : public QObject
 private slots:
     void initTestCase() { qputenv("CUPS_SERVER", "/nulle/part"); } // no test prints on a real printer
 
-    void optionsDuTravail();
-    void refusDeLaFile();
-};
-
-void TestFileImpression::optionsDuTravail()
-{
-    QPrinter choix;
-    choix.setCopyCount(3);
-    choix.setColorMode(QPrinter::GrayScale);
-    const QList<std::pair<QByteArray, QByteArray>> attendues{
-        {"copies", "3"},          {"media", "iso_a4_210x297mm"},
-        {"print-scaling", "fit"}, {"orientation-requested", "3"},
-        {"sides", "one-sided"},   {"print-color-mode", "monochrome"}};
-    QCOMPARE(FileImpression::options(choix), attendues);
-}
-
-void TestFileImpression::refusDeLaFile()
-{
-    const QPrinter choix;
-    try {
-        FileImpression::envoyer("%PDF-", QStringLiteral("Facture.pdf"), choix);
-        QFAIL("no server, and yet a job");
-    } catch (const Echec &refus) {
-        QVERIFY2(refus.texte().contains(QStringLiteral("le service d’impression ne répond pas")),
-                 qPrintable(refus.texte()));
+    void optionsDuTravail()
+    {
+        QPrinter choix;
+        choix.setCopyCount(3);
+        choix.setColorMode(QPrinter::GrayScale);
+        const QList<std::pair<QByteArray, QByteArray>> attendues{
+            {"copies", "3"},          {"media", "iso_a4_210x297mm"},
+            {"print-scaling", "fit"}, {"orientation-requested", "3"},
+            {"sides", "one-sided"},   {"print-color-mode", "monochrome"}};
+        QCOMPARE(FileImpression::options(choix), attendues);
     }
-}
+
+    void refusDeLaFile()
+    {
+        const QPrinter choix;
+        try {
+            FileImpression::envoyer("%PDF-", "Facture.pdf", choix);
+            QFAIL("no server, and yet a job");
+        } catch (const Echec &refus) {
+            QVERIFY2(refus.texte().contains("le service d’impression ne répond pas"), qPrintable(refus.texte()));
+        }
+    }
+};
 
 QTEST_MAIN(TestFileImpression)
 #include "tst_file_impression.moc"

@@ -2,41 +2,23 @@
 #include "composants/TailleDuTexte.h"
 #include "tests/BancEcran.h"
 #include "ui/ContenuPrincipal.h"
-#include "visite/Dialogues.h"
-#include "visite/Ecran.h"
 #include "visite/Lisibilite.h"
 #include "visite/SiteDeLaVisite.h"
 
-#include <QDialog>
 #include <QListView>
 #include <QRegularExpression>
-#include <QTest>
 
 using namespace Quillet;
 
-// Every screen and sheet can be read: by day and by night, with a larger text, with whatever the data hold.
-class TestLisibilite : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void initTestCase() { QuilletApp::preparer(); }
-    void toutSeLit_data();
-    void toutSeLit();
-};
-
 namespace {
 
-// Springs jump: what is measured stands still.
-class SansMouvement : public Style
+struct Cas
 {
-public:
-    using Style::Style;
-    int styleHint(StyleHint indice, const QStyleOption *option, const QWidget *widget,
-                  QStyleHintReturn *retour) const override
-    {
-        return indice == SH_Widget_Animate ? 0 : Style::styleHint(indice, option, widget, retour);
-    }
+    Theme::Mode mode = Theme::Mode::clair;
+    double texte = 1;
+    bool extremes = false;
+    bool enRoute = false; // when the text grows
+    bool renforce = false;
 };
 
 // As much as a data file may bring.
@@ -81,100 +63,101 @@ QStringList defauts(const QString &ecran, QWidget *fenetre, double contrasteMini
                 defauts.append(QStringLiteral("%1 : « %2 », %3 sur %4, %5")
                                    .arg(contraste.widget, contraste.texte, contraste.encre.name(),
                                         contraste.fond.name(), QString::number(contraste.rapport)));
-    return defauts.replaceInStrings(QRegularExpression(QStringLiteral("^")), ecran + QStringLiteral(", "));
+    return defauts.replaceInStrings(QRegularExpression("^"), ecran + QStringLiteral(", "));
 }
 
 } // namespace
 
-void TestLisibilite::toutSeLit_data()
+// Every screen and sheet can be read: by day and by night, with a larger text, with whatever the data hold.
+class TestLisibilite : public QObject
 {
-    QTest::addColumn<Theme::Mode>("mode");
-    QTest::addColumn<double>("texte");
-    QTest::addColumn<bool>("extremes");
-    QTest::addColumn<bool>("enRoute");
-    QTest::addColumn<bool>("renforce");
-    QTest::newRow("de jour") << Theme::Mode::clair << 1.0 << false << false << false;
-    QTest::newRow("de nuit") << Theme::Mode::sombre << 1.0 << false << false << false;
-    QTest::newRow("contraste renforcé, de jour") << Theme::Mode::clair << 1.0 << false << false << true;
-    QTest::newRow("contraste renforcé, de nuit") << Theme::Mode::sombre << 1.0 << false << false << true;
-    QTest::newRow("texte à 150 %") << Theme::Mode::clair << 1.5 << false << false << false;
-    QTest::newRow("données extrêmes") << Theme::Mode::clair << 1.0 << true << false << false;
-    QTest::newRow("données extrêmes, texte à 150 %") << Theme::Mode::sombre << 1.5 << true << false << false;
-    QTest::newRow("texte agrandi en route") << Theme::Mode::clair << 1.5 << false << true << false;
-}
+    Q_OBJECT
 
-void TestLisibilite::toutSeLit()
-{
-    QFETCH(Theme::Mode, mode);
-    QFETCH(double, texte);
-    QFETCH(bool, extremes);
-    QFETCH(bool, enRoute);
-    QFETCH(bool, renforce);
-    auto *style = new SansMouvement(mode);
-    QApplication::setStyle(style);
-    style->suivre({.contraste = renforce});
-    QFont police = QApplication::font();
-    QFont agrandie = police;
-    police.setPointSizeF(10 * (enRoute ? 1 : texte));
-    agrandie.setPointSizeF(10 * texte);
-    QApplication::setFont(police);
-    const auto agrandir = [&] {
-        if (!enRoute)
-            return;
-        TailleDuTexte::changer(police);
-        TailleDuTexte::changer(agrandie);
-    };
+private slots:
+    void initTestCase() { QuilletApp::preparer(); }
 
-    BancEcran banc;
-    TarifsColissimo nouveaux = desTarifs("2026-04-01", Centimes{99'999});
-    FraisPaypal frais = banc.donnees.reglages.fraisPaypal;
-    frais.taux = Taux{340};
-    const SiteDeLaVisite site(SiteDeLaVisite::page(nouveaux, QStringLiteral("1er avril 2026")),
-                              SiteDeLaVisite::page(frais));
-    banc.pages = site.pages();
-    if (extremes)
-        exagerer(banc.donnees);
-    banc.demarrer();
-    banc.commander(QStringLiteral("suisse"));
-    Fenetre &fenetre = banc.app->fenetre();
-    if (enRoute) {
-        for (const Rubrique rubrique : {Rubrique::tarifs, Rubrique::livres, Rubrique::commande})
-            fenetre.contenu()->montrer(rubrique);
-        agrandir();
-        for (int tour = 0; tour < 5; ++tour)
-            QCoreApplication::processEvents();
+    void toutSeLit_data()
+    {
+        QTest::addColumn<Cas>("cas");
+        const auto ligne = [](const char *nom, const Cas &cas) { QTest::newRow(nom) << cas; };
+        ligne("de jour", {});
+        ligne("de nuit", {.mode = Theme::Mode::sombre});
+        ligne("contraste renforcé, de jour", {.renforce = true});
+        ligne("contraste renforcé, de nuit", {.mode = Theme::Mode::sombre, .renforce = true});
+        ligne("données extrêmes", {.extremes = true});
+        ligne("données extrêmes, texte à 150 %", {.mode = Theme::Mode::sombre, .texte = 1.5, .extremes = true});
+        ligne("texte agrandi en route", {.texte = 1.5, .enRoute = true});
     }
-    fenetre.resize(fenetre.minimumSizeHint());
-    QStringList tous;
-    const double contraste = texte != 1 || extremes ? 0
-                             : renforce             ? Lisibilite::contrasteRenforce
-                                                    : Lisibilite::contrasteMinimal;
-    const auto lire = [&](const QString &ecran, QWidget *lu) { tous += defauts(ecran, lu, contraste); };
-    const auto lireEtFermer = [&](const QString &bouton, QDialog *feuille) {
-        agrandir();
-        lire(bouton, feuille);
-        feuille->resize(feuille->minimumSizeHint());
-        lire(bouton + QStringLiteral(", au plus petit"), feuille);
-        feuille->reject();
-    };
-    lire(QStringLiteral("Commande"), &fenetre);
-    for (const char *bouton : {"Déclaration en douane", "Facture", "E-mail en anglais"})
-        lireEtFermer(QString::fromUtf8(bouton), banc.ouvrir(QString::fromUtf8(bouton)));
-    fenetre.contenu()->montrer(Rubrique::tarifs);
-    for (const char *page : {"Tarifs Colissimo", "Frais PayPal"}) {
-        const QString voir = QStringLiteral("Voir les changements, ") + QString::fromUtf8(page);
-        QTRY_VERIFY(Ecran::controle(&fenetre, voir));
-        lireEtFermer(voir, banc.ouvrir(voir));
+
+    void toutSeLit()
+    {
+        QFETCH(Cas, cas);
+        const auto [mode, texte, extremes, enRoute, renforce] = cas;
+        auto *style = new Style(mode);
+        QApplication::setStyle(style);
+        style->suivre({.contraste = renforce, .animations = false}); // what is measured stands still
+        QFont police = QApplication::font();
+        QFont agrandie = police;
+        police.setPointSizeF(10 * (enRoute ? 1 : texte));
+        agrandie.setPointSizeF(10 * texte);
+        QApplication::setFont(police);
+        const auto agrandir = [&, grandit = enRoute] {
+            if (grandit) {
+                TailleDuTexte::changer(police);
+                TailleDuTexte::changer(agrandie);
+            }
+        };
+
+        BancEcran banc;
+        TarifsColissimo nouveaux = desTarifs("2026-04-01", Centimes{99'999});
+        FraisPaypal frais = banc.donnees.reglages.fraisPaypal;
+        frais.taux = Taux{340};
+        const SiteDeLaVisite site(SiteDeLaVisite::page(nouveaux, "1er avril 2026"), SiteDeLaVisite::page(frais));
+        banc.pages = site.pages();
+        if (extremes)
+            exagerer(banc.donnees);
+        banc.demarrer();
+        banc.commander("suisse");
+        Fenetre &fenetre = banc.app->fenetre();
+        if (enRoute) {
+            for (const Rubrique rubrique : {Rubrique::tarifs, Rubrique::livres, Rubrique::commande})
+                fenetre.contenu()->montrer(rubrique);
+            agrandir();
+            for (int tour = 0; tour < 5; ++tour)
+                QCoreApplication::processEvents();
+        }
+        fenetre.resize(fenetre.minimumSizeHint());
+        QStringList tous;
+        const double contraste = texte != 1 || extremes ? 0
+                                 : renforce             ? Lisibilite::contrasteRenforce
+                                                        : Lisibilite::contrasteMinimal;
+        const auto lire = [&](const QString &ecran, QWidget *lu) { tous += defauts(ecran, lu, contraste); };
+        const auto lireEtFermer = [&](const QString &bouton, QDialog *feuille) {
+            agrandir();
+            lire(bouton, feuille);
+            feuille->resize(feuille->minimumSizeHint());
+            lire(bouton + QStringLiteral(", au plus petit"), feuille);
+            feuille->reject();
+        };
+        lire("Commande", &fenetre);
+        for (const char *bouton : {"Déclaration en douane", "Facture", "E-mail en anglais"})
+            lireEtFermer(bouton, banc.ouvrir(bouton));
+        fenetre.contenu()->montrer(Rubrique::tarifs);
+        for (const char *page : {"Tarifs Colissimo", "Frais PayPal"}) {
+            const QString voir = QStringLiteral("Voir les changements, ") + QString::fromUtf8(page);
+            QTRY_VERIFY(Ecran::controle(&fenetre, voir));
+            lireEtFermer(voir, banc.ouvrir(voir));
+        }
+        lire("Tarifs", &fenetre);
+        fenetre.contenu()->montrer(Rubrique::livres);
+        auto *livres = qobject_cast<QListView *>(Ecran::controle(&fenetre, "Livres"));
+        for (int rang = 0; rang < livres->model()->rowCount(); ++rang) { // to report, not weighed, sold out
+            livres->setCurrentIndex(livres->model()->index(rang, 0));
+            lire(QStringLiteral("Livre %1").arg(rang), &fenetre);
+        }
+        QVERIFY2(tous.isEmpty(), qPrintable(tous.join(u'\n')));
     }
-    lire(QStringLiteral("Tarifs"), &fenetre);
-    fenetre.contenu()->montrer(Rubrique::livres);
-    auto *livres = qobject_cast<QListView *>(Ecran::controle(&fenetre, QStringLiteral("Livres")));
-    for (int rang = 0; rang < livres->model()->rowCount(); ++rang) { // to report, not weighed, sold out
-        livres->setCurrentIndex(livres->model()->index(rang, 0));
-        lire(QStringLiteral("Livre %1").arg(rang), &fenetre);
-    }
-    QVERIFY2(tous.isEmpty(), qPrintable(tous.join(u'\n')));
-}
+};
 
 QTEST_MAIN(TestLisibilite)
 #include "tst_lisibilite.moc"

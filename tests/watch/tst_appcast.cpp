@@ -1,28 +1,10 @@
+#include "tests/Rangees.h"
 #include "watch/Appcast.h"
 #include "watch/ErreurMiseAJour.h"
-
-#include <QTest>
 
 #include <sodium.h>
 
 using namespace Quillet;
-
-// The feed of updates: what it says, what it may not say, which version comes after which, and who signed.
-class TestAppcast : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void ordre_data();
-    void ordre();
-    void numerosIllisibles();
-    void flux_data();
-    void flux();
-    void fluxDUneParution_data();
-    void fluxDUneParution();
-    void notes();
-    void signatures();
-};
 
 namespace {
 
@@ -43,11 +25,10 @@ QString version(const char *numero, const QString &reste = paquet)
 }
 
 // What the user would read.
-QString offre(const QString &flux, const QString &systeme = QStringLiteral("debian13"))
+QString offre(const QString &flux, const QString &systeme = "debian13")
 {
     try {
-        const auto parution =
-            Appcast::aProposer(Appcast::lire(flux, systeme), *NumeroDeVersion::lire(QStringLiteral("1.1")));
+        const auto parution = Appcast::aProposer(Appcast::lire(flux, systeme), *NumeroDeVersion::lire("1.1"));
         return parution ? QStringLiteral("%1 %2 %3 %4")
                               .arg(parution->nom, parution->paquet.toString(), QString::number(parution->longueur),
                                    parution->notes)
@@ -59,153 +40,139 @@ QString offre(const QString &flux, const QString &systeme = QStringLiteral("debi
 
 } // namespace
 
-void TestAppcast::ordre_data()
+// The feed of updates: what it says, what it may not say, which version comes after which, and who signed.
+class TestAppcast : public QObject
 {
-    QTest::addColumn<QString>("ordre");
-    for (const char *ordre :
-         {"1.9 < 1.10", "1.2 < 1.2.1", "1.10-beta.2 < 1.10-beta.10", "1.2-alpha < 1.2-beta", "1.2-rc < 1.2-rc.1",
-          "1.2-rc9 < 1.2rc10", "1.2~rc1 < 1.2", "1.1 < 1.2b1", "1.2-a.1 < 1.2-a.b", "1.2 = 1.2.0", "1.2+7 = 1.2+9"})
-        QTest::newRow(ordre) << QString::fromLatin1(ordre);
-}
+    Q_OBJECT
 
-void TestAppcast::ordre()
-{
-    QFETCH(QString, ordre);
-    const auto a = NumeroDeVersion::lire(ordre.section(u' ', 0, 0));
-    const auto b = NumeroDeVersion::lire(ordre.section(u' ', 2));
-    QVERIFY(a && b);
-    QCOMPARE(*a < *b, ordre.contains(u'<'));
-    QCOMPARE(*a == *b, ordre.contains(u'='));
-}
+private slots:
+    void ordre()
+    {
+        for (const char *ordre : {"1.9 < 1.10", "1.2 < 1.2.1", "1.10-beta.2 < 1.10-beta.10", "1.2-alpha < 1.2-beta",
+                                  "1.2-rc < 1.2-rc.1", "1.2-rc9 < 1.2rc10", "1.2~rc1 < 1.2", "1.1 < 1.2b1",
+                                  "1.2-a.1 < 1.2-a.b", "1.2 = 1.2.0", "1.2+7 = 1.2+9"}) {
+            const QStringList parts = QString::fromLatin1(ordre).split(u' ');
+            const auto a = NumeroDeVersion::lire(parts[0]);
+            const auto b = NumeroDeVersion::lire(parts[2]);
+            QVERIFY2(a && b && (*a < *b) == (parts[1] == u'<') && (*a == *b) == (parts[1] == u'='), ordre);
+        }
+    }
 
-void TestAppcast::numerosIllisibles()
-{
-    for (const char *texte : {"", "beta", "1.2-3", "1..2", "1.99999999999"})
-        QVERIFY2(!NumeroDeVersion::lire(QString::fromLatin1(texte)), texte);
-}
+    void numerosIllisibles()
+    {
+        for (const char *texte : {"", "beta", "1.2-3", "1..2", "1.99999999999"})
+            QVERIFY2(!NumeroDeVersion::lire(texte), texte);
+    }
 
-void TestAppcast::flux_data()
-{
-    QTest::addColumn<QString>("flux");
-    QTest::addColumn<QString>("attendu");
-    const auto cas = [](const char *nom, const QString &flux, const char *attendu) {
-        QTest::newRow(nom) << flux << QString::fromUtf8(attendu);
-    };
-    const auto avec = [](const char *avant, const char *apres) {
-        return rss(version("1.2", QString(paquet).replace(QLatin1String(avant), QLatin1String(apres))));
-    };
-    const char *offerte = "1.2 https://a.invalid/q.deb 15 ";
-    cas("simple", rss(version("1.2"), QStringLiteral("<?xml version='1.0' encoding='utf-8'?>\n")), offerte);
-    cas("nom et notes à part",
-        rss(version("120", QStringLiteral("<description> Plus\n vite </description>"
-                                          "<sparkle:shortVersionString>1.2</sparkle:shortVersionString>")
-                               + paquet)),
-        "1.2 https://a.invalid/q.deb 15 Plus\n vite");
-    cas("en attributs",
-        avec("/>", " sparkle:shortVersionString='1.2'/>").replace(QStringLiteral(">1.2<"), QStringLiteral(">12<")),
-        offerte);
-    cas("nom trop long", avec("/>", " sparkle:shortVersionString='1%1'/>").arg(QStringLiteral("📖").repeated(20)),
-        qUtf8Printable(u'1' + QStringLiteral("📖").repeated(15) + QString::fromLatin1(offerte).sliced(3)));
-    cas("autres éléments",
-        rss(version("1.2",
-                    QStringLiteral("<version>9</version><sparkle:deltas><enclosure/></sparkle:deltas>") + paquet)),
-        offerte);
-    cas("la plus récente", rss(version("1.1.5") + version("1.2") + version("1.2-rc1")), offerte);
-    cas("après une qui n’est pas comprise", rss(version("1.2-3") + version("1.2")), offerte);
-    const QString ailleurs = QStringLiteral("<enclosure sparkle:os='macos' url='https://a.invalid/q.dmg'/>");
-    cas("aussi pour un autre système", rss(version("1.2", paquet + ailleurs)), offerte);
-    cas("d’abord pour un autre système seul", rss(version("1.3", ailleurs) + version("1.2")), offerte);
-    const QString pour12 =
-        QString(paquet).replace(QLatin1String("q.deb"), QLatin1String("12.deb' sparkle:os='debian12"));
-    const QString pour13 =
-        QString(paquet).replace(QLatin1String("q.deb"), QLatin1String("13.deb' sparkle:os='debian13"));
-    const char *precise = "1.2 https://a.invalid/13.deb 15 ";
-    cas("un paquet par système", rss(version("1.2", pour12 + pour13)), precise);
-    cas("un paquet par système, l’autre après", rss(version("1.2", pour13 + pour12)), precise);
-    cas("pour celui-ci plutôt que pour tous", rss(version("1.2", paquet + pour13)), precise);
-    cas("pour celui-ci plutôt que pour tous, après", rss(version("1.2", pour13 + paquet)), precise);
-    cas("pour tout Linux", avec("/>", " sparkle:os='linux'/>"), offerte);
-    cas("pour tous, faute de mieux", rss(version("1.2", paquet + pour12)), offerte);
-    cas("plus récente pour un autre Debian seul", rss(version("1.3", pour12) + version("1.2", pour13)), precise);
-    cas("pour d’autres seuls", rss(version("1.2", pour12 + ailleurs)), "à jour");
-    cas("d’abord pour un canal d’essai",
-        rss(version("1.3", paquet + QStringLiteral("<sparkle:channel>essai</sparkle:channel>")) + version("1.2")),
-        offerte);
-    cas("plus ancienne, même mal faite", rss(version("1.0", {})), "à jour");
-    cas("sans numéro", rss(version("")),
-        "La liste des mises à jour est illisible : aucun numéro de version n’y est compris.");
-    cas("en HTTP", avec("https", "http"), "Mise à jour refusée : son adresse n’est pas sécurisée.");
-    cas("adresse mal formée", avec("q.deb", "%zz"), "Mise à jour refusée : son adresse n’est pas sécurisée.");
-    cas("signature courte", avec("AAAA", ""), "Mise à jour refusée : elle n’est pas signée.");
-    cas("sans longueur", avec("'15'", "'-1'"), "Mise à jour refusée : sa longueur n’est pas annoncée.");
-    cas("démesurée", avec("'15'", "'67108865'"), "Mise à jour refusée : elle est trop volumineuse.");
-    const char *coupe = "La liste des mises à jour est illisible : le document est coupé ou mal formé.";
-    cas("coupé", rss(version("1.2")).chopped(6), coupe);
-    cas("rien", {}, coupe);
-    cas("page", QStringLiteral("<html/>"),
-        "La liste des mises à jour est illisible : ce n’est pas un flux de mises à jour.");
-    cas("bombe", rss(version("&b;"), QStringLiteral("<!DOCTYPE rss [<!ENTITY a '1.2'><!ENTITY b '&a;&a;&a;&a;'>]>")),
-        "La liste des mises à jour est illisible : un type de document n’y a pas sa place.");
-    QString attributs;
-    for (int rang = 0; rang < 501; ++rang)
-        attributs += QStringLiteral(" a%1='>'").arg(rang);
-    cas("bombe d’attributs", rss(QStringLiteral("<a%1/>").arg(attributs)),
-        "La liste des mises à jour est illisible : une balise a trop d’attributs.");
-}
+    void flux()
+    {
+        const auto cas = [](const char *nom, const QString &flux, const char *attendu) {
+            const Rangee rangee(nom);
+            QCOMPARE(offre(flux), attendu);
+        };
+        const auto avec = [](const char *avant, const char *apres) {
+            return rss(version("1.2", QString(paquet).replace(avant, apres)));
+        };
+        const char *offerte = "1.2 https://a.invalid/q.deb 15 ";
+        cas("simple", rss(version("1.2"), "<?xml version='1.0' encoding='utf-8'?>\n"), offerte);
+        cas("nom et notes à part",
+            rss(version("120", QStringLiteral("<description> Plus\n vite </description>"
+                                              "<sparkle:shortVersionString>1.2</sparkle:shortVersionString>")
+                                   + paquet)),
+            "1.2 https://a.invalid/q.deb 15 Plus\n vite");
+        cas("en attributs", avec("/>", " sparkle:shortVersionString='1.2'/>").replace(">1.2<", ">12<"), offerte);
+        cas("nom trop long", avec("/>", " sparkle:shortVersionString='1%1'/>").arg(QStringLiteral("📖").repeated(20)),
+            qUtf8Printable(u'1' + QStringLiteral("📖").repeated(15) + QString::fromLatin1(offerte).sliced(3)));
+        cas("autres éléments",
+            rss(version("1.2",
+                        QStringLiteral("<version>9</version><sparkle:deltas><enclosure/></sparkle:deltas>") + paquet)),
+            offerte);
+        cas("la plus récente", rss(version("1.1.5") + version("1.2") + version("1.2-rc1")), offerte);
+        cas("après une qui n’est pas comprise", rss(version("1.2-3") + version("1.2")), offerte);
+        const QString ailleurs = "<enclosure sparkle:os='macos' url='https://a.invalid/q.dmg'/>";
+        cas("aussi pour un autre système", rss(version("1.2", paquet + ailleurs)), offerte);
+        cas("d’abord pour un autre système seul", rss(version("1.3", ailleurs) + version("1.2")), offerte);
+        const QString pour12 =
+            QString(paquet).replace(QLatin1String("q.deb"), QLatin1String("12.deb' sparkle:os='debian12"));
+        const QString pour13 =
+            QString(paquet).replace(QLatin1String("q.deb"), QLatin1String("13.deb' sparkle:os='debian13"));
+        const char *precise = "1.2 https://a.invalid/13.deb 15 ";
+        cas("un paquet par système", rss(version("1.2", pour12 + pour13)), precise);
+        cas("un paquet par système, l’autre après", rss(version("1.2", pour13 + pour12)), precise);
+        cas("pour celui-ci plutôt que pour tous", rss(version("1.2", paquet + pour13)), precise);
+        cas("pour celui-ci plutôt que pour tous, après", rss(version("1.2", pour13 + paquet)), precise);
+        cas("pour tout Linux", avec("/>", " sparkle:os='linux'/>"), offerte);
+        cas("pour tous, faute de mieux", rss(version("1.2", paquet + pour12)), offerte);
+        cas("plus récente pour un autre Debian seul", rss(version("1.3", pour12) + version("1.2", pour13)), precise);
+        cas("pour d’autres seuls", rss(version("1.2", pour12 + ailleurs)), "à jour");
+        cas("d’abord pour un canal d’essai",
+            rss(version("1.3", paquet + QStringLiteral("<sparkle:channel>essai</sparkle:channel>")) + version("1.2")),
+            offerte);
+        cas("plus ancienne, même mal faite", rss(version("1.0", {})), "à jour");
+        cas("sans numéro", rss(version("")),
+            "La liste des mises à jour est illisible : aucun numéro de version n’y est compris.");
+        cas("en HTTP", avec("https", "http"), "Mise à jour refusée : son adresse n’est pas sécurisée.");
+        cas("adresse mal formée", avec("q.deb", "%zz"), "Mise à jour refusée : son adresse n’est pas sécurisée.");
+        cas("signature courte", avec("AAAA", ""), "Mise à jour refusée : elle n’est pas signée.");
+        cas("sans longueur", avec("'15'", "'-1'"), "Mise à jour refusée : sa longueur n’est pas annoncée.");
+        cas("démesurée", avec("'15'", "'67108865'"), "Mise à jour refusée : elle est trop volumineuse.");
+        const char *coupe = "La liste des mises à jour est illisible : le document est coupé ou mal formé.";
+        cas("coupé", rss(version("1.2")).chopped(6), coupe);
+        cas("rien", {}, coupe);
+        cas("page", "<html/>", "La liste des mises à jour est illisible : ce n’est pas un flux de mises à jour.");
+        cas("bombe", rss(version("&b;"), "<!DOCTYPE rss [<!ENTITY a '1.2'><!ENTITY b '&a;&a;&a;&a;'>]>"),
+            "La liste des mises à jour est illisible : un type de document n’y a pas sa place.");
+        QString attributs;
+        for (int rang = 0; rang < 501; ++rang)
+            attributs += QStringLiteral(" a%1='>'").arg(rang);
+        cas("bombe d’attributs", rss(QStringLiteral("<a%1/>").arg(attributs)),
+            "La liste des mises à jour est illisible : une balise a trop d’attributs.");
+    }
 
-void TestAppcast::flux()
-{
-    QFETCH(QString, flux);
-    QFETCH(QString, attendu);
-    QCOMPARE(offre(flux), attendu);
-}
+    // As `packaging/release` writes it, which its own test makes sure of.
+    void fluxDUneParution()
+    {
+        QFile fichier(QFINDTESTDATA("pages/appcast.xml"));
+        QVERIFY(fichier.open(QIODevice::ReadOnly));
+        const QString flux = QString::fromUtf8(fichier.readAll());
+        for (const auto &[systeme, offerte] : Rangees<const char *>{
+                 {"debian12", "2.0 https://telecharger.example/2.0~debian12.deb 12 Plus vite & mieux\n• Un"},
+                 {"debian13", "2.0 https://telecharger.example/2.0~debian13.deb 13 Plus vite & mieux\n• Un"},
+                 {"debian14", "à jour"},
+             })
+            QCOMPARE(offre(flux, systeme), offerte);
+    }
 
-void TestAppcast::fluxDUneParution_data()
-{
-    QTest::addColumn<QString>("offerte");
-    QTest::newRow("debian12") << "2.0 https://telecharger.example/2.0~debian12.deb 12 Plus vite & mieux\n• Un";
-    QTest::newRow("debian13") << "2.0 https://telecharger.example/2.0~debian13.deb 13 Plus vite & mieux\n• Un";
-    QTest::newRow("debian14") << "à jour";
-}
+    void notes()
+    {
+        QCOMPARE(Appcast::notes(" a < b\n\n- <c> &amp; d "), "a < b\n\n- <c> &amp; d");
+        QCOMPARE(Appcast::notes("<h2>Neuf</h2><p>a <b>b</b><br/>c &amp; d</p><UL class='x'><li>un</li>\n"
+                                "<LI>deux<li></ul><script>f('<p>')</script>"),
+                 "Neuf\na b\nc & d\n• un\n• deux");
+        QCOMPARE(Appcast::notes(QString(20'000, u'a')), QString(10'000, u'a') + u'…');
+        const QString livre = "📖";
+        QCOMPARE(Appcast::notes(u'a' + livre.repeated(5'000)), u'a' + livre.repeated(4'999) + u'…');
+    }
 
-// As `packaging/release` writes it, which its own test makes sure of.
-void TestAppcast::fluxDUneParution()
-{
-    QFETCH(QString, offerte);
-    QFile fichier(QFINDTESTDATA("pages/appcast.xml"));
-    QVERIFY(fichier.open(QIODevice::ReadOnly));
-    QCOMPARE(offre(QString::fromUtf8(fichier.readAll()), QString::fromLatin1(QTest::currentDataTag())), offerte);
-}
+    void signatures()
+    {
+        SignatureEd25519::Cle cle{};
+        SignatureEd25519::Signature signature{};
+        std::array<unsigned char, crypto_sign_SECRETKEYBYTES> secret{};
+        std::array<unsigned char, 1000> octets{};
+        crypto_sign_keypair(cle.data(), secret.data());
+        crypto_sign_detached(signature.data(), nullptr, octets.data(), octets.size(), secret.data());
+        const QByteArray texte = QByteArray(reinterpret_cast<const char *>(cle.data()), 32).toBase64();
+        QCOMPARE(SignatureEd25519::cle(texte), cle);
+        for (const QByteArray &autre : {texte.chopped(4), texte + texte, texte.chopped(2) + "!="})
+            QVERIFY2(!SignatureEd25519::cle(autre), autre.constData());
 
-void TestAppcast::notes()
-{
-    QCOMPARE(Appcast::notes(QStringLiteral(" a < b\n\n- <c> &amp; d ")), QStringLiteral("a < b\n\n- <c> &amp; d"));
-    QCOMPARE(Appcast::notes(QStringLiteral("<h2>Neuf</h2><p>a <b>b</b><br/>c &amp; d</p><UL class='x'><li>un</li>\n"
-                                           "<LI>deux<li></ul><script>f('<p>')</script>")),
-             QStringLiteral("Neuf\na b\nc & d\n• un\n• deux"));
-    QCOMPARE(Appcast::notes(QString(20'000, u'a')), QString(10'000, u'a') + u'…');
-    const QString livre = QStringLiteral("📖");
-    QCOMPARE(Appcast::notes(u'a' + livre.repeated(5'000)), u'a' + livre.repeated(4'999) + u'…');
-}
-
-void TestAppcast::signatures()
-{
-    SignatureEd25519::Cle cle{};
-    SignatureEd25519::Signature signature{};
-    std::array<unsigned char, crypto_sign_SECRETKEYBYTES> secret{};
-    std::array<unsigned char, 1000> octets{};
-    crypto_sign_keypair(cle.data(), secret.data());
-    crypto_sign_detached(signature.data(), nullptr, octets.data(), octets.size(), secret.data());
-    const QByteArray texte = QByteArray(reinterpret_cast<const char *>(cle.data()), 32).toBase64();
-    QCOMPARE(SignatureEd25519::cle(texte), cle);
-    for (const QByteArray &autre : {texte.chopped(4), texte + texte, texte.chopped(2) + "!="})
-        QVERIFY2(!SignatureEd25519::cle(autre), autre.constData());
-
-    QVERIFY(SignatureEd25519::valide(cle, signature, octets));
-    QVERIFY(!SignatureEd25519::valide(cle, signature, std::span(octets).first(999)));
-    octets[999] ^= 1;
-    QVERIFY(!SignatureEd25519::valide(cle, signature, octets));
-}
+        QVERIFY(SignatureEd25519::valide(cle, signature, octets));
+        QVERIFY(!SignatureEd25519::valide(cle, signature, std::span(octets).first(999)));
+        octets[999] ^= 1;
+        QVERIFY(!SignatureEd25519::valide(cle, signature, octets));
+    }
+};
 
 QTEST_GUILESS_MAIN(TestAppcast)
 #include "tst_appcast.moc"

@@ -1,0 +1,239 @@
+#include "tests/Banc.h"
+#include "tests/Rangees.h"
+#include "textes/TextesDocuments.h"
+#include "textes/TextesLivres.h"
+#include "textes/TextesRecapitulatif.h"
+#include "textes/TextesTarifs.h"
+#include "textes/TextesVerifications.h"
+
+using namespace Quillet;
+
+using namespace TextesRecapitulatif;
+
+namespace {
+
+struct Cas
+{
+    Banc banc;
+    BonDeCommande bon;
+
+    [[nodiscard]] Calcul calcul() const { return Calcul::de(banc.donnees(), bon, jourDuBanc); }
+};
+
+} // namespace
+
+class TestTextes : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void avertissements()
+    {
+        const char *deuxColis =
+            "exclamationmark.triangle|Au-delà de 2 kg, le dernier palier de la grille : faire deux colis.";
+        const char *aPeser = "scalemass|Livre 2 n’a pas encore été pesé : pesez le colis.";
+        // Copies of books 1 and 2, the second of which was never weighed, and what the parcel weighs; 0: not weighed.
+        for (const auto &[nom, premiers, seconds, pesee, destination, attendu] :
+             Rangees<int, int, int, const char *, const char *>{
+                 {"rien, pesé trop lourd", 0, 0, 5000, "france", ""},
+                 {"plus léger que les livres", 2, 0, 399, "france",
+                  "exclamationmark.triangle|Le colis pesé est plus léger que les livres seuls (400 g) : vérifiez la "
+                  "pesée."},
+                 {"pesé juste comme les livres", 2, 0, 400, "france", ""},
+                 {"jamais pesé", 1, 2, 0, "france", aPeser},
+                 {"jamais pesé et trop lourd : un seul avertissement", 11, 1, 0, "france", aPeser},
+                 {"calculé trop lourd", 11, 0, 0, "france", deuxColis},
+                 {"pesé trop lourd", 1, 1, 2001, "france", deuxColis},
+                 {"sans grille", 11, 0, 0, "lune", ""},
+             }) {
+            const Rangee rangee(nom);
+            Cas cas;
+            cas.bon.ajuster(cas.banc.livres[0], premiers);
+            cas.bon.ajuster(cas.banc.livres[1], seconds);
+            cas.bon.codeDestination = vers(destination);
+            if (pesee > 0)
+                cas.bon.poidsPese = Grammes{pesee};
+            QStringList obtenus;
+            for (const auto &avertissement : avertissementsDePesee(cas.calcul()))
+                obtenus.append(avertissement.symbole + u'|' + lisible(avertissement.texte));
+            QCOMPARE(obtenus.join(u' '), attendu);
+        }
+    }
+
+    // What is heard after each change: a missing total is said in words, not as a dash.
+    void resumes()
+    {
+        Cas cas;
+        QCOMPARE(sousTitre(cas.calcul()), "Aucun livre");
+        QCOMPARE(resume(cas.calcul()), "Aucun livre");
+        cas.bon.ajuster(cas.banc.livres[0], 1);
+        QCOMPARE(sousTitre(cas.calcul()), "1 livre · 240 g");
+        QCOMPARE(lisible(resume(cas.calcul())), "1 livre · 240 g, total à payer : 20,49 €");
+        cas.bon.ajuster(cas.banc.livres[0], 5);
+        cas.bon.poidsPese = Grammes{2001}; // beyond the last tier
+        QCOMPARE(lisible(resume(cas.calcul())), "6 livres · 2 001 g, total à payer : aucun montant");
+    }
+
+    void lignesEtPalier()
+    {
+        Cas cas;
+        QVERIFY(!palier(cas.calcul()));
+        cas.bon.ajuster(cas.banc.livres[0], 2);
+        const auto lignes = livres(cas.calcul());
+        QCOMPARE(lignes.size(), 1);
+        QCOMPARE(lignes[0].libelle, "Livre 1");
+        QCOMPARE(lisible(lignes[0].detail), "2 × 15,00 €");
+        QCOMPARE(lisible(lignes[0].valeur), "30,00 €");
+        const auto tranche = palier(cas.calcul());
+        QVERIFY(tranche);
+        QCOMPARE(tranche->detail, "encore 60 g avant le palier suivant");
+        QCOMPARE(tranche->valeur, "jusqu’à 500 g");
+        QCOMPARE(emballage(cas.banc.reglages.emballages[1]), "Carton (180 g)");
+    }
+
+    void detailsDesMontants()
+    {
+        for (const auto &[destination, envoi, frais, declaration] : Rangees<const char *, const char *, const char *>{
+                 {"france", "France, jusqu’à 250 g", "2,90 % + 0,35 € · Europe (EEE)", "Non"},
+                 {"suisse", "UE et Suisse, jusqu’à 250 g", "4,89 % + 0,35 € · Autre pays", "Oui, CN23"},
+                 {"lune", "", "4,89 % + 0,35 € · Autre pays", "Oui, CN23"}, // no grid
+                 {"mars", "", "", "Non"},                                   // unknown
+             }) {
+            const Rangee rangee(destination);
+            Cas cas;
+            cas.bon.ajuster(cas.banc.livres[0], 1);
+            cas.bon.codeDestination = vers(destination);
+            const Calcul calcul = cas.calcul();
+            QCOMPARE(detailEnvoi(calcul), envoi);
+            QCOMPARE(lisible(detailFrais(calcul, cas.banc.reglages.fraisPaypal)), frais);
+            QCOMPARE(TextesRecapitulatif::declaration(calcul), declaration);
+        }
+    }
+
+    void lienDePaiementSelonLaLangue()
+    {
+        Cas cas;
+        cas.bon.ajuster(cas.banc.livres[0], 1);
+        cas.bon.codeDestination = vers("suisse");
+        const auto lien = [&] { return lienDePaiement(cas.calcul(), cas.banc.reglages, cas.bon); };
+        QVERIFY(lien());
+        QCOMPARE(lien()->indicationDuPays, "en anglais, pour la description");
+        QCOMPARE(lien()->paysPropose, "Switzerland");
+        QCOMPARE(lien()->prix, "20,49");
+        QCOMPARE(lisible(lien()->prixAffiche), "20,49 €");
+        QCOMPARE(lien()->retour, "https://davrel.example/merci");
+        cas.bon.langue = Langue::francais;
+        cas.bon.paysLivraison = "la Suisse";
+        QCOMPARE(lien()->indicationDuPays, "en français, avec l’article : la Belgique, l’Italie, le Canada");
+        QCOMPARE(lien()->paysPropose, "Suisse");
+        QVERIFY(lien()->description.endsWith("vers la Suisse."));
+    }
+
+    void lienDePaiementAbsent()
+    {
+        for (const auto &[nom, livre, vendeur] : Rangees<int, Vendeur>{
+                 // 0: none
+                 {"commande vide", 0, Vendeur::davrel},
+                 {"total inconnu", 2, Vendeur::davrel},
+                 {"vendeur sans identité", 3, Vendeur::mireva},
+             }) {
+            const Rangee rangee(nom);
+            Cas cas;
+            cas.bon.vendeur = vendeur;
+            if (livre > 0)
+                cas.bon.ajuster(cas.banc.livres[livre - 1], 1);
+            QVERIFY(!lienDePaiement(cas.calcul(), cas.banc.reglages, cas.bon));
+        }
+    }
+
+    void champsVides()
+    {
+        Livre livre = unLivre(1, Vendeur::davrel, Centimes{1500}, Grammes{200});
+        livre.isbn.clear();
+        QCOMPARE(TextesLivres::edition(livre), "14 × 21 cm · 200 pages");
+        QCOMPARE(TextesDocuments::vendeur({.nom = "Davrel", .adresse = {"1 rue Exemple"}}), "Davrel\n1 rue Exemple");
+    }
+
+    void tarifs()
+    {
+        Cas cas;
+        TarifsColissimo &tarifs = cas.banc.tarifs.last();
+        GrilleColissimo lointaine = tarifs.grilles[1];
+        lointaine.code = ZoneColissimo::royaumeUni;
+        lointaine.nomCourt = lointaine.nom = "Royaume-Uni";
+        lointaine.paliers.removeAt(1);
+        GrilleColissimo ailleurs = tarifs.grilles[0];
+        ailleurs.famille = Cle<FamilleTarifs>("lune");
+        tarifs.grilles += {lointaine, ailleurs};
+        cas.bon.ajuster(cas.banc.livres[0], 2);
+        cas.bon.codeDestination = vers("ue");
+
+        const auto familles = TextesTarifs::familles(tarifs, cas.calcul());
+        QCOMPARE(familles.size(), 2);
+        QCOMPARE(familles[0].titre, "France métropolitaine, Monaco, Andorre");
+        const auto &europe = familles[1];
+        QCOMPARE(europe.titre, "Europe");
+        QCOMPARE(europe.zones, (QStringList{"UE et Suisse", "Royaume-Uni"}));
+        QCOMPARE(europe.pays, QStringList{"UE et Suisse : ici et là"});
+        QCOMPARE(europe.paliers.size(), 3);
+        QCOMPARE(europe.paliers[2].poids, "jusqu’à 2 kg");
+        const auto &moyen = europe.paliers[1].prix;
+        QCOMPARE(lisible(moyen[0].texte), "7,59 €");
+        QVERIFY(moyen[0].enCours); // 440 g for the Union
+        QCOMPARE(moyen[1], (TextesTarifs::Prix{"—", false}));
+        QVERIFY(!familles[0].paliers[1].prix[0].enCours && !europe.paliers[0].prix[0].enCours);
+    }
+
+    void verifications()
+    {
+        Banc banc;
+        banc.tarifs.append(desTarifs("2026-04-01", Centimes{600}));
+        banc.reglages.fraisPaypal.supplements = {
+            {RegionPaypal::eee, Taux{0}}, {RegionPaypal::royaumeUni, Taux{129}}, {RegionPaypal::autres, Taux{199}}};
+        const auto catalogue = banc.charger();
+        for (const auto &[verifie, symbole, etat] : Rangees<const char *, const char *>{
+                 // as kept
+                 {"", "", "Pas encore vérifiés depuis l’app"},
+                 {"2026-03-01T12:00:00Z", "checkmark.circle", "Vérifiés le 1er mars 2026"},
+                 {"2025-11-03T12:00:00Z", "clock.badge.exclamationmark", "Vérifiés le 3 novembre 2025 : à revérifier"},
+             }) {
+            const Rangee rangee(verifie);
+            Preferences preferences = banc.preferences();
+            preferences.ecrire("verification.laPoste", verifie);
+            const auto maintenant = [] { return QDateTime(jourDuBanc, QTime(10, 0)); };
+            const Verifications verifications(*catalogue, preferences, maintenant, {});
+            const auto ligne = TextesVerifications::laPoste(verifications, catalogue->donnees(), jourDuBanc);
+            QCOMPARE(ligne.detail, "en vigueur au 1er janvier 2026, nouvelle grille au 1er avril 2026");
+            QCOMPARE(ligne.symboleEtat, symbole);
+            QCOMPARE(ligne.etat, etat);
+            QCOMPARE(lisible(TextesVerifications::paypal(verifications, catalogue->donnees()).detail),
+                     "2,90 % + 0,35 € ; Royaume-Uni + 1,29 %, autres pays + 1,99 %");
+        }
+    }
+
+    void ecarts()
+    {
+        const TarifsColissimo tarifs = desTarifs("2026-04-01", Centimes{600});
+        using Prix = std::optional<Centimes>;
+        for (const auto &[ecart, avant, apres] : Rangees<Prix, Prix>{
+                 {"+0,50 € +5,32 %", Centimes{940}, Centimes{990}},
+                 {"-0,50 € -5,05 %", Centimes{990}, Centimes{940}},
+                 {"+9,40 €", Centimes{0}, Centimes{940}},
+                 {"nouveau palier", {}, Centimes{940}},
+                 {"palier supprimé", Centimes{940}, {}},
+             }) {
+            const Rangee rangee(ecart);
+            const auto texte = TextesVerifications::ecarts({{tarifs.grilles[1], Grammes{2000}, avant, apres}});
+            QCOMPARE(texte[0].zone, "UE et Suisse");
+            QCOMPARE(texte[0].jusqua, "2 kg");
+            QCOMPARE(texte[0].avant == QStringLiteral("—"), !avant);
+            QCOMPARE(lisible(texte[0].ecart + u' ' + texte[0].variation).trimmed(), ecart);
+        }
+        const QList<EcartTarif> un(1);
+        QCOMPARE(TextesVerifications::compte(un, tarifs), "1 palier sur 6 changent.");
+        QCOMPARE(TextesVerifications::compte(un + un, tarifs), "2 paliers sur 6 changent.");
+    }
+};
+
+QTEST_GUILESS_MAIN(TestTextes)
+#include "tst_textes.moc"
