@@ -2,10 +2,9 @@
 
 #include "composants/BoutonCopier.h"
 #include "composants/Libelle.h"
+#include "composants/Pile.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
-
-#include <QHBoxLayout>
 
 namespace Quillet {
 
@@ -19,21 +18,15 @@ ChampACopier::ChampACopier(const QString &titre, std::optional<int> colonneDuTit
     affichage_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     affichage_->setFocusPolicy(Qt::ClickFocus);
 
-    auto *textes = new QBoxLayout(colonneDuTitre ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    textes->setSpacing(colonneDuTitre ? 12 : 2);
     if (colonneDuTitre) {
         titreAffiche->setWordWrap(true);
         TailleDuTexte::suivre(titreAffiche, [titreAffiche, largeur = *colonneDuTitre] {
             titreAffiche->setFixedWidth(Theme::aLaTaille(largeur));
         });
     }
-    textes->addWidget(titreAffiche);
-    textes->addWidget(affichage_, colonneDuTitre ? 1 : 0);
-    auto *rangee = new QHBoxLayout(this);
-    rangee->setContentsMargins(0, 0, 0, 0);
-    rangee->setSpacing(8);
-    rangee->addLayout(textes, 1);
-    rangee->addWidget(bouton_, 0, Qt::AlignVCenter);
+    QBoxLayout *textes = colonneDuTitre ? Pile::rangee({.espace = 12}, {titreAffiche, {affichage_, 1}})
+                                        : Pile::colonne({.espace = 2}, {titreAffiche, affichage_});
+    Pile::rangee(this, {.espace = 8}, {{textes, 1}, {bouton_, 0, Qt::AlignVCenter}});
 }
 
 void ChampACopier::montrer(const QString &valeur, const QString &affichage)

@@ -3,11 +3,10 @@
 #include "composants/Alerte.h"
 #include "composants/Libelle.h"
 #include "composants/LigneDeTexte.h"
+#include "composants/Pile.h"
 #include "composants/TailleDuTexte.h"
 
-#include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QVBoxLayout>
 
 namespace Quillet {
 
@@ -31,16 +30,7 @@ ChampSaisi::ChampSaisi(const QString &libelle, const Unite &unite, Objection obj
         champ_->selectAll();
     });
 
-    auto *rangee = new QHBoxLayout;
-    rangee->setSpacing(8);
-    rangee->addWidget(titre, 1);
-    rangee->addWidget(champ_);
-    rangee->addWidget(mesure);
-    auto *colonne = new QVBoxLayout(this);
-    colonne->setContentsMargins(0, 0, 0, 0);
-    colonne->setSpacing(4);
-    colonne->addLayout(rangee);
-    colonne->addWidget(alerte_);
+    Pile::colonne(this, {.espace = 4}, {Pile::rangee({.espace = 8}, {{titre, 1}, champ_, mesure}), alerte_});
 }
 
 void ChampSaisi::setInvite(const QString &invite)

@@ -2,11 +2,11 @@
 
 #include "composants/Dessin.h"
 #include "composants/LecteurDEcran.h"
+#include "composants/Pile.h"
 #include "composants/Ressort.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
 
-#include <QHBoxLayout>
 #include <QPainter>
 #include <QRadioButton>
 
@@ -107,9 +107,8 @@ ChoixSegmente::ChoixSegmente(const QStringList &options, const Apparence &appare
       position_(new Ressort(Ressorts::action, this, [this](double position) { eclairer(position); }))
 {
     LecteurDEcran::jouer(this, roleDuChoix);
-    auto *rangee = new QHBoxLayout(this);
-    rangee->setContentsMargins(apparence.marge, apparence.marge, apparence.marge, apparence.marge);
-    rangee->setSpacing(apparence.espace);
+    const int marge = apparence.marge;
+    QBoxLayout *rangee = Pile::rangee(this, {.marges = {marge, marge, marge, marge}, .espace = apparence.espace});
     for (int i = 0; i < options.size(); ++i) {
         auto *bouton = new Segment(options[i], apparence);
         boutons_.append(bouton);

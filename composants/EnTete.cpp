@@ -1,27 +1,22 @@
 #include "composants/EnTete.h"
 
 #include "composants/Libelle.h"
+#include "composants/Pile.h"
 #include "composants/Theme.h"
 
-#include <QHBoxLayout>
 #include <QPainter>
-#include <QVBoxLayout>
 
 namespace Quillet {
 
 EnTete::EnTete(const QString &titre, QWidget *parent)
-    : QWidget(parent), sousTitre_(new Libelle({}, Libelle::Rang::secondaire)), rangee_(new QHBoxLayout(this))
+    : QWidget(parent), sousTitre_(new Libelle({}, Libelle::Rang::secondaire))
 {
     auto *grand = new Libelle(titre);
     grand->setFont(Theme::titreEcran());
     sousTitre_->setFont(Theme::encadre());
     sousTitre_->hide();
-    auto *textes = new QVBoxLayout;
-    textes->setSpacing(0);
-    textes->addWidget(grand);
-    textes->addWidget(sousTitre_);
-    rangee_->setContentsMargins(Theme::margeDePage, 14, Theme::margeDePage, 14);
-    rangee_->addLayout(textes, 1);
+    rangee_ = Pile::rangee(this, {.marges = {Theme::margeDePage, 14, Theme::margeDePage, 14}},
+                           {{Pile::colonne({.espace = 0}, {grand, sousTitre_}), 1}});
 }
 
 void EnTete::setSousTitre(const QString &sousTitre)

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-class QHBoxLayout;
+class QBoxLayout;
 
 namespace Quillet {
 
@@ -23,7 +23,7 @@ protected:
 
 private:
     Libelle *sousTitre_;
-    QHBoxLayout *rangee_;
+    QBoxLayout *rangee_;
 };
 
 } // namespace Quillet

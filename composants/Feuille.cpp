@@ -1,13 +1,12 @@
 #include "composants/Feuille.h"
 
 #include "composants/Boutons.h"
+#include "composants/Pile.h"
 #include "composants/Place.h"
 #include "composants/Theme.h"
 
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace Quillet {
 
@@ -26,17 +25,8 @@ void Feuille::meubler(QWidget *choix, QWidget *page)
 {
     QPushButton *fermer = Boutons::deFeuille(QStringLiteral("Fermer"));
     connect(fermer, &QPushButton::clicked, this, &QDialog::reject);
-    auto *barre = new QHBoxLayout;
-    barre->setContentsMargins(16, 16, 16, 16);
-    barre->addWidget(choix);
-    barre->addStretch(1);
-    barre->addWidget(fermer);
-    auto *colonne = new QVBoxLayout(this);
-    colonne->setContentsMargins(0, 0, 0, 0);
-    colonne->setSpacing(0);
-    colonne->addLayout(barre);
-    colonne->addWidget(filet(Qt::Horizontal));
-    colonne->addWidget(page, 1);
+    QBoxLayout *barre = Pile::rangee({.marges = {16, 16, 16, 16}}, {choix, Pile::reste(), fermer});
+    Pile::colonne(this, {.espace = 0}, {barre, filet(Qt::Horizontal), {page, 1}});
 }
 
 void Feuille::prendreLaTaille(QSize taille)

@@ -3,11 +3,10 @@
 #include "composants/Dessin.h"
 #include "composants/LecteurDEcran.h"
 #include "composants/Libelle.h"
+#include "composants/Pile.h"
 #include "composants/Theme.h"
 
-#include <QHBoxLayout>
 #include <QPainter>
-#include <QVBoxLayout>
 
 #include <utility>
 
@@ -30,13 +29,9 @@ void montrerDetail(Libelle *libelle, const QString &detail)
     libelle->setVisible(!detail.isEmpty());
 }
 
-QVBoxLayout *surDeuxLignes(Libelle *libelle, Libelle *detail)
+QBoxLayout *surDeuxLignes(Libelle *libelle, Libelle *detail)
 {
-    auto *textes = new QVBoxLayout;
-    textes->setSpacing(2);
-    textes->addWidget(libelle);
-    textes->addWidget(detail);
-    return textes;
+    return Pile::colonne({.espace = 2}, {libelle, detail});
 }
 
 // A screen reader says the label before the value it stands beside.
@@ -57,11 +52,11 @@ void decrire(QWidget *valeur, const QString &detail)
 
 } // namespace
 
-Groupe::Groupe(QWidget *parent) : QWidget(parent), rangees_(new QVBoxLayout(this))
+Groupe::Groupe(QWidget *parent)
+    : QWidget(parent),
+      rangees_(Pile::colonne(this, {.marges = {margeHorizontale, 3, margeHorizontale, 3}, .espace = 0}))
 {
     LecteurDEcran::jouer(this, QAccessible::Grouping); // called by the note of its section
-    rangees_->setContentsMargins(margeHorizontale, 3, margeHorizontale, 3);
-    rangees_->setSpacing(0);
 }
 
 void Groupe::ajouter(QWidget *rangee)
@@ -96,14 +91,10 @@ void Groupe::paintEvent(QPaintEvent *)
 Section::Section(const QString &titre, const QString &pied, QWidget *parent) : QWidget(parent), groupe_(new Groupe)
 {
     LecteurDEcran::jouer(this, QAccessible::Grouping);
-    auto *colonne = new QVBoxLayout(this);
-    colonne->setContentsMargins(0, 0, 0, 0);
-    colonne->setSpacing(6);
     auto *tete = new Libelle(titre);
     tete->setFont(Theme::titreCarte());
     tete->setContentsMargins(2, 0, 2, 0);
-    colonne->addWidget(tete);
-    colonne->addWidget(groupe_);
+    QBoxLayout *colonne = Pile::colonne(this, {.espace = 6}, {tete, groupe_});
     if (!pied.isEmpty()) {
         Libelle *note = Libelle::note(pied);
         note->setContentsMargins(margeHorizontale, 0, margeHorizontale, 0);
@@ -116,15 +107,13 @@ Section::Section(const QString &titre, const QString &pied, QWidget *parent) : Q
 Rangee::Rangee(const QString &libelle, QWidget *valeur, QWidget *parent)
     : QWidget(parent), libelle_(new Libelle(libelle)), detail_(secondeLigne()), valeur_(valeur)
 {
-    auto *rangee = new QHBoxLayout(this);
-    rangee->setContentsMargins(0, 0, 0, 0);
-    rangee->setSpacing(8);
     // A value that wants room takes what its label leaves; any other keeps to the right.
     const bool large = valeur->sizePolicy().horizontalPolicy() == QSizePolicy::Expanding;
     // A label that comes later may be long: a book's title, a list of territories.
     libelle_->setWordWrap(libelle.isEmpty());
-    rangee->addLayout(surDeuxLignes(libelle_, detail_), large ? 0 : 1);
-    rangee->addWidget(valeur, large ? 1 : 0, large ? Qt::AlignVCenter : Qt::AlignRight | Qt::AlignVCenter);
+    Pile::rangee(this, {.espace = 8},
+                 {{surDeuxLignes(libelle_, detail_), large ? 0 : 1},
+                  {valeur, large ? 1 : 0, large ? Qt::AlignVCenter : Qt::AlignRight | Qt::AlignVCenter}});
     relier(libelle_, valeur);
 }
 
@@ -144,11 +133,7 @@ RangeeHaute::RangeeHaute(const QString &libelle, QWidget *valeur, QWidget *paren
     : QWidget(parent), detail_(secondeLigne()), valeur_(valeur)
 {
     auto *titre = new Libelle(libelle);
-    auto *colonne = new QVBoxLayout(this);
-    colonne->setContentsMargins(0, 0, 0, 0);
-    colonne->setSpacing(6);
-    colonne->addLayout(surDeuxLignes(titre, detail_));
-    colonne->addWidget(valeur);
+    Pile::colonne(this, {.espace = 6}, {surDeuxLignes(titre, detail_), valeur});
     relier(titre, valeur);
 }
 
@@ -160,11 +145,7 @@ void RangeeHaute::setDetail(const QString &detail)
 
 QWidget *seul(QWidget *controle)
 {
-    auto *rangee = new QWidget;
-    auto *place = new QVBoxLayout(rangee);
-    place->setContentsMargins(0, 0, 0, 0);
-    place->addWidget(controle);
-    return rangee;
+    return Pile::enColonne({}, {controle});
 }
 
 } // namespace Quillet::Formulaire

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-class QVBoxLayout;
+class QBoxLayout;
 
 namespace Quillet {
 
@@ -25,7 +25,7 @@ protected:
     void paintEvent(QPaintEvent *evenement) override;
 
 private:
-    QVBoxLayout *rangees_;
+    QBoxLayout *rangees_;
 };
 
 class Section : public QWidget
