@@ -1,5 +1,6 @@
 #include "ui/commande/Recapitulatif.h"
 
+#include "composants/Pile.h"
 #include "ui/Contexte.h"
 #include "ui/commande/SectionDestination.h"
 #include "ui/commande/SectionDocuments.h"
@@ -8,8 +9,6 @@
 #include "ui/commande/SectionMontants.h"
 #include "ui/commande/SectionPoids.h"
 #include "ui/commande/SectionReponse.h"
-
-#include <QVBoxLayout>
 
 namespace Quillet {
 
@@ -32,16 +31,11 @@ Recapitulatif::Recapitulatif(const Contexte &contexte, QWidget *parent)
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::AlternateBase);
 
-    auto *page = new QWidget;
+    QWidget *page =
+        Pile::enColonne({.marges = {16, 24, 16, 28}, .espace = 22},
+                        {livres_, poids_, destination_, montants_, lien_, documents_, reponse_, Pile::reste()});
     page->setAutoFillBackground(true);
     page->setBackgroundRole(QPalette::AlternateBase);
-    auto *colonne = new QVBoxLayout(page);
-    colonne->setContentsMargins(16, 24, 16, 28);
-    colonne->setSpacing(22);
-    for (QWidget *section :
-         std::initializer_list<QWidget *>{livres_, poids_, destination_, montants_, lien_, documents_, reponse_})
-        colonne->addWidget(section);
-    colonne->addStretch(1);
     page->resize(size()); // any size: without one, setWidget lays the whole page out to find its own
     setWidget(page);
 

@@ -1,10 +1,10 @@
 #include "ui/commande/SectionDocuments.h"
 
 #include "composants/Icone.h"
+#include "composants/Pile.h"
 #include "composants/TailleDuTexte.h"
 #include "model/Calcul.h"
 
-#include <QHBoxLayout>
 #include <QPushButton>
 
 namespace Quillet {
@@ -16,9 +16,7 @@ SectionDocuments::SectionDocuments(QWidget *parent)
       facture_(new QPushButton(Icone::icone(QStringLiteral("doc.plaintext")), QStringLiteral("Facture")))
 {
     auto *boutons = new QWidget;
-    auto *rangee = new QHBoxLayout(boutons);
-    rangee->setContentsMargins(0, 0, 0, 0);
-    rangee->setSpacing(12);
+    QBoxLayout *rangee = Pile::rangee(boutons, {.espace = 12});
     for (QPushButton *bouton : {douane_, facture_}) {
         rangee->addWidget(bouton, bouton->sizeHint().width()); // in proportion to its text
         // Less of it where the panel is at its narrowest.

@@ -3,12 +3,12 @@
 #include "composants/Chiffres.h"
 #include "composants/Dessin.h"
 #include "composants/Libelle.h"
+#include "composants/Pile.h"
 #include "composants/Theme.h"
 #include "model/Format.h"
 #include "textes/TextesRecapitulatif.h"
 
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QPainter>
 
 namespace Quillet {
@@ -24,10 +24,7 @@ public:
         libelle_->setFont(titre);
         // Takes what the label leaves, and fits its type to it: a long total must not widen the panel.
         total_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        auto *rangee = new QHBoxLayout(this);
-        rangee->setContentsMargins(12, 10, 12, 10);
-        rangee->addWidget(libelle_);
-        rangee->addWidget(total_, 1);
+        Pile::rangee(this, {.marges = {12, 10, 12, 10}}, {libelle_, {total_, 1}});
     }
 
     void ajuster()

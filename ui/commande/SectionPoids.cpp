@@ -3,13 +3,12 @@
 #include "composants/Alerte.h"
 #include "composants/Choix.h"
 #include "composants/Libelle.h"
+#include "composants/Pile.h"
 #include "composants/Theme.h"
 #include "model/Commande.h"
 #include "model/Format.h"
 #include "textes/TextesRecapitulatif.h"
 #include "ui/commande/ChampGrammes.h"
-
-#include <QHBoxLayout>
 
 namespace Quillet {
 
@@ -25,12 +24,8 @@ ChampGrammes *champ(const QString &nom)
 // The field with its unit behind it.
 QWidget *avecUnite(ChampGrammes *champ)
 {
-    auto *ensemble = new QWidget;
-    auto *rangee = new QHBoxLayout(ensemble);
-    rangee->setContentsMargins(0, 0, 0, 0);
-    rangee->setSpacing(6);
-    rangee->addWidget(champ);
-    rangee->addWidget(new Libelle(QStringLiteral("g"), Libelle::Rang::secondaire));
+    auto *unite = new Libelle(QStringLiteral("g"), Libelle::Rang::secondaire);
+    QWidget *ensemble = Pile::enRangee({.espace = 6}, {champ, unite});
     ensemble->setFocusProxy(champ);
     return ensemble;
 }
@@ -56,15 +51,12 @@ SectionPoids::SectionPoids(const QList<Emballage> &emballages, Commande &command
       rangeePoidsLibre_(new Formulaire::Rangee(QStringLiteral("Poids de l’emballage"), avecUnite(poidsLibre_))),
       poidsCalcule_(QStringLiteral("Poids calculé")),
       poidsPese_(champ(QStringLiteral("Colis pesé"))),
-      avertissements_(new QWidget)
+      avertissements_(Pile::enColonne({.espace = 10}, {}))
 {
     poidsPese_->setPlaceholderText(Format::absent);
     poidsPese_->setFont(Theme::enGras(font()));
     auto *colisPese = new Formulaire::Rangee(QStringLiteral("Colis pesé"), avecUnite(poidsPese_));
     colisPese->setDetail(QStringLiteral("emballage compris ; remplace le poids calculé"));
-    auto *lignes = new QVBoxLayout(avertissements_);
-    lignes->setContentsMargins(0, 0, 0, 0);
-    lignes->setSpacing(10);
 
     groupe()->ajouter(poidsLivres_.rangee);
     groupe()->ajouter(new Formulaire::RangeeHaute(QStringLiteral("Emballage"), emballage_));

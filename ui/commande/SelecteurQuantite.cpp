@@ -4,6 +4,7 @@
 #include "composants/Icone.h"
 #include "composants/LecteurDEcran.h"
 #include "composants/NombreRoulant.h"
+#include "composants/Pile.h"
 #include "composants/Ressort.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
@@ -12,7 +13,6 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QPainter>
 
 #include <algorithm>
@@ -85,11 +85,7 @@ SelecteurQuantite::SelecteurQuantite(const Livre &livre, Commande &commande, QWi
     nombre_->setAlignment(Qt::AlignCenter);
     TailleDuTexte::suivre(nombre_, [this] { nombre_->setMinimumWidth(largeurDuNombre()); });
     nombre_->setText(QStringLiteral("0"));
-    auto *rangee = new QHBoxLayout(this);
-    rangee->setContentsMargins(bord, 2, bord, 2 + ombre);
-    rangee->setSpacing(espace);
-    for (QWidget *partie : std::initializer_list<QWidget *>{moins_, nombre_, plus_})
-        rangee->addWidget(partie);
+    Pile::rangee(this, {.marges = {bord, 2, bord, 2 + ombre}, .espace = espace}, {moins_, nombre_, plus_});
     connect(moins_, &QAbstractButton::clicked, this, [livre, &commande] { commande.ajuster(livre, -1); });
     connect(plus_, &QAbstractButton::clicked, this, [livre, &commande] { commande.ajuster(livre, 1); });
     moins_->setEnabled(false);

@@ -1,10 +1,10 @@
 #include "ui/commande/SelecteurSite.h"
 
 #include "composants/ChoixSegmente.h"
+#include "composants/Pile.h"
 #include "composants/Theme.h"
 #include "textes/NomsVendeurs.h"
 
-#include <QHBoxLayout>
 #include <QRadioButton>
 
 namespace Quillet {
@@ -30,9 +30,7 @@ SelecteurSite::SelecteurSite(const Reglages &reglages, QWidget *parent)
                                                  .espace = 4,
                                                  .largeurMaximale = 230}))
 {
-    auto *rangee = new QHBoxLayout(this);
-    rangee->setContentsMargins(0, 0, 0, 0);
-    rangee->addWidget(choix_, 0, Qt::AlignCenter);
+    Pile::rangee(this, {}, {{choix_, 0, Qt::AlignCenter}});
     for (const Vendeur vendeur : tous<Vendeur>)
         choix_->bouton(static_cast<int>(vendeur))
             ->setAccessibleName(

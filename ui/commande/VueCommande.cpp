@@ -5,6 +5,7 @@
 #include "composants/EtatVide.h"
 #include "composants/Icone.h"
 #include "composants/Partage.h"
+#include "composants/Pile.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
 #include "textes/TextesRecapitulatif.h"
@@ -16,12 +17,10 @@
 #include "ui/documents/VueDocuments.h"
 #include "ui/reponse/VueReponse.h"
 
-#include <QHBoxLayout>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QStyle>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <iterator>
@@ -61,9 +60,8 @@ VueCommande::VueCommande(const Contexte &contexte, QWidget *parent)
     TailleDuTexte::suivre(recapitulatif_,
                           [this] { recapitulatif_->setMaximumWidth(Theme::aLaTaille(panneauMaximum)); });
 
-    auto *page = new QHBoxLayout(this);
-    page->setContentsMargins(0, 0, 0, 0);
-    page->addWidget(Partage::entre(colonneDesLivres(), recapitulatif_, recapitulatif_, Theme::aLaTaille(panneauIdeal)));
+    Pile::rangee(this, {},
+                 {Partage::entre(colonneDesLivres(), recapitulatif_, recapitulatif_, Theme::aLaTaille(panneauIdeal))});
 
     connect(reinitialiser_, &QPushButton::clicked, &contexte_.commande, &Commande::vider);
     connect(selecteur_, &SelecteurSite::choisi, &contexte_.commande, &Commande::setVendeur);
@@ -78,19 +76,14 @@ VueCommande::VueCommande(const Contexte &contexte, QWidget *parent)
 
 QWidget *VueCommande::colonneDesLivres()
 {
-    auto *contenu = new QWidget;
-    auto *livres = new QVBoxLayout(contenu);
     // The cards draw their shadows within their own margin: it counts in the space around them.
     constexpr int debord = Couverture::debord;
     const int ascenseur = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    livres->setContentsMargins(Theme::margeDePage - debord, margeVerticale, Theme::margeDePage - debord - ascenseur,
-                               margeVerticale - debord);
-    livres->setSpacing(espace - debord);
+    const QMargins marges(Theme::margeDePage - debord, margeVerticale, Theme::margeDePage - debord - ascenseur,
+                          margeVerticale - debord);
     selecteur_->setContentsMargins(debord, 0, debord, 0);
-    livres->addWidget(selecteur_);
-    livres->addWidget(grille_);
-    livres->addWidget(sansLivre_, 1);
-    livres->addStretch();
+    QWidget *contenu = Pile::enColonne({.marges = marges, .espace = espace - debord},
+                                       {selecteur_, grille_, {sansLivre_, 1}, Pile::reste(0)});
 
     auto *defilement = new Defilement;
     // Always there, so that it counts in the right margin whether or not it has anything to show.
@@ -100,13 +93,7 @@ QWidget *VueCommande::colonneDesLivres()
     defilement->setWidget(contenu);
     connect(defilement->verticalScrollBar(), &QScrollBar::valueChanged, grille_, &GrilleLivres::suivreLePointeur);
 
-    auto *colonne = new QWidget;
-    auto *parties = new QVBoxLayout(colonne);
-    parties->setContentsMargins(0, 0, 0, 0);
-    parties->setSpacing(0);
-    parties->addWidget(enTete_);
-    parties->addWidget(defilement, 1);
-    return colonne;
+    return Pile::enColonne({.espace = 0}, {enTete_, {defilement, 1}});
 }
 
 void VueCommande::actualiser()
