@@ -6,6 +6,7 @@
 #include "composants/Interrupteur.h"
 #include "composants/Libelle.h"
 #include "composants/Lien.h"
+#include "composants/Pile.h"
 #include "composants/Theme.h"
 #include "model/Saisie.h"
 #include "textes/TextesGestes.h"
@@ -14,10 +15,8 @@
 #include "ui/couvertures/ImagesCouvertures.h"
 #include "ui/livres/TableauBoutons.h"
 
-#include <QHBoxLayout>
 #include <QPainter>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace Quillet {
 
@@ -85,12 +84,7 @@ FicheLivre::FicheLivre(ImagesCouvertures &images, QWidget *parent)
       suivant_(Boutons::deFeuille(QStringLiteral("Livre suivant à reporter"), QStringLiteral("arrow.right"))),
       tableau_(new TableauBoutons)
 {
-    auto *colonne = new QVBoxLayout(this);
-    colonne->setContentsMargins(0, 0, 0, 0);
-    colonne->setSpacing(entreSections);
-    colonne->addWidget(enTete(images));
-    colonne->addWidget(boutonsPaypal());
-    colonne->addStretch(1);
+    Pile::colonne(this, {.espace = entreSections}, {enTete(images), boutonsPaypal(), Pile::reste()});
 }
 
 QWidget *FicheLivre::enTete(ImagesCouvertures &images)
@@ -98,21 +92,9 @@ QWidget *FicheLivre::enTete(ImagesCouvertures &images)
     image_ = new Image(images);
     titre_->setFont(Theme::titreSection());
     titre_->setWordWrap(true);
-    auto *textes = new QVBoxLayout;
-    textes->setSpacing(2);
-    textes->addWidget(titre_);
-    textes->addWidget(auteur_);
-    textes->addWidget(fabrication_);
-    textes->addSpacing(14);
-    textes->addWidget(reglages());
-    textes->addStretch(1);
-    auto *enTete = new QWidget;
-    auto *rangee = new QHBoxLayout(enTete);
-    rangee->setContentsMargins(0, 0, 0, 0);
-    rangee->setSpacing(24);
-    rangee->addWidget(image_, 0, Qt::AlignTop);
-    rangee->addLayout(textes, 1);
-    return enTete;
+    QBoxLayout *textes =
+        Pile::colonne({.espace = 2}, {titre_, auteur_, fabrication_, Pile::blanc(14), reglages(), Pile::reste()});
+    return Pile::enRangee({.espace = 24}, {{image_, 0, Qt::AlignTop}, {textes, 1}});
 }
 
 QWidget *FicheLivre::reglages()
@@ -165,22 +147,9 @@ QWidget *FicheLivre::boutonsPaypal()
             suivant_->setFocus();
     });
 
-    auto *tete = new QHBoxLayout;
-    tete->addWidget(titre, 1);
-    tete->addWidget(page_);
-    auto *etat = new QHBoxLayout;
-    etat->addWidget(situation_, 1);
-    etat->addWidget(toutReporter_);
-    etat->addWidget(suivant_);
-    auto *section = new QWidget;
-    auto *colonne = new QVBoxLayout(section);
-    colonne->setContentsMargins(0, 0, 0, 0);
-    colonne->setSpacing(10);
-    colonne->addLayout(tete);
-    colonne->addLayout(etat);
-    colonne->addWidget(tableau_);
-    colonne->addWidget(note);
-    return section;
+    QBoxLayout *tete = Pile::rangee({}, {{titre, 1}, page_});
+    QBoxLayout *etat = Pile::rangee({}, {{situation_, 1}, toutReporter_, suivant_});
+    return Pile::enColonne({.espace = 10}, {tete, etat, tableau_, note});
 }
 
 void FicheLivre::montrer(const Livre &livre, const QList<PrixBouton> &boutons, const TarifsColissimo &tarifs,

@@ -6,6 +6,7 @@
 #include "composants/Icone.h"
 #include "composants/LigneDeTexte.h"
 #include "composants/ListeDite.h"
+#include "composants/Pile.h"
 #include "composants/SelectionDuLecteur.h"
 #include "composants/Theme.h"
 #include "model/Catalogue.h"
@@ -21,7 +22,6 @@
 #include <QScrollBar>
 #include <QStackedWidget>
 #include <QStyle>
-#include <QVBoxLayout>
 
 namespace Quillet {
 
@@ -77,11 +77,7 @@ VoletLivres::VoletLivres(const Catalogue &catalogue, ImagesCouvertures &images, 
 
     place_->addWidget(liste_);
     place_->addWidget(vide_);
-    auto *colonne = new QVBoxLayout(this);
-    colonne->setContentsMargins(0, 0, 0, 0);
-    colonne->setSpacing(0);
-    colonne->addWidget(filtres());
-    colonne->addWidget(place_, 1);
+    Pile::colonne(this, {.espace = 0}, {filtres(), {place_, 1}});
     seReplacer();
 }
 
@@ -122,13 +118,7 @@ QWidget *VoletLivres::filtres()
         filtrer();
     });
 
-    auto *filtres = new QWidget;
-    auto *colonne = new QVBoxLayout(filtres);
-    colonne->setContentsMargins(marge, 16, marge, 4);
-    colonne->setSpacing(8);
-    colonne->addWidget(recherche_);
-    colonne->addWidget(vendeur);
-    colonne->addWidget(etat);
+    QWidget *filtres = Pile::enColonne({.marges = {marge, 16, marge, 4}, .espace = 8}, {recherche_, vendeur, etat});
     // On X11 a list to choose from is called by its label only.
     auto *etiquette = new QLabel(etat->accessibleName(), filtres);
     etiquette->setBuddy(etat);

@@ -7,6 +7,7 @@
 #include "composants/EtatVide.h"
 #include "composants/Icone.h"
 #include "composants/Partage.h"
+#include "composants/Pile.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
 #include "textes/TextesBoutons.h"
@@ -18,7 +19,6 @@
 #include "ui/tarifs/ChoixTarifs.h"
 
 #include <QAction>
-#include <QHBoxLayout>
 #include <QPushButton>
 #include <QShortcut>
 #include <QShowEvent>
@@ -26,7 +26,6 @@
 #include <QStackedWidget>
 #include <QStyle>
 #include <QToolButton>
-#include <QVBoxLayout>
 
 #include <utility>
 
@@ -62,12 +61,9 @@ VueLivres::VueLivres(const Contexte &contexte, QWidget *parent)
       retablir_(creerBouton(QStringLiteral("arrow.uturn.forward"), QKeySequence::Redo))
 {
     enTete_->ajouter(choix_);
-    auto *colonne = new QVBoxLayout(this);
-    colonne->setContentsMargins(0, 0, 0, 0);
-    colonne->setSpacing(0);
-    colonne->addWidget(enTete_);
     QWidget *liste = gauche();
-    colonne->addWidget(Partage::entre(liste, droite(), liste, Theme::aLaTaille(largeurDuVolet)), 1);
+    Pile::colonne(this, {.espace = 0},
+                  {enTete_, {Partage::entre(liste, droite(), liste, Theme::aLaTaille(largeurDuVolet)), 1}});
 
     connect(annuler_->defaultAction(), &QAction::triggered, this,
             [this] { tenter([this] { volet_->choisir(historique_.annuler()); }); });
@@ -110,42 +106,25 @@ QWidget *VueLivres::gauche()
 {
     QPushButton *revenir = Boutons::deFeuille(QStringLiteral("Revenir aux valeurs d’origine…"));
     connect(revenir, &QPushButton::clicked, this, &VueLivres::revenir);
-    auto *pied = new QHBoxLayout;
-    pied->setContentsMargins(VoletLivres::marge, 10, VoletLivres::marge, 14);
-    pied->addWidget(revenir, 1);
-    auto *gauche = new QWidget;
-    auto *colonne = new QVBoxLayout(gauche);
-    colonne->setContentsMargins(0, 0, 0, 0);
-    colonne->setSpacing(0);
-    colonne->addWidget(volet_, 1);
-    colonne->addLayout(pied);
-    return gauche;
+    QBoxLayout *pied = Pile::rangee({.marges = {VoletLivres::marge, 10, VoletLivres::marge, 14}}, {{revenir, 1}});
+    return Pile::enColonne({.espace = 0}, {{volet_, 1}, pied});
 }
 
 QWidget *VueLivres::droite()
 {
-    auto *page = new QWidget;
-    auto *marges = new QHBoxLayout(page);
-    marges->setContentsMargins(marge, 24, marge - style()->pixelMetric(QStyle::PM_ScrollBarExtent), 28);
     TailleDuTexte::suivre(fiche_, [this] { fiche_->setMaximumWidth(Theme::aLaTaille(Theme::largeurDePage)); });
-    marges->addWidget(fiche_, 1);
-    marges->addStretch(0);
+    const int ascenseur = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     auto *defilement = new Defilement;
     defilement->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    defilement->setWidget(page);
+    defilement->setWidget(
+        Pile::enRangee({.marges = {marge, 24, marge - ascenseur, 28}}, {{fiche_, 1}, Pile::reste(0)}));
     place_ = new QStackedWidget;
     place_->addWidget(defilement);
     place_->addWidget(new EtatVide(QStringLiteral("books.vertical"), QStringLiteral("Aucun livre choisi")));
 
     // What failed is said above the page, in sight wherever the page stands.
     echec_->setContentsMargins(marge, 14, marge, 0);
-    auto *droite = new QWidget;
-    auto *colonne = new QVBoxLayout(droite);
-    colonne->setContentsMargins(0, 0, 0, 0);
-    colonne->setSpacing(0);
-    colonne->addWidget(echec_);
-    colonne->addWidget(place_, 1);
-    return droite;
+    return Pile::enColonne({.espace = 0}, {echec_, {place_, 1}});
 }
 
 void VueLivres::actualiser()
