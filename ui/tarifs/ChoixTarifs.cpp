@@ -1,9 +1,9 @@
 #include "ui/tarifs/ChoixTarifs.h"
 
 #include "composants/ChoixSegmente.h"
+#include "composants/Pile.h"
 #include "textes/TextesTarifs.h"
 
-#include <QHBoxLayout>
 #include <QRadioButton>
 
 namespace Quillet {
@@ -12,9 +12,7 @@ namespace Quillet {
 ChoixTarifs::ChoixTarifs(QWidget *parent)
     : QWidget(parent), choix_(new ChoixSegmente({QStringLiteral("En vigueur"), {}}, {.police = font()}))
 {
-    auto *place = new QHBoxLayout(this);
-    place->setContentsMargins(0, 0, 0, 0);
-    place->addWidget(choix_);
+    Pile::rangee(this, {}, {choix_});
     hide();
     connect(choix_, &ChoixSegmente::choisi, this, [this](int indice) {
         montreLesSuivants_ = indice == 1;

@@ -2,11 +2,10 @@
 
 #include "composants/Alerte.h"
 #include "composants/Boutons.h"
+#include "composants/Pile.h"
 #include "model/Fichier.h"
 
-#include <QHBoxLayout>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace Quillet {
 
@@ -31,21 +30,9 @@ void FeuilleDeReleve::composer(QWidget *page, const QString &enregistrer, const 
         }
     });
 
-    auto *boutons = new QHBoxLayout;
-    boutons->addStretch(1);
-    boutons->addWidget(plusTard);
-    boutons->addWidget(garder);
-    auto *pied = new QVBoxLayout;
-    pied->setContentsMargins(marge, 14, marge, 16);
-    pied->setSpacing(10);
-    pied->addWidget(erreur);
-    pied->addLayout(boutons);
-    auto *colonne = new QVBoxLayout(this);
-    colonne->setContentsMargins(0, 0, 0, 0);
-    colonne->setSpacing(0);
-    colonne->addWidget(page, 1);
-    colonne->addWidget(filet(Qt::Horizontal));
-    colonne->addLayout(pied);
+    QBoxLayout *boutons = Pile::rangee({}, {Pile::reste(), plusTard, garder});
+    QBoxLayout *pied = Pile::colonne({.marges = {marge, 14, marge, 16}, .espace = 10}, {erreur, boutons});
+    Pile::colonne(this, {.espace = 0}, {{page, 1}, filet(Qt::Horizontal), pied});
     garder->setDefault(true);
 }
 
@@ -53,10 +40,7 @@ void FeuilleDeReleve::composerVide(QWidget *page)
 {
     QPushButton *fermer = Boutons::deFeuille(QStringLiteral("Fermer"));
     connect(fermer, &QPushButton::clicked, this, &QDialog::reject);
-    auto *colonne = new QVBoxLayout(this);
-    colonne->setContentsMargins(marge, marge, marge, marge);
-    colonne->addWidget(page, 1);
-    colonne->addWidget(fermer, 0, Qt::AlignHCenter);
+    Pile::colonne(this, {.marges = {marge, marge, marge, marge}}, {{page, 1}, {fermer, 0, Qt::AlignHCenter}});
 }
 
 } // namespace Quillet

@@ -4,6 +4,7 @@
 #include "composants/Formulaire.h"
 #include "composants/Libelle.h"
 #include "composants/PageAuClavier.h"
+#include "composants/Pile.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
 #include "textes/TextesVerifications.h"
@@ -14,11 +15,9 @@
 #include "ui/tarifs/ChoixTarifs.h"
 #include "ui/tarifs/LigneVerification.h"
 
-#include <QHBoxLayout>
 #include <QScrollBar>
 #include <QShowEvent>
 #include <QStyle>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
@@ -34,18 +33,13 @@ QLayout *aSaLargeur(QWidget *tableau, qsizetype zones)
 {
     constexpr int page = 100;
     const int prise = std::min(page, 27 + 20 * static_cast<int>(zones));
-    auto *rangee = new QHBoxLayout;
-    rangee->addWidget(tableau, prise);
-    rangee->addStretch(page - prise);
-    return rangee;
+    return Pile::rangee({}, {{tableau, prise}, Pile::reste(page - prise)});
 }
 
 QWidget *tableaux(const QList<TextesTarifs::Famille> &familles, const QList<TextesTarifs::Frais> &frais)
 {
     auto *tableaux = new QWidget;
-    auto *colonne = new QVBoxLayout(tableaux);
-    colonne->setContentsMargins(0, 0, 0, 0);
-    colonne->setSpacing(12);
+    QBoxLayout *colonne = Pile::colonne(tableaux, {.espace = 12});
     for (const TextesTarifs::Famille &famille : familles) {
         colonne->addWidget(Libelle::titreDeSection(famille.titre));
         colonne->addLayout(aSaLargeur(new CarteFamille(famille), famille.zones.size()));
@@ -71,28 +65,17 @@ VueTarifs::VueTarifs(const Contexte &contexte, QWidget *parent)
 {
     auto *contenu = new QWidget;
     TailleDuTexte::suivre(contenu, [contenu] { contenu->setMaximumWidth(Theme::aLaTaille(Theme::largeurDePage)); });
-    sections_ = new QVBoxLayout(contenu);
-    sections_->setContentsMargins(0, 0, 0, 0);
-    sections_->setSpacing(entreSections);
-    sections_->addWidget(controles());
-    sections_->addStretch(1);
-    auto *page = new QWidget;
-    auto *marges = new QHBoxLayout(page);
+    sections_ = Pile::colonne(contenu, {.espace = entreSections}, {controles(), Pile::reste()});
     const int ascenseur = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    marges->setContentsMargins(Theme::margeDePage, 24, Theme::margeDePage - ascenseur, 28);
-    marges->addWidget(contenu, 1);
-    marges->addStretch(0);
+    QWidget *page = Pile::enRangee({.marges = {Theme::margeDePage, 24, Theme::margeDePage - ascenseur, 28}},
+                                   {{contenu, 1}, Pile::reste(0)});
     auto *defilement = new PageAuClavier;
     defilement->setAccessibleName(QStringLiteral("Tarifs et frais"));
     defilement->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     defilement->setWidget(page);
     page->setAutoFillBackground(false); // the focus ring is painted behind it
 
-    auto *colonne = new QVBoxLayout(this);
-    colonne->setContentsMargins(0, 0, 0, 0);
-    colonne->setSpacing(0);
-    colonne->addWidget(enTete_);
-    colonne->addWidget(defilement, 1);
+    Pile::colonne(this, {.espace = 0}, {enTete_, {defilement, 1}});
     enTete_->ajouter(choix_);
     connect(choix_, &ChoixTarifs::choisi, this, &VueTarifs::actualiser);
     connect(&contexte_.catalogue, &Catalogue::change, this, &VueTarifs::actualiser);
@@ -107,13 +90,6 @@ QWidget *VueTarifs::controles()
     auto *groupe = new Formulaire::Groupe;
     groupe->ajouter(laPoste_);
     groupe->ajouter(paypal_);
-    auto *section = new QWidget;
-    auto *colonne = new QVBoxLayout(section);
-    colonne->setContentsMargins(0, 0, 0, 0);
-    colonne->setSpacing(12);
-    colonne->addWidget(Libelle::titreDeSection(QStringLiteral("Vérifications")));
-    colonne->addWidget(groupe);
-    colonne->addWidget(Libelle::note(TextesVerifications::rythme()));
     Verifications &verifications = contexte_.verifications;
     connect(laPoste_, &LigneVerification::verificationDemandee, &verifications, &Verifications::verifierLaPoste);
     connect(paypal_, &LigneVerification::verificationDemandee, &verifications, &Verifications::verifierPaypal);
@@ -121,7 +97,8 @@ QWidget *VueTarifs::controles()
             [this] { (new CarteNouveauxTarifs(contexte_, window()))->ouvrir(); });
     connect(paypal_, &LigneVerification::changementsDemandes, this,
             [this] { (new CarteNouveauxFrais(contexte_, window()))->ouvrir(); });
-    return section;
+    return Pile::enColonne({.espace = 12}, {Libelle::titreDeSection(QStringLiteral("Vérifications")), groupe,
+                                            Libelle::note(TextesVerifications::rythme())});
 }
 
 void VueTarifs::actualiser()

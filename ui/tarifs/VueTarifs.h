@@ -3,7 +3,7 @@
 #include "textes/TextesTarifs.h"
 #include "ui/EcranDeRubrique.h"
 
-class QVBoxLayout;
+class QBoxLayout;
 
 namespace Quillet {
 
@@ -32,7 +32,7 @@ private:
     ChoixTarifs *choix_;
     LigneVerification *laPoste_;
     LigneVerification *paypal_;
-    QVBoxLayout *sections_ = nullptr;
+    QBoxLayout *sections_ = nullptr;
     QWidget *tableaux_ = nullptr;
     QList<TextesTarifs::Famille> familles_; // as shown
     QList<TextesTarifs::Frais> frais_;      // the same
