@@ -3,6 +3,7 @@
 #include "composants/LecteurDEcran.h"
 #include "composants/Libelle.h"
 #include "composants/Partage.h"
+#include "composants/Pile.h"
 #include "composants/Place.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
@@ -12,10 +13,8 @@
 #include "ui/EcranDeRubrique.h"
 #include "ui/ListeRubriques.h"
 
-#include <QHBoxLayout>
 #include <QSplitter>
 #include <QStackedWidget>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -50,9 +49,7 @@ ContenuPrincipal::ContenuPrincipal(const Contexte &contexte, QWidget *parent)
       ecrans_(tous<Rubrique>.size(), nullptr)
 {
     QWidget *barre = barreLaterale();
-    auto *colonnes = new QHBoxLayout(this);
-    colonnes->setContentsMargins(0, 0, 0, 0);
-    colonnes->addWidget(Partage::entre(barre, detail_, barre, Theme::aLaTaille(barreIdeale)));
+    Pile::rangee(this, {}, {Partage::entre(barre, detail_, barre, Theme::aLaTaille(barreIdeale))});
 
     connect(rubriques_, &QListWidget::itemSelectionChanged, this, &ContenuPrincipal::changerDEcran);
     connect(&contexte_.catalogue, &Catalogue::change, this, &ContenuPrincipal::actualiser);
@@ -111,18 +108,13 @@ QSize ContenuPrincipal::minimumSizeHint() const
 
 QWidget *ContenuPrincipal::barreLaterale()
 {
-    auto *barre = new QWidget;
+    QWidget *barre = Pile::enColonne({.marges = {0, 14, 0, 0}, .espace = 0}, {{rubriques_, 1}, tarifsEnVigueur()});
     TailleDuTexte::suivre(barre, [this, barre] {
         barre->setMinimumWidth(std::max(barreMinimum, rubriques_->minimumSizeHint().width()));
         barre->setMaximumWidth(std::max(barre->minimumWidth(), Theme::aLaTaille(barreMaximum)));
     });
     barre->setAutoFillBackground(true);
     barre->setBackgroundRole(QPalette::AlternateBase);
-    auto *colonne = new QVBoxLayout(barre);
-    colonne->setContentsMargins(0, 14, 0, 0);
-    colonne->setSpacing(0);
-    colonne->addWidget(rubriques_, 1);
-    colonne->addWidget(tarifsEnVigueur());
     return barre;
 }
 
@@ -132,13 +124,7 @@ QWidget *ContenuPrincipal::tarifsEnVigueur()
     titre->setFont(Theme::enGras(Theme::legende()));
     enVigueur_->setFont(Theme::legende());
     enVigueur_->setWordWrap(true);
-    auto *bloc = new QWidget;
-    auto *lignes = new QVBoxLayout(bloc);
-    lignes->setContentsMargins(16, 16, 16, 16);
-    lignes->setSpacing(2);
-    lignes->addWidget(titre);
-    lignes->addWidget(enVigueur_);
-    return bloc;
+    return Pile::enColonne({.marges = {16, 16, 16, 16}, .espace = 2}, {titre, enVigueur_});
 }
 
 EcranDeRubrique *ContenuPrincipal::ecran(Rubrique rubrique)

@@ -3,6 +3,7 @@
 #include "composants/Dessin.h"
 #include "composants/Feuille.h"
 #include "composants/PageAuClavier.h"
+#include "composants/Pile.h"
 #include "composants/Place.h"
 #include "composants/Theme.h"
 #include "ui/documents/PageFacture.h"
@@ -92,9 +93,7 @@ void ApercuFacture::agrandir()
     auto *defilement = new PageAuClavier;
     defilement->setAccessibleName(vue->windowTitle());
     defilement->setWidget(page);
-    auto *colonne = new QVBoxLayout(vue);
-    colonne->setContentsMargins(0, 0, 0, 0);
-    colonne->addWidget(defilement);
+    Pile::colonne(vue, {}, {defilement});
     const QSize voulue = page->sizeHint() + QSize(defilement->verticalScrollBar()->sizeHint().width(), 0);
     vue->resize(voulue.boundedTo(Place::surLEcran(vue)));
     vue->ouvrir();

@@ -7,6 +7,7 @@
 #include "composants/Formulaire.h"
 #include "composants/Libelle.h"
 #include "composants/LigneDeTexte.h"
+#include "composants/Pile.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
 #include "composants/ZoneDeTexte.h"
@@ -16,11 +17,9 @@
 #include "ui/documents/ImpressionFacture.h"
 
 #include <QFileInfo>
-#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace Quillet {
 
@@ -69,25 +68,13 @@ QWidget *FicheFacture::formulaire()
     auto *vendeur = new Formulaire::Section(QStringLiteral("Vendeur"));
     vendeur->groupe()->ajouter(identite_);
 
-    auto *champs = new QWidget;
-    auto *colonne = new QVBoxLayout(champs);
-    colonne->setContentsMargins(20, 20, 20, 24);
-    colonne->setSpacing(22);
-    colonne->addWidget(facture);
-    colonne->addWidget(vendeur);
-    colonne->addStretch(1);
     auto *defilement = new Defilement;
-    defilement->setWidget(champs);
+    defilement->setWidget(
+        Pile::enColonne({.marges = {20, 20, 20, 24}, .espace = 22}, {facture, vendeur, Pile::reste()}));
     TailleDuTexte::suivre(defilement,
                           [defilement] { defilement->setMinimumWidth(Theme::aLaTaille(largeurDesChamps)); });
 
-    auto *page = new QWidget;
-    auto *cotes = new QHBoxLayout(page);
-    cotes->setContentsMargins(0, 0, 0, 0);
-    cotes->setSpacing(0);
-    cotes->addWidget(defilement, 1);
-    cotes->addWidget(sorties());
-    return page;
+    return Pile::enRangee({.espace = 0}, {{defilement, 1}, sorties()});
 }
 
 QWidget *FicheFacture::sorties()
@@ -100,16 +87,8 @@ QWidget *FicheFacture::sorties()
     connect(enregistrer, &QPushButton::clicked, this, &FicheFacture::enregistrer);
 
     issue_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long sentence must not widen the column
-    auto *sorties = new QWidget;
-    auto *colonne = new QVBoxLayout(sorties);
-    colonne->setContentsMargins(4, 24, 20, 24);
-    colonne->setSpacing(12);
-    colonne->addWidget(imprimer);
-    colonne->addWidget(enregistrer);
-    colonne->addWidget(apercu_, 0, Qt::AlignHCenter);
-    colonne->addWidget(issue_);
-    colonne->addStretch(1);
-    return sorties;
+    return Pile::enColonne({.marges = {4, 24, 20, 24}, .espace = 12},
+                           {imprimer, enregistrer, {apercu_, 0, Qt::AlignHCenter}, issue_, Pile::reste()});
 }
 
 void FicheFacture::montrer(const Calcul &calcul)

@@ -3,16 +3,15 @@
 #include "composants/Alerte.h"
 #include "composants/Boutons.h"
 #include "composants/Libelle.h"
+#include "composants/Pile.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
 #include "composants/ZoneDeTexte.h"
 #include "textes/TextesMiseAJour.h"
 #include "watch/MisesAJour.h"
 
-#include <QHBoxLayout>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace Quillet {
 
@@ -46,20 +45,12 @@ FeuilleMiseAJour::FeuilleMiseAJour(MisesAJour &misesAJour, QWidget *parent)
     notes_->setAccessibleName(QStringLiteral("Nouveautés"));
     action_->setDefault(true);
 
-    auto *boutons = new QHBoxLayout;
-    boutons->addStretch(1);
-    boutons->addWidget(retrait_);
-    boutons->addWidget(action_);
-    auto *colonne = new QVBoxLayout(this);
-    colonne->setContentsMargins(marge, marge, marge, 16);
-    colonne->setSpacing(12);
-    colonne->setSizeConstraint(QLayout::SetFixedSize); // as high as what it says
-    for (QWidget *partie : std::initializer_list<QWidget *>{titre_, detail_, progres_, notes_, alerte_}) {
+    for (QWidget *partie : std::initializer_list<QWidget *>{titre_, detail_, progres_, notes_, alerte_})
         TailleDuTexte::suivre(partie, [partie] { partie->setFixedWidth(Theme::aLaTaille(largeur)); });
-        colonne->addWidget(partie);
-    }
-    colonne->addSpacing(4);
-    colonne->addLayout(boutons);
+    QBoxLayout *boutons = Pile::rangee({}, {Pile::reste(), retrait_, action_});
+    Pile::colonne(this, {.marges = {marge, marge, marge, 16}, .espace = 12},
+                  {titre_, detail_, progres_, notes_, alerte_, Pile::blanc(4), boutons});
+    layout()->setSizeConstraint(QLayout::SetFixedSize); // as high as what it says
 
     connect(&misesAJour_, &MisesAJour::change, this, &FeuilleMiseAJour::actualiser);
     connect(action_, &QPushButton::clicked, &misesAJour_, &MisesAJour::telecharger);

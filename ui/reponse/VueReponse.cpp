@@ -6,6 +6,7 @@
 #include "composants/Formulaire.h"
 #include "composants/Icone.h"
 #include "composants/LigneDeTexte.h"
+#include "composants/Pile.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
 #include "documents/ReponseType.h"
@@ -17,12 +18,10 @@
 #include "ui/reponse/ChoixLangue.h"
 #include "ui/reponse/Mail.h"
 
-#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStackedWidget>
-#include <QVBoxLayout>
 
 namespace Quillet {
 
@@ -55,14 +54,7 @@ VueReponse::VueReponse(const Contexte &contexte, QWidget *parent)
       envoyer_(new QPushButton(Icone::icone(QStringLiteral("envelope")), QStringLiteral("Ouvrir dans Mail"))),
       pages_(new QStackedWidget)
 {
-    auto *ecran = new QWidget;
-    auto *cotes = new QHBoxLayout(ecran);
-    cotes->setContentsMargins(0, 0, 0, 0);
-    cotes->setSpacing(0);
-    cotes->addWidget(saisie());
-    cotes->addWidget(filet(Qt::Vertical));
-    cotes->addWidget(message(), 1);
-    pages_->addWidget(ecran);
+    pages_->addWidget(Pile::enRangee({.espace = 0}, {saisie(), filet(Qt::Vertical), {message(), 1}}));
     pages_->addWidget(
         new EtatVide(QStringLiteral("person.2"), QStringLiteral("Réponse impossible"),
                      QStringLiteral("Une réponse par vendeur : séparez %1.").arg(NomsVendeurs::livresDeChacun())));
@@ -94,14 +86,9 @@ QWidget *VueReponse::saisie()
     destinataire->groupe()->ajouter(Formulaire::seul(adresse_));
     destinataire->groupe()->ajouter(adresseRefusee_);
 
-    auto *saisie = new QWidget;
+    QWidget *saisie =
+        Pile::enColonne({.marges = {16, 20, 16, 20}, .espace = 22}, {coller, destinataire, Pile::reste()});
     saisie->setBackgroundRole(QPalette::AlternateBase);
-    auto *colonne = new QVBoxLayout(saisie);
-    colonne->setContentsMargins(16, 20, 16, 20);
-    colonne->setSpacing(22);
-    colonne->addWidget(coller);
-    colonne->addWidget(destinataire);
-    colonne->addStretch(1);
     auto *defilement = new Defilement;
     defilement->setWidget(saisie);
     TailleDuTexte::suivre(defilement, [defilement] { defilement->setFixedWidth(Theme::aLaTaille(largeurDeLaSaisie)); });
@@ -112,14 +99,9 @@ QWidget *VueReponse::message()
 {
     connect(envoyer_, &QPushButton::clicked, this, &VueReponse::ouvrirDansMail);
 
-    auto *message = new QWidget;
+    QWidget *message = Pile::enColonne({.marges = {20, 20, 20, 20}, .espace = 14},
+                                       {lienAbsent_, {apercu_, 1}, {envoyer_, 0, Qt::AlignLeft}});
     TailleDuTexte::suivre(message, [message] { message->setMinimumSize(Theme::aLaTaille(plusPetitMessage)); });
-    auto *colonne = new QVBoxLayout(message);
-    colonne->setContentsMargins(20, 20, 20, 20);
-    colonne->setSpacing(14);
-    colonne->addWidget(lienAbsent_);
-    colonne->addWidget(apercu_, 1);
-    colonne->addWidget(envoyer_, 0, Qt::AlignLeft);
     return message;
 }
 
