@@ -1,14 +1,10 @@
 #pragma once
 
-namespace Quillet {
-
 // What this process holds, in KiB.
-namespace Memoire {
+namespace Quillet::Memoire {
 
 double tas();        // allocated, and not given back
 double residente();  // of the machine's memory
 double auPlusHaut(); // the most it was
 
-} // namespace Memoire
-
-} // namespace Quillet
+} // namespace Quillet::Memoire

@@ -7,10 +7,8 @@ class QFontMetrics;
 class QPainter;
 class QRectF;
 
-namespace Quillet {
-
 // Figures in cells of one width, so that they line up whatever the font's own digits do.
-namespace Chiffres {
+namespace Quillet::Chiffres {
 
 int largeur(const QFontMetrics &mesures, QChar caractere);
 int largeur(const QFontMetrics &mesures, const QString &texte);
@@ -21,6 +19,4 @@ void peindre(QPainter &peintre, QChar caractere, double x, double ligneDeBase);
 // The whole text; vertically it is always centred.
 void peindre(QPainter &peintre, const QRectF &cadre, Qt::Alignment alignement, const QString &texte);
 
-} // namespace Chiffres
-
-} // namespace Quillet
+} // namespace Quillet::Chiffres

@@ -9,10 +9,8 @@
 class QPainter;
 class QWidget;
 
-namespace Quillet {
-
 // Shapes that several widgets paint alike.
-namespace Dessin {
+namespace Quillet::Dessin {
 
 // From `a` (part 0) to `b` (part 1); a spring may overshoot, the colour does not.
 QColor melange(const QColor &a, const QColor &b, double part);
@@ -50,6 +48,4 @@ void ombreDouce(QPainter &peintre, const QRectF &capsule);
 // px.
 QPixmap ombre(const QSizeF &taille, qreal rayon, const QColor &couleur, qreal densite);
 
-} // namespace Dessin
-
-} // namespace Quillet
+} // namespace Quillet::Dessin

@@ -5,16 +5,12 @@
 class QPainter;
 class QStyleOptionSlider;
 
-namespace Quillet {
-
 // A slim scroll bar: a handle alone, without buttons at its ends.
-namespace DessinAscenseur {
+namespace Quillet::DessinAscenseur {
 
 // Nothing where there is nothing to scroll.
 void peindre(QPainter &peintre, const QStyleOptionSlider &option);
 // Where a part of it stands; empty for the parts that it does not have.
 QRect partie(const QStyleOptionSlider &option, QStyle::SubControl partie);
 
-} // namespace DessinAscenseur
-
-} // namespace Quillet
+} // namespace Quillet::DessinAscenseur

@@ -5,10 +5,8 @@
 class QFont;
 class QWidget;
 
-namespace Quillet {
-
 // The size of the text may change while the program runs.
-namespace TailleDuTexte {
+namespace Quillet::TailleDuTexte {
 
 // The program's font, at once in all that is open: a font of its own that a widget was given keeps its proportion.
 void changer(const QFont &police);
@@ -16,6 +14,4 @@ void changer(const QFont &police);
 // Does it now, and again at each change of the text's size: for a length that a widget is told, and does not work out.
 void suivre(QWidget *widget, std::function<void()> regle);
 
-} // namespace TailleDuTexte
-
-} // namespace Quillet
+} // namespace Quillet::TailleDuTexte

@@ -6,10 +6,8 @@
 #include <QSize>
 #include <QStringList>
 
-namespace Quillet {
-
 // Colours and type shared by every screen: a bookseller's desk, by day and by night.
-namespace Theme {
+namespace Quillet::Theme {
 
 enum class Mode { clair, sombre };
 enum class Contraste { normal, renforce };
@@ -61,6 +59,4 @@ constexpr int rayonGroupe = 10;
 constexpr int rayonControle = 8;
 constexpr int rayonCouverture = 3;
 
-} // namespace Theme
-
-} // namespace Quillet
+} // namespace Quillet::Theme

@@ -5,11 +5,9 @@
 #include <QString>
 #include <QStringList>
 
-namespace Quillet {
-
 // The pictures of covers in a folder. A book's `couverture` and a file go together when they are the same but for
 // what follows the last dot.
-namespace Couvertures {
+namespace Quillet::Couvertures {
 
 QString nom(const QString &fichier);
 // What may follow the dot, in lower case.
@@ -17,6 +15,4 @@ QStringList formats();
 // Files by that name.
 QHash<QString, QString> fichiers(const QDir &dossier);
 
-} // namespace Couvertures
-
-} // namespace Quillet
+} // namespace Quillet::Couvertures

@@ -9,10 +9,8 @@
 
 #include <optional>
 
-namespace Quillet {
-
 // Every conversion of amounts, weights, rates and days into text. Separators are those of the CLDR.
-namespace Format {
+namespace Quillet::Format {
 
 inline constexpr QChar absent(u'—'); // in place of an amount that is missing
 // As it is spoken: the dash would be silence.
@@ -33,6 +31,4 @@ QString pourcentage(Taux taux);     // 3,49 %
 QString date(QDate jour);       // 14 mars 2025, 1er mars 2025
 QString date(const Jour &jour); // one that no calendar has, as it was written
 
-} // namespace Format
-
-} // namespace Quillet
+} // namespace Quillet::Format

@@ -19,10 +19,8 @@
 #include <optional>
 #include <tuple>
 
-namespace Quillet {
-
 // Plain records to JSON and back. A record lists its fields once, in `champs<Record>`. Everything else follows.
-namespace Json {
+namespace Quillet::Json {
 
 template <typename Enregistrement, typename Type>
 struct Champ
@@ -263,6 +261,4 @@ QJsonValue ecrire(const QMap<Cle<Sorte>, T> &valeur)
     return objet;
 }
 
-} // namespace Json
-
-} // namespace Quillet
+} // namespace Quillet::Json

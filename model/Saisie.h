@@ -7,10 +7,8 @@
 #include <optional>
 #include <variant>
 
-namespace Quillet {
-
 // What a seller typed into a field, read as a quantity, or the sentence that refuses it.
-namespace Saisie {
+namespace Quillet::Saisie {
 
 struct Refus
 {
@@ -29,6 +27,4 @@ Lecture<std::optional<Grammes>> poids(const QString &texte);
 QString ecrit(Centimes prix);
 QString ecrit(const std::optional<Grammes> &poids);
 
-} // namespace Saisie
-
-} // namespace Quillet
+} // namespace Quillet::Saisie

@@ -2,10 +2,8 @@
 
 #include "model/Reglages.h"
 
-namespace Quillet {
-
 // How the sellers are called on the screens.
-namespace NomsVendeurs {
+namespace Quillet::NomsVendeurs {
 
 // "Davrel", "Mireva".
 QString court(Vendeur vendeur);
@@ -16,6 +14,4 @@ QString complet(Vendeur vendeur, const Reglages &reglages);
 // The seller's web site; the short name when the seller has none.
 QString site(Vendeur vendeur, const Reglages &reglages);
 
-} // namespace NomsVendeurs
-
-} // namespace Quillet
+} // namespace Quillet::NomsVendeurs

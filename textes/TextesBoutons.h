@@ -4,10 +4,8 @@
 
 #include <QString>
 
-namespace Quillet {
-
 // What the books' screen says of the PayPal buttons: texts only, laid out by the widgets.
-namespace TextesBoutons {
+namespace Quillet::TextesBoutons {
 
 // One button of a book.
 struct Ligne
@@ -36,6 +34,4 @@ QString situation(const Livre &livre, qsizetype aReporter);
 // "14 livres · 12 prix à reporter", of the whole catalogue.
 QString bilan(qsizetype livres, qsizetype aReporter);
 
-} // namespace TextesBoutons
-
-} // namespace Quillet
+} // namespace Quillet::TextesBoutons

@@ -8,10 +8,8 @@
 
 #include <optional>
 
-namespace Quillet {
-
 // What the documents' screens say: texts only, laid out by the widgets.
-namespace TextesDocuments {
+namespace Quillet::TextesDocuments {
 
 // One value of the customs form.
 struct Champ
@@ -56,6 +54,4 @@ QString vendeur(const IdentiteVendeur &vendeur);
 // That the seller has no registration number; empty when there is one.
 QString sansSiret(const IdentiteVendeur &vendeur);
 
-} // namespace TextesDocuments
-
-} // namespace Quillet
+} // namespace Quillet::TextesDocuments

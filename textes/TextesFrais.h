@@ -5,16 +5,12 @@
 
 #include <QString>
 
-namespace Quillet {
-
 // PayPal's fees in words.
-namespace TextesFrais {
+namespace Quillet::TextesFrais {
 
 // "Europe (EEE)"
 QString region(RegionPaypal region);
 // "3,49 % + 0,35 €"
 QString formule(Taux taux, Centimes fixe);
 
-} // namespace TextesFrais
-
-} // namespace Quillet
+} // namespace Quillet::TextesFrais

@@ -4,10 +4,8 @@
 
 #include <QString>
 
-namespace Quillet {
-
 // What is done to a book, in the words in which it is undone.
-namespace TextesGestes {
+namespace Quillet::TextesGestes {
 
 // "prix de « Le Phare de sel »", and so on.
 QString prix(const Livre &livre);
@@ -17,6 +15,4 @@ QString garde(const Livre &livre);
 QString report(const Livre &livre, qsizetype boutons);
 QString retour();
 
-} // namespace TextesGestes
-
-} // namespace Quillet
+} // namespace Quillet::TextesGestes

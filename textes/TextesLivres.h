@@ -4,10 +4,8 @@
 
 #include <QString>
 
-namespace Quillet {
-
 // What the books' screen and the cards of an order say of the books: texts only, laid out by the widgets.
-namespace TextesLivres {
+namespace Quillet::TextesLivres {
 
 // "14 livres"
 QString nombre(qsizetype livres);
@@ -23,6 +21,4 @@ QString epuise();
 // The whole row, for a screen reader.
 QString enMots(const Livre &livre);
 
-} // namespace TextesLivres
-
-} // namespace Quillet
+} // namespace Quillet::TextesLivres

@@ -6,10 +6,8 @@
 
 #include <optional>
 
-namespace Quillet {
-
 // What the sheet of updates says: texts only, laid out by the widget.
-namespace TextesMiseAJour {
+namespace Quillet::TextesMiseAJour {
 
 struct Page
 {
@@ -25,6 +23,4 @@ struct Page
 // `installee`: the version that runs.
 Page page(const MisesAJour::Etat &etat, const QString &installee);
 
-} // namespace TextesMiseAJour
-
-} // namespace Quillet
+} // namespace Quillet::TextesMiseAJour

@@ -8,10 +8,8 @@
 
 #include <optional>
 
-namespace Quillet {
-
 // What the order screen and its summary say of one order: texts only, laid out by the widgets.
-namespace TextesRecapitulatif {
+namespace Quillet::TextesRecapitulatif {
 
 struct Ligne
 {
@@ -57,6 +55,4 @@ QString detailFrais(const Calcul &calcul, const FraisPaypal &frais);
 std::optional<LienDePaiement> lienDePaiement(const Calcul &calcul, const Reglages &reglages, const BonDeCommande &bon);
 QString libelleDeLaReponse(Langue langue);
 
-} // namespace TextesRecapitulatif
-
-} // namespace Quillet
+} // namespace Quillet::TextesRecapitulatif

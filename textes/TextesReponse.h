@@ -2,16 +2,12 @@
 
 #include "documents/ReponseType.h"
 
-namespace Quillet {
-
 // What the reply's screen says beside the message: texts only, laid out by the widgets.
-namespace TextesReponse {
+namespace Quillet::TextesReponse {
 
 // That the link is still to be pasted; empty once it is.
 QString lienAbsent(const ReponseType &reponse);
 // That the text typed cannot be the recipient; empty when it can, or when there is none.
 QString adresseRefusee(const QString &adresse);
 
-} // namespace TextesReponse
-
-} // namespace Quillet
+} // namespace Quillet::TextesReponse

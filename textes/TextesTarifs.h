@@ -8,10 +8,8 @@
 
 #include <optional>
 
-namespace Quillet {
-
 // What the tariffs screen says of the schedules and fees: texts only, laid out by the widgets.
-namespace TextesTarifs {
+namespace Quillet::TextesTarifs {
 
 struct Prix
 {
@@ -58,6 +56,4 @@ QList<Famille> familles(const TarifsColissimo &tarifs, const std::optional<Calcu
 // The five figures, in the order in which PayPal shows them. "—" for an extra rate that is missing.
 QList<Frais> frais(const FraisPaypal &frais);
 
-} // namespace TextesTarifs
-
-} // namespace Quillet
+} // namespace Quillet::TextesTarifs

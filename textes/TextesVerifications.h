@@ -7,10 +7,8 @@
 #include <QList>
 #include <QString>
 
-namespace Quillet {
-
 // What the screens say of the two weekly checks, and of what they found: texts only, laid out by the widgets.
-namespace TextesVerifications {
+namespace Quillet::TextesVerifications {
 
 // One check: what it watches, and where it stands.
 struct Ligne
@@ -50,6 +48,4 @@ QString compte(const QList<EcartTarif> &ecarts, const TarifsColissimo &nouveaux)
 // From when they are in force, and when they were read.
 QString dates(const TarifsColissimo &nouveaux);
 
-} // namespace TextesVerifications
-
-} // namespace Quillet
+} // namespace Quillet::TextesVerifications

@@ -5,10 +5,8 @@
 #include <QString>
 #include <QStringList>
 
-namespace Quillet {
-
 // What the machine lacks to show the window as it was drawn. Quillet works without: nothing else tells.
-namespace ControlePoste {
+namespace Quillet::ControlePoste {
 
 // What a system brings beside the libraries.
 struct Moyens
@@ -25,6 +23,4 @@ Moyens moyens();
 // A sentence for each lack. `couvertures`: files.
 QStringList manques(const Moyens &moyens, const QStringList &couvertures);
 
-} // namespace ControlePoste
-
-} // namespace Quillet
+} // namespace Quillet::ControlePoste

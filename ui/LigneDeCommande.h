@@ -5,10 +5,8 @@
 
 #include <optional>
 
-namespace Quillet {
-
 // What the program answers to a command line without opening a window, hence without a display.
-namespace LigneDeCommande {
+namespace Quillet::LigneDeCommande {
 
 struct Reponse
 {
@@ -19,6 +17,4 @@ struct Reponse
 // None: the command line asks for the window. `arguments`: all of them, the program's name first.
 std::optional<Reponse> repondre(const QStringList &arguments);
 
-} // namespace LigneDeCommande
-
-} // namespace Quillet
+} // namespace Quillet::LigneDeCommande

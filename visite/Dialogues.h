@@ -8,10 +8,8 @@
 class QDialog;
 class QWidget;
 
-namespace Quillet {
-
 // The sheets and dialogs that open over a window, and how a person answers those that hold the program up.
-namespace Dialogues {
+namespace Quillet::Dialogues {
 
 // The one in front; null when there is none.
 QDialog *devant();
@@ -25,6 +23,4 @@ bool cliquerPuisRepondre(QWidget *fenetre, const QString &bouton, std::initializ
 Reponse renoncer();
 Reponse enregistrerSous(const QString &chemin);
 
-} // namespace Dialogues
-
-} // namespace Quillet
+} // namespace Quillet::Dialogues

@@ -4,11 +4,9 @@
 
 class QWidget;
 
-namespace Quillet {
-
 // Finds the controls of a window by what a screen reader says of them, and works them as a person does. Each returns
 // false, and says which control is missing, when there is none.
-namespace Ecran {
+namespace Quillet::Ecran {
 
 // The first control that can be seen and has this name (or text); the name may go on after a comma: "Le Phare de sel"
 // finds "Le Phare de sel, 18,00 €". Null when there is none.
@@ -24,6 +22,4 @@ bool montre(const QWidget *fenetre, const QString &texte);
 // The text on the right of a label; empty when the label is not on the screen.
 QString valeurEnFaceDe(const QWidget *fenetre, const QString &libelle);
 
-} // namespace Ecran
-
-} // namespace Quillet
+} // namespace Quillet::Ecran

@@ -6,10 +6,8 @@
 
 class QWidget;
 
-namespace Quillet {
-
 // Whether a window can be read: looked for in what it paints.
-namespace Lisibilite {
+namespace Quillet::Lisibilite {
 
 constexpr double contrasteMinimal = 4.5; // of WCAG's level AA, for text
 constexpr double contrasteRenforce = 7;  // of its level AAA
@@ -31,6 +29,4 @@ QList<Contraste> contrastes(QWidget *fenetre);
 // A sentence for each text that is cut or covers another, each control that no scrolling brings into sight.
 QStringList coupes(QWidget *fenetre);
 
-} // namespace Lisibilite
-
-} // namespace Quillet
+} // namespace Quillet::Lisibilite

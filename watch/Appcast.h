@@ -7,10 +7,8 @@
 #include <QString>
 #include <QUrl>
 
-namespace Quillet {
-
 // The feed of updates, in Sparkle's format.
-namespace Appcast {
+namespace Quillet::Appcast {
 
 // Of a package, in bytes: the signature is checked over the whole of it, in memory.
 inline constexpr qint64 longueurMaximale = qint64{64} << 20;
@@ -37,6 +35,4 @@ std::optional<Parution> aProposer(const QList<Parution> &parutions, const Numero
 // What is new, as plain text: HTML loses its tags, its paragraphs and lists become lines.
 QString notes(const QString &description);
 
-} // namespace Appcast
-
-} // namespace Quillet
+} // namespace Quillet::Appcast

@@ -4,10 +4,8 @@
 
 #include <limits>
 
-namespace Quillet {
-
 // The small parts of the patterns, each taking exactly what ICU's engine lets it take.
-namespace Signes {
+namespace Quillet::Signes {
 
 // A literal, in ASCII and lower case, whatever the case of the text: where it ends when it stands here, else -1.
 qsizetype finDuLitteral(QStringView texte, qsizetype place, QStringView litteral);
@@ -20,6 +18,4 @@ qsizetype finDesChiffres(QStringView texte, qsizetype place, int auPlus = std::n
 // "\s*": past the blanks that stand here.
 qsizetype finDesBlancs(QStringView texte, qsizetype place);
 
-} // namespace Signes
-
-} // namespace Quillet
+} // namespace Quillet::Signes

@@ -6,12 +6,10 @@
 
 #include <limits>
 
-namespace Quillet {
-
 // Pages read as a few regular expressions of ICU's dialect, without case, would read
 // them: `tests/watch/tst_texte_html` holds these against their patterns. Time grows with the length of the text
 // alone, however the page is built, so that none can freeze the window.
-namespace TexteHTML {
+namespace Quillet::TexteHTML {
 
 using Rangee = QStringList; // the cells' texts
 using Tableau = QList<Rangee>;
@@ -26,6 +24,4 @@ QList<Tableau> tableaux(QStringView html);
 QList<QStringList> groupes(const QString &motif, const QString &texte,
                            qsizetype auPlus = std::numeric_limits<qsizetype>::max());
 
-} // namespace TexteHTML
-
-} // namespace Quillet
+} // namespace Quillet::TexteHTML

@@ -6,10 +6,8 @@
 
 #include <functional>
 
-namespace Quillet {
-
 // The system calls of another process, one of which is made to fail, or to be its last.
-namespace Appels {
+namespace Quillet::Appels {
 
 // In the child: said first of all, then around what is to be watched.
 void seLaisserSuivre();
@@ -30,6 +28,4 @@ Suivi suivre(pid_t enfant, Disque disque, int rang, int erreur);
 // Of the number, as the kernel calls it.
 QByteArray nom(long appel);
 
-} // namespace Appels
-
-} // namespace Quillet
+} // namespace Quillet::Appels

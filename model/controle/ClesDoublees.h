@@ -4,10 +4,8 @@
 #include <QList>
 #include <QString>
 
-namespace Quillet {
-
 // Keys that one object of a JSON text has twice: reading takes the last without a word.
-namespace ClesDoublees {
+namespace Quillet::ClesDoublees {
 
 struct Cle
 {
@@ -18,6 +16,4 @@ struct Cle
 // Of a text known to be valid.
 QList<Cle> dans(const QByteArray &json);
 
-} // namespace ClesDoublees
-
-} // namespace Quillet
+} // namespace Quillet::ClesDoublees

@@ -14,11 +14,9 @@
 
 #include <utility>
 
-namespace Quillet {
-
 // What the content of each file must keep to, beyond ReglesCommunes: what the program takes for granted, and what would
 // go wrong without a word. Each notes its mistakes at their place.
-namespace Regles {
+namespace Quillet::Regles {
 
 // Schedules by the name of their file.
 using TarifsParFichier = QList<std::pair<QString, TarifsColissimo>>;
@@ -38,6 +36,4 @@ void reglages(const Reglages &reglages, const Json::Lieu &lieu);
 void destinations(const QList<Destination> &destinations, const TarifsParFichier &tarifs, const Json::Lieu &lieu);
 void livres(const QList<Livre> &livres, const Reperes &reperes, const Json::Lieu &lieu);
 
-} // namespace Regles
-
-} // namespace Quillet
+} // namespace Quillet::Regles

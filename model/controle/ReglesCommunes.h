@@ -9,11 +9,9 @@
 #include <algorithm>
 #include <array>
 
-namespace Quillet {
-
 // What holds for every value of its kind, wherever it stands: texts say something, quantities are not negative, links
 // open (the program follows https only).
-namespace ReglesCommunes {
+namespace Quillet::ReglesCommunes {
 
 // The texts that a record may leave empty: a book may have neither picture nor ISBN.
 template <typename Enregistrement>
@@ -123,6 +121,4 @@ auto codes(const QList<T> &liste)
     return codes.contains(decltype(T::code)()) ? decltype(codes)() : codes;
 }
 
-} // namespace ReglesCommunes
-
-} // namespace Quillet
+} // namespace Quillet::ReglesCommunes

@@ -4,10 +4,8 @@
 
 #include <random>
 
-namespace Quillet {
-
 // What TexteHTML and Nombres promise, said with the patterns themselves and run by ICU's engine: slow, and true.
-namespace Motifs {
+namespace Quillet::Motifs {
 
 QString texte(const QString &html);
 QList<TexteHTML::Tableau> tableaux(const QString &html);
@@ -18,6 +16,4 @@ std::optional<qint64> grammes(const QString &texte);
 // closings, but not always.
 QString fragment(std::mt19937 &hasard, const QStringList &morceaux);
 
-} // namespace Motifs
-
-} // namespace Quillet
+} // namespace Quillet::Motifs

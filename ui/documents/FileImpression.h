@@ -8,11 +8,9 @@
 
 class QPrinter;
 
-namespace Quillet {
-
 // The system's print queues (CUPS), whose own answer is believed: Qt's printer says success even when the queue
 // refused the job or no server runs.
-namespace FileImpression {
+namespace Quillet::FileImpression {
 
 // What the job asks for: the copies and colours chosen, on A4, scaled to fit, never turned.
 QList<std::pair<QByteArray, QByteArray>> options(const QPrinter &choix);
@@ -21,6 +19,4 @@ QList<std::pair<QByteArray, QByteArray>> options(const QPrinter &choix);
 // is silent. Throws Echec, which says in French why the queue did not take it.
 void envoyer(const QByteArray &pdf, const QString &titre, const QPrinter &choix);
 
-} // namespace FileImpression
-
-} // namespace Quillet
+} // namespace Quillet::FileImpression

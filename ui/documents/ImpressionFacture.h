@@ -8,10 +8,8 @@
 
 class QWidget;
 
-namespace Quillet {
-
 // How an invoice leaves the program: on paper or as a file.
-namespace ImpressionFacture {
+namespace Quillet::ImpressionFacture {
 
 // The page as a PDF document of one page. Throws Echec.
 QByteArray pdf(const Facture &facture);
@@ -24,6 +22,4 @@ bool imprimer(const Facture &facture, int exemplaires, QWidget *parent);
 // documents when that folder is not there.
 std::optional<QString> enregistrer(const Facture &facture, const QString &dossier, QWidget *parent);
 
-} // namespace ImpressionFacture
-
-} // namespace Quillet
+} // namespace Quillet::ImpressionFacture

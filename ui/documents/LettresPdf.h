@@ -4,17 +4,13 @@
 #include <QFont>
 #include <QString>
 
-namespace Quillet {
-
 // The letters that a PDF gives to those who search or copy its text. Qt has a glyph stand for the first character that
 // shares it: where a typeface draws them alike, an apostrophe comes out as the letter U+02BC, a Greek iota as a Latin
 // one.
-namespace LettresPdf {
+namespace Quillet::LettresPdf {
 
 // The same document, whose glyphs stand for the characters of `ecrit`: all that it shows, drawn in `police`.
 // Throws Echec when the document cannot be read.
 QByteArray retablir(const QByteArray &document, const QString &ecrit, const QFont &police);
 
-} // namespace LettresPdf
-
-} // namespace Quillet
+} // namespace Quillet::LettresPdf

@@ -3,13 +3,9 @@
 #include <QByteArray>
 #include <QString>
 
-namespace Quillet {
-
 // What a PDF says of itself. Its metadata packet (XMP) is the only place where a QPdfWriter takes an author.
-namespace MetadonneesPdf {
+namespace Quillet::MetadonneesPdf {
 
 QByteArray paquet(const QString &titre, const QString &auteur);
 
-} // namespace MetadonneesPdf
-
-} // namespace Quillet
+} // namespace Quillet::MetadonneesPdf

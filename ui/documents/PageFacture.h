@@ -7,10 +7,8 @@
 
 class QPainter;
 
-namespace Quillet {
-
 // The invoice as one A4 page, painted alike on the screen, in a PDF and on paper.
-namespace PageFacture {
+namespace Quillet::PageFacture {
 
 struct Couleurs
 {
@@ -30,6 +28,4 @@ void peindre(QPainter &peintre, const Facture &facture, const Couleurs &couleurs
 // All that is written there.
 QString textes(const Facture &facture);
 
-} // namespace PageFacture
-
-} // namespace Quillet
+} // namespace Quillet::PageFacture

@@ -4,16 +4,12 @@
 
 #include <optional>
 
-namespace Quillet {
-
 // The way out through the user's mail program.
-namespace Mail {
+namespace Quillet::Mail {
 
 // Opens a new message, ready to send. `a` is handed over only when it is one plain address. The first occurrence of
 // `enGras` in `corps` is bold, where the mail program takes styled text. Without any mail program, does nothing.
 // Throws Echec when there is one that does not start.
 void ecrire(const QString &a, const QString &sujet, const QString &corps, const std::optional<QString> &enGras);
 
-} // namespace Mail
-
-} // namespace Quillet
+} // namespace Quillet::Mail
