@@ -150,6 +150,11 @@ QString Format::pourcentage(Taux taux)
     return formater(formateur, taux.valeur(), 2) + QStringLiteral(" %");
 }
 
+QString Format::iso(QDate jour)
+{
+    return Jour(jour).texte();
+}
+
 QString Format::date(QDate jour)
 {
     static const std::unique_ptr<const icu::SimpleDateFormat> formateur = formateurDeDate();

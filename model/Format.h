@@ -28,6 +28,7 @@ QString palier(Grammes jusqua);     // 2 kg for whole kilograms, else 1500 g: ne
 QString jusqua(Grammes palier);     // jusqu’à 2 kg
 QString pourcentage(Taux taux);     // 3,49 %
 
+QString iso(QDate jour);        // 2025-03-14
 QString date(QDate jour);       // 14 mars 2025, 1er mars 2025
 QString date(const Jour &jour); // one that no calendar has, as it was written
 

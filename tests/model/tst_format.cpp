@@ -51,8 +51,10 @@ private slots:
                  {"2025-03-01", "1er mars 2025"},
                  {"2026-08-10", "10 août 2026"},
                  {"1500-02-28", "28 février 1500"},
-             })
+             }) {
             QCOMPARE(Format::date(Jour(iso)), attendu);
+            QCOMPARE(Format::iso(Jour(iso).date()), iso);
+        }
 
         for (const char *intacte : {"", "2025-13-40", "2026-02-31", "2026-2-03", " 2026-02-03", "2026-02-03T10:00",
                                     "+026-02-03", "2026/02/03", "demain"})
