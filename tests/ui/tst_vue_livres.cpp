@@ -144,7 +144,10 @@ private slots:
             return cas.fenetre()->contenu()->rubrique() == Rubrique::commande;
         };
         const QList<std::function<bool(const BancLivres &)>> sorties{
-            [](const BancLivres &cas) { return cas.fenetre()->close(); },
+            [](const BancLivres &cas) {
+                QCoreApplication::sendPostedEvents();
+                return cas.fenetre()->close();
+            },
             [=](const BancLivres &cas) {
                 cas.fenetre()->contenu()->montrer(Rubrique::commande);
                 return partie(cas);

@@ -27,8 +27,6 @@
 #include <QStyle>
 #include <QToolButton>
 
-#include <utility>
-
 namespace Quillet {
 
 namespace {
@@ -156,17 +154,16 @@ void VueLivres::montrerAnnulation()
 
 bool VueLivres::conclure()
 {
-    if (std::exchange(retenu_, false))
-        echec_->montrer({});
+    if (vientDEchouer_)
+        return false;
+    echec_->montrer({});
     fiche_->conclure();
-    retenu_ = !echec_->isHidden();
-    return !retenu_;
+    return echec_->isHidden();
 }
 
 // Screen, memory and file agree afterwards, whatever came of it.
 void VueLivres::tenter(const std::function<void()> &geste)
 {
-    retenu_ = false;
     QString echec;
     try {
         geste();
@@ -174,8 +171,12 @@ void VueLivres::tenter(const std::function<void()> &geste)
         echec = QStringLiteral("Modification non enregistrée : %1").arg(erreur.texte());
     }
     echec_->montrer(echec);
-    if (!echec.isEmpty())
-        actualiser();
+    if (echec.isEmpty())
+        return;
+    actualiser();
+    vientDEchouer_ = true;
+    const auto oublier = [this] { vientDEchouer_ = false; };
+    QMetaObject::invokeMethod(this, oublier, Qt::QueuedConnection);
 }
 
 void VueLivres::revenir()

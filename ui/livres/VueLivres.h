@@ -49,7 +49,7 @@ private:
     VoletLivres *volet_;
     FicheLivre *fiche_;
     Alerte *echec_;
-    bool retenu_ = false; // the failure in sight has kept the screen: once is enough
+    bool vientDEchouer_ = false; // within the gesture under way: a click that leaves takes the focus from a field first
     QStackedWidget *place_ = nullptr;
     QToolButton *annuler_;
     QToolButton *retablir_;
