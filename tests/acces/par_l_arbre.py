@@ -139,7 +139,8 @@ def tenir_les_livres(quillet, compte):
         agir(trouver(trouver(quillet, "list", "Livres"), "list item", "Les Marées lentes"), "Toggle")
         attendre(lambda: montre(quillet, "3 prix à reporter"), "la fiche ne suit pas le choix")
     with compte.etape("Les filtres ont leur nom et leur état"):
-        exiger(a_l_etat(trouver(quillet, "radio button", "Tous"), "CHECKED"), "Vendeur")
+        tous = trouver(quillet, "radio button", "Tous")
+        exiger(a_l_etat(tous, "CHECKED") and lisible(tous.get_parent().get_name()) == "Vendeur", "Vendeur")
         exiger(lisible(trouver(quillet, "combo box", "État").get_name()) == "Tous les livres", "État")
     with compte.etape("Un prix refusé dit pourquoi"):
         ecrire(quillet, "Prix, en euros", "zut")
