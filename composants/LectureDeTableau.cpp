@@ -14,20 +14,22 @@ QAccessibleInterface *lu(QWidget *widget)
     return QAccessible::queryAccessibleInterface(widget);
 }
 
-// A cell, or the head of a column.
+// A cell, or the head of a column. The table is asked anew each time: while it goes, its cells are widgets like others.
 class Cellule : public QAccessibleWidget, public QAccessibleTableCellInterface
 {
 public:
-    Cellule(QWidget *cellule, Tableau &tableau) : QAccessibleWidget(cellule), tableau_(tableau) {}
+    using QAccessibleWidget::QAccessibleWidget;
 
     void *interface_cast(QAccessible::InterfaceType type) override
     {
-        return type == QAccessible::TableCellInterface && !estUneTete()
+        return type == QAccessible::TableCellInterface && place() && !estUneTete()
                    ? static_cast<QAccessibleTableCellInterface *>(this)
                    : QAccessibleWidget::interface_cast(type);
     }
     [[nodiscard]] QAccessible::Role role() const override
     {
+        if (!place())
+            return QAccessibleWidget::role();
         return estUneTete() ? QAccessible::ColumnHeader : QAccessible::Cell;
     }
     // All that is written in it.
@@ -43,53 +45,62 @@ public:
         return mots.join(QStringLiteral(", "));
     }
 
-    [[nodiscard]] int columnIndex() const override { return tableau_.place(widget()).x(); }
+    [[nodiscard]] int columnIndex() const override { return place() ? place()->colonne : -1; }
     [[nodiscard]] int rowIndex() const override
     {
-        return static_cast<int>(tableau_.rangees().indexOf(tableau_.place(widget()).y()));
+        return place() ? static_cast<int>(tableau()->rangees().indexOf(place()->rangee)) : -1;
     }
     [[nodiscard]] int columnExtent() const override { return 1; }
     [[nodiscard]] int rowExtent() const override { return 1; }
     [[nodiscard]] QList<QAccessibleInterface *> columnHeaderCells() const override
     {
-        return {lu(tableau_.cellule(0, columnIndex()))};
+        return place() ? QList{lu(tableau()->cellule(0, columnIndex()))} : QList<QAccessibleInterface *>();
     }
     [[nodiscard]] QList<QAccessibleInterface *> rowHeaderCells() const override { return {}; }
-    [[nodiscard]] QAccessibleInterface *table() const override { return lu(&tableau_); }
+    [[nodiscard]] QAccessibleInterface *table() const override
+    {
+        return place() ? lu(widget()->parentWidget()) : nullptr;
+    }
     [[nodiscard]] bool isSelected() const override { return false; }
 
 private:
-    [[nodiscard]] bool estUneTete() const { return tableau_.place(widget()).y() == 0; }
-
-    Tableau &tableau_; // its parent
+    [[nodiscard]] const Tableau *tableau() const { return qobject_cast<const Tableau *>(widget()->parentWidget()); }
+    [[nodiscard]] std::optional<Tableau::Place> place() const
+    {
+        return tableau() ? tableau()->place(widget()) : std::nullopt;
+    }
+    [[nodiscard]] bool estUneTete() const { return place() && place()->rangee == 0; }
 };
 
 class Lecture : public QAccessibleWidget, public QAccessibleTableInterface
 {
 public:
-    explicit Lecture(Tableau &tableau) : QAccessibleWidget(&tableau), tableau_(tableau) {}
+    explicit Lecture(Tableau *tableau) : QAccessibleWidget(tableau) {}
 
     void *interface_cast(QAccessible::InterfaceType type) override
     {
-        return type == QAccessible::TableInterface ? static_cast<QAccessibleTableInterface *>(this)
-                                                   : QAccessibleWidget::interface_cast(type);
+        return type == QAccessible::TableInterface && estUnTableau() ? static_cast<QAccessibleTableInterface *>(this)
+                                                                     : QAccessibleWidget::interface_cast(type);
     }
     // Heads alone stand over a table that scrolls under them.
     [[nodiscard]] QAccessible::Role role() const override
     {
-        return rowCount() > 0 ? QAccessible::Table : QAccessible::Grouping;
+        return estUnTableau() ? QAccessible::Table : QAccessible::Grouping;
     }
 
-    [[nodiscard]] int columnCount() const override { return tableau_.colonnes(); }
-    [[nodiscard]] int rowCount() const override { return static_cast<int>(tableau_.rangees().size()); }
+    [[nodiscard]] int columnCount() const override { return tableau() ? tableau()->colonnes() : 0; }
+    [[nodiscard]] int rowCount() const override
+    {
+        return tableau() ? static_cast<int>(tableau()->rangees().size()) : 0;
+    }
     [[nodiscard]] QAccessibleInterface *cellAt(int rangee, int colonne) const override
     {
-        const int place = tableau_.rangees().value(rangee, 0); // whoever asks may be late
-        return place > 0 && existe(colonne) ? lu(tableau_.cellule(place, colonne)) : nullptr;
+        const int place = tableau() ? tableau()->rangees().value(rangee, 0) : 0; // whoever asks may be late
+        return place > 0 && existe(colonne) ? lu(tableau()->cellule(place, colonne)) : nullptr;
     }
     [[nodiscard]] QString columnDescription(int colonne) const override
     {
-        return existe(colonne) ? lu(tableau_.cellule(0, colonne))->text(QAccessible::Name) : QString();
+        return existe(colonne) ? lu(tableau()->cellule(0, colonne))->text(QAccessible::Name) : QString();
     }
     [[nodiscard]] QString rowDescription(int) const override { return {}; }
     [[nodiscard]] QAccessibleInterface *caption() const override { return nullptr; }
@@ -111,9 +122,9 @@ public:
     void modelChange(QAccessibleTableModelChangeEvent *) override {} // nothing is remembered
 
 private:
+    [[nodiscard]] const Tableau *tableau() const { return qobject_cast<const Tableau *>(object()); }
+    [[nodiscard]] bool estUnTableau() const { return tableau() && !tableau()->estVide(); }
     [[nodiscard]] bool existe(int colonne) const { return colonne >= 0 && colonne < columnCount(); }
-
-    Tableau &tableau_;
 };
 
 } // namespace
@@ -122,9 +133,10 @@ QAccessibleInterface *LectureDeTableau::interfaceDe(const QString &, QObject *ob
 {
     // Qt owns them.
     if (auto *tableau = qobject_cast<Tableau *>(objet))
-        return new Lecture(*tableau);
-    auto *tableau = qobject_cast<Tableau *>(objet->parent());
-    return tableau && objet->isWidgetType() ? new Cellule(static_cast<QWidget *>(objet), *tableau) : nullptr;
+        return new Lecture(tableau);
+    return objet->isWidgetType() && qobject_cast<Tableau *>(objet->parent())
+               ? new Cellule(static_cast<QWidget *>(objet))
+               : nullptr;
 }
 
 } // namespace Quillet

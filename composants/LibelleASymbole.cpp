@@ -16,7 +16,7 @@ constexpr int sousLAnneau = 3; // px
 } // namespace
 
 LibelleASymbole::LibelleASymbole(int cote, int espace, QWidget *parent)
-    : Libelle({}, Rang::principal, parent), cote_(cote), espace_(espace)
+    : Libelle({}, Rang::principal, parent), cote_(cote), espace_(espace), couleur_(Theme::secondaire)
 {
     setFont(Theme::encadre());
     setWordWrap(true);

@@ -26,7 +26,7 @@ private:
     int cote_;
     int espace_;
     QString symbole_;
-    Couleur couleur_ = nullptr;
+    Couleur couleur_;
 };
 
 } // namespace Quillet

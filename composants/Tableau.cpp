@@ -1,6 +1,7 @@
 #include "composants/Tableau.h"
 
 #include "composants/Libelle.h"
+#include "composants/Pile.h"
 #include "composants/Theme.h"
 
 #include <QGridLayout>
@@ -12,13 +13,12 @@
 namespace Quillet {
 
 Tableau::Tableau(const QList<Colonne> &colonnes, int marge, QWidget *parent)
-    : QWidget(parent), grille_(new QGridLayout(this)), marge_(marge)
+    : QWidget(parent), grille_(new QGridLayout(this)), colonnes_(static_cast<int>(colonnes.size())), marge_(marge)
 {
     grille_->setContentsMargins(0, 0, 0, 0);
     grille_->setHorizontalSpacing(12);
     grille_->setVerticalSpacing(0);
-    for (int colonne = 0; colonne < colonnes.size(); ++colonne) {
-        const auto &[texte, alignement, part, retrait, dite] = colonnes[colonne];
+    for (const auto &[texte, alignement, part, retrait, dite] : colonnes) {
         auto *tete = new Libelle(texte, Libelle::Rang::secondaire);
         tete->setFont(Theme::enGras(Theme::encadre()));
         tete->setWordWrap(part > 0);
@@ -26,25 +26,24 @@ Tableau::Tableau(const QList<Colonne> &colonnes, int marge, QWidget *parent)
         tete->setAlignment(Qt::AlignBottom | (part > 0 ? alignement : Qt::AlignLeft));
         tete->setContentsMargins(0, 0, retrait, 0);
         tete->setAccessibleName(dite);
-        grille_->setColumnStretch(colonne, part);
-        placer(tete, 0, colonne, part > 0 ? Qt::Alignment() : alignement);
+        grille_->setColumnStretch(grille_->count(), part);
+        placer(tete, part > 0 ? Qt::Alignment() : alignement);
     }
 }
 
-void Tableau::placer(QWidget *contenu, int rangee, int colonne, Qt::Alignment alignement)
+void Tableau::placer(QWidget *contenu, Qt::Alignment alignement)
 {
     auto *cellule = new QWidget(this);
-    auto *place = new QVBoxLayout(cellule);
-    place->setContentsMargins(0, marge_, 0, marge_);
-    place->addWidget(contenu, 0, alignement);
-    grille_->addWidget(cellule, rangee, colonne);
+    Pile::colonne(cellule, {.marges = {0, marge_, 0, marge_}}, {{contenu, 0, alignement}});
+    const int rang = grille_->count();
+    grille_->addWidget(cellule, rang / colonnes_, rang % colonnes_);
 }
 
 void Tableau::ajouter(const QList<QWidget *> &contenus)
 {
-    const int rangee = grille_->rowCount();
-    for (int colonne = 0; colonne < contenus.size(); ++colonne)
-        placer(contenus[colonne], rangee, colonne);
+    Q_ASSERT(contenus.size() == colonnes_);
+    for (QWidget *contenu : contenus)
+        placer(contenu);
 }
 
 void Tableau::setLargeurMinimale(int colonne, int largeur)
@@ -54,19 +53,19 @@ void Tableau::setLargeurMinimale(int colonne, int largeur)
 
 void Tableau::setRangeeVisible(int rangee, bool visible)
 {
-    for (int colonne = 0; colonne < colonnes(); ++colonne)
+    for (int colonne = 0; colonne < colonnes_; ++colonne)
         cellule(rangee, colonne)->setVisible(visible);
 }
 
-int Tableau::colonnes() const
+bool Tableau::estVide() const
 {
-    return grille_->columnCount();
+    return grille_->count() <= colonnes_;
 }
 
 QList<int> Tableau::rangees() const
 {
     QList<int> montrees;
-    for (int rangee = 1; rangee < grille_->rowCount(); ++rangee)
+    for (int rangee = 1; rangee < grille_->count() / colonnes_; ++rangee)
         if (!cellule(rangee, 0)->isHidden())
             montrees.append(rangee);
     return montrees;
@@ -74,31 +73,26 @@ QList<int> Tableau::rangees() const
 
 QWidget *Tableau::cellule(int rangee, int colonne) const
 {
-    return grille_->itemAtPosition(rangee, colonne)->widget();
+    return grille_->itemAt(rangee * colonnes_ + colonne)->widget();
 }
 
-QPoint Tableau::place(QWidget *cellule) const
+std::optional<Tableau::Place> Tableau::place(QWidget *cellule) const
 {
-    int rangee = 0;
-    int colonne = 0;
-    int hauteur = 0;
-    int largeur = 0;
-    grille_->getItemPosition(grille_->indexOf(cellule), &rangee, &colonne, &hauteur, &largeur);
-    return {colonne, rangee};
+    const int rang = grille_->indexOf(cellule);
+    return rang >= 0 ? std::optional(Place{rang / colonnes_, rang % colonnes_}) : std::nullopt;
 }
 
 QSize Tableau::minimumSizeHint() const
 {
     int parts = 0;
     double parPart = 0;
-    for (int colonne = 0; colonne < colonnes(); ++colonne)
+    for (int colonne = 0; colonne < colonnes_; ++colonne)
         if (const int part = grille_->columnStretch(colonne)) {
             parts += part;
-            for (int rangee = 0; rangee < grille_->rowCount(); ++rangee)
-                parPart =
-                    std::max(parPart, double(grille_->itemAtPosition(rangee, colonne)->minimumSize().width()) / part);
+            for (int rang = colonne; rang < grille_->count(); rang += colonnes_)
+                parPart = std::max(parPart, double(grille_->itemAt(rang)->minimumSize().width()) / part);
         }
-    const int partage = static_cast<int>(std::ceil(parts * parPart)) + grille_->horizontalSpacing() * (colonnes() - 1);
+    const int partage = static_cast<int>(std::ceil(parts * parPart)) + grille_->horizontalSpacing() * (colonnes_ - 1);
     return QWidget::minimumSizeHint().expandedTo({partage, 0});
 }
 

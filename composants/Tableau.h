@@ -1,8 +1,9 @@
 #pragma once
 
 #include <QList>
-#include <QPoint>
 #include <QWidget>
+
+#include <optional>
 
 class QGridLayout;
 
@@ -26,17 +27,26 @@ public:
 
     // `marge`: px, above and below each cell.
     explicit Tableau(const QList<Colonne> &colonnes, int marge = 6, QWidget *parent = nullptr);
+    // One for each column.
     void ajouter(const QList<QWidget *> &contenus);
     void setLargeurMinimale(int colonne, int largeur);
     // Row 0: the heads, which are heard all the same.
     void setRangeeVisible(int rangee, bool visible);
 
-    [[nodiscard]] int colonnes() const;
+    [[nodiscard]] int colonnes() const { return colonnes_; }
+    // Whether there is no row but the heads.
+    [[nodiscard]] bool estVide() const;
     // Those that show, without the heads.
     [[nodiscard]] QList<int> rangees() const;
     [[nodiscard]] QWidget *cellule(int rangee, int colonne) const;
-    // Its column (x) and its row (y).
-    [[nodiscard]] QPoint place(QWidget *cellule) const;
+
+    struct Place
+    {
+        int rangee;
+        int colonne;
+    };
+    // None for what is no cell.
+    [[nodiscard]] std::optional<Place> place(QWidget *cellule) const;
 
     // Columns that share the width are all as wide as the one that needs the most: two tables with the same heads have
     // them at the same places.
@@ -47,9 +57,10 @@ protected:
     void paintEvent(QPaintEvent *evenement) override;
 
 private:
-    void placer(QWidget *contenu, int rangee, int colonne, Qt::Alignment alignement = {});
+    void placer(QWidget *contenu, Qt::Alignment alignement = {});
 
-    QGridLayout *grille_;
+    QGridLayout *grille_; // filled row by row, the heads first
+    int colonnes_;
     int marge_;
 };
 
