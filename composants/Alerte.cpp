@@ -2,9 +2,8 @@
 
 #include "composants/LecteurDEcran.h"
 #include "composants/LibelleASymbole.h"
+#include "composants/Pile.h"
 #include "composants/Theme.h"
-
-#include <QHBoxLayout>
 
 namespace Quillet {
 
@@ -20,9 +19,7 @@ Alerte::Alerte(const QString &symbole, const QString &texte, Ton ton, QWidget *p
     const bool note = ton == Ton::note;
     texte_->setRang(note ? Libelle::Rang::secondaire : Libelle::Rang::principal);
     texte_->setSymbole(symbole, note ? Theme::secondaire : Theme::orange);
-    auto *rangee = new QHBoxLayout(this);
-    rangee->setContentsMargins(0, 0, 0, 0);
-    rangee->addWidget(texte_);
+    Pile::rangee(this, {}, {texte_});
     dire(texte);
     if (texte.isEmpty())
         hide();

@@ -2,12 +2,11 @@
 
 #include "composants/Icone.h"
 #include "composants/Libelle.h"
+#include "composants/Pile.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
 
-#include <QHBoxLayout>
 #include <QPainter>
-#include <QVBoxLayout>
 
 namespace Quillet {
 
@@ -33,18 +32,10 @@ EtatVide::EtatVide(const QString &symbole, const QString &titre, const QString &
         raison_->setMaximumWidth(Theme::aLaTaille(largeurDuTexte));
     });
 
-    auto *milieu = new QHBoxLayout;
-    milieu->addStretch(1);
-    milieu->addWidget(raison_, largeurDuTexte); // all that there is, up to its own width
-    milieu->addStretch(1);
-    auto *colonne = new QVBoxLayout(this);
-    colonne->setContentsMargins(20, 20, 20, 28);
-    colonne->setSpacing(8);
-    colonne->addStretch(1);
-    colonne->addWidget(place_, 0, Qt::AlignHCenter);
-    colonne->addWidget(titre_, 0, Qt::AlignHCenter);
-    colonne->addLayout(milieu);
-    colonne->addStretch(1);
+    // All the width that there is, up to its own.
+    QBoxLayout *milieu = Pile::rangee({}, {Pile::reste(), {raison_, largeurDuTexte}, Pile::reste()});
+    Pile::colonne(this, {.marges = {20, 20, 20, 28}, .espace = 8},
+                  {Pile::reste(), {place_, 0, Qt::AlignHCenter}, {titre_, 0, Qt::AlignHCenter}, milieu, Pile::reste()});
     montrer(symbole, titre, raison);
 }
 

@@ -2,8 +2,6 @@
 
 #include <QWidget>
 
-#include <utility>
-
 namespace Quillet::Pile {
 
 namespace {
@@ -13,29 +11,36 @@ QBoxLayout *remplie(QBoxLayout *boite, const Mesures &mesures, Parties parties)
     boite->setContentsMargins(mesures.marges);
     boite->setSpacing(mesures.espace);
     for (const Partie &partie : parties)
-        partie.poser(*boite);
+        if (partie.widget)
+            boite->addWidget(partie.widget, partie.part, partie.alignement);
+        else if (partie.boite)
+            boite->addLayout(partie.boite, partie.part);
+        else if (partie.blanc > 0)
+            boite->addSpacing(partie.blanc);
+        else
+            boite->addStretch(partie.part);
     return boite;
 }
 
 } // namespace
 
-Partie::Partie(QWidget *widget, int part, Qt::Alignment alignement)
-    : poser([=](QBoxLayout &boite) { boite.addWidget(widget, part, alignement); })
+Partie::Partie(QWidget *widget_, int part_, Qt::Alignment alignement_)
+    : widget(widget_), part(part_), alignement(alignement_)
 {
 }
 
-Partie::Partie(QLayout *boite, int part) : poser([=](QBoxLayout &autour) { autour.addLayout(boite, part); }) {}
-
-Partie::Partie(std::function<void(QBoxLayout &)> geste) : poser(std::move(geste)) {}
+Partie::Partie(QLayout *boite_, int part_) : boite(boite_), part(part_) {}
 
 Partie reste(int part)
 {
-    return Partie([=](QBoxLayout &boite) { boite.addStretch(part); });
+    return Partie(static_cast<QWidget *>(nullptr), part);
 }
 
 Partie blanc(int pixels)
 {
-    return Partie([=](QBoxLayout &boite) { boite.addSpacing(pixels); });
+    Partie partie = reste(0);
+    partie.blanc = pixels;
+    return partie;
 }
 
 QBoxLayout *colonne(QWidget *widget, const Mesures &mesures, Parties parties)

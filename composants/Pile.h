@@ -2,20 +2,22 @@
 
 #include <QBoxLayout>
 
-#include <functional>
 #include <initializer_list>
 
 // Columns and rows, declared part after part, in the order that the keyboard follows.
 namespace Quillet::Pile {
 
-// What a column or a row holds: a widget or a layout as it is, or with its share of the room left.
+// What a column or a row holds: a widget or a layout as it is, or with its share of the room left; else a blank.
 struct Partie
 {
-    Partie(QWidget *widget, int part = 0, Qt::Alignment alignement = {});
-    Partie(QLayout *boite, int part = 0);
-    explicit Partie(std::function<void(QBoxLayout &)> geste);
+    Partie(QWidget *widget_, int part_ = 0, Qt::Alignment alignement_ = {});
+    Partie(QLayout *boite_, int part_ = 0);
 
-    std::function<void(QBoxLayout &)> poser;
+    QWidget *widget = nullptr;
+    QLayout *boite = nullptr;
+    int part = 0;
+    Qt::Alignment alignement;
+    int blanc = 0; // px
 };
 
 using Parties = std::initializer_list<Partie>;

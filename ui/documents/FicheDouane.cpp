@@ -8,11 +8,11 @@
 #include "composants/Formulaire.h"
 #include "composants/Libelle.h"
 #include "composants/Lien.h"
+#include "composants/Pile.h"
 #include "composants/Theme.h"
 
 #include <QPushButton>
 #include <QUrl>
-#include <QVBoxLayout>
 
 namespace Quillet {
 
@@ -44,9 +44,7 @@ void FicheDouane::montrer(const Calcul &calcul)
 QWidget *FicheDouane::instructions()
 {
     auto *bloc = new QWidget;
-    auto *colonne = new QVBoxLayout(bloc);
-    colonne->setContentsMargins(0, 0, 0, 0);
-    colonne->setSpacing(8);
+    QBoxLayout *colonne = Pile::colonne(bloc, {.espace = 8});
     for (const QString &texte : TextesDocuments::instructionsDeDouane()) {
         auto *consigne = new Libelle(texte);
         consigne->setWordWrap(true);
@@ -66,10 +64,7 @@ QWidget *FicheDouane::instructions()
 QWidget *FicheDouane::page(const QString &manque)
 {
     auto *page = new QWidget;
-    auto *colonne = new QVBoxLayout(page);
-    colonne->setContentsMargins(20, 20, 20, 24);
-    colonne->setSpacing(22);
-    colonne->addWidget(instructions());
+    QBoxLayout *colonne = Pile::colonne(page, {.marges = {20, 20, 20, 24}, .espace = 22}, {instructions()});
     for (const TextesDocuments::Rubrique &rubrique : montrees_) {
         auto *section = new Formulaire::Section(rubrique.titre);
         for (const TextesDocuments::Champ &champ : rubrique.champs) {

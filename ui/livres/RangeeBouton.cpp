@@ -5,13 +5,13 @@
 #include "composants/Chiffres.h"
 #include "composants/LibelleASymbole.h"
 #include "composants/LibelleChiffre.h"
+#include "composants/Pile.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
 #include "model/Format.h"
 
 #include <QApplication>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace Quillet {
 
@@ -73,23 +73,17 @@ LibelleASymbole::Couleur couleur(PrixBouton::Etat etat)
         return Theme::accentTexte;
     case PrixBouton::Etat::aReporter:
         return Theme::orange;
-    default:
+    case PrixBouton::Etat::sansPrix:
+    case PrixBouton::Etat::garde:
         return Theme::secondaire;
     }
+    Q_UNREACHABLE();
 }
 
-// Lines centred one above the other.
-QWidget *pile(const QList<QWidget *> &lignes, int espace)
+// Two lines, centred one above the other.
+QWidget *empiles(QWidget *ligne, QWidget *dessous, int espace)
 {
-    auto *pile = new QWidget;
-    auto *colonne = new QVBoxLayout(pile);
-    colonne->setContentsMargins(0, 0, 0, 0);
-    colonne->setSpacing(espace);
-    colonne->addStretch(1);
-    for (QWidget *ligne : lignes)
-        colonne->addWidget(ligne);
-    colonne->addStretch(1);
-    return pile;
+    return Pile::enColonne({.espace = espace}, {Pile::reste(), ligne, dessous, Pile::reste()});
 }
 
 } // namespace
@@ -134,21 +128,14 @@ RangeeBouton::RangeeBouton(Tableau &tableau)
     etat_->setFont(Theme::enGras(etat_->font(), QFont::Medium));
     copier_->setToolTip(QStringLiteral("Copier le prix calculé"));
 
-    auto *actions = new QWidget;
-    auto *boutons = new QHBoxLayout(actions);
-    boutons->setContentsMargins(0, 0, 0, 0);
-    boutons->setSpacing(entreActions);
-    boutons->addWidget(reporter_);
-    boutons->addWidget(garder_);
-    boutons->addStretch(1);
-
-    QWidget *situation = pile({etat_, actions}, sousLEtat);
+    QWidget *actions = Pile::enRangee({.espace = entreActions}, {reporter_, garder_, Pile::reste()});
+    QWidget *situation = empiles(etat_, actions, sousLEtat);
     // As high as with its buttons: the rows below stand still when a price is reported.
     TailleDuTexte::suivre(etat_, [this, situation] {
         situation->setMinimumHeight(etat_->sizeHint().height() + sousLEtat + reporter_->sizeHint().height());
     });
-    tableau.ajouter(
-        {pile({destination_, palier_}, 2), pile({actuel_}, 0), pile({calcule_, ecart_}, 2), copier_, situation});
+    tableau.ajouter({empiles(destination_, palier_, 2), Pile::enColonne({}, {Pile::reste(), actuel_, Pile::reste()}),
+                     empiles(calcule_, ecart_, 2), copier_, situation});
     // A click reports the price that is read on the row: it must not end an edit that changes it.
     for (QPushButton *action : {reporter_, garder_})
         action->setFocusPolicy(Qt::TabFocus);

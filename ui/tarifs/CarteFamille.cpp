@@ -4,12 +4,12 @@
 #include "composants/LecteurDEcran.h"
 #include "composants/Libelle.h"
 #include "composants/LibelleChiffre.h"
+#include "composants/Pile.h"
 #include "composants/Tableau.h"
 #include "composants/Theme.h"
 #include "model/Format.h"
 
 #include <QPainter>
-#include <QVBoxLayout>
 
 namespace Quillet {
 
@@ -72,10 +72,7 @@ QWidget *tableau(const TextesTarifs::Famille &famille)
 CarteFamille::CarteFamille(const TextesTarifs::Famille &famille, QWidget *parent) : QWidget(parent)
 {
     LecteurDEcran::jouer(this, QAccessible::Grouping);
-    auto *colonne = new QVBoxLayout(this);
-    colonne->setContentsMargins(18, 8, 18, 12);
-    colonne->setSpacing(0);
-    colonne->addWidget(tableau(famille));
+    QBoxLayout *colonne = Pile::colonne(this, {.marges = {18, 8, 18, 12}, .espace = 0}, {tableau(famille)});
     for (const QString &pays : famille.pays) {
         colonne->addSpacing(6);
         colonne->addWidget(Libelle::note(pays));

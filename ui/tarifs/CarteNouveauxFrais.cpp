@@ -3,13 +3,13 @@
 #include "composants/Icone.h"
 #include "composants/Libelle.h"
 #include "composants/LibelleChiffre.h"
+#include "composants/Pile.h"
 #include "composants/Tableau.h"
 #include "composants/Theme.h"
 #include "textes/TextesTarifs.h"
 #include "ui/Contexte.h"
 
 #include <QPainter>
-#include <QVBoxLayout>
 
 namespace Quillet {
 
@@ -54,17 +54,11 @@ CarteNouveauxFrais::CarteNouveauxFrais(const Contexte &contexte, QWidget *parent
 {
     auto *origine = new Libelle(QStringLiteral("Relevés sur paypal.com, tarifs marchands pour la France"),
                                 Libelle::Rang::secondaire);
-    auto *page = new QWidget;
-    auto *colonne = new QVBoxLayout(page);
-    colonne->setContentsMargins(marge, marge, marge, marge);
-    colonne->setSpacing(0);
-    colonne->addWidget(Libelle::titreDeSection(windowTitle()));
-    colonne->addSpacing(6);
-    colonne->addWidget(origine);
-    colonne->addSpacing(14);
-    colonne->addWidget(tableau(TextesTarifs::frais(contexte.donnees().reglages.fraisPaypal),
-                               TextesTarifs::frais(*contexte.verifications.nouveauxFrais())));
-    colonne->addStretch(1);
+    QWidget *frais = tableau(TextesTarifs::frais(contexte.donnees().reglages.fraisPaypal),
+                             TextesTarifs::frais(*contexte.verifications.nouveauxFrais()));
+    QWidget *page = Pile::enColonne(
+        {.marges = {marge, marge, marge, marge}, .espace = 0},
+        {Libelle::titreDeSection(windowTitle()), Pile::blanc(6), origine, Pile::blanc(14), frais, Pile::reste()});
     composer(page, QStringLiteral("Enregistrer ces frais"),
              [&verifications = contexte.verifications] { verifications.accepterFrais(); });
     prendreLaTaille(taille);

@@ -5,12 +5,12 @@
 #include "composants/Libelle.h"
 #include "composants/LibelleChiffre.h"
 #include "composants/PageAuClavier.h"
+#include "composants/Pile.h"
 #include "composants/Tableau.h"
 #include "textes/TextesVerifications.h"
 #include "ui/Contexte.h"
 
 #include <QStyle>
-#include <QVBoxLayout>
 
 namespace Quillet {
 
@@ -47,13 +47,8 @@ QWidget *changements(const QList<TextesVerifications::Ecart> &ecarts)
         rangees->ajouter({texte(ecart.zone, Qt::AlignLeft), texte(ecart.jusqua, Qt::AlignRight),
                           new LibelleChiffre(ecart.avant), new LibelleChiffre(ecart.apres),
                           new LibelleChiffre(ecart.ecart), new LibelleChiffre(ecart.variation)});
-    auto *page = new QWidget;
-    auto *colonne = new QVBoxLayout(page);
-    const int ascenseur = page->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    colonne->setContentsMargins(marge, 0, marge - ascenseur, marge);
-    colonne->addWidget(rangees);
-    colonne->addStretch(1);
-    return page;
+    const int ascenseur = rangees->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    return Pile::enColonne({.marges = {marge, 0, marge - ascenseur, marge}}, {rangees, Pile::reste()});
 }
 
 } // namespace
@@ -72,11 +67,8 @@ CarteNouveauxTarifs::CarteNouveauxTarifs(const Contexte &contexte, QWidget *pare
 
     auto *dates = new Libelle(TextesVerifications::dates(releve.tarifs), Libelle::Rang::secondaire);
     dates->setWordWrap(true);
-    auto *tete = new QVBoxLayout;
-    tete->setContentsMargins(marge, marge, marge, 0);
-    tete->setSpacing(6);
-    tete->addWidget(Libelle::titreDeSection(windowTitle()));
-    tete->addWidget(dates);
+    QBoxLayout *tete = Pile::colonne({.marges = {marge, marge, marge, 0}, .espace = 6},
+                                     {Libelle::titreDeSection(windowTitle()), dates});
     if (!releve.dateTrouvee)
         tete->addWidget(
             new Alerte(QStringLiteral("calendar.badge.exclamationmark"),
@@ -92,14 +84,8 @@ CarteNouveauxTarifs::CarteNouveauxTarifs(const Contexte &contexte, QWidget *pare
     auto *compte = new Libelle(TextesVerifications::compte(ecarts, releve.tarifs));
     compte->setContentsMargins(marge, 10, marge, 0);
 
-    auto *page = new QWidget;
-    auto *colonne = new QVBoxLayout(page);
-    colonne->setContentsMargins(0, 0, 0, 12);
-    colonne->setSpacing(0);
-    colonne->addLayout(tete);
-    colonne->addWidget(defilement, 1);
-    colonne->addWidget(filet(Qt::Horizontal));
-    colonne->addWidget(compte);
+    QWidget *page =
+        Pile::enColonne({.marges = {0, 0, 0, 12}, .espace = 0}, {tete, {defilement, 1}, filet(Qt::Horizontal), compte});
     composer(page, QStringLiteral("Enregistrer ces tarifs"),
              [&verifications = contexte.verifications] { verifications.accepterTarifs(); });
     prendreLaTaille(taille);

@@ -3,14 +3,13 @@
 #include "composants/Icone.h"
 #include "composants/Libelle.h"
 #include "composants/Lien.h"
+#include "composants/Pile.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
 
-#include <QHBoxLayout>
 #include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace Quillet {
 
@@ -53,14 +52,8 @@ LigneVerification::LigneVerification(const QString &nom, QWidget *parent)
         bouton->setAccessibleName(QStringLiteral("%1, %2").arg(bouton->text(), nom));
     changements_->setDefault(true); // filled: it is what the line asks for
 
-    auto *situation = new QHBoxLayout;
-    situation->addWidget(etat_, 1);
-    situation->addWidget(progres_, 0, Qt::AlignVCenter);
-    auto *textes = new QVBoxLayout;
-    textes->setSpacing(3);
-    textes->addWidget(titre_);
-    textes->addWidget(detail_);
-    textes->addLayout(situation);
+    QBoxLayout *situation = Pile::rangee({}, {{etat_, 1}, {progres_, 0, Qt::AlignVCenter}});
+    QBoxLayout *textes = Pile::colonne({.espace = 3}, {titre_, detail_, situation});
     auto *rangee = new QHBoxLayout(this);
     rangee->setSpacing(8);
     auto *place = new QSpacerItem(0, 0);
