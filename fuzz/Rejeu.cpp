@@ -3,7 +3,9 @@
 #include "fuzz/Cible.h"
 
 #include <QDir>
+#include <QFile>
 
+#include <cstdint>
 #include <cstdio>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *octets, std::size_t taille);
@@ -15,7 +17,7 @@ int main(int argc, char **argv)
         const QStringList noms = dossier.entryList(QDir::Files);
         Quillet::exiger(!noms.isEmpty(), argv[rang]);
         for (const QString &nom : noms) {
-            std::puts(qPrintable(dossier.filePath(nom)));
+            std::fprintf(stderr, "%s\n", qPrintable(dossier.filePath(nom))); // at once, even before an abort
             QFile fichier(dossier.filePath(nom));
             Quillet::exiger(fichier.open(QIODevice::ReadOnly), "lisible");
             const QByteArray lu = fichier.readAll();
