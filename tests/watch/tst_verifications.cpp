@@ -110,14 +110,21 @@ private slots:
     void echecs()
     {
         const QString avant = "2026-02-01T00:00:00Z";
-        banc_->preferences().ecrire(cleLaPoste, avant);
-        serveur_->servir(laPoste, http("200 OK", "<p>En travaux</p>"));
-        const auto v = verifications();
-        v->verifierSiNecessaire();
-        QTRY_COMPARE(v->etatPaypal().cas, Cas::aJour); // checked all the same
-        const QString message = "La page a changé de forme : grille « France » introuvable. Vérifiez à la main.";
-        QCOMPARE(v->etatLaPoste(), (Verifications::Etat{Cas::erreur, message}));
-        QCOMPARE(banc_->preferences().texte(cleLaPoste), avant);
+        for (const auto &[statut, corps, message] : Rangees<const char *, QString>{
+                 {"404 Not Found", "", "Page inaccessible : réponse 404 de localhost."},
+                 {"200 OK", "<p>En travaux</p>",
+                  "La page a changé de forme : grille « France » introuvable. Vérifiez à la main."},
+             }) {
+            const Rangee rangee(statut);
+            init();
+            banc_->preferences().ecrire(cleLaPoste, avant);
+            serveur_->servir(laPoste, http(statut, corps));
+            const auto v = verifications();
+            v->verifierSiNecessaire();
+            QTRY_COMPARE(v->etatPaypal().cas, Cas::aJour); // checked all the same
+            QCOMPARE(v->etatLaPoste(), (Verifications::Etat{Cas::erreur, message}));
+            QCOMPARE(banc_->preferences().texte(cleLaPoste), avant);
+        }
     }
 
     void uneSeuleALaFois()
