@@ -44,7 +44,7 @@ private slots:
         auto *moins = controle<QAbstractButton>("Retirer un exemplaire");
         QVERIFY(!moins->isEnabled());
         cliquer("Livre 1");
-        cliquer("Ajouter un exemplaire");
+        cliquer("Livre 1");
         QCOMPARE(quantite(1), 2);
         QCOMPARE(valeur("Livre 1"), "30,00 €");
         QCOMPARE(valeur("Sous-total"), "30,00 €");
@@ -58,6 +58,8 @@ private slots:
         moins->click();
         QVERIFY(!moins->isEnabled());
         QVERIFY(montre("Aucun livre"));
+        cliquer("Ajouter un exemplaire");
+        QCOMPARE(quantite(1), 1);
     }
 
     void autrePoids()
@@ -130,8 +132,9 @@ private slots:
         choisir("Emballage", "Carton (180 g)");
         choisir("Envoi vers", "Suisse");
         taper(colisPese, "450");
+        taper("Pays de livraison", "Switzerland");
         cliquer(reinitialiser);
-        QVERIFY(bon().estVide());
+        QVERIFY(bon().estVide() && !bon().poidsPese && bon().paysLivraison.isEmpty());
         QCOMPARE(controle<QLineEdit>(colisPese)->text(), QString());
         QCOMPARE(controle<QComboBox>("Emballage")->currentText(), "Carton (180 g)");
         QCOMPARE(controle<QComboBox>("Envoi vers")->currentText(), "Suisse");
