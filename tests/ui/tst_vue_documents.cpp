@@ -130,11 +130,13 @@ private slots:
 
         feuille = banc_->ouvrir(facture);
         QCOMPARE(numeroPropose(feuille), "2026-013");
-        const auto memeDossier = [&](QDialog *dialogue) {
-            QCOMPARE(qobject_cast<QFileDialog *>(dialogue)->directory(), QDir(dossier.path()));
+        QDir rouvert;
+        const auto lireLeDossier = [&](QDialog *dialogue) {
+            rouvert = qobject_cast<QFileDialog *>(dialogue)->directory();
             dialogue->reject();
         };
-        QVERIFY(Dialogues::cliquerPuisRepondre(feuille, enregistrer, {memeDossier}));
+        QVERIFY(Dialogues::cliquerPuisRepondre(feuille, enregistrer, {lireLeDossier}));
+        QCOMPARE(rouvert, QDir(dossier.path()));
         QVERIFY(!Ecran::montre(feuille, issue));
     }
 
@@ -213,15 +215,16 @@ private slots:
 
     void nomSansSuffixe()
     {
-        const auto cas = [this](const char *tape, bool existe, bool remplacer, const char *ecrit) {
-            const Rangee rangee(tape);
+        const auto cas = [this](const char *nom, const char *tape, bool existe, bool remplacer, const char *ecrit) {
+            const Rangee rangee(nom);
             init();
             const QTemporaryDir dossier;
             banc_->commander("suisse");
             const auto nommer = Dialogues::enregistrerSous(dossier.filePath(tape));
+            bool nonParDefaut = true;
             const auto repondre = [&](QDialog *boite) {
                 const auto *question = qobject_cast<QMessageBox *>(boite);
-                QVERIFY(question->button(QMessageBox::No) == question->defaultButton());
+                nonParDefaut = question->button(QMessageBox::No) == question->defaultButton();
                 question->button(remplacer ? QMessageBox::Yes : QMessageBox::No)->click();
             };
             QDialog *feuille = banc_->ouvrir(facture);
@@ -231,13 +234,15 @@ private slots:
             } else {
                 QVERIFY(Dialogues::cliquerPuisRepondre(feuille, enregistrer, {nommer}));
             }
-            for (const QString &nom : QDir(dossier.path()).entryList(QDir::Files))
-                QCOMPARE(contenu(dossier.filePath(nom)).startsWith("%PDF-"), nom == QLatin1String(ecrit));
+            QVERIFY(nonParDefaut);
+            for (const QString &fichier : QDir(dossier.path()).entryList(QDir::Files))
+                QCOMPARE(contenu(dossier.filePath(fichier)).startsWith("%PDF-"), fichier == QLatin1String(ecrit));
             QCOMPARE(retenu().isEmpty(), !*ecrit);
         };
-        cas("X.PDF", false, false, "X.PDF");
-        cas("v1.2", true, true, "v1.2.pdf");
-        cas("v1.2", true, false, "");
+        cas("un point", "v1.2", false, false, "v1.2.pdf");
+        cas("majuscules", "X.PDF", false, false, "X.PDF");
+        cas("remplacé", "v1.2", true, true, "v1.2.pdf");
+        cas("gardé", "v1.2", true, false, "");
     }
 
     void etatsDeLaFacture()
@@ -295,7 +300,8 @@ private slots:
         qobject_cast<QLineEdit *>(Ecran::controle(feuille, numero))->setText("2027-040"); // dictated
         banc_->jour = QDate(2028, 1, 1);
         BancEcran::revenirA(feuille);
-        QCOMPARE(numeroPropose(feuille), "2027-040"); // and left
+        QCOMPARE(numeroPropose(feuille), "2027-040"); // said to be of a past year, and left
+        QVERIFY(Ecran::montre(feuille, "Ce numéro est d’une année passée : la suite de 2028 n’en change pas."));
     }
 
 private:
