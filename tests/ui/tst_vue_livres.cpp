@@ -66,12 +66,13 @@ private slots:
     // Screen, memory and file agree afterwards, and the next attempt goes through.
     void echecDit()
     {
-        for (const char *bouton : {"", "Disponible", "Reporter, France", "Tout reporter", "Garder, France",
-                                   "Annuler : disponibilité de « Livre 1 »"}) { // "": the price
+        const char *prix = "le prix, par sa saisie";
+        for (const char *bouton : {prix, "Disponible", "Reporter, France", "Tout reporter", "Garder, France",
+                                   "Annuler : disponibilité de « Livre 1 »"}) {
             const Rangee rangee(bouton);
             const BancLivres cas;
             const auto geste = [&] {
-                if (*bouton)
+                if (bouton != prix)
                     return cas.cliquer(bouton);
                 taperLePrix(cas);
                 QTest::keyClick(cas.champ(champDuPrix), Qt::Key_Return);
@@ -204,20 +205,25 @@ private slots:
         const BancLivres cas;
         const QString revenir = "Revenir aux valeurs d’origine…";
         QString question;
-        const auto repondre = [&question](const char *reponse) {
-            return [&question, reponse](QDialog *dialogue) {
+        bool repondu = false;
+        const auto repondre = [&](const char *reponse) {
+            return [&, reponse](QDialog *dialogue) {
                 const auto *message = qobject_cast<QMessageBox *>(dialogue);
                 question = message->text() + message->informativeText();
-                QVERIFY(Ecran::cliquer(dialogue, reponse));
+                repondu = Ecran::cliquer(dialogue, reponse);
+                if (!repondu)
+                    dialogue->reject();
             };
         };
         QVERIFY(Dialogues::cliquerPuisRepondre(cas.fenetre(), revenir, {repondre("OK")}));
+        QVERIFY(repondu);
         QVERIFY2(question.contains("déjà leurs valeurs d’origine"), qPrintable(question));
         QVERIFY(cas.cliquer("Tout reporter"));
         const Livre modifie = cas.enregistre(0);
         QVERIFY(Dialogues::cliquerPuisRepondre(cas.fenetre(), revenir, {Dialogues::renoncer()}));
         QCOMPARE(cas.enregistre(0), modifie);
         QVERIFY(Dialogues::cliquerPuisRepondre(cas.fenetre(), revenir, {repondre("Revenir aux valeurs d’origine")}));
+        QVERIFY(repondu);
         QVERIFY2(question.contains("Livre 1 : 3 prix reportés"), qPrintable(question));
         QVERIFY(!QFile::exists(cas.donnees.cheminUtilisateur("livres-modifies.json")));
         QVERIFY(cas.cliquer("Annuler : retour aux valeurs d’origine"));
