@@ -11,11 +11,11 @@ namespace Quillet {
 template <typename... Colonnes>
 using Rangees = std::initializer_list<std::tuple<const char *, Colonnes...>>;
 
-// Says which row a test failed on first.
+// Says which row a test failed on first: Qt tells that a test has failed, not how often.
 class Rangee
 {
 public:
-    explicit Rangee(const char *nom) : nom_(nom) {}
+    explicit Rangee(const char *nom) : nom_(*nom ? nom : "(rien)") {}
     ~Rangee()
     {
         if (QTest::currentTestFailed() && !avant_)

@@ -50,7 +50,7 @@ private slots:
                  {"[1,2,3]}", "[1,2",
                   "livres : JSON illisible, ligne 4, colonne 102 : virgule, guillemet ou accolade manquante"},
              }) {
-            const Rangee rangee(apres);
+            const Rangee rangee(*apres ? apres : avant);
             QByteArray abime = livreJson;
             QVERIFY(abime.contains(avant));
             abime.replace(avant, apres);
