@@ -1,7 +1,5 @@
 #include "tests/BancEcran.h"
 
-#include "visite/Ecran.h"
-
 #include <QAccessible>
 #include <QMessageBox>
 #include <QTest>
@@ -47,7 +45,7 @@ QString BancEcran::luAuTableau(const QWidget *fenetre, const QString &rangee, co
             continue;
         const auto *tableau = lu->tableInterface();
         for (int ligne = 0; ligne < tableau->rowCount(); ++ligne)
-            for (int colonne = 1; colonne < tableau->columnCount(); ++colonne) {
+            for (int colonne = 0; colonne < tableau->columnCount(); ++colonne) {
                 auto *cellule = tableau->cellAt(ligne, colonne);
                 const auto *place = cellule->tableCellInterface();
                 if (place->table() != lu || place->rowIndex() != ligne || place->columnIndex() != colonne

@@ -10,6 +10,8 @@
 #include <QDialog>
 #include <QTest>
 
+#include <memory>
+
 namespace Quillet {
 
 // The real window over a small catalogue.
