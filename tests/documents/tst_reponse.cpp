@@ -1,3 +1,4 @@
+#include "documents/AdresseMail.h"
 #include "documents/ReponseType.h"
 #include "model/Format.h"
 #include "tests/Banc.h"
@@ -117,6 +118,20 @@ private slots:
         QCOMPARE(langue("ue"), Langue::anglais);
         cas.bon.langue = Langue::francais;
         QCOMPARE(langueAcheteur(cas.bon, Calcul::de(cas.banc.donnees(), cas.bon, jourDuBanc)), Langue::francais);
+    }
+
+    void adresses()
+    {
+        for (const char *seule :
+             {"ada@exemple.fr", "  ada@exemple.fr\n", "d'ada+livres&co%1=#/?@exemple.fr", "été@exemple.fr"})
+            QVERIFY2(AdresseMail::estSeule(seule), seule);
+        for (const char *refusee :
+             {"", "ada", "@exemple.fr", "ada@", "ada@exemple.fr@ailleurs.fr", "ada@exemple.fr,bob@exemple.fr",
+              "ada@exemple.fr;bob", "Ada <ada@exemple.fr>", "\"ada\"@exemple.fr",
+              "=?utf-8?Q?a=40b.fr=2Cbob?=@exemple.fr", "ada@=?utf-8?Q?b.fr=2Cbob=40c.fr?=", "x:ada(bob)@exemple.fr",
+              "ada\\@exemple.fr", "ada @exemple.fr", "ada@exemple.fr\nBcc: bob", "ada@exemple.fr\u200b",
+              "ada@exemple.fr\u0001"})
+            QVERIFY2(!AdresseMail::estSeule(refusee), refusee);
     }
 };
 

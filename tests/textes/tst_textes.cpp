@@ -1,8 +1,10 @@
 #include "tests/Banc.h"
 #include "tests/Rangees.h"
+#include "textes/FiltreLivres.h"
 #include "textes/TextesDocuments.h"
 #include "textes/TextesLivres.h"
 #include "textes/TextesRecapitulatif.h"
+#include "textes/TextesRetour.h"
 #include "textes/TextesTarifs.h"
 #include "textes/TextesVerifications.h"
 
@@ -154,6 +156,43 @@ private slots:
         QCOMPARE(TextesDocuments::vendeur({.nom = "Davrel", .adresse = {"1 rue Exemple"}}), "Davrel\n1 rue Exemple");
     }
 
+    void recherche()
+    {
+        Livre livre = unLivre(1, Vendeur::davrel, Centimes{100}, Grammes{10});
+        livre.titre = "Au cœur de l’été";
+        for (const auto &[recherche, retenu] : Rangees<bool>{
+                 {" ", true},
+                 {"coeur l'ete", true},
+                 {"ÉTÉ cœur", true},
+                 {"autr", true},
+                 {"9780000000", true},
+                 {"978-0-00", true},
+                 {"coeur hiver", false},
+             }) {
+            const FiltreLivres filtre{.recherche = FiltreLivres::mots(recherche), .vendeur = {}, .etat = {}};
+            QVERIFY2(filtre.retient({livre, FiltreLivres::texteCherche(livre), 0}) == retenu, recherche);
+        }
+    }
+
+    void pertes()
+    {
+        QList<Livre> livres;
+        for (int id = 1; id <= 11; ++id)
+            livres.append(unLivre(id, Vendeur::davrel, Centimes{1000}, Grammes{100}));
+        QList<Livre> actuels = livres;
+        QVERIFY(TextesRetour::pertes(actuels, livres).isEmpty());
+        actuels[0].poids.reset();
+        actuels[0].disponible = false;
+        actuels[0].prixPaypal = {{vers("france"), Centimes{1}}, {vers("ue"), Centimes{2}}};
+        actuels[0].prixEcartes = {{vers("ue"), Centimes{2}}};
+        for (Livre &livre : actuels)
+            livre.prix = Centimes{1250};
+        const QStringList pertes = TextesRetour::pertes(actuels, livres);
+        QCOMPARE(lisible(pertes.first()), "Livre 1 : 12,50 €, Poids à peser, Épuisé, 2 prix reportés, 1 prix gardé");
+        QCOMPARE(pertes.size(), 9);
+        QCOMPARE(pertes.last(), "et 3 autres livres");
+    }
+
     void tarifs()
     {
         Cas cas;
@@ -201,7 +240,7 @@ private slots:
             Preferences preferences = banc.preferences();
             preferences.ecrire("verification.laPoste", verifie);
             const auto maintenant = [] { return QDateTime(jourDuBanc, QTime(10, 0)); };
-            const Verifications verifications(*catalogue, preferences, maintenant, {});
+            const Verifications verifications(*catalogue, preferences, maintenant, PagesSurveillees{QUrl(), QUrl()});
             const auto ligne = TextesVerifications::laPoste(verifications, catalogue->donnees(), jourDuBanc);
             QCOMPARE(ligne.detail, "en vigueur au 1er janvier 2026, nouvelle grille au 1er avril 2026");
             QCOMPARE(ligne.symboleEtat, symbole);

@@ -1,7 +1,5 @@
 #include "tests/Banc.h"
 #include "tests/Rangees.h"
-#include "textes/FiltreLivres.h"
-#include "textes/TextesRetour.h"
 #include "ui/livres/ModeleLivres.h"
 
 #include <QAbstractItemModelTester>
@@ -51,24 +49,6 @@ private slots:
             QCOMPARE(lisible(modele.index(rang).data(Qt::AccessibleTextRole).toString()), attendus[rang]);
     }
 
-    void recherche()
-    {
-        Livre livre = unLivre(1, Vendeur::davrel, Centimes{100}, Grammes{10});
-        livre.titre = "Au cœur de l’été";
-        for (const auto &[recherche, retenu] : Rangees<bool>{
-                 {" ", true},
-                 {"coeur l'ete", true},
-                 {"ÉTÉ cœur", true},
-                 {"autr", true},
-                 {"9780000000", true},
-                 {"978-0-00", true},
-                 {"coeur hiver", false},
-             }) {
-            const FiltreLivres filtre{.recherche = FiltreLivres::mots(recherche), .vendeur = {}, .etat = {}};
-            QVERIFY2(filtre.retient({livre, FiltreLivres::texteCherche(livre), 0}) == retenu, recherche);
-        }
-    }
-
     void etats()
     {
         using Etat = FiltreLivres::Etat;
@@ -91,25 +71,6 @@ private slots:
             QCOMPARE(ids.join(u' '), retenus);
             QCOMPARE(modele.aReporter(), 9); // of all the books, whatever is shown
         }
-    }
-
-    void pertes()
-    {
-        QList<Livre> livres;
-        for (int id = 1; id <= 11; ++id)
-            livres.append(unLivre(id, Vendeur::davrel, Centimes{1000}, Grammes{100}));
-        QList<Livre> actuels = livres;
-        QVERIFY(TextesRetour::pertes(actuels, livres).isEmpty());
-        actuels[0].poids.reset();
-        actuels[0].disponible = false;
-        actuels[0].prixPaypal = {{vers("france"), Centimes{1}}, {vers("ue"), Centimes{2}}};
-        actuels[0].prixEcartes = {{vers("ue"), Centimes{2}}};
-        for (Livre &livre : actuels)
-            livre.prix = Centimes{1250};
-        const QStringList pertes = TextesRetour::pertes(actuels, livres);
-        QCOMPARE(lisible(pertes.first()), "Livre 1 : 12,50 €, Poids à peser, Épuisé, 2 prix reportés, 1 prix gardé");
-        QCOMPARE(pertes.size(), 9);
-        QCOMPARE(pertes.last(), "et 3 autres livres");
     }
 };
 

@@ -1,4 +1,3 @@
-#include "documents/AdresseMail.h"
 #include "tests/FausseMessagerie.h"
 #include "tests/Rangees.h"
 #include "ui/reponse/Mail.h"
@@ -18,20 +17,6 @@ class TestMail : public QObject
 
 private slots:
     void cleanup() { messagerie_.oublier(); }
-
-    void adresses()
-    {
-        for (const char *seule :
-             {"ada@exemple.fr", "  ada@exemple.fr\n", "d'ada+livres&co%1=#/?@exemple.fr", "été@exemple.fr"})
-            QVERIFY2(AdresseMail::estSeule(seule), seule);
-        for (const char *refusee :
-             {"", "ada", "@exemple.fr", "ada@", "ada@exemple.fr@ailleurs.fr", "ada@exemple.fr,bob@exemple.fr",
-              "ada@exemple.fr;bob", "Ada <ada@exemple.fr>", "\"ada\"@exemple.fr",
-              "=?utf-8?Q?a=40b.fr=2Cbob?=@exemple.fr", "ada@=?utf-8?Q?b.fr=2Cbob=40c.fr?=", "x:ada(bob)@exemple.fr",
-              "ada\\@exemple.fr", "ada @exemple.fr", "ada@exemple.fr\nBcc: bob", "ada@exemple.fr\u200b",
-              "ada@exemple.fr\u0001"})
-            QVERIFY2(!AdresseMail::estSeule(refusee), refusee);
-    }
 
     void sansProgramme()
     {
