@@ -2,7 +2,6 @@
 #include "composants/bureau/Bureau.h"
 #include "tests/FauxPortail.h"
 #include "tests/Rangees.h"
-#include "ui/QuilletApp.h"
 
 #include <QApplication>
 #include <QDBusVariant>
@@ -73,7 +72,7 @@ int suivre()
 
 } // namespace
 
-// What the desktop says is heard through its portal, whatever state that is in, and obeyed while running.
+// What the desktop says is heard through its portal, whatever state that is in.
 class TestBureau : public QObject
 {
     Q_OBJECT
@@ -213,23 +212,6 @@ private slots:
         QTRY_COMPARE(portail.questions, 1);
         portail.annoncer(apparence, couleurs, 1U);
         QVERIFY(finitBien(programme));
-    }
-
-    void obeit()
-    {
-        QuilletApp::preparer();
-        FauxPortail portail;
-        portail.reponse = enReponse({{couleurs, 1U}, {"reduced-motion", 1U}});
-        portail.paraitre();
-        Bureau bureau;
-        QuilletApp::suivre(bureau);
-        QWidget fenetre;
-        QTRY_COMPARE(fenetre.palette(), Theme::palette(Mode::sombre));
-        QVERIFY(!QApplication::style()->styleHint(QStyle::SH_Widget_Animate));
-        portail.annoncer(apparence, "contrast", 1U);
-        QTRY_COMPARE(fenetre.palette(), Theme::palette(Mode::sombre, Contraste::renforce));
-        portail.annoncer(apparence, couleurs, 0U);
-        QTRY_COMPARE(fenetre.palette(), Theme::palette(Mode::clair, Contraste::renforce));
     }
 
     void laisseFaireLaPlateforme()
