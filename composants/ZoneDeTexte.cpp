@@ -25,6 +25,13 @@ ZoneDeTexte::ZoneDeTexte(int lignes, QWidget *parent) : QPlainTextEdit(parent)
                           [this, lignes] { setFixedHeight(lignes * fontMetrics().lineSpacing() + 2 * (marge + 1)); });
 }
 
+// Qt 6.4 does not look whether there is anything to insert: an empty clipboard would end the program.
+void ZoneDeTexte::insertFromMimeData(const QMimeData *contenu)
+{
+    if (canInsertFromMimeData(contenu))
+        QPlainTextEdit::insertFromMimeData(contenu);
+}
+
 // The frame holds the scroll bar too, and changes as a whole with the focus.
 bool ZoneDeTexte::event(QEvent *evenement)
 {

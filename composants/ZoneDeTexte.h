@@ -14,6 +14,7 @@ public:
 
 protected:
     bool event(QEvent *evenement) override;
+    void insertFromMimeData(const QMimeData *contenu) override;
 };
 
 } // namespace Quillet

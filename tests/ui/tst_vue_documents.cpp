@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
 #include <QSpinBox>
 
@@ -110,6 +111,8 @@ private slots:
         QDialog *feuille = banc_->ouvrir(facture);
         QCOMPARE(numeroPropose(feuille), "2026-001");
         QCOMPARE(feuille->focusWidget()->accessibleName(), "Acheteur");
+        QApplication::clipboard()->setMimeData(new QMimeData);
+        QTest::keyClick(feuille->focusWidget(), Qt::Key_V, Qt::ControlModifier);
         Ecran::controle(feuille, fermer)->setFocus();
         QTest::keyClick(feuille->focusWidget(), Qt::Key_Tab);
         QCOMPARE(feuille->focusWidget()->accessibleName(), numero);
