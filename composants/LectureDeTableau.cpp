@@ -5,6 +5,8 @@
 #include <QAccessibleWidget>
 #include <QLabel>
 
+#include <algorithm>
+
 namespace Quillet {
 
 namespace {
@@ -93,10 +95,14 @@ public:
     {
         return tableau() ? static_cast<int>(tableau()->rangees().size()) : 0;
     }
+    // Whoever asks may be late, or count the heads in: Qt's bridge cannot be told that there is no cell.
     [[nodiscard]] QAccessibleInterface *cellAt(int rangee, int colonne) const override
     {
-        const int place = tableau() ? tableau()->rangees().value(rangee, 0) : 0; // whoever asks may be late
-        return place > 0 && existe(colonne) ? lu(tableau()->cellule(place, colonne)) : nullptr;
+        if (!estUnTableau())
+            return nullptr;
+        const auto rangees = tableau()->rangees();
+        const auto proche = std::clamp<qsizetype>(rangee, 0, std::max<qsizetype>(rangees.size() - 1, 0));
+        return lu(tableau()->cellule(rangees.value(proche, 1), std::clamp(colonne, 0, columnCount() - 1)));
     }
     [[nodiscard]] QString columnDescription(int colonne) const override
     {

@@ -49,7 +49,7 @@ QString BancEcran::luAuTableau(const QWidget *fenetre, const QString &rangee, co
                 auto *cellule = tableau->cellAt(ligne, colonne);
                 const auto *place = cellule->tableCellInterface();
                 if (place->table() != lu || place->rowIndex() != ligne || place->columnIndex() != colonne
-                    || lu->indexOfChild(cellule) < 0)
+                    || lu->indexOfChild(cellule) < 0 || !tableau->cellAt(ligne + 1000, colonne))
                     qFatal("Une cellule ne sait pas où elle est");
                 if ((nom(tableau->cellAt(ligne, 0)) + u',').startsWith(rangee + u',')
                     && nom(place->columnHeaderCells().value(0)) == tete)
