@@ -68,6 +68,8 @@ void ChampSaisi::conclure()
     direLeRefus(refus);
     if (refus.isEmpty())
         emit saisi(texte);
+    else
+        emit refuse();
 }
 
 bool ChampSaisi::eventFilter(QObject *objet, QEvent *evenement)

@@ -37,6 +37,7 @@ public:
 
 signals:
     void saisi(const QString &texte);
+    void refuse(); // what was typed is given up; the field says why
 
 protected:
     bool eventFilter(QObject *objet, QEvent *evenement) override;

@@ -12,7 +12,7 @@ class EcranDeRubrique : public QWidget
 public:
     using QWidget::QWidget;
 
-    // Asked before the screen is left or the window closes: ends the edit under way. False when it could not be saved,
+    // Asked before the screen is left or the window closes: ends the edit under way. False when it could not be kept,
     // which the screen says.
     [[nodiscard]] virtual bool conclure() { return true; }
 };

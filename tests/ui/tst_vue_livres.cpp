@@ -17,10 +17,10 @@ const QString poids = "Poids, en grammes";
 const QString nonEnregistree = "Modification non enregistrée : ";
 
 // And does not leave the field.
-void taperLePrix(const BancLivres &cas)
+void taperLePrix(const BancLivres &cas, const char *prix = "16")
 {
     cas.champ(champDuPrix)->setFocus();
-    QVERIFY(Ecran::taper(cas.fenetre(), champDuPrix, "16"));
+    QVERIFY(Ecran::taper(cas.fenetre(), champDuPrix, prix));
 }
 
 void cliquerLeSecond(const BancLivres &cas)
@@ -137,7 +137,7 @@ private slots:
         QVERIFY(!cas.texte(nonEnregistree).isEmpty());
     }
 
-    // A screen that could not save what was typed stays to say so, by whatever way one leaves; once more leaves it.
+    // A screen that could not keep what was typed stays to say so, by whatever way one leaves; once more leaves it.
     void sortirSansPerdre()
     {
         const auto partie = [](const BancLivres &cas) {
@@ -160,14 +160,17 @@ private slots:
                 return partie(cas);
             },
         };
-        for (const auto &sortir : sorties) {
-            const BancLivres cas;
-            taperLePrix(cas);
-            const DisquePlein plein;
-            QVERIFY(!sortir(cas));
-            QVERIFY(!cas.texte(nonEnregistree).isEmpty());
-            QVERIFY(sortir(cas));
-        }
+        for (const auto &sortir : sorties)
+            for (const auto &[saisie, dit] :
+                 Rangees<QString>{{"16", nonEnregistree}, {"zut", "Un prix s’écrit en chiffres"}}) {
+                const Rangee rangee(saisie);
+                const BancLivres cas;
+                taperLePrix(cas, saisie);
+                const DisquePlein plein;
+                QVERIFY(!sortir(cas));
+                QVERIFY(!cas.texte(dit).isEmpty());
+                QVERIFY(sortir(cas));
+            }
     }
 
     void annulerAuClavier()

@@ -104,6 +104,8 @@ QWidget *FicheLivre::reglages()
     poids_ = new ChampSaisi(QStringLiteral("Poids"), {QStringLiteral("g"), QStringLiteral("grammes")},
                             [](const QString &texte) { return refus(Saisie::poids(texte)); });
     poids_->setInvite(QStringLiteral("à peser"));
+    for (const ChampSaisi *champ : {prix_, poids_})
+        connect(champ, &ChampSaisi::refuse, this, &FicheLivre::saisieRefusee);
     connect(prix_, &ChampSaisi::saisi, this, [this](const QString &texte) {
         Livre livre = livre_;
         livre.prix = std::get<Centimes>(Saisie::prix(texte));

@@ -30,6 +30,7 @@ public:
     void conclure();
 
 signals:
+    void saisieRefusee(); // of what was typed in a field, which says why
     // The book as it should become, and what that does: "prix de « Le Phare de sel »".
     void modification(Livre livre, const QString &geste);
     void reporter(Livre livre, const QList<PrixBouton> &boutons);

@@ -75,6 +75,7 @@ VueLivres::VueLivres(const Contexte &contexte, QWidget *parent)
     connect(fiche_, &FicheLivre::garder, this, [this](const Livre &livre, const PrixBouton &bouton) {
         tenter([&] { historique_.garder(livre, bouton, TextesGestes::garde(livre)); });
     });
+    connect(fiche_, &FicheLivre::saisieRefusee, this, &VueLivres::retenirLeGeste);
     connect(&historique_, &HistoriqueLivres::change, this, &VueLivres::montrerAnnulation);
     connect(fiche_, &FicheLivre::livreSuivant, volet_, &VoletLivres::passerAuSuivant);
     connect(volet_, &VoletLivres::choixChange, this, &VueLivres::actualiser);
@@ -154,11 +155,11 @@ void VueLivres::montrerAnnulation()
 
 bool VueLivres::conclure()
 {
-    if (vientDEchouer_)
-        return false;
-    echec_->montrer({});
-    fiche_->conclure();
-    return echec_->isHidden();
+    if (!vientDEchouer_) {
+        echec_->montrer({});
+        fiche_->conclure();
+    }
+    return !vientDEchouer_;
 }
 
 // Screen, memory and file agree afterwards, whatever came of it.
@@ -174,6 +175,11 @@ void VueLivres::tenter(const std::function<void()> &geste)
     if (echec.isEmpty())
         return;
     actualiser();
+    retenirLeGeste();
+}
+
+void VueLivres::retenirLeGeste()
+{
     vientDEchouer_ = true;
     const auto oublier = [this] { vientDEchouer_ = false; };
     QMetaObject::invokeMethod(this, oublier, Qt::QueuedConnection);

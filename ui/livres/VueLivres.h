@@ -40,6 +40,7 @@ private:
     void actualiser();
     void montrerAnnulation();
     void tenter(const std::function<void()> &geste);
+    void retenirLeGeste();
     void revenir();
 
     const Contexte &contexte_;
