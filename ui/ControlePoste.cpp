@@ -8,7 +8,7 @@
 #include <QImageReader>
 #include <QLibraryInfo>
 #include <QMap>
-#include <QSslSocket>
+#include <QStandardPaths>
 
 #include <algorithm>
 
@@ -52,7 +52,7 @@ ControlePoste::Moyens ControlePoste::moyens()
     return {.images = QImageReader::supportedImageFormats(),
             .polices = QFontDatabase::families(),
             .francais = QFileInfo::exists(traductions + QStringLiteral("/qtbase_fr.qm")),
-            .tls = QSslSocket::supportsSsl()};
+            .curl = !QStandardPaths::findExecutable(QStringLiteral("curl")).isEmpty()};
 }
 
 QStringList ControlePoste::manques(const Moyens &moyens, const QStringList &couvertures)
@@ -64,9 +64,9 @@ QStringList ControlePoste::manques(const Moyens &moyens, const QStringList &couv
         phrases.append(QStringLiteral(
             "ce système n’a pas les textes français de Qt (paquet qt6-translations-l10n) : ses dialogues resteront en "
             "anglais"));
-    if (!moyens.tls)
+    if (!moyens.curl)
         phrases.append(QStringLiteral(
-            "ce système n’a pas de TLS pour Qt : ni les pages des tarifs ni les mises à jour ne seront lues"));
+            "ce système n’a pas curl (paquet curl) : ni les pages des tarifs ni les mises à jour ne seront lues"));
     return phrases;
 }
 

@@ -14,7 +14,7 @@ struct Moyens
     QList<QByteArray> images; // the formats that are read, as files are named after them
     QStringList polices;      // families
     bool francais = false;    // Qt's own words
-    bool tls = false;
+    bool curl = false;        // which downloads
 };
 
 // Those of this machine. Needs a QGuiApplication, of whatever platform.

@@ -1,53 +1,85 @@
 #include "watch/Transfert.h"
 
-#include <QNetworkReply>
+#include <QProcess>
 
-#include <algorithm>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+
+#include <csignal>
 #include <utility>
 
 namespace Quillet {
 
 namespace {
 
-constexpr int redirectionsMaximales = 20;
-constexpr qint64 tampon = qint64{64} << 10;
-constexpr qint64 redirectionMaximale = qint64{16} << 20; // bytes of its own body
+constexpr rlim_t memoire = rlim_t{128} << 20; // twice what curl takes for an honest answer
+constexpr int mortEnMillisecondes = 1000;
 
-// In our own words: the platform's are English in part, and sentences.
-QString cause(QNetworkReply::NetworkError erreur)
+// How curl ended (its manual lists the codes), in our own words.
+enum Code {
+    reussi = 0,
+    protocoleRefuse = 1,
+    adresseInvalide = 3,
+    mandataireIntrouvable = 5,
+    serveurIntrouvable = 6,
+    connexionImpossible = 7,
+    reponseRefusee = 22,
+    memoireEpuisee = 27,
+    delaiDepasse = 28,
+    chiffrementImpossible = 35,
+    tropDeRedirections = 47,
+    certificatRefuse = 60,
+    tropGros = 63,
+    autoritesIllisibles = 77,
+    mandataireDefaillant = 97,
+};
+
+QString cause(int code)
 {
-    switch (erreur) {
-    case QNetworkReply::ConnectionRefusedError:
-        return QStringLiteral("connexion refusée");
-    case QNetworkReply::RemoteHostClosedError:
-        return QStringLiteral("connexion interrompue");
-    case QNetworkReply::HostNotFoundError:
+    switch (code) {
+    case adresseInvalide:
+    case serveurIntrouvable:
         return QStringLiteral("serveur introuvable");
-    case QNetworkReply::TimeoutError:
-        return QStringLiteral("délai d’attente dépassé");
-    case QNetworkReply::SslHandshakeFailedError:
+    case connexionImpossible:
+        return QStringLiteral("connexion impossible");
+    case memoireEpuisee:
+        return QStringLiteral("réponse illisible");
+    case delaiDepasse:
+        return QStringLiteral("téléchargement trop long");
+    case chiffrementImpossible:
+    case certificatRefuse:
+    case autoritesIllisibles:
         return QStringLiteral("connexion sécurisée impossible");
-    case QNetworkReply::TemporaryNetworkFailureError:
-    case QNetworkReply::NetworkSessionFailedError:
-    case QNetworkReply::UnknownNetworkError:
-        return QStringLiteral("réseau inaccessible");
-    case QNetworkReply::TooManyRedirectsError:
+    case tropDeRedirections:
         return QStringLiteral("trop de redirections");
-    case QNetworkReply::InsecureRedirectError:
-        return QStringLiteral("redirection vers une adresse non sécurisée");
-    case QNetworkReply::ProxyConnectionRefusedError:
-    case QNetworkReply::ProxyConnectionClosedError:
-    case QNetworkReply::ProxyNotFoundError:
-    case QNetworkReply::ProxyTimeoutError:
-    case QNetworkReply::ProxyAuthenticationRequiredError:
-    case QNetworkReply::UnknownProxyError:
+    case tropGros:
+        return Transfert::tropVolumineuse();
+    case mandataireIntrouvable:
+    case mandataireDefaillant:
         return QStringLiteral("serveur mandataire inaccessible");
-    case QNetworkReply::ProtocolUnknownError:
-        return QStringLiteral("adresse non prise en charge");
     default:
-        return QStringLiteral("connexion interrompue (erreur %1)").arg(erreur);
+        return QStringLiteral("connexion interrompue");
     }
 }
+
+// What curl says at its end, on one line each.
+struct Bilan
+{
+    int statut = 0; // of the last answer; 0: none
+    QByteArray codage;
+    QByteArray erreur;
+
+    static QString demande()
+    {
+        return QStringLiteral("%{stderr}%{response_code}\n%header{content-encoding}\n%{errormsg}");
+    }
+
+    static Bilan lu(const QByteArray &texte)
+    {
+        const QByteArrayList lignes = texte.split('\n');
+        return {lignes.value(0).toInt(), lignes.value(1).trimmed().toLower(), lignes.value(2)};
+    }
+};
 
 QString agent(Transfert::Usage usage)
 {
@@ -57,23 +89,54 @@ QString agent(Transfert::Usage usage)
                           "Version/18.0 Safari/605.1.15");
 }
 
-int statut(const QNetworkReply &reponse)
+QStringList arguments(const QUrl &url, const QByteArray &codages, const Limites &limites, Transfert::Usage usage)
 {
-    // The platform gives a local file the status 200.
-    if (!reponse.url().scheme().startsWith(QStringLiteral("http")))
-        return 0;
-    return reponse.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    const bool chiffree = url.scheme() == QStringLiteral("https");
+    // Nothing of the user's own settings, nothing held back, nothing that needs more than HTTP/1.1.
+    QStringList arguments =
+        QStringLiteral("--disable --silent --no-buffer --fail --http1.1 --globoff --location --max-redirs 20 "
+                       "--proto =http,https --proto-redir %1 --max-time %2 --max-filesize %3")
+            .arg(chiffree ? QStringLiteral("=https") : QStringLiteral("=http,https"))
+            .arg(std::chrono::duration<double>(limites.duree).count())
+            .arg(limites.taille)
+            .split(u' ');
+    const auto ajouter = [&](const char *option, const QString &valeur) {
+        arguments.append({QString::fromLatin1(option), valeur});
+    };
+    ajouter("--user-agent", agent(usage));
+    ajouter("--header", QStringLiteral("Accept-Language: fr-FR,fr;q=0.9"));
+    // Said here: unpacking is the caller's.
+    ajouter("--header", QStringLiteral("Accept-Encoding: ") + QString::fromLatin1(codages));
+    if (usage == Transfert::Usage::pagePublique)
+        ajouter("--cookie", {});
+    ajouter("--write-out", Bilan::demande());
+    ajouter("--url", QString::fromLatin1(url.toEncoded()));
+    return arguments;
+}
+
+// Run in the new process, before curl.
+void limiter()
+{
+    const rlimit limite{memoire, memoire};
+    setrlimit(RLIMIT_AS, &limite);
+    prctl(PR_SET_PDEATHSIG, SIGKILL); // it does not outlive Quillet
 }
 
 } // namespace
 
 Transfert::Transfert(const Limites &limites, Usage usage) : limites_(limites), usage_(usage)
 {
-    // Not the platform's own time-out: it ends with the first redirection.
     silence_.setSingleShot(true);
     connect(&silence_, &QTimer::timeout, this, [this] { interrompre(QStringLiteral("délai d’attente dépassé")); });
-    duree_.setSingleShot(true);
-    connect(&duree_, &QTimer::timeout, this, [this] { interrompre(QStringLiteral("téléchargement trop long")); });
+}
+
+Transfert::~Transfert()
+{
+    if (!curl_)
+        return;
+    curl_->disconnect(this);
+    curl_->kill();
+    curl_->waitForFinished(mortEnMillisecondes);
 }
 
 QString Transfert::tropVolumineuse()
@@ -81,114 +144,68 @@ QString Transfert::tropVolumineuse()
     return QStringLiteral("page trop volumineuse");
 }
 
-Transfert::~Transfert()
-{
-    if (reponse_)
-        reponse_->abort(); // while its manager still stands
-}
-
 void Transfert::demander(const QUrl &url, const QByteArray &codages)
 {
     Q_ASSERT_X(!enCours(), "Transfert::demander", "one answer at a time");
-    QNetworkRequest requete(url);
-    requete.setHeader(QNetworkRequest::UserAgentHeader, agent(usage_));
-    requete.setRawHeader("Accept-Language", "fr-FR,fr;q=0.9");
-    requete.setRawHeader("Accept-Encoding", codages); // said here, unpacking is ours
-    requete.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
-    requete.setMaximumRedirectsAllowed(redirectionsMaximales);
-    // Nothing here needs HTTP/2. Offering it, Qt 6.8 does not notice that an encrypted HTTP/1 answer was cut.
-    requete.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-    if (usage_ == Usage::miseAJour)
-        for (const auto cookies :
-             {QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::CookieSaveControlAttribute})
-            requete.setAttribute(cookies, QNetworkRequest::Manual);
-
     adresse_ = url;
-    entete_ = false;
     octets_ = 0;
     interruption_.clear();
-    reponse_ = reseau_.get(requete);
-    // A redirection's own body is never read, and must go by.
-    reponse_->setReadBufferSize(std::min(limites_.taille, redirectionMaximale));
-    // Queued: a reply is neither aborted nor destroyed while its own signal is under way.
-    connect(reponse_, &QNetworkReply::metaDataChanged, this, &Transfert::recevoirEntete, Qt::QueuedConnection);
-    const auto oublierLEntete = [this] { entete_ = false; };
-    connect(reponse_, &QNetworkReply::redirected, this, oublierLEntete, Qt::QueuedConnection);
-    connect(reponse_, &QNetworkReply::readyRead, this, &Transfert::recevoir, Qt::QueuedConnection);
-    connect(reponse_, &QNetworkReply::finished, this, &Transfert::conclure, Qt::QueuedConnection);
+    curl_ = std::make_unique<QProcess>();
+    curl_->setChildProcessModifier(limiter);
+    // Queued: the process is not destroyed while its own signal is under way.
+    connect(curl_.get(), &QProcess::readyReadStandardOutput, this, &Transfert::recevoir);
+    connect(curl_.get(), &QProcess::finished, this, &Transfert::conclure, Qt::QueuedConnection);
+    const auto nePartPas = [this](QProcess::ProcessError erreur) {
+        if (erreur == QProcess::FailedToStart)
+            conclure();
+    };
+    connect(curl_.get(), &QProcess::errorOccurred, this, nePartPas, Qt::QueuedConnection);
     silence_.start(limites_.silence);
-    duree_.start(limites_.duree);
-}
-
-void Transfert::recevoirEntete()
-{
-    if (!reponse_)
-        return;
-    entete_ = true;
-    silence_.start();
-    if (statut(*reponse_) / 100 == 3)
-        return;
-    reponse_->setReadBufferSize(tampon); // else the network runs far ahead of the limit
-    if (reponse_->header(QNetworkRequest::ContentLengthHeader).toLongLong() > limites_.taille)
-        interrompre(tropVolumineuse());
+    curl_->start(QStringLiteral("curl"), arguments(url, codages, limites_, usage_), QIODevice::ReadOnly);
 }
 
 void Transfert::recevoir()
 {
-    if (!reponse_ || !reponse_->isOpen())
+    const QByteArray morceau = curl_->readAllStandardOutput();
+    if (morceau.isEmpty() || !interruption_.isEmpty())
         return;
     silence_.start();
-    for (QByteArray morceau; !(morceau = reponse_->read(tampon)).isEmpty();) {
-        octets_ += morceau.size();
-        if (octets_ > limites_.taille)
-            return interrompre(tropVolumineuse());
-        if (statut(*reponse_) == 200)
-            emit recu(morceau);
-    }
+    octets_ += morceau.size();
+    if (octets_ > limites_.taille)
+        interrompre(tropVolumineuse());
+    else
+        emit recu(morceau);
 }
 
 void Transfert::interrompre(const QString &raison)
 {
-    if (!reponse_ || reponse_->isFinished()) // finished: `conclure` is on its way
+    if (!curl_)
         return;
     interruption_ = raison;
-    reponse_->abort();
+    curl_->kill();
 }
 
 void Transfert::conclure()
 {
     recevoir(); // what came with the end
     silence_.stop();
-    duree_.stop();
-    QNetworkReply *reponse = std::exchange(reponse_, nullptr);
-    reponse->deleteLater();
-    if (const auto raison = raisonDEchec(*reponse))
-        emit echoue(*raison);
-    else
-        emit termine(reponse->rawHeader("Content-Encoding").trimmed().toLower());
-}
-
-// Qt 6.4 reports every cut body but one: in chunks, neither packed nor encrypted, it sometimes passes for whole. What
-// is read here is encrypted, and no redirection leaves that.
-std::optional<QString> Transfert::raisonDEchec(const QNetworkReply &reponse) const
-{
-    const QNetworkReply::NetworkError erreur = reponse.error();
-    const bool interrompue = !interruption_.isEmpty();
-    const QString echec = interrompue || erreur == QNetworkReply::NoError ? interruption_ : cause(erreur);
-    const int code = statut(reponse);
-    // A redirection that was refused or broken off is no answer.
-    const bool enRoute = code / 100 == 3
-                         && (interrompue || erreur == QNetworkReply::InsecureRedirectError
-                             || erreur == QNetworkReply::TooManyRedirectsError);
-    if (!echec.isEmpty() && (!entete_ || enRoute))
-        return echec;
-    if (code != 200)
-        return QStringLiteral("réponse %1 de %2").arg(code).arg(adresse_.host());
-    if (!echec.isEmpty())
-        return echec;
-    if (octets_ > limites_.taille) // all had come before it could be broken off
-        return tropVolumineuse();
-    return std::nullopt;
+    const auto curl = std::exchange(curl_, nullptr);
+    const Bilan bilan = Bilan::lu(curl->readAllStandardError());
+    if (!interruption_.isEmpty())
+        return emit echoue(interruption_);
+    if (curl->error() == QProcess::FailedToStart)
+        return emit echoue(QStringLiteral("le programme curl n’est pas installé"));
+    if (curl->exitStatus() == QProcess::CrashExit)
+        return emit echoue(cause(memoireEpuisee));
+    const int code = curl->exitCode();
+    if (code == protocoleRefuse && bilan.erreur.startsWith("Protocol \"http\""))
+        return emit echoue(QStringLiteral("redirection vers une adresse non sécurisée"));
+    const bool repondu = code == reussi || code == reponseRefusee || code == protocoleRefuse;
+    if (!repondu)
+        return emit echoue(cause(code));
+    if (code != reussi || bilan.statut != 200)
+        return emit echoue(QStringLiteral("réponse %1 de %2").arg(bilan.statut).arg(adresse_.host()));
+    emit termine(bilan.codage);
 }
 
 } // namespace Quillet

@@ -144,7 +144,7 @@ private slots:
         using ControlePoste::manques;
         const QStringList couvertures{"a.svg", "b.SVG", "c.jpg", "notes.txt"};
         const ControlePoste::Moyens complet{
-            .images = {"jpg", "svg"}, .polices = {"Inter", "Linux Libertine O"}, .francais = true, .tls = true};
+            .images = {"jpg", "svg"}, .polices = {"Inter", "Linux Libertine O"}, .francais = true, .curl = true};
         QCOMPARE(manques(complet, couvertures), QStringList());
 
         const QStringList tous = manques({.images = {"jpg"}, .polices = {"DejaVu Sans"}}, couvertures);
@@ -153,7 +153,7 @@ private slots:
         QVERIFY(tous[1].contains("la police Inter (paquet fonts-inter)"));
         QVERIFY(tous[2].contains("Libertinus Serif ou Linux Libertine O"));
         QVERIFY(tous[3].contains("textes français de Qt"));
-        QVERIFY(tous[4].contains("TLS"));
+        QVERIFY(tous[4].contains("curl"));
     }
 
 private:

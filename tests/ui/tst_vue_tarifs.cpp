@@ -133,7 +133,7 @@ private slots:
         Fenetre &fenetre = banc_->app->fenetre();
         fenetre.contenu()->montrer(Rubrique::tarifs);
         QTRY_VERIFY(Ecran::controle(&fenetre, "Ouvrir la page, Frais PayPal"));
-        QVERIFY(Ecran::montre(&fenetre, "Page inaccessible : connexion refusée."));
+        QVERIFY(Ecran::montre(&fenetre, "Page inaccessible : connexion impossible."));
         QCOMPARE(rubrique(), "Tarifs Colissimo, 2 à voir");
         const QString verifier = "Vérifier, Tarifs Colissimo";
         QWidget *bouton = Ecran::controle(&fenetre, verifier);

@@ -23,9 +23,9 @@ QString inaccessible(const char *detail)
 const QString bonjour = "bonjour";
 
 // What the user gets, the text or the message: exactly one thing, and not at once.
-QString issue(const QUrl &adresse, const Limites &limites = {})
+QString issue(const QUrl &adresse, const Limites &limites = {}, Transfert::Usage usage = Transfert::Usage::pagePublique)
 {
-    Telechargement telechargement(limites);
+    Telechargement telechargement(limites, usage);
     QStringList dites;
     QEventLoop boucle;
     const auto noter = [&](const QString &texte) {
@@ -108,7 +108,7 @@ private slots:
         cas("204", {brute("204 No Content")}, inaccessible("réponse 204 de localhost"));
         cas("404", {http("404 Not Found", "bonjour")}, absente);
         cas("coupé", {brute("200 OK\r\nContent-Length: 8", "bonjour")}, interrompue);
-        cas("en-tête coupé", {Reponse{"HTTP/1.1 200 OK\r\nContent-Le"}}, interrompue);
+        cas("en-tête coupé", {Reponse{"HTTP/1.1 200 O"}}, interrompue);
         const QByteArray parMorceaux = "200 OK\r\nTransfer-Encoding: chunked";
         cas("morceau coupé", {brute(parMorceaux, "8\r\nbonjour")}, interrompue);
         cas("dernier morceau absent", {brute(parMorceaux, "7\r\nbonjour\r\n")}, interrompue);
@@ -132,14 +132,30 @@ private slots:
         cas("en rond", {vers("/1"), vers("/0")}, inaccessible("trop de redirections"));
         cas("nulle part", {brute("301 Moved Permanently")}, inaccessible("réponse 301 de localhost"));
         cas("vers un fichier", {vers("file:///etc/passwd")}, inaccessible("réponse 302 de localhost"));
+        const QString connexionImpossible = inaccessible("connexion impossible");
         const QUrl portFerme = ServeurLocal(ServeurLocal::Certificat::sur).adresse(chemin); // closed at once
-        cas("vers un port fermé", {redirection(portFerme)}, inaccessible("connexion refusée"));
+        cas("vers un port fermé", {redirection(portFerme)}, connexionImpossible);
         // Refused on this machine, whatever its network.
-        cas("sans route", {vers("https://255.255.255.255")}, inaccessible("réseau inaccessible"));
+        cas("sans route", {vers("https://255.255.255.255")}, connexionImpossible);
         cas("vers le HTTP", {redirection(clair_.adresse(chemin))},
             inaccessible("redirection vers une adresse non sécurisée"));
         cas("certificat inconnu", {redirection(inconnu_.adresse(chemin))},
             inaccessible("connexion sécurisée impossible"));
+
+        const auto flot = [](const QByteArray &debut, const QByteArray &suite) {
+            return puisSilence({debut + suite.repeated(1 + (1 << 20) / suite.size())});
+        };
+        const QByteArray statut = "HTTP/1.1 200 OK\r\n";
+        const QByteArray annonce = "HTTP/1.1 103 Early Hints\r\nLink: </a>\r\n\r\n";
+        cas("annoncée", {Reponse{annonce + http("200 OK", "bonjour").octets}}, bonjour);
+        cas("pas du HTTP", {Reponse{"SSH-2.0-autre 200\r\n\r\n"}}, inaccessible("réponse 0 de localhost"));
+        cas("en-tête sans fin", {flot(statut + "x: ", "a")}, inaccessible("réponse illisible"));
+        cas("en-têtes sans fin", {flot(statut, "x: a\r\n")}, interrompue);
+        cas("annonces sans fin", {flot({}, annonce)}, interrompue);
+        cas("long en-tête", {brute("200 OK\r\nx: " + QByteArray(60'000, 'a'), "bonjour")}, bonjour);
+        cas("morceau négatif", {brute(parMorceaux, "-7\r\nbonjour")}, interrompue);
+        cas("petits morceaux", {brute(parMorceaux, QByteArray("1;x\r\na\r\n").repeated(50'000) + "0\r\n\r\n")},
+            QString(50'000, u'a'));
 
         const QString silence = inaccessible("délai d’attente dépassé");
         const Limites bref{.silence = 500ms};
@@ -171,19 +187,30 @@ private slots:
     void entetes()
     {
         ServeurLocal serveur;
-        serveur.servir(chemin, redirection(serveur.adresse("/fin")));
-        serveur.servir("/fin", http("200 OK", "bonjour"));
-        QCOMPARE(issue(serveur.adresse(chemin)), bonjour);
-        QCOMPARE(serveur.requetes().size(), 2);
-        QVERIFY(serveur.requetes()[0].startsWith("GET /page HTTP/1.1\r\n"));
-        QVERIFY(serveur.requetes()[1].startsWith("GET /fin HTTP/1.1\r\n"));
-        for (const QByteArray &requete : serveur.requetes()) {
-            QCOMPARE(
-                entete(requete, "User-Agent"),
-                QByteArray("Mozilla/5.0 (Macintosh; Intel Mac OS X 10_15_7) AppleWebKit/605.1.15 (KHTML, like Gecko) "
-                           "Version/18.0 Safari/605.1.15"));
-            QCOMPARE(entete(requete, "Accept-Language"), QByteArray("fr-FR,fr;q=0.9"));
-            QCOMPARE(entete(requete, "Accept-Encoding"), QByteArray("gzip"));
+        const QByteArray temoins =
+            "Set-Cookie: a=1; Path=/\r\nset-cookie:b=2\r\nSet-Cookie: c=" + QByteArray(5000, '3');
+        serveur.servir(chemin, http("302 Found", {}, "Location: fin?a=%20b#c\r\n" + temoins + "\r\n"));
+        serveur.servir("/fin?a=%20b", http("200 OK", "bonjour"));
+        const auto hote = serveur.adresse({}).authority().toLatin1();
+        for (const auto &[nom, usage, agent, rendus] : Rangees<Transfert::Usage, QByteArray, QByteArray>{
+                 {"page publique", Transfert::Usage::pagePublique,
+                  "Mozilla/5.0 (Macintosh; Intel Mac OS X 10_15_7) AppleWebKit/605.1.15 (KHTML, like Gecko) "
+                  "Version/18.0 Safari/605.1.15",
+                  "b=2; a=1"},
+                 {"mise à jour", Transfert::Usage::miseAJour, "Quillet", ""},
+             }) {
+            const Rangee rangee(nom);
+            QCOMPARE(issue(serveur.adresse(chemin), {}, usage), bonjour);
+            const QByteArrayList requetes = serveur.requetes().last(2);
+            QVERIFY(requetes[0].startsWith("GET /page HTTP/1.1\r\n"));
+            QVERIFY(requetes[1].startsWith("GET /fin?a=%20b HTTP/1.1\r\n"));
+            QCOMPARE(entete(requetes[1], "Cookie"), rendus);
+            for (const QByteArray &requete : requetes) {
+                QCOMPARE(entete(requete, "Host"), hote);
+                QCOMPARE(entete(requete, "User-Agent"), agent);
+                QCOMPARE(entete(requete, "Accept-Language"), QByteArray("fr-FR,fr;q=0.9"));
+                QCOMPARE(entete(requete, "Accept-Encoding"), QByteArray("gzip"));
+            }
         }
     }
 
