@@ -24,6 +24,7 @@ constexpr auto causes = std::to_array<Cause>({
     {ENOTDIR, "un fichier occupe la place d’un dossier"},
     {EEXIST, "un fichier occupe la place d’un dossier"},
     {EISDIR, "un dossier occupe la place du fichier"},
+    {ENXIO, "ce n’est pas un fichier ordinaire"}, // a socket
     {ELOOP, "le lien tourne en rond"},
     {ENAMETOOLONG, "le nom est trop long"},
     {EMFILE, "trop de fichiers sont ouverts"},

@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -16,11 +18,74 @@ namespace Quillet {
 
 namespace {
 
-// Some disks say only now that they are full or failing, and QSaveFile does not listen. Gives the error's number, 0 for
-// none; a file system that knows no such request is none.
-int synchroniser(const QSaveFile &fichier)
+using EtatSysteme = struct stat;
+
+QString raisonSysteme(int erreur)
 {
-    return fdatasync(fichier.handle()) == 0 || errno == EINVAL ? 0 : errno;
+    return CauseSysteme::enFrancais(std::error_code(erreur, std::generic_category()));
+}
+
+// Of an answer to a request to have the disk take something: the error's number, 0 for none; a file system that knows
+// no such request is none.
+int erreurDeSynchronisation(int reponse)
+{
+    return reponse == 0 || errno == EINVAL ? 0 : errno;
+}
+
+class Descripteur
+{
+public:
+    Descripteur(const QString &chemin, int drapeaux)
+        : fd_(open(QFile::encodeName(chemin).constData(), drapeaux | O_RDONLY | O_CLOEXEC))
+    {
+    }
+    ~Descripteur()
+    {
+        if (fd_ >= 0)
+            close(fd_);
+    }
+    Q_DISABLE_COPY_MOVE(Descripteur)
+    [[nodiscard]] int fd() const { return fd_; }
+
+private:
+    int fd_;
+};
+
+// Names come to the disk with their folder, not with their file. Opened before anything moves there: a folder that
+// cannot be is refused while that is still true.
+class Dossier
+{
+public:
+    explicit Dossier(const QFileInfo &contenu) : ouvert_(contenu.absolutePath(), O_DIRECTORY)
+    {
+        if (ouvert_.fd() < 0)
+            throw ErreurStockage(contenu.filePath(), raisonSysteme(errno));
+    }
+    [[nodiscard]] int synchroniser() const { return erreurDeSynchronisation(fsync(ouvert_.fd())); }
+
+private:
+    Descripteur ouvert_;
+};
+
+// Where a name leads: QSaveFile, too, replaces what a link points to.
+QFileInfo cible(const QString &chemin)
+{
+    QFileInfo info(chemin);
+    for (int liens = 0; liens < 40 && info.isSymLink(); ++liens)
+        info.setFile(info.symLinkTarget());
+    return info;
+}
+
+// The disk did not take a folder's new names: they are taken back, so that what is told is true.
+ErreurStockage repris(const QString &chemin, const std::optional<QByteArray> &avant, int erreur)
+{
+    QSaveFile fichier(chemin);
+    const bool repris = avant ? fichier.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
+                                    && Fichier::toutEcrire(fichier, *avant) && fichier.commit()
+                              : QFile::remove(chemin);
+    return {chemin, repris ? raisonSysteme(erreur)
+                           : QStringLiteral("%1 ; le changement est en place, mais une coupure de courant le perdrait")
+                                 .arg(raisonSysteme(erreur))};
 }
 
 // QSaveFile words the refusal of an existing file itself; opening that file says what the system holds against it.
@@ -55,36 +120,55 @@ QStringList Fichier::lister(const QDir &dossier, const QString &motif)
     return dossier.entryList({motif}, QDir::Files | QDir::CaseSensitive, QDir::Name);
 }
 
-std::optional<QByteArray> Fichier::lire(const QString &chemin)
+std::optional<QByteArray> Fichier::lire(const QString &chemin, qint64 borne)
 {
-    QFile fichier(chemin);
-    if (!fichier.open(QIODevice::ReadOnly))
+    try {
+        return lireOuRefuser(chemin, borne);
+    } catch (const ErreurStockage &) { // the caller has another value for it
         return std::nullopt;
-    const QByteArray contenu = fichier.readAll();
-    return fichier.error() == QFile::NoError ? std::optional(contenu) : std::nullopt;
+    }
 }
 
-std::optional<QByteArray> Fichier::lireOuRefuser(const QString &chemin)
+std::optional<QByteArray> Fichier::lireOuRefuser(const QString &chemin, qint64 borne)
 {
     if (!existe(chemin))
         return std::nullopt;
-    if (QFileInfo(chemin).isDir()) // which Qt refuses in words of its own
-        throw ErreurStockage(chemin, CauseSysteme::enFrancais(std::make_error_code(std::errc::is_a_directory)));
-    QFile fichier(chemin);
+    const Descripteur ouvert(chemin, O_NONBLOCK | O_NOCTTY); // nobody may ever write into a pipe
+    EtatSysteme etat{};
+    if (ouvert.fd() < 0 || fstat(ouvert.fd(), &etat) != 0)
+        throw ErreurStockage(chemin, raisonSysteme(errno));
+    if (S_ISDIR(etat.st_mode))
+        throw ErreurStockage(chemin, raisonSysteme(EISDIR));
+    if (!S_ISREG(etat.st_mode))
+        throw ErreurStockage(chemin, QStringLiteral("ce n’est pas un fichier ordinaire"));
+    if (etat.st_size > borne)
+        throw ErreurStockage(chemin, raisonSysteme(EFBIG));
+    QFile fichier;
     QByteArray contenu;
-    if (fichier.open(QIODevice::ReadOnly))
-        contenu = fichier.readAll();
+    if (fichier.open(ouvert.fd(), QIODevice::ReadOnly))
+        contenu = fichier.read(etat.st_size + 1);
     if (fichier.error() != QFile::NoError)
         throw ErreurStockage(chemin, CauseSysteme::enFrancais(fichier.errorString()));
+    if (contenu.size() != etat.st_size)
+        throw ErreurStockage(chemin, QStringLiteral("le fichier change pendant sa lecture"));
     return contenu;
 }
 
 void Fichier::creerDossier(const QString &chemin)
 {
-    std::error_code erreur;
-    std::filesystem::create_directories(chemin.toStdString(), erreur);
-    if (erreur)
-        throw ErreurStockage(chemin, CauseSysteme::enFrancais(erreur));
+    const QFileInfo info(chemin);
+    if (info.isDir())
+        return;
+    const QString parent = info.absolutePath();
+    if (parent != info.absoluteFilePath())
+        creerDossier(parent);
+    const Dossier dossier(info);
+    if (mkdir(QFile::encodeName(chemin).constData(), 0777) != 0 && !QFileInfo(chemin).isDir())
+        throw ErreurStockage(chemin, raisonSysteme(errno));
+    if (const int erreur = dossier.synchroniser()) {
+        rmdir(QFile::encodeName(chemin).constData()); // the next save asks again
+        throw ErreurStockage(chemin, raisonSysteme(erreur));
+    }
 }
 
 // A full disk first takes a part, and says why only when asked to take the rest.
@@ -101,15 +185,34 @@ bool Fichier::toutEcrire(QIODevice &fichier, QByteArrayView octets)
 
 void Fichier::ecrire(const QString &chemin, const QByteArray &octets)
 {
+    const Dossier dossier(cible(chemin));
+    const auto avant = lireOuRefuser(chemin, Borne::toute);
     QSaveFile fichier(chemin);
     if (!fichier.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) // buffered, it commits a cut file on a full disk
         throw ErreurStockage(chemin, raisonDuRefus(fichier));
     if (!toutEcrire(fichier, octets))
         throw ErreurStockage(chemin, CauseSysteme::enFrancais(fichier.errorString()));
-    if (const int erreur = synchroniser(fichier))
-        throw ErreurStockage(chemin, CauseSysteme::enFrancais(std::error_code(erreur, std::generic_category())));
+    // Some disks say only now that they are full or failing, and QSaveFile does not listen.
+    if (const int erreur = erreurDeSynchronisation(fdatasync(fichier.handle())))
+        throw ErreurStockage(chemin, raisonSysteme(erreur));
     if (!fichier.commit())
         throw ErreurStockage(chemin, CauseSysteme::enFrancais(fichier.errorString()));
+    if (const int erreur = dossier.synchroniser())
+        throw repris(chemin, avant, erreur);
+}
+
+void Fichier::effacer(const QString &chemin)
+{
+    const auto avant = lireOuRefuser(chemin, Borne::toute);
+    if (!avant)
+        return;
+    const Dossier dossier{QFileInfo(chemin)};
+    std::error_code erreur;
+    std::filesystem::remove(chemin.toStdString(), erreur);
+    if (erreur)
+        throw ErreurStockage(chemin, CauseSysteme::enFrancais(erreur));
+    if (const int refus = dossier.synchroniser())
+        throw repris(chemin, avant, refus);
 }
 
 } // namespace Quillet

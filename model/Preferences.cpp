@@ -38,18 +38,18 @@ Preferences Preferences::deLUtilisateur()
 
 QString Preferences::texte(const QString &cle) const
 {
-    return decoder(Fichier::lire(fichier_).value_or(QByteArray())).value(cle);
+    return decoder(Fichier::lire(fichier_, Fichier::Borne::preferences).value_or(QByteArray())).value(cle);
 }
 
 QString Preferences::texteOuErreur(const QString &cle) const
 {
-    return decoder(Fichier::lireOuRefuser(fichier_).value_or(QByteArray())).value(cle);
+    return decoder(Fichier::lireOuRefuser(fichier_, Fichier::Borne::preferences).value_or(QByteArray())).value(cle);
 }
 
 void Preferences::ecrire(const QString &cle, const QString &texte)
 {
     Fichier::creerDossier(QFileInfo(fichier_).absolutePath());
-    Valeurs valeurs = decoder(Fichier::lireOuRefuser(fichier_).value_or(QByteArray()));
+    Valeurs valeurs = decoder(Fichier::lireOuRefuser(fichier_, Fichier::Borne::preferences).value_or(QByteArray()));
     valeurs.insert(cle, texte);
     Fichier::ecrire(fichier_, encoder(valeurs));
 }

@@ -52,7 +52,7 @@ QString Ressources::tarifsIntrouvables()
 QByteArray Ressources::octets(const Json::Lieu &fichier) const
 {
     try {
-        if (const auto contenu = Fichier::lireOuRefuser(dossier_.filePath(fichier.chemin())))
+        if (const auto contenu = Fichier::lireOuRefuser(dossier_.filePath(fichier.chemin()), Fichier::Borne::donnees))
             return *contenu;
     } catch (const ErreurStockage &erreur) {
         fichier.refuser(erreur.raison());

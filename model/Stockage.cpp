@@ -1,10 +1,6 @@
 #include "model/Stockage.h"
 
-#include "model/CauseSysteme.h"
-
 #include <QStandardPaths>
-
-#include <filesystem>
 
 namespace Quillet {
 
@@ -34,25 +30,21 @@ void Stockage::remplacer(const QString &nom, const QByteArray &octets)
 void Stockage::effacer(const QString &nom)
 {
     preserver(nom);
-    const QString chemin = dossier_.filePath(nom);
-    std::error_code erreur;
-    std::filesystem::remove(chemin.toStdString(), erreur);
-    if (erreur)
-        throw ErreurStockage(chemin, CauseSysteme::enFrancais(erreur));
+    Fichier::effacer(dossier_.filePath(nom));
     compris_.remove(nom);
 }
 
 void Stockage::preserver(const QString &nom) const
 {
     const QString chemin = dossier_.filePath(nom);
-    const auto contenu = Fichier::lireOuRefuser(chemin);
+    const auto contenu = Fichier::lireOuRefuser(chemin, Fichier::Borne::donnees);
     if (!contenu)
         return;
     if (const auto connu = compris_.constFind(nom); connu != compris_.constEnd() && *connu == *contenu)
         return;
     QString copie = nom + QStringLiteral(".illisible");
     for (int numero = 2; Fichier::existe(dossier_.filePath(copie)); ++numero) {
-        if (Fichier::lire(dossier_.filePath(copie)) == contenu)
+        if (Fichier::lire(dossier_.filePath(copie), Fichier::Borne::donnees) == contenu)
             return; // already kept, by an attempt whose write then failed
         copie = QStringLiteral("%1.illisible-%2").arg(nom, QString::number(numero));
     }

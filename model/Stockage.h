@@ -25,7 +25,7 @@ public:
     template <typename T>
     [[nodiscard]] std::optional<T> lire(const QString &nom)
     {
-        const auto contenu = Fichier::lire(dossier_.filePath(nom));
+        const auto contenu = Fichier::lire(dossier_.filePath(nom), Fichier::Borne::donnees);
         if (!contenu)
             return std::nullopt;
         try {

@@ -58,11 +58,6 @@ void faireEchouer(pid_t enfant, int erreur)
     ecrireRegistre(enfant, offsetof(user_regs_struct, rax), -erreur);
 }
 
-bool synchronise(long appel)
-{
-    return appel == SYS_fsync || appel == SYS_fdatasync;
-}
-
 bool creeUnAnonyme(const __ptrace_syscall_info &info)
 {
     return info.entry.nr == SYS_openat && (info.entry.args[2] & O_TMPFILE) == O_TMPFILE;
@@ -84,6 +79,11 @@ void Appels::seLaisserSuivre()
 void Appels::borne()
 {
     syscall(borneDuSuivi);
+}
+
+bool Appels::synchronise(long appel)
+{
+    return appel == SYS_fsync || appel == SYS_fdatasync;
 }
 
 Appels::Suivi Appels::suivre(pid_t enfant, Disque disque, int rang, int erreur)
@@ -127,6 +127,40 @@ Appels::Suivi Appels::suivre(pid_t enfant, Disque disque, int rang, int erreur)
     ptrace(PTRACE_DETACH, enfant, nullptr, nullptr);
     waitpid(enfant, &suivi.statut, 0);
     return suivi;
+}
+
+int Appels::observer(pid_t enfant, Disque disque, const std::function<void(const Fait &)> &apres)
+{
+    int statut = 0;
+    waitpid(enfant, &statut, 0);
+    ptrace(PTRACE_SETOPTIONS, enfant, nullptr, PTRACE_O_TRACESYSGOOD | PTRACE_O_EXITKILL);
+    bool dedans = false;
+    Fait fait;
+    while (true) {
+        ptrace(PTRACE_SYSCALL, enfant, nullptr, 0);
+        waitpid(enfant, &statut, 0);
+        if (WIFEXITED(statut) || WIFSIGNALED(statut))
+            return statut;
+        __ptrace_syscall_info info{};
+        ptrace(PTRACE_GET_SYSCALL_INFO, enfant, sizeof info, &info);
+        if (info.op == PTRACE_SYSCALL_INFO_ENTRY) {
+            fait = {.appel = long(info.entry.nr), .premier = qint64(info.entry.args[0])};
+            if (fait.appel == borneDuSuivi && dedans)
+                break;
+            if (dedans && disque == Disque::sansAnonymes && creeUnAnonyme(info))
+                faireEchouer(enfant, EOPNOTSUPP);
+        } else if (info.op == PTRACE_SYSCALL_INFO_EXIT && fait.appel == borneDuSuivi) {
+            dedans = true;
+            apres({});
+        } else if (info.op == PTRACE_SYSCALL_INFO_EXIT && dedans
+                   && std::ranges::find(sansFichier, fait.appel) == std::end(sansFichier)) {
+            fait.reussi = info.exit.is_error == 0;
+            apres(fait);
+        }
+    }
+    ptrace(PTRACE_DETACH, enfant, nullptr, nullptr);
+    waitpid(enfant, &statut, 0);
+    return statut;
 }
 
 QByteArray Appels::nom(long appel)

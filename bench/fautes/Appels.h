@@ -25,6 +25,18 @@ enum class Disque { local, sansAnonymes };
 // child instead. Calls about memory and signals are not counted. A disk that does not synchronise never does again.
 Suivi suivre(pid_t enfant, Disque disque, int rang, int erreur);
 
+// One call that has come back; `appel` is -1 for the first bound.
+struct Fait
+{
+    long appel = -1;
+    qint64 premier = 0; // its first argument
+    bool reussi = true;
+};
+[[nodiscard]] bool synchronise(long appel);
+// Lets the child run to its end, held while `apres` looks at what each call between the two bounds has done. Gives how
+// it ended, as waitpid does.
+int observer(pid_t enfant, Disque disque, const std::function<void(const Fait &)> &apres);
+
 // Of the number, as the kernel calls it.
 QByteArray nom(long appel);
 

@@ -93,7 +93,8 @@ int arretsAChaqueAppel(const Ressources &ressources, const QString &travail)
                 break;
             ++parAppel[Appels::nom(suivi.appel)];
             restes += nombreDeRestes(dossier);
-            if (!bilan.compter(dansUnProcessus([&] { return int(essai.releverApresArret(dossier)); })))
+            if (!bilan.compter(
+                    dansUnProcessus([&] { return int(essai.releverApresArret(dossier, Essai::Arret::pendant)); })))
                 std::fprintf(stderr, "  arrêté à l’appel %d, %s\n", rang, Appels::nom(suivi.appel).constData());
         }
     };

@@ -134,17 +134,23 @@ QString Essai::fauteEnsuite(const QString &dossier, Poste &poste) const
     return {};
 }
 
-Essai::Issue Essai::releverApresArret(const QString &dossier) const
+Essai::Issue Essai::releverApresArret(const QString &dossier, Arret arret) const
 {
     Poste poste(ressources_, dossier);
     const Contenu trouve(poste);
+    const Fichiers gardes = fichiers(dossier);
+    const bool ancien = trouve.memesDonnees(*avant_);
     QString constat;
-    if (!trouve.memesDonnees(*avant_) && !trouve.memesDonnees(*apres_))
+    if (arret == Arret::apres && !trouve.memesDonnees(*apres_))
+        constat = QStringLiteral("enregistré, et ce n’est plus là");
+    else if (!ancien && !trouve.memesDonnees(*apres_))
         constat = QStringLiteral("arrêté, et le fichier n’est ni l’ancien ni le nouveau");
+    else if (depart_ == Depart::illisible && !gardes.values().contains(abime))
+        constat = QStringLiteral("arrêté, et ce qui était abîmé n’est plus nulle part");
     else
         constat = fauteEnsuite(dossier, poste);
     if (constat.isEmpty())
-        return trouve.memesDonnees(*avant_) ? Issue::refuse : Issue::reussi;
+        return ancien ? Issue::refuse : Issue::reussi;
     direLaFaute(nom(), constat);
     return Issue::faute;
 }

@@ -28,8 +28,9 @@ public:
     // Makes the folder ready, then does the gesture between `armer` and `lever`. A fault is told to the standard error.
     [[nodiscard]] Issue jouer(const QString &dossier, const std::function<void()> &armer,
                               const std::function<void()> &lever) const;
-    // The program that did the gesture there was killed meanwhile.
-    [[nodiscard]] Issue releverApresArret(const QString &dossier) const;
+    // The program that did the gesture there was stopped, meanwhile or once it had told that all was saved.
+    enum class Arret { pendant, apres };
+    [[nodiscard]] Issue releverApresArret(const QString &dossier, Arret arret) const;
 
 private:
     [[nodiscard]] std::unique_ptr<Poste> ouvrir(const QString &dossier) const;

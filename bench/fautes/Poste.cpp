@@ -9,6 +9,7 @@ namespace {
 const QString fichierLivres = QStringLiteral("livres-modifies.json");
 const QString fichierTarifs = QStringLiteral("tarifs-colissimo-2099-01-01.json");
 const QString fichierFrais = QStringLiteral("frais-paypal.json");
+const QString cleVerification = QStringLiteral("verification.laPoste");
 const QString fichierNumeros = QStringLiteral("Quillet.ini");
 
 void rien(Poste &) {}
@@ -48,6 +49,11 @@ void retenirUnNumero(Poste &poste, int rang)
     poste.numeros.retenir(QStringLiteral("2026-%1").arg(rang, 3, 10, QLatin1Char('0')), Vendeur::davrel);
 }
 
+void noterUneVerification(Poste &poste, int rang)
+{
+    poste.numeros.preferences.ecrire(cleVerification, QStringLiteral("2026-03-02T10:00:%1Z").arg(10 + rang));
+}
+
 // Prices that no grid gives, so that the buttons have something to take over.
 void fausserLesBoutons(Poste &poste)
 {
@@ -72,6 +78,7 @@ Poste::Poste(const Ressources &ressources, const QString &dossier)
 Contenu::Contenu(const Poste &poste)
     : livres(poste.catalogue->donnees().livres),
       frais(poste.catalogue->donnees().reglages.fraisPaypal),
+      verification(poste.numeros.preferences.texte(cleVerification)),
       aAnnuler(poste.historique.aAnnuler())
 {
     for (const TarifsColissimo &jeu : poste.catalogue->donnees().grillesConnues)
@@ -82,7 +89,8 @@ Contenu::Contenu(const Poste &poste)
 
 bool Contenu::memesDonnees(const Contenu &autre) const
 {
-    return livres == autre.livres && tarifs == autre.tarifs && frais == autre.frais && numeros == autre.numeros;
+    return livres == autre.livres && tarifs == autre.tarifs && frais == autre.frais && numeros == autre.numeros
+           && verification == autre.verification;
 }
 
 QList<Geste> gestes()
@@ -112,6 +120,7 @@ QList<Geste> gestes()
         {"enregistrer des tarifs", fichierTarifs, rien, enregistrerLesTarifs},
         {"enregistrer des frais", fichierFrais, rien, enregistrerLesFrais},
         {"retenir un numéro", fichierNumeros, rien, retenirUnNumero},
+        {"noter une vérification", fichierNumeros, rien, noterUneVerification},
         {"réimprimer un ancien numéro", fichierNumeros, rien, [](Poste &poste, int) { retenirUnNumero(poste, 1); }},
     };
 }

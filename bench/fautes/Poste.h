@@ -25,6 +25,7 @@ struct Contenu
     QMap<Jour, TarifsColissimo> tarifs;
     FraisPaypal frais;
     QStringList numeros;
+    QString verification;
     QString aAnnuler;
 
     // Whether a program started on the same folder sees the same; what can be undone ends with the program.

@@ -23,6 +23,7 @@ struct Partie
 constexpr auto parties = std::to_array<Partie>({
     {"hasard", arretsAuHasard, "/var/tmp"},
     {"arrets", arretsAChaqueAppel, "/dev/shm"},
+    {"coupures", coupures, "/dev/shm"},
     {"appels", appelsEnEchec, "/dev/shm"},
     {"plein", disquesPleins, "/var/tmp"},
     {"dossiers", dossiersPerdus, "/var/tmp"},

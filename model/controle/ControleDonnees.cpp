@@ -53,7 +53,8 @@ public:
     {
         if (!lu_)
             return;
-        for (const auto &[ligne, cle] : ClesDoublees::dans(Fichier::lire(chemin_).value_or(QByteArray())))
+        for (const auto &[ligne, cle] :
+             ClesDoublees::dans(Fichier::lire(chemin_, Fichier::Borne::donnees).value_or(QByteArray())))
             Json::Lieu(QStringLiteral("%1.json, ligne %2").arg(nom_).arg(ligne), &constats_)
                 .noter(QStringLiteral("clé « %1 » écrite deux fois, la dernière compte").arg(cle));
         const Json::Lieu racine(nom_, &constats_);
