@@ -69,7 +69,7 @@ int main(int argc, char **argv)
     Bureau bureau;
     QuilletApp::preparer();
     QuilletApp::suivre(bureau);
-    InstanceUnique instance;
+    InstanceUnique instance(InstanceUnique::communDeLUtilisateur());
     if (!instance.prendreLaPlace({}))
         return 1;
     QuilletApp quillet(

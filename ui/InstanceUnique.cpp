@@ -1,5 +1,7 @@
 #include "ui/InstanceUnique.h"
 
+#include "model/Echec.h"
+
 #include <QDeadlineTimer>
 #include <QFile>
 #include <QLocalSocket>
@@ -7,7 +9,12 @@
 #include <QThread>
 #include <QTimer>
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
 #include <algorithm>
+#include <cerrno>
 
 namespace Quillet {
 
@@ -32,12 +39,25 @@ QByteArray jetonPlausible(const QByteArray &ligne)
 
 } // namespace
 
-InstanceUnique::InstanceUnique()
-    : adresse_(dansLeDossierDeSession(QStringLiteral("quillet.socket"))),
+InstanceUnique::InstanceUnique(const QDir &commun, std::chrono::milliseconds patience)
+    : commun_(commun),
+      patience_(patience),
+      adresse_(dansLeDossierDeSession(QStringLiteral("quillet.socket"))),
       verrou_(dansLeDossierDeSession(QStringLiteral("quillet.lock")))
 {
     verrou_.setStaleLockTime(0); // a session may last for days
     connect(&serveur_, &QLocalServer::newConnection, this, [this] { ecouter(serveur_.nextPendingConnection()); });
+}
+
+InstanceUnique::~InstanceUnique()
+{
+    if (donnees_ >= 0)
+        close(donnees_);
+}
+
+QDir InstanceUnique::communDeLUtilisateur()
+{
+    return {QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)};
 }
 
 bool InstanceUnique::prendreLaPlace(const QByteArray &jeton)
@@ -52,6 +72,7 @@ bool InstanceUnique::prendreLaPlace(const QByteArray &jeton)
         if (!prise())
             return false;
     }
+    verrouillerLesDonnees();
     QLocalServer::removeServer(adresse_); // left by a program that was killed
     serveur_.setSocketOptions(QLocalServer::UserAccessOption);
     if (!serveur_.listen(adresse_))
@@ -69,11 +90,29 @@ bool InstanceUnique::appelerLaPremiere(const QByteArray &jeton) const
         if (prise.waitForConnected(attente)) {
             prise.write(jetonPlausible(jeton) + '\n');
             prise.waitForBytesWritten(attente);
+            // The system takes calls for a program that is stopped: only one that listens hangs up.
+            if (prise.state() != QLocalSocket::UnconnectedState && !prise.waitForDisconnected(int(patience_.count())))
+                throw Echec(QStringLiteral("Quillet est déjà ouvert, mais ne répond pas.\nAttendez un instant, ou "
+                                           "fermez-le, puis recommencez."));
             return true;
         }
         QThread::msleep(entreDeuxAppels);
     } while (!patience.hasExpired());
     return false;
+}
+
+// Sessions of one account do not share their runtime folder, but do share the data. The lock goes with the program,
+// however it ends, and leaves no file. A disk that knows no such lock must not keep the seller from working.
+void InstanceUnique::verrouillerLesDonnees()
+{
+    commun_.mkpath(QStringLiteral("."));
+    if (donnees_ < 0)
+        donnees_ = open(QFile::encodeName(commun_.path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (donnees_ >= 0 && flock(donnees_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+        verrou_.unlock();
+        throw Echec(QStringLiteral("Quillet est déjà ouvert sur les mêmes données, sans doute dans une autre "
+                                   "session.\nFermez-le là-bas, puis recommencez."));
+    }
 }
 
 // A call is one short line. Whoever sends anything else, or nothing, is not listened to for long.

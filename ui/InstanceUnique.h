@@ -1,20 +1,29 @@
 #pragma once
 
+#include <QDir>
 #include <QLocalServer>
 #include <QLockFile>
 
+#include <chrono>
+
 namespace Quillet {
 
-// Only one Quillet runs per user: two would write the same files. A second start asks the first to show itself.
+// Only one Quillet runs per session and per data folder: two would write the same files. A second start asks the first
+// to show itself.
 class InstanceUnique : public QObject
 {
     Q_OBJECT
 
 public:
-    InstanceUnique();
+    // `commun`: the folder that holds the data one, which may not be there yet. `patience`: for the first to answer.
+    explicit InstanceUnique(const QDir &commun, std::chrono::milliseconds patience = std::chrono::seconds(5));
+    ~InstanceUnique() override;
+    Q_DISABLE_COPY_MOVE(InstanceUnique)
+    // The folder of the platform's per-user data.
+    static QDir communDeLUtilisateur();
 
-    // False: another one runs; it has been asked to show itself, and given the token by which whoever started this one
-    // allows a window to come forward (empty when there is none).
+    // False: another one runs; it has come to show itself, and was given the token by which whoever started this one
+    // allows a window to come forward (empty when there is none). Throws Echec when it cannot be reached.
     [[nodiscard]] bool prendreLaPlace(const QByteArray &jeton);
 
 signals:
@@ -22,10 +31,14 @@ signals:
 
 private:
     [[nodiscard]] bool appelerLaPremiere(const QByteArray &jeton) const;
+    void verrouillerLesDonnees();
     void ecouter(QLocalSocket *appel);
 
+    QDir commun_;
+    std::chrono::milliseconds patience_;
     QString adresse_;
     QLockFile verrou_;
+    int donnees_ = -1; // holds a lock as long as it is open
     QLocalServer serveur_;
 };
 

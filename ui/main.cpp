@@ -39,10 +39,10 @@ QByteArray jetonDuLanceur()
 
 int ouvrir(Bureau &bureau, const QByteArray &jeton)
 {
-    InstanceUnique instance;
-    if (!instance.prendreLaPlace(jeton))
-        return 0;
+    InstanceUnique instance(InstanceUnique::communDeLUtilisateur());
     try {
+        if (!instance.prendreLaPlace(jeton))
+            return 0;
         QuilletApp quillet(
             Ressources::duProgramme(), Stockage::deLUtilisateur(), Preferences::deLUtilisateur(),
             [] { return QDate::currentDate(); }, PagesSurveillees(), sourceDesMisesAJour());
@@ -50,7 +50,7 @@ int ouvrir(Bureau &bureau, const QByteArray &jeton)
         bureau.relever(); // most often it has answered by now: the first image is right at once
         quillet.fenetre().show();
         return QApplication::exec();
-    } catch (const RessourceIllisible &erreur) {
+    } catch (const Echec &erreur) {
         std::fprintf(stderr, "%s\n", erreur.what());
         if (QGuiApplication::platformName() != QLatin1String("offscreen"))
             QMessageBox::critical(nullptr, QStringLiteral("Quillet"), erreur.texte());

@@ -8,6 +8,7 @@
 #include <QLocalSocket>
 #include <QMenuBar>
 #include <QSignalSpy>
+#include <QThread>
 
 #include <algorithm>
 
@@ -108,22 +109,48 @@ private slots:
         QVERIFY(abandonne.open(QIODevice::WriteOnly) && abandonne.write("n’importe quoi") > 0);
         abandonne.close();
 
-        InstanceUnique premiere;
+        InstanceUnique premiere(session_.path());
         QVERIFY(premiere.prendreLaPlace({})); // nobody answers for the lock left there
         QSignalSpy appelee(&premiere, &InstanceUnique::appelee);
-        InstanceUnique seconde;
-        QVERIFY(!seconde.prendreLaPlace("jeton_TIME42"));
-        QTRY_COMPARE(appelee.count(), 1);
-        QCOMPARE(appelee.takeFirst().constFirst().toByteArray(), QByteArray("jeton_TIME42"));
-        QVERIFY(!seconde.prendreLaPlace("deux\nlignes"));
-        QTRY_COMPARE(appelee.count(), 1);
-        QCOMPARE(appelee.takeFirst().constFirst().toByteArray(), QByteArray());
+        for (const auto &[jeton, transmis] :
+             Rangees<QByteArray>{{"jeton_TIME42", "jeton_TIME42"}, {"deux\nlignes", QByteArray()}}) {
+            const Rangee rangee(jeton);
+            const QByteArray envoye(jeton);
+            bool seule = true;
+            const std::unique_ptr<QThread> autre(
+                QThread::create([&] { seule = InstanceUnique(session_.path(), 1min).prendreLaPlace(envoye); }));
+            autre->start();
+            QTRY_COMPARE(appelee.count(), 1);
+            QVERIFY(autre->wait());
+            QVERIFY(!seule);
+            QCOMPARE(appelee.takeFirst().constFirst().toByteArray(), transmis);
+        }
+    }
+
+    // The second start says why it does not open: the first is stopped, or in a session that it cannot call.
+    void premiereHorsDePortee()
+    {
+        InstanceUnique premiere(session_.path());
+        QVERIFY(premiere.prendreLaPlace({}));
+        const auto refus = [&] {
+            try {
+                return QString(InstanceUnique(session_.path(), 100ms).prendreLaPlace({}) ? "ouvre" : "se tait");
+            } catch (const Echec &echec) {
+                return echec.texte();
+            }
+        };
+        QVERIFY2(refus().startsWith("Quillet est déjà ouvert, mais ne répond pas."), qPrintable(refus()));
+        const QTemporaryDir autreSession;
+        qputenv("XDG_RUNTIME_DIR", autreSession.path().toUtf8());
+        const QString ailleurs = refus();
+        qputenv("XDG_RUNTIME_DIR", session_.path().toUtf8());
+        QVERIFY2(ailleurs.startsWith("Quillet est déjà ouvert sur les mêmes données"), qPrintable(ailleurs));
     }
 
     // Whatever a program of the same user sends there, the first is called only by a call, and hangs up.
     void appelsHostiles()
     {
-        InstanceUnique premiere;
+        InstanceUnique premiere(session_.path());
         QVERIFY(premiere.prendreLaPlace({}));
         QSignalSpy appelee(&premiere, &InstanceUnique::appelee);
         const QString adresse = session_.filePath("quillet.socket");

@@ -1,7 +1,9 @@
 #include "ui/couvertures/ImagesCouvertures.h"
 
 #include "model/Couvertures.h"
+#include "model/Fichier.h"
 
+#include <QFileInfo>
 #include <QImageReader>
 
 #include <algorithm>
@@ -21,6 +23,8 @@ QString cle(const QString &couverture, const QSize &pixels)
 
 QImage lire(const QString &chemin, const QSize &pixels)
 {
+    if (const QFileInfo fichier(chemin); !fichier.isFile() || fichier.size() > Fichier::Borne::image)
+        return {};
     QImageReader lecteur(chemin);
     const QSize originale = lecteur.size();
     if (originale.isEmpty())
