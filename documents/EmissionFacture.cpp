@@ -5,7 +5,7 @@ namespace Quillet {
 QString EmissionFacture::numeroPour(const QString &champ, Vendeur vendeur, QDate jour)
 {
     const bool aJour = NumerotationFactures::rapport(champ, jour) == NumerotationFactures::Rapport::dansLaSerie;
-    if (champ != propose_ || aJour)
+    if (champ != propose_ || (aJour && champ == parti_))
         return champ;
     try {
         propose_ = numerotation_.prochain(vendeur, jour);
@@ -17,11 +17,21 @@ QString EmissionFacture::numeroPour(const QString &champ, Vendeur vendeur, QDate
     return propose_;
 }
 
+QString EmissionFacture::dernierAvant(const QString &numero, Vendeur vendeur) const
+{
+    try {
+        return numero == parti_ ? QString() : numerotation_.dernier(vendeur);
+    } catch (const ErreurStockage &) { // `sansProposition` has said so
+        return {};
+    }
+}
+
 bool EmissionFacture::emettre(const Facture &facture, Vendeur vendeur,
                               const std::function<bool(const Facture &)> &sortir)
 {
     if (!sortir(facture))
         return false;
+    parti_ = facture.numero;
     try {
         numerotation_.retenir(facture.numero, vendeur);
     } catch (const ErreurStockage &erreur) {

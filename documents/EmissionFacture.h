@@ -16,11 +16,16 @@ class EmissionFacture
 public:
     explicit EmissionFacture(Preferences preferences) : numerotation_{std::move(preferences)} {}
 
-    // What the number's field is to hold, given what it holds: what somebody typed there, or else the next number of
-    // the day's series, empty when the last one could not be read.
+    // What the number's field is to hold, given what it holds: what somebody typed there or what has left from here, or
+    // else the next number of the day's series, empty when the last one could not be read. To be asked again just
+    // before an invoice leaves: another session may have kept the number meanwhile.
     [[nodiscard]] QString numeroPour(const QString &champ, Vendeur vendeur, QDate jour);
     // Why no number could be proposed; empty when one was.
     [[nodiscard]] const QString &sansProposition() const { return sansProposition_; }
+
+    // The last number kept, which `numero` is to come after; empty when there is none that can be read, or when it has
+    // left from here.
+    [[nodiscard]] QString dernierAvant(const QString &numero, Vendeur vendeur) const;
 
     // `sortir` says whether the invoice left the program: only then does its number count, and only then is this true.
     // Throws what `sortir` throws, and Echec when the invoice left but its number could not be kept.
@@ -29,6 +34,7 @@ public:
 private:
     NumerotationFactures numerotation_;
     QString propose_; // the last one: while the field holds it, nobody has typed or dictated another
+    QString parti_;   // the number of the last invoice that left from here: it may be printed once more
     QString sansProposition_;
 };
 

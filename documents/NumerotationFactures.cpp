@@ -53,19 +53,30 @@ QString composer(const Numero &numero)
 
 QString NumerotationFactures::prochain(Vendeur vendeur, QDate date) const
 {
-    const auto dernier = decomposer(preferences.texteOuErreur(cle(vendeur)));
-    const bool suite = dernier && dernier->annee == date.year() && dernier->rang < std::numeric_limits<qint64>::max();
-    return suite ? composer({date.year(), dernier->rang + 1}) : premier(date);
+    const auto retenu = decomposer(dernier(vendeur));
+    const bool suite = retenu && retenu->annee == date.year() && retenu->rang < std::numeric_limits<qint64>::max();
+    return suite ? composer({date.year(), retenu->rang + 1}) : premier(date);
+}
+
+QString NumerotationFactures::dernier(Vendeur vendeur) const
+{
+    const auto trouvee = preferences.chercher(cle(vendeur));
+    if (trouvee.perte)
+        throw ErreurStockage(*trouvee.perte);
+    return trouvee.texte;
 }
 
 void NumerotationFactures::retenir(const QString &numero, Vendeur vendeur)
 {
-    const auto retenu = decomposer(numero);
-    if (!retenu)
-        return;
-    const auto dernier = decomposer(preferences.texteOuErreur(cle(vendeur)));
-    if (!dernier || *dernier < *retenu)
+    if (avance(numero, preferences.chercher(cle(vendeur)).texte)) // after a loss, this is where the series starts again
         preferences.ecrire(cle(vendeur), numero);
+}
+
+bool NumerotationFactures::avance(const QString &numero, const QString &dernier)
+{
+    const auto retenu = decomposer(numero);
+    const auto precedent = decomposer(dernier);
+    return retenu && (!precedent || *precedent < *retenu);
 }
 
 NumerotationFactures::Rapport NumerotationFactures::rapport(const QString &numero, QDate date)

@@ -13,8 +13,10 @@ struct NumerotationFactures
 {
     Preferences preferences;
 
-    // To propose; asking consumes nothing. Throws ErreurStockage when the last number could not be read.
+    // To propose; asking consumes nothing. Throws ErreurStockage when the last number could not be read, or was lost.
     [[nodiscard]] QString prochain(Vendeur vendeur, QDate date) const;
+    // The last one kept, as it was written; empty when there is none. Throws as `prochain`.
+    [[nodiscard]] QString dernier(Vendeur vendeur) const;
     // The invoice has left: the series goes on after it. An older number, or one that is none, changes nothing.
     // Throws ErreurStockage when the preferences could not be read or written; the series is then where
     // it was.
@@ -23,6 +25,8 @@ struct NumerotationFactures
     // How a number stands to the series of a day; `aucun` for a text that `retenir` cannot understand.
     enum class Rapport { aucun, anterieur, dansLaSerie, posterieur };
     static Rapport rapport(const QString &numero, QDate date);
+    // Whether the series would go on after `numero` once `dernier` was kept.
+    static bool avance(const QString &numero, const QString &dernier);
     // The first number of the day's series: "2026-001".
     static QString premier(QDate date);
 };

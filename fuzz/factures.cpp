@@ -45,6 +45,22 @@ void verifier(NumerotationFactures &numerotation, const QString &numero, QDate d
     exiger(numerotation.prochain(Vendeur::davrel, date) == apres, "retenu une fois pour toutes");
 }
 
+// A file that is not understood gives no number until one is kept, and its bytes stay.
+void reprendreApresPerte(NumerotationFactures &numerotation, const QString &fichier)
+{
+    const auto octets = Fichier::lire(fichier, Fichier::Borne::preferences);
+    numerotation.retenir(QStringLiteral("2026-005"), Vendeur::davrel);
+    exiger(numerotation.prochain(Vendeur::davrel, QDate(2026, 3, 2)) == QLatin1String("2026-006"), "la suite reprend");
+    const QString copie = fichier + QStringLiteral(".illisible");
+    exiger(Fichier::lire(copie, Fichier::Borne::preferences) == octets, "rien ne se perd");
+    QFile::remove(copie);
+    try {
+        static_cast<void>(numerotation.prochain(Vendeur::mireva, QDate(2026, 3, 2)));
+        exiger(false, "un numero perdu n'est pas propose");
+    } catch (const ErreurStockage &) { // as wanted
+    }
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *octets, std::size_t taille)
@@ -56,6 +72,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *octets, std::size_t ta
     preferences.write("[General]\nderniereFacture.davrel=" + lignes.first().toUtf8() + '\n');
     preferences.close();
     NumerotationFactures numerotation{Preferences(preferences.fileName())};
+    if (numerotation.preferences.chercher(QString()).perte) {
+        reprendreApresPerte(numerotation, preferences.fileName());
+        return 0;
+    }
     for (const QString &numero : lignes.mid(1))
         verifier(numerotation, numero, QDate(2026, 3, 2));
     return 0;

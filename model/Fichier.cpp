@@ -67,6 +67,23 @@ private:
     Descripteur ouvert_;
 };
 
+// How much of the buffer the file fills.
+qsizetype lireAuPlus(int fd, QByteArray &tampon, const QString &chemin)
+{
+    qsizetype lus = 0;
+    while (lus < tampon.size()) {
+        const ssize_t morceau = read(fd, tampon.data() + lus, static_cast<std::size_t>(tampon.size() - lus));
+        if (morceau < 0 && errno == EINTR)
+            continue;
+        if (morceau < 0)
+            throw ErreurStockage(chemin, raisonSysteme(errno));
+        if (morceau == 0)
+            break;
+        lus += morceau;
+    }
+    return lus;
+}
+
 // Where a name leads: QSaveFile, too, replaces what a link points to.
 QFileInfo cible(const QString &chemin)
 {
@@ -143,12 +160,8 @@ std::optional<QByteArray> Fichier::lireOuRefuser(const QString &chemin, qint64 b
         throw ErreurStockage(chemin, QStringLiteral("ce n’est pas un fichier ordinaire"));
     if (etat.st_size > borne)
         throw ErreurStockage(chemin, raisonSysteme(EFBIG));
-    QFile fichier;
-    QByteArray contenu;
-    if (fichier.open(ouvert.fd(), QIODevice::ReadOnly))
-        contenu = fichier.read(etat.st_size + 1);
-    if (fichier.error() != QFile::NoError)
-        throw ErreurStockage(chemin, CauseSysteme::enFrancais(fichier.errorString()));
+    QByteArray contenu(etat.st_size + 1, Qt::Uninitialized); // one more shows that it grows
+    contenu.truncate(lireAuPlus(ouvert.fd(), contenu, chemin));
     if (contenu.size() != etat.st_size)
         throw ErreurStockage(chemin, QStringLiteral("le fichier change pendant sa lecture"));
     return contenu;
@@ -199,6 +212,18 @@ void Fichier::ecrire(const QString &chemin, const QByteArray &octets)
         throw ErreurStockage(chemin, CauseSysteme::enFrancais(fichier.errorString()));
     if (const int erreur = dossier.synchroniser())
         throw repris(chemin, avant, erreur);
+}
+
+QString Fichier::mettreDeCote(const QString &chemin, const QByteArray &contenu)
+{
+    QString copie = chemin + QStringLiteral(".illisible");
+    for (int numero = 2; existe(copie); ++numero) {
+        if (lire(copie, Borne::toute) == contenu)
+            return QFileInfo(copie).fileName(); // already kept, by an attempt whose write then failed
+        copie = QStringLiteral("%1.illisible-%2").arg(chemin, QString::number(numero));
+    }
+    ecrire(copie, contenu);
+    return QFileInfo(copie).fileName();
 }
 
 void Fichier::effacer(const QString &chemin)

@@ -52,7 +52,10 @@ bool toutEcrire(QIODevice &fichier, QByteArrayView octets);
 // Replaces or creates the file, whole or not at all, and returns once the disk has taken it, with its name. Throws
 // ErreurStockage; what stood there is then as it was.
 void ecrire(const QString &chemin, const QByteArray &octets);
-// The same of a removal. A missing file is no error.
+// Copies what a file holds beside it, never over another file: `nom`.illisible, -2… Gives the copy's name, which may be
+// there already with the same bytes. Throws ErreurStockage.
+QString mettreDeCote(const QString &chemin, const QByteArray &contenu);
+// Removes as `ecrire` replaces. A missing file is no error.
 void effacer(const QString &chemin);
 
 } // namespace Fichier

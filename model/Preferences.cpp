@@ -4,6 +4,10 @@
 #include <QFileInfo>
 #include <QMap>
 #include <QStandardPaths>
+#include <QUtf8StringView>
+
+#include <algorithm>
+#include <optional>
 
 namespace Quillet {
 
@@ -11,21 +15,47 @@ namespace {
 
 using Valeurs = QMap<QString, QString>;
 
-Valeurs decoder(const QByteArray &octets)
+const QString entete = QStringLiteral("[General]");
+// Names the copy of a file that was damaged, for as long as texts are missed.
+const QString cleDeLaCopie = QStringLiteral("illisible");
+
+bool estUnSigneDeCommande(QChar signe)
 {
+    return signe.category() == QChar::Other_Control;
+}
+
+// None when anything is no line of ours: a file that was cut or overwritten must not pass for one without numbers. What
+// other programs put around lines and texts means nothing.
+std::optional<Valeurs> decoder(QByteArray octets)
+{
+    if (octets.startsWith("\xEF\xBB\xBF"))
+        octets = octets.sliced(3);
+    if (!octets.endsWith('\n') || !QUtf8StringView(octets).isValidUtf8())
+        return std::nullopt;
     Valeurs valeurs;
-    for (const QString &ligne : QString::fromUtf8(octets).split(u'\n'))
-        if (const qsizetype egal = ligne.indexOf(u'='); egal > 0)
-            valeurs.insert(ligne.first(egal), ligne.sliced(egal + 1));
-    return valeurs;
+    for (const QString &brute : QString::fromUtf8(octets).split(u'\n')) {
+        const QString ligne = brute.trimmed();
+        if (ligne.isEmpty() || ligne == entete)
+            continue;
+        const QString cle = ligne.section(u'=', 0, 0).trimmed();
+        const QString valeur = ligne.section(u'=', 1).trimmed();
+        if (!ligne.contains(u'=') || cle.isEmpty() || valeurs.contains(cle)
+            || std::ranges::any_of(cle + valeur, estUnSigneDeCommande))
+            return std::nullopt;
+        valeurs.insert(cle, valeur);
+    }
+    return valeurs.isEmpty() ? std::nullopt : std::optional(valeurs); // none is ever written
 }
 
 QByteArray encoder(const Valeurs &valeurs)
 {
-    QByteArray octets = "[General]\n";
-    for (const auto &[cle, valeur] : valeurs.asKeyValueRange())
-        octets += cle.toUtf8() + '=' + QString(valeur).replace(u'\n', u' ').toUtf8() + '\n';
-    return octets;
+    QString texte = entete + u'\n';
+    for (const auto &[cle, valeur] : valeurs.asKeyValueRange()) {
+        QString propre = valeur;
+        std::ranges::replace_if(propre, estUnSigneDeCommande, u' ');
+        texte += cle + u'=' + propre + u'\n';
+    }
+    return texte.toUtf8();
 }
 
 } // namespace
@@ -38,20 +68,35 @@ Preferences Preferences::deLUtilisateur()
 
 QString Preferences::texte(const QString &cle) const
 {
-    return decoder(Fichier::lire(fichier_, Fichier::Borne::preferences).value_or(QByteArray())).value(cle);
+    const auto octets = Fichier::lire(fichier_, Fichier::Borne::preferences);
+    return octets ? decoder(*octets).value_or(Valeurs()).value(cle) : QString();
 }
 
-QString Preferences::texteOuErreur(const QString &cle) const
+Preferences::Trouvee Preferences::chercher(const QString &cle) const
 {
-    return decoder(Fichier::lireOuRefuser(fichier_, Fichier::Borne::preferences).value_or(QByteArray())).value(cle);
+    const auto octets = Fichier::lireOuRefuser(fichier_, Fichier::Borne::preferences);
+    if (!octets)
+        return {};
+    const auto valeurs = decoder(*octets);
+    if (!valeurs)
+        return {{}, ErreurStockage(fichier_, QStringLiteral("le fichier est incomplet ou abîmé"))};
+    if (!valeurs->contains(cle) && valeurs->contains(cleDeLaCopie))
+        return {{},
+                ErreurStockage(fichier_, QStringLiteral("le fichier était incomplet ou abîmé ; il est gardé sous le "
+                                                        "nom %1")
+                                             .arg(valeurs->value(cleDeLaCopie)))};
+    return {valeurs->value(cle), {}};
 }
 
 void Preferences::ecrire(const QString &cle, const QString &texte)
 {
     Fichier::creerDossier(QFileInfo(fichier_).absolutePath());
-    Valeurs valeurs = decoder(Fichier::lireOuRefuser(fichier_, Fichier::Borne::preferences).value_or(QByteArray()));
-    valeurs.insert(cle, texte);
-    Fichier::ecrire(fichier_, encoder(valeurs));
+    const auto octets = Fichier::lireOuRefuser(fichier_, Fichier::Borne::preferences);
+    auto valeurs = octets ? decoder(*octets) : Valeurs();
+    if (!valeurs)
+        valeurs = {{cleDeLaCopie, Fichier::mettreDeCote(fichier_, *octets)}};
+    valeurs->insert(cle, texte);
+    Fichier::ecrire(fichier_, encoder(*valeurs));
 }
 
 } // namespace Quillet

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <utility>
 
 namespace Quillet {
@@ -16,11 +17,18 @@ public:
     // The file of the platform's per-user configuration.
     static Preferences deLUtilisateur();
 
-    // Empty when there is none.
+    [[nodiscard]] const QString &fichier() const { return fichier_; }
+    // Empty when there is none, or none that can be read.
     [[nodiscard]] QString texte(const QString &cle) const;
-    // The same, but throws ErreurStockage when the file is there and cannot be read.
-    [[nodiscard]] QString texteOuErreur(const QString &cle) const;
-    // Returns once the text is on the disk. Throws ErreurStockage; what was kept before still is.
+    struct Trouvee
+    {
+        QString texte;
+        std::optional<ErreurStockage> perte; // a text may have been kept: it went with a file that was damaged
+    };
+    // Throws ErreurStockage when the file is there and cannot be read.
+    [[nodiscard]] Trouvee chercher(const QString &cle) const;
+    // Returns once the text is on the disk. Throws ErreurStockage; what was kept before still is. A file that is not
+    // understood is copied aside first, and all other texts in it count as lost.
     void ecrire(const QString &cle, const QString &texte);
 
 private:

@@ -42,13 +42,7 @@ void Stockage::preserver(const QString &nom) const
         return;
     if (const auto connu = compris_.constFind(nom); connu != compris_.constEnd() && *connu == *contenu)
         return;
-    QString copie = nom + QStringLiteral(".illisible");
-    for (int numero = 2; Fichier::existe(dossier_.filePath(copie)); ++numero) {
-        if (Fichier::lire(dossier_.filePath(copie), Fichier::Borne::donnees) == contenu)
-            return; // already kept, by an attempt whose write then failed
-        copie = QStringLiteral("%1.illisible-%2").arg(nom, QString::number(numero));
-    }
-    Fichier::ecrire(dossier_.filePath(copie), *contenu);
+    Fichier::mettreDeCote(chemin, *contenu);
 }
 
 } // namespace Quillet

@@ -103,9 +103,11 @@ QString TextesDocuments::sansIdentite(const Calcul &calcul, const Reglages &regl
     return {};
 }
 
-QString TextesDocuments::remarqueSurLeNumero(const QString &numero, QDate jour)
+QString TextesDocuments::remarqueSurLeNumero(const QString &numero, const QString &dernier, QDate jour)
 {
     using Rapport = NumerotationFactures::Rapport;
+    if (numero.trimmed().isEmpty())
+        return QStringLiteral("La facture n’a pas de numéro : aucun ne sera retenu.");
     switch (NumerotationFactures::rapport(numero, jour)) {
     case Rapport::aucun:
         return QStringLiteral("Ce numéro n’a pas la forme %1 : il ne sera pas retenu.")
@@ -116,9 +118,24 @@ QString TextesDocuments::remarqueSurLeNumero(const QString &numero, QDate jour)
         return QStringLiteral("Ce numéro est d’une année à venir : après lui, ceux de %1 ne seront plus retenus.")
             .arg(jour.year());
     case Rapport::dansLaSerie:
-        return {};
+        break;
     }
-    Q_UNREACHABLE();
+    if (!dernier.isEmpty() && NumerotationFactures::rapport(dernier, jour) == Rapport::aucun)
+        return QStringLiteral("Le dernier numéro retenu, « %1 », n’est pas compris : vérifiez que celui-ci le suit.")
+            .arg(dernier);
+    if (!NumerotationFactures::avance(numero, dernier))
+        return QStringLiteral(
+                   "Ce numéro ne vient pas après %1, le dernier retenu : une facture le porte peut-être déjà.")
+            .arg(dernier);
+    return {};
+}
+
+QString TextesDocuments::numeroPris(const QString &numero, const QString &suivant)
+{
+    return QStringLiteral(
+               "Le numéro %1 a été retenu entre-temps, sans doute dans une autre session. La facture n’est pas "
+               "partie : elle porte maintenant le numéro %2. Vérifiez-la, puis recommencez.")
+        .arg(numero, suivant);
 }
 
 QString TextesDocuments::vendeur(const IdentiteVendeur &vendeur)

@@ -47,8 +47,11 @@ struct Obstacle
 std::optional<Obstacle> obstacleALaFacture(const Calcul &calcul, const Reglages &reglages);
 // That the settings lack the seller's identity; empty when they do not.
 QString sansIdentite(const Calcul &calcul, const Reglages &reglages);
-// What is odd about a typed number; empty when it belongs to the day's series.
-QString remarqueSurLeNumero(const QString &numero, QDate jour);
+// What is odd about a number; empty when it carries the day's series on. `dernier`: the one it is to come after, maybe
+// empty.
+QString remarqueSurLeNumero(const QString &numero, const QString &dernier, QDate jour);
+// The proposed number went to another invoice: this one waits, with the next.
+QString numeroPris(const QString &numero, const QString &suivant);
 // The seller, as the invoice will name them, one line each.
 QString vendeur(const IdentiteVendeur &vendeur);
 // That the seller has no registration number; empty when there is one.

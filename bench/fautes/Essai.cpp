@@ -160,9 +160,7 @@ QList<Essai> essais(const Ressources &ressources, const QString &temoin)
     QList<Essai> tous;
     for (const Geste &geste : gestes())
         for (const Depart depart : {Depart::vide, Depart::connu, Depart::illisible})
-            // Preferences make no promise about lines that are none.
-            if (depart != Depart::illisible || !geste.fichier.endsWith(QStringLiteral(".ini")))
-                tous.append(Essai(ressources, geste, depart, temoin));
+            tous.append(Essai(ressources, geste, depart, temoin));
     return tous;
 }
 

@@ -83,8 +83,13 @@ Contenu::Contenu(const Poste &poste)
 {
     for (const TarifsColissimo &jeu : poste.catalogue->donnees().grillesConnues)
         tarifs.insert(jeu.validite, jeu);
-    for (const Vendeur vendeur : tous<Vendeur>)
-        numeros.append(poste.numeros.prochain(vendeur, QDate(2026, 3, 2)));
+    for (const Vendeur vendeur : tous<Vendeur>) {
+        try {
+            numeros.append(poste.numeros.prochain(vendeur, QDate(2026, 3, 2)));
+        } catch (const ErreurStockage &) {
+            numeros.append(QStringLiteral("aucun")); // as the sheet would show
+        }
+    }
 }
 
 bool Contenu::memesDonnees(const Contenu &autre) const

@@ -41,6 +41,52 @@ private slots:
         }
     }
 
+    // Saved by another program, it is understood; cut or overwritten, no number is proposed, and none of its bytes
+    // goes.
+    void fichierDesNumeros()
+    {
+        const QByteArray deux = "[General]\nderniereFacture.davrel=2026-007\nderniereFacture.mireva=2026-003\n";
+        const auto change = [&](const QByteArray &avant, const QByteArray &apres) {
+            return QByteArray(deux).replace(avant, apres);
+        };
+        for (const auto &[nom, octets, propose] : Rangees<QByteArray, const char *>{
+                 {"tel qu’écrit", deux, "2026-008"},
+                 {"CRLF", change("\n", "\r\n"), "2026-008"},
+                 {"blancs", change("=", " =\t"), "2026-008"},
+                 {"marque d’ordre", "\xEF\xBB\xBF" + deux, "2026-008"},
+                 {"numéro qui n’en est pas un", change("2026-007", "abc"), "2026-001"},
+                 {"vide", "", nullptr},
+                 {"coupé", deux.chopped(3), nullptr},
+                 {"coupé à la première ligne", deux.first(10), nullptr},
+                 {"zéros", change("2026-007", QByteArray(8, '\0')), nullptr},
+                 {"que des zéros", QByteArray(80, '\0'), nullptr},
+                 {"pas de l’UTF-8", change("007", "\xFF"), nullptr},
+                 {"deux fois le même", deux + deux.sliced(10), nullptr},
+                 {"ligne étrangère", change("[General]", "{}"), nullptr},
+             }) {
+            const Rangee rangee(nom);
+            const QTemporaryDir dossier;
+            const QString chemin = dossier.filePath("Quillet.ini");
+            QFile fichier(chemin);
+            QVERIFY(fichier.open(QIODevice::WriteOnly) && fichier.write(octets) == octets.size());
+            fichier.close();
+            NumerotationFactures numerotation{Preferences(chemin)};
+            EmissionFacture emission{Preferences(chemin)};
+            QCOMPARE(emission.numeroPour({}, Vendeur::davrel, jourDuBanc), propose);
+            QCOMPARE(emission.sansProposition().isEmpty(), propose != nullptr);
+            if (propose)
+                continue;
+            // Another text is kept: the numbers stay lost, until one is typed.
+            numerotation.preferences.ecrire("verification.paypal", "2026-03-02");
+            QVERIFY(emission.numeroPour({}, Vendeur::mireva, jourDuBanc).isEmpty());
+            QVERIFY(emission.sansProposition().contains("Quillet.ini.illisible"));
+            QCOMPARE(Fichier::lire(chemin + QStringLiteral(".illisible"), 1000), octets);
+            numerotation.retenir("2026-009", Vendeur::davrel);
+            QCOMPARE(emission.numeroPour({}, Vendeur::davrel, jourDuBanc), "2026-010");
+            QVERIFY(emission.numeroPour({}, Vendeur::mireva, jourDuBanc).isEmpty());
+        }
+    }
+
     void retenir()
     {
         for (const auto &[nom, avant, numero, apres] : Rangees<const char *, const char *, const char *>{
@@ -100,8 +146,13 @@ private slots:
         };
         QCOMPARE(numero("", jourDuBanc), "2026-001");
         NumerotationFactures{banc.preferences()}.retenir("2026-004", Vendeur::davrel);
-        QCOMPARE(numero("2026-001", jourDuBanc), "2026-001"); // of the day's series
-        QCOMPARE(numero("2026-001", QDate(2027, 1, 1)), "2027-001");
+        QCOMPARE(numero("2026-001", jourDuBanc), "2026-005"); // kept meanwhile by somebody else
+        const auto part = [](const Facture &) { return true; };
+        QVERIFY(emission.emettre({.numero = "2026-005"}, Vendeur::davrel, part));
+        QCOMPARE(numero("2026-005", jourDuBanc), "2026-005"); // has left from here, and may once more
+        QCOMPARE(emission.dernierAvant("2026-005", Vendeur::davrel), "");
+        QCOMPARE(emission.dernierAvant("2026-004", Vendeur::davrel), "2026-005");
+        QCOMPARE(numero("2026-005", QDate(2027, 1, 1)), "2027-001");
         QCOMPARE(numero("F-12", QDate(2028, 1, 1)), "F-12");
         QVERIFY(emission.sansProposition().isEmpty());
     }

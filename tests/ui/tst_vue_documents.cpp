@@ -1,3 +1,4 @@
+#include "documents/NumerotationFactures.h"
 #include "tests/BancEcran.h"
 #include "tests/DisquePlein.h"
 #include "tests/Rangees.h"
@@ -192,6 +193,23 @@ private slots:
                                            + QStringLiteral(" : un dossier occupe la place du fichier")));
     }
 
+    // Two sessions had proposed it: this invoice waits, is shown with the next number, then leaves with it.
+    void numeroPrisEntreTemps()
+    {
+        const QTemporaryDir dossier;
+        banc_->commander("suisse");
+        QDialog *feuille = banc_->ouvrir(facture);
+        NumerotationFactures{banc_->donnees.preferences()}.retenir("2026-001", Vendeur::davrel);
+        QString message;
+        QVERIFY(Dialogues::cliquerPuisRepondre(feuille, enregistrer, {BancEcran::lire(message)}));
+        QVERIFY2(message.startsWith("Le numéro 2026-001 a été retenu entre-temps"), qPrintable(message));
+        QCOMPARE(numeroPropose(feuille), "2026-002");
+        const auto ailleurs = Dialogues::enregistrerSous(dossier.filePath("f.pdf"));
+        QVERIFY(Dialogues::cliquerPuisRepondre(feuille, enregistrer, {ailleurs}));
+        QCOMPARE(retenu(), "2026-002");
+        QVERIFY(Dialogues::cliquerPuisRepondre(feuille, enregistrer, {Dialogues::renoncer()})); // and once more
+    }
+
     void impressionDansUnFichier()
     {
         const QTemporaryDir dossier;
@@ -252,12 +270,16 @@ private slots:
     {
         const QString sansSiret = "Numéro SIRET manquant : obligatoire sur la facture d’une micro-entreprise.";
         banc_->commander("suisse");
+        NumerotationFactures{banc_->donnees.preferences()}.retenir("2026-004", Vendeur::davrel);
         QDialog *feuille = banc_->ouvrir(facture);
         QVERIFY(!Ecran::montre(feuille, sansSiret));
         for (const auto &[saisi, phrase] : Rangees<const char *>{
                  {"F12", "Ce numéro n’a pas la forme 2026-001 : il ne sera pas retenu."},
                  {"2062-001", "Ce numéro est d’une année à venir : après lui, ceux de 2026 ne seront plus retenus."},
                  {"2025-001", "Ce numéro est d’une année passée : la suite de 2026 n’en change pas."},
+                 {"2026-004",
+                  "Ce numéro ne vient pas après 2026-004, le dernier retenu : une facture le porte peut-être déjà."},
+                 {"", "La facture n’a pas de numéro : aucun ne sera retenu."},
              }) {
             QVERIFY(Ecran::taper(feuille, numero, saisi));
             QVERIFY2(Ecran::montre(feuille, phrase), phrase);

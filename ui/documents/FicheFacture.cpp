@@ -121,9 +121,10 @@ void FicheFacture::completer()
         return;
     facture_->numero = numero_->text();
     facture_->acheteur = acheteur_->toPlainText();
-    remarque_->montrer(facture_->numero.isEmpty() && !emission_.sansProposition().isEmpty()
-                           ? emission_.sansProposition()
-                           : TextesDocuments::remarqueSurLeNumero(facture_->numero, facture_->date));
+    const QString dernier = emission_.dernierAvant(facture_->numero, vendeur_);
+    const QString remarque = TextesDocuments::remarqueSurLeNumero(facture_->numero, dernier, facture_->date);
+    const bool sansProposition = facture_->numero.isEmpty() && !emission_.sansProposition().isEmpty();
+    remarque_->montrer(sansProposition ? emission_.sansProposition() : remarque);
     identite_->setText(TextesDocuments::vendeur(facture_->vendeur));
     sansSiret_->montrer(TextesDocuments::sansSiret(facture_->vendeur));
     apercu_->montrer(*facture_);
@@ -158,6 +159,8 @@ bool FicheFacture::emettre(const QString &issue, const std::function<bool(const 
     contexte_.jour.regarder(); // the invoice is of the day on which it leaves: on another, the sheet shows it anew
     if (!facture_)
         return false;
+    if (!numeroEncoreLibre())
+        return false;
     issue_->montrer({});
     const Facture facture = *facture_; // whatever changes while a dialog is open
     try {
@@ -169,6 +172,20 @@ bool FicheFacture::emettre(const QString &issue, const std::function<bool(const 
         prevenir(echec.texte());
         return false;
     }
+}
+
+// Another session may have kept it since it was proposed.
+bool FicheFacture::numeroEncoreLibre()
+{
+    const QString propose = facture_->numero;
+    if (propose.isEmpty())
+        return true; // as somebody chose, or as the sheet says
+    const QString numero = emission_.numeroPour(propose, vendeur_, facture_->date);
+    if (numero == propose)
+        return true;
+    numero_->setText(numero);
+    prevenir(numero.isEmpty() ? emission_.sansProposition() : TextesDocuments::numeroPris(propose, numero));
+    return false;
 }
 
 void FicheFacture::prevenir(const QString &message)
