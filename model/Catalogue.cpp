@@ -8,16 +8,6 @@ namespace Quillet {
 
 namespace {
 
-QString fichierDesLivres()
-{
-    return QStringLiteral("livres-modifies.json");
-}
-
-QString fichierDesFrais()
-{
-    return QStringLiteral("frais-paypal.json");
-}
-
 Cle<Livre> cle(const Livre &livre)
 {
     return Cle<Livre>(QString::number(livre.id));
@@ -52,7 +42,7 @@ PrixParDestination &creeAuBesoin(std::optional<PrixParDestination> &prix)
 Reglages reglagesAvecFrais(const Ressources &ressources, Stockage &stockage)
 {
     auto reglages = ressources.lire<Reglages>(QStringLiteral("reglages"));
-    if (const auto frais = stockage.lire<FraisPaypal>(fichierDesFrais()))
+    if (const auto frais = stockage.lire<FraisPaypal>(Stockage::fichierDesFrais()))
         reglages.fraisPaypal = *frais;
     return reglages;
 }
@@ -60,7 +50,8 @@ Reglages reglagesAvecFrais(const Ressources &ressources, Stockage &stockage)
 QList<Livre> livresModifies(const Ressources &ressources, Stockage &stockage)
 {
     auto livres = ressources.lire<QList<Livre>>(QStringLiteral("livres"));
-    const auto modifications = stockage.lire<ModificationsLivres>(fichierDesLivres()).value_or(ModificationsLivres{});
+    const auto modifications =
+        stockage.lire<ModificationsLivres>(Stockage::fichierDesLivres()).value_or(ModificationsLivres{});
     for (Livre &livre : livres)
         if (const auto trouvee = modifications.find(cle(livre)); trouvee != modifications.end())
             trouvee->appliquer(livre);
@@ -111,7 +102,7 @@ void Catalogue::enregistrer(const TarifsColissimo &tarifs)
 
 void Catalogue::enregistrer(const FraisPaypal &frais)
 {
-    stockage_.ecrire(frais, fichierDesFrais());
+    stockage_.ecrire(frais, Stockage::fichierDesFrais());
     adopter(donnees_.reglages.fraisPaypal, frais);
 }
 
@@ -147,7 +138,7 @@ void Catalogue::reporter(const Livre &livre, const QList<PrixBouton> &lignes)
 void Catalogue::revenirAuxValeursLivrees()
 {
     const QList<Livre> livres = valeursLivrees();
-    stockage_.effacer(fichierDesLivres());
+    stockage_.effacer(Stockage::fichierDesLivres());
     adopter(donnees_.livres, livres);
 }
 
@@ -161,7 +152,7 @@ void Catalogue::ecrireLivres(const QList<Livre> &livres)
     ModificationsLivres modifications;
     for (const Livre &livre : livres)
         modifications.insert(cle(livre), ModificationLivre::de(livre));
-    stockage_.ecrire(modifications, fichierDesLivres());
+    stockage_.ecrire(modifications, Stockage::fichierDesLivres());
     adopter(donnees_.livres, livres);
 }
 

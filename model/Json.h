@@ -123,7 +123,7 @@ void lire(const QJsonValue &json, const Lieu &lieu, Quantite<Unite> &valeur, qin
     lire(json, lieu, nombre);
     const auto bornee = Quantite<Unite>::bornee(nombre, termes);
     if (!bornee)
-        lieu.refuser(QStringLiteral("valeur hors limites"));
+        lieu.refuser(nombre < 0 ? QStringLiteral("nombre négatif") : QStringLiteral("valeur hors limites"));
     valeur = *bornee;
 }
 

@@ -23,6 +23,8 @@ class Constats
 {
 public:
     void noter(const QString &lieu, const QString &raison);
+    // A mistake beside all others of its place.
+    void ajouter(const QString &texte) { textes_.append(texte); }
     [[nodiscard]] const QStringList &textes() const { return textes_; }
 
 private:

@@ -17,12 +17,12 @@ public:
     constexpr Quantite() = default;
     constexpr explicit Quantite(qint64 valeur) : valeur_(valeur) {}
 
-    // What any source gives passes here. None without a number, or for one that is too large, of either sign; a sum of
-    // several may be as much larger.
+    // What any source gives passes here, and a source gives nothing negative. None without a number, or for one that is
+    // too large; a sum of several may be as much larger.
     static constexpr std::optional<Quantite> bornee(std::optional<qint64> valeur, qint64 termes = 1)
     {
         const qint64 borne = termes * Unite::maximum;
-        return valeur && -borne <= *valeur && *valeur <= borne ? std::optional(Quantite{*valeur}) : std::nullopt;
+        return valeur && 0 <= *valeur && *valeur <= borne ? std::optional(Quantite{*valeur}) : std::nullopt;
     }
 
     [[nodiscard]] constexpr qint64 valeur() const { return valeur_; }

@@ -21,6 +21,11 @@ public:
     // The folder "Quillet" of the platform's per-user data.
     static Stockage deLUtilisateur();
 
+    // The names of its files, but for the schedules'.
+    static QString fichierDesLivres() { return QStringLiteral("livres-modifies.json"); }
+    static QString fichierDesFrais() { return QStringLiteral("frais-paypal.json"); }
+    [[nodiscard]] const QDir &dossier() const { return dossier_; }
+
     // None when the file is missing or cannot be read as a T.
     template <typename T>
     [[nodiscard]] std::optional<T> lire(const QString &nom)

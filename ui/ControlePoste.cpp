@@ -36,6 +36,22 @@ QStringList imagesIllisibles(const QList<QByteArray> &lues, const QStringList &c
     return phrases;
 }
 
+// A decoder that loses the thread may fill the rest with grey, and tell nobody but the log.
+bool seLitEntiere(const QString &chemin)
+{
+    static bool plainte = false; // what takes messages is a plain function
+    plainte = false;
+    const QtMessageHandler avant =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &contexte, const QString &message) {
+            plainte = plainte
+                      || (qstrcmp(contexte.category, "qt.gui.imageio.jpeg") == 0
+                          && (message.startsWith(u"Corrupt") || message.startsWith(u"Premature")));
+        });
+    const bool lue = !QImageReader(chemin).read().isNull();
+    qInstallMessageHandler(avant);
+    return lue && !plainte;
+}
+
 QStringList policeAbsente(const QStringList &polices, const QStringList &voulues, const QString &paquet)
 {
     if (std::ranges::any_of(voulues, [&](const QString &famille) { return polices.contains(famille); }))
@@ -53,6 +69,20 @@ ControlePoste::Moyens ControlePoste::moyens()
             .polices = QFontDatabase::families(),
             .francais = QFileInfo::exists(traductions + QStringLiteral("/qtbase_fr.qm")),
             .curl = !QStandardPaths::findExecutable(QStringLiteral("curl")).isEmpty()};
+}
+
+QStringList ControlePoste::imagesAbimees(const Moyens &moyens, const QStringList &couvertures)
+{
+    QStringList phrases;
+    for (const QString &chemin : couvertures) {
+        const QFileInfo fichier(chemin);
+        const QString format = fichier.suffix().toLower();
+        if (Couvertures::formats().contains(format) && moyens.images.contains(format.toLatin1()) && fichier.size() > 0
+            && !seLitEntiere(chemin))
+            phrases.append(QStringLiteral("couvertures/%1 : l’image est abîmée").arg(fichier.fileName()));
+    }
+    phrases.sort();
+    return phrases;
 }
 
 QStringList ControlePoste::manques(const Moyens &moyens, const QStringList &couvertures)

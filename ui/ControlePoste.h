@@ -23,4 +23,7 @@ Moyens moyens();
 // A sentence for each lack. `couvertures`: files.
 QStringList manques(const Moyens &moyens, const QStringList &couvertures);
 
+// A sentence for each of these files that is a picture of a known format, and cannot be drawn whole.
+QStringList imagesAbimees(const Moyens &moyens, const QStringList &couvertures);
+
 } // namespace Quillet::ControlePoste

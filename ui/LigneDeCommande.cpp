@@ -1,8 +1,11 @@
 #include "ui/LigneDeCommande.h"
 
+#include "documents/NumerotationFactures.h"
 #include "model/Couvertures.h"
 #include "model/Ressources.h"
+#include "model/Stockage.h"
 #include "model/controle/ControleDonnees.h"
+#include "model/controle/ControleUtilisateur.h"
 #include "ui/ControlePoste.h"
 
 #include <QCommandLineParser>
@@ -27,7 +30,8 @@ QString texteDAide()
 Sans option, ouvre la fenêtre de Quillet.
 
   --verifier DOSSIER  contrôle un dossier de données (livres, couvertures, destinations,
-                      réglages, tarifs) et nomme chaque erreur avec sa place, sans écran ;
+                      réglages, tarifs) et vos propres fichiers (changements de livres, tarifs et
+                      frais acceptés, préférences) ; nomme chaque erreur avec sa place, sans écran ;
                       dit aussi ce qui manque au système (formats d’images, polices)
   -v, --version       donne la version
   -h, --help          montre cette aide
@@ -64,23 +68,44 @@ std::optional<QString> malComprise(QCommandLineParser &analyseur, const QCommand
     return std::nullopt;
 }
 
-// Typefaces and pictures are asked of a display; this one needs no screen.
-QStringList manquesDuPoste(const QString &dossier)
+// What loading ignores without a word, and the numbers that would start again.
+QStringList erreursDeLUtilisateur()
 {
+    QStringList erreurs = ControleUtilisateur::erreurs(Stockage::deLUtilisateur().dossier());
+    const NumerotationFactures numerotation{Preferences::deLUtilisateur()};
+    const QString &fichier = numerotation.preferences.fichier();
+    try {
+        for (const Vendeur vendeur : tous<Vendeur>)
+            if (const QString numero = numerotation.dernier(vendeur);
+                !numero.isEmpty() && !NumerotationFactures::avance(numero, {}))
+                erreurs.append(
+                    QStringLiteral("%1 : « %2 » n’est pas un numéro de facture, la suite de %3 recommencerait")
+                        .arg(fichier, numero, brut(vendeur)));
+    } catch (const ErreurStockage &erreur) {
+        erreurs.append(erreur.texte());
+    }
+    return erreurs;
+}
+
+Reponse controle(const QString &dossier)
+{
+    // Typefaces and pictures are asked of a display; this one needs no screen.
     QByteArray nom("quillet");
     QByteArray option("-platform");
     QByteArray plateforme("offscreen");
     std::array<char *, 4> arguments{nom.data(), option.data(), plateforme.data(), nullptr};
     int nombre = 3;
     const QGuiApplication programme(nombre, arguments.data());
-    const QDir couvertures(Ressources(QDir(dossier)).chemin(QStringLiteral("couvertures")));
-    return ControlePoste::manques(ControlePoste::moyens(), Couvertures::fichiers(couvertures).values());
-}
 
-Reponse controle(const QString &dossier)
-{
-    const auto controle = ControleDonnees::de(QDir(dossier), QDate::currentDate());
-    const QStringList lignes = controle.erreurs + QStringList{controle.bilan()} + manquesDuPoste(dossier);
+    auto controle = ControleDonnees::de(QDir(dossier), QDate::currentDate());
+    const QDir images(Ressources(QDir(dossier)).chemin(QStringLiteral("couvertures")));
+    QStringList couvertures;
+    for (const QString &fichier : Couvertures::fichiers(images))
+        couvertures.append(images.filePath(fichier));
+    const auto moyens = ControlePoste::moyens();
+    controle.erreurs += ControlePoste::imagesAbimees(moyens, couvertures) + erreursDeLUtilisateur();
+    const QStringList lignes =
+        controle.erreurs + QStringList{controle.bilan()} + ControlePoste::manques(moyens, couvertures);
     return {controle.erreurs.isEmpty() ? 0 : 1, lignes.join(u'\n') + u'\n'};
 }
 

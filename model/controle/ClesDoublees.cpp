@@ -1,5 +1,7 @@
 #include "model/controle/ClesDoublees.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QSet>
 
 namespace Quillet {
@@ -21,19 +23,25 @@ bool estUneCle(const QByteArray &json, qsizetype apres)
     return apres < json.size() && json[apres] == ':';
 }
 
+// "\u0061" and "a" are one key.
+QString enClair(const QByteArray &texte)
+{
+    return QJsonDocument::fromJson("[\"" + texte + "\"]").array().first().toString();
+}
+
 } // namespace
 
 QList<ClesDoublees::Cle> ClesDoublees::dans(const QByteArray &json)
 {
     QList<Cle> doublees;
-    QList<QSet<QByteArray>> ouverts; // the keys of each object that has not ended
+    QList<QSet<QString>> ouverts; // the keys of each object that has not ended
     qsizetype ligne = 1;
     for (qsizetype place = 0; place < json.size(); ++place) {
         const char signe = json[place];
         if (signe == '\n') {
             ++ligne;
         } else if (signe == '{') {
-            ouverts.append(QSet<QByteArray>());
+            ouverts.append(QSet<QString>());
         } else if (signe == '}' && !ouverts.isEmpty()) {
             ouverts.removeLast();
         } else if (signe == '"') {
@@ -42,9 +50,10 @@ QList<ClesDoublees::Cle> ClesDoublees::dans(const QByteArray &json)
             place = fin;
             if (ouverts.isEmpty() || !estUneCle(json, fin + 1))
                 continue;
-            if (ouverts.last().contains(texte))
-                doublees.append({ligne, QString::fromUtf8(texte)});
-            ouverts.last().insert(texte);
+            const QString cle = enClair(texte);
+            if (ouverts.last().contains(cle))
+                doublees.append({ligne, cle});
+            ouverts.last().insert(cle);
         }
     }
     return doublees;

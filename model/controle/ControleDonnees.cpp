@@ -1,11 +1,8 @@
 #include "model/controle/ControleDonnees.h"
 
 #include "model/Couvertures.h"
-#include "model/Fichier.h"
-#include "model/Ressources.h"
-#include "model/controle/ClesDoublees.h"
+#include "model/controle/FichierControle.h"
 #include "model/controle/Regles.h"
-#include "model/controle/ReglesCommunes.h"
 
 #include <QFileInfo>
 
@@ -29,46 +26,6 @@ std::optional<QString> obstacle(const QDir &dossier)
         return QStringLiteral("l’accès n’est pas permis");
     return std::nullopt;
 }
-
-// One file: what could be read of it, and what is wrong with it.
-template <typename T>
-class FichierControle
-{
-public:
-    FichierControle(const Ressources &ressources, const QString &nom)
-        : nom_(nom),
-          chemin_(ressources.chemin(nom + QStringLiteral(".json"))),
-          lu_(ressources.examiner<T>(nom, constats_)),
-          valeur_(lu_.value_or(T{}))
-    {
-    }
-
-    [[nodiscard]] const T &valeur() const { return valeur_; }
-    [[nodiscard]] const QString &nom() const { return nom_; }
-    [[nodiscard]] const QStringList &erreurs() const { return constats_.textes(); }
-
-    // Nothing to say of the content of a file that could not be read at all.
-    template <typename Regle, typename... Reperes>
-    void controler(Regle regle, const Reperes &...reperes)
-    {
-        if (!lu_)
-            return;
-        for (const auto &[ligne, cle] :
-             ClesDoublees::dans(Fichier::lire(chemin_, Fichier::Borne::donnees).value_or(QByteArray())))
-            Json::Lieu(QStringLiteral("%1.json, ligne %2").arg(nom_).arg(ligne), &constats_)
-                .noter(QStringLiteral("clé « %1 » écrite deux fois, la dernière compte").arg(cle));
-        const Json::Lieu racine(nom_, &constats_);
-        ReglesCommunes::controler(valeur_, racine);
-        regle(valeur_, reperes..., racine);
-    }
-
-private:
-    QString nom_;
-    QString chemin_;
-    Json::Constats constats_;
-    std::optional<T> lu_;
-    T valeur_;
-};
 
 // Before the first one, the earliest counts.
 bool aucunEnVigueur(const Regles::TarifsParFichier &fichiers, QDate aujourdhui)

@@ -32,6 +32,7 @@ struct Reperes
 
 // `precedents`: the schedules of the files before this one.
 void tarifs(const TarifsColissimo &tarifs, const TarifsParFichier &precedents, const Json::Lieu &lieu);
+void frais(const FraisPaypal &frais, const Json::Lieu &lieu);
 void reglages(const Reglages &reglages, const Json::Lieu &lieu);
 void destinations(const QList<Destination> &destinations, const TarifsParFichier &tarifs, const Json::Lieu &lieu);
 void livres(const QList<Livre> &livres, const Reperes &reperes, const Json::Lieu &lieu);

@@ -9,8 +9,8 @@
 #include <algorithm>
 #include <array>
 
-// What holds for every value of its kind, wherever it stands: texts say something, quantities are not negative, links
-// open (the program follows https only).
+// What holds for every value of its kind, wherever it stands: texts say something, links open (the program follows
+// https only).
 namespace Quillet::ReglesCommunes {
 
 // The texts that a record may leave empty: a book may have neither picture nor ISBN.
@@ -49,13 +49,6 @@ inline void controler(const QUrl &adresse, const Json::Lieu &lieu)
 {
     if (adresse.scheme() != QLatin1String("https"))
         lieu.noter(QStringLiteral("adresse https attendue"));
-}
-
-template <typename Unite>
-void controler(const Quantite<Unite> &quantite, const Json::Lieu &lieu)
-{
-    if (quantite < Quantite<Unite>{})
-        lieu.noter(QStringLiteral("nombre négatif"));
 }
 
 template <Json::EstEnregistrement Enregistrement>

@@ -56,10 +56,14 @@ void vendeur(const IdentiteVendeur &identite, const Lieu &lieu)
 
 } // namespace
 
+void Regles::frais(const FraisPaypal &frais, const Lieu &lieu)
+{
+    clesConnues(frais.supplements, Lieu(lieu, QStringLiteral("supplements")));
+}
+
 void Regles::reglages(const Reglages &reglages, const Lieu &lieu)
 {
-    const Lieu frais(lieu, QStringLiteral("fraisPaypal"));
-    clesConnues(reglages.fraisPaypal.supplements, Lieu(frais, QStringLiteral("supplements")));
+    frais(reglages.fraisPaypal, Lieu(lieu, QStringLiteral("fraisPaypal")));
     emballages(reglages.emballages, Lieu(lieu, QStringLiteral("emballages")));
 
     const Lieu vendeurs(lieu, QStringLiteral("vendeurs"));

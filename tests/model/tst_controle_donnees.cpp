@@ -1,6 +1,7 @@
 #include "model/Livre.h"
 #include "model/Ressources.h"
 #include "model/controle/ControleDonnees.h"
+#include "model/controle/ControleUtilisateur.h"
 #include "model/controle/NumeroDeControle.h"
 #include "tests/Rangees.h"
 
@@ -110,6 +111,30 @@ private slots:
         }
     }
 
+    // What loading ignores without a word.
+    void fichiersDeLUtilisateur()
+    {
+        const QTemporaryDir dossier;
+        const QDir utilisateur(dossier.path());
+        QCOMPARE(ControleUtilisateur::erreurs(utilisateur), QStringList());
+        for (const auto &[nom, contenu, erreur] : Rangees<const char *, const char *>{
+                 {"livres-modifies.json", "{\"1\":{\"prix\":-5,\"disponible\":true}}",
+                  "livres-modifies.1.prix : nombre négatif"},
+                 {"frais-paypal.json", "[]", "frais-paypal : objet attendu"},
+                 {"tarifs-colissimo-2027-01-01.json",
+                  "{\"validite\":\"2027-01-01\",\"releve\":\"2026-12-15\",\"source\":\"https://"
+                  "a.example\",\"grilles\":[]}",
+                  "tarifs-colissimo-2027-01-01.grilles : aucune grille"},
+             }) {
+            const Rangee rangee(nom);
+            QFile fichier(utilisateur.filePath(nom));
+            QVERIFY(fichier.open(QIODevice::WriteOnly) && fichier.write(contenu) > 0);
+            fichier.close();
+            QCOMPARE(ControleUtilisateur::erreurs(utilisateur), QStringList{utilisateur.filePath(erreur)});
+            QVERIFY(fichier.remove());
+        }
+    }
+
     // The program itself, where Qt would abort as soon as it looked for a display.
     void sansEcran()
     {
@@ -117,13 +142,23 @@ private slots:
         for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
             environnement.remove(variable);
         const QTemporaryDir session; // without one Qt complains
-        environnement.insert("XDG_RUNTIME_DIR", session.path());
+        for (const char *variable : {"XDG_RUNTIME_DIR", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
+            environnement.insert(variable, session.path());
+        const QTemporaryDir abimes;
+        copier(livrees(), QDir(abimes.path()));
+        copier(livrees().filePath("couvertures"), QDir(abimes.filePath("couvertures")));
+        remplacer(abimes.filePath("couvertures/le-phare-de-sel.svg"), "</", "<");
         const QString verifier = "--verifier";
         for (const auto &[nom, arguments, code, sortie, erreur] : Rangees<QStringList, int, const char *, const char *>{
                  {"données justes",
                   {verifier, livrees().path()},
                   0,
                   "14 livres, 2 fichiers de tarifs, 10 destinations : rien à corriger.",
+                  ""},
+                 {"image abîmée",
+                  {verifier, abimes.path()},
+                  1,
+                  "couvertures/le-phare-de-sel.svg : l’image est abîmée\n1 erreur à corriger.",
                   ""},
                  {"dossier absent",
                   {verifier, "/nulle/part"},
@@ -171,6 +206,9 @@ void TestControleDonnees::erreurs()
              {"reglages", R"("taux" : 290)", R"("taux" : 290, "fixe" : 0, "x\"{" : "taux")",
               "reglages.fraisPaypal.x\"{ : clé inconnue\n"
               "reglages.json, ligne 42 : clé « fixe » écrite deux fois, la dernière compte"},
+             {"reglages", R"("taux" : 290)", R"("taux" : 290, "\u0074aux": 290, "fixe" : 0)",
+              "reglages.json, ligne 42 : clé « taux » écrite deux fois, la dernière compte\n"
+              "reglages.json, ligne 42 : clé « fixe » écrite deux fois, la dernière compte"},
              {"destinations", R"("code" : "france")", R"("code" : 1)", "destinations[0].code : texte attendu"},
              {"tarifs-colissimo-2026-01-01", R"("code" : "om1")", R"("code" : 1)",
               "tarifs-colissimo-2026-01-01.grilles[1].code : texte attendu"},
@@ -197,6 +235,7 @@ void TestControleDonnees::erreurs()
               "livres[0].teinte[1] : nombre de 0 à 255 attendu\nlivres[0].teinte[2] : nombre de 0 à 255 attendu"},
              {"livres", R"("poids" : 355)", R"("poids" : 0)",
               "livres[0].poids : 0 g ; laissez-le absent tant qu’il n’est pas pesé"},
+             {"livres", R"("poids" : 355)", R"("poids" : -355)", "livres[0].poids : nombre négatif"},
              {"livres", R"("pages" : 288)", R"("pages" : 0)", "livres[0].pages : au moins une page attendue"},
              {"livres", R"("om1" : 4300)", R"("om3" : 4300)",
               "livres[4].prixEcartes.om3 : aucune destination n’a ce code"},
