@@ -7,6 +7,12 @@
 
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QThread>
+#include <QTimer>
+
+#include <algorithm>
+
+using namespace std::chrono_literals;
 
 namespace Quillet {
 
@@ -17,8 +23,27 @@ Feuille::Feuille(const QString &titre, QWidget *parent) : QDialog(parent)
 
 void Feuille::ouvrir()
 {
-    setAttribute(Qt::WA_DeleteOnClose);
+    boucles_ = std::min(1, QThread::currentThread()->loopLevel());
+    connect(this, &QDialog::finished, this, &Feuille::finir);
     open();
+}
+
+// A reader can press what a dialog above keeps from hand and keys.
+void Feuille::done(int resultat)
+{
+    for (auto *dialogue : findChildren<QDialog *>())
+        if (dialogue->isVisible())
+            dialogue->reject();
+    QDialog::done(resultat);
+}
+
+// Not while a dialog that it opened waits on the stack, which still needs it.
+void Feuille::finir()
+{
+    if (QThread::currentThread()->loopLevel() > boucles_)
+        QTimer::singleShot(50ms, this, &Feuille::finir);
+    else
+        deleteLater();
 }
 
 void Feuille::meubler(QWidget *choix, QWidget *page)

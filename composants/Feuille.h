@@ -14,6 +14,9 @@ public:
     // Shows it over its window until it is closed, which ends its life.
     void ouvrir();
 
+    // Dialogs opened from it go with it.
+    void done(int resultat) override;
+
 protected:
     // A bar with the sheet's choices at its left and the button that closes it, the page below.
     void meubler(QWidget *choix, QWidget *page);
@@ -22,6 +25,11 @@ protected:
     // A hairline between two parts of the sheet.
     static QWidget *filet(Qt::Orientation sens);
     void keyPressEvent(QKeyEvent *evenement) override;
+
+private:
+    void finir();
+
+    int boucles_ = 0; // that ran when it opened, the dialogs' own apart
 };
 
 } // namespace Quillet

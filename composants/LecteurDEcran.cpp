@@ -37,6 +37,8 @@ QAccessibleInterface *interfaceDe(const QString &classe, QObject *objet)
     auto *widget = static_cast<QWidget *>(objet);
     if (const QVariant role = widget->property(partJouee); role.isValid())
         return new Ensemble(widget, static_cast<QAccessible::Role>(role.toInt())); // Qt owns it
+    if (classe == QLatin1String("QScrollArea"))
+        return new QAccessibleWidget(widget); // Qt's own reads beyond the end when asked for a child that is not there
     if (classe == QLatin1String("QStackedWidget"))
         return new Ensemble(widget, QAccessible::Pane); // unnamed, it is not spoken of
     return nullptr;

@@ -11,7 +11,7 @@ void Lien::ouvrir(const QUrl &adresse, QWidget *parent)
 {
     if (adresse.scheme() == QLatin1String("https") && QDesktopServices::openUrl(adresse))
         return;
-    QMessageBox::information(parent, QCoreApplication::applicationName(),
+    QMessageBox::information(parent->window(), QCoreApplication::applicationName(),
                              QStringLiteral("Aucun navigateur n’a ouvert cette page :\n%1").arg(adresse.toString()));
 }
 

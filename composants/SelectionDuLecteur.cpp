@@ -12,7 +12,8 @@ SelectionDuLecteur::SelectionDuLecteur(const QItemSelectionModel *lignes, QObjec
 
 void SelectionDuLecteur::noter(const QItemSelection &lignes)
 {
-    ligne_ = lignes.isEmpty() ? QModelIndex() : lignes.indexes().constFirst();
+    const QModelIndexList choisies = lignes.indexes(); // without those that cannot be chosen, as a separator
+    ligne_ = choisies.isEmpty() ? QModelIndex() : choisies.constFirst();
     QMetaObject::invokeMethod(this, &SelectionDuLecteur::dire, Qt::QueuedConnection); // the current row changes after
 }
 

@@ -1,0 +1,67 @@
+#include "composants/Choix.h"
+#include "composants/Defilement.h"
+#include "composants/Feuille.h"
+#include "composants/LecteurDEcran.h"
+
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QLabel>
+#include <QMessageBox>
+#include <QSignalSpy>
+#include <QStandardItemModel>
+#include <QTest>
+#include <QTimer>
+
+using namespace Quillet;
+
+// The controls, worked by hand and by a screen reader, which sees and presses what hand and keys cannot reach.
+class TestControles : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { LecteurDEcran::preparer(); }
+
+    // A reader may choose what no hand can.
+    void leSeparateurNeSeChoisitPas()
+    {
+        Choix choix;
+        choix.ajouter("a", "a");
+        choix.insertSeparator(1);
+        choix.ajouter("b", "b");
+        choix.showPopup();
+        QSignalSpy choisi(&choix, &Choix::choisi);
+        const auto prendre = [&](int rang) {
+            choix.view()->selectionModel()->select(choix.model()->index(rang, 0), QItemSelectionModel::ClearAndSelect);
+        };
+        prendre(1);
+        prendre(2);
+        QTRY_COMPARE(choisi.count(), 1);
+        QCOMPARE(choisi.at(0).at(0).toString(), "b");
+    }
+
+    void unLecteurDemandeAuDelaDeLaPage()
+    {
+        Defilement page;
+        page.setWidget(new QLabel("a"));
+        auto *lu = QAccessible::queryAccessibleInterface(&page);
+        for (const int rang : {-1, lu->childCount(), 999})
+            QVERIFY(!lu->child(rang));
+        QVERIFY(lu->indexOfChild(QAccessible::queryAccessibleInterface(page.viewport())) >= 0);
+    }
+
+    // Closed by a reader while a question of its own holds the program up.
+    void laFeuilleFermeeSousUneQuestion()
+    {
+        QWidget fenetre;
+        QPointer<Feuille> feuille = new Feuille("Feuille", &fenetre);
+        feuille->ouvrir();
+        QTimer::singleShot(0, feuille, &QDialog::reject);
+        QVERIFY(QMessageBox::question(feuille, "Feuille", "Fermer ?") != QMessageBox::Yes);
+        QVERIFY(feuille && !feuille->isVisible());
+        QTRY_VERIFY(!feuille);
+    }
+};
+
+QTEST_MAIN(TestControles)
+#include "tst_controles.moc"
