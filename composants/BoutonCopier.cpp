@@ -10,7 +10,7 @@ using namespace std::chrono_literals;
 
 namespace Quillet {
 
-BoutonCopier::BoutonCopier(QWidget *parent) : QToolButton(parent)
+BoutonCopier::BoutonCopier(QWidget *parent) : QToolButton(parent), retour_(this)
 {
     setAutoRaise(true);
     setFocusPolicy(Qt::StrongFocus); // a click ends what is being typed elsewhere, and may change what is copied
@@ -33,7 +33,8 @@ void BoutonCopier::setValeur(const QString &valeur)
 void BoutonCopier::copier()
 {
     QGuiApplication::clipboard()->setText(valeur_);
-    retour_.start();
+    if (!retour_.isActive()) // copied again, it shows no longer than copied once
+        retour_.start();
     montrerEtat();
     LecteurDEcran::annoncer(this, QStringLiteral("Copié"));
 }

@@ -113,7 +113,11 @@ ChoixSegmente::ChoixSegmente(const QStringList &options, const Apparence &appare
         auto *bouton = new Segment(options[i], apparence);
         boutons_.append(bouton);
         rangee->addWidget(bouton);
-        connect(bouton, &QRadioButton::clicked, this, [this, i] { emit choisi(i); }); // even of what is shown already
+        connect(bouton, &QRadioButton::pressed, this, [this, i] { deja_ = boutons_[i]->isChecked(); });
+        connect(bouton, &QRadioButton::clicked, this, [this, i] {
+            if (deja_)
+                emit choisi(i); // what is shown already is not toggled
+        });
         connect(bouton, &QRadioButton::toggled, this, [this, i](bool choisie) {
             if (choisie)
                 prendre(i);
@@ -130,7 +134,7 @@ void ChoixSegmente::prendre(int indice)
         boutons_[i]->setFocusPolicy(i == indice ? Qt::StrongFocus : Qt::ClickFocus);
     position_->vers(indice);
     if (!montre_)
-        emit choisi(indice); // by a screen reader, which does not click
+        emit choisi(indice);
 }
 
 void ChoixSegmente::montrer(int indice)

@@ -48,6 +48,7 @@ private:
     QList<QRadioButton *> boutons_;
     Ressort *position_;
     bool montre_ = false; // while `montrer` checks a button
+    bool deja_ = false;   // the button pressed last was checked then
 };
 
 } // namespace Quillet

@@ -1,4 +1,6 @@
+#include "composants/BoutonCopier.h"
 #include "composants/Choix.h"
+#include "composants/ChoixSegmente.h"
 #include "composants/Defilement.h"
 #include "composants/Feuille.h"
 #include "composants/LecteurDEcran.h"
@@ -7,12 +9,14 @@
 #include <QAccessible>
 #include <QLabel>
 #include <QMessageBox>
+#include <QRadioButton>
 #include <QSignalSpy>
 #include <QStandardItemModel>
 #include <QTest>
 #include <QTimer>
 
 using namespace Quillet;
+using namespace std::chrono_literals;
 
 // The controls, worked by hand and by a screen reader, which sees and presses what hand and keys cannot reach.
 class TestControles : public QObject
@@ -21,6 +25,38 @@ class TestControles : public QObject
 
 private slots:
     void initTestCase() { LecteurDEcran::preparer(); }
+
+    void unSegmentDitSonChoixUneFois()
+    {
+        ChoixSegmente choix({"a", "b"}, {});
+        choix.montrer(0);
+        QSignalSpy choisi(&choix, &ChoixSegmente::choisi);
+        const auto dits = [&](const std::function<void()> &geste) {
+            choisi.clear();
+            geste();
+            QStringList rangs;
+            for (const auto &dit : std::as_const(choisi))
+                rangs.append(dit.at(0).toString());
+            return rangs.join(u' ');
+        };
+        QCOMPARE(dits([&] { choix.bouton(1)->click(); }), "1");
+        QCOMPARE(dits([&] { choix.bouton(1)->click(); }), "1");  // what is shown already
+        QCOMPARE(dits([&] { choix.bouton(0)->toggle(); }), "0"); // by a reader
+        QCOMPARE(dits([&] { choix.bouton(0)->click(); }), "0");
+        QCOMPARE(dits([&] { choix.montrer(1); }), "");
+    }
+
+    void copierEncoreNeProlongeRien()
+    {
+        BoutonCopier bouton;
+        bouton.setValeur("1");
+        bouton.click();
+        const auto *retour = bouton.findChild<QTimer *>();
+        QCOMPARE(retour->intervalAsDuration(), 1500ms);
+        QTRY_VERIFY(retour->remainingTime() < 1400);
+        bouton.click();
+        QVERIFY(retour->isActive() && retour->remainingTime() < 1400);
+    }
 
     // A reader may choose what no hand can.
     void leSeparateurNeSeChoisitPas()
