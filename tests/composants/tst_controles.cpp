@@ -1,3 +1,4 @@
+#include "composants/Attente.h"
 #include "composants/BoutonCopier.h"
 #include "composants/Choix.h"
 #include "composants/ChoixSegmente.h"
@@ -10,10 +11,13 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QRadioButton>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QStandardItemModel>
 #include <QTest>
 #include <QTimer>
+
+#include <stdexcept>
 
 using namespace Quillet;
 using namespace std::chrono_literals;
@@ -96,6 +100,32 @@ private slots:
         QVERIFY(QMessageBox::question(feuille, "Feuille", "Fermer ?") != QMessageBox::Yes);
         QVERIFY(feuille && !feuille->isVisible());
         QTRY_VERIFY(!feuille);
+    }
+
+    void lAttenteEstBornee()
+    {
+        QWidget fenetre;
+        fenetre.show();
+        QTimer pouls; // the window lives on
+        QSignalSpy battu(&pouls, &QTimer::timeout);
+        pouls.start(10ms);
+        const auto porte = std::make_shared<QSemaphore>();
+        bool dit = false;
+        QTimer guet;
+        connect(&guet, &QTimer::timeout, &fenetre, [&] {
+            const auto *devant = QApplication::activeModalWidget();
+            dit = dit
+                  || (devant && devant->isVisible() && !devant->testAttribute(Qt::WA_DontShowOnScreen)
+                      && devant->findChild<QLabel *>()->text() == u"Un instant…");
+        });
+        guet.start(20ms);
+        QVERIFY(!Attente::auPlus(800ms, &fenetre, "Un instant…", [porte] { porte->acquire(); }));
+        QVERIFY(dit && battu.count() > 10);
+        porte->release();
+        QVERIFY(Attente::auPlus(1min, &fenetre, "Un instant…", [] {}));
+        QVERIFY_THROWS_EXCEPTION(
+            std::runtime_error, Attente::jusquAuBout(&fenetre, "Un instant…", [] { throw std::runtime_error("non"); }));
+        QVERIFY(!QApplication::activeModalWidget());
     }
 };
 

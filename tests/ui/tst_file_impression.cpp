@@ -1,7 +1,6 @@
 #include "model/Echec.h"
 #include "ui/documents/FileImpression.h"
 
-#include <QPrinter>
 #include <QTest>
 
 using namespace Quillet;
@@ -16,21 +15,17 @@ private slots:
 
     void optionsDuTravail()
     {
-        QPrinter choix;
-        choix.setCopyCount(3);
-        choix.setColorMode(QPrinter::GrayScale);
         const QList<std::pair<QByteArray, QByteArray>> attendues{
             {"copies", "3"},          {"media", "iso_a4_210x297mm"},
             {"print-scaling", "fit"}, {"orientation-requested", "3"},
             {"sides", "one-sided"},   {"print-color-mode", "monochrome"}};
-        QCOMPARE(FileImpression::options(choix), attendues);
+        QCOMPARE(FileImpression::options({"file", 3, false}), attendues);
     }
 
     void refusDeLaFile()
     {
-        const QPrinter choix;
         try {
-            FileImpression::envoyer("%PDF-", "Facture.pdf", choix);
+            FileImpression::envoyer("%PDF-", "Facture.pdf", {});
             QFAIL("no server, and yet a job");
         } catch (const Echec &refus) {
             QVERIFY2(refus.texte().contains("le service d’impression ne répond pas"), qPrintable(refus.texte()));

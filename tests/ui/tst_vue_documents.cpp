@@ -12,12 +12,16 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QSpinBox>
+#include <QTcpServer>
 
 using namespace Quillet;
+using namespace std::chrono_literals;
 
 namespace {
 
+constexpr auto personne = "/nulle/part";
 const QString douane = "Déclaration en douane";
 const QString facture = "Facture";
 const QString enregistrer = "Enregistrer en PDF…";
@@ -56,7 +60,7 @@ class TestVueDocuments : public QObject
 private slots:
     void initTestCase()
     {
-        qputenv("CUPS_SERVER", "/nulle/part"); // no test prints on a real printer
+        qputenv("CUPS_SERVER", personne); // no test prints on a real printer
         QuilletApp::preparer(Theme::Mode::clair);
     }
 
@@ -221,7 +225,10 @@ private slots:
         QCOMPARE(retenu(), QString());
 
         int exemplaires = 0;
+        int caches = 0;
         QVERIFY(Dialogues::cliquerPuisRepondre(feuille, imprimer, {[&](QDialog *dialogue) {
+                                                   for (const char *sansEffet : {"gbPrintRange", "reverse", "duplex"})
+                                                       caches += dialogue->findChild<QWidget *>(sansEffet)->isHidden();
                                                    exemplaires = dialogue->findChild<QSpinBox *>("copies")->value();
                                                    auto *imprimantes = dialogue->findChild<QComboBox *>("printers");
                                                    imprimantes->setCurrentIndex(
@@ -230,7 +237,33 @@ private slots:
                                                    dialogue->accept();
                                                }}));
         QCOMPARE(exemplaires, 2);
+        QCOMPARE(caches, 3);
         QVERIFY(contenu(chemin).startsWith("%PDF-"));
+        QCOMPARE(retenu(), "2026-001");
+    }
+
+    // It takes the call and never answers: the window lives on, and a file is proposed instead.
+    void serviceDImpressionMuet()
+    {
+        QTcpServer muet;
+        QVERIFY(muet.listen(QHostAddress::LocalHost));
+        const auto rendre = qScopeGuard([] { qputenv("CUPS_SERVER", personne); });
+        qputenv("CUPS_SERVER", "127.0.0.1:" + QByteArray::number(muet.serverPort()));
+        const QTemporaryDir dossier;
+        banc_->commander("suisse");
+        QTimer pouls;
+        QSignalSpy battu(&pouls, &QTimer::timeout);
+        pouls.start(20ms);
+        QString message;
+        const auto preferer = [&](QDialog *boite) {
+            message = qobject_cast<QMessageBox *>(boite)->text();
+            Ecran::cliquer(boite, enregistrer);
+        };
+        QVERIFY(
+            Dialogues::cliquerPuisRepondre(banc_->ouvrir(facture), "Imprimer 2 exemplaires",
+                                           {preferer, Dialogues::enregistrerSous(dossier.filePath("facture.pdf"))}));
+        QVERIFY2(message.startsWith("Le service d’impression ne répond pas : "), qPrintable(message));
+        QVERIFY(battu.count() > 20);
         QCOMPARE(retenu(), "2026-001");
     }
 

@@ -133,6 +133,14 @@ void FicheFacture::completer()
 
 void FicheFacture::imprimer()
 {
+    const bool joignables = ImpressionFacture::imprimantesJoignables(this);
+    if (!isVisible())
+        return; // the sheet was closed meanwhile
+    if (!joignables) {
+        if (ImpressionFacture::proposerLePdf(this))
+            enregistrer();
+        return;
+    }
     emettre(QStringLiteral("Facture %1 imprimée."), [this](const Facture &facture) {
         return ImpressionFacture::imprimer(facture, Facture::exemplaires, this);
     });

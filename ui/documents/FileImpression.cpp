@@ -2,7 +2,6 @@
 
 #include "model/Echec.h"
 
-#include <QPrinter>
 #include <QTemporaryFile>
 
 #include <cups/cups.h>
@@ -14,19 +13,20 @@ namespace Quillet {
 namespace {
 
 constexpr int patience = 5'000; // ms that a server may stay silent
+constexpr int longuePatience = 10'000;
 const QString serviceMuet = QStringLiteral("le service d’impression ne répond pas");
 
 using Connexion = std::unique_ptr<http_t, decltype([](http_t *connexion) { httpClose(connexion); })>;
 
 // None when the server does not answer a first, simple question: the calls that follow would wait for minutes.
-Connexion connecter()
+Connexion connecter(int silence)
 {
     Connexion connexion(
-        httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, patience, nullptr));
+        httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, silence, nullptr));
     if (!connexion)
         return connexion;
     const auto renoncer = [](http_t *, void *) { return 0; };
-    httpSetTimeout(connexion.get(), patience / 1000.0, renoncer, nullptr);
+    httpSetTimeout(connexion.get(), silence / 1000.0, renoncer, nullptr);
     ipp_t *reponse = cupsDoRequest(connexion.get(), ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/");
     if (!reponse)
         connexion.reset();
@@ -85,17 +85,27 @@ QString raison(ipp_status_t statut)
 
 } // namespace
 
-QList<std::pair<QByteArray, QByteArray>> FileImpression::options(const QPrinter &choix)
+void FileImpression::consulter()
 {
-    return {{"copies", QByteArray::number(choix.copyCount())},
+    const Connexion connexion = connecter(longuePatience);
+    if (!connexion)
+        return;
+    cups_dest_t *files = nullptr;
+    const int nombre = cupsGetDests2(connexion.get(), &files);
+    cupsFreeDests(nombre, files);
+}
+
+QList<std::pair<QByteArray, QByteArray>> FileImpression::options(const Travail &travail)
+{
+    return {{"copies", QByteArray::number(travail.exemplaires)},
             {"media", "iso_a4_210x297mm"},
             {"print-scaling", "fit"},
             {"orientation-requested", "3"}, // portrait
             {"sides", "one-sided"},         // two copies never share a sheet
-            {"print-color-mode", choix.colorMode() == QPrinter::Color ? "color" : "monochrome"}};
+            {"print-color-mode", travail.enCouleur ? "color" : "monochrome"}};
 }
 
-void FileImpression::envoyer(const QByteArray &pdf, const QString &titre, const QPrinter &choix)
+void FileImpression::envoyer(const QByteArray &pdf, const QString &titre, const Travail &travail)
 {
     QTemporaryFile fichier;
     if (!fichier.open() || fichier.write(pdf) != pdf.size() || !fichier.flush())
@@ -103,16 +113,15 @@ void FileImpression::envoyer(const QByteArray &pdf, const QString &titre, const 
             QStringLiteral("Impression impossible : le dossier des fichiers temporaires est plein ou protégé."));
 
     const auto refuser = [&](const QString &pourquoi) {
-        throw Echec(
-            QStringLiteral("L’imprimante « %1 » n’a pas pris la facture : %2.").arg(choix.printerName(), pourquoi));
+        throw Echec(QStringLiteral("L’imprimante « %1 » n’a pas pris la facture : %2.").arg(travail.file, pourquoi));
     };
-    const Connexion connexion = connecter();
+    const Connexion connexion = connecter(patience);
     if (!connexion)
         refuser(serviceMuet);
-    Destinataire destinataire(connexion.get(), choix.printerName());
+    Destinataire destinataire(connexion.get(), travail.file);
     if (!destinataire.existe())
         refuser(raison(cupsLastError()));
-    for (const auto &[nom, valeur] : options(choix))
+    for (const auto &[nom, valeur] : options(travail))
         destinataire.ajouter(nom, valeur);
     if (destinataire.imprimer(connexion.get(), fichier.fileName(), titre) == 0)
         refuser(raison(cupsLastError()));

@@ -1,7 +1,8 @@
 #include "ui/documents/ImpressionFacture.h"
 
+#include "composants/Attente.h"
 #include "model/Fichier.h"
-#include "ui/documents/FileImpression.h"
+#include "ui/documents/DialogueImpression.h"
 #include "ui/documents/LettresPdf.h"
 #include "ui/documents/MetadonneesPdf.h"
 #include "ui/documents/PageFacture.h"
@@ -13,13 +14,17 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QPrintDialog>
 #include <QPrinter>
+#include <QPushButton>
 #include <QStandardPaths>
+
+using namespace std::chrono_literals;
 
 namespace Quillet {
 
 namespace {
+
+constexpr auto patience = 6s; // for a print server's first answer
 
 const QString titreDuDialogue = QStringLiteral("Enregistrer la facture");
 
@@ -71,23 +76,41 @@ QByteArray ImpressionFacture::pdf(const Facture &facture)
     return LettresPdf::retablir(octets.data(), PageFacture::textes(facture), QApplication::font());
 }
 
+bool ImpressionFacture::imprimantesJoignables(QWidget *parent)
+{
+    return Attente::auPlus(patience, parent, QStringLiteral("Recherche des imprimantes…"), FileImpression::consulter);
+}
+
+bool ImpressionFacture::proposerLePdf(QWidget *parent)
+{
+    QMessageBox question(QMessageBox::Warning, QStringLiteral("Facture"),
+                         QStringLiteral("Le service d’impression ne répond pas : aucune imprimante ne peut être "
+                                        "proposée.\nLa facture peut être enregistrée en PDF, et imprimée plus tard."),
+                         QMessageBox::Cancel, parent);
+    const QPushButton *enPdf = question.addButton(QStringLiteral("Enregistrer en PDF…"), QMessageBox::AcceptRole);
+    question.exec();
+    return question.clickedButton() == enPdf;
+}
+
 bool ImpressionFacture::imprimer(const Facture &facture, int exemplaires, QWidget *parent)
 {
     const QByteArray page = pdf(facture);
-    QPrinter choix;
-    choix.setPageSize(QPageSize(QPageSize::A4));
-    choix.setFullPage(true);
-    choix.setPageMargins({});
-    choix.setCopyCount(exemplaires);
-    choix.setDocName(facture.nomDeFichier()); // what the dialog proposes to a print to file
-    QPrintDialog dialogue(&choix, parent);
-    dialogue.setOptions(QAbstractPrintDialog::PrintToFile);
+    QPrinter reglages;
+    reglages.setPageSize(QPageSize(QPageSize::A4));
+    reglages.setFullPage(true);
+    reglages.setPageMargins({});
+    reglages.setCopyCount(exemplaires);
+    reglages.setDocName(facture.nomDeFichier()); // what the dialog proposes to a print to file
+    DialogueImpression dialogue(&reglages, parent);
     if (dialogue.exec() != QDialog::Accepted)
         return false;
-    if (choix.outputFileName().isEmpty())
-        FileImpression::envoyer(page, facture.titre() + QStringLiteral(".pdf"), choix);
+    if (!dialogue.fichier().isEmpty())
+        ecrire(dialogue.fichier(), page);
     else
-        ecrire(choix.outputFileName(), page);
+        Attente::jusquAuBout(parent, QStringLiteral("Envoi de la facture à l’imprimante…"),
+                             [&, titre = facture.titre() + QStringLiteral(".pdf"), travail = dialogue.travail()] {
+                                 FileImpression::envoyer(page, titre, travail);
+                             });
     return true;
 }
 

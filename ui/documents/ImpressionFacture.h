@@ -14,6 +14,12 @@ namespace Quillet::ImpressionFacture {
 // The page as a PDF document of one page. Throws Echec.
 QByteArray pdf(const Facture &facture);
 
+// Whether a printer can be asked for: a print server that stays silent would hold the dialog, and the window, for
+// minutes. No server at all is an answer.
+bool imprimantesJoignables(QWidget *parent);
+// Says that they are not; returns whether the user wants a file instead.
+bool proposerLePdf(QWidget *parent);
+
 // Both ask in the platform's dialog, over `parent`, and throw Echec when the invoice could not leave.
 
 // Returns whether the job was handed over; false when the user gave up.
