@@ -113,13 +113,17 @@ void Fenetre::creerRaccourcis()
 
 void Fenetre::aPropos()
 {
-    QMessageBox::about(
-        this, QStringLiteral("À propos de Quillet"),
+    auto *boite = new QMessageBox(
+        QMessageBox::NoIcon, QStringLiteral("À propos de Quillet"),
         QStringLiteral(
             "<h3>Quillet %1</h3><p>Le prix d’une commande, et ce qu’il en reste, pour les auteurs qui vendent leurs "
             "livres par la poste.</p>"
             "<p>© 2026 The Quillet authors · licence MIT</p>")
-            .arg(QApplication::applicationVersion()));
+            .arg(QApplication::applicationVersion()),
+        QMessageBox::Ok, this);
+    boite->setIconPixmap(windowIcon().pixmap(64));
+    boite->setAttribute(Qt::WA_DeleteOnClose);
+    boite->open(); // a reader that chooses in a menu waits until the choice has been obeyed
 }
 
 } // namespace Quillet
