@@ -28,18 +28,31 @@ const QString &sparkle()
     return espace;
 }
 
-// The XML reader compares each attribute of a tag to all others: ten thousand would hold it for seconds. No "<" stands
-// within a tag; one that opens with "!" is none.
+// The XML reader compares each attribute of a tag to all others: ten thousand would hold it for seconds. Each has its
+// value in quotes. No "<" stands within a tag, so that what a comment or a text leaves open ends with the next one; one
+// that opens with "!" is none.
 bool tropDAttributs(QStringView flux)
 {
-    qsizetype egales = 0;
+    qsizetype attributs = 0;
     bool balise = false;
+    QChar guillemet; // of the value under way, null when there is none
     for (qsizetype place = 0; place < flux.size(); ++place) {
-        if (flux[place] == u'<') {
+        const QChar signe = flux[place];
+        if (signe == u'<') {
             balise = place + 1 < flux.size() && flux[place + 1] != u'!';
-            egales = 0;
-        } else if (balise && flux[place] == u'=' && ++egales > attributsMaximaux) {
-            return true;
+            guillemet = {};
+            attributs = 0;
+        } else if (!balise) {
+            continue;
+        } else if (!guillemet.isNull()) {
+            if (signe == guillemet)
+                guillemet = {};
+        } else if (signe == u'>') {
+            balise = false;
+        } else if (signe == u'"' || signe == u'\'') {
+            guillemet = signe;
+            if (++attributs > attributsMaximaux)
+                return true;
         }
     }
     return false;

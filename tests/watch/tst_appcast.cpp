@@ -74,6 +74,7 @@ private slots:
             return rss(version("1.2", QString(paquet).replace(avant, apres)));
         };
         const char *offerte = "1.2 https://a.invalid/q.deb 15 ";
+        const QString soulignees = QStringLiteral("Neuf\n%1\n").arg(QString(72, u'=')).repeated(7).trimmed();
         cas("simple", rss(version("1.2"), "<?xml version='1.0' encoding='utf-8'?>\n"), offerte);
         cas("nom et notes à part",
             rss(version("120", QStringLiteral("<description> Plus\n vite </description>"
@@ -83,6 +84,8 @@ private slots:
         cas("en attributs", avec("/>", " sparkle:shortVersionString='1.2'/>").replace(">1.2<", ">12<"), offerte);
         cas("nom trop long", avec("/>", " sparkle:shortVersionString='1%1'/>").arg(QStringLiteral("📖").repeated(20)),
             qUtf8Printable(u'1' + QStringLiteral("📖").repeated(15) + QString::fromLatin1(offerte).sliced(3)));
+        cas("notes soulignées", rss(version("1.2", paquet + QString("<description>%1</description>").arg(soulignees))),
+            qUtf8Printable(QString(offerte) + soulignees));
         cas("autres éléments",
             rss(version("1.2",
                         QStringLiteral("<version>9</version><sparkle:deltas><enclosure/></sparkle:deltas>") + paquet)),
@@ -125,8 +128,9 @@ private slots:
         QString attributs;
         for (int rang = 0; rang < 501; ++rang)
             attributs += QStringLiteral(" a%1='>'").arg(rang);
-        cas("bombe d’attributs", rss(QStringLiteral("<a%1/>").arg(attributs)),
-            "La liste des mises à jour est illisible : une balise a trop d’attributs.");
+        for (const char *avant : {"", "<!-- \" -->", "<?a \"?>", "<![CDATA[<a \"]]>"})
+            cas("bombe d’attributs", rss(QString(avant) + QStringLiteral("<a%1/>").arg(attributs)),
+                "La liste des mises à jour est illisible : une balise a trop d’attributs.");
     }
 
     // As `packaging/release` writes it, which its own test makes sure of.
