@@ -15,6 +15,7 @@ namespace {
 using Appcast::Parution;
 
 constexpr qsizetype attributsMaximaux = 500;
+constexpr int profondeurMaximale = 100;
 constexpr qsizetype nomMaximal = 32;
 constexpr qsizetype notesMaximales = 10'000;
 
@@ -56,6 +57,20 @@ bool tropDAttributs(QStringView flux)
         }
     }
     return false;
+}
+
+// Sound to its end, past the root too, and not deeper than the stack: Qt calls itself for each level of a text.
+void exigerSain(const QString &flux)
+{
+    QXmlStreamReader xml(flux);
+    for (int profondeur = 0; !xml.atEnd();) {
+        xml.readNext();
+        profondeur += xml.isStartElement() - xml.isEndElement();
+        if (profondeur > profondeurMaximale)
+            throw ErreurMiseAJour::listeIllisible(QStringLiteral("ses éléments s’emboîtent trop profondément"));
+    }
+    if (xml.hasError())
+        throw ErreurMiseAJour::listeIllisible(QStringLiteral("le document est coupé ou mal formé"));
 }
 
 // Never half a character.
@@ -147,7 +162,7 @@ std::optional<Parution> parution(const Element &lu)
 void entrer(QXmlStreamReader &xml)
 {
     xml.readNextStartElement();
-    if (!xml.hasError() && xml.name() != u"rss")
+    if (xml.name() != u"rss")
         throw ErreurMiseAJour::listeIllisible(QStringLiteral("ce n’est pas un flux de mises à jour"));
 }
 
@@ -160,6 +175,7 @@ QList<Parution> Appcast::lire(const QString &flux, const QString &systeme)
     // It brings entities, and reading it may take as long as its author likes.
     if (flux.contains(QStringLiteral("<!DOCTYPE")))
         throw ErreurMiseAJour::listeIllisible(QStringLiteral("un type de document n’y a pas sa place"));
+    exigerSain(flux);
     QXmlStreamReader xml(flux);
     entrer(xml);
     QList<Element> lus;
@@ -175,10 +191,6 @@ QList<Parution> Appcast::lire(const QString &flux, const QString &systeme)
                 xml.skipCurrentElement();
         }
     }
-    while (!xml.atEnd())
-        xml.readNext(); // what follows the root must be sound too
-    if (xml.hasError())
-        throw ErreurMiseAJour::listeIllisible(QStringLiteral("le document est coupé ou mal formé"));
     lus.removeIf([](const Element &lu) { return !pourNous(lu); });
     QList<Parution> parutions;
     for (const Element &lu : lus)

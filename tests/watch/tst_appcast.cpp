@@ -125,6 +125,9 @@ private slots:
         cas("page", "<html/>", "La liste des mises à jour est illisible : ce n’est pas un flux de mises à jour.");
         cas("bombe", rss(version("&b;"), "<!DOCTYPE rss [<!ENTITY a '1.2'><!ENTITY b '&a;&a;&a;&a;'>]>"),
             "La liste des mises à jour est illisible : un type de document n’y a pas sa place.");
+        const QString ouvert = "<a>";
+        cas("bombe de niveaux", rss(version("1.2", "<description>" + ouvert.repeated(60'000))),
+            "La liste des mises à jour est illisible : ses éléments s’emboîtent trop profondément.");
         QString attributs;
         for (int rang = 0; rang < 501; ++rang)
             attributs += QStringLiteral(" a%1='>'").arg(rang);
