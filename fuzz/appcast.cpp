@@ -1,8 +1,10 @@
-// The feed of updates, and the order of the versions that it names. Only ErreurMiseAJour may come out of the reader.
+// The feed of updates, its signature, and the order of the versions that it names. Only ErreurMiseAJour may come out of
+// the readers.
 #include "watch/Appcast.h"
 
 #include "fuzz/Cible.h"
 #include "watch/ErreurMiseAJour.h"
+#include "watch/FluxSigne.h"
 
 using namespace Quillet;
 
@@ -33,7 +35,8 @@ void verifier(const QList<Appcast::Parution> &parutions)
             verifierLOrdre(a.numero, b.numero, parutions.last().numero);
     if (const auto offerte = Appcast::aProposer(parutions, installee)) {
         exiger(offerte->paquet.isValid() && offerte->paquet.scheme() == u"https", "https");
-        exiger(offerte->signature && offerte->longueur > 0 && offerte->longueur <= Appcast::longueurMaximale,
+        exiger(offerte->empreinte.size() == 32 && offerte->longueur > 0
+                   && offerte->longueur <= Appcast::longueurMaximale,
                "paquet sur");
         for (const auto &parution : parutions)
             exiger(parution.numero <= offerte->numero && offerte->numero > installee, "la derniere");
@@ -44,10 +47,22 @@ void verifier(const QList<Appcast::Parution> &parutions)
 qsizetype nombrePourTous(const QString &flux)
 {
     try {
-        return Appcast::lire(flux, {}).size();
+        return Appcast::lire(flux, {}).parutions.size();
     } catch (const ErreurMiseAJour &) {
         return 0; // of those for all, no number is understood
     }
+}
+
+// Of a key that signed nothing here.
+bool passePourSigne(const QString &flux)
+{
+    static const auto cle = *SignatureEd25519::cle("11qYAYKxCrfVS/7TyWQHOg7hcvPapiMlrwIaaPcHURo=");
+    try {
+        FluxSigne::contenu(flux, cle);
+    } catch (const ErreurMiseAJour &) {
+        return false;
+    }
+    return true;
 }
 
 } // namespace
@@ -56,8 +71,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *octets, std::size_t ta
 {
     const auto flux = QString::fromUtf8(contenu(octets, taille));
     exiger(Appcast::notes(flux).size() <= 10'001, "notes bornees");
+    exiger(!passePourSigne(flux), "signe par personne");
     try {
-        const auto parutions = Appcast::lire(flux, QStringLiteral("debian13"));
+        const auto parutions = Appcast::lire(flux, QStringLiteral("debian13")).parutions;
         verifier(parutions);
         exiger(parutions.size() >= nombrePourTous(flux), "pour tous, donc pour celui-ci");
     } catch (const ErreurMiseAJour &erreur) {

@@ -1,17 +1,26 @@
-"""What a release says of itself: its notes, kept in the metainfo, for Debian's changelog and for the appcast."""
+"""What a release says of itself: its notes, kept in the metainfo, for Debian's changelog and for the signed appcast."""
 
+import base64
 import os
+import re
 import sys
 import xml.etree.ElementTree as ET
-from datetime import datetime, timezone
+from datetime import datetime, timedelta, timezone
 from email.utils import format_datetime
+from pathlib import Path
 from textwrap import fill
 from typing import NamedTuple
 
 SPARKLE = "http://www.andymatuschak.org/xml-namespaces/sparkle"
+QUILLET = "https://quillet.example/flux"
+ETABLI, EXPIRE = f"{{{QUILLET}}}etabli", f"{{{QUILLET}}}expire"
+# An old feed that someone goes on showing is found out after that time.
+VALIDITE = timedelta(days=180)
+SIGNE = re.compile(rb"(.*)<!-- signature: ([A-Za-z0-9+/]{86}==) -->\n", re.DOTALL)
 LANGUE = "{http://www.w3.org/XML/1998/namespace}lang"
 
 ET.register_namespace("sparkle", SPARKLE)
+ET.register_namespace("quillet", QUILLET)
 
 
 class Refus(Exception):
@@ -19,12 +28,12 @@ class Refus(Exception):
 
 
 class Paquet(NamedTuple):
-    """What the appcast says of one package: the system it is for, as "debian13", the signature in base64."""
+    """What the appcast says of one package: the system it is for, as "debian13", its SHA-256 in hexadecimal."""
 
     systeme: str
     url: str
     longueur: int
-    signature: str
+    empreinte: str
 
 
 def _paragraphes(parution, langue):
@@ -63,14 +72,40 @@ def journal(metainfo, contact, revision):
     return "\n".join(entrees)
 
 
-def _canal(appcast):
-    try:
-        canal = ET.parse(appcast).getroot().find("channel")
-    except ET.ParseError as erreur:
-        raise Refus(f"{appcast} est illisible : {erreur}") from erreur
-    if canal is None:
-        raise Refus(f"{appcast} n’est pas un appcast.")
-    return canal
+def _racine(appcast, cle):
+    """Of a feed that this key signed: what someone else put there must not be signed with the rest."""
+    lu = SIGNE.fullmatch(Path(appcast).read_bytes())
+    if not lu or not cle.a_signe(lu[1], base64.b64decode(lu[2])):
+        raise Refus(f"{appcast} n’est pas signé par cette clé. Retrouvez-le tel quel, ou commencez un fichier neuf.")
+    return ET.fromstring(lu[1])
+
+
+def _ouvrir(appcast, cle):
+    """The same, or a new one when there is no file."""
+    if os.path.exists(appcast):
+        return _racine(appcast, cle)
+    racine = ET.Element("rss", {"version": "2.0"})
+    canal = ET.SubElement(racine, "channel")
+    ET.SubElement(canal, "title").text = "Quillet"
+    ET.SubElement(canal, "description").text = "Les mises à jour de Quillet"
+    ET.SubElement(canal, "language").text = "fr"
+    return racine
+
+
+def _ecrire(appcast, racine, jour, cle):
+    """Dates and signs the feed; an incomplete file is never seen."""
+    jour = jour.replace(microsecond=0)
+    dernier = racine.get(ETABLI)
+    if dernier and jour <= datetime.fromisoformat(dernier):
+        raise Refus(f"{appcast} porte déjà la date {dernier} : mettez l’ordinateur à l’heure.")
+    for attribut, instant in ((ETABLI, jour), (EXPIRE, jour + VALIDITE)):
+        racine.set(attribut, instant.astimezone(timezone.utc).strftime("%Y-%m-%dT%H:%M:%SZ"))
+    ET.indent(racine)
+    octets = ET.tostring(racine, encoding="utf-8", xml_declaration=True) + b"\n"
+    provisoire = Path(f"{appcast}.nouveau")
+    provisoire.write_bytes(octets + b"<!-- signature: %b -->\n" % base64.b64encode(cle.signer(octets)))
+    _racine(provisoire, cle)
+    os.replace(provisoire, appcast)
 
 
 def _nombres(version):
@@ -81,25 +116,24 @@ def _nombres(version):
         raise Refus(f"La version {version} n’est pas faite de nombres.") from erreur
 
 
-def refuser_si_depassee(appcast, version):
-    """A version that does not come after all those of the appcast would be offered to nobody."""
-    if not os.path.exists(appcast):
-        return
-    for element in _canal(appcast).iterfind(f"item/{{{SPARKLE}}}version"):
+def ouvrir(appcast, version, cle):
+    """The root that a version goes to. One that does not come after all those in it would be offered to nobody."""
+    racine = _ouvrir(appcast, cle)
+    for element in racine.iterfind(f"channel/item/{{{SPARKLE}}}version"):
         if _nombres(element.text) >= _nombres(version):
             raise Refus(f"La version {version} ne vient pas après {element.text}, qui est dans {appcast}.")
+    return racine
 
 
-def inscrire(appcast, version, notes_de_version, paquets, jour):
-    """Puts a version at the head of the appcast, which is made if there is none; an incomplete file is never seen."""
-    refuser_si_depassee(appcast, version)
-    if os.path.exists(appcast):
-        canal = _canal(appcast)
-    else:
-        canal = ET.Element("channel")
-        ET.SubElement(canal, "title").text = "Quillet"
-        ET.SubElement(canal, "description").text = "Les mises à jour de Quillet"
-        ET.SubElement(canal, "language").text = "fr"
+def prolonger(appcast, jour, cle):
+    """Signs the appcast as it is, or one without any version."""
+    _ecrire(appcast, _ouvrir(appcast, cle), jour, cle)
+
+
+def inscrire(appcast, version, notes_de_version, paquets, jour, cle):
+    """Puts a version at the head of the appcast, which is made if there is none."""
+    racine = ouvrir(appcast, version, cle)
+    canal = racine.find("channel")
     entree = ET.Element("item")
     ET.SubElement(entree, "title").text = f"Quillet {version}"
     ET.SubElement(entree, "pubDate").text = format_datetime(jour)
@@ -115,17 +149,12 @@ def inscrire(appcast, version, notes_de_version, paquets, jour):
                 "length": str(paquet.longueur),
                 "type": "application/vnd.debian.binary-package",
                 f"{{{SPARKLE}}}os": paquet.systeme,
-                f"{{{SPARKLE}}}edSignature": paquet.signature,
+                f"{{{QUILLET}}}sha256": paquet.empreinte,
             },
         )
     rang = next((i for i, element in enumerate(canal) if element.tag == "item"), len(canal))
     canal.insert(rang, entree)
-    racine = ET.Element("rss", {"version": "2.0"})
-    racine.append(canal)
-    ET.indent(racine)
-    provisoire = f"{appcast}.nouveau"
-    ET.ElementTree(racine).write(provisoire, encoding="utf-8", xml_declaration=True)
-    os.replace(provisoire, appcast)
+    _ecrire(appcast, racine, jour, cle)
 
 
 if __name__ == "__main__":

@@ -15,6 +15,15 @@
 
 namespace Quillet {
 
+namespace {
+
+Verifications::Horloge horloge(const Aujourdhui &aujourdhui)
+{
+    return [aujourdhui] { return QDateTime(aujourdhui(), QTime::currentTime()); };
+}
+
+} // namespace
+
 void QuilletApp::preparer(std::optional<Theme::Mode> mode)
 {
     // The name only: an organisation of the same name would double the data folder.
@@ -50,9 +59,8 @@ void QuilletApp::suivre(Bureau &bureau)
 QuilletApp::QuilletApp(const Ressources &ressources, Stockage stockage, const Preferences &preferences,
                        Aujourdhui aujourdhui, const PagesSurveillees &pages, const SourceMisesAJour &misesAJour)
     : catalogue_(Catalogue::charge(ressources, std::move(stockage))),
-      verifications_(
-          *catalogue_, preferences, [aujourdhui] { return QDateTime(aujourdhui(), QTime::currentTime()); }, pages),
-      misesAJour_(misesAJour),
+      verifications_(*catalogue_, preferences, horloge(aujourdhui), pages),
+      misesAJour_(misesAJour, preferences, horloge(aujourdhui)),
       images_(QDir(ressources.chemin(QStringLiteral("couvertures")))),
       jour_(std::move(aujourdhui)),
       preferences_(preferences),

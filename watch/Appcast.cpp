@@ -3,6 +3,7 @@
 #include "watch/ErreurMiseAJour.h"
 #include "watch/TexteHTML.h"
 
+#include <QCryptographicHash>
 #include <QRegularExpression>
 #include <QXmlStreamReader>
 
@@ -12,6 +13,7 @@ namespace Quillet {
 
 namespace {
 
+using Appcast::Flux;
 using Appcast::Parution;
 
 constexpr qsizetype attributsMaximaux = 500;
@@ -26,6 +28,12 @@ constexpr QChar puce(0xE001);
 const QString &sparkle()
 {
     static const QString espace = QStringLiteral("http://www.andymatuschak.org/xml-namespaces/sparkle");
+    return espace;
+}
+
+const QString &quillet()
+{
+    static const QString espace = QStringLiteral("https://quillet.example/flux");
     return espace;
 }
 
@@ -142,6 +150,13 @@ Element element(QXmlStreamReader &xml, const QString &systeme)
     return lu;
 }
 
+QByteArray empreinte(const QByteArray &hexadecimale)
+{
+    const QByteArray octets = QByteArray::fromHex(hexadecimale); // which skips what is none
+    const bool juste = octets.size() == QCryptographicHash::hashLength(QCryptographicHash::Sha256);
+    return juste && octets.toHex() == hexadecimale ? octets : QByteArray();
+}
+
 // None without a number that is understood: an item from another time must not hide those that follow.
 std::optional<Parution> parution(const Element &lu)
 {
@@ -156,19 +171,31 @@ std::optional<Parution> parution(const Element &lu)
                     .notes = Appcast::notes(lu.description),
                     .paquet = QUrl(lu.paquet.value(QLatin1String("url")).toString().trimmed(), QUrl::StrictMode),
                     .longueur = lu.paquet.value(QLatin1String("length")).toLongLong(),
-                    .signature = SignatureEd25519::signature(attribut(QStringLiteral("edSignature")).toLatin1())};
+                    .empreinte = empreinte(lu.paquet.value(quillet(), QStringLiteral("sha256")).toLatin1())};
 }
 
-void entrer(QXmlStreamReader &xml)
+// Of the root.
+QDateTime date(const QXmlStreamAttributes &racine, const QString &nom)
+{
+    const auto lue = QDateTime::fromString(racine.value(quillet(), nom).toString(), Qt::ISODate);
+    if (!lue.isValid() || lue.timeSpec() != Qt::UTC)
+        throw ErreurMiseAJour::listeIllisible(QStringLiteral("elle n’est pas datée"));
+    return lue;
+}
+
+Flux entrer(QXmlStreamReader &xml)
 {
     xml.readNextStartElement();
     if (xml.name() != u"rss")
         throw ErreurMiseAJour::listeIllisible(QStringLiteral("ce n’est pas un flux de mises à jour"));
+    return {.etabli = date(xml.attributes(), QStringLiteral("etabli")),
+            .expire = date(xml.attributes(), QStringLiteral("expire")),
+            .parutions = {}};
 }
 
 } // namespace
 
-QList<Parution> Appcast::lire(const QString &flux, const QString &systeme)
+Flux Appcast::lire(const QString &flux, const QString &systeme)
 {
     if (tropDAttributs(flux))
         throw ErreurMiseAJour::listeIllisible(QStringLiteral("une balise a trop d’attributs"));
@@ -177,7 +204,7 @@ QList<Parution> Appcast::lire(const QString &flux, const QString &systeme)
         throw ErreurMiseAJour::listeIllisible(QStringLiteral("un type de document n’y a pas sa place"));
     exigerSain(flux);
     QXmlStreamReader xml(flux);
-    entrer(xml);
+    Flux lu = entrer(xml);
     QList<Element> lus;
     while (xml.readNextStartElement()) {
         if (xml.name() != u"channel") {
@@ -191,14 +218,13 @@ QList<Parution> Appcast::lire(const QString &flux, const QString &systeme)
                 xml.skipCurrentElement();
         }
     }
-    lus.removeIf([](const Element &lu) { return !pourNous(lu); });
-    QList<Parution> parutions;
-    for (const Element &lu : lus)
-        if (const auto comprise = parution(lu))
-            parutions.append(*comprise);
-    if (parutions.isEmpty() && !lus.isEmpty())
+    lus.removeIf([](const Element &un) { return !pourNous(un); });
+    for (const Element &un : lus)
+        if (const auto comprise = parution(un))
+            lu.parutions.append(*comprise);
+    if (lu.parutions.isEmpty() && !lus.isEmpty())
         throw ErreurMiseAJour::listeIllisible(QStringLiteral("aucun numéro de version n’y est compris"));
-    return parutions;
+    return lu;
 }
 
 std::optional<Parution> Appcast::aProposer(const QList<Parution> &parutions, const NumeroDeVersion &installee)
@@ -209,8 +235,8 @@ std::optional<Parution> Appcast::aProposer(const QList<Parution> &parutions, con
     // An address may be malformed and still have these.
     if (!derniere->paquet.isValid() || derniere->paquet.scheme() != u"https" || derniere->paquet.host().isEmpty())
         throw ErreurMiseAJour::refusee(QStringLiteral("son adresse n’est pas sécurisée"));
-    if (!derniere->signature)
-        throw ErreurMiseAJour::refusee(QStringLiteral("elle n’est pas signée"));
+    if (derniere->empreinte.isEmpty())
+        throw ErreurMiseAJour::refusee(QStringLiteral("son empreinte n’est pas annoncée"));
     if (derniere->longueur <= 0)
         throw ErreurMiseAJour::refusee(QStringLiteral("sa longueur n’est pas annoncée"));
     if (derniere->longueur > longueurMaximale)

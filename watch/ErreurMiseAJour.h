@@ -14,6 +14,11 @@ public:
     {
         return ErreurMiseAJour(QStringLiteral("La liste des mises à jour est illisible : %1.").arg(detail));
     }
+    // Nothing can be learnt from it, though it may well read.
+    static ErreurMiseAJour inconnue(const QString &detail)
+    {
+        return ErreurMiseAJour(QStringLiteral("Impossible de savoir s’il y a une mise à jour : %1.").arg(detail));
+    }
     // What it offers must not be installed.
     static ErreurMiseAJour refusee(const QString &detail)
     {

@@ -1,6 +1,8 @@
 #include "watch/MisesAJour.h"
 
+#include "model/Format.h"
 #include "watch/ErreurMiseAJour.h"
+#include "watch/FluxSigne.h"
 #include "watch/Telechargement.h"
 
 #include <utility>
@@ -9,14 +11,18 @@ namespace Quillet {
 
 namespace {
 
+const QString dernierFlux = QStringLiteral("miseAJour.dernierFlux"); // when it was made
+
 constexpr Limites limitesDuFlux{.taille = qint64{256} << 10};
 
 using Cas = MisesAJour::Etat::Cas;
 
 } // namespace
 
-MisesAJour::MisesAJour(SourceMisesAJour source)
+MisesAJour::MisesAJour(SourceMisesAJour source, Preferences preferences, Horloge maintenant)
     : source_(std::move(source)),
+      preferences_(std::move(preferences)),
+      maintenant_(std::move(maintenant)),
       cle_(SignatureEd25519::cle(source_.clePublique)),
       numero_(NumeroDeVersion::lire(source_.installee)),
       actif_(!source_.flux.isEmpty() && cle_ && numero_ && !qEnvironmentVariableIsSet("XCTestConfigurationFilePath"))
@@ -45,11 +51,29 @@ void MisesAJour::lire(const QString &flux)
 {
     std::optional<Appcast::Parution> parution;
     try {
-        parution = Appcast::aProposer(Appcast::lire(flux, source_.systeme), *numero_);
-    } catch (const ErreurMiseAJour &erreur) {
+        const Appcast::Flux lu = Appcast::lire(FluxSigne::contenu(flux, *cle_), source_.systeme);
+        dater(lu);
+        parution = Appcast::aProposer(lu.parutions, *numero_);
+    } catch (const Echec &erreur) {
         return echouer(erreur.texte());
     }
     passerA({.cas = parution ? Cas::disponible : Cas::aJour, .parution = parution});
+}
+
+// Who stands between could show an old feed again, signed as it is, and hide what has come since.
+void MisesAJour::dater(const Appcast::Flux &flux)
+{
+    const auto jour = [](const QDateTime &date) { return Format::date(date.toLocalTime().date()); };
+    if (flux.expire <= maintenant_())
+        throw ErreurMiseAJour::inconnue(
+            QStringLiteral("la liste reçue n’est plus valable depuis le %1").arg(jour(flux.expire)));
+    const auto dernier = QDateTime::fromString(preferences_.chercher(dernierFlux).texte, Qt::ISODate);
+    if (dernier.isValid() && flux.etabli < dernier)
+        throw ErreurMiseAJour::inconnue(
+            QStringLiteral("la liste reçue, du %1, est plus ancienne que la dernière, du %2")
+                .arg(jour(flux.etabli), jour(dernier)));
+    if (flux.etabli != dernier)
+        preferences_.ecrire(dernierFlux, flux.etabli.toString(Qt::ISODate));
 }
 
 void MisesAJour::telecharger()
@@ -57,7 +81,7 @@ void MisesAJour::telecharger()
     if (etat_.cas != Cas::disponible)
         return;
     const QDir dossier(source_.cache.filePath(QStringLiteral("mises-a-jour")));
-    paquet_ = std::make_unique<TelechargementPaquet>(*etat_.parution, *cle_, dossier);
+    paquet_ = std::make_unique<TelechargementPaquet>(*etat_.parution, dossier);
     connect(paquet_.get(), &TelechargementPaquet::pret, this, &MisesAJour::installer);
     connect(paquet_.get(), &TelechargementPaquet::echoue, this, &MisesAJour::echouer);
     // Queued: whoever hears of the change may give the package up.

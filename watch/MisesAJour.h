@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Preferences.h"
+#include "watch/SignatureEd25519.h"
 #include "watch/TelechargementPaquet.h"
 
 #include <QDir>
@@ -17,11 +19,11 @@ class Telechargement;
 struct SourceMisesAJour
 {
     QUrl flux;              // empty: no updates
-    QByteArray clePublique; // Ed25519, in base64
+    QByteArray clePublique; // Ed25519, in base64; a feed that it did not sign is refused
     QString installee;      // the version that runs
     QString systeme;        // what it runs on, as the feed names it: "debian13"
     QDir cache;             // the package goes to a folder of its own in there
-    // Hands a verified package to the platform. False when nothing there takes it.
+    // Hands a proved package to the platform. False when nothing there takes it.
     std::function<bool(const QString &chemin)> installer;
 };
 
@@ -41,7 +43,9 @@ public:
         QString chemin;                            // of the package, once ready
         QString message;                           // of a failure
     };
-    explicit MisesAJour(SourceMisesAJour source);
+    using Horloge = std::function<QDateTime()>;
+    // The date of the last feed is kept among the preferences: an older one is not believed again.
+    MisesAJour(SourceMisesAJour source, Preferences preferences, Horloge maintenant);
     ~MisesAJour() override;
     Q_DISABLE_COPY_MOVE(MisesAJour)
 
@@ -61,11 +65,15 @@ signals:
 
 private:
     void lire(const QString &flux);
+    // Throws ErreurMiseAJour, ErreurStockage.
+    void dater(const Appcast::Flux &flux);
     void installer(const QString &chemin);
     void echouer(const QString &message);
     void passerA(Etat etat);
 
     SourceMisesAJour source_;
+    Preferences preferences_;
+    Horloge maintenant_;
     std::optional<SignatureEd25519::Cle> cle_;
     std::optional<NumeroDeVersion> numero_; // of the version that runs
     bool actif_;

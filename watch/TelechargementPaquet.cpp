@@ -21,10 +21,8 @@ ErreurMiseAJour mauvaiseLongueur()
 
 } // namespace
 
-TelechargementPaquet::TelechargementPaquet(Appcast::Parution parution, const SignatureEd25519::Cle &cle,
-                                           const QDir &dossier)
+TelechargementPaquet::TelechargementPaquet(Appcast::Parution parution, const QDir &dossier)
     : parution_(std::move(parution)),
-      cle_(cle),
       dossier_(dossier),
       fichier_(dossier.filePath(QStringLiteral(".paquet-XXXXXX"))),
       transfert_(limites, Transfert::Usage::miseAJour)
@@ -61,6 +59,7 @@ void TelechargementPaquet::ecrire(const QByteArray &morceau)
         return refuser(mauvaiseLongueur());
     if (!Fichier::toutEcrire(fichier_, morceau))
         return refuser(refusDuDisque());
+    empreinte_.addData(morceau);
     emit progresse(octets_);
 }
 
@@ -93,27 +92,16 @@ QString TelechargementPaquet::garder(const QByteArray &codage)
         throw Echec(refus_);
     if (octets_ != parution_.longueur || (!codage.isEmpty() && codage != "identity"))
         throw mauvaiseLongueur();
+    if (empreinte_.result() != parution_.empreinte)
+        throw ErreurMiseAJour::refusee(QStringLiteral("le fichier n’est pas celui qui est annoncé"));
     if (!fichier_.flush())
         throw refusDuDisque();
-    if (!signe())
-        throw ErreurMiseAJour::refusee(QStringLiteral("sa signature n’est pas celle de Quillet"));
     QString chemin = dossier_.filePath(QStringLiteral("quillet.deb"));
     if (!fichier_.rename(chemin))
         throw refusDuDisque();
     fichier_.setAutoRemove(false);
     fichier_.close();
     return chemin;
-}
-
-// What stands on the disk, not what came from the line.
-bool TelechargementPaquet::signe()
-{
-    fichier_.seek(0);
-    const QByteArray octets = fichier_.readAll();
-    return octets.size() == parution_.longueur
-           && SignatureEd25519::valide(
-               cle_, *parution_.signature,
-               {reinterpret_cast<const uchar *>(octets.data()), static_cast<size_t>(octets.size())});
 }
 
 } // namespace Quillet

@@ -3,6 +3,7 @@
 #include "tests/Rangees.h"
 #include "tests/serveur/ServeurLocal.h"
 
+#include <QCryptographicHash>
 #include <QDirIterator>
 #include <QMenuBar>
 #include <QPlainTextEdit>
@@ -20,9 +21,20 @@ const QString nouvelle = "Quillet 1.2 est disponible";
 const QString telecharger = "Télécharger et installer";
 const QString manque = "Mise à jour impossible";
 
-QByteArray base64(const unsigned char *octets, qsizetype nombre)
+const QString inconnue = "Impossible de savoir s’il y a une mise à jour : la liste reçue%1.";
+
+struct Annonce
 {
-    return QByteArray(reinterpret_cast<const char *>(octets), nombre).toBase64();
+    QString version = "1.2";
+    qint64 ecart = 0; // of the length, from the real one
+    QString etabli = "2026-03-01T12:00:00Z";
+    QString expire = "2026-08-28T12:00:00Z";
+};
+
+template <typename Octets>
+QByteArray base64(const Octets &octets)
+{
+    return QByteArray(reinterpret_cast<const char *>(octets.data()), qsizetype(octets.size())).toBase64();
 }
 
 } // namespace
@@ -37,13 +49,8 @@ private slots:
     {
         QuilletApp::preparer(Theme::Mode::clair);
         ServeurLocal::faireConfiance();
-        std::array<unsigned char, crypto_sign_SECRETKEYBYTES> secret{};
-        QVERIFY(crypto_sign_keypair(cle_.data(), secret.data()) == 0);
+        QVERIFY(crypto_sign_keypair(cle_.data(), secret_.data()) == 0);
         paquet_ = QByteArray("!<arch>\n").repeated(40'000);
-        SignatureEd25519::Signature signature{};
-        crypto_sign_detached(signature.data(), nullptr, reinterpret_cast<const unsigned char *>(paquet_.constData()),
-                             static_cast<size_t>(paquet_.size()), secret.data());
-        signature_ = base64(signature.data(), signature.size());
     }
 
     void init()
@@ -51,12 +58,12 @@ private slots:
         banc_.reset();
         serveur_ = std::make_unique<ServeurLocal>(ServeurLocal::Certificat::sur);
         serveur_->servir(cheminDuPaquet, http("200 OK", paquet_));
-        annoncer();
+        annoncer({});
         cache_ = std::make_unique<QTemporaryDir>();
         installes_.clear();
         banc_ = std::make_unique<BancEcran>();
         banc_->misesAJour = {serveur_->adresse(cheminDuFlux),
-                             base64(cle_.data(), qsizetype(cle_.size())),
+                             base64(cle_),
                              "1.1",
                              "debian13",
                              QDir(cache_->path()),
@@ -140,8 +147,9 @@ private slots:
     // Of the search or of the download: nothing is left, and one may try again.
     void refus()
     {
-        const auto refuse = [this](const char *echec, const QString &titre, const std::function<void()> &preparer) {
-            const Rangee rangee(echec);
+        const auto refuse = [this](const QString &echec, const QString &titre, const std::function<void()> &preparer) {
+            const QByteArray nom = echec.toUtf8();
+            const Rangee rangee(nom.constData());
             init();
             preparer();
             QDialog *feuille = chercher(titre);
@@ -156,15 +164,36 @@ private slots:
                [this] { banc_->misesAJour.flux.setScheme("http"); });
         refuse("Recherche impossible : page trop volumineuse.", manque,
                [this] { serveur_->servir(cheminDuFlux, http("200 OK", QByteArray(300 << 10, ' '))); });
+        refuse(inconnue.arg(" est coupée ou n’est pas signée"), manque,
+               [this] { donner(signer("<rss/>").chopped(1)); });
         refuse("La liste des mises à jour est illisible : le document est coupé ou mal formé.", manque,
-               [this] { serveur_->servir(cheminDuFlux, http("200 OK", "<rss><channel>")); });
-        refuse("Mise à jour refusée : sa signature n’est pas celle de Quillet.", nouvelle,
+               [this] { donner(signer("<rss>")); });
+        refuse("Impossible de savoir s’il y a une mise à jour : la signature de la liste reçue n’est pas celle de "
+               "Quillet.",
+               manque, [this] { donner(flux({}).replace(">1.2<", ">9.0<")); });
+        refuse(inconnue.arg(" n’est plus valable depuis le 1er mars 2026"), manque,
+               [this] { annoncer({.expire = "2026-03-01T12:00:00Z"}); });
+        refuse(inconnue.arg(", du 27 février 2026, est plus ancienne que la dernière, du 1er mars 2026"), manque,
+               [this] {
+                   banc_->demarrer();
+                   QVERIFY(Ecran::cliquer(chercher(nouvelle), "Plus tard"));
+                   banc_->demarrer();
+                   annoncer({.etabli = "2026-02-27T12:00:00Z"});
+               });
+        refuse("Mise à jour refusée : le fichier n’est pas celui qui est annoncé.", nouvelle,
                [&] { livrer(http("200 OK", paquet_.chopped(1) + '!').octets); });
         for (const int ecart : {+1, -1})
             refuse("Mise à jour refusée : le fichier n’a pas la longueur annoncée.", nouvelle,
-                   [&] { annoncer("1.2", paquet_.size() + ecart); });
+                   [&] { annoncer({.ecart = ecart}); });
         refuse("Téléchargement impossible : connexion interrompue.", nouvelle,
                [&] { livrer(http("200 OK", paquet_).octets.chopped(1)); });
+    }
+
+    // Whether a feed is old cannot be told then.
+    void preferencesIllisibles()
+    {
+        banc_->demarrer(Preferences(cache_->path()));
+        QVERIFY(Ecran::montre(chercher(manque), cache_->path() + " : un dossier occupe la place du fichier"));
     }
 
     void disquePlein()
@@ -186,7 +215,7 @@ private slots:
         QTest::keyClick(feuille, Qt::Key_Escape);
         QVERIFY(commande()->isEnabled());
         QTRY_COMPARE(serveur_->ouvertes(), 0);
-        annoncer("1.1");
+        annoncer({.version = "1.1"});
         QVERIFY(Ecran::montre(chercher("À jour"), "Quillet 1.1 est la version la plus récente."));
     }
 
@@ -240,18 +269,32 @@ private:
         return feuille;
     }
 
-    void annoncer(const QString &version = "1.2", qsizetype longueur = 0)
+    // As the publisher does.
+    [[nodiscard]] QByteArray signer(const QByteArray &octets) const
     {
-        const QString flux =
-            QStringLiteral(
-                "<rss xmlns:sparkle='http://www.andymatuschak.org/xml-namespaces/sparkle'><channel><item>"
-                "<sparkle:version>%1</sparkle:version><description>Plus &lt;b&gt;vite&lt;/b&gt;</description>"
-                "<enclosure sparkle:os='debian13' url='%2' length='%3' sparkle:edSignature='%4'/>"
-                "<enclosure url='https://a.invalid/'/></item></channel></rss>")
-                .arg(version, serveur_->adresse(cheminDuPaquet).toString(),
-                     QString::number(longueur ? longueur : paquet_.size()), QString::fromLatin1(signature_));
-        serveur_->servir(cheminDuFlux, http("200 OK", flux.toUtf8()));
+        SignatureEd25519::Signature signature{};
+        crypto_sign_detached(signature.data(), nullptr, reinterpret_cast<const unsigned char *>(octets.constData()),
+                             static_cast<size_t>(octets.size()), secret_.data());
+        return octets + "<!-- signature: " + base64(signature) + " -->\n";
     }
+
+    [[nodiscard]] QByteArray flux(const Annonce &annonce) const
+    {
+        const QByteArray empreinte = QCryptographicHash::hash(paquet_, QCryptographicHash::Sha256).toHex();
+        return signer(QStringLiteral("<rss xmlns:sparkle='http://www.andymatuschak.org/xml-namespaces/sparkle' "
+                                     "xmlns:quillet='https://quillet.example/flux' quillet:etabli='%1' "
+                                     "quillet:expire='%2'><channel><item><sparkle:version>%3</sparkle:version>"
+                                     "<description>Plus &lt;b&gt;vite&lt;/b&gt;</description>"
+                                     "<enclosure sparkle:os='debian13' url='%4' length='%5' quillet:sha256='%6'/>"
+                                     "<enclosure url='https://a.invalid/'/></item></channel></rss>")
+                          .arg(annonce.etabli, annonce.expire, annonce.version,
+                               serveur_->adresse(cheminDuPaquet).toString(),
+                               QString::number(paquet_.size() + annonce.ecart), QString::fromLatin1(empreinte))
+                          .toUtf8());
+    }
+
+    void donner(const QByteArray &octets) { serveur_->servir(cheminDuFlux, http("200 OK", octets)); }
+    void annoncer(const Annonce &annonce) { donner(flux(annonce)); }
 
     [[nodiscard]] QStringList surLeDisque() const
     {
@@ -263,8 +306,8 @@ private:
     }
 
     SignatureEd25519::Cle cle_{};
+    std::array<unsigned char, crypto_sign_SECRETKEYBYTES> secret_{};
     QByteArray paquet_;
-    QByteArray signature_; // in base64
     QStringList installes_;
     std::unique_ptr<ServeurLocal> serveur_;
     std::unique_ptr<QTemporaryDir> cache_;

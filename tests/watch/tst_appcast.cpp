@@ -1,6 +1,7 @@
 #include "tests/Rangees.h"
 #include "watch/Appcast.h"
 #include "watch/ErreurMiseAJour.h"
+#include "watch/FluxSigne.h"
 
 #include <sodium.h>
 
@@ -8,14 +9,16 @@ using namespace Quillet;
 
 namespace {
 
-const QString paquet = QStringLiteral("<enclosure url='https://a.invalid/q.deb' length='15' sparkle:edSignature='%1'/>")
-                           .arg(QString(86, u'A') + QStringLiteral("=="));
+const QString paquet =
+    QStringLiteral("<enclosure url='https://a.invalid/q.deb' length='15' quillet:sha256='%1'/>").arg(QString(64, u'a'));
 
 QString rss(const QString &items, const QString &avant = {})
 {
     return avant
-           + QStringLiteral("<rss xmlns:sparkle='http://www.andymatuschak.org/xml-namespaces/sparkle'>"
-                            "<channel><title>Quillet</title>%1</channel></rss>")
+           + QStringLiteral("<rss xmlns:sparkle='http://www.andymatuschak.org/xml-namespaces/sparkle' "
+                            "xmlns:quillet='https://quillet.example/flux' "
+                            "quillet:etabli='2026-12-24T00:00:00Z' "
+                            "quillet:expire='2027-06-22T00:00:00Z'><channel><title>Quillet</title>%1</channel></rss>")
                  .arg(items);
 }
 
@@ -24,11 +27,28 @@ QString version(const char *numero, const QString &reste = paquet)
     return QStringLiteral("<item><sparkle:version>%1</sparkle:version>%2</item>").arg(QLatin1String(numero), reste);
 }
 
+// The public half of the key that signs in tests.
+SignatureEd25519::Cle cle()
+{
+    std::array<unsigned char, crypto_sign_SEEDBYTES> graine{};
+    graine.fill('q');
+    SignatureEd25519::Cle publique{};
+    std::array<unsigned char, crypto_sign_SECRETKEYBYTES> secret{};
+    crypto_sign_seed_keypair(publique.data(), secret.data(), graine.data());
+    return publique;
+}
+
+QString fluxSigne()
+{
+    QFile fichier(QFINDTESTDATA("pages/appcast.xml"));
+    return fichier.open(QIODevice::ReadOnly) ? QString::fromUtf8(fichier.readAll()) : QString();
+}
+
 // What the user would read.
 QString offre(const QString &flux, const QString &systeme = "debian13")
 {
     try {
-        const auto parution = Appcast::aProposer(Appcast::lire(flux, systeme), *NumeroDeVersion::lire("1.1"));
+        const auto parution = Appcast::aProposer(Appcast::lire(flux, systeme).parutions, *NumeroDeVersion::lire("1.1"));
         return parution ? QStringLiteral("%1 %2 %3 %4")
                               .arg(parution->nom, parution->paquet.toString(), QString::number(parution->longueur),
                                    parution->notes)
@@ -111,12 +131,17 @@ private slots:
         cas("d’abord pour un canal d’essai",
             rss(version("1.3", paquet + QStringLiteral("<sparkle:channel>essai</sparkle:channel>")) + version("1.2")),
             offerte);
+        cas("sans version", rss({}), "à jour");
         cas("plus ancienne, même mal faite", rss(version("1.0", {})), "à jour");
         cas("sans numéro", rss(version("")),
             "La liste des mises à jour est illisible : aucun numéro de version n’y est compris.");
         cas("en HTTP", avec("https", "http"), "Mise à jour refusée : son adresse n’est pas sécurisée.");
         cas("adresse mal formée", avec("q.deb", "%zz"), "Mise à jour refusée : son adresse n’est pas sécurisée.");
-        cas("signature courte", avec("AAAA", ""), "Mise à jour refusée : elle n’est pas signée.");
+        for (const char *fin : {"'", "aaag'", "aaaaaa'"})
+            cas("empreinte", avec("aaaa'", fin), "Mise à jour refusée : son empreinte n’est pas annoncée.");
+        for (const char *date : {"", "2027-06-22", "2027-06-22T00:00:00", "2027-06-31T00:00:00Z"})
+            cas("date", rss(version("1.2")).replace("2027-06-22T00:00:00Z", date),
+                "La liste des mises à jour est illisible : elle n’est pas datée.");
         cas("sans longueur", avec("'15'", "'-1'"), "Mise à jour refusée : sa longueur n’est pas annoncée.");
         cas("démesurée", avec("'15'", "'67108865'"), "Mise à jour refusée : elle est trop volumineuse.");
         const char *coupe = "La liste des mises à jour est illisible : le document est coupé ou mal formé.";
@@ -139,15 +164,45 @@ private slots:
     // As `packaging/release` writes it, which its own test makes sure of.
     void fluxDUneParution()
     {
-        QFile fichier(QFINDTESTDATA("pages/appcast.xml"));
-        QVERIFY(fichier.open(QIODevice::ReadOnly));
-        const QString flux = QString::fromUtf8(fichier.readAll());
+        const QString signe = fluxSigne();
+        const QString flux = FluxSigne::contenu(signe, cle());
+        const auto lu = Appcast::lire(flux, {});
+        QCOMPARE(lu.etabli.toString(Qt::ISODate), "2026-12-24T00:00:00Z");
+        QCOMPARE(lu.expire.toString(Qt::ISODate), "2027-06-22T00:00:00Z");
         for (const auto &[systeme, offerte] : Rangees<const char *>{
                  {"debian12", "2.0 https://telecharger.example/2.0~debian12.deb 12 Plus vite & mieux\n• Un"},
                  {"debian13", "2.0 https://telecharger.example/2.0~debian13.deb 13 Plus vite & mieux\n• Un"},
                  {"debian14", "à jour"},
              })
             QCOMPARE(offre(flux, systeme), offerte);
+    }
+
+    void fluxAltere()
+    {
+        const auto refuse = [](const char *nom, const QString &flux, const char *raison) {
+            const Rangee rangee(nom);
+            QString dit;
+            try {
+                FluxSigne::contenu(flux, cle());
+            } catch (const ErreurMiseAJour &erreur) {
+                dit = erreur.texte();
+            }
+            QCOMPARE(dit, "Impossible de savoir s’il y a une mise à jour : " + QString(raison));
+        };
+        const QString signe = fluxSigne();
+        const qsizetype pied = signe.size() - signe.lastIndexOf("<!--");
+        const char *coupe = "la liste reçue est coupée ou n’est pas signée.";
+        refuse("rien", {}, coupe);
+        refuse("sans signature", signe.chopped(pied), coupe);
+        refuse("coupé d’un octet", signe.chopped(1), coupe);
+        refuse("suivi", signe + u'\n', coupe);
+        const char *autre = "la signature de la liste reçue n’est pas celle de Quillet.";
+        refuse("la signature seule", signe.last(pied), autre);
+        refuse("coupé au début", signe.sliced(1), autre);
+        refuse("précédé", QChar(QChar::ByteOrderMark) + signe, autre);
+        refuse("autre numéro", QString(signe).replace(">2.0<", ">9.0<"), autre);
+        refuse("autre signature", QString(signe).replace(signe.last(60).first(4), "AAAA"), autre);
+        refuse("signature illisible", QString(signe).replace(signe.last(60).first(4), "!!!!"), autre);
     }
 
     void notes()
