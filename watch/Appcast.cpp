@@ -177,7 +177,7 @@ std::optional<Parution> parution(const Element &lu)
 // Of the root.
 QDateTime date(const QXmlStreamAttributes &racine, const QString &nom)
 {
-    const auto lue = QDateTime::fromString(racine.value(quillet(), nom).toString(), Qt::ISODate);
+    auto lue = QDateTime::fromString(racine.value(quillet(), nom).toString(), Qt::ISODate);
     if (!lue.isValid() || lue.timeSpec() != Qt::UTC)
         throw ErreurMiseAJour::listeIllisible(QStringLiteral("elle n’est pas datée"));
     return lue;
