@@ -31,6 +31,18 @@ target_compile_definitions(quillet-options INTERFACE
     QT_NO_URL_CAST_FROM_STRING
     $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
 
+if(QUILLET_DURCIR)
+    # What is not of this processor, or of this compiler, is left out; `packaging/essai-debian` sees what the program got.
+    include(CheckCXXCompilerFlag)
+    foreach(protection stack-protector-strong stack-clash-protection cf-protection)
+        check_cxx_compiler_flag(-f${protection} A_${protection})
+        if(A_${protection})
+            target_compile_options(quillet-options INTERFACE -f${protection})
+        endif()
+    endforeach()
+    target_compile_options(quillet-options INTERFACE -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3 -D_GLIBCXX_ASSERTIONS)
+endif()
+
 if(QUILLET_SANITIZE)
     set(sanitiseurs -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     # GCC loses track of initialisation in sanitized code and warns where nothing is wrong.
