@@ -1,5 +1,9 @@
 #include "watch/EcartTarif.h"
 
+#include "watch/Vraisemblance.h"
+
+#include <algorithm>
+#include <iterator>
 #include <map>
 #include <utility>
 
@@ -16,6 +20,15 @@ Jour veille(const Jour &jour)
     return date.isValid() ? Jour(date.addDays(-1)) : jour;
 }
 
+// Between those of its neighbours: a heavier parcel never costs less.
+bool aSaPlace(const QList<Palier> &paliers, Grammes jusqua)
+{
+    const auto ici = std::ranges::find(paliers, jusqua, &Palier::jusqua);
+    const bool plusCherQueLeSuivant = std::distance(ici, paliers.end()) > 1 && std::next(ici)->prix < ici->prix;
+    const bool moinsCherQueLePrecedent = ici != paliers.begin() && std::prev(ici)->prix > ici->prix;
+    return !plusCherQueLeSuivant && !moinsCherQueLePrecedent;
+}
+
 } // namespace
 
 std::optional<Taux> EcartTarif::variation() const
@@ -25,6 +38,13 @@ std::optional<Taux> EcartTarif::variation() const
     const qint64 base = avant->valeur();
     const qint64 dixMilliemes = (*apres - *avant).valeur() * 10'000;
     return Taux{(dixMilliemes + (dixMilliemes < 0 ? -base : base) / 2) / base};
+}
+
+bool EcartTarif::aVerifier() const
+{
+    if (!apres)
+        return true;
+    return avant ? Quillet::aVerifier(*avant, *apres) : *apres == Centimes{} || !aSaPlace(grille.paliers, jusqua);
 }
 
 QString EcartTarif::id() const

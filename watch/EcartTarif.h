@@ -20,6 +20,9 @@ struct EcartTarif
     // Of the old price, to the nearest hundredth of a percent, halves away from zero. None without both prices, or
     // from a price of nothing.
     [[nodiscard]] std::optional<Taux> variation() const;
+    // Whether it should be looked at twice: the tier is gone, its price is hard to believe beside the old one or, for
+    // a new tier, between those of the lighter and the heavier one.
+    [[nodiscard]] bool aVerifier() const;
     // "zone-b-2000": of one list, no two are the same.
     [[nodiscard]] QString id() const;
 

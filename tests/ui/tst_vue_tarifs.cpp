@@ -4,6 +4,7 @@
 #include "visite/SiteDeLaVisite.h"
 
 #include <QListWidget>
+#include <QMessageBox>
 #include <QPointer>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -71,6 +72,62 @@ private slots:
         QVERIFY(Ecran::cliquer(&fenetre, "À partir du 1er avril 2026"));
         QTRY_VERIFY(Ecran::montre(&fenetre, "À partir du 1er avril 2026"));
         QTRY_COMPARE(BancEcran::luAuTableau(&fenetre, "jusqu’à 250 g", "France"), "France, jusqu’à 250 g : 6,00 €");
+    }
+
+    // One wrong cell among all those that have changed since the day before.
+    void correctionDouteuse()
+    {
+        banc_->donnees.tarifs.prepend(desTarifs("2025-01-01", Centimes{529}));
+        TarifsColissimo corriges = banc_->donnees.tarifs.last();
+        corriges.grilles[0].paliers[0].prix = Centimes{5490};
+        demarrer(corriges, banc_->donnees.reglages.fraisPaypal, "1er janvier 2026");
+        QDialog *feuille = banc_->ouvrir(voirTarifs);
+        QVERIFY(Ecran::montre(feuille, "2 paliers sur 6 changent."));
+        QVERIFY(Ecran::montre(feuille, "Pour les commandes d’aujourd’hui, 1 palier change."));
+        QCOMPARE(BancEcran::luAuTableau(feuille, "France", "Avant"), "5,49 €"); // of today: it stands first
+        QCOMPARE(BancEcran::luAuTableau(feuille, "France", "Après"), "54,90 €, à vérifier");
+        QCOMPARE(BancEcran::luAuTableau(feuille, "UE et Suisse", "Avant"), "5,29 €");
+        QCOMPARE(BancEcran::luAuTableau(feuille, "UE et Suisse", "Après"), "5,49 €");
+        QString reserves;
+        QVERIFY(Dialogues::cliquerPuisRepondre(feuille, enregistrer, {repondre("Ne pas enregistrer", reserves)}));
+        QCOMPARE(reserves, "France, jusqu’à 250 g : 54,90 € au lieu de 5,49 €.");
+        QCOMPARE(Dialogues::devant(), feuille);
+        QCOMPARE(rubrique(), "Tarifs Colissimo, 1 à voir");
+        QVERIFY(Dialogues::cliquerPuisRepondre(feuille, enregistrer, {repondre("Enregistrer quand même", reserves)}));
+        QTRY_VERIFY(!Dialogues::devant());
+        QCOMPARE(rubrique(), "Tarifs Colissimo");
+    }
+
+    // What is kept is what was shown.
+    void relueSousLaFeuille()
+    {
+        demarrer(desTarifs("2026-01-01", Centimes{600}), banc_->donnees.reglages.fraisPaypal);
+        QDialog *feuille = banc_->ouvrir(voirTarifs);
+        serveur_.servir(
+            "/poste",
+            http("200 OK", SiteDeLaVisite::page(desTarifs("2026-01-01", Centimes{650}), "1er avril 2026").toUtf8()));
+        Ecran::cliquer(&banc_->app->fenetre(), "Vérifier, Tarifs Colissimo");
+        QTRY_VERIFY(!Ecran::montre(&banc_->app->fenetre(), "Mise à jour en cours…"));
+        QVERIFY(Ecran::cliquer(feuille, enregistrer));
+        QCOMPARE(Dialogues::devant(), feuille);
+        QVERIFY(Ecran::montre(
+            feuille, "La page a été relue depuis et dit autre chose : fermez cette feuille, puis rouvrez-la."));
+        QCOMPARE(rubrique(), "Tarifs Colissimo, 1 à voir");
+    }
+
+    void fraisDouteux()
+    {
+        FraisPaypal frais = banc_->donnees.reglages.fraisPaypal;
+        frais.fixe = Centimes{3500};
+        demarrer(banc_->donnees.tarifs.last(), frais);
+        QDialog *feuille = banc_->ouvrir(voirFrais);
+        QVERIFY(Ecran::montre(feuille, "À vérifier, marqué d’un triangle : zéro, ou plus d’un tiers d’écart."));
+        QCOMPARE(BancEcran::luAuTableau(feuille, "Part fixe", "Relevés"), "35,00 €, à vérifier");
+        QString reserves;
+        QVERIFY(Dialogues::cliquerPuisRepondre(feuille, "Enregistrer ces frais",
+                                               {repondre("Ne pas enregistrer", reserves)}));
+        QCOMPARE(reserves, "Part fixe : 35,00 € au lieu de 0,35 €.");
+        QCOMPARE(rubrique(), "Tarifs Colissimo, 1 à voir");
     }
 
     void fraisRemisAPlusTard()
@@ -155,6 +212,14 @@ private:
         banc_->demarrer();
         banc_->app->fenetre().contenu()->montrer(Rubrique::tarifs);
         QTRY_VERIFY(!banc_->donnees.preferences().texte("verification.paypal").isEmpty());
+    }
+    // Answers a question by this button, once it has noted what the question is about.
+    static Dialogues::Reponse repondre(const QString &bouton, QString &reserves)
+    {
+        return [&reserves, bouton](QDialog *question) {
+            reserves = lisible(qobject_cast<QMessageBox *>(question)->informativeText());
+            Ecran::cliquer(question, bouton);
+        };
     }
     [[nodiscard]] QString rubrique() const
     {

@@ -1,6 +1,8 @@
 #include "tests/Banc.h"
 #include "tests/Rangees.h"
-#include "watch/EcartTarif.h"
+#include "watch/PorteeTarifs.h"
+
+#include <array>
 
 using namespace Quillet;
 
@@ -11,7 +13,7 @@ TarifsColissimo tarifs(const QString &texte)
 {
     TarifsColissimo tarifs;
     for (const QString &grille : texte.split(", ")) {
-        tarifs.grilles.append({.code = CodeGrille(grille.section(u' ', 0, 0))});
+        tarifs.grilles.append({.code = CodeGrille(grille.section(u' ', 0, 0)), .nomCourt = grille.section(u' ', 0, 0)});
         for (const QString &palier : grille.section(u' ', 1).split(u' '))
             tarifs.grilles.last().paliers.append(
                 {Grammes{palier.section(u':', 0, 0).toLongLong()}, Centimes{palier.section(u':', 1).toLongLong()}});
@@ -58,6 +60,61 @@ private slots:
             for (const EcartTarif &ecart : ecarts)
                 QCOMPARE(ecart.grille, *nouveaux.grille(ecart.grille.code));
         }
+    }
+
+    void aVerifier()
+    {
+        for (const auto &[nom, de, a, attendus] : Rangees<const char *, const char *, const char *>{
+                 {"un tiers de plus, puis davantage", "f 250:600 500:600", "f 250:800 500:801", "f-500"},
+                 {"un tiers de moins, puis davantage", "f 250:600 500:600", "f 250:400 500:399", "f-500"},
+                 {"gratuit", "f 250:545", "f 250:0", "f-250"},
+                 {"n’est plus gratuit", "f 250:0", "f 250:1", "f-250"},
+                 {"palier disparu", "f 250:545 500:759", "f 250:545", "f-500"},
+                 {"palier nouveau, à sa place", "f 250:545 2000:1119", "f 250:545 500:759 2000:1119 5000:1119", ""},
+                 {"palier nouveau, moins cher qu’un plus léger", "f 250:545", "f 250:545 500:544", "f-500"},
+                 {"palier nouveau, plus cher qu’un plus lourd", "f 500:759", "f 250:760 500:759", "f-250"},
+                 {"palier nouveau, gratuit", "f 500:759", "f 250:0 500:759", "f-250"},
+             }) {
+            const Rangee rangee(nom);
+            QStringList obtenus;
+            for (const EcartTarif &ecart : EcartTarif::ecarts(tarifs(de), tarifs(a)))
+                if (ecart.aVerifier())
+                    obtenus.append(ecart.id());
+            QCOMPARE(obtenus.join(u' '), attendus);
+        }
+    }
+
+    // What changes of what counts from today on, wherever the day of effect falls among those known.
+    void portee()
+    {
+        Banc banc;
+        banc.tarifs = {tarifs("f 250:500, u 250:500"), tarifs("f 250:600, u 250:600"), tarifs("f 250:700, u 250:700")};
+        const std::array jours{"2025-01-01", "2026-01-01", "2026-04-01"};
+        for (std::size_t i = 0; i < jours.size(); ++i)
+            banc.tarifs[qsizetype(i)].validite = Jour(QString::fromLatin1(jours[i]));
+        for (const auto &[jour, ecarts, grilles, correction, sansEffet, desAujourdhui] :
+             Rangees<const char *, const char *, bool, bool, bool>{
+                 {"2024-12-31", "", "", false, true, false},
+                 {"2025-01-01", "", "", false, true, false},
+                 {"2026-01-01", "f-250 600>601", "u", true, false, true},
+                 {"2026-02-31", "f-250 600>601", "u", false, false, true},
+                 {"2026-03-02", "f-250 600>601", "u", false, false, true},
+                 {"2026-03-03", "f-250 600>601", "u", false, false, false},
+                 {"2026-04-01", "f-250 700>601", "u", true, false, false},
+             }) {
+            const Rangee rangee(jour);
+            TarifsColissimo lus = tarifs("f 250:601");
+            lus.validite = Jour(QString::fromLatin1(jour));
+            const auto portee = PorteeTarifs::de(banc.donnees(), lus, jourDuBanc);
+            QCOMPARE(enTexte(portee.ecarts), ecarts);
+            QCOMPARE(portee.grillesDisparues.join(u' '), grilles);
+            QCOMPARE((std::array{portee.correction, portee.sansEffet, portee.desAujourdhui}),
+                     (std::array{correction, sansEffet, desAujourdhui}));
+        }
+        // Nothing else is in force yet.
+        banc.tarifs = {tarifs("f 250:500")};
+        banc.tarifs[0].validite = QDate(2027, 1, 1);
+        QVERIFY(!PorteeTarifs::de(banc.donnees(), desTarifs("2026-01-01", Centimes{500}), jourDuBanc).sansEffet);
     }
 
     // Even when the schedule of that very day is known already.

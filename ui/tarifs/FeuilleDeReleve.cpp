@@ -4,7 +4,9 @@
 #include "composants/Boutons.h"
 #include "composants/Pile.h"
 #include "model/Fichier.h"
+#include "textes/TextesReleves.h"
 
+#include <QMessageBox>
 #include <QPushButton>
 
 namespace Quillet {
@@ -15,15 +17,22 @@ constexpr int marge = 24;
 
 } // namespace
 
-void FeuilleDeReleve::composer(QWidget *page, const QString &enregistrer, const std::function<void()> &accepter)
+void FeuilleDeReleve::composer(QWidget *page, const Accord &accord)
 {
     auto *erreur = new Alerte;
     QPushButton *plusTard = Boutons::deFeuille(QStringLiteral("Plus tard"));
-    auto *garder = new QPushButton(enregistrer);
+    auto *garder = new QPushButton(accord.bouton);
     connect(plusTard, &QPushButton::clicked, this, &QDialog::reject);
-    connect(garder, &QPushButton::clicked, this, [this, erreur, accepter] {
+    connect(garder, &QPushButton::clicked, this, [this, erreur, accord] {
+        if (!confirme(accord))
+            return;
+        if (!accord.tientEncore()) {
+            erreur->montrer(QStringLiteral("La page a été relue depuis et dit autre chose : fermez cette feuille, puis "
+                                           "rouvrez-la."));
+            return;
+        }
         try {
-            accepter();
+            accord.accepter();
             accept();
         } catch (const ErreurStockage &echec) {
             erreur->montrer(echec.texte());
@@ -41,6 +50,18 @@ void FeuilleDeReleve::composerVide(QWidget *page)
     QPushButton *fermer = Boutons::deFeuille(QStringLiteral("Fermer"));
     connect(fermer, &QPushButton::clicked, this, &QDialog::reject);
     Pile::colonne(this, {.marges = {marge, marge, marge, marge}}, {{page, 1}, {fermer, 0, Qt::AlignHCenter}});
+}
+
+bool FeuilleDeReleve::confirme(const Accord &accord)
+{
+    if (accord.reserves.isEmpty())
+        return true;
+    QMessageBox question(QMessageBox::Warning, windowTitle(), accord.question, QMessageBox::NoButton, this);
+    question.setInformativeText(TextesReleves::enumeration(accord.reserves));
+    const QPushButton *garder = question.addButton(QStringLiteral("Enregistrer quand même"), QMessageBox::AcceptRole);
+    question.setDefaultButton(question.addButton(QStringLiteral("Ne pas enregistrer"), QMessageBox::RejectRole));
+    question.exec();
+    return question.clickedButton() == garder;
 }
 
 } // namespace Quillet

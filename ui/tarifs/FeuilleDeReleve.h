@@ -2,6 +2,8 @@
 
 #include "composants/Feuille.h"
 
+#include <QStringList>
+
 #include <functional>
 
 namespace Quillet {
@@ -15,11 +17,21 @@ public:
     using Feuille::Feuille;
 
 protected:
-    // `page`, then the buttons. `accepter` stores what was found; when it throws ErreurStockage the sheet stays open
-    // and says why.
-    void composer(QWidget *page, const QString &enregistrer, const std::function<void()> &accepter);
+    struct Accord
+    {
+        QString bouton;
+        QString question;                  // asked once more while there is something to look at twice
+        QStringList reserves;              // which is this
+        std::function<bool()> tientEncore; // what is kept is what the sheet shows: the page may have been read again
+        std::function<void()> accepter;    // stores it; when it throws ErreurStockage the sheet stays open and says why
+    };
+    // `page`, then the buttons.
+    void composer(QWidget *page, const Accord &accord);
     // A page in place of a finding, with the one button that closes it.
     void composerVide(QWidget *page);
+
+private:
+    [[nodiscard]] bool confirme(const Accord &accord);
 };
 
 } // namespace Quillet
