@@ -100,6 +100,13 @@ QString TextesRecapitulatif::detailFrais(const Calcul &calcul, const FraisPaypal
            + TextesFrais::region(region);
 }
 
+QString TextesRecapitulatif::perte(const Calcul &calcul)
+{
+    if (!calcul.reste || *calcul.reste >= Centimes{})
+        return {};
+    return QStringLiteral("Commande à perte : les frais PayPal dépassent le prix des livres.");
+}
+
 std::optional<TextesRecapitulatif::LienDePaiement>
 TextesRecapitulatif::lienDePaiement(const Calcul &calcul, const Reglages &reglages, const BonDeCommande &bon)
 {

@@ -52,6 +52,8 @@ QString destinationComplete(const Calcul &calcul);
 QString declaration(const Calcul &calcul);
 QString detailEnvoi(const Calcul &calcul);
 QString detailFrais(const Calcul &calcul, const FraisPaypal &frais);
+// That PayPal takes more than the books bring; empty when something remains.
+QString perte(const Calcul &calcul);
 std::optional<LienDePaiement> lienDePaiement(const Calcul &calcul, const Reglages &reglages, const BonDeCommande &bon);
 QString libelleDeLaReponse(Langue langue);
 

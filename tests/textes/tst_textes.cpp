@@ -113,6 +113,24 @@ private slots:
         }
     }
 
+    void commandeAPerte()
+    {
+        for (const auto &[nom, prix, fixe, aPerte] : Rangees<qint64, qint64, bool>{
+                 {"un reste", 1500, 35, false},
+                 {"rien ne reste", 100, 81, false}, // 6,49 € at 2,90 %: 19 cents
+                 {"un centime de trop", 100, 82, true},
+             }) {
+            const Rangee rangee(nom);
+            Cas cas;
+            cas.banc.livres[0].prix = Centimes{prix};
+            cas.banc.reglages.fraisPaypal.fixe = Centimes{fixe};
+            QCOMPARE(perte(cas.calcul()), ""); // nothing ordered
+            cas.bon.ajuster(cas.banc.livres[0], 1);
+            QCOMPARE(perte(cas.calcul()),
+                     aPerte ? "Commande à perte : les frais PayPal dépassent le prix des livres." : "");
+        }
+    }
+
     void reservesSurLesTarifs()
     {
         const char *sansEffet = "Enregistrer ces tarifs n’aura pas d’effet : ceux du 1er janvier 2026, plus récents, "

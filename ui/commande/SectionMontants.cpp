@@ -1,5 +1,6 @@
 #include "ui/commande/SectionMontants.h"
 
+#include "composants/Alerte.h"
 #include "composants/Chiffres.h"
 #include "composants/Dessin.h"
 #include "composants/Libelle.h"
@@ -78,7 +79,8 @@ SectionMontants::SectionMontants(const Reglages &reglages, QWidget *parent)
       total_(new NombreRoulant),
       ligneDuTotal_(new LigneDuTotal(total_)),
       frais_(QStringLiteral("Frais PayPal")),
-      reste_(QStringLiteral("Il vous reste"))
+      reste_(QStringLiteral("Il vous reste")),
+      perte_(new Alerte)
 {
     reste_.rangee->setDetail(QStringLiteral("les livres moins les frais PayPal"));
     reste_.rangee->libelle()->setFont(Theme::enGras(font()));
@@ -87,6 +89,7 @@ SectionMontants::SectionMontants(const Reglages &reglages, QWidget *parent)
     groupe()->ajouter(Formulaire::seul(ligneDuTotal_));
     groupe()->ajouter(frais_.rangee);
     groupe()->ajouter(reste_.rangee);
+    groupe()->ajouter(perte_);
 }
 
 void SectionMontants::montrer(const Calcul &calcul)
@@ -99,6 +102,7 @@ void SectionMontants::montrer(const Calcul &calcul)
     frais_.rangee->setDetail(TextesRecapitulatif::detailFrais(calcul, reglages_.fraisPaypal));
     afficher(frais_.montant, negatif(calcul.fraisPaypal));
     afficher(reste_.montant, calcul.reste);
+    perte_->montrer(TextesRecapitulatif::perte(calcul));
 }
 
 } // namespace Quillet

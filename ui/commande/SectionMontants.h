@@ -5,6 +5,8 @@
 
 namespace Quillet {
 
+class Alerte;
+
 // Postage, total, PayPal's fee and what remains.
 class SectionMontants : public Formulaire::Section
 {
@@ -24,6 +26,7 @@ private:
     LigneDuTotal *ligneDuTotal_;
     RangeeMontant frais_;
     RangeeMontant reste_;
+    Alerte *perte_;
 };
 
 } // namespace Quillet
