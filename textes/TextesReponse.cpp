@@ -1,6 +1,7 @@
 #include "textes/TextesReponse.h"
 
 #include "documents/AdresseMail.h"
+#include "model/LienPaypal.h"
 
 namespace Quillet {
 
@@ -10,6 +11,25 @@ QString TextesReponse::lienAbsent(const ReponseType &reponse)
         return {};
     return QStringLiteral("Collez le lien de paiement : sinon le message garde « %1 » à remplacer.")
         .arg(ReponseType::placeDuLien(reponse.langue));
+}
+
+QString TextesReponse::lienDouteux(const ReponseType &reponse)
+{
+    if (reponse.lien.trimmed().isEmpty())
+        return {};
+    const auto defaut = LienPaypal::defaut(reponse.lien, reponse.vendeur.site);
+    if (!defaut)
+        return {};
+    switch (*defaut) {
+    case LienPaypal::Defaut::signeDeSens:
+        return QStringLiteral("Un signe invisible retourne une partie de ce lien : copiez-le de nouveau dans PayPal.");
+    case LienPaypal::Defaut::pasHttps:
+        return QStringLiteral("Ce lien n’est pas une adresse https:// : copiez-le de nouveau dans PayPal.");
+    case LienPaypal::Defaut::autreSite:
+        return QStringLiteral("Ce lien ne mène pas à PayPal mais à « %1 » : vérifiez-le avant d’envoyer le message.")
+            .arg(LienPaypal::hote(reponse.lien));
+    }
+    Q_UNREACHABLE();
 }
 
 QString TextesReponse::adresseRefusee(const QString &adresse)

@@ -7,6 +7,8 @@ namespace Quillet::TextesReponse {
 
 // That the link is still to be pasted; empty once it is.
 QString lienAbsent(const ReponseType &reponse);
+// That the link pasted may not be the one that the buyer pays by; empty when it looks right, or when there is none.
+QString lienDouteux(const ReponseType &reponse);
 // That the text typed cannot be the recipient; empty when it can, or when there is none.
 QString adresseRefusee(const QString &adresse);
 

@@ -67,7 +67,7 @@ ControleDonnees ControleDonnees::de(const QDir &dossier, QDate aujourdhui)
     destinations.controler(Regles::destinations, tarifsLus);
     const QDir couvertures(ressources.chemin(QStringLiteral("couvertures")));
     livres.controler(Regles::livres,
-                     Regles::Reperes{ReglesCommunes::codes(destinations.valeur()), reglages.valeur().vendeurs.keys(),
+                     Regles::Reperes{ReglesCommunes::codes(destinations.valeur()), reglages.valeur().vendeurs,
                                      couvertures, Couvertures::fichiers(couvertures)});
 
     ControleDonnees controle{

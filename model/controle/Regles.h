@@ -12,6 +12,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <utility>
 
 // What the content of each file must keep to, beyond ReglesCommunes: what the program takes for granted, and what would
@@ -25,9 +26,15 @@ using TarifsParFichier = QList<std::pair<QString, TarifsColissimo>>;
 struct Reperes
 {
     QList<CodeDestination> destinations;
-    QList<Cle<Vendeur>> vendeurs;
+    QMap<Cle<Vendeur>, IdentiteVendeur> vendeurs;
     QDir dossierDesCouvertures;
     QHash<QString, QString> couvertures; // its files by name
+
+    [[nodiscard]] std::optional<IdentiteVendeur> identite(Vendeur vendeur) const
+    {
+        const auto trouvee = vendeurs.find(vendeur);
+        return trouvee == vendeurs.end() ? std::nullopt : std::optional(*trouvee);
+    }
 };
 
 // `precedents`: the schedules of the files before this one.

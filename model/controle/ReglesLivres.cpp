@@ -1,4 +1,5 @@
 #include "model/Couvertures.h"
+#include "model/LienPaypal.h"
 #include "model/controle/NumeroDeControle.h"
 #include "model/controle/Regles.h"
 #include "model/controle/ReglesCommunes.h"
@@ -45,6 +46,18 @@ void prixParDestination(const std::optional<PrixParDestination> &prix, const QLi
             Lieu(lieu, code.texte()).noter(QStringLiteral("aucune destination n’a ce code"));
 }
 
+// The same text as the program would hand to a browser.
+void lienPaypal(const QUrl &lien, const std::optional<IdentiteVendeur> &vendeur, const Lieu &lieu)
+{
+    const QString texte = QString::fromLatin1(lien.toEncoded());
+    const auto defaut = LienPaypal::defaut(texte, vendeur ? vendeur->site : std::nullopt);
+    if (defaut == LienPaypal::Defaut::signeDeSens)
+        lieu.noter(QStringLiteral("un signe invisible y retourne le sens de lecture"));
+    else if (defaut == LienPaypal::Defaut::autreSite && vendeur)
+        lieu.noter(QStringLiteral("mène à « %1 », qui n’est ni PayPal ni le site de son vendeur")
+                       .arg(LienPaypal::hote(texte)));
+}
+
 void livre(const Livre &livre, const Reperes &reperes, const Lieu &lieu)
 {
     if (!reperes.vendeurs.isEmpty() && !reperes.vendeurs.contains(livre.vendeur))
@@ -60,6 +73,8 @@ void livre(const Livre &livre, const Reperes &reperes, const Lieu &lieu)
     teinte(livre.teinte, Lieu(lieu, QStringLiteral("teinte")));
     if (livre.prix == Centimes{})
         lieu.noter("prix", QStringLiteral("plus de 0 attendu"));
+    if (livre.lienPaypal)
+        lienPaypal(*livre.lienPaypal, reperes.identite(livre.vendeur), Lieu(lieu, QStringLiteral("lienPaypal")));
     prixParDestination(livre.prixPaypal, reperes.destinations, Lieu(lieu, QStringLiteral("prixPaypal")));
     prixParDestination(livre.prixEcartes, reperes.destinations, Lieu(lieu, QStringLiteral("prixEcartes")));
 }

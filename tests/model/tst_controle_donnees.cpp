@@ -217,6 +217,15 @@ void TestControleDonnees::erreurs()
              {"livres", R"("france" : 1499)", R"("france" : -1)", "livres[1].prixPaypal.france : nombre négatif"},
              {"livres", "https://boutique.atelier-mireva.example/le-renard\"", "http://boutique.example\"",
               "livres[9].lienPaypal : adresse https attendue"},
+             {"livres", "https://boutique.atelier-mireva.example/le-renard\"", "https://paypal.me/mireva\"", ""},
+             {"livres", "https://boutique.atelier-mireva.example/le-renard\"", "javascript:alert(1)\"",
+              "livres[9].lienPaypal : adresse web complète attendue"},
+             {"livres", "https://boutique.atelier-mireva.example/le-renard\"",
+              "https://boutique.editions-davrel.example\"",
+              "livres[9].lienPaypal : mène à « boutique.editions-davrel.example », qui n’est ni PayPal ni le site de "
+              "son vendeur"},
+             {"livres", "atelier-mireva.example/le-renard\"", "atelier-mireva.example/\u202Eel\"",
+              "livres[9].lienPaypal : un signe invisible y retourne le sens de lecture"},
              // Books.
              {"livres", R"("id" : 3,)", R"("id" : 1,)", "livres[2].id : déjà pris par livres[0]"},
              {"livres", "979-99-0417-001-8", "979-99-0417-001-9",

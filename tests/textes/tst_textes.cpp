@@ -5,6 +5,7 @@
 #include "textes/TextesLivres.h"
 #include "textes/TextesRecapitulatif.h"
 #include "textes/TextesReleves.h"
+#include "textes/TextesReponse.h"
 #include "textes/TextesRetour.h"
 #include "textes/TextesTarifs.h"
 #include "textes/TextesVerifications.h"
@@ -22,6 +23,12 @@ struct Cas
 
     [[nodiscard]] Calcul calcul() const { return Calcul::de(banc.donnees(), bon, jourDuBanc); }
 };
+
+QString autreSite(const char *hote)
+{
+    return QStringLiteral("Ce lien ne mène pas à PayPal mais à « %1 » : vérifiez-le avant d’envoyer le message.")
+        .arg(QString::fromUtf8(hote));
+}
 
 } // namespace
 
@@ -110,6 +117,41 @@ private slots:
             QCOMPARE(detailEnvoi(calcul), envoi);
             QCOMPARE(lisible(detailFrais(calcul, cas.banc.reglages.fraisPaypal)), frais);
             QCOMPARE(TextesRecapitulatif::declaration(calcul), declaration);
+        }
+    }
+
+    void liensDouteux()
+    {
+        const char *retourne = "Un signe invisible retourne une partie de ce lien : copiez-le de nouveau dans PayPal.";
+        const char *pasHttps = "Ce lien n’est pas une adresse https:// : copiez-le de nouveau dans PayPal.";
+        for (const auto &[lien, remarque] : Rangees<QString>{
+                 {"", ""},
+                 {" \n", ""},
+                 {" https://www.paypal.com/ncp/payment/ABC\n", ""},
+                 {"HTTPS://PayPal.com/x", ""},
+                 {"https://paypal.me/davrel/37,59", ""},
+                 {"https://davrel.example/merci", ""},
+                 {"https://boutique.davrel.example", ""},
+                 {"http://www.paypal.com/ncp/payment/ABC", pasHttps},
+                 {"www.paypal.com/ncp/payment/ABC", pasHttps},
+                 {"javascript:alert(1)", pasHttps},
+                 {"https:// www.paypal.com", pasHttps},
+                 {"https://www.paypal.com@exemple.fr/x", autreSite("exemple.fr")},
+                 {"https://faux-paypal.com", autreSite("faux-paypal.com")},
+                 {"https://paypal.com.exemple.fr", autreSite("paypal.com.exemple.fr")},
+                 {"https://www.p\u0430ypal.com", autreSite("www.p\u0430ypal.com")},
+                 {"https://www.paypal.com/\u202Ecba", retourne},
+                 {"https://www.paypal.com/%E2%81%A7cba", retourne},
+                 {"\u200Fhttps://www.paypal.com", retourne},
+                 {"\u061Chttps://www.paypal.com", retourne},
+                 {"https://paypal.com/\u2010", ""},
+             }) {
+            const Rangee rangee(lien);
+            Cas cas;
+            cas.bon.ajuster(cas.banc.livres[0], 1);
+            const auto reponse = ReponseType::de(cas.calcul(), cas.banc.reglages, cas.bon, lien);
+            QVERIFY(reponse);
+            QCOMPARE(TextesReponse::lienDouteux(*reponse), remarque);
         }
     }
 

@@ -48,6 +48,7 @@ VueReponse::VueReponse(const Contexte &contexte, QWidget *parent)
       langue_(new ChoixLangue),
       lien_(champ(QStringLiteral("Lien de paiement"), QStringLiteral("https://www.paypal.com/ncp/payment/…"))),
       adresse_(champ(QStringLiteral("E-mail de l’acheteur"), QStringLiteral("prenom.nom@exemple.fr"))),
+      lienDouteux_(new Alerte),
       adresseRefusee_(new Alerte),
       lienAbsent_(new Alerte(QStringLiteral("link"), {}, Alerte::Ton::note)),
       apercu_(new ApercuMessage),
@@ -79,6 +80,7 @@ QWidget *VueReponse::saisie()
                                 QStringLiteral("Dans PayPal, section « Liens et boutons enregistrés » : cliquez sur "
                                                "« Copier le lien » dans la colonne Action."));
     coller->groupe()->ajouter(Formulaire::seul(lien_));
+    coller->groupe()->ajouter(lienDouteux_);
     auto *destinataire =
         new Formulaire::Section(QStringLiteral("2. E-mail de l’acheteur"),
                                 QStringLiteral("Facultatif : collé ici, il remplit le destinataire du message "
@@ -120,6 +122,7 @@ void VueReponse::actualiser()
         return;
     langue_->montrer(message->langue);
     lienAbsent_->montrer(TextesReponse::lienAbsent(*message));
+    lienDouteux_->montrer(TextesReponse::lienDouteux(*message));
     adresseRefusee_->montrer(TextesReponse::adresseRefusee(adresse_->text()));
     apercu_->montrer(*message, adresse_->text());
 }

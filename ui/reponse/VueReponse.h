@@ -38,6 +38,7 @@ private:
     ChoixLangue *langue_;
     QLineEdit *lien_;
     QLineEdit *adresse_;
+    Alerte *lienDouteux_;
     Alerte *adresseRefusee_;
     Alerte *lienAbsent_;
     ApercuMessage *apercu_;
