@@ -37,6 +37,11 @@ void FausseMessagerie::installer(const QString &nom, const QString &arguments) c
     declarer(nom, dossier_.filePath(QStringLiteral("messagerie")) + u' ' + arguments);
 }
 
+void FausseMessagerie::installerSurLeBus(const QString &nom) const
+{
+    declarer(nom, dossier_.filePath(QStringLiteral("messagerie")), true);
+}
+
 void FausseMessagerie::installerCassee(const QString &nom) const
 {
     const QString cassee = dossier_.filePath(QStringLiteral("cassee"));
@@ -44,12 +49,12 @@ void FausseMessagerie::installerCassee(const QString &nom) const
     declarer(nom, cassee);
 }
 
-void FausseMessagerie::declarer(const QString &nom, const QString &commande) const
+void FausseMessagerie::declarer(const QString &nom, const QString &commande, bool surLeBus) const
 {
     const QString applications = dossier_.filePath(QStringLiteral("XDG_DATA_HOME/applications/"));
     ecrire(applications + nom, QStringLiteral("[Desktop Entry]\nType=Application\nName=Messagerie\nExec=%1\n"
-                                              "MimeType=x-scheme-handler/mailto;\n")
-                                   .arg(commande));
+                                              "DBusActivatable=%2\nMimeType=x-scheme-handler/mailto;\n")
+                                   .arg(commande, surLeBus ? QStringLiteral("true") : QStringLiteral("false")));
     ecrire(applications + QStringLiteral("mimeapps.list"),
            QStringLiteral("[Default Applications]\nx-scheme-handler/mailto=%1\n").arg(nom));
     // The desktop's library hears of new files a little later.

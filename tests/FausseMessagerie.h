@@ -14,6 +14,8 @@ public:
 
     // Becomes the handler of mailto: under this name of desktop file, with these arguments on its command line.
     void installer(const QString &nom, const QString &arguments = QStringLiteral("%u")) const;
+    // A handler that the desktop starts by asking for its name on the bus.
+    void installerSurLeBus(const QString &nom) const;
     // A handler that cannot start.
     void installerCassee(const QString &nom) const;
     void oublier() const;
@@ -21,7 +23,7 @@ public:
     [[nodiscard]] QStringList recus() const;
 
 private:
-    void declarer(const QString &nom, const QString &commande) const;
+    void declarer(const QString &nom, const QString &commande, bool surLeBus = false) const;
 
     QTemporaryDir dossier_;
 };

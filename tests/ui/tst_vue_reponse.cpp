@@ -1,11 +1,13 @@
 #include "tests/BancEcran.h"
 #include "tests/FausseMessagerie.h"
+#include "tests/FauxPortail.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTextEdit>
 
@@ -144,7 +146,21 @@ private slots:
         QCOMPARE(message, "Messagerie ne s’est pas ouvert.");
     }
 
+    // What the desktop answers later finds the window, were the sheet closed.
+    void messagerieAbsenteDuBus()
+    {
+        messagerie_.installerSurLeBus("org.exemple.Absente.desktop");
+        banc_->commander("france");
+        QDialog *feuille = banc_->ouvrir(enFrancais);
+        QVERIFY(Ecran::cliquer(feuille, ouvrirDansMail));
+        QTest::keyClick(feuille, Qt::Key_Escape);
+        QTRY_VERIFY(qobject_cast<QMessageBox *>(Dialogues::devant()));
+        QCOMPARE(qobject_cast<QMessageBox *>(Dialogues::devant())->text(), "Messagerie ne s’est pas ouvert.");
+        Dialogues::devant()->reject();
+    }
+
 private:
+    BusPrive bus_;
     FausseMessagerie messagerie_;
     std::unique_ptr<BancEcran> banc_;
 };

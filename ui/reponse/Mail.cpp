@@ -3,13 +3,16 @@
 #include "documents/AdresseMail.h"
 #include "model/Echec.h"
 
+#include <QPointer>
 #include <QProcess>
+#include <QTimer>
 #include <QUrl>
 
 #include <gio/gio.h>
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace Quillet {
 
@@ -95,28 +98,76 @@ bool composer(GAppInfo *programme, const QString &message)
     return QProcess::startDetached(executable, mots << QStringLiteral("-compose") << message);
 }
 
-bool ouvrir(GAppInfo *programme, const QString &adresse)
+QString nom(GAppInfo *programme)
+{
+    return QString::fromUtf8(g_app_info_get_name(programme));
+}
+
+QString pasOuvert(const QString &programme)
+{
+    return QStringLiteral("%1 ne s’est pas ouvert.").arg(programme);
+}
+
+// Waits for what the desktop says of a program that it was asked to start, for as long as it may take.
+class Attente : public QObject
+{
+public:
+    Attente(QObject *temoin, QString programme, std::function<void(const QString &)> echouer,
+            std::chrono::milliseconds patience)
+        : QObject(temoin), programme_(std::move(programme)), echouer_(std::move(echouer))
+    {
+        const auto sansReponse = [this] {
+            finir(QStringLiteral("%1 n’a pas encore répondu. S’il ne s’ouvre pas, lancez-le vous-même, puis "
+                                 "recommencez.")
+                      .arg(programme_));
+        };
+        QTimer::singleShot(patience, this, sansReponse);
+    }
+
+    // `attente`: a QPointer to one, of its own, for the answer may come after it is gone.
+    static void repondre(GObject *programme, GAsyncResult *reponse, gpointer attente)
+    {
+        const std::unique_ptr<QPointer<Attente>> elle(static_cast<QPointer<Attente> *>(attente));
+        const bool parti = g_app_info_launch_uris_finish(G_APP_INFO(programme), reponse, nullptr);
+        if (*elle)
+            (*elle)->finir(parti ? QString() : pasOuvert((*elle)->programme_));
+    }
+
+private:
+    void finir(const QString &echec)
+    {
+        deleteLater();
+        if (!std::exchange(finie_, true) && !echec.isEmpty())
+            echouer_(echec);
+    }
+
+    QString programme_;
+    std::function<void(const QString &)> echouer_;
+    bool finie_ = false;
+};
+
+void ouvrir(GAppInfo *programme, const QString &adresse, Attente *attente)
 {
     QByteArray octets = adresse.toUtf8();
     GList lien{octets.data(), nullptr, nullptr};
-    return g_app_info_launch_uris(programme, &lien, nullptr, nullptr);
+    g_app_info_launch_uris_async(programme, &lien, nullptr, nullptr, Attente::repondre, new QPointer<Attente>(attente));
 }
 
 } // namespace
 
-void Mail::ecrire(const QString &a, const QString &sujet, const QString &corps, const std::optional<QString> &enGras)
+void Mail::ecrire(const Message &message, QObject *temoin, const std::function<void(const QString &)> &echouer,
+                  std::chrono::milliseconds patience)
 {
     const Programme programme(g_app_info_get_default_for_uri_scheme("mailto"));
     if (!programme)
         return;
-    const QString destinataire = AdresseMail::estSeule(a) ? a.trimmed() : QString();
-    const QString titre = surUneLigne(sujet);
-    const bool parti = estThunderbird(programme.get())
-                           ? composer(programme.get(), pourThunderbird(destinataire, titre, enHtml(corps, enGras)))
-                           : ouvrir(programme.get(), mailto(destinataire, titre, corps));
-    if (!parti)
-        throw Echec(
-            QStringLiteral("%1 ne s’est pas ouvert.").arg(QString::fromUtf8(g_app_info_get_name(programme.get()))));
+    const QString destinataire = AdresseMail::estSeule(message.a) ? message.a.trimmed() : QString();
+    const QString titre = surUneLigne(message.sujet);
+    if (!estThunderbird(programme.get()))
+        ouvrir(programme.get(), mailto(destinataire, titre, message.corps),
+               new Attente(temoin, nom(programme.get()), echouer, patience));
+    else if (!composer(programme.get(), pourThunderbird(destinataire, titre, enHtml(message.corps, message.enGras))))
+        throw Echec(pasOuvert(nom(programme.get())));
 }
 
 } // namespace Quillet

@@ -2,14 +2,27 @@
 
 #include <QString>
 
+#include <chrono>
+#include <functional>
 #include <optional>
+
+class QObject;
 
 // The way out through the user's mail program.
 namespace Quillet::Mail {
 
-// Opens a new message, ready to send. `a` is handed over only when it is one plain address. The first occurrence of
-// `enGras` in `corps` is bold, where the mail program takes styled text. Without any mail program, does nothing.
-// Throws Echec when there is one that does not start.
-void ecrire(const QString &a, const QString &sujet, const QString &corps, const std::optional<QString> &enGras);
+struct Message
+{
+    QString a; // handed over only when it is one plain address
+    QString sujet;
+    QString corps;
+    std::optional<QString> enGras; // its first occurrence is bold, where the mail program takes styled text
+};
+
+// Opens it as a new message, ready to send. Without any mail program, does nothing. Throws Echec when there is one that
+// does not start; where only the desktop can tell, or does not within `patience`, the sentence for the user comes later
+// by `echouer`, unless `temoin` has gone by then.
+void ecrire(const Message &message, QObject *temoin, const std::function<void(const QString &)> &echouer,
+            std::chrono::milliseconds patience = std::chrono::seconds(8));
 
 } // namespace Quillet::Mail

@@ -18,6 +18,7 @@
 #include "ui/reponse/ChoixLangue.h"
 #include "ui/reponse/Mail.h"
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -144,8 +145,16 @@ void VueReponse::ouvrirDansMail()
     const auto message = reponse();
     if (!message)
         return;
+    // The sheet may have been closed since: over whatever is in front then.
+    const auto prevenir = [fenetre = parentWidget(), titre = windowTitle()](const QString &echec) {
+        QWidget *devant = QApplication::activeModalWidget();
+        auto *boite = new QMessageBox(QMessageBox::Warning, titre, echec, QMessageBox::Ok, devant ? devant : fenetre);
+        boite->setAttribute(Qt::WA_DeleteOnClose);
+        boite->open();
+    };
     try {
-        Mail::ecrire(adresse_->text(), message->sujet(), message->corps(), message->ligneTotal());
+        Mail::ecrire({adresse_->text(), message->sujet(), message->corps(), message->ligneTotal()}, parentWidget(),
+                     prevenir);
     } catch (const Echec &echec) {
         QMessageBox::warning(this, windowTitle(), echec.texte());
     }
