@@ -26,7 +26,7 @@ QString TextesReponse::lienDouteux(const ReponseType &reponse)
     case LienPaypal::Defaut::pasHttps:
         return QStringLiteral("Ce lien n’est pas une adresse https:// : copiez-le de nouveau dans PayPal.");
     case LienPaypal::Defaut::autreSite:
-        return QStringLiteral("Ce lien ne mène pas à PayPal mais à « %1 » : vérifiez-le avant d’envoyer le message.")
+        return QStringLiteral("Ce lien mène à %1, pas à PayPal : vérifiez-le avant d’envoyer le message.")
             .arg(LienPaypal::hote(reponse.lien));
     }
     Q_UNREACHABLE();

@@ -26,7 +26,7 @@ struct Cas
 
 QString autreSite(const char *hote)
 {
-    return QStringLiteral("Ce lien ne mène pas à PayPal mais à « %1 » : vérifiez-le avant d’envoyer le message.")
+    return QStringLiteral("Ce lien mène à %1, pas à PayPal : vérifiez-le avant d’envoyer le message.")
         .arg(QString::fromUtf8(hote));
 }
 

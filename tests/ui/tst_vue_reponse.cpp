@@ -49,8 +49,7 @@ private slots:
         QDialog *feuille = banc_->ouvrir(enFrancais);
         const QString sansLien = "Collez le lien de paiement : sinon le message garde « [lien] » à remplacer.";
         const QString refusee = "Ce n’est pas une adresse seule : le message s’ouvrira sans destinataire.";
-        const QString douteux =
-            "Ce lien ne mène pas à PayPal mais à « lien.example » : vérifiez-le avant d’envoyer le message.";
+        const QString douteux = "Ce lien mène à lien.example, pas à PayPal : vérifiez-le avant d’envoyer le message.";
         const auto *message = feuille->findChild<QTextEdit *>();
         QVERIFY(Ecran::montre(feuille, sansLien));
         QVERIFY(!Ecran::montre(feuille, douteux));
