@@ -109,10 +109,10 @@ private slots:
         };
 
         BancEcran banc;
-        TarifsColissimo nouveaux = desTarifs("2026-04-01", Centimes{99'999});
+        TarifsColissimo nouveaux = desTarifs("2026-01-01", Centimes{99'999});
         FraisPaypal frais = banc.donnees.reglages.fraisPaypal;
-        frais.taux = Taux{340};
-        const SiteDeLaVisite site(SiteDeLaVisite::page(nouveaux, "1er avril 2026"), SiteDeLaVisite::page(frais));
+        frais.taux = Taux{3400};
+        const SiteDeLaVisite site(SiteDeLaVisite::page(nouveaux, "1er janvier 2026"), SiteDeLaVisite::page(frais));
         banc.pages = site.pages();
         if (extremes)
             exagerer(banc.donnees);
