@@ -14,8 +14,31 @@ using Cas = Verifications::Etat::Cas;
 const QString siteLaPoste = QStringLiteral("laposte.fr");
 const QString sitePaypal = QStringLiteral("paypal.com");
 
+// How far the last success can be trusted.
+enum class Age { recent, perime, aVenir };
+
+Age age(const Verifications &verifications, const std::optional<QDateTime> &verifie, bool perime)
+{
+    if (verifications.aVenir(verifie))
+        return Age::aVenir;
+    return perime ? Age::perime : Age::recent;
+}
+
+QString reserve(Age age)
+{
+    switch (age) {
+    case Age::recent:
+        break;
+    case Age::perime:
+        return QStringLiteral(" : à revérifier");
+    case Age::aVenir:
+        return QStringLiteral(", une date à venir : l’horloge a changé");
+    }
+    return {};
+}
+
 // Where the check stands; `changement` is what a change reads.
-void direLEtat(Ligne &ligne, const Verifications::Etat &etat, const std::optional<QDateTime> &verifie, bool perime,
+void direLEtat(Ligne &ligne, const Verifications::Etat &etat, const std::optional<QDateTime> &verifie, Age age,
                const QString &changement)
 {
     ligne.cas = etat.cas;
@@ -32,10 +55,10 @@ void direLEtat(Ligne &ligne, const Verifications::Etat &etat, const std::optiona
     } else if (!verifie) {
         ligne.etat = QStringLiteral("Pas encore vérifiés depuis l’app");
     } else {
-        ligne.symboleEtat = perime ? QStringLiteral("clock.badge.exclamationmark") : QStringLiteral("checkmark.circle");
-        ligne.ton = perime ? Ligne::Ton::alerte : Ligne::Ton::neutre;
-        ligne.etat = QStringLiteral("Vérifiés le ") + Format::date(verifie->toLocalTime().date())
-                     + (perime ? QStringLiteral(" : à revérifier") : QString());
+        const bool recent = age == Age::recent;
+        ligne.symboleEtat = recent ? QStringLiteral("checkmark.circle") : QStringLiteral("clock.badge.exclamationmark");
+        ligne.ton = recent ? Ligne::Ton::neutre : Ligne::Ton::alerte;
+        ligne.etat = QStringLiteral("Vérifiés le ") + Format::date(verifie->toLocalTime().date()) + reserve(age);
     }
 }
 
@@ -74,7 +97,8 @@ Ligne TextesVerifications::laPoste(const Verifications &verifications, const Don
                 .detail = detail,
                 .trouvaille = verifications.nouveauxTarifs().has_value(),
                 .page = ReleveColissimo::adresse()};
-    direLEtat(ligne, verifications.etatLaPoste(), verifications.verifieLaPoste(), verifications.laPosteAVerifier(),
+    direLEtat(ligne, verifications.etatLaPoste(), verifications.verifieLaPoste(),
+              age(verifications, verifications.verifieLaPoste(), verifications.laPosteAVerifier()),
               QStringLiteral("Nouveaux tarifs sur ") + siteLaPoste);
     return ligne;
 }
@@ -91,7 +115,8 @@ Ligne TextesVerifications::paypal(const Verifications &verifications, const Donn
                 .detail = detail,
                 .trouvaille = verifications.nouveauxFrais().has_value(),
                 .page = RelevePaypal::adresse()};
-    direLEtat(ligne, verifications.etatPaypal(), verifications.verifiePaypal(), verifications.paypalAVerifier(),
+    direLEtat(ligne, verifications.etatPaypal(), verifications.verifiePaypal(),
+              age(verifications, verifications.verifiePaypal(), verifications.paypalAVerifier()),
               QStringLiteral("Frais différents sur ") + sitePaypal);
     return ligne;
 }

@@ -37,6 +37,11 @@ Verifications::Verifications(Catalogue &catalogue, Preferences preferences, Horl
     };
 }
 
+bool Verifications::aVenir(const std::optional<QDateTime> &verifie) const
+{
+    return verifie && verifie->toLocalTime().date() > maintenant_().toLocalTime().date();
+}
+
 int Verifications::nombreASignaler() const
 {
     return static_cast<int>(laPoste_.nouveau || laPosteAVerifier())

@@ -53,6 +53,8 @@ public:
     // The last success is too old to be trusted, or never was.
     [[nodiscard]] bool laPosteAVerifier() const { return perime(laPoste_.verifie); }
     [[nodiscard]] bool paypalAVerifier() const { return perime(paypal_.verifie); }
+    // A success of a later day than today: the clock was wrong then, or is now.
+    [[nodiscard]] bool aVenir(const std::optional<QDateTime> &verifie) const;
     // 0 to 2: what the user should look at.
     [[nodiscard]] int nombreASignaler() const;
 
