@@ -1,6 +1,7 @@
 #include "model/Tarifs.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace Quillet {
 
@@ -15,6 +16,19 @@ std::optional<QString> GrilleColissimo::pays() const
     const QString prefixe = nomCourt + QStringLiteral(" : ");
     const QString reste = nom.startsWith(prefixe) ? nom.mid(prefixe.size()) : nom;
     return reste == nomCourt ? std::nullopt : std::optional(reste);
+}
+
+void Json::lire(const QJsonValue &json, const Lieu &lieu, TarifsColissimo &valeur)
+{
+    lire<TarifsColissimo>(json, lieu, valeur);
+    if (const qsizetype nombre = valeur.nombreDePaliers(); nombre > TarifsColissimo::paliersMaximaux)
+        lieu.refuser(QStringLiteral("%1 paliers, plus qu’un tarif n’en compte").arg(nombre));
+}
+
+qsizetype TarifsColissimo::nombreDePaliers() const
+{
+    const auto ajouter = [](qsizetype nombre, const GrilleColissimo &grille) { return nombre + grille.paliers.size(); };
+    return std::accumulate(grilles.begin(), grilles.end(), qsizetype{0}, ajouter);
 }
 
 const GrilleColissimo *TarifsColissimo::grille(const CodeGrille &code) const

@@ -87,6 +87,10 @@ struct TarifsColissimo
     QUrl source;
     QList<GrilleColissimo> grilles;
 
+    // Screens show every tier: more than this, six times what La Poste has, is no price list.
+    static constexpr qsizetype paliersMaximaux = 300;
+    [[nodiscard]] qsizetype nombreDePaliers() const;
+
     // The pointer lives as long as this record; null when no grid has the code.
     [[nodiscard]] const GrilleColissimo *grille(const CodeGrille &code) const;
 
@@ -96,6 +100,11 @@ struct TarifsColissimo
 
     bool operator==(const TarifsColissimo &) const = default;
 };
+
+// Refuses more tiers than there may be.
+namespace Json {
+void lire(const QJsonValue &json, const Lieu &lieu, TarifsColissimo &valeur);
+}
 
 template <>
 inline constexpr auto Json::champs<Palier> = std::tuple{

@@ -1,6 +1,7 @@
 #include "watch/ReleveColissimo.h"
 
 #include "model/ChiffresAscii.h"
+#include "model/Format.h"
 #include "watch/ErreurReleve.h"
 #include "watch/Nombres.h"
 #include "watch/TexteHTML.h"
@@ -35,14 +36,14 @@ void lireTableau(const TexteHTML::Tableau &tableau, PaliersParCode &paliers)
 {
     const QList<Colonne> grilles = colonnes(tableau.first());
     for (const TexteHTML::Rangee &rangee : tableau.sliced(1)) {
-        const auto poids = rangee.isEmpty() ? std::nullopt : Grammes::bornee(TexteHTML::grammes(rangee.first()));
+        const auto poids = rangee.isEmpty() ? std::nullopt : TexteHTML::grammes(rangee.first());
         if (!poids)
             continue;
         for (const Colonne &colonne : grilles) {
             if (colonne.place >= rangee.size())
                 break; // columns stand in order: a short row must not cost a wide header
-            if (const auto prix = Centimes::bornee(TexteHTML::centiemes(rangee[colonne.place])))
-                paliers[colonne.code].append({*poids, *prix});
+            if (const auto prix = TexteHTML::centiemes(rangee[colonne.place]))
+                paliers[colonne.code].append({Grammes{*poids}, Centimes{*prix}});
         }
     }
 }
@@ -58,6 +59,24 @@ GrilleColissimo lireGrille(const GrilleColissimo &modele, const PaliersParCode &
         != grille.paliers.end())
         throw ErreurReleve::pageIllisible(QStringLiteral("paliers de la ") + nom + QStringLiteral("dans le désordre"));
     return grille;
+}
+
+// What no file may hold. It is asked last: a grid that is missing or in disorder says more of the page.
+void controler(const TarifsColissimo &tarifs)
+{
+    if (const qsizetype nombre = tarifs.nombreDePaliers(); nombre > TarifsColissimo::paliersMaximaux)
+        throw ErreurReleve::pageIllisible(QStringLiteral("%1 paliers, plus qu’un tarif n’en compte").arg(nombre));
+    for (const GrilleColissimo &grille : tarifs.grilles)
+        for (const auto &[jusqua, prix] : grille.paliers) {
+            const QString dela =
+                QStringLiteral(" de la grille « ") + grille.nomCourt + QStringLiteral(" » au-delà de ");
+            if (!Grammes::bornee(jusqua.valeur()))
+                throw ErreurReleve::pageIllisible(QStringLiteral("poids") + dela
+                                                  + Format::poids(Grammes{UniteGramme::maximum}));
+            if (!Centimes::bornee(prix.valeur()))
+                throw ErreurReleve::pageIllisible(QStringLiteral("prix") + dela
+                                                  + Format::euros(Centimes{UniteCentime::maximum}));
+        }
 }
 
 std::optional<ZoneColissimo> zone(const QString &texte)
@@ -125,13 +144,17 @@ ReleveColissimo ReleveColissimo::analyser(const QString &page, const TarifsColis
     for (const TexteHTML::Tableau &tableau : TexteHTML::tableaux(page))
         if (!tableau.isEmpty())
             lireTableau(tableau, paliers);
-    QList<GrilleColissimo> grilles;
+    ReleveColissimo lu;
     for (const GrilleColissimo &grille : modele.grilles)
-        grilles.append(lireGrille(grille, paliers));
+        lu.tarifs.grilles.append(lireGrille(grille, paliers));
+    controler(lu.tarifs);
 
     const auto date = dateDEffet(TexteHTML::texte(page));
-    return {{.validite = date.value_or(releve), .releve = releve, .source = adresse(), .grilles = grilles},
-            date.has_value()};
+    lu.tarifs.validite = date.value_or(releve);
+    lu.tarifs.releve = releve;
+    lu.tarifs.source = adresse();
+    lu.dateTrouvee = date.has_value();
+    return lu;
 }
 
 } // namespace Quillet

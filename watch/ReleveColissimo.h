@@ -17,8 +17,8 @@ struct ReleveColissimo
     bool dateTrouvee = false; // else the day of the reading stands for the first day in force
 
     static QUrl adresse();
-    // The grids of `modele`, with the tiers that the page shows. Throws ErreurReleve when a grid is missing or its
-    // weights do not rise.
+    // The grids of `modele`, with the tiers that the page shows. Throws ErreurReleve when a grid is missing, when its
+    // weights do not rise, or when what it holds is no price list.
     static ReleveColissimo analyser(const QString &page, const TarifsColissimo &modele, QDate releve);
     // The code of the grid that a column's header announces; none for other services.
     static std::optional<CodeGrille> code(const QString &entete);

@@ -37,14 +37,14 @@ TarifsColissimo tarifsLivres(const QString &validite)
     qFatal("Pas de tarifs livrés au %s", qPrintable(validite));
 }
 
-// What the reading failed on; empty when it did not.
+// What the reading failed on, with plain spaces; empty when it did not.
 template <typename Lecture>
 QString refus(Lecture lecture)
 {
     try {
         lecture();
     } catch (const ErreurReleve &erreur) {
-        return erreur.cas() == ErreurReleve::Cas::pageIllisible ? erreur.detail() : erreur.texte();
+        return erreur.cas() == ErreurReleve::Cas::pageIllisible ? erreur.detail().simplified() : erreur.texte();
     }
     return {};
 }
@@ -90,8 +90,17 @@ private slots:
                   "2026-01-01, 250 g, 549, datée"},
                  {"prix changé", ">5,49&nbsp;€", ">5,6", "2026-01-01, 250 g, 560, datée"},
                  {"prix absent", ">5,49&nbsp;€", ">–", "2026-01-01, 500 g, 759, datée"},
-                 {"prix démesuré", ">5,49&nbsp;€", ">99999999999,00 €", "2026-01-01, 500 g, 759, datée"},
-                 {"poids démesuré", "Jusqu’à 250&nbsp;g", "Jusqu’à 9999999999 kg", "2026-01-01, 500 g, 759, datée"},
+                 {"prix démesuré", ">5,49&nbsp;€", ">100 000,00 €", "2026-01-01, 250 g, 10000, datée"},
+                 {"prix trop grand", ">5,49&nbsp;€", ">100000,00 €",
+                  "prix de la grille « France » au-delà de 99 999,99 €"},
+                 {"prix hors de tout nombre", ">5,49&nbsp;€", ">99999999999999999999,00 €",
+                  "2026-01-01, 500 g, 759, datée"},
+                 {"poids trop grand", "Jusqu’à 30&nbsp;kg", "Jusqu’à 1000&nbsp;kg",
+                  "poids de la grille « Outre-mer OM1 » au-delà de 999 999 g"},
+                 {"poids trop grand, en désordre", "Jusqu’à 250&nbsp;g", "Jusqu’à 9999999999 kg",
+                  "paliers de la grille « France » dans le désordre"},
+                 {"poids hors de tout nombre", "Jusqu’à 250&nbsp;g", "Jusqu’à 99999999999999999999 kg",
+                  "2026-01-01, 500 g, 759, datée"},
                  {"rangée courte", "<td\n  data-colonne=\"Livraison à domicile France\">5,49&nbsp;€</td>", "",
                   "2026-01-01, 250 g, 449, datée"},
                  {"chiffres dans l’en-tête",
@@ -122,6 +131,36 @@ private slots:
                              .arg(lu.dateTrouvee ? QStringLiteral("datée") : QStringLiteral("non datée"));
             }
             QCOMPARE(obtenu, attendu);
+        }
+    }
+
+    // A page in its form, with tiers without end.
+    void tropDePaliers()
+    {
+        const TarifsColissimo modele = tarifsLivres("2026-01-01");
+        for (const auto &[nom, enTrop, attendu] : Rangees<int, const char *>{
+                 {"beaucoup", TarifsColissimo::paliersMaximaux - 51, ""},
+                 {"trop", TarifsColissimo::paliersMaximaux - 50, "301 paliers, plus qu’un tarif n’en compte"},
+                 {"trente mille", 30'000, "30051 paliers, plus qu’un tarif n’en compte"},
+             }) {
+            const Rangee rangee(nom);
+            TarifsColissimo tarifs = modele;
+            QList<Palier> &paliers = tarifs.grilles.last().paliers;
+            QString rangees;
+            for (int i = 1; i <= enTrop; ++i) {
+                paliers.append({Grammes{30'000 + i}, Centimes{100}});
+                rangees += QStringLiteral("<tr><td>%1 g</td><td>1,00 €</td></tr>").arg(30'000 + i);
+            }
+            const QString html =
+                page("colissimo.html") + "<table><tr><th>Poids</th><th>Zone C</th></tr>" + rangees + "</table>";
+            QCOMPARE(refus([&] { ReleveColissimo::analyser(html, modele, jour); }), attendu);
+            QString refusDuFichier;
+            try {
+                Json::decoder<TarifsColissimo>(Json::encoder(tarifs), "tarifs");
+            } catch (const Json::Erreur &erreur) {
+                refusDuFichier = erreur.texte();
+            }
+            QCOMPARE(refusDuFichier, *attendu ? QStringLiteral("tarifs : ") + attendu : QString());
         }
     }
 
