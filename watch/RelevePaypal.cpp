@@ -1,13 +1,20 @@
 #include "watch/RelevePaypal.h"
 
+#include "model/Format.h"
 #include "watch/ErreurReleve.h"
 #include "watch/Nombres.h"
 #include "watch/Signes.h"
 #include "watch/TexteHTML.h"
 
+#include <algorithm>
+#include <array>
+
 namespace Quillet {
 
 namespace {
+
+// Of the European surcharge, which is not refused here: what it is added to or multiplied by must stay within 64 bits.
+constexpr qint64 supplementMaximal = 1000 * UniteCentiemeDePourcent::maximum;
 
 // "label\s+(\d+,\d+)\s*unit", without case: an engine would try it at every "e" of a page made of them.
 struct Figure
@@ -43,13 +50,26 @@ std::optional<qint64> chercher(const QString &texte, const Figure &figure)
     throw ErreurReleve::pageIllisible(figure.nom + QStringLiteral(" introuvable"));
 }
 
-template <typename Quantite>
-Quantite exiger(std::optional<qint64> figure)
+qint64 exiger(std::optional<qint64> chiffre)
 {
-    const auto valeur = Quantite::bornee(figure);
-    if (!valeur)
+    if (!chiffre)
         throw ErreurReleve::pageIllisible(QStringLiteral("chiffres illisibles"));
+    return *chiffre;
+}
+
+// What no file may hold.
+template <typename Quantite>
+Quantite borner(qint64 chiffre, const Figure &figure, const QString &plafond)
+{
+    const auto valeur = Quantite::bornee(chiffre);
+    if (!valeur)
+        throw ErreurReleve::pageIllisible(figure.nom + QStringLiteral(" au-delà de ") + plafond);
     return *valeur;
+}
+
+Taux bornerTaux(qint64 chiffre, const Figure &figure)
+{
+    return borner<Taux>(chiffre, figure, Format::pourcentage(Taux{UniteCentiemeDePourcent::maximum}));
 }
 
 } // namespace
@@ -62,30 +82,34 @@ QUrl RelevePaypal::adresse()
 FraisPaypal RelevePaypal::analyser(const QString &page, QDate releve)
 {
     const QString texte = TexteHTML::texte(page);
-    const auto taux = chercher(texte, {.libelle = QStringLiteral("Toutes les autres transactions commerciales"),
-                                       .unite = u"%",
-                                       .nom = QStringLiteral("taux de base")});
-    const auto fixe = chercher(
-        texte, {.libelle = QStringLiteral("Euro"), .unite = u"eur", .nom = QStringLiteral("part fixe en euros")});
-    const auto eee = chercher(texte, {.libelle = QStringLiteral("EEE"),
-                                      .unite = u"%",
-                                      .nom = QStringLiteral("supplément EEE"),
-                                      .aucune = u"aucune commission"});
-    const auto royaumeUni = chercher(
-        texte,
-        {.libelle = QStringLiteral("Royaume-Uni"), .unite = u"%", .nom = QStringLiteral("supplément Royaume-Uni")});
-    const auto autres = chercher(texte, {.libelle = QStringLiteral("Tous les autres marchés"),
-                                         .unite = u"%",
-                                         .nom = QStringLiteral("supplément des autres pays")});
+    const Figure taux{.libelle = QStringLiteral("Toutes les autres transactions commerciales"),
+                      .unite = u"%",
+                      .nom = QStringLiteral("taux de base")};
+    const Figure fixe{.libelle = QStringLiteral("Euro"), .unite = u"eur", .nom = QStringLiteral("part fixe en euros")};
+    const Figure eee{.libelle = QStringLiteral("EEE"),
+                     .unite = u"%",
+                     .nom = QStringLiteral("supplément EEE"),
+                     .aucune = u"aucune commission"};
+    const Figure royaumeUni{
+        .libelle = QStringLiteral("Royaume-Uni"), .unite = u"%", .nom = QStringLiteral("supplément Royaume-Uni")};
+    const Figure autres{.libelle = QStringLiteral("Tous les autres marchés"),
+                        .unite = u"%",
+                        .nom = QStringLiteral("supplément des autres pays")};
+    const auto luTaux = chercher(texte, taux);
+    const auto luFixe = chercher(texte, fixe);
+    const auto luEee = chercher(texte, eee);
+    const auto luRoyaumeUni = chercher(texte, royaumeUni);
+    const auto luAutres = chercher(texte, autres);
+    const std::array chiffres{exiger(luTaux), exiger(luFixe), exiger(luRoyaumeUni), exiger(luAutres)};
     return {.releve = releve,
             .source = adresse(),
-            .taux = exiger<Taux>(taux),
-            .fixe = exiger<Centimes>(fixe),
+            .taux = bornerTaux(chiffres[0], taux),
+            .fixe = borner<Centimes>(chiffres[1], fixe, Format::euros(Centimes{UniteCentime::maximum})),
             .supplements = {
-                // No commission is no number.
-                {RegionPaypal::eee, eee ? exiger<Taux>(eee) : Taux{}},
-                {RegionPaypal::royaumeUni, exiger<Taux>(royaumeUni)},
-                {RegionPaypal::autres, exiger<Taux>(autres)},
+                // It never fails; no commission is no number.
+                {RegionPaypal::eee, Taux{std::min(luEee.value_or(0), supplementMaximal)}},
+                {RegionPaypal::royaumeUni, bornerTaux(chiffres[2], royaumeUni)},
+                {RegionPaypal::autres, bornerTaux(chiffres[3], autres)},
             }};
 }
 

@@ -10,7 +10,8 @@
 namespace Quillet::RelevePaypal {
 
 QUrl adresse();
-// Throws ErreurReleve when one of the five figures is missing or is no number.
+// Throws ErreurReleve when one of the five figures is missing, or when one of the four that must be numbers is none or
+// is beyond what a file may hold. The European surcharge may be beyond.
 FraisPaypal analyser(const QString &page, QDate releve);
 
 } // namespace Quillet::RelevePaypal

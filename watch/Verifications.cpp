@@ -1,5 +1,7 @@
 #include "watch/Verifications.h"
 
+#include "model/Format.h"
+
 #include <utility>
 
 using namespace std::chrono_literals;
@@ -84,6 +86,11 @@ void Verifications::accepterFrais()
 {
     if (!paypal_.nouveau)
         return;
+    // Its reading refuses none, its file would not be read again.
+    if (!Taux::bornee(paypal_.nouveau->supplement(RegionPaypal::eee).valeur()))
+        throw ErreurStockage(QStringLiteral("frais-paypal.json"),
+                             QStringLiteral("supplément EEE au-delà de ")
+                                 + Format::pourcentage(Taux{UniteCentiemeDePourcent::maximum}));
     catalogue_.enregistrer(*paypal_.nouveau);
     accepter(paypal_);
 }

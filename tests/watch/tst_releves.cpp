@@ -238,8 +238,13 @@ private slots:
                  {"pas d’autres marchés", "Tous les autres", "Les autres", "supplément des autres pays introuvable"},
                  {"figures dans un script", "main>", "script>", "taux de base introuvable"},
                  {"chiffres d’ailleurs", "0,35\u00A0EUR", "٣,٣٥ EUR", "chiffres illisibles"},
-                 {"supplément démesuré pour l’EEE", "Aucune commission", "150,00 %", "chiffres illisibles"},
-                 {"taux démesuré", "2,90\u00A0%", "290,00 %", "chiffres illisibles"},
+                 {"supplément démesuré pour l’EEE", "Aucune commission", "150,00 %", "290 35 15000 129 199"},
+                 {"supplément sans mesure pour l’EEE", "Aucune commission", "999999999999,00 %",
+                  "290 35 10000000 129 199"},
+                 {"taux démesuré", "2,90\u00A0%", "100,01 %", "taux de base au-delà de 100,00 %"},
+                 {"part fixe démesurée", "0,35\u00A0EUR", "100000,00 EUR", "part fixe en euros au-delà de 99 999,99 €"},
+                 {"supplément démesuré", "1,29\u00A0%", "129,00 %", "supplément Royaume-Uni au-delà de 100,00 %"},
+                 {"taux hors de tout nombre", "2,90\u00A0%", "99999999999999999999,00 %", "chiffres illisibles"},
              }) {
             const Rangee rangee(nom);
             QCOMPARE(frais(pageChangee("paypal.html", avant, apres)), attendu);

@@ -127,6 +127,20 @@ private slots:
         }
     }
 
+    // A surcharge that no page is refused for, and that no file may hold.
+    void fraisQuiNeSEnregistrentPas()
+    {
+        FraisPaypal frais = catalogue_->donnees().reglages.fraisPaypal;
+        frais.supplements[RegionPaypal::eee] = Taux{15'000};
+        servir(catalogue_->donnees().tarifs(QDate(2026, 3, 2)), frais);
+        const auto v = verifications();
+        v->verifierPaypal();
+        QTRY_COMPARE(v->etatPaypal().cas, Cas::changement);
+        QVERIFY_THROWS_EXCEPTION(ErreurStockage, v->accepterFrais());
+        QCOMPARE(v->nouveauxFrais()->supplement(RegionPaypal::eee), Taux{15'000}); // still to be accepted
+        QCOMPARE(catalogue_->donnees().reglages.fraisPaypal.supplement(RegionPaypal::eee), Taux{0});
+    }
+
     void uneSeuleALaFois()
     {
         const auto v = verifications();
