@@ -132,12 +132,9 @@ QList<TextesVerifications::Ecart> TextesVerifications::ecarts(const QList<EcartT
 
 QString TextesVerifications::compte(const QList<EcartTarif> &ecarts, const TarifsColissimo &nouveaux)
 {
-    qsizetype paliers = 0;
-    for (const GrilleColissimo &grille : nouveaux.grilles)
-        paliers += grille.paliers.size();
     return QStringLiteral("%1 palier%2 sur %3 changent.")
         .arg(QString::number(ecarts.size()), ecarts.size() > 1 ? QStringLiteral("s") : QString(),
-             QString::number(paliers));
+             QString::number(nouveaux.nombreDePaliers()));
 }
 
 QString TextesVerifications::dates(const TarifsColissimo &nouveaux)
