@@ -1,5 +1,6 @@
 #include "model/Ressources.h"
 
+#include "model/ArgumentDeCommande.h"
 #include "model/Fichier.h"
 
 #include <QCoreApplication>
@@ -65,8 +66,8 @@ void Ressources::refuser(const QString &raison) const
     if (!duVendeur_)
         throw RessourceIllisible(raison);
     const QString conseil = QStringLiteral("%1\n\nCe sont vos propres données, dans %2.\nPour voir tout ce qui est à "
-                                           "corriger, dans un terminal :\nquillet --verifier \"%2\"");
-    throw RessourceIllisible(conseil.arg(raison, dossier_.path()));
+                                           "corriger, dans un terminal :\nquillet --verifier %3");
+    throw RessourceIllisible(conseil.arg(raison, dossier_.path(), argumentDeCommande(dossier_.path())));
 }
 
 } // namespace Quillet

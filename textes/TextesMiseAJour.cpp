@@ -1,6 +1,7 @@
 #include "textes/TextesMiseAJour.h"
 
-#include <QDir>
+#include "model/ArgumentDeCommande.h"
+
 #include <QLocale>
 
 #include <algorithm>
@@ -57,7 +58,7 @@ Page TextesMiseAJour::page(const MisesAJour::Etat &etat, const QString &installe
         return {.titre = QStringLiteral("Quillet %1 est prêt à installer").arg(etat.parution->nom),
                 .detail = QStringLiteral("L’installation continue dans le programme qui vient de s’ouvrir. S’il ne "
                                          "l’installe pas :\n\nsudo apt install %1\n\nRelancez Quillet ensuite.")
-                              .arg(QDir::toNativeSeparators(etat.chemin)),
+                              .arg(argumentDeCommande(etat.chemin)),
                 .retrait = fermer};
     case Cas::echec:
         return {.titre = QStringLiteral("Mise à jour impossible"), .alerte = etat.message, .retrait = fermer};

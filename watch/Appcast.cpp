@@ -1,5 +1,6 @@
 #include "watch/Appcast.h"
 
+#include "model/SensDeLecture.h"
 #include "watch/ErreurMiseAJour.h"
 #include "watch/TexteHTML.h"
 
@@ -163,11 +164,12 @@ std::optional<Parution> parution(const Element &lu)
     const auto attribut = [&](const QString &nom) { return lu.paquet.value(sparkle(), nom).toString(); };
     const QString version = lu.version.isEmpty() ? attribut(QStringLiteral("version")) : lu.version;
     const QString nom = lu.nom.isEmpty() ? attribut(QStringLiteral("shortVersionString")) : lu.nom;
+    const bool lisible = !nom.isEmpty() && !signeDeSens(nom);
     const auto numero = NumeroDeVersion::lire(version);
     if (!numero)
         return std::nullopt;
     return Parution{.numero = *numero,
-                    .nom = debut((nom.isEmpty() ? version : nom).simplified(), nomMaximal),
+                    .nom = debut((lisible ? nom : version).simplified(), nomMaximal),
                     .notes = Appcast::notes(lu.description),
                     .paquet = QUrl(lu.paquet.value(QLatin1String("url")).toString().trimmed(), QUrl::StrictMode),
                     .longueur = lu.paquet.value(QLatin1String("length")).toLongLong(),

@@ -1,3 +1,4 @@
+#include "model/ArgumentDeCommande.h"
 #include "model/Format.h"
 #include "tests/Rangees.h"
 
@@ -42,6 +43,17 @@ private slots:
                  {"0,50 %", Format::pourcentage(Taux{50})},
              })
             QCOMPARE(marquee(obtenu), attendu);
+    }
+
+    void arguments()
+    {
+        for (const auto &[texte, attendu] : Rangees<QString>{
+                 {"/home/ada/quillet_1.0.deb", "/home/ada/quillet_1.0.deb"},
+                 {"", "''"},
+                 {"/mes livres/$(rm -r ~)", "'/mes livres/$(rm -r ~)'"},
+                 {"l'été", "'l'\\''été'"},
+             })
+            QCOMPARE(argumentDeCommande(texte), attendu);
     }
 
     void dates()

@@ -104,6 +104,7 @@ private slots:
         cas("en attributs", avec("/>", " sparkle:shortVersionString='1.2'/>").replace(">1.2<", ">12<"), offerte);
         cas("nom trop long", avec("/>", " sparkle:shortVersionString='1%1'/>").arg(QStringLiteral("📖").repeated(20)),
             qUtf8Printable(u'1' + QStringLiteral("📖").repeated(15) + QString::fromLatin1(offerte).sliced(3)));
+        cas("nom à rebours", avec("/>", " sparkle:shortVersionString='9&#x202E;'/>"), offerte);
         cas("notes soulignées", rss(version("1.2", paquet + QString("<description>%1</description>").arg(soulignees))),
             qUtf8Printable(QString(offerte) + soulignees));
         cas("autres éléments",
