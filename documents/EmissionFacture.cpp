@@ -11,10 +11,16 @@ QString EmissionFacture::numeroPour(const QString &champ, Vendeur vendeur, QDate
         propose_ = numerotation_.prochain(vendeur, jour);
         sansProposition_.clear();
     } catch (const ErreurStockage &erreur) {
-        propose_.clear();
+        propose_ = QString();
         sansProposition_ = QStringLiteral("Le dernier numéro n’a pas pu être lu.\n%1").arg(erreur.texte());
     }
-    return propose_;
+    return *propose_;
+}
+
+void EmissionFacture::noter(const QString &champ)
+{
+    if (champ != propose_)
+        propose_.reset();
 }
 
 QString EmissionFacture::dernierAvant(const QString &numero, Vendeur vendeur) const

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 #include <utility>
 
 namespace Quillet {
@@ -20,6 +21,8 @@ public:
     // else the next number of the day's series, empty when the last one could not be read. To be asked again just
     // before an invoice leaves: another session may have kept the number meanwhile.
     [[nodiscard]] QString numeroPour(const QString &champ, Vendeur vendeur, QDate jour);
+    // To be told each text of the field: one that differs from what was proposed makes it somebody's own from then on.
+    void noter(const QString &champ);
     // Why no number could be proposed; empty when one was.
     [[nodiscard]] const QString &sansProposition() const { return sansProposition_; }
 
@@ -33,8 +36,8 @@ public:
 
 private:
     NumerotationFactures numerotation_;
-    QString propose_; // the last one: while the field holds it, nobody has typed or dictated another
-    QString parti_;   // the number of the last invoice that left from here: it may be printed once more
+    std::optional<QString> propose_ = QString(); // what the field holds, until somebody types or dictates another
+    QString parti_; // the number of the last invoice that left from here: it may be printed once more
     QString sansProposition_;
 };
 

@@ -117,6 +117,7 @@ void FicheFacture::prendreLeFocus()
 // Brings the invoice shown up to what is typed.
 void FicheFacture::completer()
 {
+    emission_.noter(numero_->text());
     if (!facture_)
         return;
     facture_->numero = numero_->text();
