@@ -1,5 +1,6 @@
 #include "watch/Transfert.h"
 
+#include <QNetworkProxy>
 #include <QProcess>
 
 #include <sys/prctl.h>
@@ -12,7 +13,7 @@ namespace Quillet {
 
 namespace {
 
-constexpr rlim_t memoire = rlim_t{128} << 20; // twice what curl takes for an honest answer
+constexpr rlim_t memoire = rlim_t{256} << 20; // of addresses: four times what curl takes for an honest answer
 constexpr int mortEnMillisecondes = 1000;
 
 // How curl ended (its manual lists the codes), in our own words.
@@ -23,6 +24,7 @@ enum Code {
     mandataireIntrouvable = 5,
     serveurIntrouvable = 6,
     connexionImpossible = 7,
+    coupee = 18,
     reponseRefusee = 22,
     memoireEpuisee = 27,
     delaiDepasse = 28,
@@ -62,24 +64,44 @@ QString cause(int code)
     }
 }
 
+const QString marqueDuBilan = QStringLiteral("\n--\n"); // other words may stand before it
+
 // What curl says at its end, on one line each.
 struct Bilan
 {
     int statut = 0; // of the last answer; 0: none
     QByteArray codage;
+    bool delimite = false; // by its head: else the end of the line ends the body
     QByteArray erreur;
 
     static QString demande()
     {
-        return QStringLiteral("%{stderr}%{response_code}\n%header{content-encoding}\n%{errormsg}");
+        return QStringLiteral("%{stderr}") + marqueDuBilan
+               + QStringLiteral("%{response_code}\n%header{content-encoding}\n"
+                                "%header{content-length}%header{transfer-encoding}\n%{errormsg}");
     }
 
     static Bilan lu(const QByteArray &texte)
     {
-        const QByteArrayList lignes = texte.split('\n');
-        return {lignes.value(0).toInt(), lignes.value(1).trimmed().toLower(), lignes.value(2)};
+        const QByteArray marque = marqueDuBilan.toLatin1();
+        const QByteArrayList lignes = texte.mid(texte.lastIndexOf(marque) + marque.size()).split('\n');
+        return {lignes.value(0).toInt(), lignes.value(1).trimmed().toLower(), !lignes.value(2).isEmpty(),
+                lignes.value(3)};
     }
+
+    [[nodiscard]] bool autreQue200() const { return statut > 200 && statut / 100 != 3; }
 };
+
+// The one that the desktop is set up for: curl knows but variables of its own.
+QStringList mandataire(const QUrl &url)
+{
+    const QNetworkProxy choisi = QNetworkProxyFactory::systemProxyForQuery(QNetworkProxyQuery(url)).value(0);
+    const bool socks = choisi.type() == QNetworkProxy::Socks5Proxy;
+    if (!socks && choisi.type() != QNetworkProxy::HttpProxy)
+        return {};
+    const QString modele = socks ? QStringLiteral("socks5h://%1:%2") : QStringLiteral("http://%1:%2");
+    return {QStringLiteral("--proxy"), modele.arg(choisi.hostName()).arg(choisi.port())};
+}
 
 QString agent(Transfert::Usage usage)
 {
@@ -111,7 +133,7 @@ QStringList arguments(const QUrl &url, const QByteArray &codages, const Limites 
         ajouter("--cookie", {});
     ajouter("--write-out", Bilan::demande());
     ajouter("--url", QString::fromLatin1(url.toEncoded()));
-    return arguments;
+    return arguments + mandataire(url);
 }
 
 // Run in the new process, before curl.
@@ -201,10 +223,12 @@ void Transfert::conclure()
     if (code == protocoleRefuse && bilan.erreur.startsWith("Protocol \"http\""))
         return emit echoue(QStringLiteral("redirection vers une adresse non sécurisée"));
     const bool repondu = code == reussi || code == reponseRefusee || code == protocoleRefuse;
-    if (!repondu)
+    if (!repondu && !bilan.autreQue200())
         return emit echoue(cause(code));
     if (code != reussi || bilan.statut != 200)
         return emit echoue(QStringLiteral("réponse %1 de %2").arg(bilan.statut).arg(adresse_.host()));
+    if (octets_ == 0 && !bilan.delimite) // curl takes a head that was cut for a whole one
+        return emit echoue(cause(coupee));
     emit termine(bilan.codage);
 }
 

@@ -108,7 +108,10 @@ private slots:
         cas("204", {brute("204 No Content")}, inaccessible("réponse 204 de localhost"));
         cas("404", {http("404 Not Found", "bonjour")}, absente);
         cas("coupé", {brute("200 OK\r\nContent-Length: 8", "bonjour")}, interrompue);
-        cas("en-tête coupé", {Reponse{"HTTP/1.1 200 O"}}, interrompue);
+        cas("statut coupé", {Reponse{"HTTP/1.1 200 O"}}, interrompue);
+        cas("en-tête coupé", {Reponse{"HTTP/1.1 200 OK\r\nContent-Le"}}, interrompue);
+        cas("203 coupé", {brute("203 Autre\r\nContent-Length: 8", "bonjour")},
+            inaccessible("réponse 203 de localhost"));
         const QByteArray parMorceaux = "200 OK\r\nTransfer-Encoding: chunked";
         cas("morceau coupé", {brute(parMorceaux, "8\r\nbonjour")}, interrompue);
         cas("dernier morceau absent", {brute(parMorceaux, "7\r\nbonjour\r\n")}, interrompue);
