@@ -29,7 +29,9 @@ QString raisonSysteme(int erreur)
 // no such request is none.
 int erreurDeSynchronisation(int reponse)
 {
-    return reponse == 0 || errno == EINVAL ? 0 : errno;
+    const bool inconnue =
+        reponse != 0 && (errno == EINVAL || errno == ENOSYS || errno == ENOTTY || errno == EOPNOTSUPP);
+    return reponse == 0 || inconnue ? 0 : errno;
 }
 
 class Descripteur
@@ -52,16 +54,19 @@ private:
 };
 
 // Names come to the disk with their folder, not with their file. Opened before anything moves there: a folder that
-// cannot be is refused while that is still true.
+// cannot be is refused while that is still true. One that may only be written in cannot be asked for anything.
 class Dossier
 {
 public:
     explicit Dossier(const QFileInfo &contenu) : ouvert_(contenu.absolutePath(), O_DIRECTORY)
     {
-        if (ouvert_.fd() < 0)
+        if (ouvert_.fd() < 0 && errno != EACCES)
             throw ErreurStockage(contenu.filePath(), raisonSysteme(errno));
     }
-    [[nodiscard]] int synchroniser() const { return erreurDeSynchronisation(fsync(ouvert_.fd())); }
+    [[nodiscard]] int synchroniser() const
+    {
+        return ouvert_.fd() < 0 ? 0 : erreurDeSynchronisation(fsync(ouvert_.fd()));
+    }
 
 private:
     Descripteur ouvert_;
@@ -93,16 +98,17 @@ QFileInfo cible(const QString &chemin)
     return info;
 }
 
-// The disk did not take a folder's new names: they are taken back, so that what is told is true.
-ErreurStockage repris(const QString &chemin, const std::optional<QByteArray> &avant, int erreur)
+// The disk did not take a folder's new names: they are taken back, so that what is told is true. `existait`: something
+// stood there, though perhaps nothing that could be read.
+ErreurStockage repris(const QString &chemin, bool existait, const std::optional<QByteArray> &avant, int erreur)
 {
     QSaveFile fichier(chemin);
-    const bool repris = avant ? fichier.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
-                                    && Fichier::toutEcrire(fichier, *avant) && fichier.commit()
-                              : QFile::remove(chemin);
-    return {chemin, repris ? raisonSysteme(erreur)
-                           : QStringLiteral("%1 ; le changement est en place, mais une coupure de courant le perdrait")
-                                 .arg(raisonSysteme(erreur))};
+    const bool remis = avant ? fichier.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
+                                   && Fichier::toutEcrire(fichier, *avant) && fichier.commit()
+                             : !existait && QFile::remove(chemin);
+    return {chemin, remis ? raisonSysteme(erreur)
+                          : QStringLiteral("%1 ; le changement est en place, mais une coupure de courant le perdrait")
+                                .arg(raisonSysteme(erreur))};
 }
 
 // QSaveFile words the refusal of an existing file itself; opening that file says what the system holds against it.
@@ -176,8 +182,11 @@ void Fichier::creerDossier(const QString &chemin)
     if (parent != info.absoluteFilePath())
         creerDossier(parent);
     const Dossier dossier(info);
-    if (mkdir(QFile::encodeName(chemin).constData(), 0777) != 0 && !QFileInfo(chemin).isDir())
-        throw ErreurStockage(chemin, raisonSysteme(errno));
+    if (mkdir(QFile::encodeName(chemin).constData(), 0777) != 0) {
+        const int erreur = errno;
+        if (!QFileInfo(chemin).isDir())
+            throw ErreurStockage(chemin, raisonSysteme(erreur));
+    }
     if (const int erreur = dossier.synchroniser()) {
         rmdir(QFile::encodeName(chemin).constData()); // the next save asks again
         throw ErreurStockage(chemin, raisonSysteme(erreur));
@@ -199,7 +208,8 @@ bool Fichier::toutEcrire(QIODevice &fichier, QByteArrayView octets)
 void Fichier::ecrire(const QString &chemin, const QByteArray &octets)
 {
     const Dossier dossier(cible(chemin));
-    const auto avant = lireOuRefuser(chemin, Borne::toute);
+    const bool existait = existe(chemin);
+    const auto avant = lire(chemin, Borne::toute);
     QSaveFile fichier(chemin);
     if (!fichier.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) // buffered, it commits a cut file on a full disk
         throw ErreurStockage(chemin, raisonDuRefus(fichier));
@@ -211,7 +221,7 @@ void Fichier::ecrire(const QString &chemin, const QByteArray &octets)
     if (!fichier.commit())
         throw ErreurStockage(chemin, CauseSysteme::enFrancais(fichier.errorString()));
     if (const int erreur = dossier.synchroniser())
-        throw repris(chemin, avant, erreur);
+        throw repris(chemin, existait, avant, erreur);
 }
 
 QString Fichier::mettreDeCote(const QString &chemin, const QByteArray &contenu)
@@ -229,7 +239,7 @@ QString Fichier::mettreDeCote(const QString &chemin, const QByteArray &contenu)
 void Fichier::effacer(const QString &chemin)
 {
     const auto avant = lireOuRefuser(chemin, Borne::toute);
-    if (!avant)
+    if (!avant && !QFileInfo(chemin).isSymLink()) // what it leads to may come back
         return;
     const Dossier dossier{QFileInfo(chemin)};
     std::error_code erreur;
@@ -237,7 +247,7 @@ void Fichier::effacer(const QString &chemin)
     if (erreur)
         throw ErreurStockage(chemin, CauseSysteme::enFrancais(erreur));
     if (const int refus = dossier.synchroniser())
-        throw repris(chemin, avant, refus);
+        throw repris(chemin, true, avant, refus);
 }
 
 } // namespace Quillet
