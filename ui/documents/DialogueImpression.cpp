@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QSpinBox>
+#include <QTabWidget>
 
 namespace Quillet {
 
@@ -40,9 +41,11 @@ void DialogueImpression::suivreLeChoix()
 
 FileImpression::Travail DialogueImpression::travail() const
 {
-    return {.file = partie<QComboBox>("printers")->currentText(),
-            .exemplaires = partie<QSpinBox>("copies")->value(),
-            .enCouleur = partie<QRadioButton>("color")->isChecked()};
+    FileImpression::Travail travail{.file = partie<QComboBox>("printers")->currentText(),
+                                    .exemplaires = partie<QSpinBox>("copies")->value()};
+    if (!partie<QWidget>("colorMode")->isHidden())
+        travail.enCouleur = partie<QRadioButton>("color")->isChecked();
+    return travail;
 }
 
 QString DialogueImpression::fichier() const
@@ -66,6 +69,8 @@ void DialogueImpression::setVisible(bool visible)
     auto *imprimante = partie<QWidget>("printerGroup");
     for (const char *nom : {"label_2", "location", "label_3", "type"})
         imprimante->findChild<QLabel *>(QLatin1String(nom))->hide();
+    constexpr int options = 1; // the second tab, which may be empty now
+    partie<QTabWidget>("tabs")->setTabVisible(options, !partie<QWidget>("colorMode")->isHidden());
     suivreLeChoix();
 }
 

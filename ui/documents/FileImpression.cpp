@@ -97,12 +97,14 @@ void FileImpression::consulter()
 
 QList<std::pair<QByteArray, QByteArray>> FileImpression::options(const Travail &travail)
 {
-    return {{"copies", QByteArray::number(travail.exemplaires)},
-            {"media", "iso_a4_210x297mm"},
-            {"print-scaling", "fit"},
-            {"orientation-requested", "3"}, // portrait
-            {"sides", "one-sided"},         // two copies never share a sheet
-            {"print-color-mode", travail.enCouleur ? "color" : "monochrome"}};
+    QList<std::pair<QByteArray, QByteArray>> options{{"copies", QByteArray::number(travail.exemplaires)},
+                                                     {"media", "iso_a4_210x297mm"},
+                                                     {"print-scaling", "fit"},
+                                                     {"orientation-requested", "3"}, // portrait
+                                                     {"sides", "one-sided"}};        // two copies never share a sheet
+    if (travail.enCouleur)
+        options.emplaceBack("print-color-mode", *travail.enCouleur ? "color" : "monochrome");
+    return options;
 }
 
 void FileImpression::envoyer(const QByteArray &pdf, const QString &titre, const Travail &travail)

@@ -4,6 +4,7 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
 #include <utility>
 
 // The system's print queues (CUPS), whose own answer is believed: Qt's printer says success even when the queue
@@ -19,7 +20,7 @@ struct Travail
 {
     QString file; // its name, "queue" or "queue/instance"
     int exemplaires = 1;
-    bool enCouleur = true;
+    std::optional<bool> enCouleur; // as the queue is set up, when nobody chose
 };
 
 // What the job asks for: the copies and colours chosen, on A4, scaled to fit, never turned.
