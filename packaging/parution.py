@@ -74,6 +74,8 @@ def journal(metainfo, contact, revision):
 
 def _racine(appcast, cle):
     """Of a feed that this key signed: what someone else put there must not be signed with the rest."""
+    if not os.path.exists(appcast):
+        raise Refus(f"{appcast} n’existe pas.")
     lu = SIGNE.fullmatch(Path(appcast).read_bytes())
     if not lu or not cle.a_signe(lu[1], base64.b64decode(lu[2])):
         raise Refus(f"{appcast} n’est pas signé par cette clé. Retrouvez-le tel quel, ou commencez un fichier neuf.")
@@ -126,8 +128,8 @@ def ouvrir(appcast, version, cle):
 
 
 def prolonger(appcast, jour, cle):
-    """Signs the appcast as it is, or one without any version."""
-    _ecrire(appcast, _ouvrir(appcast, cle), jour, cle)
+    """Signs the appcast as it is."""
+    _ecrire(appcast, _racine(appcast, cle), jour, cle)
 
 
 def inscrire(appcast, version, notes_de_version, paquets, jour, cle):

@@ -67,6 +67,9 @@ void MisesAJour::dater(const Appcast::Flux &flux)
     if (flux.expire <= maintenant_())
         throw ErreurMiseAJour::inconnue(
             QStringLiteral("la liste reçue n’est plus valable depuis le %1").arg(jour(flux.expire)));
+    if (flux.etabli > maintenant_().addDays(1)) // kept, it would refuse all that come before that day
+        throw ErreurMiseAJour::inconnue(
+            QStringLiteral("la liste reçue est datée du %1, un jour à venir").arg(jour(flux.etabli)));
     const auto dernier = QDateTime::fromString(preferences_.chercher(dernierFlux).texte, Qt::ISODate);
     if (dernier.isValid() && flux.etabli < dernier)
         throw ErreurMiseAJour::inconnue(

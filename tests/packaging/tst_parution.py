@@ -101,6 +101,8 @@ class Parution(unittest.TestCase):
     def test_a_feed_is_signed_anew_later_and_only_as_this_key_signed_it(self):
         self.inscrire("1.0", "Ancienne")
         demain = JOUR + timedelta(days=1)
+        with self.assertRaisesRegex(parution.Refus, "n’existe pas"):
+            parution.prolonger(self.appcast + ".faute", demain, self.cle)
         with self.assertRaisesRegex(parution.Refus, "heure"):
             parution.prolonger(self.appcast, JOUR, self.cle)
         with self.assertRaisesRegex(parution.Refus, "pas signé"):

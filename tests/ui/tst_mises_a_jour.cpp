@@ -173,6 +173,8 @@ private slots:
                manque, [this] { donner(flux({}).replace(">1.2<", ">9.0<")); });
         refuse(inconnue.arg(" n’est plus valable depuis le 1er mars 2026"), manque,
                [this] { annoncer({.expire = "2026-03-01T12:00:00Z"}); });
+        refuse(inconnue.arg(" est datée du 20 août 2026, un jour à venir"), manque,
+               [this] { annoncer({.etabli = "2026-08-20T12:00:00Z"}); });
         refuse(inconnue.arg(", du 27 février 2026, est plus ancienne que la dernière, du 1er mars 2026"), manque,
                [this] {
                    banc_->demarrer();
