@@ -62,13 +62,15 @@ bool attendre(std::optional<std::chrono::milliseconds> patience, QWidget *parent
     const Panneau panneau(parent, texte);
     fil->start();
     boucle.exec();
-    if (patience && !fini) {
-        QObject::connect(fil, &QThread::finished, fil, &QObject::deleteLater);
-        return false;
+    if (fini || !patience) {
+        fil->wait();
+        delete fil;
+        return true;
     }
-    fil->wait();
-    delete fil;
-    return true;
+    QObject::connect(fil, &QThread::finished, fil, &QObject::deleteLater);
+    if (fil->isFinished())
+        fil->deleteLater();
+    return false;
 }
 
 } // namespace

@@ -119,10 +119,16 @@ private slots:
                       && devant->findChild<QLabel *>()->text() == u"Un instant…");
         });
         guet.start(20ms);
-        QVERIFY(!Attente::auPlus(800ms, &fenetre, "Un instant…", [porte] { porte->acquire(); }));
-        QVERIFY(dit && battu.count() > 10);
-        porte->release();
-        QVERIFY(Attente::auPlus(1min, &fenetre, "Un instant…", [] {}));
+        connect(&guet, &QTimer::timeout, &fenetre, [&] {
+            if (dit && battu.count() > 10)
+                porte->release();
+        });
+        QVERIFY(Attente::auPlus(1min, &fenetre, "Un instant…", [porte] { porte->acquire(); }));
+        QVERIFY(dit);
+        guet.stop();
+        const auto fermee = std::make_shared<QSemaphore>();
+        QVERIFY(!Attente::auPlus(1ms, &fenetre, "Un instant…", [fermee] { fermee->acquire(); }));
+        fermee->release();
         QVERIFY_THROWS_EXCEPTION(
             std::runtime_error, Attente::jusquAuBout(&fenetre, "Un instant…", [] { throw std::runtime_error("non"); }));
         QVERIFY(!QApplication::activeModalWidget());
