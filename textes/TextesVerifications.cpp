@@ -55,9 +55,9 @@ void direLEtat(Ligne &ligne, const Verifications::Etat &etat, const std::optiona
     } else if (!verifie) {
         ligne.etat = QStringLiteral("Pas encore vérifiés depuis l’app");
     } else {
-        const bool recent = age == Age::recent;
-        ligne.symboleEtat = recent ? QStringLiteral("checkmark.circle") : QStringLiteral("clock.badge.exclamationmark");
-        ligne.ton = recent ? Ligne::Ton::neutre : Ligne::Ton::alerte;
+        const bool perime = age == Age::perime;
+        ligne.symboleEtat = perime ? QStringLiteral("clock.badge.exclamationmark") : QStringLiteral("checkmark.circle");
+        ligne.ton = perime ? Ligne::Ton::alerte : Ligne::Ton::neutre;
         ligne.etat = QStringLiteral("Vérifiés le ") + Format::date(verifie->toLocalTime().date()) + reserve(age);
     }
 }

@@ -375,7 +375,7 @@ private slots:
                  {"2026-03-01T12:00:00Z", "checkmark.circle", "Vérifiés le 1er mars 2026"},
                  {"2025-11-03T12:00:00Z", "clock.badge.exclamationmark", "Vérifiés le 3 novembre 2025 : à revérifier"},
                  {"2026-03-02T20:00:00Z", "checkmark.circle", "Vérifiés le 2 mars 2026"},
-                 {"2026-03-04T12:00:00Z", "clock.badge.exclamationmark",
+                 {"2026-03-04T12:00:00Z", "checkmark.circle",
                   "Vérifiés le 4 mars 2026, une date à venir : l’horloge a changé"},
              }) {
             const Rangee rangee(verifie);
