@@ -109,11 +109,11 @@ QString pasOuvert(const QString &programme)
 }
 
 // Waits for what the desktop says of a program that it was asked to start, for as long as it may take.
-class Attente : public QObject
+class Lancement : public QObject
 {
 public:
-    Attente(QObject *temoin, QString programme, std::function<void(const QString &)> echouer,
-            std::chrono::milliseconds patience)
+    Lancement(QObject *temoin, QString programme, std::function<void(const QString &)> echouer,
+              std::chrono::milliseconds patience)
         : QObject(temoin), programme_(std::move(programme)), echouer_(std::move(echouer))
     {
         const auto sansReponse = [this] {
@@ -127,7 +127,7 @@ public:
     // `attente`: a QPointer to one, of its own, for the answer may come after it is gone.
     static void repondre(GObject *programme, GAsyncResult *reponse, gpointer attente)
     {
-        const std::unique_ptr<QPointer<Attente>> elle(static_cast<QPointer<Attente> *>(attente));
+        const std::unique_ptr<QPointer<Lancement>> elle(static_cast<QPointer<Lancement> *>(attente));
         const bool parti = g_app_info_launch_uris_finish(G_APP_INFO(programme), reponse, nullptr);
         if (*elle)
             (*elle)->finir(parti ? QString() : pasOuvert((*elle)->programme_));
@@ -146,11 +146,12 @@ private:
     bool finie_ = false;
 };
 
-void ouvrir(GAppInfo *programme, const QString &adresse, Attente *attente)
+void ouvrir(GAppInfo *programme, const QString &adresse, Lancement *attente)
 {
     QByteArray octets = adresse.toUtf8();
     GList lien{octets.data(), nullptr, nullptr};
-    g_app_info_launch_uris_async(programme, &lien, nullptr, nullptr, Attente::repondre, new QPointer<Attente>(attente));
+    g_app_info_launch_uris_async(programme, &lien, nullptr, nullptr, Lancement::repondre,
+                                 new QPointer<Lancement>(attente));
 }
 
 } // namespace
@@ -165,7 +166,7 @@ void Mail::ecrire(const Message &message, QObject *temoin, const std::function<v
     const QString titre = surUneLigne(message.sujet);
     if (!estThunderbird(programme.get()))
         ouvrir(programme.get(), mailto(destinataire, titre, message.corps),
-               new Attente(temoin, nom(programme.get()), echouer, patience));
+               new Lancement(temoin, nom(programme.get()), echouer, patience));
     else if (!composer(programme.get(), pourThunderbird(destinataire, titre, enHtml(message.corps, message.enGras))))
         throw Echec(pasOuvert(nom(programme.get())));
 }
