@@ -20,13 +20,13 @@ constexpr int mortEnMillisecondes = 1000;
 enum Code {
     reussi = 0,
     protocoleRefuse = 1,
+    adresseAbsente = 2, // what Qt 6.8 makes of an invalid one
     adresseInvalide = 3,
     mandataireIntrouvable = 5,
     serveurIntrouvable = 6,
     connexionImpossible = 7,
     coupee = 18,
     reponseRefusee = 22,
-    memoireEpuisee = 27,
     delaiDepasse = 28,
     chiffrementImpossible = 35,
     tropDeRedirections = 47,
@@ -39,13 +39,12 @@ enum Code {
 QString cause(int code)
 {
     switch (code) {
+    case adresseAbsente:
     case adresseInvalide:
     case serveurIntrouvable:
         return QStringLiteral("serveur introuvable");
     case connexionImpossible:
         return QStringLiteral("connexion impossible");
-    case memoireEpuisee:
-        return QStringLiteral("réponse illisible");
     case delaiDepasse:
         return QStringLiteral("téléchargement trop long");
     case chiffrementImpossible:
@@ -59,7 +58,7 @@ QString cause(int code)
     case mandataireIntrouvable:
     case mandataireDefaillant:
         return QStringLiteral("serveur mandataire inaccessible");
-    default:
+    default: // also for want of memory
         return QStringLiteral("connexion interrompue");
     }
 }
@@ -218,7 +217,7 @@ void Transfert::conclure()
     if (curl->error() == QProcess::FailedToStart)
         return emit echoue(QStringLiteral("le programme curl n’est pas installé"));
     if (curl->exitStatus() == QProcess::CrashExit)
-        return emit echoue(cause(memoireEpuisee));
+        return emit echoue(cause(coupee));
     const int code = curl->exitCode();
     if (code == protocoleRefuse && bilan.erreur.startsWith("Protocol \"http\""))
         return emit echoue(QStringLiteral("redirection vers une adresse non sécurisée"));
