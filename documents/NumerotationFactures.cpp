@@ -66,6 +66,22 @@ QString NumerotationFactures::dernier(Vendeur vendeur) const
     return trouvee.texte;
 }
 
+QStringList NumerotationFactures::erreurs() const
+{
+    QStringList phrases;
+    for (const Vendeur vendeur : tous<Vendeur>)
+        try {
+            if (const QString numero = dernier(vendeur); !numero.isEmpty() && !avance(numero, {}))
+                phrases.append(
+                    QStringLiteral("%1 : « %2 » n’est pas un numéro de facture, la suite de %3 recommencerait")
+                        .arg(preferences.fichier(), numero, brut(vendeur)));
+        } catch (const ErreurStockage &erreur) {
+            phrases.append(erreur.texte());
+        }
+    phrases.removeDuplicates(); // one file holds them all
+    return phrases;
+}
+
 void NumerotationFactures::retenir(const QString &numero, Vendeur vendeur)
 {
     if (avance(numero, preferences.chercher(cle(vendeur)).texte)) // after a loss, this is where the series starts again

@@ -4,6 +4,7 @@
 #include "model/Vendeur.h"
 
 #include <QDate>
+#include <QStringList>
 
 namespace Quillet {
 
@@ -17,6 +18,8 @@ struct NumerotationFactures
     [[nodiscard]] QString prochain(Vendeur vendeur, QDate date) const;
     // The last one kept, as it was written; empty when there is none. Throws as `prochain`.
     [[nodiscard]] QString dernier(Vendeur vendeur) const;
+    // A sentence for each number kept that is none, after which its series would start again, or that cannot be read.
+    [[nodiscard]] QStringList erreurs() const;
     // The invoice has left: the series goes on after it. An older number, or one that is none, changes nothing.
     // Throws ErreurStockage when the preferences could not be read or written; the series is then where
     // it was.

@@ -68,25 +68,6 @@ std::optional<QString> malComprise(QCommandLineParser &analyseur, const QCommand
     return std::nullopt;
 }
 
-// What loading ignores without a word, and the numbers that would start again.
-QStringList erreursDeLUtilisateur()
-{
-    QStringList erreurs = ControleUtilisateur::erreurs(Stockage::deLUtilisateur().dossier());
-    const NumerotationFactures numerotation{Preferences::deLUtilisateur()};
-    const QString &fichier = numerotation.preferences.fichier();
-    try {
-        for (const Vendeur vendeur : tous<Vendeur>)
-            if (const QString numero = numerotation.dernier(vendeur);
-                !numero.isEmpty() && !NumerotationFactures::avance(numero, {}))
-                erreurs.append(
-                    QStringLiteral("%1 : « %2 » n’est pas un numéro de facture, la suite de %3 recommencerait")
-                        .arg(fichier, numero, brut(vendeur)));
-    } catch (const ErreurStockage &erreur) {
-        erreurs.append(erreur.texte());
-    }
-    return erreurs;
-}
-
 Reponse controle(const QString &dossier)
 {
     // Typefaces and pictures are asked of a display; this one needs no screen.
@@ -103,7 +84,9 @@ Reponse controle(const QString &dossier)
     for (const QString &fichier : Couvertures::fichiers(images))
         couvertures.append(images.filePath(fichier));
     const auto moyens = ControlePoste::moyens();
-    controle.erreurs += ControlePoste::imagesAbimees(moyens, couvertures) + erreursDeLUtilisateur();
+    controle.erreurs += ControlePoste::imagesAbimees(moyens, couvertures)
+                        + ControleUtilisateur::erreurs(Stockage::deLUtilisateur().dossier())
+                        + NumerotationFactures{Preferences::deLUtilisateur()}.erreurs();
     const QStringList lignes =
         controle.erreurs + QStringList{controle.bilan()} + ControlePoste::manques(moyens, couvertures);
     return {controle.erreurs.isEmpty() ? 0 : 1, lignes.join(u'\n') + u'\n'};
