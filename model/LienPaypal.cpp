@@ -32,7 +32,7 @@ QString nomDeSite(const QString &site)
 
 std::optional<LienPaypal::Defaut> LienPaypal::defaut(const QString &lien, const std::optional<QString> &site)
 {
-    if (signeDeSens(QUrl::fromPercentEncoding(lien.toUtf8())))
+    if (contientUnSigneDeSens(QUrl::fromPercentEncoding(lien.toUtf8())))
         return Defaut::signeDeSens;
     const QString la = hote(lien);
     if (la.isEmpty() || adresse(lien).scheme() != QLatin1String("https"))

@@ -164,7 +164,7 @@ std::optional<Parution> parution(const Element &lu)
     const auto attribut = [&](const QString &nom) { return lu.paquet.value(sparkle(), nom).toString(); };
     const QString version = lu.version.isEmpty() ? attribut(QStringLiteral("version")) : lu.version;
     const QString nom = lu.nom.isEmpty() ? attribut(QStringLiteral("shortVersionString")) : lu.nom;
-    const bool lisible = !nom.isEmpty() && !signeDeSens(nom);
+    const bool lisible = !nom.isEmpty() && !contientUnSigneDeSens(nom);
     const auto numero = NumeroDeVersion::lire(version);
     if (!numero)
         return std::nullopt;

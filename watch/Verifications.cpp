@@ -1,6 +1,7 @@
 #include "watch/Verifications.h"
 
 #include "model/Format.h"
+#include "model/Stockage.h"
 
 #include <utility>
 
@@ -88,7 +89,7 @@ void Verifications::accepterFrais()
         return;
     // Its reading refuses none, its file would not be read again.
     if (!Taux::bornee(paypal_.nouveau->supplement(RegionPaypal::eee).valeur()))
-        throw ErreurStockage(QStringLiteral("frais-paypal.json"),
+        throw ErreurStockage(Stockage::fichierDesFrais(),
                              QStringLiteral("supplément EEE au-delà de ")
                                  + Format::pourcentage(Taux{UniteCentiemeDePourcent::maximum}));
     catalogue_.enregistrer(*paypal_.nouveau);
