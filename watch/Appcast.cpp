@@ -106,13 +106,21 @@ struct Element
     QString nom;
     QString description;
     QString canal;
+    QString versionDUnPaquet; // the first that is understood, of whatever system
     QXmlStreamAttributes paquet;
     Pour destinataire = Pour::tous; // of the package
     bool autreSysteme = false;      // has a package that is not for this one
 };
 
+QString version(const QXmlStreamAttributes &paquet)
+{
+    return paquet.value(sparkle(), QStringLiteral("version")).toString();
+}
+
 void retenir(const QXmlStreamAttributes &paquet, const QString &systeme, Element &lu)
 {
+    if (lu.versionDUnPaquet.isEmpty() && NumeroDeVersion::lire(version(paquet)))
+        lu.versionDUnPaquet = version(paquet);
     const Pour pour = destinataire(paquet, systeme);
     if (pour == Pour::unAutre) {
         lu.autreSysteme = true;
@@ -158,18 +166,27 @@ QByteArray empreinte(const QByteArray &hexadecimale)
     return juste && octets.toHex() == hexadecimale ? octets : QByteArray();
 }
 
+// The item's; else its package's; else that of a package beside it.
+QString version(const Element &lu)
+{
+    if (!lu.version.isEmpty())
+        return lu.version;
+    const QString sienne = version(lu.paquet);
+    return NumeroDeVersion::lire(sienne) ? sienne : lu.versionDUnPaquet;
+}
+
 // None without a number that is understood: an item from another time must not hide those that follow.
 std::optional<Parution> parution(const Element &lu)
 {
-    const auto attribut = [&](const QString &nom) { return lu.paquet.value(sparkle(), nom).toString(); };
-    const QString version = lu.version.isEmpty() ? attribut(QStringLiteral("version")) : lu.version;
-    const QString nom = lu.nom.isEmpty() ? attribut(QStringLiteral("shortVersionString")) : lu.nom;
+    const QString court = lu.paquet.value(sparkle(), QStringLiteral("shortVersionString")).toString();
+    const QString nom = lu.nom.isEmpty() ? court : lu.nom;
     const bool lisible = !nom.isEmpty() && !contientUnSigneDeSens(nom);
-    const auto numero = NumeroDeVersion::lire(version);
+    const QString ecrit = version(lu);
+    const auto numero = NumeroDeVersion::lire(ecrit);
     if (!numero)
         return std::nullopt;
     return Parution{.numero = *numero,
-                    .nom = debut((lisible ? nom : version).simplified(), nomMaximal),
+                    .nom = debut((lisible ? nom : ecrit).simplified(), nomMaximal),
                     .notes = Appcast::notes(lu.description),
                     .paquet = QUrl(lu.paquet.value(QLatin1String("url")).toString().trimmed(), QUrl::StrictMode),
                     .longueur = lu.paquet.value(QLatin1String("length")).toLongLong(),

@@ -125,6 +125,8 @@ private slots:
         cas("un paquet par système, l’autre après", rss(version("1.2", pour13 + pour12)), precise);
         cas("pour celui-ci plutôt que pour tous", rss(version("1.2", paquet + pour13)), precise);
         cas("pour celui-ci plutôt que pour tous, après", rss(version("1.2", pour13 + paquet)), precise);
+        cas("le numéro au seul paquet d’à côté",
+            rss("<item>" + QString(paquet).replace("/>", " sparkle:version='1.2'/>") + pour13 + "</item>"), precise);
         cas("pour tout Linux", avec("/>", " sparkle:os='linux'/>"), offerte);
         cas("pour tous, faute de mieux", rss(version("1.2", paquet + pour12)), offerte);
         cas("plus récente pour un autre Debian seul", rss(version("1.3", pour12) + version("1.2", pour13)), precise);
