@@ -1,5 +1,6 @@
 #include "composants/LecteurDEcran.h"
 
+#include "composants/LectureDeListe.h"
 #include "composants/LectureDeTableau.h"
 
 #include <QAccessibleWidget>
@@ -76,6 +77,9 @@ void LecteurDEcran::preparer()
 {
     QAccessible::installFactory(interfaceDe);
     QAccessible::installFactory(LectureDeTableau::interfaceDe);
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
+    QAccessible::installFactory(LectureDeListe::interfaceDe);
+#endif
 }
 
 void LecteurDEcran::jouer(QWidget *widget, QAccessible::Role role)

@@ -90,6 +90,23 @@ private slots:
         QVERIFY(lu->indexOfChild(QAccessible::queryAccessibleInterface(page.viewport())) >= 0);
     }
 
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
+    // Its pop-up, like any list, table or tree of Qt's.
+    void unLecteurDemandeUneCelluleAbsente()
+    {
+        Choix choix;
+        auto *liste = QAccessible::queryAccessibleInterface(choix.view());
+        const auto *cellules = liste->tableInterface();
+        const auto estLa = [&](int ligne, int colonne) {
+            auto *cellule = cellules->cellAt(ligne, colonne);
+            return cellule->tableCellInterface()->rowIndex() == ligne && liste->indexOfChild(cellule) == ligne;
+        };
+        QVERIFY(!estLa(0, 0));
+        choix.ajouter("a", "a");
+        QVERIFY(estLa(0, 0) && !estLa(0, -1) && !estLa(1, 0));
+    }
+#endif
+
     // Closed by a reader while a question of its own holds the program up.
     void laFeuilleFermeeSousUneQuestion()
     {
