@@ -75,13 +75,13 @@ class Promenade:
         seul = {"HOME": dossier, "PATH": dossier, "XDG_DATA_DIRS": dossier, "CUPS_SERVER": f"{dossier}/personne"}
         with self.dits.open("wb") as dits:
             self.quillet = subprocess.Popen([binaire], env=os.environ | chez_soi | seul, stderr=dits, cwd=dossier)
+
+    def jouer(self, duree):
+        """Returns how many steps it came to."""
         self.racine = application("Quillet")
         quillet = fenetre(self.racine, "frame", "Quillet")
         presser(quillet, "Le Phare de sel")  # without an order no sheet opens
         choisir(quillet, "Envoi vers", "Suisse")
-
-    def jouer(self, duree):
-        """Returns how many steps it came to."""
         fin = time.monotonic() + duree
         pas = 0
         while time.monotonic() < fin and self.quillet.poll() is None:
@@ -175,7 +175,7 @@ def main(binaire, secondes, graine):
             try:
                 pas += promenade.jouer(min(PROMENADE, reste))
                 ouvertures += 1
-            except Echec as echec:
+            except (Echec, GLib.Error) as echec:
                 print("\n".join(promenade.gestes), promenade.dits.read_text(errors="replace"), sep="\n")
                 print(f"ÉCHEC, graine {graine} : {echec}")
                 return 1
