@@ -5,14 +5,12 @@
 #include "composants/Place.h"
 #include "composants/Theme.h"
 
+#include <QAbstractEventDispatcher>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QThread>
-#include <QTimer>
 
 #include <algorithm>
-
-using namespace std::chrono_literals;
 
 namespace Quillet {
 
@@ -37,11 +35,13 @@ void Feuille::done(int resultat)
     QDialog::done(resultat);
 }
 
-// Not while a dialog that it opened waits on the stack, which still needs it.
+// Not while a dialog that it opened waits on the stack, which still needs it. Qt tells of no loop that ends, but a loop
+// that goes on below has seen it end.
 void Feuille::finir()
 {
     if (QThread::currentThread()->loopLevel() > boucles_)
-        QTimer::singleShot(50ms, this, &Feuille::finir);
+        connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, this, &Feuille::finir,
+                Qt::UniqueConnection);
     else
         deleteLater();
 }
