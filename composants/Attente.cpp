@@ -22,7 +22,7 @@ namespace {
 constexpr auto discretion = 400ms; // what takes less is not shown
 constexpr int marge = 24;
 
-// Keeps its parent's window from hand and keys from the start.
+// Keeps its parent's window from hand and keys from the start; says why, to a screen reader too, once it shows.
 class Panneau : public QWidget
 {
 public:
@@ -31,13 +31,14 @@ public:
     {
         LecteurDEcran::jouer(this, QAccessible::Dialog);
         setWindowTitle(QCoreApplication::applicationName());
-        setAccessibleName(texte);
         setWindowModality(Qt::WindowModal);
-        Pile::colonne(this, {.marges = {marge, marge, marge, marge}}, {new Libelle(texte)});
         setAttribute(Qt::WA_DontShowOnScreen);
         show();
-        QTimer::singleShot(discretion, this, [this] {
+        QTimer::singleShot(discretion, this, [this, texte] {
             hide();
+            setAccessibleName(texte);
+            Pile::colonne(this, {.marges = {marge, marge, marge, marge}}, {new Libelle(texte)});
+            adjustSize();
             setAttribute(Qt::WA_DontShowOnScreen, false);
             show();
         });

@@ -129,12 +129,15 @@ private slots:
         pouls.start(10ms);
         const auto porte = std::make_shared<QSemaphore>();
         bool dit = false;
+        bool ditAvant = false; // to a screen reader
         QTimer guet;
         connect(&guet, &QTimer::timeout, &fenetre, [&] {
-            const auto *devant = QApplication::activeModalWidget();
-            dit = dit
-                  || (devant && devant->isVisible() && !devant->testAttribute(Qt::WA_DontShowOnScreen)
-                      && devant->findChild<QLabel *>()->text() == u"Un instant…");
+            auto *devant = QApplication::activeModalWidget();
+            const bool montre = devant && devant->isVisible() && !devant->testAttribute(Qt::WA_DontShowOnScreen);
+            dit = dit || (montre && devant->findChild<QLabel *>()->text() == u"Un instant…");
+            ditAvant = ditAvant
+                       || (devant && !montre
+                           && !QAccessible::queryAccessibleInterface(devant)->text(QAccessible::Name).isEmpty());
         });
         guet.start(20ms);
         connect(&guet, &QTimer::timeout, &fenetre, [&] {
@@ -142,7 +145,7 @@ private slots:
                 porte->release();
         });
         QVERIFY(Attente::auPlus(1min, &fenetre, "Un instant…", [porte] { porte->acquire(); }));
-        QVERIFY(dit);
+        QVERIFY(dit && !ditAvant);
         guet.stop();
         const auto fermee = std::make_shared<QSemaphore>();
         QVERIFY(!Attente::auPlus(1ms, &fenetre, "Un instant…", [fermee] { fermee->acquire(); }));
