@@ -51,8 +51,8 @@ InstanceUnique::InstanceUnique(const QDir &commun, std::chrono::milliseconds pat
 
 InstanceUnique::~InstanceUnique()
 {
-    if (donnees_ >= 0)
-        close(donnees_);
+    if (verrouDesDonnees_ >= 0)
+        close(verrouDesDonnees_);
 }
 
 QDir InstanceUnique::communDeLUtilisateur()
@@ -106,9 +106,9 @@ bool InstanceUnique::appelerLaPremiere(const QByteArray &jeton) const
 void InstanceUnique::verrouillerLesDonnees()
 {
     commun_.mkpath(QStringLiteral("."));
-    if (donnees_ < 0)
-        donnees_ = open(QFile::encodeName(commun_.path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (donnees_ >= 0 && flock(donnees_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+    if (verrouDesDonnees_ < 0)
+        verrouDesDonnees_ = open(QFile::encodeName(commun_.path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (verrouDesDonnees_ >= 0 && flock(verrouDesDonnees_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
         verrou_.unlock();
         throw Echec(QStringLiteral("Quillet est déjà ouvert sur les mêmes données, sans doute dans une autre "
                                    "session.\nFermez-le là-bas, puis recommencez."));

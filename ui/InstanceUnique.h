@@ -38,7 +38,7 @@ private:
     std::chrono::milliseconds patience_;
     QString adresse_;
     QLockFile verrou_;
-    int donnees_ = -1; // holds a lock as long as it is open
+    int verrouDesDonnees_ = -1; // holds a lock as long as it is open
     QLocalServer serveur_;
 };
 
