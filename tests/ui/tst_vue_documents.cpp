@@ -197,20 +197,28 @@ private slots:
                                            + QStringLiteral(" : un dossier occupe la place du fichier")));
     }
 
-    // Two sessions had proposed it: this invoice waits, is shown with the next number, then leaves with it.
+    // Two sessions had proposed it, or another takes it while the dialog stands open: this invoice waits, is shown with
+    // the next number, then leaves with it.
     void numeroPrisEntreTemps()
     {
         const QTemporaryDir dossier;
         banc_->commander("suisse");
         QDialog *feuille = banc_->ouvrir(facture);
-        NumerotationFactures{banc_->donnees.preferences()}.retenir("2026-001", Vendeur::davrel);
+        NumerotationFactures ailleurs{banc_->donnees.preferences()};
+        ailleurs.retenir("2026-001", Vendeur::davrel);
         QString message;
         QVERIFY(Dialogues::cliquerPuisRepondre(feuille, enregistrer, {BancEcran::lire(message)}));
         QVERIFY2(message.startsWith("Le numéro 2026-001 a été retenu entre-temps"), qPrintable(message));
         QCOMPARE(numeroPropose(feuille), "2026-002");
-        const auto ailleurs = Dialogues::enregistrerSous(dossier.filePath("f.pdf"));
-        QVERIFY(Dialogues::cliquerPuisRepondre(feuille, enregistrer, {ailleurs}));
-        QCOMPARE(retenu(), "2026-002");
+        const auto choisir = Dialogues::enregistrerSous(dossier.filePath("f.pdf"));
+        const auto tarder = [&](QDialog *dialogue) {
+            ailleurs.retenir("2026-002", Vendeur::davrel);
+            choisir(dialogue);
+        };
+        QVERIFY(Dialogues::cliquerPuisRepondre(feuille, enregistrer, {tarder, BancEcran::lire(message)}));
+        QVERIFY(QDir(dossier.path()).isEmpty());
+        QVERIFY(Dialogues::cliquerPuisRepondre(feuille, enregistrer, {choisir}));
+        QCOMPARE(retenu(), "2026-003");
         QVERIFY(Dialogues::cliquerPuisRepondre(feuille, enregistrer, {Dialogues::renoncer()})); // and once more
     }
 

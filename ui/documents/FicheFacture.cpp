@@ -143,7 +143,8 @@ void FicheFacture::imprimer()
         return;
     }
     emettre(QStringLiteral("Facture %1 imprimée."), [this](const Facture &facture) {
-        return ImpressionFacture::imprimer(facture, Facture::exemplaires, this);
+        const auto permise = [&] { return encoreLibre(facture); };
+        return ImpressionFacture::imprimer(facture, Facture::exemplaires, permise, this);
     });
 }
 
@@ -151,7 +152,8 @@ void FicheFacture::enregistrer()
 {
     std::optional<QString> chemin;
     const bool faite = emettre(QStringLiteral("Facture %1 enregistrée."), [&](const Facture &facture) {
-        chemin = ImpressionFacture::enregistrer(facture, contexte_.preferences.texte(cleDossier), this);
+        const auto permise = [&] { return encoreLibre(facture); };
+        chemin = ImpressionFacture::enregistrer(facture, contexte_.preferences.texte(cleDossier), permise, this);
         return chemin.has_value();
     });
     if (!faite)
@@ -166,9 +168,7 @@ void FicheFacture::enregistrer()
 bool FicheFacture::emettre(const QString &issue, const std::function<bool(const Facture &)> &sortir)
 {
     contexte_.jour.regarder(); // the invoice is of the day on which it leaves: on another, the sheet shows it anew
-    if (!facture_)
-        return false;
-    if (!numeroEncoreLibre())
+    if (!facture_ || !encoreLibre(*facture_))
         return false;
     issue_->montrer({});
     const Facture facture = *facture_; // whatever changes while a dialog is open
@@ -183,13 +183,13 @@ bool FicheFacture::emettre(const QString &issue, const std::function<bool(const 
     }
 }
 
-// Another session may have kept it since it was proposed.
-bool FicheFacture::numeroEncoreLibre()
+// Another session may have kept its number since it was proposed.
+bool FicheFacture::encoreLibre(const Facture &facture)
 {
-    const QString propose = facture_->numero;
+    const QString propose = facture.numero;
     if (propose.isEmpty())
         return true; // as somebody chose, or as the sheet says
-    const QString numero = emission_.numeroPour(propose, vendeur_, facture_->date);
+    const QString numero = emission_.numeroPour(propose, vendeur_, facture.date);
     if (numero == propose)
         return true;
     numero_->setText(numero);

@@ -37,7 +37,7 @@ private:
     void enregistrer();
     // True when all is done.
     bool emettre(const QString &issue, const std::function<bool(const Facture &)> &sortir);
-    bool numeroEncoreLibre();
+    bool encoreLibre(const Facture &facture);
     void prevenir(const QString &message);
 
     const Contexte &contexte_;

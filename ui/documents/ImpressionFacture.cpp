@@ -92,7 +92,7 @@ bool ImpressionFacture::proposerLePdf(QWidget *parent)
     return question.clickedButton() == enPdf;
 }
 
-bool ImpressionFacture::imprimer(const Facture &facture, int exemplaires, QWidget *parent)
+bool ImpressionFacture::imprimer(const Facture &facture, int exemplaires, const Permission &permise, QWidget *parent)
 {
     const QByteArray page = pdf(facture);
     QPrinter reglages;
@@ -102,7 +102,7 @@ bool ImpressionFacture::imprimer(const Facture &facture, int exemplaires, QWidge
     reglages.setCopyCount(exemplaires);
     reglages.setDocName(facture.nomDeFichier()); // what the dialog proposes to a print to file
     DialogueImpression dialogue(&reglages, parent);
-    if (dialogue.exec() != QDialog::Accepted)
+    if (dialogue.exec() != QDialog::Accepted || !permise())
         return false;
     if (!dialogue.fichier().isEmpty())
         ecrire(dialogue.fichier(), page);
@@ -114,7 +114,8 @@ bool ImpressionFacture::imprimer(const Facture &facture, int exemplaires, QWidge
     return true;
 }
 
-std::optional<QString> ImpressionFacture::enregistrer(const Facture &facture, const QString &dossier, QWidget *parent)
+std::optional<QString> ImpressionFacture::enregistrer(const Facture &facture, const QString &dossier,
+                                                      const Permission &permise, QWidget *parent)
 {
     const bool connu = !dossier.isEmpty() && QDir(dossier).exists();
     QFileDialog dialogue(parent, titreDuDialogue,
@@ -125,9 +126,10 @@ std::optional<QString> ImpressionFacture::enregistrer(const Facture &facture, co
     dialogue.selectFile(facture.nomDeFichier());
     if (dialogue.exec() != QDialog::Accepted)
         return std::nullopt;
-    auto chemin = enPdf(dialogue.selectedFiles().constFirst(), parent);
-    if (chemin)
-        ecrire(*chemin, pdf(facture));
+    const auto chemin = enPdf(dialogue.selectedFiles().constFirst(), parent);
+    if (!chemin || !permise())
+        return std::nullopt;
+    ecrire(*chemin, pdf(facture));
     return chemin;
 }
 

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 
+#include <functional>
 #include <optional>
 
 class QWidget;
@@ -20,12 +21,15 @@ bool imprimantesJoignables(QWidget *parent);
 // Says that they are not; returns whether the user wants a file instead.
 bool proposerLePdf(QWidget *parent);
 
-// Both ask in the platform's dialog, over `parent`, and throw Echec when the invoice could not leave.
+// Both ask in the platform's dialog, over `parent`, and once more by `permise` when it is left, however long it stood.
+// They throw Echec when the invoice could not leave.
+using Permission = std::function<bool()>;
 
-// Returns whether the job was handed over; false when the user gave up.
-bool imprimer(const Facture &facture, int exemplaires, QWidget *parent);
-// Returns the path of the file written; none when the user gave up. The dialog opens on `dossier`, or on the user's
-// documents when that folder is not there.
-std::optional<QString> enregistrer(const Facture &facture, const QString &dossier, QWidget *parent);
+// Returns whether the job was handed over; false when the user gave up, or it was not allowed any more.
+bool imprimer(const Facture &facture, int exemplaires, const Permission &permise, QWidget *parent);
+// Returns the path of the file written; none as above. The dialog opens on `dossier`, or on the user's documents when
+// that folder is not there.
+std::optional<QString> enregistrer(const Facture &facture, const QString &dossier, const Permission &permise,
+                                   QWidget *parent);
 
 } // namespace Quillet::ImpressionFacture
