@@ -88,6 +88,13 @@ inline constexpr auto Json::champs<Emballage> = std::tuple{
     Champ{"poids", &Emballage::poids},
 };
 
+namespace Json {
+
+// A weight below zero stops nothing: an order counts it as none.
+void lire(const QJsonValue &json, const Lieu &lieu, Emballage &emballage);
+
+} // namespace Json
+
 template <>
 inline constexpr auto Json::champs<MentionsDouane> = std::tuple{
     Champ{"contenuFr", &MentionsDouane::contenuFr},

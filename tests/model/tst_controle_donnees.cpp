@@ -274,6 +274,8 @@ void TestControleDonnees::erreurs()
              {"reglages", R"("poids" : 40)", R"("poids" : 0)",
               "reglages.emballages[0].poids : plus de 0 g attendus, "
               "ce poids compte dans les prix des boutons PayPal"},
+             {"reglages", R"("poids" : 40)", R"("poids" : -40)",
+              "reglages.emballages[0].poids : nombre négatif, une commande le compte comme 0 g"},
              {"reglages", "TVA non applicable, art. 293 B du CGI", "", ""},
              {"reglages", "000 000 000 00000", "000 000 000 00001",
               "reglages.vendeurs.davrel.siret : ce n’est pas un numéro SIRET"},
