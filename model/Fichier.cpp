@@ -111,6 +111,16 @@ ErreurStockage repris(const QString &chemin, bool existait, const std::optional<
                                 .arg(raisonSysteme(erreur))};
 }
 
+// The first name beside the file that is free, or whose file is the one to keep: of an attempt whose write then failed.
+template <typename Predicat>
+QString nomDeCote(const QString &chemin, Predicat estGarde)
+{
+    QString copie = chemin + QStringLiteral(".illisible");
+    for (int numero = 2; Fichier::existe(copie) && !estGarde(copie); ++numero)
+        copie = QStringLiteral("%1.illisible-%2").arg(chemin, QString::number(numero));
+    return copie;
+}
+
 // QSaveFile words the refusal of an existing file itself; opening that file says what the system holds against it.
 QString raisonDuRefus(const QSaveFile &fichier)
 {
@@ -226,20 +236,40 @@ void Fichier::ecrire(const QString &chemin, const QByteArray &octets)
 
 QString Fichier::mettreDeCote(const QString &chemin, const QByteArray &contenu)
 {
-    QString copie = chemin + QStringLiteral(".illisible");
-    for (int numero = 2; existe(copie); ++numero) {
-        if (lire(copie, Borne::toute) == contenu)
-            return QFileInfo(copie).fileName(); // already kept, by an attempt whose write then failed
-        copie = QStringLiteral("%1.illisible-%2").arg(chemin, QString::number(numero));
-    }
-    ecrire(copie, contenu);
+    const QString copie = nomDeCote(chemin, [&](const QString &nom) { return lire(nom, Borne::toute) == contenu; });
+    if (!existe(copie))
+        ecrire(copie, contenu);
+    return QFileInfo(copie).fileName();
+}
+
+bool Fichier::excede(const QString &chemin, qint64 borne)
+{
+    const QFileInfo info(chemin);
+    return info.isFile() && info.size() > borne;
+}
+
+QString Fichier::doubler(const QString &chemin)
+{
+    const QString copie = nomDeCote(chemin, [&](const QString &nom) {
+        std::error_code erreur;
+        return std::filesystem::equivalent(nom.toStdString(), chemin.toStdString(), erreur);
+    });
+    const Dossier dossier{QFileInfo(copie)};
+    if (!existe(copie)
+        && linkat(AT_FDCWD, QFile::encodeName(chemin).constData(), AT_FDCWD, QFile::encodeName(copie).constData(),
+                  AT_SYMLINK_FOLLOW)
+               != 0)
+        throw ErreurStockage(chemin, raisonSysteme(errno));
+    if (const int erreur = dossier.synchroniser())
+        throw ErreurStockage(copie, raisonSysteme(erreur));
     return QFileInfo(copie).fileName();
 }
 
 void Fichier::effacer(const QString &chemin)
 {
-    const auto avant = lireOuRefuser(chemin, Borne::toute);
-    if (!avant && !QFileInfo(chemin).isSymLink()) // what it leads to may come back
+    const bool geant = excede(chemin, Borne::toute);
+    const auto avant = geant ? std::nullopt : lireOuRefuser(chemin, Borne::toute);
+    if (!avant && !geant && !QFileInfo(chemin).isSymLink()) // what it leads to may come back
         return;
     const Dossier dossier{QFileInfo(chemin)};
     std::error_code erreur;

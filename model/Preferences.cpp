@@ -58,6 +58,18 @@ QByteArray encoder(const Valeurs &valeurs)
     return texte.toUtf8();
 }
 
+// Of the file that is to be replaced: its texts, or else the name of its copy.
+Valeurs aGarder(const QString &fichier)
+{
+    if (Fichier::excede(fichier, Fichier::Borne::preferences))
+        return {{cleDeLaCopie, Fichier::doubler(fichier)}};
+    const auto octets = Fichier::lireOuRefuser(fichier, Fichier::Borne::preferences);
+    if (!octets)
+        return {};
+    const auto valeurs = decoder(*octets);
+    return valeurs ? *valeurs : Valeurs{{cleDeLaCopie, Fichier::mettreDeCote(fichier, *octets)}};
+}
+
 } // namespace
 
 Preferences Preferences::deLUtilisateur()
@@ -91,12 +103,9 @@ Preferences::Trouvee Preferences::chercher(const QString &cle) const
 void Preferences::ecrire(const QString &cle, const QString &texte)
 {
     Fichier::creerDossier(QFileInfo(fichier_).absolutePath());
-    const auto octets = Fichier::lireOuRefuser(fichier_, Fichier::Borne::preferences);
-    auto valeurs = octets ? decoder(*octets) : Valeurs();
-    if (!valeurs)
-        valeurs = {{cleDeLaCopie, Fichier::mettreDeCote(fichier_, *octets)}};
-    valeurs->insert(cle, texte);
-    Fichier::ecrire(fichier_, encoder(*valeurs));
+    Valeurs valeurs = aGarder(fichier_);
+    valeurs.insert(cle, texte);
+    Fichier::ecrire(fichier_, encoder(valeurs));
 }
 
 } // namespace Quillet

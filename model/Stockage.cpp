@@ -37,6 +37,10 @@ void Stockage::effacer(const QString &nom)
 void Stockage::preserver(const QString &nom) const
 {
     const QString chemin = dossier_.filePath(nom);
+    if (Fichier::excede(chemin, Fichier::Borne::donnees)) {
+        Fichier::doubler(chemin);
+        return;
+    }
     const auto contenu = Fichier::lireOuRefuser(chemin, Fichier::Borne::donnees);
     if (!contenu)
         return;

@@ -51,6 +51,7 @@ private slots:
         };
         for (const auto &[nom, octets, propose] : Rangees<QByteArray, const char *>{
                  {"tel qu’écrit", deux, "2026-008"},
+                 {"démesuré", QByteArray(Fichier::Borne::preferences + 1, 'x'), nullptr},
                  {"CRLF", change("\n", "\r\n"), "2026-008"},
                  {"blancs", change("=", " =\t"), "2026-008"},
                  {"marque d’ordre", "\xEF\xBB\xBF" + deux, "2026-008"},
@@ -80,7 +81,7 @@ private slots:
             numerotation.preferences.ecrire("verification.paypal", "2026-03-02");
             QVERIFY(emission.numeroPour({}, Vendeur::mireva, jourDuBanc).isEmpty());
             QVERIFY(emission.sansProposition().contains("Quillet.ini.illisible"));
-            QCOMPARE(Fichier::lire(chemin + QStringLiteral(".illisible"), 1000), octets);
+            QCOMPARE(Fichier::lire(chemin + QStringLiteral(".illisible"), Fichier::Borne::toute), octets);
             numerotation.retenir("2026-009", Vendeur::davrel);
             QCOMPARE(emission.numeroPour({}, Vendeur::davrel, jourDuBanc), "2026-010");
             QVERIFY(emission.numeroPour({}, Vendeur::mireva, jourDuBanc).isEmpty());
