@@ -16,6 +16,8 @@ namespace {
 using Valeurs = QMap<QString, QString>;
 
 const QString entete = QStringLiteral("[General]");
+// Stands first, and tells how many texts follow: whole lines can be cut off. Files of before it announce none.
+const QString cleDuNombre = QStringLiteral("textes");
 // Names the copy of a file that was damaged, for as long as texts are missed.
 const QString cleDeLaCopie = QStringLiteral("illisible");
 
@@ -44,12 +46,14 @@ std::optional<Valeurs> decoder(QByteArray octets)
             return std::nullopt;
         valeurs.insert(cle, valeur);
     }
-    return valeurs.isEmpty() ? std::nullopt : std::optional(valeurs); // none is ever written
+    const qint64 annonces = valeurs.take(cleDuNombre).toLongLong();
+    const bool entier = !valeurs.isEmpty() && valeurs.size() >= annonces; // without any, none is ever written
+    return entier ? std::optional(valeurs) : std::nullopt;
 }
 
 QByteArray encoder(const Valeurs &valeurs)
 {
-    QString texte = entete + u'\n';
+    QString texte = QStringLiteral("%1\n%2=%3\n").arg(entete, cleDuNombre, QString::number(valeurs.size()));
     for (const auto &[cle, valeur] : valeurs.asKeyValueRange()) {
         QString propre = valeur;
         std::ranges::replace_if(propre, estUnSigneDeCommande, u' ');

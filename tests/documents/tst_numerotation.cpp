@@ -46,11 +46,18 @@ private slots:
     void fichierDesNumeros()
     {
         const QByteArray deux = "[General]\nderniereFacture.davrel=2026-007\nderniereFacture.mireva=2026-003\n";
+        const Banc banc;
+        for (const auto &[numero, vendeur] : {std::pair("2026-007", Vendeur::davrel), {"2026-003", Vendeur::mireva}})
+            NumerotationFactures{banc.preferences()}.retenir(numero, vendeur);
+        const QByteArray notre = *Fichier::lire(banc.preferences().fichier(), 1000);
         const auto change = [&](const QByteArray &avant, const QByteArray &apres) {
             return QByteArray(deux).replace(avant, apres);
         };
         for (const auto &[nom, octets, propose] : Rangees<QByteArray, const char *>{
-                 {"tel qu’écrit", deux, "2026-008"},
+                 {"tel qu’écrit", notre, "2026-008"},
+                 {"sans compte", deux, "2026-008"},
+                 {"une ligne de plus", notre + "verification.laposte=2026-03-02\n", "2026-008"},
+                 {"coupé entre deux lignes", notre.first(notre.indexOf("derniereFacture.mireva")), nullptr},
                  {"démesuré", QByteArray(Fichier::Borne::preferences + 1, 'x'), nullptr},
                  {"CRLF", change("\n", "\r\n"), "2026-008"},
                  {"blancs", change("=", " =\t"), "2026-008"},
