@@ -27,6 +27,8 @@
 #include <QStyle>
 #include <QToolButton>
 
+using namespace std::chrono_literals;
+
 namespace Quillet {
 
 namespace {
@@ -58,6 +60,8 @@ VueLivres::VueLivres(const Contexte &contexte, QWidget *parent)
       annuler_(creerBouton(QStringLiteral("arrow.uturn.backward"), QKeySequence::Undo)),
       retablir_(creerBouton(QStringLiteral("arrow.uturn.forward"), QKeySequence::Redo))
 {
+    lecture_.setSingleShot(true);
+    lecture_.setInterval(1s);
     enTete_->ajouter(choix_);
     QWidget *liste = gauche();
     Pile::colonne(this, {.espace = 0},
@@ -75,7 +79,7 @@ VueLivres::VueLivres(const Contexte &contexte, QWidget *parent)
     connect(fiche_, &FicheLivre::garder, this, [this](const Livre &livre, const PrixBouton &bouton) {
         tenter([&] { historique_.garder(livre, bouton, TextesGestes::garde(livre)); });
     });
-    connect(fiche_, &FicheLivre::saisieRefusee, this, &VueLivres::retenirLeGeste);
+    connect(fiche_, &FicheLivre::saisieRefusee, &lecture_, qOverload<>(&QTimer::start));
     connect(&historique_, &HistoriqueLivres::change, this, &VueLivres::montrerAnnulation);
     connect(fiche_, &FicheLivre::livreSuivant, volet_, &VoletLivres::passerAuSuivant);
     connect(volet_, &VoletLivres::choixChange, this, &VueLivres::actualiser);
@@ -153,13 +157,15 @@ void VueLivres::montrerAnnulation()
     nommer(retablir_, QStringLiteral("Rétablir"), historique_.aRetablir());
 }
 
+// What nobody has had the time to read is not left: by the click that takes the focus from a field first, nor by keys
+// in a burst.
 bool VueLivres::conclure()
 {
-    if (!vientDEchouer_) {
-        echec_->montrer({});
-        fiche_->conclure();
-    }
-    return !vientDEchouer_;
+    fiche_->conclure();
+    if (lecture_.isActive())
+        return false;
+    echec_->montrer({});
+    return true;
 }
 
 // Screen, memory and file agree afterwards, whatever came of it.
@@ -172,17 +178,11 @@ void VueLivres::tenter(const std::function<void()> &geste)
         echec = QStringLiteral("Modification non enregistrée : %1").arg(erreur.texte());
     }
     echec_->montrer(echec);
+    lecture_.stop();
     if (echec.isEmpty())
         return;
     actualiser();
-    retenirLeGeste();
-}
-
-void VueLivres::retenirLeGeste()
-{
-    vientDEchouer_ = true;
-    const auto oublier = [this] { vientDEchouer_ = false; };
-    QMetaObject::invokeMethod(this, oublier, Qt::QueuedConnection);
+    lecture_.start();
 }
 
 void VueLivres::revenir()

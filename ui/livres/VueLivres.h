@@ -4,6 +4,7 @@
 #include "ui/EcranDeRubrique.h"
 
 #include <QKeySequence>
+#include <QTimer>
 
 #include <functional>
 
@@ -40,7 +41,6 @@ private:
     void actualiser();
     void montrerAnnulation();
     void tenter(const std::function<void()> &geste);
-    void retenirLeGeste();
     void revenir();
 
     const Contexte &contexte_;
@@ -50,7 +50,7 @@ private:
     VoletLivres *volet_;
     FicheLivre *fiche_;
     Alerte *echec_;
-    bool vientDEchouer_ = false; // within the gesture under way: a click that leaves takes the focus from a field first
+    QTimer lecture_; // runs while what has just failed has not been read yet
     QStackedWidget *place_ = nullptr;
     QToolButton *annuler_;
     QToolButton *retablir_;
