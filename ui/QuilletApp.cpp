@@ -17,7 +17,7 @@ namespace Quillet {
 
 namespace {
 
-Verifications::Horloge horloge(const Aujourdhui &aujourdhui)
+Maintenant maintenant(const Aujourdhui &aujourdhui)
 {
     return [aujourdhui] { return QDateTime(aujourdhui(), QTime::currentTime()); };
 }
@@ -59,8 +59,8 @@ void QuilletApp::suivre(Bureau &bureau)
 QuilletApp::QuilletApp(const Ressources &ressources, Stockage stockage, const Preferences &preferences,
                        Aujourdhui aujourdhui, const PagesSurveillees &pages, const SourceMisesAJour &misesAJour)
     : catalogue_(Catalogue::charge(ressources, std::move(stockage))),
-      verifications_(*catalogue_, preferences, horloge(aujourdhui), pages),
-      misesAJour_(misesAJour, preferences, horloge(aujourdhui)),
+      verifications_(*catalogue_, preferences, maintenant(aujourdhui), pages),
+      misesAJour_(misesAJour, preferences, maintenant(aujourdhui)),
       images_(QDir(ressources.chemin(QStringLiteral("couvertures")))),
       jour_(std::move(aujourdhui)),
       preferences_(preferences),

@@ -19,7 +19,7 @@ using Cas = MisesAJour::Etat::Cas;
 
 } // namespace
 
-MisesAJour::MisesAJour(SourceMisesAJour source, Preferences preferences, Horloge maintenant)
+MisesAJour::MisesAJour(SourceMisesAJour source, Preferences preferences, Maintenant maintenant)
     : source_(std::move(source)),
       preferences_(std::move(preferences)),
       maintenant_(std::move(maintenant)),

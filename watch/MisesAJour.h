@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Preferences.h"
+#include "watch/Maintenant.h"
 #include "watch/SignatureEd25519.h"
 #include "watch/TelechargementPaquet.h"
 
@@ -43,9 +44,8 @@ public:
         QString chemin;                            // of the package, once ready
         QString message;                           // of a failure
     };
-    using Horloge = std::function<QDateTime()>;
     // The date of the last feed is kept among the preferences: an older one is not believed again.
-    MisesAJour(SourceMisesAJour source, Preferences preferences, Horloge maintenant);
+    MisesAJour(SourceMisesAJour source, Preferences preferences, Maintenant maintenant);
     ~MisesAJour() override;
     Q_DISABLE_COPY_MOVE(MisesAJour)
 
@@ -73,7 +73,7 @@ private:
 
     SourceMisesAJour source_;
     Preferences preferences_;
-    Horloge maintenant_;
+    Maintenant maintenant_;
     std::optional<SignatureEd25519::Cle> cle_;
     std::optional<NumeroDeVersion> numero_; // of the version that runs
     bool actif_;

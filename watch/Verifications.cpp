@@ -23,7 +23,7 @@ bool memesFrais(const FraisPaypal &a, const FraisPaypal &b)
 
 } // namespace
 
-Verifications::Verifications(Catalogue &catalogue, Preferences preferences, Horloge maintenant,
+Verifications::Verifications(Catalogue &catalogue, Preferences preferences, Maintenant maintenant,
                              const PagesSurveillees &pages)
     : catalogue_(catalogue), preferences_(std::move(preferences)), maintenant_(std::move(maintenant))
 {

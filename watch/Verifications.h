@@ -2,6 +2,7 @@
 
 #include "model/Catalogue.h"
 #include "model/Preferences.h"
+#include "watch/Maintenant.h"
 #include "watch/ReleveColissimo.h"
 #include "watch/RelevePaypal.h"
 #include "watch/Telechargement.h"
@@ -37,9 +38,8 @@ public:
 
         bool operator==(const Etat &) const = default;
     };
-    using Horloge = std::function<QDateTime()>;
     // The catalogue must outlive them.
-    Verifications(Catalogue &catalogue, Preferences preferences, Horloge maintenant,
+    Verifications(Catalogue &catalogue, Preferences preferences, Maintenant maintenant,
                   const PagesSurveillees &pages = {});
 
     [[nodiscard]] const Etat &etatLaPoste() const { return laPoste_.etat; }
@@ -103,7 +103,7 @@ private:
 
     Catalogue &catalogue_;
     Preferences preferences_;
-    Horloge maintenant_;
+    Maintenant maintenant_;
     Controle<ReleveColissimo> laPoste_;
     Controle<FraisPaypal> paypal_;
 };
