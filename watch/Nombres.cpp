@@ -13,8 +13,9 @@ namespace Quillet {
 namespace {
 
 // A whole part and its decimals, as `decimales` digits of a larger whole: missing ones are zeros, further ones are cut.
-// None when it does not fit, or when a digit that counts is not an ASCII one.
-std::optional<qint64> echelle(QStringView entier, QStringView fraction, qsizetype decimales)
+// None when a digit that counts is not an ASCII one.
+std::optional<qint64> echelle(QStringView entier, QStringView fraction, qsizetype decimales,
+                              std::optional<qint64> tropGrand)
 {
     const QStringView gardee = fraction.first(std::min(decimales, fraction.size()));
     const QString chiffres = entier.toString() + gardee.toString().leftJustified(decimales, u'0');
@@ -22,7 +23,7 @@ std::optional<qint64> echelle(QStringView entier, QStringView fraction, qsizetyp
         return std::nullopt;
     bool tient = false;
     const qint64 valeur = chiffres.toLongLong(&tient);
-    return tient ? std::optional(valeur) : std::nullopt;
+    return tient ? std::optional(valeur) : tropGrand;
 }
 
 qsizetype prochainChiffre(QStringView texte, qsizetype place)
@@ -46,7 +47,7 @@ qsizetype decimalesDeLUnite(QStringView texte, qsizetype place)
 } // namespace
 
 // "(\d+)(?:[,.](\d{1,2}))?"
-std::optional<qint64> TexteHTML::centiemes(QStringView texte)
+std::optional<qint64> TexteHTML::centiemes(QStringView texte, std::optional<qint64> tropGrand)
 {
     const qsizetype debut = prochainChiffre(texte, 0);
     if (debut == texte.size())
@@ -55,12 +56,12 @@ std::optional<qint64> TexteHTML::centiemes(QStringView texte)
     QStringView fraction;
     if (fin < texte.size() && (texte[fin] == u',' || texte[fin] == u'.'))
         fraction = texte.sliced(fin + 1, Signes::finDesChiffres(texte, fin + 1, 2) - fin - 1);
-    return echelle(texte.sliced(debut, fin - debut), fraction, 2);
+    return echelle(texte.sliced(debut, fin - debut), fraction, 2, tropGrand);
 }
 
 // "(\d+)(?:,(\d+))?\s*(kg|g)\b". A number that no unit follows is left for the next one, its decimals being one too:
 // each run of digits is read twice at most.
-std::optional<qint64> TexteHTML::grammes(QStringView texte)
+std::optional<qint64> TexteHTML::grammes(QStringView texte, std::optional<qint64> tropGrand)
 {
     qsizetype fin = 0;
     for (qsizetype debut = prochainChiffre(texte, 0); debut < texte.size(); debut = prochainChiffre(texte, fin)) {
@@ -72,7 +73,7 @@ std::optional<qint64> TexteHTML::grammes(QStringView texte)
         if (virgule && fraction.isEmpty())
             continue;
         if (const qsizetype decimales = decimalesDeLUnite(texte, finFraction); decimales >= 0)
-            return echelle(entier, fraction, decimales);
+            return echelle(entier, fraction, decimales, tropGrand);
     }
     return std::nullopt;
 }

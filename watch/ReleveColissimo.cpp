@@ -9,7 +9,6 @@
 #include <QHash>
 
 #include <algorithm>
-#include <functional>
 
 namespace Quillet {
 
@@ -36,13 +35,15 @@ void lireTableau(const TexteHTML::Tableau &tableau, PaliersParCode &paliers)
 {
     const QList<Colonne> grilles = colonnes(tableau.first());
     for (const TexteHTML::Rangee &rangee : tableau.sliced(1)) {
-        const auto poids = rangee.isEmpty() ? std::nullopt : TexteHTML::grammes(rangee.first());
+        if (rangee.isEmpty())
+            continue;
+        const auto poids = TexteHTML::grammes(rangee.first(), TexteHTML::horsDeToutNombre);
         if (!poids)
             continue;
         for (const Colonne &colonne : grilles) {
             if (colonne.place >= rangee.size())
                 break; // columns stand in order: a short row must not cost a wide header
-            if (const auto prix = TexteHTML::centiemes(rangee[colonne.place]))
+            if (const auto prix = TexteHTML::centiemes(rangee[colonne.place], TexteHTML::horsDeToutNombre))
                 paliers[colonne.code].append({Grammes{*poids}, Centimes{*prix}});
         }
     }
@@ -55,8 +56,11 @@ GrilleColissimo lireGrille(const GrilleColissimo &modele, const PaliersParCode &
     grille.paliers = paliers.value(modele.code);
     if (grille.paliers.isEmpty())
         throw ErreurReleve::pageIllisible(nom + QStringLiteral("introuvable"));
-    if (std::ranges::adjacent_find(grille.paliers, std::ranges::greater_equal{}, &Palier::jusqua)
-        != grille.paliers.end())
+    // What does not even fit is no disorder: it is told by its limit.
+    const auto neMontePas = [](Grammes avant, Grammes apres) {
+        return avant >= apres && avant < Grammes{TexteHTML::horsDeToutNombre};
+    };
+    if (std::ranges::adjacent_find(grille.paliers, neMontePas, &Palier::jusqua) != grille.paliers.end())
         throw ErreurReleve::pageIllisible(QStringLiteral("paliers de la ") + nom + QStringLiteral("dans le désordre"));
     return grille;
 }

@@ -7,7 +7,6 @@
 #include "watch/TexteHTML.h"
 
 #include <algorithm>
-#include <array>
 
 namespace Quillet {
 
@@ -46,30 +45,28 @@ std::optional<qint64> chercher(const QString &texte, const Figure &figure)
     for (qsizetype place = texte.indexOf(debut, 0, Qt::CaseInsensitive); place >= 0;
          place = texte.indexOf(debut, place + 1, Qt::CaseInsensitive))
         if (const auto lue = lireFigure(QStringView(texte).sliced(place + debut.size()), figure); !lue.isEmpty())
-            return TexteHTML::centiemes(lue);
+            return TexteHTML::centiemes(lue, TexteHTML::horsDeToutNombre);
     throw ErreurReleve::pageIllisible(figure.nom + QStringLiteral(" introuvable"));
-}
-
-qint64 exiger(std::optional<qint64> chiffre)
-{
-    if (!chiffre)
-        throw ErreurReleve::pageIllisible(QStringLiteral("chiffres illisibles"));
-    return *chiffre;
 }
 
 // What no file may hold.
 template <typename Quantite>
-Quantite borner(qint64 chiffre, const Figure &figure, const QString &plafond)
+Quantite borner(qint64 chiffre, const QString &nom, const QString &plafond)
 {
     const auto valeur = Quantite::bornee(chiffre);
     if (!valeur)
-        throw ErreurReleve::pageIllisible(figure.nom + QStringLiteral(" au-delà de ") + plafond);
+        throw ErreurReleve::pageIllisible(nom + QStringLiteral(" au-delà de ") + plafond);
     return *valeur;
 }
 
-Taux bornerTaux(qint64 chiffre, const Figure &figure)
+Taux bornerTaux(qint64 chiffre, const QString &nom)
 {
-    return borner<Taux>(chiffre, figure, Format::pourcentage(Taux{UniteCentiemeDePourcent::maximum}));
+    return borner<Taux>(chiffre, nom, Format::pourcentage(Taux{UniteCentiemeDePourcent::maximum}));
+}
+
+QString supplementEee()
+{
+    return QStringLiteral("supplément EEE");
 }
 
 } // namespace
@@ -86,10 +83,8 @@ FraisPaypal RelevePaypal::analyser(const QString &page, QDate releve)
                       .unite = u"%",
                       .nom = QStringLiteral("taux de base")};
     const Figure fixe{.libelle = QStringLiteral("Euro"), .unite = u"eur", .nom = QStringLiteral("part fixe en euros")};
-    const Figure eee{.libelle = QStringLiteral("EEE"),
-                     .unite = u"%",
-                     .nom = QStringLiteral("supplément EEE"),
-                     .aucune = u"aucune commission"};
+    const Figure eee{
+        .libelle = QStringLiteral("EEE"), .unite = u"%", .nom = supplementEee(), .aucune = u"aucune commission"};
     const Figure royaumeUni{
         .libelle = QStringLiteral("Royaume-Uni"), .unite = u"%", .nom = QStringLiteral("supplément Royaume-Uni")};
     const Figure autres{.libelle = QStringLiteral("Tous les autres marchés"),
@@ -100,17 +95,23 @@ FraisPaypal RelevePaypal::analyser(const QString &page, QDate releve)
     const auto luEee = chercher(texte, eee);
     const auto luRoyaumeUni = chercher(texte, royaumeUni);
     const auto luAutres = chercher(texte, autres);
-    const std::array chiffres{exiger(luTaux), exiger(luFixe), exiger(luRoyaumeUni), exiger(luAutres)};
+    if (!luTaux || !luFixe || !luRoyaumeUni || !luAutres)
+        throw ErreurReleve::pageIllisible(QStringLiteral("chiffres illisibles"));
     return {.releve = releve,
             .source = adresse(),
-            .taux = bornerTaux(chiffres[0], taux),
-            .fixe = borner<Centimes>(chiffres[1], fixe, Format::euros(Centimes{UniteCentime::maximum})),
+            .taux = bornerTaux(*luTaux, taux.nom),
+            .fixe = borner<Centimes>(*luFixe, fixe.nom, Format::euros(Centimes{UniteCentime::maximum})),
             .supplements = {
                 // It never fails; no commission is no number.
                 {RegionPaypal::eee, Taux{std::min(luEee.value_or(0), supplementMaximal)}},
-                {RegionPaypal::royaumeUni, bornerTaux(chiffres[2], royaumeUni)},
-                {RegionPaypal::autres, bornerTaux(chiffres[3], autres)},
+                {RegionPaypal::royaumeUni, bornerTaux(*luRoyaumeUni, royaumeUni.nom)},
+                {RegionPaypal::autres, bornerTaux(*luAutres, autres.nom)},
             }};
+}
+
+void RelevePaypal::exigerEnregistrables(const FraisPaypal &lus)
+{
+    bornerTaux(lus.supplement(RegionPaypal::eee).valeur(), supplementEee());
 }
 
 } // namespace Quillet
