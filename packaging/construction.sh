@@ -11,7 +11,8 @@ atelier() {
     monter_racine "$racine"
     mkdir -p "$racine/tmp/sources"
     git archive "$commit" cmake | tar -x -C "$racine/tmp/sources"
-    dans_racine "$racine" bash -euc 'cd /tmp/sources && source cmake/paquets.sh
+    dans_racine "$racine" bash -euc 'cd /tmp/sources
+        source cmake/paquets.sh
         installer "${paquets_pour_empaqueter[@]}"' >"$racine/tmp/apt.log" 2>&1 ||
         { tail "$racine/tmp/apt.log" >&2; return 1; }
 }
@@ -26,7 +27,8 @@ construire_paquets() {
     mkdir -p "$racine$copie"
     git archive "$commit" | tar --touch -x -C "$racine$copie" # as in a clone, files bear the hour
     dans_racine "$racine" "COPIE=$copie" "${environnement[@]}" \
-        bash -euc 'cd "$COPIE" && umask "${MASQUE:-022}"
+        bash -euc 'cd "$COPIE"
+        umask "${MASQUE:-022}"
         lancer() { ${HORLOGE:+faketime -f "$HORLOGE"} "$@"; }
         lancer cmake --preset paquet "$@"
         lancer cmake --build --preset paquet

@@ -82,10 +82,19 @@ def _racine(appcast, cle):
     return ET.fromstring(lu[1])
 
 
-def _ouvrir(appcast, cle):
+def _datable(appcast, jour, cle):
+    """The same, when that day comes after its own: the program would not believe it otherwise."""
+    racine = _racine(appcast, cle)
+    dernier = racine.get(ETABLI)
+    if dernier and jour.replace(microsecond=0) <= datetime.fromisoformat(dernier):
+        raise Refus(f"{appcast} porte déjà la date {dernier} : mettez l’ordinateur à l’heure.")
+    return racine
+
+
+def _ouvrir(appcast, jour, cle):
     """The same, or a new one when there is no file."""
     if os.path.exists(appcast):
-        return _racine(appcast, cle)
+        return _datable(appcast, jour, cle)
     racine = ET.Element("rss", {"version": "2.0"})
     canal = ET.SubElement(racine, "channel")
     ET.SubElement(canal, "title").text = "Quillet"
@@ -96,10 +105,6 @@ def _ouvrir(appcast, cle):
 
 def _ecrire(appcast, racine, jour, cle):
     """Dates and signs the feed; an incomplete file is never seen."""
-    jour = jour.replace(microsecond=0)
-    dernier = racine.get(ETABLI)
-    if dernier and jour <= datetime.fromisoformat(dernier):
-        raise Refus(f"{appcast} porte déjà la date {dernier} : mettez l’ordinateur à l’heure.")
     for attribut, instant in ((ETABLI, jour), (EXPIRE, jour + VALIDITE)):
         racine.set(attribut, instant.astimezone(timezone.utc).strftime("%Y-%m-%dT%H:%M:%SZ"))
     ET.indent(racine)
@@ -118,9 +123,9 @@ def _nombres(version):
         raise Refus(f"La version {version} n’est pas faite de nombres.") from erreur
 
 
-def ouvrir(appcast, version, cle):
+def ouvrir(appcast, version, jour, cle):
     """The root that a version goes to. One that does not come after all those in it would be offered to nobody."""
-    racine = _ouvrir(appcast, cle)
+    racine = _ouvrir(appcast, jour, cle)
     for element in racine.iterfind(f"channel/item/{{{SPARKLE}}}version"):
         if _nombres(element.text) >= _nombres(version):
             raise Refus(f"La version {version} ne vient pas après {element.text}, qui est dans {appcast}.")
@@ -129,12 +134,12 @@ def ouvrir(appcast, version, cle):
 
 def prolonger(appcast, jour, cle):
     """Signs the appcast as it is."""
-    _ecrire(appcast, _racine(appcast, cle), jour, cle)
+    _ecrire(appcast, _datable(appcast, jour, cle), jour, cle)
 
 
 def inscrire(appcast, version, notes_de_version, paquets, jour, cle):
     """Puts a version at the head of the appcast, which is made if there is none."""
-    racine = ouvrir(appcast, version, cle)
+    racine = ouvrir(appcast, version, jour, cle)
     canal = racine.find("channel")
     entree = ET.Element("item")
     ET.SubElement(entree, "title").text = f"Quillet {version}"

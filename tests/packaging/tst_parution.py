@@ -96,6 +96,8 @@ class Parution(unittest.TestCase):
         for version in ("1.10", "1.10.0", "1.9.5", "1.11-rc1"):
             with self.assertRaisesRegex(parution.Refus, re.escape(version)):
                 self.inscrire(version, "Encore", JOUR + timedelta(days=2))
+        with self.assertRaisesRegex(parution.Refus, "heure"):
+            parution.ouvrir(self.appcast, "2.0", JOUR + timedelta(days=1), self.cle)
         self.assertEqual(Path(self.appcast).read_bytes(), avant)
 
     def test_a_feed_is_signed_anew_later_and_only_as_this_key_signed_it(self):
