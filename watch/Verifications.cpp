@@ -1,8 +1,5 @@
 #include "watch/Verifications.h"
 
-#include "model/Format.h"
-#include "model/Stockage.h"
-
 #include <utility>
 
 using namespace std::chrono_literals;
@@ -87,11 +84,7 @@ void Verifications::accepterFrais()
 {
     if (!paypal_.nouveau)
         return;
-    // Its reading refuses none, its file would not be read again.
-    if (!Taux::bornee(paypal_.nouveau->supplement(RegionPaypal::eee).valeur()))
-        throw ErreurStockage(Stockage::fichierDesFrais(),
-                             QStringLiteral("supplément EEE au-delà de ")
-                                 + Format::pourcentage(Taux{UniteCentiemeDePourcent::maximum}));
+    RelevePaypal::exigerEnregistrables(*paypal_.nouveau);
     catalogue_.enregistrer(*paypal_.nouveau);
     accepter(paypal_);
 }

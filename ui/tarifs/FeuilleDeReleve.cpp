@@ -3,7 +3,7 @@
 #include "composants/Alerte.h"
 #include "composants/Boutons.h"
 #include "composants/Pile.h"
-#include "model/Fichier.h"
+#include "model/Echec.h"
 #include "textes/TextesReleves.h"
 
 #include <QMessageBox>
@@ -34,7 +34,7 @@ void FeuilleDeReleve::composer(QWidget *page, const Accord &accord)
         try {
             accord.accepter();
             accept();
-        } catch (const ErreurStockage &echec) {
+        } catch (const Echec &echec) {
             erreur->montrer(echec.texte());
         }
     });
