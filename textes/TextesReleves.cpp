@@ -47,6 +47,12 @@ QString TextesReleves::effet(const PorteeTarifs &portee)
     return QStringLiteral("Rien ne change pour les commandes d’aujourd’hui.");
 }
 
+QString TextesReleves::depuisLaVeille(const QList<EcartTarif> &ecarts)
+{
+    const QString parRapport = QStringLiteral("Par rapport aux tarifs de la veille");
+    return ecarts.isEmpty() ? parRapport + QStringLiteral(", aucun palier ne change.") : parRapport;
+}
+
 QStringList TextesReleves::reserves(const PorteeTarifs &portee, const TarifsColissimo &lus, const Donnees &donnees,
                                     const Jour &aujourdhui)
 {

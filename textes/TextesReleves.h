@@ -12,6 +12,8 @@ namespace Quillet::TextesReleves {
 
 // What orders pay otherwise, and from when; empty when these schedules have no effect.
 QString effet(const PorteeTarifs &portee);
+// What heads the list of differences from the day before, or stands for it when it is empty.
+QString depuisLaVeille(const QList<EcartTarif> &ecarts);
 // A sentence for whatever is wrong with the schedules as a whole.
 QStringList reserves(const PorteeTarifs &portee, const TarifsColissimo &lus, const Donnees &donnees,
                      const Jour &aujourdhui);

@@ -16,6 +16,9 @@ struct PorteeTarifs
     bool sansEffet = false;       // others, of a later day, are in force already
     bool desAujourdhui = false;   // today's orders follow them
 
+    // Whether they change those known for their day: the list, which speaks of the day before, does not say so.
+    [[nodiscard]] bool corrige() const { return correction && !ecarts.isEmpty(); }
+
     static PorteeTarifs de(const Donnees &donnees, const TarifsColissimo &lus, const Jour &aujourdhui);
 };
 

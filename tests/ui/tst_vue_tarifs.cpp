@@ -170,18 +170,24 @@ private slots:
     // What was read is not in force today, yet no tier differs from the day before it comes into force.
     void pasDeChangement()
     {
-        const TarifsColissimo connus = banc_->donnees.tarifs.last();
-        TarifsColissimo courts = connus;
-        courts.validite = QDate(2026, 3, 1);
-        courts.grilles.removeLast();
-        courts.grilles[0].paliers[0].prix = Centimes{600};
-        banc_->donnees.tarifs.append(courts);
-        demarrer(connus, banc_->donnees.reglages.fraisPaypal, "1er mars 2026");
-        QDialog *feuille = banc_->ouvrir(voirTarifs);
-        QVERIFY(Ecran::montre(feuille, "Pas de changement"));
+        QDialog *feuille = relusCommeLaVeille("15 février 2026");
         QVERIFY(Ecran::montre(feuille, "Les tarifs de laposte.fr sont ceux de l’app."));
         QVERIFY(!Ecran::controle(feuille, enregistrer));
         QVERIFY(Ecran::cliquer(feuille, "Fermer"));
+    }
+
+    // Saying no more than that, the sheet would hide that today's orders are to change.
+    void correctionCommeLaVeille()
+    {
+        QDialog *feuille = relusCommeLaVeille("1er mars 2026");
+        QVERIFY(Ecran::montre(feuille, "Pas de changement"));
+        QVERIFY(Ecran::montre(feuille, "Pour les commandes d’aujourd’hui, 1 palier change."));
+        QVERIFY(Ecran::montre(feuille, "Par rapport aux tarifs de la veille, aucun palier ne change."));
+        QCOMPARE(BancEcran::luAuTableau(feuille, "France", "Après"), "5,49 €");
+        QVERIFY(Ecran::controle(feuille, "Fermer"));
+        QVERIFY(Ecran::cliquer(feuille, enregistrer));
+        QTRY_VERIFY(!Dialogues::devant());
+        QCOMPARE(rubrique(), "Tarifs Colissimo");
     }
 
     void verificationManquee()
@@ -203,6 +209,19 @@ private slots:
     }
 
 private:
+    // The prices of before the schedule in force, which has a grid less, read again as from that day.
+    QDialog *relusCommeLaVeille(const QString &dateDEffet)
+    {
+        const TarifsColissimo connus = banc_->donnees.tarifs.last();
+        TarifsColissimo courts = connus;
+        courts.validite = QDate(2026, 3, 1);
+        courts.grilles.removeLast();
+        courts.grilles[0].paliers[0].prix = Centimes{600};
+        banc_->donnees.tarifs.append(courts);
+        demarrer(connus, banc_->donnees.reglages.fraisPaypal, dateDEffet);
+        return banc_->ouvrir(voirTarifs);
+    }
+
     // Starts on these pages, and waits until both were checked.
     void demarrer(const TarifsColissimo &tarifs, const FraisPaypal &frais, const QString &dateDEffet = "1er avril 2026")
     {

@@ -62,10 +62,10 @@ Tableau *changements(const QList<EcartTarif> &ecarts, const QSet<QString> &aVeri
     return rangees;
 }
 
-// The list, which speaks of the day before, does not say what then changes.
-bool corrige(const PorteeTarifs &portee)
+EtatVide *pasDeChangement()
 {
-    return portee.correction && !portee.ecarts.isEmpty();
+    return new EtatVide(QStringLiteral("checkmark.seal"), QStringLiteral("Pas de changement"),
+                        QStringLiteral("Les tarifs de laposte.fr sont ceux de l’app."));
 }
 
 // Rows set off from the list under them.
@@ -100,11 +100,15 @@ QWidget *listes(const QList<EcartTarif> &ecarts, const PorteeTarifs &portee)
     const int ascenseur = page->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     QBoxLayout *colonne =
         Pile::colonne(page, {.marges = {marge - retrait, 0, marge - ascenseur - retrait, marge}, .espace = 0});
-    if (corrige(portee)) {
-        auto *veille = new Libelle(QStringLiteral("Par rapport aux tarifs de la veille"), Libelle::Rang::secondaire);
+    if (portee.corrige()) {
+        auto *veille = new Libelle(TextesReleves::depuisLaVeille(ecarts), Libelle::Rang::secondaire);
         veille->setContentsMargins(retrait, 18, retrait, 8);
         colonne->addWidget(new Encadre(TextesReleves::effet(portee), changements(portee.ecarts, aVerifier)));
         colonne->addWidget(veille);
+    }
+    if (ecarts.isEmpty()) {
+        colonne->addWidget(pasDeChangement(), 1);
+        return page;
     }
     Tableau *liste = changements(ecarts, aVerifier);
     liste->setContentsMargins(retrait, 0, retrait, 0);
@@ -120,15 +124,14 @@ CarteNouveauxTarifs::CarteNouveauxTarifs(const Contexte &contexte, QWidget *pare
 {
     const ReleveColissimo releve = *contexte.verifications.nouveauxTarifs();
     const auto ecarts = EcartTarif::duReleve(contexte.donnees(), releve.tarifs);
-    if (ecarts.isEmpty()) {
-        composerVide(new EtatVide(QStringLiteral("checkmark.seal"), QStringLiteral("Pas de changement"),
-                                  QStringLiteral("Les tarifs de laposte.fr sont ceux de l’app.")));
+    const Jour aujourdhui = contexte.jour.aujourdhui();
+    const auto portee = PorteeTarifs::de(contexte.donnees(), releve.tarifs, aujourdhui);
+    if (ecarts.isEmpty() && !portee.corrige()) {
+        composerVide(pasDeChangement());
         prendreLaTaille(tailleVide);
         return;
     }
 
-    const Jour aujourdhui = contexte.jour.aujourdhui();
-    const auto portee = PorteeTarifs::de(contexte.donnees(), releve.tarifs, aujourdhui);
     const QStringList aVerifier = TextesReleves::prixAVerifier(portee);
     QStringList reserves = TextesReleves::reserves(portee, releve.tarifs, contexte.donnees(), aujourdhui);
 
@@ -143,7 +146,7 @@ CarteNouveauxTarifs::CarteNouveauxTarifs(const Contexte &contexte, QWidget *pare
                        Alerte::Ton::avertissement));
     for (const QString &phrase : reserves + TextesReleves::resume(aVerifier))
         tete->addWidget(new Alerte(phrase));
-    if (const QString effet = TextesReleves::effet(portee); !effet.isEmpty() && !corrige(portee))
+    if (const QString effet = TextesReleves::effet(portee); !effet.isEmpty() && !portee.corrige())
         tete->addWidget(new Alerte(QStringLiteral("info.circle"), effet, Alerte::Ton::note));
     tete->addSpacing(8);
     tete->addWidget(tableau());
@@ -154,15 +157,18 @@ CarteNouveauxTarifs::CarteNouveauxTarifs(const Contexte &contexte, QWidget *pare
     defilement->setAccessibleName(QStringLiteral("Paliers qui changent"));
     auto *compte = new Libelle(TextesVerifications::compte(ecarts, releve.tarifs));
     compte->setContentsMargins(marge, 10, marge, 0);
+    QWidget *total = Pile::enColonne({.marges = {0, 0, 0, 12}, .espace = 0}, {filet(Qt::Horizontal), compte});
+    if (ecarts.isEmpty())
+        total->hide();
 
-    QWidget *page =
-        Pile::enColonne({.marges = {0, 0, 0, 12}, .espace = 0}, {tete, {defilement, 1}, filet(Qt::Horizontal), compte});
+    QWidget *page = Pile::enColonne({.espace = 0}, {tete, {defilement, 1}, total});
     Verifications &verifications = contexte.verifications;
     composer(page, {.bouton = QStringLiteral("Enregistrer ces tarifs"),
                     .question = QStringLiteral("Enregistrer ces tarifs quand même ?"),
                     .reserves = reserves + aVerifier,
                     .tientEncore = [&verifications, releve] { return verifications.nouveauxTarifs() == releve; },
-                    .accepter = [&verifications] { verifications.accepterTarifs(); }});
+                    .accepter = [&verifications] { verifications.accepterTarifs(); },
+                    .plusTard = ecarts.isEmpty() ? fermer() : plusTard()});
     prendreLaTaille(taille);
 }
 

@@ -20,7 +20,7 @@ constexpr int marge = 24;
 void FeuilleDeReleve::composer(QWidget *page, const Accord &accord)
 {
     auto *erreur = new Alerte;
-    QPushButton *plusTard = Boutons::deFeuille(QStringLiteral("Plus tard"));
+    QPushButton *plusTard = Boutons::deFeuille(accord.plusTard);
     auto *garder = new QPushButton(accord.bouton);
     connect(plusTard, &QPushButton::clicked, this, &QDialog::reject);
     connect(garder, &QPushButton::clicked, this, [this, erreur, accord] {
@@ -47,9 +47,9 @@ void FeuilleDeReleve::composer(QWidget *page, const Accord &accord)
 
 void FeuilleDeReleve::composerVide(QWidget *page)
 {
-    QPushButton *fermer = Boutons::deFeuille(QStringLiteral("Fermer"));
-    connect(fermer, &QPushButton::clicked, this, &QDialog::reject);
-    Pile::colonne(this, {.marges = {marge, marge, marge, marge}}, {{page, 1}, {fermer, 0, Qt::AlignHCenter}});
+    QPushButton *bouton = Boutons::deFeuille(fermer());
+    connect(bouton, &QPushButton::clicked, this, &QDialog::reject);
+    Pile::colonne(this, {.marges = {marge, marge, marge, marge}}, {{page, 1}, {bouton, 0, Qt::AlignHCenter}});
 }
 
 bool FeuilleDeReleve::confirme(const Accord &accord)

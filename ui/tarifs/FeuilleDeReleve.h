@@ -17,6 +17,9 @@ public:
     using Feuille::Feuille;
 
 protected:
+    static QString fermer() { return QStringLiteral("Fermer"); }
+    static QString plusTard() { return QStringLiteral("Plus tard"); }
+
     struct Accord
     {
         QString bouton;
@@ -24,6 +27,7 @@ protected:
         QStringList reserves;              // which is this
         std::function<bool()> tientEncore; // what is kept is what the sheet shows: the page may have been read again
         std::function<void()> accepter;    // stores it; when it throws an Echec the sheet stays open and says why
+        QString plusTard = FeuilleDeReleve::plusTard(); // closes the sheet
     };
     // `page`, then the buttons.
     void composer(QWidget *page, const Accord &accord);
