@@ -37,7 +37,8 @@ std::optional<LienPaypal::Defaut> LienPaypal::defaut(const QString &lien, const 
     const QString la = hote(lien);
     if (la.isEmpty() || adresse(lien).scheme() != QLatin1String("https"))
         return Defaut::pasHttps;
-    QStringList sites{QStringLiteral("paypal.com"), QStringLiteral("paypal.me")};
+    QStringList sites{QStringLiteral("paypal.com"), QStringLiteral("paypal.me"),
+                      QStringLiteral("py.pl")}; // where it shortens its own links
     if (site && !site->isEmpty())
         sites.append(nomDeSite(*site));
     const bool connu = std::ranges::any_of(sites, [&](const QString &leSien) { return estSur(la, leSien); });
