@@ -1,5 +1,6 @@
 #include "watch/Transfert.h"
 
+#include <QHash>
 #include <QNetworkProxy>
 #include <QProcess>
 
@@ -16,51 +17,32 @@ namespace {
 constexpr rlim_t memoire = rlim_t{256} << 20; // of addresses: four times what curl takes for an honest answer
 constexpr int mortEnMillisecondes = 1000;
 
-// How curl ended (its manual lists the codes), in our own words.
-enum Code {
-    reussi = 0,
-    protocoleRefuse = 1,
-    adresseAbsente = 2, // what Qt 6.8 makes of an invalid one
-    adresseInvalide = 3,
-    mandataireIntrouvable = 5,
-    serveurIntrouvable = 6,
-    connexionImpossible = 7,
-    coupee = 18,
-    reponseRefusee = 22,
-    delaiDepasse = 28,
-    chiffrementImpossible = 35,
-    tropDeRedirections = 47,
-    certificatRefuse = 60,
-    tropGros = 63,
-    autoritesIllisibles = 77,
-    mandataireDefaillant = 97,
-};
+// How curl ended: its manual lists all codes.
+enum Code { reussi = 0, protocoleRefuse = 1, reponseRefusee = 22 };
 
+const QString interrompue = QStringLiteral("connexion interrompue"); // also for want of memory
+
+// Of the others, in our own words.
 QString cause(int code)
 {
-    switch (code) {
-    case adresseAbsente:
-    case adresseInvalide:
-    case serveurIntrouvable:
-        return QStringLiteral("serveur introuvable");
-    case connexionImpossible:
-        return QStringLiteral("connexion impossible");
-    case delaiDepasse:
-        return QStringLiteral("téléchargement trop long");
-    case chiffrementImpossible:
-    case certificatRefuse:
-    case autoritesIllisibles:
-        return QStringLiteral("connexion sécurisée impossible");
-    case tropDeRedirections:
-        return QStringLiteral("trop de redirections");
-    case tropGros:
-        return Transfert::tropVolumineuse();
-    case mandataireIntrouvable:
-    case mandataireDefaillant:
-        return QStringLiteral("serveur mandataire inaccessible");
-    default: // also for want of memory
-        return QStringLiteral("connexion interrompue");
-    }
+    const QString introuvable = QStringLiteral("serveur introuvable");
+    const QString nonSecurisee = QStringLiteral("connexion sécurisée impossible");
+    const QString mandataire = QStringLiteral("serveur mandataire inaccessible");
+    const QHash<int, QString> causes{
+        {2, introuvable}, // no address, which is what Qt 6.8 makes of an invalid one
+        {3, introuvable}, // an invalid one
+        {6, introuvable},
+        {5, mandataire},
+        {97, mandataire},
+        {7, QStringLiteral("connexion impossible")},
+        {28, QStringLiteral("téléchargement trop long")},
+        {35, nonSecurisee},
+        {60, nonSecurisee}, // its certificate
+        {77, nonSecurisee}, // no authority to ask
+        {47, QStringLiteral("trop de redirections")},
+        {63, Transfert::tropVolumineuse()},
+    };
+    return causes.value(code, interrompue);
 }
 
 const QString marqueDuBilan = QStringLiteral("\n--\n"); // other words may stand before it
@@ -217,7 +199,7 @@ void Transfert::conclure()
     if (curl->error() == QProcess::FailedToStart)
         return emit echoue(QStringLiteral("le programme curl n’est pas installé"));
     if (curl->exitStatus() == QProcess::CrashExit)
-        return emit echoue(cause(coupee));
+        return emit echoue(interrompue);
     const int code = curl->exitCode();
     if (code == protocoleRefuse && bilan.erreur.startsWith("Protocol \"http\""))
         return emit echoue(QStringLiteral("redirection vers une adresse non sécurisée"));
@@ -227,7 +209,7 @@ void Transfert::conclure()
     if (code != reussi || bilan.statut != 200)
         return emit echoue(QStringLiteral("réponse %1 de %2").arg(bilan.statut).arg(adresse_.host()));
     if (octets_ == 0 && !bilan.delimite) // curl takes a head that was cut for a whole one
-        return emit echoue(cause(coupee));
+        return emit echoue(interrompue);
     emit termine(bilan.codage);
 }
 
