@@ -13,9 +13,8 @@ namespace Quillet {
 namespace {
 
 // A whole part and its decimals, as `decimales` digits of a larger whole: missing ones are zeros, further ones are cut.
-// None when a digit that counts is not an ASCII one.
-std::optional<qint64> echelle(QStringView entier, QStringView fraction, qsizetype decimales,
-                              std::optional<qint64> tropGrand)
+// None when it does not fit, or when a digit that counts is not an ASCII one.
+std::optional<qint64> echelle(QStringView entier, QStringView fraction, qsizetype decimales)
 {
     const QStringView gardee = fraction.first(std::min(decimales, fraction.size()));
     const QString chiffres = entier.toString() + gardee.toString().leftJustified(decimales, u'0');
@@ -23,7 +22,7 @@ std::optional<qint64> echelle(QStringView entier, QStringView fraction, qsizetyp
         return std::nullopt;
     bool tient = false;
     const qint64 valeur = chiffres.toLongLong(&tient);
-    return tient ? std::optional(valeur) : tropGrand;
+    return tient ? std::optional(valeur) : std::nullopt;
 }
 
 qsizetype prochainChiffre(QStringView texte, qsizetype place)
@@ -47,7 +46,7 @@ qsizetype decimalesDeLUnite(QStringView texte, qsizetype place)
 } // namespace
 
 // "(\d+)(?:[,.](\d{1,2}))?"
-std::optional<qint64> TexteHTML::centiemes(QStringView texte, std::optional<qint64> tropGrand)
+std::optional<qint64> TexteHTML::centiemes(QStringView texte)
 {
     const qsizetype debut = prochainChiffre(texte, 0);
     if (debut == texte.size())
@@ -56,12 +55,12 @@ std::optional<qint64> TexteHTML::centiemes(QStringView texte, std::optional<qint
     QStringView fraction;
     if (fin < texte.size() && (texte[fin] == u',' || texte[fin] == u'.'))
         fraction = texte.sliced(fin + 1, Signes::finDesChiffres(texte, fin + 1, 2) - fin - 1);
-    return echelle(texte.sliced(debut, fin - debut), fraction, 2, tropGrand);
+    return echelle(texte.sliced(debut, fin - debut), fraction, 2);
 }
 
 // "(\d+)(?:,(\d+))?\s*(kg|g)\b". A number that no unit follows is left for the next one, its decimals being one too:
 // each run of digits is read twice at most.
-std::optional<qint64> TexteHTML::grammes(QStringView texte, std::optional<qint64> tropGrand)
+std::optional<qint64> TexteHTML::grammes(QStringView texte)
 {
     qsizetype fin = 0;
     for (qsizetype debut = prochainChiffre(texte, 0); debut < texte.size(); debut = prochainChiffre(texte, fin)) {
@@ -73,7 +72,7 @@ std::optional<qint64> TexteHTML::grammes(QStringView texte, std::optional<qint64
         if (virgule && fraction.isEmpty())
             continue;
         if (const qsizetype decimales = decimalesDeLUnite(texte, finFraction); decimales >= 0)
-            return echelle(entier, fraction, decimales, tropGrand);
+            return echelle(entier, fraction, decimales);
     }
     return std::nullopt;
 }

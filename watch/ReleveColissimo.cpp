@@ -9,6 +9,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <functional>
 
 namespace Quillet {
 
@@ -35,15 +36,13 @@ void lireTableau(const TexteHTML::Tableau &tableau, PaliersParCode &paliers)
 {
     const QList<Colonne> grilles = colonnes(tableau.first());
     for (const TexteHTML::Rangee &rangee : tableau.sliced(1)) {
-        if (rangee.isEmpty())
-            continue;
-        const auto poids = TexteHTML::grammes(rangee.first(), TexteHTML::horsDeToutNombre);
+        const auto poids = rangee.isEmpty() ? std::nullopt : TexteHTML::grammes(rangee.first());
         if (!poids)
             continue;
         for (const Colonne &colonne : grilles) {
             if (colonne.place >= rangee.size())
                 break; // columns stand in order: a short row must not cost a wide header
-            if (const auto prix = TexteHTML::centiemes(rangee[colonne.place], TexteHTML::horsDeToutNombre))
+            if (const auto prix = TexteHTML::centiemes(rangee[colonne.place]))
                 paliers[colonne.code].append({Grammes{*poids}, Centimes{*prix}});
         }
     }
@@ -56,11 +55,8 @@ GrilleColissimo lireGrille(const GrilleColissimo &modele, const PaliersParCode &
     grille.paliers = paliers.value(modele.code);
     if (grille.paliers.isEmpty())
         throw ErreurReleve::pageIllisible(nom + QStringLiteral("introuvable"));
-    // What does not even fit is no disorder: it is told by its limit.
-    const auto neMontePas = [](Grammes avant, Grammes apres) {
-        return avant >= apres && avant < Grammes{TexteHTML::horsDeToutNombre};
-    };
-    if (std::ranges::adjacent_find(grille.paliers, neMontePas, &Palier::jusqua) != grille.paliers.end())
+    if (std::ranges::adjacent_find(grille.paliers, std::ranges::greater_equal{}, &Palier::jusqua)
+        != grille.paliers.end())
         throw ErreurReleve::pageIllisible(QStringLiteral("paliers de la ") + nom + QStringLiteral("dans le désordre"));
     return grille;
 }

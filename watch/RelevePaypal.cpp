@@ -45,7 +45,7 @@ std::optional<qint64> chercher(const QString &texte, const Figure &figure)
     for (qsizetype place = texte.indexOf(debut, 0, Qt::CaseInsensitive); place >= 0;
          place = texte.indexOf(debut, place + 1, Qt::CaseInsensitive))
         if (const auto lue = lireFigure(QStringView(texte).sliced(place + debut.size()), figure); !lue.isEmpty())
-            return TexteHTML::centiemes(lue, TexteHTML::horsDeToutNombre);
+            return TexteHTML::centiemes(lue);
     throw ErreurReleve::pageIllisible(figure.nom + QStringLiteral(" introuvable"));
 }
 
