@@ -66,6 +66,8 @@ Donnees charger(const Ressources &ressources, Stockage &stockage)
     donnees.reglages = reglagesAvecFrais(ressources, stockage);
     donnees.livres = livresModifies(ressources, stockage);
     donnees.destinations = ressources.lire<QList<Destination>>(QStringLiteral("destinations"));
+    if (ressources.existe(QStringLiteral("pays")))
+        donnees.pays = ressources.lire<QList<Pays>>(QStringLiteral("pays"));
     return donnees;
 }
 

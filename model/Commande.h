@@ -23,6 +23,8 @@ public:
     void setHorsUE(bool horsUE) { remplacer(&BonDeCommande::horsUE, horsUE); }
     void setPaysLivraison(const QString &pays) { remplacer(&BonDeCommande::paysLivraison, pays); }
     void setLangue(std::optional<Langue> langue) { remplacer(&BonDeCommande::langue, langue); }
+    // Takes another order, whole.
+    void adopter(const BonDeCommande &bon);
     // See BonDeCommande.
     void setCodeDestination(const CodeDestination &code);
     void ajuster(const Livre &livre, int delta);
@@ -39,7 +41,6 @@ private:
         bon.*champ = valeur;
         adopter(bon);
     }
-    void adopter(const BonDeCommande &bon);
 
     BonDeCommande bon_;
 };

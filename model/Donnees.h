@@ -2,6 +2,7 @@
 
 #include "model/Destination.h"
 #include "model/Livre.h"
+#include "model/Pays.h"
 #include "model/PrixBouton.h"
 #include "model/Reglages.h"
 #include "model/Tarifs.h"
@@ -19,6 +20,7 @@ struct Donnees
     QList<TarifsColissimo> grillesConnues; // at least one, in the order in which they were loaded
     QList<Destination> destinations;
     Reglages reglages;
+    QList<Pays> pays; // none where the sellers' own data come from before there was such a list
 
     // The schedule in force on a day; before the first one, the earliest. It lives until these data change.
     [[nodiscard]] const TarifsColissimo &tarifs(const Jour &jour) const;

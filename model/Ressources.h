@@ -50,6 +50,9 @@ public:
         }
     }
 
+    // Whether there is such a file: one that came with a later version may be missing in the sellers' own folder.
+    [[nodiscard]] bool existe(const QString &nom) const { return dossier_.exists(nom + QStringLiteral(".json")); }
+
     // Every schedule, by file name; at least one, or throws RessourceIllisible.
     [[nodiscard]] QList<TarifsColissimo> tarifs() const;
     // Their files, without ".json"; maybe none.

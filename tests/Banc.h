@@ -17,9 +17,10 @@ struct Banc
     QList<Destination> destinations;
     QList<TarifsColissimo> tarifs;
     Reglages reglages;
+    QList<Pays> pays; // not written as a resource
 
     // As they would be loaded, without a file.
-    [[nodiscard]] Donnees donnees() const { return {livres, tarifs, destinations, reglages}; }
+    [[nodiscard]] Donnees donnees() const { return {livres, tarifs, destinations, reglages, pays}; }
     // Writes the records as shipped resources.
     void deposer() const;
     // The same, then loads them with the user's files over them.

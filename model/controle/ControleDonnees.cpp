@@ -70,9 +70,16 @@ ControleDonnees ControleDonnees::de(const QDir &dossier, QDate aujourdhui)
                      Regles::Reperes{ReglesCommunes::codes(destinations.valeur()), reglages.valeur().vendeurs,
                                      couvertures, Couvertures::fichiers(couvertures)});
 
+    std::optional<FichierControle<QList<Pays>>> pays;
+    if (ressources.existe(QStringLiteral("pays")))
+        pays.emplace(ressources, QStringLiteral("pays"))
+            .controler(Regles::pays, ReglesCommunes::codes(destinations.valeur()));
+
     ControleDonnees controle{
         .livres = livres.valeur().size(), .tarifs = noms.size(), .destinations = destinations.valeur().size()};
     controle.erreurs = livres.erreurs() + destinations.erreurs() + reglages.erreurs();
+    if (pays)
+        controle.erreurs += pays->erreurs();
     for (const FichierControle<TarifsColissimo> &fichier : tarifs)
         controle.erreurs += fichier.erreurs();
     if (noms.isEmpty())

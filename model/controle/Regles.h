@@ -3,6 +3,7 @@
 #include "model/Destination.h"
 #include "model/LieuJson.h"
 #include "model/Livre.h"
+#include "model/Pays.h"
 #include "model/Reglages.h"
 #include "model/Tarifs.h"
 
@@ -42,6 +43,8 @@ void tarifs(const TarifsColissimo &tarifs, const TarifsParFichier &precedents, c
 void frais(const FraisPaypal &frais, const Json::Lieu &lieu);
 void reglages(const Reglages &reglages, const Json::Lieu &lieu);
 void destinations(const QList<Destination> &destinations, const TarifsParFichier &tarifs, const Json::Lieu &lieu);
+// `destinations`: their codes, none when there is nothing to compare with.
+void pays(const QList<Pays> &pays, const QList<CodeDestination> &destinations, const Json::Lieu &lieu);
 void livres(const QList<Livre> &livres, const Reperes &reperes, const Json::Lieu &lieu);
 
 } // namespace Quillet::Regles

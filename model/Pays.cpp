@@ -1,0 +1,40 @@
+#include "model/Pays.h"
+
+#include <algorithm>
+
+namespace Quillet {
+
+namespace {
+
+QString sansArticle(const QString &libelle)
+{
+    for (const QString &article : {QStringLiteral("la "), QStringLiteral("le "), QStringLiteral("les "),
+                                   QStringLiteral("l’"), QStringLiteral("the ")})
+        if (libelle.startsWith(article)) {
+            QString nom = libelle.sliced(article.size());
+            nom[0] = nom[0].toUpper();
+            return nom;
+        }
+    return libelle;
+}
+
+} // namespace
+
+QString Pays::nom() const
+{
+    return sansArticle(libelleFr);
+}
+
+QStringList Pays::noms() const
+{
+    return QStringList{nom(), sansArticle(libelleEn)} + autresNoms.value_or(QStringList());
+}
+
+std::optional<Pays> Pays::designe(const QList<Pays> &pays, const QString &libelle)
+{
+    const auto trouve =
+        std::ranges::find_if(pays, [&](const Pays &un) { return un.libelleFr == libelle || un.libelleEn == libelle; });
+    return trouve == pays.end() ? std::nullopt : std::optional(*trouve);
+}
+
+} // namespace Quillet
