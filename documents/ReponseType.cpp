@@ -130,14 +130,14 @@ QString ReponseType::descriptionDuLien() const
     return livres.join(u'\n') + QStringLiteral("\n\n") + phrases(langue).prixComprend + vers + u'.';
 }
 
-Langue langueAcheteur(const BonDeCommande &bon, const Calcul &calcul)
+Langue langueAcheteur(const BonDeCommande &bon, const std::optional<Destination> &destination)
 {
     if (bon.langue)
         return *bon.langue;
     static const QList<CodeDestination> francophones{CodeDestination(QStringLiteral("france")),
                                                      CodeDestination(QStringLiteral("om1")),
                                                      CodeDestination(QStringLiteral("om2"))};
-    return !calcul.destination || francophones.contains(calcul.destination->code) ? Langue::francais : Langue::anglais;
+    return !destination || francophones.contains(destination->code) ? Langue::francais : Langue::anglais;
 }
 
 std::optional<ReponseType> ReponseType::de(const Calcul &calcul, const Reglages &reglages, const BonDeCommande &bon,
@@ -146,7 +146,7 @@ std::optional<ReponseType> ReponseType::de(const Calcul &calcul, const Reglages 
     const auto vendeur = vendeurUnique(calcul, reglages);
     if (!vendeur)
         return std::nullopt;
-    return ReponseType{calcul, langueAcheteur(bon, calcul), *vendeur, lien, bon.paysLivraison};
+    return ReponseType{calcul, langueAcheteur(bon, calcul.destination), *vendeur, lien, bon.paysLivraison};
 }
 
 } // namespace Quillet

@@ -35,6 +35,6 @@ struct ReponseType
 };
 
 // The language chosen for the buyer or, until one is chosen, the destination's own.
-Langue langueAcheteur(const BonDeCommande &bon, const Calcul &calcul);
+Langue langueAcheteur(const BonDeCommande &bon, const std::optional<Destination> &destination);
 
 } // namespace Quillet

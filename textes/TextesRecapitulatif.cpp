@@ -3,6 +3,7 @@
 #include "documents/ReponseType.h"
 #include "model/Format.h"
 #include "textes/TextesFrais.h"
+#include "textes/TextesPays.h"
 
 namespace Quillet {
 
@@ -108,12 +109,13 @@ QString TextesRecapitulatif::perte(const Calcul &calcul)
 }
 
 std::optional<TextesRecapitulatif::LienDePaiement>
-TextesRecapitulatif::lienDePaiement(const Calcul &calcul, const Reglages &reglages, const BonDeCommande &bon)
+TextesRecapitulatif::lienDePaiement(const Calcul &calcul, const Donnees &donnees, const BonDeCommande &bon)
 {
-    const auto message = ReponseType::de(calcul, reglages, bon);
+    const auto message = ReponseType::de(calcul, donnees.reglages, bon);
     if (!message || !calcul.total)
         return std::nullopt;
     const TraitsDeLangue langue = traits(message->langue);
+    const QString propose = calcul.destination ? calcul.destination->libelleCourtEnLangue(message->langue) : QString();
     return LienDePaiement{
         .nomDeLObjet = message->nomDeLObjet(),
         .description = message->descriptionDuLien(),
@@ -121,7 +123,8 @@ TextesRecapitulatif::lienDePaiement(const Calcul &calcul, const Reglages &reglag
         .prixAffiche = Format::euros(calcul.total),
         .retour = message->vendeur.retourPaypal,
         .indicationDuPays = QStringLiteral("en %1, %2").arg(langue.nom, langue.formeDuPays),
-        .paysPropose = calcul.destination ? calcul.destination->libelleCourtEnLangue(message->langue) : QString(),
+        .paysPropose = propose,
+        .zoneDite = bon.paysLivraison.trimmed().isEmpty() ? TextesPays::zone(propose, donnees.pays) : QString(),
     };
 }
 

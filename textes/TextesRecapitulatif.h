@@ -36,6 +36,7 @@ struct LienDePaiement
     std::optional<QString> retour;
     QString indicationDuPays;
     QString paysPropose;
+    QString zoneDite; // that the buyer will read a zone's name; empty: a country's
 };
 
 // "3 livres · 1 250 g"
@@ -54,7 +55,7 @@ QString detailEnvoi(const Calcul &calcul);
 QString detailFrais(const Calcul &calcul, const FraisPaypal &frais);
 // That PayPal takes more than the books bring; empty when something remains.
 QString perte(const Calcul &calcul);
-std::optional<LienDePaiement> lienDePaiement(const Calcul &calcul, const Reglages &reglages, const BonDeCommande &bon);
+std::optional<LienDePaiement> lienDePaiement(const Calcul &calcul, const Donnees &donnees, const BonDeCommande &bon);
 QString libelleDeLaReponse(Langue langue);
 
 } // namespace Quillet::TextesRecapitulatif

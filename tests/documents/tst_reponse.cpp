@@ -111,13 +111,14 @@ private slots:
         }
         const auto langue = [&](const char *code) {
             cas.bon.codeDestination = vers(code);
-            return langueAcheteur(cas.bon, Calcul::de(cas.banc.donnees(), cas.bon, jourDuBanc));
+            return langueAcheteur(cas.bon, Calcul::de(cas.banc.donnees(), cas.bon, jourDuBanc).destination);
         };
         for (const char *francophone : {"france", "om1", "om2", "mars"})
             QVERIFY2(langue(francophone) == Langue::francais, francophone);
         QCOMPARE(langue("ue"), Langue::anglais);
         cas.bon.langue = Langue::francais;
-        QCOMPARE(langueAcheteur(cas.bon, Calcul::de(cas.banc.donnees(), cas.bon, jourDuBanc)), Langue::francais);
+        QCOMPARE(langueAcheteur(cas.bon, Calcul::de(cas.banc.donnees(), cas.bon, jourDuBanc).destination),
+                 Langue::francais);
     }
 
     void adresses()

@@ -179,7 +179,7 @@ private slots:
         Cas cas;
         cas.bon.ajuster(cas.banc.livres[0], 1);
         cas.bon.codeDestination = vers("suisse");
-        const auto lien = [&] { return lienDePaiement(cas.calcul(), cas.banc.reglages, cas.bon); };
+        const auto lien = [&] { return lienDePaiement(cas.calcul(), cas.banc.donnees(), cas.bon); };
         QVERIFY(lien());
         QCOMPARE(lien()->indicationDuPays, "en anglais, pour la description");
         QCOMPARE(lien()->paysPropose, "Switzerland");
@@ -206,7 +206,7 @@ private slots:
             cas.bon.vendeur = vendeur;
             if (livre > 0)
                 cas.bon.ajuster(cas.banc.livres[livre - 1], 1);
-            QVERIFY(!lienDePaiement(cas.calcul(), cas.banc.reglages, cas.bon));
+            QVERIFY(!lienDePaiement(cas.calcul(), cas.banc.donnees(), cas.bon));
         }
     }
 

@@ -22,9 +22,9 @@ Recapitulatif::Recapitulatif(const Contexte &contexte, QWidget *parent)
     : Defilement(parent),
       livres_(new SectionLivres),
       poids_(new SectionPoids(contexte.donnees().reglages.emballages, contexte.commande)),
-      destination_(new SectionDestination(contexte.donnees().destinations, contexte.commande)),
+      destination_(new SectionDestination(contexte.donnees(), contexte.commande)),
       montants_(new SectionMontants(contexte.donnees().reglages)),
-      lien_(new SectionLien(contexte.donnees().reglages, contexte.commande)),
+      lien_(new SectionLien(contexte.donnees(), contexte.commande)),
       documents_(new SectionDocuments),
       reponse_(new SectionReponse(contexte.commande))
 {

@@ -1,17 +1,34 @@
 #include "ui/commande/SectionDestination.h"
 
+#include "composants/Alerte.h"
+#include "composants/ChampAPropositions.h"
 #include "composants/Choix.h"
+#include "composants/Icone.h"
 #include "composants/Interrupteur.h"
+#include "composants/LecteurDEcran.h"
 #include "composants/Libelle.h"
 #include "composants/Theme.h"
+#include "documents/PaysDeLivraison.h"
 #include "model/Commande.h"
+#include "textes/TextesPays.h"
 #include "textes/TextesRecapitulatif.h"
+
+#include <QAction>
 
 namespace Quillet {
 
-SectionDestination::SectionDestination(const QList<Destination> &destinations, Commande &commande, QWidget *parent)
+SectionDestination::SectionDestination(const Donnees &donnees, Commande &commande, QWidget *parent)
     : Section(QStringLiteral("Destination"), {}, parent),
+      donnees_(donnees),
       commande_(commande),
+      recherche_(new ChampAPropositions([this](const QString &texte) {
+          trouves_ = TextesPays::trouves(donnees_.pays, texte);
+          QStringList propositions;
+          for (const Pays &pays : std::as_const(trouves_))
+              propositions.append(TextesPays::proposition(pays, donnees_));
+          return propositions;
+      })),
+      remarque_(new Alerte),
       destination_(new Choix),
       nomComplet_(new Libelle({}, Libelle::Rang::secondaire)),
       horsUE_(new Interrupteur),
@@ -19,20 +36,42 @@ SectionDestination::SectionDestination(const QList<Destination> &destinations, C
       declaration_(new Libelle({})),
       rangeeDeclaration_(new Formulaire::Rangee(QStringLiteral("Déclaration en douane"), declaration_))
 {
-    for (const Destination &destination : destinations)
+    recherche_->setAccessibleName(QStringLiteral("Chercher un pays"));
+    recherche_->setInvite(QStringLiteral("Chercher un pays"));
+    auto *loupe = recherche_->addAction(Icone::icone(QStringLiteral("magnifyingglass")), QLineEdit::LeadingPosition);
+    loupe->setText(QStringLiteral("Aller à la recherche d’un pays"));
+    connect(loupe, &QAction::triggered, recherche_, qOverload<>(&QWidget::setFocus));
+    recherche_->setVisible(!donnees.pays.isEmpty());
+    for (const Destination &destination : donnees.destinations)
         destination_->ajouter(destination.libelleCourt, destination.code.texte());
     nomComplet_->setFont(Theme::encadre());
     nomComplet_->setWordWrap(true);
     rangeeHorsUE_->setDetail(QStringLiteral("hors Union européenne : déclaration en douane"));
 
+    groupe()->ajouter(recherche_);
     groupe()->ajouter(new Formulaire::Rangee(QStringLiteral("Envoi vers"), destination_));
     groupe()->ajouter(nomComplet_);
     groupe()->ajouter(rangeeHorsUE_);
     groupe()->ajouter(rangeeDeclaration_);
+    groupe()->ajouter(remarque_);
 
+    connect(recherche_, &ChampAPropositions::choisie, this, [this](int rang) { envoyer(trouves_.value(rang)); });
+    connect(recherche_, &ChampAPropositions::sansReponse, this,
+            [this](const QString &texte) { remarque_->montrer(TextesPays::introuvable(texte)); });
     connect(destination_, &Choix::choisi, &commande_,
             [this](const QString &code) { commande_.setCodeDestination(CodeDestination(code)); });
     connect(horsUE_, &QAbstractButton::toggled, &commande_, &Commande::setHorsUE);
+}
+
+void SectionDestination::envoyer(const Pays &pays)
+{
+    recherche_->clear();
+    if (const auto envoyee = PaysDeLivraison::envoyee(commande_.bon(), pays, donnees_)) {
+        commande_.adopter(*envoyee);
+        LecteurDEcran::annoncer(recherche_, TextesPays::choisi(pays, donnees_));
+    } else {
+        remarque_->montrer(TextesPays::nonEtabli(pays));
+    }
 }
 
 void SectionDestination::montrer(const Calcul &calcul)
@@ -53,6 +92,8 @@ void SectionDestination::montrer(const Calcul &calcul)
 
     rangeeDeclaration_->setVisible(calcul.destination.has_value());
     declaration_->setText(TextesRecapitulatif::declaration(calcul));
+    const auto pays = PaysDeLivraison::deLaListe(commande_.bon(), donnees_.pays);
+    remarque_->montrer(pays ? pays->remarque.value_or(QString()) : QString());
 }
 
 } // namespace Quillet

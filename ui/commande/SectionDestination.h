@@ -2,13 +2,17 @@
 
 #include "composants/Formulaire.h"
 #include "model/Calcul.h"
+#include "model/Pays.h"
 
 namespace Quillet {
 
+class Alerte;
+class ChampAPropositions;
 class Commande;
 class Choix;
 class Interrupteur;
 class Libelle;
+struct Donnees;
 
 // Where the parcel goes, and whether customs want a declaration.
 class SectionDestination : public Formulaire::Section
@@ -16,11 +20,18 @@ class SectionDestination : public Formulaire::Section
     Q_OBJECT
 
 public:
-    SectionDestination(const QList<Destination> &destinations, Commande &commande, QWidget *parent = nullptr);
+    // `donnees` are read each time the section is brought up to date.
+    SectionDestination(const Donnees &donnees, Commande &commande, QWidget *parent = nullptr);
     void montrer(const Calcul &calcul);
 
 private:
+    void envoyer(const Pays &pays);
+
+    const Donnees &donnees_;
     Commande &commande_;
+    ChampAPropositions *recherche_;
+    QList<Pays> trouves_; // proposed under it
+    Alerte *remarque_;
     Choix *destination_;
     Libelle *nomComplet_;
     Interrupteur *horsUE_;

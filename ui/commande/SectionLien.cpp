@@ -1,9 +1,11 @@
 #include "ui/commande/SectionLien.h"
 
+#include "composants/Alerte.h"
 #include "composants/ChampACopier.h"
 #include "composants/Icone.h"
 #include "composants/Lien.h"
 #include "composants/LigneDeTexte.h"
+#include "documents/PaysDeLivraison.h"
 #include "documents/ReponseType.h"
 #include "model/Commande.h"
 #include "textes/TextesRecapitulatif.h"
@@ -22,13 +24,14 @@ const QString reglagesDuLien =
 
 } // namespace
 
-SectionLien::SectionLien(const Reglages &reglages, Commande &commande, QWidget *parent)
+SectionLien::SectionLien(const Donnees &donnees, Commande &commande, QWidget *parent)
     : Section(QStringLiteral("Lien de paiement PayPal"), reglagesDuLien, parent),
-      reglages_(reglages),
+      donnees_(donnees),
       commande_(commande),
       langue_(new ChoixLangue),
       pays_(new LigneDeTexte),
       rangeePays_(new Formulaire::RangeeHaute(QStringLiteral("Pays de livraison"), pays_)),
+      zone_(new Alerte(QStringLiteral("info.circle"), {}, Alerte::Ton::note)),
       nomDeLObjet_(new ChampACopier(QStringLiteral("Nom de l’objet"))),
       description_(new ChampACopier(QStringLiteral("Description"))),
       prix_(new ChampACopier(QStringLiteral("Prix"))),
@@ -39,22 +42,26 @@ SectionLien::SectionLien(const Reglages &reglages, Commande &commande, QWidget *
     groupe()->ajouter(new Formulaire::RangeeHaute(QStringLiteral("Langue de l’acheteur"), langue_));
     groupe()->ajouter(Formulaire::seul(creer));
     groupe()->ajouter(rangeePays_);
+    groupe()->ajouter(zone_);
     for (ChampACopier *champ : {nomDeLObjet_, description_, prix_, retour_})
         groupe()->ajouter(champ);
 
-    connect(langue_, &ChoixLangue::choisie, &commande_, &Commande::setLangue);
+    connect(langue_, &ChoixLangue::choisie, this, [this](Langue langue) {
+        commande_.adopter(PaysDeLivraison::ecrite(commande_.bon(), langue, donnees_.pays));
+    });
     connect(creer, &QPushButton::clicked, this, [this] { Lien::ouvrir(ReponseType::creationDuLien(), this); });
     connect(pays_, &QLineEdit::textChanged, &commande_, &Commande::setPaysLivraison);
 }
 
 void SectionLien::montrer(const Calcul &calcul)
 {
-    langue_->montrer(langueAcheteur(commande_.bon(), calcul));
+    langue_->montrer(langueAcheteur(commande_.bon(), calcul.destination));
     if (pays_->text() != commande_.bon().paysLivraison)
         pays_->setText(commande_.bon().paysLivraison);
 
-    const auto lien = TextesRecapitulatif::lienDePaiement(calcul, reglages_, commande_.bon());
+    const auto lien = TextesRecapitulatif::lienDePaiement(calcul, donnees_, commande_.bon());
     rangeePays_->setVisible(lien.has_value());
+    zone_->montrer(lien ? lien->zoneDite : QString());
     for (ChampACopier *champ : {nomDeLObjet_, description_, prix_})
         champ->setVisible(lien.has_value());
     retour_->setVisible(lien && lien->retour);

@@ -21,7 +21,7 @@ SectionReponse::SectionReponse(const Commande &commande, QWidget *parent)
 
 void SectionReponse::montrer(const Calcul &calcul)
 {
-    ecrire_->setText(TextesRecapitulatif::libelleDeLaReponse(langueAcheteur(commande_.bon(), calcul)));
+    ecrire_->setText(TextesRecapitulatif::libelleDeLaReponse(langueAcheteur(commande_.bon(), calcul.destination)));
     ecrire_->setEnabled(calcul.pretAPartir());
 }
 

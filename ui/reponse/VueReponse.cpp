@@ -9,6 +9,7 @@
 #include "composants/Pile.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
+#include "documents/PaysDeLivraison.h"
 #include "documents/ReponseType.h"
 #include "model/Echec.h"
 #include "textes/NomsVendeurs.h"
@@ -63,7 +64,9 @@ VueReponse::VueReponse(const Contexte &contexte, QWidget *parent)
     meubler(langue_, pages_);
     envoyer_->setDefault(true); // only now does it have a sheet to be the default of
 
-    connect(langue_, &ChoixLangue::choisie, &contexte_.commande, &Commande::setLangue);
+    connect(langue_, &ChoixLangue::choisie, this, [this](Langue langue) {
+        contexte_.commande.adopter(PaysDeLivraison::ecrite(contexte_.bon(), langue, contexte_.donnees().pays));
+    });
     connect(lien_, &QLineEdit::textChanged, this, &VueReponse::actualiser);
     connect(adresse_, &QLineEdit::textChanged, this, &VueReponse::actualiser);
     connect(&contexte_.commande, &Commande::change, this, &VueReponse::actualiser);

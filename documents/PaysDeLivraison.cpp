@@ -1,0 +1,32 @@
+#include "documents/PaysDeLivraison.h"
+
+#include "documents/ReponseType.h"
+
+namespace Quillet {
+
+std::optional<BonDeCommande> PaysDeLivraison::envoyee(BonDeCommande bon, const Pays &pays, const Donnees &donnees)
+{
+    const auto destination = pays.destination ? donnees.destination(*pays.destination) : std::nullopt;
+    if (!destination)
+        return std::nullopt;
+    bon.destiner(destination->code);
+    bon.horsUE = pays.horsUE.value_or(false);
+    bon.paysLivraison = pays.libelle(langueAcheteur(bon, destination));
+    return bon;
+}
+
+BonDeCommande PaysDeLivraison::ecrite(BonDeCommande bon, Langue langue, const QList<Pays> &pays)
+{
+    bon.langue = langue;
+    if (const auto nomme = Pays::designe(pays, bon.paysLivraison))
+        bon.paysLivraison = nomme->libelle(langue);
+    return bon;
+}
+
+std::optional<Pays> PaysDeLivraison::deLaListe(const BonDeCommande &bon, const QList<Pays> &pays)
+{
+    auto nomme = Pays::designe(pays, bon.paysLivraison);
+    return nomme && nomme->destination == bon.codeDestination ? nomme : std::nullopt;
+}
+
+} // namespace Quillet
