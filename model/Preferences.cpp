@@ -26,9 +26,15 @@ bool estUnSigneDeCommande(QChar signe)
     return signe.category() == QChar::Other_Control;
 }
 
+struct Lues
+{
+    Valeurs valeurs;
+    bool entieres = true; // no line was lost
+};
+
 // None when anything is no line of ours: a file that was cut or overwritten must not pass for one without numbers. What
 // other programs put around lines and texts means nothing.
-std::optional<Valeurs> decoder(QByteArray octets)
+std::optional<Lues> decoder(QByteArray octets)
 {
     if (octets.startsWith("\xEF\xBB\xBF"))
         octets = octets.sliced(3);
@@ -47,8 +53,9 @@ std::optional<Valeurs> decoder(QByteArray octets)
         valeurs.insert(cle, valeur);
     }
     const qint64 annonces = valeurs.take(cleDuNombre).toLongLong();
-    const bool entier = !valeurs.isEmpty() && valeurs.size() >= annonces; // without any, none is ever written
-    return entier ? std::optional(valeurs) : std::nullopt;
+    if (valeurs.isEmpty()) // none is ever written so
+        return std::nullopt;
+    return Lues{valeurs, valeurs.size() >= annonces};
 }
 
 QByteArray encoder(const Valeurs &valeurs)
@@ -62,7 +69,7 @@ QByteArray encoder(const Valeurs &valeurs)
     return texte.toUtf8();
 }
 
-// Of the file that is to be replaced: its texts, or else the name of its copy.
+// Of the file that is to be replaced: its texts and, when some were lost, the name of its copy.
 Valeurs aGarder(const QString &fichier)
 {
     if (Fichier::excede(fichier, Fichier::Borne::preferences))
@@ -70,8 +77,10 @@ Valeurs aGarder(const QString &fichier)
     const auto octets = Fichier::lireOuRefuser(fichier, Fichier::Borne::preferences);
     if (!octets)
         return {};
-    const auto valeurs = decoder(*octets);
-    return valeurs ? *valeurs : Valeurs{{cleDeLaCopie, Fichier::mettreDeCote(fichier, *octets)}};
+    Lues lues = decoder(*octets).value_or(Lues{{}, false});
+    if (!lues.entieres)
+        lues.valeurs.insert(cleDeLaCopie, Fichier::mettreDeCote(fichier, *octets));
+    return lues.valeurs;
 }
 
 } // namespace
@@ -85,23 +94,28 @@ Preferences Preferences::deLUtilisateur()
 QString Preferences::texte(const QString &cle) const
 {
     const auto octets = Fichier::lire(fichier_, Fichier::Borne::preferences);
-    return octets ? decoder(*octets).value_or(Valeurs()).value(cle) : QString();
+    return octets ? decoder(*octets).value_or(Lues()).valeurs.value(cle) : QString();
 }
 
 Preferences::Trouvee Preferences::chercher(const QString &cle) const
 {
+    const ErreurStockage abime(fichier_, QStringLiteral("le fichier est incomplet ou abîmé"));
+    if (Fichier::excede(fichier_, Fichier::Borne::preferences))
+        return {{}, abime};
     const auto octets = Fichier::lireOuRefuser(fichier_, Fichier::Borne::preferences);
     if (!octets)
         return {};
-    const auto valeurs = decoder(*octets);
-    if (!valeurs)
-        return {{}, ErreurStockage(fichier_, QStringLiteral("le fichier est incomplet ou abîmé"))};
-    if (!valeurs->contains(cle) && valeurs->contains(cleDeLaCopie))
+    const Lues lues = decoder(*octets).value_or(Lues{{}, false});
+    if (lues.valeurs.contains(cle))
+        return {lues.valeurs.value(cle), {}};
+    if (!lues.entieres)
+        return {{}, abime};
+    if (lues.valeurs.contains(cleDeLaCopie))
         return {{},
                 ErreurStockage(fichier_, QStringLiteral("le fichier était incomplet ou abîmé ; il est gardé sous le "
                                                         "nom %1")
-                                             .arg(valeurs->value(cleDeLaCopie)))};
-    return {valeurs->value(cle), {}};
+                                             .arg(lues.valeurs.value(cleDeLaCopie)))};
+    return {};
 }
 
 void Preferences::ecrire(const QString &cle, const QString &texte)

@@ -28,7 +28,7 @@ public:
     // Throws ErreurStockage when the file is there and cannot be read.
     [[nodiscard]] Trouvee chercher(const QString &cle) const;
     // Returns once the text is on the disk. Throws ErreurStockage; what was kept before still is. A file that is not
-    // understood is copied aside first, and all other texts in it count as lost.
+    // whole is copied aside first, and what cannot be read of it counts as lost.
     void ecrire(const QString &cle, const QString &texte);
 
 private:

@@ -57,7 +57,6 @@ private slots:
                  {"tel qu’écrit", notre, "2026-008"},
                  {"sans compte", deux, "2026-008"},
                  {"une ligne de plus", notre + "verification.laposte=2026-03-02\n", "2026-008"},
-                 {"coupé entre deux lignes", notre.first(notre.indexOf("derniereFacture.mireva")), nullptr},
                  {"démesuré", QByteArray(Fichier::Borne::preferences + 1, 'x'), nullptr},
                  {"CRLF", change("\n", "\r\n"), "2026-008"},
                  {"blancs", change("=", " =\t"), "2026-008"},
@@ -93,6 +92,29 @@ private slots:
             QCOMPARE(emission.numeroPour({}, Vendeur::davrel, jourDuBanc), "2026-010");
             QVERIFY(emission.numeroPour({}, Vendeur::mireva, jourDuBanc).isEmpty());
         }
+    }
+
+    // Whole lines are gone: those that are left count, of the others no number is proposed.
+    void lignesPerdues()
+    {
+        const Banc banc;
+        NumerotationFactures numerotation{banc.preferences()};
+        numerotation.retenir("2026-007", Vendeur::davrel);
+        numerotation.retenir("2026-003", Vendeur::mireva);
+        QFile fichier(banc.preferences().fichier());
+        QVERIFY(fichier.open(QIODevice::ReadWrite));
+        QVERIFY(fichier.resize(fichier.readAll().indexOf("derniereFacture.mireva")));
+        EmissionFacture emission{banc.preferences()};
+        QCOMPARE(emission.numeroPour({}, Vendeur::davrel, jourDuBanc), "2026-008");
+        QCOMPARE(emission.numeroPour({}, Vendeur::mireva, jourDuBanc), "");
+        numerotation.retenir("2026-008", Vendeur::davrel);
+        QCOMPARE(emission.numeroPour({}, Vendeur::davrel, jourDuBanc), "2026-009");
+        QCOMPARE(emission.numeroPour({}, Vendeur::mireva, jourDuBanc), "");
+        QVERIFY(emission.sansProposition().contains("Quillet.ini.illisible"));
+
+        QVERIFY(fichier.resize(Fichier::Borne::preferences + 1));
+        numerotation.retenir("2026-009", Vendeur::davrel);
+        QCOMPARE(numerotation.prochain(Vendeur::davrel, jourDuBanc), "2026-010");
     }
 
     void retenir()
