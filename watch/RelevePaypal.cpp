@@ -64,11 +64,6 @@ Taux bornerTaux(qint64 chiffre, const QString &nom)
     return borner<Taux>(chiffre, nom, Format::pourcentage(Taux{UniteCentiemeDePourcent::maximum}));
 }
 
-QString supplementEee()
-{
-    return QStringLiteral("supplément EEE");
-}
-
 } // namespace
 
 QUrl RelevePaypal::adresse()
@@ -83,8 +78,10 @@ FraisPaypal RelevePaypal::analyser(const QString &page, QDate releve)
                       .unite = u"%",
                       .nom = QStringLiteral("taux de base")};
     const Figure fixe{.libelle = QStringLiteral("Euro"), .unite = u"eur", .nom = QStringLiteral("part fixe en euros")};
-    const Figure eee{
-        .libelle = QStringLiteral("EEE"), .unite = u"%", .nom = supplementEee(), .aucune = u"aucune commission"};
+    const Figure eee{.libelle = QStringLiteral("EEE"),
+                     .unite = u"%",
+                     .nom = QStringLiteral("supplément EEE"),
+                     .aucune = u"aucune commission"};
     const Figure royaumeUni{
         .libelle = QStringLiteral("Royaume-Uni"), .unite = u"%", .nom = QStringLiteral("supplément Royaume-Uni")};
     const Figure autres{.libelle = QStringLiteral("Tous les autres marchés"),
@@ -107,11 +104,6 @@ FraisPaypal RelevePaypal::analyser(const QString &page, QDate releve)
                 {RegionPaypal::royaumeUni, bornerTaux(*luRoyaumeUni, royaumeUni.nom)},
                 {RegionPaypal::autres, bornerTaux(*luAutres, autres.nom)},
             }};
-}
-
-void RelevePaypal::exigerEnregistrables(const FraisPaypal &lus)
-{
-    bornerTaux(lus.supplement(RegionPaypal::eee).valeur(), supplementEee());
 }
 
 } // namespace Quillet

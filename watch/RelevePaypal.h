@@ -13,7 +13,5 @@ QUrl adresse();
 // Throws ErreurReleve when one of the five figures is missing, or when one of the four that must be numbers is none or
 // is beyond what a file may hold. The European surcharge may be beyond.
 FraisPaypal analyser(const QString &page, QDate releve);
-// Throws ErreurReleve for that surcharge: a file with it would not be read again.
-void exigerEnregistrables(const FraisPaypal &lus);
 
 } // namespace Quillet::RelevePaypal

@@ -1,5 +1,8 @@
 #include "watch/Verifications.h"
 
+#include "model/Format.h"
+#include "model/Stockage.h"
+
 #include <utility>
 
 using namespace std::chrono_literals;
@@ -84,7 +87,11 @@ void Verifications::accepterFrais()
 {
     if (!paypal_.nouveau)
         return;
-    RelevePaypal::exigerEnregistrables(*paypal_.nouveau);
+    // Its reading refuses none, its file would not be read again.
+    if (!Taux::bornee(paypal_.nouveau->supplement(RegionPaypal::eee).valeur()))
+        throw ErreurStockage(Stockage::fichierDesFrais(),
+                             QStringLiteral("supplément EEE au-delà de ")
+                                 + Format::pourcentage(Taux{UniteCentiemeDePourcent::maximum}));
     catalogue_.enregistrer(*paypal_.nouveau);
     accepter(paypal_);
 }

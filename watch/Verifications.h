@@ -63,8 +63,8 @@ public:
     void verifierLaPoste();
     void verifierPaypal();
 
-    // Store what was found. Throw ErreurStockage, or ErreurReleve for what no file may hold; what was found is then
-    // still to be accepted.
+    // Store what was found. Throw ErreurStockage, also for what no file may hold; what was found is then still to be
+    // accepted.
     void accepterTarifs();
     void accepterFrais();
 

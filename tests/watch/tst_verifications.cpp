@@ -136,7 +136,7 @@ private slots:
         const auto v = verifications();
         v->verifierPaypal();
         QTRY_COMPARE(v->etatPaypal().cas, Cas::changement);
-        QVERIFY_THROWS_EXCEPTION(ErreurReleve, v->accepterFrais());
+        QVERIFY_THROWS_EXCEPTION(ErreurStockage, v->accepterFrais());
         QCOMPARE(v->nouveauxFrais()->supplement(RegionPaypal::eee), Taux{15'000}); // still to be accepted
         QCOMPARE(catalogue_->donnees().reglages.fraisPaypal.supplement(RegionPaypal::eee), Taux{0});
     }

@@ -3,7 +3,7 @@
 #include "composants/Alerte.h"
 #include "composants/Boutons.h"
 #include "composants/Pile.h"
-#include "model/Echec.h"
+#include "model/Fichier.h"
 #include "textes/TextesReleves.h"
 
 #include <QMessageBox>
@@ -34,7 +34,7 @@ void FeuilleDeReleve::composer(QWidget *page, const Accord &accord)
         try {
             accord.accepter();
             accept();
-        } catch (const Echec &echec) {
+        } catch (const ErreurStockage &echec) {
             erreur->montrer(echec.texte());
         }
     });

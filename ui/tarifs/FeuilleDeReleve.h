@@ -26,7 +26,7 @@ protected:
         QString question;                  // asked once more while there is something to look at twice
         QStringList reserves;              // which is this
         std::function<bool()> tientEncore; // what is kept is what the sheet shows: the page may have been read again
-        std::function<void()> accepter;    // stores it; when it throws an Echec the sheet stays open and says why
+        std::function<void()> accepter;    // stores it; when it throws ErreurStockage the sheet stays open and says why
         QString plusTard = FeuilleDeReleve::plusTard(); // closes the sheet
     };
     // `page`, then the buttons.
