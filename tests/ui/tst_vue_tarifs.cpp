@@ -6,6 +6,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 
@@ -184,7 +185,7 @@ private slots:
         QVERIFY(Ecran::montre(feuille, "Pour les commandes d’aujourd’hui, 1 palier change."));
         QVERIFY(Ecran::montre(feuille, "Par rapport aux tarifs de la veille, aucun palier ne change."));
         QCOMPARE(BancEcran::luAuTableau(feuille, "France", "Après"), "5,49 €");
-        QVERIFY(Ecran::controle(feuille, "Fermer"));
+        QVERIFY(qobject_cast<QPushButton *>(Ecran::controle(feuille, "Fermer"))->isDefault());
         QVERIFY(Ecran::cliquer(feuille, enregistrer));
         QTRY_VERIFY(!Dialogues::devant());
         QCOMPARE(rubrique(), "Tarifs Colissimo");

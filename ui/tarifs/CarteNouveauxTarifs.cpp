@@ -100,19 +100,19 @@ QWidget *listes(const QList<EcartTarif> &ecarts, const PorteeTarifs &portee)
     const int ascenseur = page->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     QBoxLayout *colonne =
         Pile::colonne(page, {.marges = {marge - retrait, 0, marge - ascenseur - retrait, marge}, .espace = 0});
+    if (ecarts.isEmpty())
+        colonne->addWidget(pasDeChangement());
     if (portee.corrige()) {
         auto *veille = new Libelle(TextesReleves::depuisLaVeille(ecarts), Libelle::Rang::secondaire);
         veille->setContentsMargins(retrait, 18, retrait, 8);
         colonne->addWidget(new Encadre(TextesReleves::effet(portee), changements(portee.ecarts, aVerifier)));
         colonne->addWidget(veille);
     }
-    if (ecarts.isEmpty()) {
-        colonne->addWidget(pasDeChangement(), 1);
-        return page;
+    if (!ecarts.isEmpty()) {
+        Tableau *liste = changements(ecarts, aVerifier);
+        liste->setContentsMargins(retrait, 0, retrait, 0);
+        colonne->addWidget(liste);
     }
-    Tableau *liste = changements(ecarts, aVerifier);
-    liste->setContentsMargins(retrait, 0, retrait, 0);
-    colonne->addWidget(liste);
     colonne->addStretch();
     return page;
 }
@@ -168,7 +168,8 @@ CarteNouveauxTarifs::CarteNouveauxTarifs(const Contexte &contexte, QWidget *pare
                     .reserves = reserves + aVerifier,
                     .tientEncore = [&verifications, releve] { return verifications.nouveauxTarifs() == releve; },
                     .accepter = [&verifications] { verifications.accepterTarifs(); },
-                    .plusTard = ecarts.isEmpty() ? fermer() : plusTard()});
+                    .plusTard = ecarts.isEmpty() ? fermer() : plusTard(),
+                    .gardeParDefaut = !ecarts.isEmpty()});
     prendreLaTaille(taille);
 }
 

@@ -42,7 +42,7 @@ void FeuilleDeReleve::composer(QWidget *page, const Accord &accord)
     QBoxLayout *boutons = Pile::rangee({}, {Pile::reste(), plusTard, garder});
     QBoxLayout *pied = Pile::colonne({.marges = {marge, 14, marge, 16}, .espace = 10}, {erreur, boutons});
     Pile::colonne(this, {.espace = 0}, {{page, 1}, filet(Qt::Horizontal), pied});
-    garder->setDefault(true);
+    (accord.gardeParDefaut ? garder : plusTard)->setDefault(true);
 }
 
 void FeuilleDeReleve::composerVide(QWidget *page)
