@@ -11,15 +11,16 @@ std::optional<BonDeCommande> PaysDeLivraison::envoyee(BonDeCommande bon, const P
         return std::nullopt;
     bon.destiner(destination->code);
     bon.horsUE = pays.horsUE.value_or(false);
-    bon.paysLivraison = pays.libelle(langueAcheteur(bon, destination));
+    bon.paysLivraison = bon.paysTrouve = pays.libelle(langueAcheteur(bon, destination));
     return bon;
 }
 
 BonDeCommande PaysDeLivraison::ecrite(BonDeCommande bon, Langue langue, const QList<Pays> &pays)
 {
     bon.langue = langue;
-    if (const auto nomme = Pays::designe(pays, bon.paysLivraison))
-        bon.paysLivraison = nomme->libelle(langue);
+    const auto trouve = bon.paysLivraison == bon.paysTrouve ? Pays::designe(pays, bon.paysTrouve) : std::nullopt;
+    if (trouve)
+        bon.paysLivraison = bon.paysTrouve = trouve->libelle(langue);
     return bon;
 }
 

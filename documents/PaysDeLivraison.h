@@ -10,7 +10,7 @@ namespace Quillet::PaysDeLivraison {
 // country's destination is not settled, or not among the data's.
 std::optional<BonDeCommande> envoyee(BonDeCommande bon, const Pays &pays, const Donnees &donnees);
 
-// The order in another language; a country that the data name changes its name with it.
+// The order in another language; a country that was found, and not typed over, changes its name with it.
 BonDeCommande ecrite(BonDeCommande bon, Langue langue, const QList<Pays> &pays);
 
 // The country of the list that the order names, if that is where it goes.

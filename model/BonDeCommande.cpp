@@ -22,6 +22,7 @@ void BonDeCommande::destiner(const CodeDestination &code)
     codeDestination = code;
     horsUE = false;
     paysLivraison.clear();
+    paysTrouve.clear();
     langue.reset();
 }
 

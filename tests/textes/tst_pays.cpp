@@ -87,6 +87,9 @@ private slots:
     void langue()
     {
         BonDeCommande bon{.paysLivraison = "the Netherlands"};
+        QCOMPARE(PaysDeLivraison::ecrite(bon, Langue::francais, livrees().pays).paysLivraison,
+                 "the Netherlands"); // typed
+        bon.paysTrouve = bon.paysLivraison;
         bon = PaysDeLivraison::ecrite(bon, Langue::francais, livrees().pays);
         QCOMPARE(bon.paysLivraison, "les Pays-Bas");
         QCOMPARE(bon.langue, Langue::francais);
