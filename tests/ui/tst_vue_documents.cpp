@@ -2,6 +2,7 @@
 #include "tests/BancEcran.h"
 #include "tests/DisquePlein.h"
 #include "tests/Rangees.h"
+#include "ui/documents/FicheFacture.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -15,6 +16,7 @@
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTcpServer>
+#include <QTcpSocket>
 
 using namespace Quillet;
 using namespace std::chrono_literals;
@@ -42,6 +44,30 @@ QString nomPropose(QDialog *feuille)
 QString numeroPropose(const QDialog *feuille)
 {
     return qobject_cast<QLineEdit *>(Ecran::controle(feuille, numero))->text();
+}
+
+// As a print server that has no more to tell than a queue's name.
+void repondreEnCups(QTcpSocket *appel, bool nomme, QByteArray &questions)
+{
+    QObject::connect(appel, &QTcpSocket::readyRead, appel, [=, &questions, recu = QByteArray()]() mutable {
+        recu += appel->readAll();
+        const QByteArray fin("\r\n\r\n");
+        if (recu.endsWith(fin))
+            appel->write("HTTP/1.1 100 Continue" + fin);
+        if (!recu.endsWith('\3')) // the end of a question
+            return;
+        const QByteArray question = recu.sliced(recu.indexOf(fin) + fin.size());
+        recu.clear();
+        questions += question;
+        if (!nomme || question[2] != '@') // of CUPS itself: which queue is the default, which are there
+            return;
+        const QByteArray reponse = QByteArray::fromHex("02000000") + question.mid(4, 4)
+                                   + QByteArrayLiteral("\1G\0\22attributes-charset\0\5utf-8"
+                                                       "H\0\33attributes-natural-language\0\2fr"
+                                                       "\4B\0\14printer-name\0\6MuetteA\0\14printer-info\0\6Muette\3");
+        appel->write("HTTP/1.1 200 OK\r\nContent-Type: application/ipp\r\nContent-Length: "
+                     + QByteArray::number(reponse.size()) + fin + reponse);
+    });
 }
 
 QByteArray contenu(const QString &chemin)
@@ -250,29 +276,41 @@ private slots:
         QCOMPARE(retenu(), "2026-001");
     }
 
-    // It takes the call and never answers: the window lives on, and a file is proposed instead.
+    // It takes the call and never answers, or names a queue and tells nothing more of it: the window lives on, and a
+    // file is proposed instead.
     void serviceDImpressionMuet()
     {
-        QTcpServer muet;
-        QVERIFY(muet.listen(QHostAddress::LocalHost));
-        const auto rendre = qScopeGuard([] { qputenv("CUPS_SERVER", personne); });
-        qputenv("CUPS_SERVER", "127.0.0.1:" + QByteArray::number(muet.serverPort()));
-        const QTemporaryDir dossier;
-        banc_->commander("suisse");
-        QTimer pouls;
-        QSignalSpy battu(&pouls, &QTimer::timeout);
-        pouls.start(20ms);
-        QString message;
-        const auto preferer = [&](QDialog *boite) {
-            message = qobject_cast<QMessageBox *>(boite)->text();
-            Ecran::cliquer(boite, enregistrer);
+        const auto cas = [this](const char *nom, bool nomme, std::chrono::milliseconds patience) {
+            const Rangee rangee(nom);
+            init();
+            QTcpServer muet;
+            QVERIFY(muet.listen(QHostAddress::LocalHost));
+            QByteArray questions;
+            connect(&muet, &QTcpServer::newConnection, &muet,
+                    [&] { repondreEnCups(muet.nextPendingConnection(), nomme, questions); });
+            const auto rendre = qScopeGuard([] { qputenv("CUPS_SERVER", personne); });
+            qputenv("CUPS_SERVER", "127.0.0.1:" + QByteArray::number(muet.serverPort()));
+            const QTemporaryDir dossier;
+            banc_->commander("suisse");
+            QDialog *feuille = banc_->ouvrir(facture);
+            feuille->findChild<FicheFacture *>()->setPatience(patience);
+            QTimer pouls;
+            QSignalSpy battu(&pouls, &QTimer::timeout);
+            pouls.start(20ms);
+            QString message;
+            const auto preferer = [&](QDialog *boite) {
+                message = qobject_cast<QMessageBox *>(boite)->text();
+                Ecran::cliquer(boite, enregistrer);
+            };
+            const auto enregistrerLa = Dialogues::enregistrerSous(dossier.filePath("facture.pdf"));
+            QVERIFY(Dialogues::cliquerPuisRepondre(feuille, "Imprimer 2 exemplaires", {preferer, enregistrerLa}));
+            QVERIFY2(message.startsWith("Le service d’impression ne répond pas : "), qPrintable(message));
+            QVERIFY(battu.count() > patience / 100ms);
+            QCOMPARE(questions.contains("/printers/Muette"), nomme);
+            QCOMPARE(retenu(), "2026-001");
         };
-        QVERIFY(
-            Dialogues::cliquerPuisRepondre(banc_->ouvrir(facture), "Imprimer 2 exemplaires",
-                                           {preferer, Dialogues::enregistrerSous(dossier.filePath("facture.pdf"))}));
-        QVERIFY2(message.startsWith("Le service d’impression ne répond pas : "), qPrintable(message));
-        QVERIFY(battu.count() > 20);
-        QCOMPARE(retenu(), "2026-001");
+        cas("toujours", false, 500ms);
+        cas("après le nom d’une file", true, 2s);
     }
 
     void nomSansSuffixe()

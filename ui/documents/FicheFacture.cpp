@@ -134,7 +134,7 @@ void FicheFacture::completer()
 
 void FicheFacture::imprimer()
 {
-    const bool joignables = ImpressionFacture::imprimantesJoignables(this);
+    const bool joignables = ImpressionFacture::imprimantesJoignables(this, patience_);
     if (!isVisible())
         return; // the sheet was closed meanwhile
     if (!joignables) {

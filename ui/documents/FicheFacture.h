@@ -4,6 +4,7 @@
 
 #include <QStackedWidget>
 
+#include <chrono>
 #include <functional>
 #include <optional>
 
@@ -26,6 +27,8 @@ class FicheFacture : public QStackedWidget
 public:
     explicit FicheFacture(const Contexte &contexte, QWidget *parent = nullptr);
     void montrer(const Calcul &calcul);
+    // For what a print server tells before its dialog opens.
+    void setPatience(std::chrono::milliseconds duree) { patience_ = duree; }
     // To where the buyer is typed.
     void prendreLeFocus();
 
@@ -42,6 +45,7 @@ private:
 
     const Contexte &contexte_;
     EmissionFacture emission_;
+    std::chrono::milliseconds patience_{6'000};
     Vendeur vendeur_ = Vendeur::davrel;
     std::optional<Facture> facture_; // the one shown
     EtatVide *impossible_;

@@ -18,9 +18,11 @@ const QString serviceMuet = QStringLiteral("le service d’impression ne répond
 
 using Connexion = std::unique_ptr<http_t, decltype([](http_t *connexion) { httpClose(connexion); })>;
 
-// None when the server does not answer a first, simple question: the calls that follow would wait for minutes.
+// None when the server does not answer a first, simple question: the calls that follow would wait for minutes. Nor is
+// a password waited for, which CUPS would ask in the terminal.
 Connexion connecter(int silence)
 {
+    cupsSetPasswordCB2([](auto...) -> const char * { return nullptr; }, nullptr);
     Connexion connexion(
         httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1, silence, nullptr));
     if (!connexion)
@@ -64,6 +66,16 @@ private:
         destination_;
 };
 
+// What Qt asks of a queue before it shows it.
+void interroger(http_t *connexion, const char *file)
+{
+    if (!Destinataire(connexion, QString::fromUtf8(file)).existe())
+        return;
+    QFile oubli(QStringLiteral("/dev/null"));
+    if (oubli.open(QIODevice::WriteOnly))
+        cupsGetFd(connexion, QByteArray("/printers/" + QByteArray(file) + ".ppd").constData(), oubli.handle());
+}
+
 QString raison(ipp_status_t statut)
 {
     switch (statut) {
@@ -92,6 +104,9 @@ void FileImpression::consulter()
         return;
     cups_dest_t *files = nullptr;
     const int nombre = cupsGetDests2(connexion.get(), &files);
+    const cups_dest_t *parDefaut = cupsGetDest(nullptr, nullptr, nombre, files);
+    if (nombre > 0)
+        interroger(connexion.get(), (parDefaut ? parDefaut : files)->name);
     cupsFreeDests(nombre, files);
 }
 

@@ -11,8 +11,8 @@
 // refused the job or no server runs.
 namespace Quillet::FileImpression {
 
-// Comes back once the print server has told its queues, or at once when there is none. A silent one is left alone
-// after long seconds: not on the window's thread.
+// Comes back once the print server has told its queues, and of the one shown first all that Qt's dialog will ask; at
+// once when there is no server. A silent one is left alone after long seconds: not on the window's thread.
 void consulter();
 
 // What was chosen for a job.

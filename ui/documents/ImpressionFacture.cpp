@@ -18,13 +18,9 @@
 #include <QPushButton>
 #include <QStandardPaths>
 
-using namespace std::chrono_literals;
-
 namespace Quillet {
 
 namespace {
-
-constexpr auto patience = 6s; // for a print server's first answer
 
 const QString titreDuDialogue = QStringLiteral("Enregistrer la facture");
 
@@ -76,7 +72,7 @@ QByteArray ImpressionFacture::pdf(const Facture &facture)
     return LettresPdf::retablir(octets.data(), PageFacture::textes(facture), QApplication::font());
 }
 
-bool ImpressionFacture::imprimantesJoignables(QWidget *parent)
+bool ImpressionFacture::imprimantesJoignables(QWidget *parent, std::chrono::milliseconds patience)
 {
     return Attente::auPlus(patience, parent, QStringLiteral("Recherche des imprimantes…"), FileImpression::consulter);
 }

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 
+#include <chrono>
 #include <functional>
 #include <optional>
 
@@ -17,7 +18,7 @@ QByteArray pdf(const Facture &facture);
 
 // Whether a printer can be asked for: a print server that stays silent would hold the dialog, and the window, for
 // minutes. No server at all is an answer.
-bool imprimantesJoignables(QWidget *parent);
+bool imprimantesJoignables(QWidget *parent, std::chrono::milliseconds patience);
 // Says that they are not; returns whether the user wants a file instead.
 bool proposerLePdf(QWidget *parent);
 
