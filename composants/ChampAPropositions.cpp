@@ -40,10 +40,10 @@ void ChampAPropositions::proposer()
     liste_->popup()->setCurrentIndex(liste_->popup()->model()->index(0, 0));
 }
 
-// Return while no list is open: it was closed by Escape, or there is none.
+// The open list hands Return to the field before it takes it for itself.
 void ChampAPropositions::valider()
 {
-    if (text().trimmed().isEmpty())
+    if (liste_->popup()->isVisible() || text().trimmed().isEmpty())
         return;
     proposer();
     if (proposees_->rowCount() == 0)

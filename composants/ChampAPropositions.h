@@ -12,7 +12,7 @@ class QStringListModel;
 namespace Quillet {
 
 // A line of text under which what it may mean is proposed as one types; Return takes the first, or the one that the
-// arrows have reached.
+// arrows have reached. Where the list was closed, Return opens it again.
 class ChampAPropositions : public LigneDeTexte
 {
     Q_OBJECT

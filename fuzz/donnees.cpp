@@ -178,6 +178,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *octets, std::size_t ta
     case 'd':
         essayer<QList<Destination>>(fichier, QStringLiteral("partage/destinations.json"));
         break;
+    case 'p':
+        essayer<QList<Pays>>(fichier, QStringLiteral("partage/pays.json"));
+        break;
     case 'r':
         essayer<Reglages>(fichier, QStringLiteral("partage/reglages.json"));
         break;

@@ -28,8 +28,8 @@ struct BonDeCommande
     CodeDestination codeDestination{QStringLiteral("france")};
     bool horsUE = false;
     QString paysLivraison;        // as the buyer wrote it
-    QString paysTrouve;           // what a search wrote there; typed over, it counts no more
     std::optional<Langue> langue; // none: not chosen yet
+    QString paysTrouve;           // what a search wrote in `paysLivraison`; typed over, it counts no more
 
     [[nodiscard]] int quantite(const Livre &livre) const { return quantites.value(livre.id); }
     // No copy of any book, of either seller.

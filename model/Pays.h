@@ -32,10 +32,10 @@ struct Pays
     }
     // As in a list: "Belgique".
     [[nodiscard]] QString nom() const;
-    // Every name by which it is known, without articles, the French one first.
+    // Every name by which it is known, with and without article, the French one first.
     [[nodiscard]] QStringList noms() const;
 
-    // The one with exactly this label, in whatever language.
+    // The one with exactly this label, in whatever language; none for an empty text.
     static std::optional<Pays> designe(const QList<Pays> &pays, const QString &libelle);
 
     bool operator==(const Pays &) const = default;

@@ -100,6 +100,8 @@ void Banc::deposer() const
 {
     ecrireRessource(QStringLiteral("livres.json"), Json::encoder(livres));
     ecrireRessource(QStringLiteral("destinations.json"), Json::encoder(destinations));
+    if (!pays.isEmpty())
+        ecrireRessource(QStringLiteral("pays.json"), Json::encoder(pays));
     ecrireRessource(QStringLiteral("reglages.json"), Json::encoder(reglages));
     for (const TarifsColissimo &jeu : tarifs)
         ecrireRessource(jeu.nomDeFichier(), Json::encoder(jeu));

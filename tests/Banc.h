@@ -17,7 +17,7 @@ struct Banc
     QList<Destination> destinations;
     QList<TarifsColissimo> tarifs;
     Reglages reglages;
-    QList<Pays> pays; // not written as a resource
+    QList<Pays> pays; // a resource unless it is empty
 
     // As they would be loaded, without a file.
     [[nodiscard]] Donnees donnees() const { return {livres, tarifs, destinations, reglages, pays}; }

@@ -258,9 +258,9 @@ void TestControleDonnees::erreurs()
              {"destinations", R"("douane" : false,)", R"("douane" : true,)",
               "destinations[3].douaneSauf : sans effet, douane étant true"},
              // Countries.
-             {"pays", R"("la Belgique")", R"("la Suisse")", "pays[186].libelleFr : déjà pris par pays[22]"},
-             {"pays", R"("Belgium", "destination" : "union-europeenne")", R"("Belgium", "destination" : "ue")",
-              "pays[22].destination : aucune destination n’a ce code"},
+             {"pays", R"("la Belgique")", R"("la Suisse")", "pays[218].libelleFr : déjà pris par pays[21]"},
+             {"pays", R"(["België"], "destination" : "union-europeenne")", R"(["België"], "destination" : "ue")",
+              "pays[21].destination : aucune destination n’a ce code"},
              // Settings.
              {"reglages", "2026-07-24", "2026-02-30",
               "reglages.fraisPaypal.releve : jour attendu, de la forme 2026-01-31"},

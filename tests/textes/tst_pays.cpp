@@ -49,6 +49,8 @@ private slots:
                  {"niger", "Niger · Reste du monde", 2},
                  {"kong", "Hong Kong · Reste du monde", 1},
                  {"l'ile maurice", "", 0},
+                 {"les pays-bas", "Pays-Bas · Union européenne", 1},
+                 {"The Nether", "Pays-Bas · Union européenne", 1},
                  {"île maur", "Maurice · Reste du monde", 1},
                  {"groen", "Groenland · destination à choisir", 1},
                  {"s", "Saint-Barthélemy · Outre-mer OM1", 8},

@@ -55,6 +55,7 @@ SectionDestination::SectionDestination(const Donnees &donnees, Commande &command
     groupe()->ajouter(rangeeDeclaration_);
     groupe()->ajouter(remarque_);
 
+    connect(recherche_, &QLineEdit::textEdited, this, &SectionDestination::remarquer);
     connect(recherche_, &ChampAPropositions::choisie, this, [this](int rang) { envoyer(trouves_.value(rang)); });
     connect(recherche_, &ChampAPropositions::sansReponse, this,
             [this](const QString &texte) { remarque_->montrer(TextesPays::introuvable(texte)); });
@@ -66,6 +67,7 @@ SectionDestination::SectionDestination(const Donnees &donnees, Commande &command
 void SectionDestination::envoyer(const Pays &pays)
 {
     recherche_->clear();
+    remarquer();
     if (const auto envoyee = PaysDeLivraison::envoyee(commande_.bon(), pays, donnees_)) {
         commande_.adopter(*envoyee);
         LecteurDEcran::annoncer(recherche_, TextesPays::choisi(pays, donnees_));
@@ -92,6 +94,11 @@ void SectionDestination::montrer(const Calcul &calcul)
 
     rangeeDeclaration_->setVisible(calcul.destination.has_value());
     declaration_->setText(TextesRecapitulatif::declaration(calcul));
+    remarquer();
+}
+
+void SectionDestination::remarquer()
+{
     const auto pays = PaysDeLivraison::deLaListe(commande_.bon(), donnees_.pays);
     remarque_->montrer(pays ? pays->remarque.value_or(QString()) : QString());
 }

@@ -26,6 +26,7 @@ public:
 
 private:
     void envoyer(const Pays &pays);
+    void remarquer(); // of the order's country, in place of what a search has said
 
     const Donnees &donnees_;
     Commande &commande_;

@@ -1,0 +1,81 @@
+#include "tests/BancEcran.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QLineEdit>
+
+using namespace Quillet;
+
+// The country that is typed in the summary, by keys.
+class TestRecherchePays : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QuilletApp::preparer(Theme::Mode::clair); }
+
+    void init()
+    {
+        banc_ = std::make_unique<BancEcran>();
+        Pays suisse{.libelleFr = "la Suisse", .libelleEn = "Switzerland", .destination = vers("suisse")};
+        Pays suede{.libelleFr = "la Suède", .libelleEn = "Sweden", .destination = vers("ue"), .remarque = "À savoir."};
+        banc_->donnees.pays = {suede, suisse, {.libelleFr = "le Groenland", .libelleEn = "Greenland"}};
+        banc_->demarrer();
+        banc_->commander("Union européenne");
+        champ_ = qobject_cast<QLineEdit *>(Ecran::controle(&banc_->app->fenetre(), "Chercher un pays"));
+        QVERIFY(champ_);
+        champ_->setFocus();
+    }
+
+    void cleanup() { banc_.reset(); }
+
+    void choisir()
+    {
+        QVERIFY(montre("L’acheteur lira « European Union » : indiquez son pays."));
+        QTest::keyClicks(champ_, "su");
+        QVERIFY(liste());
+        QTest::keyClick(liste(), Qt::Key_Down);
+        QTest::keyClick(liste(), Qt::Key_Return);
+        QCOMPARE(bon().codeDestination, vers("suisse"));
+        QCOMPARE(bon().paysLivraison, "Switzerland");
+        QCOMPARE(champ_->text(), "");
+        QVERIFY(!montre("L’acheteur lira « Switzerland » : indiquez son pays."));
+        QVERIFY(Ecran::cliquer(&banc_->app->fenetre(), "Français"));
+        QCOMPARE(bon().paysLivraison, "la Suisse");
+        // The list that was closed opens again, and Return takes the first.
+        QTest::keyClicks(champ_, "su");
+        QTest::keyClick(liste(), Qt::Key_Escape);
+        QVERIFY(!liste());
+        QTest::keyClick(champ_, Qt::Key_Return);
+        QTest::keyClick(liste(), Qt::Key_Return);
+        QCOMPARE(bon().paysLivraison, "Sweden");
+        QVERIFY(montre("À savoir."));
+    }
+
+    void neRienDeviner()
+    {
+        const BonDeCommande avant = bon();
+        QTest::keyClicks(champ_, "groen");
+        QTest::keyClick(liste(), Qt::Key_Return);
+        QVERIFY(montre("Groenland : rien ne dit de façon sûre quel tarif s’applique. Demandez à La Poste, puis "
+                       "choisissez l’envoi vous-même."));
+        QTest::keyClicks(champ_, "zut");
+        QVERIFY(!liste());
+        QVERIFY(!montre("Groenland : rien ne dit de façon sûre quel tarif s’applique. Demandez à La Poste, puis "
+                        "choisissez l’envoi vous-même."));
+        QTest::keyClick(champ_, Qt::Key_Return);
+        QVERIFY(montre("Aucun pays ne répond à « zut »."));
+        QCOMPARE(bon(), avant);
+    }
+
+private:
+    [[nodiscard]] const BonDeCommande &bon() const { return banc_->app->commande().bon(); }
+    [[nodiscard]] bool montre(const QString &texte) const { return Ecran::montre(&banc_->app->fenetre(), texte); }
+    [[nodiscard]] static QWidget *liste() { return QApplication::activePopupWidget(); }
+
+    std::unique_ptr<BancEcran> banc_;
+    QLineEdit *champ_ = nullptr;
+};
+
+QTEST_MAIN(TestRecherchePays)
+#include "tst_recherche_pays.moc"
