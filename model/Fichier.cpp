@@ -259,7 +259,7 @@ QString Fichier::doubler(const QString &chemin)
         && linkat(AT_FDCWD, QFile::encodeName(chemin).constData(), AT_FDCWD, QFile::encodeName(copie).constData(),
                   AT_SYMLINK_FOLLOW)
                != 0)
-        throw ErreurStockage(chemin, raisonSysteme(errno));
+        throw ErreurStockage(chemin, raisonSysteme(EFBIG)); // some disks know no second name
     if (const int erreur = dossier.synchroniser())
         throw ErreurStockage(copie, raisonSysteme(erreur));
     return QFileInfo(copie).fileName();

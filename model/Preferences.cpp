@@ -52,10 +52,11 @@ std::optional<Lues> decoder(QByteArray octets)
             return std::nullopt;
         valeurs.insert(cle, valeur);
     }
+    const bool comptees = valeurs.contains(cleDuNombre);
     const qint64 annonces = valeurs.take(cleDuNombre).toLongLong();
     if (valeurs.isEmpty()) // none is ever written so
         return std::nullopt;
-    return Lues{valeurs, valeurs.size() >= annonces};
+    return Lues{valeurs, !comptees || (annonces > 0 && valeurs.size() >= annonces)};
 }
 
 QByteArray encoder(const Valeurs &valeurs)

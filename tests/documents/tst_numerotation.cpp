@@ -69,6 +69,7 @@ private slots:
                  {"que des zéros", QByteArray(80, '\0'), nullptr},
                  {"pas de l’UTF-8", change("007", "\xFF"), nullptr},
                  {"deux fois le même", deux + deux.sliced(10), nullptr},
+                 {"compte abîmé", QByteArray(notre).replace("textes=2", "textes="), "2026-008"},
                  {"ligne étrangère", change("[General]", "{}"), nullptr},
              }) {
             const Rangee rangee(nom);
@@ -112,9 +113,10 @@ private slots:
         QCOMPARE(emission.numeroPour({}, Vendeur::mireva, jourDuBanc), "");
         QVERIFY(emission.sansProposition().contains("Quillet.ini.illisible"));
 
-        QVERIFY(fichier.resize(Fichier::Borne::preferences + 1));
+        QVERIFY(QFile::resize(fichier.fileName(), Fichier::Borne::preferences + 1));
         numerotation.retenir("2026-009", Vendeur::davrel);
         QCOMPARE(numerotation.prochain(Vendeur::davrel, jourDuBanc), "2026-010");
+        QVERIFY(QFile::exists(fichier.fileName() + ".illisible-2"));
     }
 
     void retenir()

@@ -22,9 +22,10 @@ bool imprimantesJoignables(QWidget *parent, std::chrono::milliseconds patience);
 // Says that they are not; returns whether the user wants a file instead.
 bool proposerLePdf(QWidget *parent);
 
+using Permission = std::function<bool()>;
+
 // Both ask in the platform's dialog, over `parent`, and once more by `permise` when it is left, however long it stood.
 // They throw Echec when the invoice could not leave.
-using Permission = std::function<bool()>;
 
 // Returns whether the job was handed over; false when the user gave up, or it was not allowed any more.
 bool imprimer(const Facture &facture, int exemplaires, const Permission &permise, QWidget *parent);
