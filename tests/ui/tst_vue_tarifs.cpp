@@ -185,7 +185,8 @@ private slots:
         QVERIFY(Ecran::montre(feuille, "Pour les commandes d’aujourd’hui, 1 palier change."));
         QVERIFY(Ecran::montre(feuille, "Par rapport aux tarifs de la veille, aucun palier ne change."));
         QCOMPARE(BancEcran::luAuTableau(feuille, "France", "Après"), "5,49 €");
-        QVERIFY(qobject_cast<QPushButton *>(Ecran::controle(feuille, "Fermer"))->isDefault());
+        const auto *fermer = qobject_cast<QPushButton *>(Ecran::controle(feuille, "Fermer"));
+        QVERIFY(fermer && fermer->isDefault());
         QVERIFY(Ecran::cliquer(feuille, enregistrer));
         QTRY_VERIFY(!Dialogues::devant());
         QCOMPARE(rubrique(), "Tarifs Colissimo");

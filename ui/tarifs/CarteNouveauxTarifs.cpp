@@ -106,7 +106,7 @@ QWidget *listes(const QList<EcartTarif> &ecarts, const PorteeTarifs &portee)
         auto *veille = new Libelle(TextesReleves::depuisLaVeille(ecarts), Libelle::Rang::secondaire);
         veille->setContentsMargins(retrait, 18, retrait, 8);
         colonne->addWidget(new Encadre(TextesReleves::effet(portee), changements(portee.ecarts, aVerifier)));
-        colonne->addWidget(veille);
+        colonne->insertWidget(ecarts.isEmpty() ? 1 : -1, veille); // beside the list that it speaks of
     }
     if (!ecarts.isEmpty()) {
         Tableau *liste = changements(ecarts, aVerifier);
@@ -168,8 +168,7 @@ CarteNouveauxTarifs::CarteNouveauxTarifs(const Contexte &contexte, QWidget *pare
                     .reserves = reserves + aVerifier,
                     .tientEncore = [&verifications, releve] { return verifications.nouveauxTarifs() == releve; },
                     .accepter = [&verifications] { verifications.accepterTarifs(); },
-                    .plusTard = ecarts.isEmpty() ? fermer() : plusTard(),
-                    .gardeParDefaut = !ecarts.isEmpty()});
+                    .sansEcart = ecarts.isEmpty()});
     prendreLaTaille(taille);
 }
 

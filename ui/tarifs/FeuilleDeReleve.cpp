@@ -20,9 +20,9 @@ constexpr int marge = 24;
 void FeuilleDeReleve::composer(QWidget *page, const Accord &accord)
 {
     auto *erreur = new Alerte;
-    QPushButton *plusTard = Boutons::deFeuille(accord.plusTard);
+    QPushButton *autre = Boutons::deFeuille(accord.sansEcart ? fermer() : plusTard());
     auto *garder = new QPushButton(accord.bouton);
-    connect(plusTard, &QPushButton::clicked, this, &QDialog::reject);
+    connect(autre, &QPushButton::clicked, this, &QDialog::reject);
     connect(garder, &QPushButton::clicked, this, [this, erreur, accord] {
         if (!confirme(accord))
             return;
@@ -39,10 +39,10 @@ void FeuilleDeReleve::composer(QWidget *page, const Accord &accord)
         }
     });
 
-    QBoxLayout *boutons = Pile::rangee({}, {Pile::reste(), plusTard, garder});
+    QBoxLayout *boutons = Pile::rangee({}, {Pile::reste(), autre, garder});
     QBoxLayout *pied = Pile::colonne({.marges = {marge, 14, marge, 16}, .espace = 10}, {erreur, boutons});
     Pile::colonne(this, {.espace = 0}, {{page, 1}, filet(Qt::Horizontal), pied});
-    (accord.gardeParDefaut ? garder : plusTard)->setDefault(true);
+    (accord.sansEcart ? autre : garder)->setDefault(true);
 }
 
 void FeuilleDeReleve::composerVide(QWidget *page)

@@ -27,8 +27,7 @@ protected:
         QStringList reserves;              // which is this
         std::function<bool()> tientEncore; // what is kept is what the sheet shows: the page may have been read again
         std::function<void()> accepter;    // stores it; when it throws ErreurStockage the sheet stays open and says why
-        QString plusTard = FeuilleDeReleve::plusTard(); // closes the sheet
-        bool gardeParDefaut = true;                     // what Return does; else it closes
+        bool sansEcart = false;            // nothing to put off: the sheet is closed, also by Return
     };
     // `page`, then the buttons.
     void composer(QWidget *page, const Accord &accord);
