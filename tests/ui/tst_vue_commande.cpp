@@ -169,7 +169,9 @@ private slots:
         const auto transitions = [&] { return fenetre()->findChildren<TransitionCartes *>(); };
         cliquer("Mireva");
         const QPointer premiere = transitions().value(0);
-        premiere->findChild<QAbstractAnimation *>()->setCurrentTime(100);
+        auto *mouvement = premiere ? premiere->findChild<QAbstractAnimation *>() : nullptr;
+        QVERIFY(mouvement);
+        mouvement->setCurrentTime(100);
         cliquer("davrel.example");
         QVERIFY(!premiere && transitions().size() == 1);
         cliquer("Livre 1");

@@ -34,6 +34,7 @@ namespace Quillet {
 namespace {
 
 constexpr int largeurDuVolet = 340;
+constexpr auto tempsDeLecture = 1s; // of a sentence that says why
 constexpr int marge = 24;
 
 // The button in words, with what it would act on; nothing to act on disables it.
@@ -58,10 +59,11 @@ VueLivres::VueLivres(const Contexte &contexte, QWidget *parent)
       fiche_(new FicheLivre(contexte.images)),
       echec_(new Alerte),
       annuler_(creerBouton(QStringLiteral("arrow.uturn.backward"), QKeySequence::Undo)),
-      retablir_(creerBouton(QStringLiteral("arrow.uturn.forward"), QKeySequence::Redo))
+      retablir_(creerBouton(QStringLiteral("arrow.uturn.forward"), QKeySequence::Redo)),
+      lecture_(this)
 {
     lecture_.setSingleShot(true);
-    lecture_.setInterval(1s);
+    lecture_.setInterval(tempsDeLecture);
     enTete_->ajouter(choix_);
     QWidget *liste = gauche();
     Pile::colonne(this, {.espace = 0},
@@ -178,7 +180,6 @@ void VueLivres::tenter(const std::function<void()> &geste)
         echec = QStringLiteral("Modification non enregistrée : %1").arg(erreur.texte());
     }
     echec_->montrer(echec);
-    lecture_.stop();
     if (echec.isEmpty())
         return;
     actualiser();
