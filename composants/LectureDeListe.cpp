@@ -61,6 +61,13 @@ public:
     [[nodiscard]] QAccessibleInterface *childAt(int x, int y) const override { return qt_.childAt(x, y); }
     [[nodiscard]] int childCount() const override { return qt_.childCount(); }
     [[nodiscard]] QString text(QAccessible::Text texte) const override { return qt_.text(texte); }
+    [[nodiscard]] QAccessibleInterface *focusChild() const override { return qt_.focusChild(); }
+    [[nodiscard]] QList<std::pair<QAccessibleInterface *, QAccessible::Relation>>
+    relations(QAccessible::Relation lesquelles) const override
+    {
+        return qt_.relations(lesquelles);
+    }
+    [[nodiscard]] QWindow *window() const override { return qt_.window(); }
     [[nodiscard]] QRect rect() const override { return qt_.rect(); }
     [[nodiscard]] QAccessible::Role role() const override { return qt_.role(); }
     [[nodiscard]] QAccessible::State state() const override { return qt_.state(); }
@@ -102,6 +109,8 @@ QAccessibleInterface *LectureDeListe::interfaceDe(const QString &classe, QObject
     QAccessible::removeFactory(interfaceDe);
     auto *deQt = QAccessible::queryAccessibleInterface(objet); // Qt keeps it; of two, the last shows
     QAccessible::installFactory(interfaceDe);
+    if (!deQt || !deQt->tableInterface())
+        return nullptr;
     return new Lecture(static_cast<QWidget *>(objet), deQt); // Qt owns it
 }
 

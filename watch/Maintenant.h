@@ -6,7 +6,7 @@
 
 namespace Quillet {
 
-// Day and hour, at any time.
+// The clock that checks are given.
 using Maintenant = std::function<QDateTime()>;
 
 } // namespace Quillet

@@ -31,16 +31,16 @@ QString cause(int code)
     const QHash<int, QString> causes{
         {2, introuvable}, // no address, which is what Qt 6.8 makes of an invalid one
         {3, introuvable}, // an invalid one
-        {6, introuvable},
-        {5, mandataire},
-        {97, mandataire},
+        {6, introuvable}, // by its name
+        {5, mandataire},  // the proxy, by its name
+        {97, mandataire}, // the proxy refused
         {7, QStringLiteral("connexion impossible")},
-        {28, QStringLiteral("téléchargement trop long")},
-        {35, nonSecurisee},
-        {60, nonSecurisee}, // its certificate
-        {77, nonSecurisee}, // no authority to ask
+        {28, QStringLiteral("téléchargement trop long")}, // its time was up
+        {35, nonSecurisee},                               // the handshake
+        {60, nonSecurisee},                               // its certificate
+        {77, nonSecurisee},                               // no authority to ask
         {47, QStringLiteral("trop de redirections")},
-        {63, Transfert::tropVolumineuse()},
+        {63, Transfert::tropVolumineuse()}, // announced so
     };
     return causes.value(code, interrompue);
 }
