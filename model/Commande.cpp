@@ -20,13 +20,25 @@ void Commande::vider()
 {
     BonDeCommande bon = bon_;
     bon.vider();
-    adopter(bon);
+    passerA(bon, bon_);
+}
+
+void Commande::rendre()
+{
+    if (const auto videe = videe_)
+        adopter(*videe);
 }
 
 void Commande::adopter(const BonDeCommande &bon)
 {
+    passerA(bon, std::nullopt);
+}
+
+void Commande::passerA(const BonDeCommande &bon, const std::optional<BonDeCommande> &videe)
+{
     if (bon == bon_)
         return;
+    videe_ = videe;
     bon_ = bon;
     emit change();
 }

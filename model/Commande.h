@@ -23,12 +23,16 @@ public:
     void setHorsUE(bool horsUE) { remplacer(&BonDeCommande::horsUE, horsUE); }
     void setPaysLivraison(const QString &pays) { remplacer(&BonDeCommande::paysLivraison, pays); }
     void setLangue(std::optional<Langue> langue) { remplacer(&BonDeCommande::langue, langue); }
-    // Takes another order, whole.
-    void adopter(const BonDeCommande &bon);
     // See BonDeCommande.
     void setCodeDestination(const CodeDestination &code);
     void ajuster(const Livre &livre, int delta);
     void vider();
+    // Takes another order, whole.
+    void adopter(const BonDeCommande &bon);
+
+    // Whether `rendre` gives back what `vider` took: until the next change.
+    [[nodiscard]] bool peutRendre() const { return videe_.has_value(); }
+    void rendre();
 
 signals:
     void change();
@@ -41,8 +45,10 @@ private:
         bon.*champ = valeur;
         adopter(bon);
     }
+    void passerA(const BonDeCommande &bon, const std::optional<BonDeCommande> &videe);
 
     BonDeCommande bon_;
+    std::optional<BonDeCommande> videe_; // what the last change took away, when it was `vider`
 };
 
 } // namespace Quillet

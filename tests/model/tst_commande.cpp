@@ -77,6 +77,37 @@ private slots:
         QVERIFY(!commande.bon().horsUE && commande.bon().paysLivraison.isEmpty() && !commande.bon().langue);
     }
 
+    void rendreCeQuiFutVide()
+    {
+        const Banc banc;
+        const Livre &livre = banc.livres[0];
+        for (const auto &[nom, geste, rendue] : Rangees<std::function<void(Commande &)>, bool>{
+                 {"aussitôt", [](Commande &) {}, true},
+                 {"geste sans effet", [](Commande &commande) { commande.setCodeDestination(vers("ue")); }, true},
+                 {"un livre", [&](Commande &commande) { commande.ajuster(livre, 1); }, false},
+                 {"la destination", [](Commande &commande) { commande.setCodeDestination(vers("suisse")); }, false},
+                 {"la langue", [](Commande &commande) { commande.setLangue(Langue::francais); }, false},
+                 {"vidée deux fois", [](Commande &commande) { commande.vider(); }, true},
+             }) {
+            const Rangee rangee(nom);
+            Commande commande;
+            commande.setCodeDestination(vers("ue"));
+            commande.ajuster(livre, 2);
+            commande.setPaysLivraison("l’Italie");
+            QVERIFY(!commande.peutRendre());
+            const BonDeCommande avant = commande.bon();
+            bool dit = false; // by the time the change is told
+            connect(&commande, &Commande::change, this, [&] { dit = commande.peutRendre(); });
+            commande.vider();
+            QVERIFY(dit);
+            geste(commande);
+            QCOMPARE(commande.peutRendre(), rendue);
+            commande.rendre();
+            QCOMPARE(commande.bon() == avant, rendue);
+            QVERIFY(!commande.peutRendre());
+        }
+    }
+
     void depassementArrete()
     {
         for (const auto &[nom, operation] : Rangees<Centimes (*)(Centimes)>{
