@@ -1,3 +1,4 @@
+#include "model/Suivi.h"
 #include "tests/Banc.h"
 #include "tests/Rangees.h"
 
@@ -106,6 +107,51 @@ private slots:
             QCOMPARE(commande.bon() == avant, rendue);
             QVERIFY(!commande.peutRendre());
         }
+    }
+
+    void etapeSuivante()
+    {
+        using Total = std::optional<Centimes>;
+        for (const auto &[nom, geste, attendue] : Rangees<std::function<void(BonDeCommande &, Total &)>, Etape>{
+                 {"rien", [](BonDeCommande &, Total &) {}, Etape::facture},
+                 {"la langue", [](BonDeCommande &bon, Total &) { bon.langue = Langue::anglais; }, Etape::facture},
+                 {"le pays", [](BonDeCommande &bon, Total &) { bon.paysLivraison = "Italy"; }, Etape::facture},
+                 {"un livre", [](BonDeCommande &bon, Total &) { bon.quantites[1] = 2; }, Etape::lien},
+                 {"le colis pesé", [](BonDeCommande &bon, Total &) { bon.poidsPese = Grammes{300}; }, Etape::lien},
+                 {"la destination", [](BonDeCommande &bon, Total &) { bon.destiner(vers("ue")); }, Etape::lien},
+                 {"vidée", [](BonDeCommande &bon, Total &) { bon.vider(); }, Etape::lien},
+                 {"le prix d’un livre", [](BonDeCommande &, Total &total) { total = Centimes{2100}; }, Etape::lien},
+             }) {
+            const Rangee rangee(nom);
+            BonDeCommande bon{.quantites = {{1, 1}}};
+            Total total = Centimes{2049};
+            Suivi suivi;
+            suivi.suivre(bon, total);
+            QVERIFY(suivi.suivante() == Etape::lien);
+            suivi.faire(Etape::lien);
+            QVERIFY(suivi.suivante() == Etape::reponse);
+            suivi.faire(Etape::reponse);
+            geste(bon, total);
+            suivi.suivre(bon, total);
+            QVERIFY(suivi.suivante() == attendue);
+        }
+    }
+
+    void copierChacunSonTour()
+    {
+        QList<TexteACopier> textes{{"Nom", "Davrel"}, {"Description", "un livre"}, {"Prix", "20,49"}};
+        Suivi suivi;
+        suivi.copier(textes[1]); // by its own button
+        QVERIFY(suivi.estCopie(textes[1]) && !suivi.estCopie(textes[0]));
+        for (const int rang : {0, 2, 0, 1, 2, 0}) {
+            QCOMPARE(suivi.aCopier(textes), rang);
+            suivi.copier(textes[rang]);
+        }
+        textes[2].valeur = "21,00";
+        QVERIFY(!suivi.estCopie(textes[2]) && suivi.estCopie(textes[0]));
+        QCOMPARE(suivi.aCopier(textes), 2);
+        suivi.suivre({.quantites = {{1, 1}}}, std::nullopt);
+        QVERIFY(!suivi.estCopie(textes[0]));
     }
 
     void depassementArrete()
