@@ -1,6 +1,5 @@
 #include "ui/commande/ChampGrammes.h"
 
-#include "composants/LigneDeTexte.h"
 #include "model/Saisie.h"
 
 #include <QFocusEvent>
@@ -30,7 +29,7 @@ public:
 
 } // namespace
 
-ChampGrammes::ChampGrammes(QWidget *parent) : QLineEdit(parent)
+ChampGrammes::ChampGrammes(QWidget *parent) : LigneDeTexte(parent)
 {
     setValidator(new DesGrammes(this));
     setAlignment(Qt::AlignRight);
@@ -82,7 +81,7 @@ void ChampGrammes::montrer(const std::optional<Grammes> &poids)
 // At least 70 px, and always wide enough for the largest weight: a cut one would be misread.
 void ChampGrammes::changeEvent(QEvent *evenement)
 {
-    QLineEdit::changeEvent(evenement);
+    LigneDeTexte::changeEvent(evenement);
     if (evenement->type() == QEvent::FontChange)
         ajusterLaLargeur();
 }
@@ -94,8 +93,8 @@ void ChampGrammes::ajusterLaLargeur()
 
 void ChampGrammes::focusOutEvent(QFocusEvent *evenement)
 {
-    QLineEdit::focusOutEvent(evenement);
-    if (LigneDeTexte::reviendra(*evenement))
+    LigneDeTexte::focusOutEvent(evenement);
+    if (reviendra(*evenement))
         return;
     accepter();
     setText(Saisie::ecrit(montre_));

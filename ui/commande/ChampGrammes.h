@@ -1,15 +1,14 @@
 #pragma once
 
+#include "composants/LigneDeTexte.h"
 #include "model/Quantite.h"
-
-#include <QLineEdit>
 
 #include <optional>
 
 namespace Quillet {
 
 // A weight in whole grams, as the French write it, counted at each key; empty when there is none.
-class ChampGrammes : public QLineEdit
+class ChampGrammes : public LigneDeTexte
 {
     Q_OBJECT
 
