@@ -16,7 +16,7 @@ BoutonCopier::BoutonCopier(QWidget *parent) : QToolButton(parent), retour_(this)
     setFocusPolicy(Qt::StrongFocus); // a click ends what is being typed elsewhere, and may change what is copied
     retour_.setSingleShot(true);
     retour_.setInterval(1500ms);
-    connect(this, &QToolButton::clicked, this, &BoutonCopier::copier);
+    connect(this, &QToolButton::clicked, this, [this] { copier(QStringLiteral("Copié")); });
     connect(&retour_, &QTimer::timeout, this, &BoutonCopier::montrerEtat);
     montrerEtat();
 }
@@ -30,13 +30,14 @@ void BoutonCopier::setValeur(const QString &valeur)
     montrerEtat();
 }
 
-void BoutonCopier::copier()
+void BoutonCopier::copier(const QString &dit)
 {
     QGuiApplication::clipboard()->setText(valeur_);
     if (!retour_.isActive()) // copied again, it shows no longer than copied once
         retour_.start();
     montrerEtat();
-    LecteurDEcran::annoncer(this, QStringLiteral("Copié"));
+    LecteurDEcran::annoncer(this, dit);
+    emit copie();
 }
 
 void BoutonCopier::montrerEtat()

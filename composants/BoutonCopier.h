@@ -14,9 +14,13 @@ public:
     explicit BoutonCopier(QWidget *parent = nullptr);
     // Another value is not copied yet.
     void setValeur(const QString &valeur);
+    // As a press does; `dit` is what is spoken of it.
+    void copier(const QString &dit);
+
+signals:
+    void copie();
 
 private:
-    void copier();
     void montrerEtat();
 
     QString valeur_;

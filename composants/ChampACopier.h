@@ -4,10 +4,13 @@
 
 #include <optional>
 
+class QBoxLayout;
+
 namespace Quillet {
 
 class BoutonCopier;
 class Libelle;
+class LibelleASymbole;
 
 // One value the seller copies elsewhere: its title, what is shown, and a button that puts the value on the clipboard.
 class ChampACopier : public QWidget
@@ -22,9 +25,22 @@ public:
 
     // `affichage` is shown instead of the value when it is not empty.
     void montrer(const QString &valeur, const QString &affichage = {});
+    // A quiet tick after the title that stands over the value: it was copied already.
+    void marquer(bool copie);
+    // As its button does, and has it said which one it was.
+    void copier();
+    [[nodiscard]] QString titre() const { return titre_; }
+    [[nodiscard]] QString valeur() const { return valeur_; }
+
+signals:
+    void copie();
 
 private:
+    QBoxLayout *avecCoche(QWidget *titre);
+
     QString titre_;
+    QString valeur_;
+    LibelleASymbole *coche_ = nullptr; // none beside the value
     Libelle *affichage_;
     BoutonCopier *bouton_;
 };
