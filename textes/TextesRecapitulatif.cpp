@@ -56,6 +56,13 @@ std::optional<TextesRecapitulatif::Ligne> TextesRecapitulatif::palier(const Calc
                  Format::jusqua(jusqua)};
 }
 
+QString TextesRecapitulatif::dernierPalier(const Calcul &calcul)
+{
+    if (!calcul.palier || *calcul.palier != calcul.grille->paliers.last())
+        return {};
+    return QStringLiteral("C’est le dernier palier de la grille : au-delà, il faut faire deux colis.");
+}
+
 QList<TextesRecapitulatif::Avertissement> TextesRecapitulatif::avertissementsDePesee(const Calcul &calcul)
 {
     QList<Avertissement> avertissements;

@@ -47,6 +47,8 @@ QString resume(const Calcul &calcul);
 QList<Ligne> livres(const Calcul &calcul);
 QString emballage(const Emballage &emballage);
 std::optional<Ligne> palier(const Calcul &calcul);
+// That no tier comes after the parcel's; empty when one does.
+QString dernierPalier(const Calcul &calcul);
 QList<Avertissement> avertissementsDePesee(const Calcul &calcul);
 // The destination's full name, where it says more than the short one.
 QString destinationComplete(const Calcul &calcul);

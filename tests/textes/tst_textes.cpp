@@ -98,6 +98,10 @@ private slots:
         QCOMPARE(tranche->detail, "encore 60 g avant le palier suivant");
         QCOMPARE(tranche->valeur, "jusqu’à 500 g");
         QCOMPARE(emballage(cas.banc.reglages.emballages[1]), "Carton (180 g)");
+        QCOMPARE(dernierPalier(cas.calcul()), "");
+        cas.bon.poidsPese = Grammes{501};
+        QCOMPARE(dernierPalier(cas.calcul()),
+                 "C’est le dernier palier de la grille : au-delà, il faut faire deux colis.");
     }
 
     void detailsDesMontants()

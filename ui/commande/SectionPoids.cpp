@@ -88,6 +88,7 @@ void SectionPoids::montrer(const Calcul &calcul)
         palier_.rangee->setTexte(palier->libelle);
         palier_.rangee->setDetail(palier->detail);
         palier_.montant->afficher(palier->valeur);
+        palier_.rangee->setToolTip(TextesRecapitulatif::dernierPalier(calcul));
     }
     montrerAvertissements(calcul);
 }
