@@ -2,6 +2,7 @@
 
 #include "composants/Formulaire.h"
 #include "composants/NombreRoulant.h"
+#include "model/Format.h"
 
 namespace Quillet {
 
@@ -12,6 +13,13 @@ struct RangeeMontant
         : montant(new NombreRoulant), rangee(new Formulaire::Rangee(libelle, montant))
     {
     }
+
+    static void afficher(NombreRoulant *nombre, const std::optional<Centimes> &montant)
+    {
+        const QString texte = Format::euros(montant);
+        nombre->afficher(texte, 1, Format::dit(texte));
+    }
+    void afficher(const std::optional<Centimes> &valeur) const { afficher(montant, valeur); }
 
     NombreRoulant *montant;
     Formulaire::Rangee *rangee; // owned by the group it is put into

@@ -1,73 +1,36 @@
 #include "ui/commande/SectionMontants.h"
 
 #include "composants/Alerte.h"
-#include "composants/Chiffres.h"
 #include "composants/Dessin.h"
 #include "composants/Libelle.h"
-#include "composants/Pile.h"
 #include "composants/Theme.h"
-#include "model/Format.h"
 #include "textes/TextesRecapitulatif.h"
+#include "ui/commande/LigneDuTotal.h"
 
-#include <QEvent>
 #include <QPainter>
 
 namespace Quillet {
 
-// The amount to ask, set off from the other rows.
-class SectionMontants::LigneDuTotal : public QWidget
+namespace {
+
+// Set off from the other rows.
+class TotalEnEvidence : public LigneDuTotal
 {
 public:
-    explicit LigneDuTotal(NombreRoulant *total) : libelle_(new Libelle(QStringLiteral("TOTAL À PAYER"))), total_(total)
-    {
-        QFont titre = Theme::enGras(font());
-        titre.setLetterSpacing(QFont::AbsoluteSpacing, 0.8);
-        libelle_->setFont(titre);
-        // Takes what the label leaves, and fits its type to it: a long total must not widen the panel.
-        total_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        Pile::rangee(this, {.marges = {12, 10, 12, 10}}, {libelle_, {total_, 1}});
-    }
-
-    void ajuster()
-    {
-        const QRect dedans = rect().marginsRemoved(layout()->contentsMargins());
-        const int place = dedans.width() - libelle_->sizeHint().width() - layout()->spacing();
-        total_->setFont(Chiffres::ajustee(Theme::grandChiffre(), total_->text(), place));
-    }
+    TotalEnEvidence() : LigneDuTotal(QStringLiteral("TOTAL À PAYER"), {12, 10, 12, 10}) {}
 
 protected:
-    void resizeEvent(QResizeEvent *) override { ajuster(); }
-
-    void changeEvent(QEvent *evenement) override
-    {
-        QWidget::changeEvent(evenement);
-        if (evenement->type() == QEvent::FontChange && layout())
-            ajuster();
-    }
-
     void paintEvent(QPaintEvent *) override
     {
         QPainter peintre(this);
         peintre.setRenderHint(QPainter::Antialiasing);
         Dessin::aplat(peintre, rect(), Theme::rayonGroupe, Dessin::transparente(Theme::accentTexte(palette()), 0.14));
     }
-
-private:
-    Libelle *libelle_;
-    NombreRoulant *total_;
 };
-
-namespace {
 
 std::optional<Centimes> negatif(const std::optional<Centimes> &montant)
 {
     return montant ? std::optional(-*montant) : std::nullopt;
-}
-
-void afficher(NombreRoulant *nombre, const std::optional<Centimes> &montant)
-{
-    const QString texte = Format::euros(montant);
-    nombre->afficher(texte, 1, Format::dit(texte));
 }
 
 } // namespace
@@ -76,8 +39,7 @@ SectionMontants::SectionMontants(const Reglages &reglages, QWidget *parent)
     : Section(QStringLiteral("Montants"), {}, parent),
       reglages_(reglages),
       envoi_(QStringLiteral("Envoi Colissimo")),
-      total_(new NombreRoulant),
-      ligneDuTotal_(new LigneDuTotal(total_)),
+      total_(new TotalEnEvidence),
       frais_(QStringLiteral("Frais PayPal")),
       reste_(QStringLiteral("Il vous reste")),
       perte_(new Alerte)
@@ -86,7 +48,7 @@ SectionMontants::SectionMontants(const Reglages &reglages, QWidget *parent)
     reste_.rangee->libelle()->setFont(Theme::enGras(font()));
     reste_.montant->setFont(Theme::enGras(font()));
     groupe()->ajouter(envoi_.rangee);
-    groupe()->ajouter(Formulaire::seul(ligneDuTotal_));
+    groupe()->ajouter(Formulaire::seul(total_));
     groupe()->ajouter(frais_.rangee);
     groupe()->ajouter(reste_.rangee);
     groupe()->ajouter(perte_);
@@ -95,13 +57,11 @@ SectionMontants::SectionMontants(const Reglages &reglages, QWidget *parent)
 void SectionMontants::montrer(const Calcul &calcul)
 {
     envoi_.rangee->setDetail(TextesRecapitulatif::detailEnvoi(calcul));
-    afficher(envoi_.montant, calcul.envoi);
-    total_->setForegroundRole(calcul.total ? QPalette::WindowText : Theme::roleSecondaire);
-    afficher(total_, calcul.total);
-    ligneDuTotal_->ajuster();
+    envoi_.afficher(calcul.envoi);
+    total_->montrer(calcul.total);
     frais_.rangee->setDetail(TextesRecapitulatif::detailFrais(calcul, reglages_.fraisPaypal));
-    afficher(frais_.montant, negatif(calcul.fraisPaypal));
-    afficher(reste_.montant, calcul.reste);
+    frais_.afficher(negatif(calcul.fraisPaypal));
+    reste_.afficher(calcul.reste);
     perte_->montrer(TextesRecapitulatif::perte(calcul));
 }
 

@@ -6,6 +6,7 @@
 namespace Quillet {
 
 class Alerte;
+class LigneDuTotal;
 
 // Postage, total, PayPal's fee and what remains.
 class SectionMontants : public Formulaire::Section
@@ -18,12 +19,9 @@ public:
     void montrer(const Calcul &calcul);
 
 private:
-    class LigneDuTotal;
-
     const Reglages &reglages_;
     RangeeMontant envoi_;
-    NombreRoulant *total_;
-    LigneDuTotal *ligneDuTotal_;
+    LigneDuTotal *total_;
     RangeeMontant frais_;
     RangeeMontant reste_;
     Alerte *perte_;
