@@ -34,12 +34,39 @@ void Dessin::aplat(QPainter &peintre, const QRectF &cadre, qreal rayon, const QC
     peintre.drawRoundedRect(cadre, rayon, rayon);
 }
 
+qreal Dessin::trait(const QPainter &peintre)
+{
+    const qreal densite = peintre.device()->devicePixelRatioF();
+    return std::max(1.0, std::floor(densite)) / densite;
+}
+
+QRectF Dessin::surLesPixels(const QPainter &peintre, const QRectF &cadre)
+{
+    const QTransform appareil = peintre.deviceTransform();
+    const QRectF place = appareil.mapRect(cadre);
+    const QPointF haut(std::round(place.left()), std::round(place.top()));
+    const QPointF bas(std::round(place.right()), std::round(place.bottom()));
+    return appareil.inverted().mapRect(QRectF(haut, bas));
+}
+
+void Dessin::filet(QPainter &peintre, const QPointF &debut, qreal longueur, const QPalette &palette)
+{
+    peintre.fillRect(surLesPixels(peintre, {debut, QSizeF(longueur, trait(peintre))}), Theme::filet(palette));
+}
+
+void Dessin::encadre(QPainter &peintre, const QRectF &cadre, qreal rayon, const QColor &fond, const QColor &contour)
+{
+    const qreal epaisseur = trait(peintre);
+    const qreal retrait = epaisseur / 2; // the pen draws on both sides of its line
+    peintre.setRenderHint(QPainter::Antialiasing);
+    peintre.setPen(QPen(contour, epaisseur));
+    peintre.setBrush(fond);
+    peintre.drawRoundedRect(surLesPixels(peintre, cadre).adjusted(retrait, retrait, -retrait, -retrait), rayon, rayon);
+}
+
 void Dessin::carte(QPainter &peintre, const QRect &cadre, const QPalette &palette)
 {
-    peintre.setRenderHint(QPainter::Antialiasing);
-    peintre.setPen(QPen(Theme::filet(palette), 1));
-    peintre.setBrush(Theme::carte(palette));
-    peintre.drawRoundedRect(QRectF(cadre).adjusted(0.5, 0.5, -0.5, -0.5), Theme::rayonGroupe, Theme::rayonGroupe);
+    encadre(peintre, cadre, Theme::rayonGroupe, Theme::carte(palette), Theme::filet(palette));
 }
 
 int Dessin::etiquette(QPainter &peintre, const QRect &ligne, const QString &texte, const Etiquette &apparence)

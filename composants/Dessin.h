@@ -21,7 +21,16 @@ QColor transparente(QColor couleur, double opacite);
 // A rounded rectangle of one colour, without an outline.
 void aplat(QPainter &peintre, const QRectF &cadre, qreal rayon, const QColor &couleur);
 
-// A raised group: rounded, with a hairline around.
+// On a screen at 125 %, lines of one px would be one of the device's here and two there: these are as wide everywhere.
+// The width of a hairline, px; a frame moved onto the device's own pixels.
+qreal trait(const QPainter &peintre);
+QRectF surLesPixels(const QPainter &peintre, const QRectF &cadre);
+// A hairline from here to the right.
+void filet(QPainter &peintre, const QPointF &debut, qreal longueur, const QPalette &palette);
+// Rounded, with a hairline around.
+void encadre(QPainter &peintre, const QRectF &cadre, qreal rayon, const QColor &fond, const QColor &contour);
+
+// A raised group.
 void carte(QPainter &peintre, const QRect &cadre, const QPalette &palette);
 
 struct Etiquette

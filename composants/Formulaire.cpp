@@ -75,16 +75,13 @@ void Groupe::paintEvent(QPaintEvent *)
     QPainter peintre(this);
     Dessin::carte(peintre, rect(), palette());
 
-    peintre.setPen(QPen(Theme::filet(palette()), 1));
     bool premiere = true;
     for (int i = 0; i < rangees_->count(); ++i) {
         const QWidget *rangee = rangees_->itemAt(i)->widget();
         if (!rangee || rangee->isHidden())
             continue;
-        if (!std::exchange(premiere, false)) {
-            const double haut = rangee->y() + 0.5;
-            peintre.drawLine(QPointF(margeHorizontale, haut), QPointF(width() - margeHorizontale, haut));
-        }
+        if (!std::exchange(premiere, false))
+            Dessin::filet(peintre, QPoint(margeHorizontale, rangee->y()), width() - 2 * margeHorizontale, palette());
     }
 }
 

@@ -1,42 +1,24 @@
 #include "composants/PressePapiers.h"
 
+#include "composants/SelectionX.h"
+
 #include <QAbstractNativeEventFilter>
 #include <QClipboard>
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QTimer>
 
-#include <xcb/xcb.h>
-
-#include <cstdlib>
-#include <memory>
-#include <string_view>
-
 using namespace std::chrono_literals;
 
 namespace Quillet {
+
+using SelectionX::atome;
+using SelectionX::tenant;
 
 namespace {
 
 constexpr auto pourLire = 100ms; // what was copied just now, by those who were told so then
 constexpr auto pourPrendre = 1s;
-
-template <typename T>
-using DeXcb = std::unique_ptr<T, decltype([](T *reponse) { std::free(reponse); })>;
-
-xcb_atom_t atome(xcb_connection_t *x, std::string_view nom)
-{
-    const DeXcb<xcb_intern_atom_reply_t> lu(
-        xcb_intern_atom_reply(x, xcb_intern_atom(x, false, static_cast<uint16_t>(nom.size()), nom.data()), nullptr));
-    return lu ? lu->atom : xcb_atom_t{XCB_ATOM_NONE};
-}
-
-xcb_window_t tenant(xcb_connection_t *x, xcb_atom_t selection)
-{
-    const DeXcb<xcb_get_selection_owner_reply_t> lu(
-        xcb_get_selection_owner_reply(x, xcb_get_selection_owner(x, selection), nullptr));
-    return lu ? lu->owner : xcb_window_t{XCB_WINDOW_NONE};
-}
 
 // Ends the wait when the clipboard manager says that it has taken, or could not.
 class Reponse : public QAbstractNativeEventFilter

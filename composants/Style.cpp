@@ -1,10 +1,18 @@
 #include "composants/Style.h"
 
+#include "composants/Composition.h"
 #include "composants/Dessin.h"
 #include "composants/DessinAscenseur.h"
+#include "composants/DessinBouton.h"
+#include "composants/DessinChamp.h"
+#include "composants/DessinMenu.h"
 #include "composants/Icone.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
+#include <QComboBox>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPainter>
 #include <QStyleOption>
 #include <QStyleOptionSlider>
@@ -18,57 +26,12 @@ namespace {
 
 constexpr int hauteurControle = 30;
 constexpr int largeurAscenseur = 11;
-constexpr int espaceIcone = 7; // between a button's icon and its text
+constexpr int retraitDuChoix = 9; // of its text
+constexpr int margeDeBulle = 5;
 
 bool contient(const QStyleOption &option, QStyle::StateFlag etat)
 {
     return option.state.testFlag(etat);
-}
-
-// The one that Return presses stands out, filled with the accent.
-bool principal(const QStyleOption &option)
-{
-    const auto *bouton = qstyleoption_cast<const QStyleOptionButton *>(&option);
-    return bouton && bouton->features.testFlag(QStyleOptionButton::DefaultButton)
-           && contient(option, QStyle::State_Enabled);
-}
-
-void bouton(const QStyleOption &option, QPainter &peintre)
-{
-    const QPalette &palette = option.palette;
-    const bool accentue = principal(option);
-    const QColor encre = accentue ? palette.color(QPalette::HighlightedText) : palette.color(QPalette::WindowText);
-    const QColor ombre = accentue ? Qt::black : encre; // never nearer to the text
-    QColor fond = accentue ? Theme::accent(palette) : Theme::carte(palette);
-    if (contient(option, QStyle::State_Sunken))
-        fond = Dessin::melange(fond, ombre, 0.12);
-    else if (contient(option, QStyle::State_MouseOver) && contient(option, QStyle::State_Enabled))
-        fond = Dessin::melange(fond, ombre, 0.05);
-    peintre.setPen(QPen(accentue ? fond : Theme::filet(palette), 1));
-    peintre.setBrush(fond);
-    const QRectF cadre = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
-    peintre.drawRoundedRect(cadre, Theme::rayonControle, Theme::rayonControle);
-    if (contient(option, QStyle::State_HasFocus) && contient(option, QStyle::State_KeyboardFocusChange))
-        Dessin::anneauDeFocus(peintre, option.rect, Theme::rayonControle,
-                              accentue ? encre : Theme::accentTexte(palette));
-}
-
-// The icon and the text side by side, centred together.
-void contenuDuBouton(const QStyleOptionButton &option, QPainter &peintre)
-{
-    const bool actif = contient(option, QStyle::State_Enabled);
-    const int icone = option.icon.isNull() ? 0 : option.iconSize.width();
-    // Without the & of its key, which is not drawn.
-    const int texte = option.fontMetrics.horizontalAdvance(QString(option.text).remove(u'&'));
-    const int gauche = option.rect.center().x() - (icone + (icone ? espaceIcone : 0) + texte) / 2;
-    const bool accentue = principal(option);
-    const auto mode = accentue ? QIcon::Selected : actif ? QIcon::Normal : QIcon::Disabled;
-    option.icon.paint(&peintre, {gauche, option.rect.center().y() - icone / 2, icone, icone}, Qt::AlignCenter, mode);
-    peintre.setPen(option.palette.color(actif ? QPalette::Active : QPalette::Disabled,
-                                        accentue ? QPalette::HighlightedText : QPalette::ButtonText));
-    peintre.drawText(
-        QRect(gauche + icone + (icone ? espaceIcone : 0), option.rect.top(), texte + 2, option.rect.height()),
-        Qt::AlignLeft | Qt::AlignVCenter | Qt::TextHideMnemonic, option.text);
 }
 
 void texteDuChoix(const QStyleOptionComboBox &option, QPainter &peintre, const QRect &place)
@@ -77,17 +40,6 @@ void texteDuChoix(const QStyleOptionComboBox &option, QPainter &peintre, const Q
     peintre.setPen(option.palette.color(groupe, QPalette::ButtonText));
     peintre.drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
                      option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, place.width()));
-}
-
-void champ(const QStyleOption &option, QPainter &peintre)
-{
-    const QPalette &palette = option.palette;
-    const bool actif = contient(option, QStyle::State_HasFocus);
-    const qreal epaisseur = actif ? Dessin::epaisseurDAnneau : 1;
-    peintre.setPen(QPen(actif ? Theme::accentTexte(palette) : Theme::filet(palette), epaisseur));
-    peintre.setBrush(Dessin::melange(Theme::carte(palette), palette.color(QPalette::Window), 0.5));
-    const qreal retrait = epaisseur / 2;
-    peintre.drawRoundedRect(QRectF(option.rect).adjusted(retrait, retrait, -retrait, -retrait), 6, 6);
 }
 
 void fondDOutil(const QStyleOption &option, QPainter &peintre)
@@ -113,6 +65,19 @@ void Style::polish(QPalette &palette)
                              souhaits_.contrasteVoulu());
 }
 
+// What comes up over the rest has round corners, where these can be seen through.
+void Style::polish(QWidget *widget)
+{
+    QProxyStyle::polish(widget);
+    const bool liste = widget->inherits("QComboBoxPrivateContainer");
+    if ((liste || qobject_cast<QMenu *>(widget) || widget->inherits("QTipLabel")) && Composition::active())
+        widget->setAttribute(Qt::WA_TranslucentBackground);
+    if (liste)
+        widget->setContentsMargins(DessinMenu::bord, 0, DessinMenu::bord, 0);
+    if (widget->inherits("QComboBoxListView"))
+        static_cast<QAbstractScrollArea *>(widget)->viewport()->setAutoFillBackground(false);
+}
+
 void Style::suivre(const Souhaits &souhaits)
 {
     souhaits_ = souhaits;
@@ -126,12 +91,20 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
     peintre->setRenderHint(QPainter::Antialiasing);
     switch (element) {
     case PE_PanelButtonCommand:
-        bouton(*option, *peintre);
+        DessinBouton::fond(*peintre, *option, widget);
         break;
     case PE_PanelLineEdit:
-        champ(*option, *peintre);
+        if (!DessinChamp::partieDUnAutre(*option, widget))
+            DessinChamp::fond(*peintre, *option);
         break;
     case PE_FrameLineEdit:
+    case PE_FrameMenu:
+        break;
+    case PE_PanelMenu:
+        DessinMenu::panneau(*peintre, *option, widget);
+        break;
+    case PE_PanelTipLabel:
+        DessinMenu::bulle(*peintre, *option, widget);
         break;
     case PE_PanelButtonTool:
         fondDOutil(*option, *peintre);
@@ -150,16 +123,52 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
 void Style::drawControl(ControlElement element, const QStyleOption *option, QPainter *peintre,
                         const QWidget *widget) const
 {
-    if (const auto *bouton = qstyleoption_cast<const QStyleOptionButton *>(option);
-        bouton && element == CE_PushButtonLabel)
-        contenuDuBouton(*bouton, *peintre);
-    else if (const auto *choix = qstyleoption_cast<const QStyleOptionComboBox *>(option);
-             choix && element == CE_ComboBoxLabel)
-        texteDuChoix(*choix, *peintre, subControlRect(CC_ComboBox, choix, SC_ComboBoxEditField, widget));
-    else if (element == CE_Splitter)
-        peintre->fillRect(option->rect, Theme::filet(option->palette));
-    else
+    peintre->save();
+    peintre->setRenderHint(QPainter::Antialiasing);
+    if (!peindre(element, *option, *peintre, widget)) {
+        peintre->restore();
         QProxyStyle::drawControl(element, option, peintre, widget);
+        return;
+    }
+    peintre->restore();
+}
+
+// False: drawn as Fusion does.
+bool Style::peindre(ControlElement element, const QStyleOption &option, QPainter &peintre, const QWidget *widget) const
+{
+    const auto *bouton = qstyleoption_cast<const QStyleOptionButton *>(&option);
+    const auto *choix = qstyleoption_cast<const QStyleOptionComboBox *>(&option);
+    const auto *entree = qstyleoption_cast<const QStyleOptionMenuItem *>(&option);
+    switch (element) {
+    case CE_PushButtonLabel:
+        if (bouton)
+            DessinBouton::contenu(peintre, *bouton, widget);
+        return bouton;
+    case CE_ComboBoxLabel:
+        if (choix)
+            texteDuChoix(*choix, peintre, subControlRect(CC_ComboBox, choix, SC_ComboBoxEditField, widget));
+        return choix;
+    case CE_Splitter:
+        peintre.fillRect(option.rect, Theme::filet(option.palette));
+        return true;
+    case CE_MenuItem:
+        if (entree)
+            (qobject_cast<const QComboBox *>(widget) ? DessinMenu::choix : DessinMenu::entree)(peintre, *entree);
+        return entree;
+    case CE_MenuBarItem:
+        if (entree)
+            DessinMenu::rubrique(peintre, *entree, styleHint(SH_UnderlineShortcut, entree, widget, nullptr));
+        return entree;
+    case CE_MenuScroller:
+        DessinMenu::defileur(peintre, option);
+        return true;
+    case CE_MenuEmptyArea:
+    case CE_MenuHMargin:
+    case CE_MenuVMargin:
+        return true; // the panel is there
+    default:
+        return false;
+    }
 }
 
 QRect Style::subElementRect(SubElement element, const QStyleOption *option, const QWidget *widget) const
@@ -181,12 +190,19 @@ void Style::drawComplexControl(ComplexControl controle, const QStyleOptionComple
     if (controle == CC_ComboBox) {
         peintre->save();
         peintre->setRenderHint(QPainter::Antialiasing);
-        bouton(*option, *peintre);
-        const QRectF fleche = subControlRect(controle, option, SC_ComboBoxArrow, widget);
-        QRectF chevrons(QPointF(), QSizeF(Theme::aLaTaille(QSize(14, 14))));
-        chevrons.moveCenter(fleche.center());
-        Icone::peindre(*peintre, QStringLiteral("chevron.up.chevron.down"), chevrons,
-                       Theme::secondaire(option->palette));
+        DessinBouton::fond(*peintre, *option, widget);
+        DessinChamp::chevrons(*peintre, subControlRect(controle, option, SC_ComboBoxArrow, widget), option->palette);
+        peintre->restore();
+        return;
+    }
+    if (controle == CC_SpinBox) {
+        peintre->save();
+        peintre->setRenderHint(QPainter::Antialiasing);
+        DessinChamp::fond(*peintre, *option);
+        DessinChamp::chevrons(*peintre,
+                              subControlRect(controle, option, SC_SpinBoxUp, widget)
+                                  | subControlRect(controle, option, SC_SpinBoxDown, widget),
+                              option->palette);
         peintre->restore();
         return;
     }
@@ -201,7 +217,12 @@ QRect Style::subControlRect(ComplexControl controle, const QStyleOptionComplex *
     if (controle == CC_ComboBox && partie == SC_ComboBoxArrow)
         return {option->rect.right() - 19, option->rect.top(), 16, option->rect.height()};
     if (controle == CC_ComboBox && partie == SC_ComboBoxEditField)
-        return option->rect.adjusted(9, 3, -18, -3);
+        return option->rect.adjusted(retraitDuChoix, 3, -18, -3);
+    if (controle == CC_ComboBox && partie == SC_ComboBoxListBoxPopup) {
+        QStyleOptionMenuItem entree;
+        entree.fontMetrics = option->fontMetrics;
+        return DessinMenu::autourDuChoix(option->rect, retraitDuChoix, DessinMenu::taille(entree, {}).height());
+    }
     return QProxyStyle::subControlRect(controle, option, partie, widget);
 }
 
@@ -209,6 +230,9 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption *option, con
                               const QWidget *widget) const
 {
     QSize taille = QProxyStyle::sizeFromContents(type, option, contenu, widget);
+    const auto *entree = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
+    if (type == CT_MenuItem && entree)
+        return DessinMenu::taille(*entree, contenu);
     switch (type) {
     case CT_PushButton:
         return {taille.width() + Theme::aLaTaille(16),
@@ -238,6 +262,13 @@ int Style::pixelMetric(PixelMetric mesure, const QStyleOption *option, const QWi
         return 0;
     case PM_SplitterWidth:
         return 1;
+    case PM_MenuPanelWidth:
+    case PM_MenuHMargin:
+        return 0;
+    case PM_MenuVMargin:
+        return DessinMenu::bord;
+    case PM_ToolTipLabelFrameWidth:
+        return margeDeBulle;
     default:
         return QProxyStyle::pixelMetric(mesure, option, widget);
     }
@@ -266,6 +297,11 @@ int Style::styleHint(StyleHint indice, const QStyleOption *option, const QWidget
         return souhaits_.immobile() ? 0 : QProxyStyle::styleHint(indice, option, widget, retour);
     case SH_MenuBar_AltKeyNavigation:
         return 1;
+    case SH_UnderlineShortcut: // in the bar, for who is about to press it
+        return !qobject_cast<const QMenuBar *>(widget) || widget->hasFocus()
+               || QGuiApplication::queryKeyboardModifiers().testFlag(Qt::AltModifier);
+    case SH_ComboBox_PopupFrameStyle: // the panel has its own
+        return QFrame::NoFrame;
     case SH_ScrollBar_LeftClickAbsolutePosition:
     case SH_ItemView_ActivateItemOnSingleClick:
     case SH_DialogButtonBox_ButtonsHaveIcons:

@@ -22,6 +22,7 @@ public:
 
     using QProxyStyle::polish;
     void polish(QPalette &palette) override;
+    void polish(QWidget *widget) override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *peintre,
                        const QWidget *widget) const override;
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *peintre,
@@ -39,6 +40,8 @@ public:
                   QStyleHintReturn *retour) const override;
 
 private:
+    bool peindre(ControlElement element, const QStyleOption &option, QPainter &peintre, const QWidget *widget) const;
+
     std::optional<Theme::Mode> mode_;
     Souhaits souhaits_;
 };

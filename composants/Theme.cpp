@@ -11,7 +11,8 @@ namespace {
 
 struct Teintes
 {
-    QColor fenetre, panneau, carte, remplissage, texte, secondaire, inactif, filet, accent, accentTexte, orange, bulle;
+    QColor fenetre, panneau, carte, remplissage, texte, secondaire, inactif, invite, filet, accent, accentTexte, orange,
+        bulle;
 };
 
 const Teintes &teintes(Theme::Mode mode, Theme::Contraste contraste)
@@ -23,6 +24,7 @@ const Teintes &teintes(Theme::Mode mode, Theme::Contraste contraste)
                                .texte = 0x24211C,
                                .secondaire = 0x69635A,
                                .inactif = 0xA8A196,
+                               .invite = 0x776F64,
                                .filet = 0xDED7C9,
                                .accent = QColor(13, 104, 98),
                                .accentTexte = QColor(13, 104, 98),
@@ -35,6 +37,7 @@ const Teintes &teintes(Theme::Mode mode, Theme::Contraste contraste)
                                 .texte = 0xEDE9E1,
                                 .secondaire = 0xABA497,
                                 .inactif = 0x6F6A61,
+                                .invite = 0x938C80,
                                 .filet = 0x3B3833,
                                 .accent = 0x1B8077,
                                 .accentTexte = 0x69C8BC,
@@ -48,6 +51,7 @@ const Teintes &teintes(Theme::Mode mode, Theme::Contraste contraste)
                                        .texte = 0x0B0A08,
                                        .secondaire = 0x37322B,
                                        .inactif = 0x655F55,
+                                       .invite = 0x5A554C,
                                        .filet = 0x766F63,
                                        .accent = 0x064A45,
                                        .accentTexte = 0x064A45,
@@ -60,6 +64,7 @@ const Teintes &teintes(Theme::Mode mode, Theme::Contraste contraste)
                                         .texte = 0xFFFDF8,
                                         .secondaire = 0xD9D3C7,
                                         .inactif = 0xA69F93,
+                                        .invite = 0xA69F93,
                                         .filet = 0x8B8478,
                                         .accent = 0x0D625B,
                                         .accentTexte = 0x93E6DB,
@@ -100,7 +105,7 @@ QPalette Theme::palette(Mode mode, Contraste contraste)
     palette.setColor(QPalette::Midlight, t.remplissage);
     palette.setColor(QPalette::AlternateBase, t.panneau);
     palette.setColor(roleSecondaire, t.secondaire);
-    palette.setColor(QPalette::PlaceholderText, t.inactif); // fainter than any text, not to be taken for one
+    palette.setColor(QPalette::PlaceholderText, t.invite); // fainter than any text, not to be taken for one
     palette.setColor(QPalette::Highlight, t.accent);
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Link, t.accentTexte);
@@ -143,6 +148,12 @@ QColor Theme::carte(const QPalette &palette)
 QColor Theme::remplissage(const QPalette &palette)
 {
     return palette.color(QPalette::Midlight);
+}
+
+// Surfaces get lighter as they rise, but by day nothing is lighter than a card.
+QColor Theme::surgissant(const QPalette &palette)
+{
+    return mode(palette) == Mode::clair ? carte(palette) : remplissage(palette);
 }
 
 QColor Theme::accent(const QPalette &palette)

@@ -24,6 +24,7 @@ QColor secondaire(const QPalette &palette);
 QColor filet(const QPalette &palette);       // hairlines
 QColor carte(const QPalette &palette);       // raised groups and fields
 QColor remplissage(const QPalette &palette); // quiet fill of capsules and tags
+QColor surgissant(const QPalette &palette);  // menus and lists that come up over the rest
 QColor accent(const QPalette &palette);      // filled accent, white text on it
 QColor accent(Mode mode);                    // with normal contrast
 QColor accentTexte(const QPalette &palette); // accent as a text or focus colour

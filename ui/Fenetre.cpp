@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QShortcut>
@@ -49,6 +50,9 @@ bool Fenetre::eventFilter(QObject *objet, QEvent *evenement)
 {
     if (evenement->type() == QEvent::MouseButtonPress && objet->isWidgetType())
         static_cast<QWidget *>(objet)->window()->setAttribute(Qt::WA_KeyboardFocusChange, false);
+    const bool touche = evenement->type() == QEvent::KeyPress || evenement->type() == QEvent::KeyRelease;
+    if (touche && static_cast<QKeyEvent *>(evenement)->key() == Qt::Key_Alt)
+        menuBar()->update(); // which shows its letters or hides them
     return QMainWindow::eventFilter(objet, evenement);
 }
 

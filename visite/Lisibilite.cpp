@@ -213,7 +213,7 @@ QList<Lisibilite::Contraste> Lisibilite::contrastes(QWidget *fenetre)
         page->render(&dessin);
         const QImage image = dessin.toImage().convertToFormat(QImage::Format_RGB32);
         for (const TextePeint &texte : textesPeints(page)) {
-            if (pageDe(texte.widget) != page || !texte.widget->isEnabled() || invite(texte) || defile(texte, page)
+            if (pageDe(texte.widget) != page || !texte.widget->isEnabled() || defile(texte, page)
                 || texte.encre.height() < texteReduit)
                 continue;
             const QRectF vu = texte.encre & place(texte.widget, page) & texte.decoupe;
