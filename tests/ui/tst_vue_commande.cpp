@@ -1,6 +1,9 @@
 #include "composants/Icone.h"
 #include "tests/BancEcran.h"
 #include "ui/ContenuPrincipal.h"
+#include "ui/commande/CarteLivre.h"
+#include "ui/commande/Couverture.h"
+#include "ui/commande/GrilleLivres.h"
 #include "ui/commande/TransitionCartes.h"
 
 #include <QAbstractAnimation>
@@ -11,6 +14,9 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
+#include <QScrollArea>
+#include <QScrollBar>
 
 using namespace Quillet;
 
@@ -61,6 +67,52 @@ private slots:
         QVERIFY(montre("Aucun livre"));
         cliquer("Ajouter un exemplaire");
         QCOMPARE(quantite(1), 1);
+    }
+
+    // Wherever the cards go under it, and whatever comes over them.
+    void seSouleveCeQuiEstSousLePointeur()
+    {
+        for (int id = 6; id < 12; ++id)
+            banc_->donnees.livres.append(unLivre(id, Vendeur::davrel, Centimes{1200}, Grammes{180}));
+        banc_->demarrer();
+        fenetre()->resize(fenetre()->minimumSizeHint());
+        auto *grille = fenetre()->findChild<GrilleLivres *>();
+        const auto cartes = grille->findChildren<CarteLivre *>();
+        auto *ascenseur = defilement(grille)->verticalScrollBar();
+        const int course = cartes[4]->y() - cartes[0]->y(); // the one between is sold out
+        QTRY_VERIFY(ascenseur->maximum() >= course);
+        const QPoint place = cartes[0]->mapTo(fenetre(), cartes[0]->rect().center());
+        const QPoint ailleurs(10, fenetre()->height() - 10);
+
+        QTest::mouseMove(fenetre(), place);
+        QTRY_COMPARE(souleves(), cartes[0]->livre().titre);
+        ascenseur->setValue(course); // as the wheel or Tab does
+        QTRY_COMPARE(souleves(), cartes[4]->livre().titre);
+        QTest::mouseMove(fenetre(), ailleurs);
+        QTRY_COMPARE(souleves(), "");
+
+        const int rangee = grille->mapTo(fenetre(), QPoint()).x() + 1;
+        QTest::mouseMove(fenetre(), {rangee, place.y()}); // beside the cards
+        ascenseur->setValue(0);
+        QTest::mouseMove(fenetre(), place);
+        QTRY_COMPARE(souleves(), cartes[0]->livre().titre);
+        fenetre()->resize(fenetre()->size() + QSize(0, 40));
+        QTRY_COMPARE(souleves(), cartes[0]->livre().titre);
+
+        QMenu menu;
+        menu.addAction("Une entrée");
+        menu.popup(fenetre()->mapToGlobal(ailleurs));
+        QTRY_COMPARE(souleves(), "");
+        menu.close();
+        QTRY_COMPARE(souleves(), cartes[0]->livre().titre);
+        QDialog feuille(fenetre());
+        feuille.open();
+        QTRY_COMPARE(souleves(), "");
+        feuille.reject();
+        QTest::mouseMove(fenetre(), place + QPoint(1, 1));
+        QTRY_COMPARE(souleves(), cartes[0]->livre().titre);
+        fenetre()->hide();
+        QTRY_COMPARE(souleves(), "");
     }
 
     void autrePoids()
@@ -311,6 +363,20 @@ private:
     void cliquer(const QString &nom) { QVERIFY(Ecran::cliquer(fenetre(), nom)); }
     void taper(const QString &nom, const QString &texte) { QVERIFY(Ecran::taper(fenetre(), nom, texte)); }
     void choisir(const QString &nom, const QString &entree) { QVERIFY(Ecran::choisir(fenetre(), nom, entree)); }
+    [[nodiscard]] QString souleves() const
+    {
+        QStringList titres;
+        for (const auto *carte : fenetre()->findChildren<CarteLivre *>())
+            if (carte->findChild<Couverture *>()->soulevee())
+                titres.append(carte->livre().titre);
+        return titres.join(u'+');
+    }
+    static QScrollArea *defilement(QWidget *page)
+    {
+        while (page && !qobject_cast<QScrollArea *>(page))
+            page = page->parentWidget();
+        return static_cast<QScrollArea *>(page);
+    }
     [[nodiscard]] int quantite(int livre) const { return bon().quantite(banc_->donnees.livres[livre - 1]); }
 
     std::unique_ptr<BancEcran> banc_;

@@ -12,7 +12,6 @@
 #include "ui/couvertures/DessinCouverture.h"
 
 #include <QHelpEvent>
-#include <QHoverEvent>
 #include <QPainter>
 #include <QTextLayout>
 
@@ -92,7 +91,6 @@ CarteLivre::CarteLivre(const Livre &livre, Commande &commande, ImagesCouvertures
       couverture_(new Couverture(livre, images, this)),
       selecteur_(new SelecteurQuantite(livre, commande, this))
 {
-    setAttribute(Qt::WA_Hover);
     connect(couverture_, &QAbstractButton::clicked, this, [this, &commande] { commande.ajuster(livre_, 1); });
     montrer(livre, commande.bon().quantite(livre));
     TailleDuTexte::suivre(this, [this] { placer(); });
@@ -132,7 +130,7 @@ int CarteLivre::hauteur(int largeur)
 int CarteLivre::largeurMinimale()
 {
     return Chiffres::largeur(QFontMetrics(policeDuPrix()), QStringLiteral("00,00 €")) + apresLePrix
-           + SelecteurQuantite::largeurUsuelle();
+           + SelecteurQuantite::largeurUsuelle() - SelecteurQuantite::depassement();
 }
 
 QRect CarteLivre::contenu() const
@@ -147,28 +145,22 @@ QRect CarteLivre::ligneDuBas() const
     return {dedans.left(), dedans.bottom() + 1 - hauteurBas(), dedans.width(), hauteurBas()};
 }
 
-void CarteLivre::suivreLePointeur(const QPoint &pointeur)
+bool CarteLivre::contient(const QPoint &place) const
 {
-    couverture_->soulever(contenu().contains(pointeur));
+    return contenu().contains(place);
+}
+
+void CarteLivre::soulever(bool oui)
+{
+    couverture_->soulever(oui);
 }
 
 bool CarteLivre::event(QEvent *evenement)
 {
-    switch (evenement->type()) {
-    case QEvent::HoverEnter:
-    case QEvent::HoverMove:
-        suivreLePointeur(static_cast<QHoverEvent *>(evenement)->position().toPoint());
-        break;
-    case QEvent::HoverLeave:
-        couverture_->soulever(false);
-        break;
-    case QEvent::ToolTip: // the full title, at the title only: nothing may cover the cover
-        if (static_cast<QHelpEvent *>(evenement)->pos().y() < contenu().top() + hauteurCouverture(contenu().width()))
-            return true;
-        break;
-    default:
-        break;
-    }
+    // The full title, at the title only: nothing may cover the cover.
+    if (evenement->type() == QEvent::ToolTip
+        && static_cast<QHelpEvent *>(evenement)->pos().y() < contenu().top() + hauteurCouverture(contenu().width()))
+        return true;
     return QWidget::event(evenement);
 }
 
@@ -183,8 +175,8 @@ void CarteLivre::placer()
     couverture_->setGeometry(0, 0, width(), hauteur);
     const QSize taille = selecteur_->sizeHint();
     const QRect bas = ligneDuBas();
-    selecteur_->setGeometry(bas.right() + 1 - taille.width(), bas.center().y() + 1 - taille.height() / 2,
-                            taille.width(), taille.height());
+    selecteur_->setGeometry(bas.right() + 1 + SelecteurQuantite::depassement() - taille.width(),
+                            bas.center().y() + 1 - taille.height() / 2, taille.width(), taille.height());
 }
 
 void CarteLivre::paintEvent(QPaintEvent *)
@@ -195,6 +187,7 @@ void CarteLivre::paintEvent(QPaintEvent *)
     const QColor texte = palette().color(QPalette::WindowText);
     const QColor secondaire = Theme::secondaire(palette());
 
+    couverture_->peindreOmbre(peintre); // below the texts
     QRect titre(dedans.left(), dedans.top() + hauteurCouverture(dedans.width()) + espace, dedans.width(),
                 hauteurDuTitre());
     peintre.setFont(Theme::titreLivre());
@@ -212,7 +205,7 @@ void CarteLivre::paintEvent(QPaintEvent *)
     const QString prix = Format::euros(livre_.prix);
     peintre.setFont(Chiffres::ajustee(policeDuPrix(), prix, apres - apresLePrix - bas.left()));
     peintre.setPen(livre_.disponible ? texte : secondaire);
-    Chiffres::peindre(peintre, bas, Qt::AlignLeft, prix);
+    peintre.drawText(bas, Qt::AlignLeft | Qt::AlignVCenter, prix);
 }
 
 } // namespace Quillet

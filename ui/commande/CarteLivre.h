@@ -24,8 +24,9 @@ public:
     // Puts the card's controls behind `precedent` in the order of the Tab key; gives the last of them.
     QWidget *placerApres(QWidget *precedent);
 
-    // Lifts the cover or lays it down by where the pointer is, in the card's own pixels.
-    void suivreLePointeur(const QPoint &pointeur);
+    // Whether a place in the card's own pixels is on what it shows.
+    [[nodiscard]] bool contient(const QPoint &place) const;
+    void soulever(bool oui);
 
     // Height of what a card shows, for the width of what it shows, px.
     [[nodiscard]] static int hauteur(int largeur);

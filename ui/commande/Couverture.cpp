@@ -25,7 +25,7 @@ struct Ombre
     double decalage;
 };
 constexpr Ombre auRepos{0.3, 12, 8};
-constexpr Ombre soulevee{0.55, 24, 16};
+constexpr Ombre enLAir{0.55, 24, 16};
 
 // Whatever the width of a card, its picture is read once, at the largest: a resize reads nothing anew.
 constexpr QSizeF tailleDeLecture(210, 315);
@@ -72,7 +72,8 @@ void Couverture::montrer(const Livre &livre, int quantite)
 
 void Couverture::soulever(bool oui)
 {
-    soulevement_->vers(oui && livre_.disponible ? 1 : 0);
+    soulevee_ = oui && livre_.disponible;
+    soulevement_->vers(soulevee_ ? 1 : 0);
 }
 
 QRectF Couverture::cadre() const
@@ -115,10 +116,10 @@ void Couverture::peindreOmbre(QPainter &peintre)
             cache = Dessin::ombre(cadre().size(), ombre.rayon, teinte, densite);
         }
         peintre.setOpacity(opacite * (livre_.disponible ? 1 : opaciteIndisponible));
-        peintre.drawPixmap(cadre().topLeft() - QPointF(ombre.rayon, ombre.rayon - ombre.decalage), cache);
+        peintre.drawPixmap(pos() + cadre().topLeft() - QPointF(ombre.rayon, ombre.rayon - ombre.decalage), cache);
     };
     peindre(auRepos, ombreAuRepos_, 1 - part);
-    peindre(soulevee, ombreSoulevee_, part);
+    peindre(enLAir, ombreSoulevee_, part);
     peintre.setOpacity(1);
 }
 
@@ -143,7 +144,6 @@ void Couverture::paintEvent(QPaintEvent *)
     QPainter peintre(this);
     peintre.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     dessiner(devicePixelRatioF());
-    peindreOmbre(peintre);
     peintre.save();
     if (soulevement_->valeur() != 0)
         peintre.setTransform(inclinaison(), true);

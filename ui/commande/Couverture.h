@@ -24,6 +24,9 @@ public:
 
     void montrer(const Livre &livre, int quantite);
     void soulever(bool oui);
+    [[nodiscard]] bool soulevee() const { return soulevee_; }
+    // In the pixels of the parent, which paints it below its own texts; it falls farther than the cover's frame.
+    void peindreOmbre(QPainter &peintre);
 
 protected:
     void paintEvent(QPaintEvent *evenement) override;
@@ -35,12 +38,12 @@ private:
     [[nodiscard]] QTransform inclinaison() const;
     void oublierLeDessin();
     void dessiner(qreal densite);
-    void peindreOmbre(QPainter &peintre);
     void peindrePastille(QPainter &peintre) const;
 
     Livre livre_;
     ImagesCouvertures &images_;
     int quantite_ = 0;
+    bool soulevee_ = false;
     QPixmap dessin_;
     QPixmap ombreAuRepos_;
     QPixmap ombreSoulevee_;

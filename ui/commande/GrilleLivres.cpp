@@ -5,7 +5,9 @@
 #include "ui/commande/Couverture.h"
 #include "ui/commande/TransitionCartes.h"
 
-#include <QEvent>
+#include <QApplication>
+#include <QPointerEvent>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -45,6 +47,37 @@ GrilleLivres::GrilleLivres(Commande &commande, ImagesCouvertures &images, QWidge
     QSizePolicy politique(QSizePolicy::Expanding, QSizePolicy::Preferred);
     politique.setHeightForWidth(true);
     setSizePolicy(politique);
+    qApp->installEventFilter(this);
+}
+
+// What the window is told, not what Qt makes of it: a widget that comes under a still pointer is not told that it
+// does, nor then that the pointer leaves it.
+bool GrilleLivres::eventFilter(QObject *objet, QEvent *evenement)
+{
+    const bool fenetre = objet->isWindowType() && objet == window()->windowHandle();
+    switch (evenement->type()) {
+    case QEvent::Enter:
+    case QEvent::MouseMove:
+        if (!fenetre)
+            return false;
+        pointeur_ = static_cast<QSinglePointEvent *>(evenement)->globalPosition();
+        break;
+    case QEvent::Leave:
+    case QEvent::WindowBlocked: // by a sheet
+        if (!fenetre)
+            return false;
+        pointeur_.reset();
+        break;
+    case QEvent::Show:
+    case QEvent::Hide: // of a menu or a list, which is none before nor after
+        if (objet->isWidgetType() && static_cast<QWidget *>(objet)->windowType() == Qt::Popup)
+            QMetaObject::invokeMethod(this, &GrilleLivres::suivreLePointeur, Qt::QueuedConnection);
+        return false;
+    default:
+        return false;
+    }
+    suivreLePointeur();
+    return false;
 }
 
 void GrilleLivres::montrer(const QList<Livre> &livres)
@@ -76,17 +109,19 @@ void GrilleLivres::remplacerLesCartes(const QList<Livre> &livres)
         carte->show();
         precedent = carte->placerApres(precedent);
     }
+    suivreLePointeur();
     if (!sortantes.isEmpty())
         TransitionCartes::jouer(sortantes, TransitionCartes::instantanes(cartes_), images_, this);
 }
 
 void GrilleLivres::suivreLePointeur()
 {
-    if (!window()->underMouse())
-        return;
-    const QPoint pointeur = mapFromGlobal(QCursor::pos());
+    QWidget *dessous = nullptr; // what the pointer would press
+    if (pointeur_ && isVisible() && !QApplication::activePopupWidget())
+        dessous = window()->childAt(window()->mapFromGlobal(*pointeur_).toPoint());
+    const bool dansLaGrille = dessous && isAncestorOf(dessous);
     for (CarteLivre *carte : std::as_const(cartes_))
-        carte->suivreLePointeur(pointeur - carte->pos());
+        carte->soulever(dansLaGrille && carte->contient(carte->mapFromGlobal(*pointeur_).toPoint()));
 }
 
 int GrilleLivres::heightForWidth(int largeur) const
@@ -123,6 +158,16 @@ void GrilleLivres::resizeEvent(QResizeEvent *)
     placer();
 }
 
+void GrilleLivres::showEvent(QShowEvent *)
+{
+    suivreLePointeur();
+}
+
+void GrilleLivres::hideEvent(QHideEvent *)
+{
+    suivreLePointeur();
+}
+
 void GrilleLivres::placer()
 {
     constexpr int debord = Couverture::debord;
@@ -131,6 +176,7 @@ void GrilleLivres::placer()
     for (int i = 0; i < cartes_.size(); ++i)
         cartes_[i]->setGeometry(gauche + (i % colonnes) * (largeur + espace), (i / colonnes) * (hauteur + espace),
                                 largeur + 2 * debord, hauteur + 2 * debord);
+    suivreLePointeur();
 }
 
 } // namespace Quillet

@@ -3,7 +3,10 @@
 #include "model/Livre.h"
 
 #include <QList>
+#include <QPointF>
 #include <QWidget>
+
+#include <optional>
 
 namespace Quillet {
 
@@ -23,7 +26,7 @@ public:
     // Cards of other books enter and leave with a fade; the same books are only brought up to date.
     void montrer(const QList<Livre> &livres);
 
-    // Called when the cards have moved under a still pointer.
+    // Lifts the cover that the pointer is over, and no other. Called when the cards have moved under it.
     void suivreLePointeur();
 
     [[nodiscard]] bool hasHeightForWidth() const override { return true; }
@@ -34,8 +37,11 @@ public:
     [[nodiscard]] static int largeurDeDeuxColonnes();
 
 protected:
+    bool eventFilter(QObject *objet, QEvent *evenement) override;
     void changeEvent(QEvent *evenement) override;
     void resizeEvent(QResizeEvent *evenement) override;
+    void showEvent(QShowEvent *evenement) override;
+    void hideEvent(QHideEvent *evenement) override;
 
 private:
     void remplacerLesCartes(const QList<Livre> &livres);
@@ -45,6 +51,7 @@ private:
     ImagesCouvertures &images_;
     QWidget *precedent_;
     QList<CarteLivre *> cartes_;
+    std::optional<QPointF> pointeur_; // on the screen; none when it is not over the window
 };
 
 } // namespace Quillet

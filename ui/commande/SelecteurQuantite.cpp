@@ -31,6 +31,11 @@ int coteBouton()
     return Theme::aLaTaille(26);
 }
 
+int coteSymbole()
+{
+    return Theme::aLaTaille(15);
+}
+
 int largeurDuNombre()
 {
     const QFontMetrics mesures(Theme::enGras(QApplication::font()));
@@ -57,7 +62,7 @@ protected:
         const QColor couleur = palette().color(QPalette::Active, QPalette::ButtonText);
         if (isEnabled() && (underMouse() || isDown()))
             Dessin::aplat(peintre, rect(), coteBouton() / 2.0, Dessin::transparente(couleur, isDown() ? 0.28 : 0.14));
-        const double cote = Theme::aLaTaille(15);
+        const double cote = coteSymbole();
         Icone::peindre(peintre, symbole_, QRectF((width() - cote) / 2, (height() - cote) / 2, cote, cote),
                        Dessin::transparente(couleur, isEnabled() ? 1 : 0.35));
         if (Dessin::focusVisible(this))
@@ -97,6 +102,12 @@ SelecteurQuantite::SelecteurQuantite(const Livre &livre, Commande &commande, QWi
 int SelecteurQuantite::largeurUsuelle()
 {
     return 2 * (bord + coteBouton() + espace) + largeurDuNombre();
+}
+
+int SelecteurQuantite::depassement()
+{
+    constexpr double autourDuTrait = 0.16; // of the symbol, on each side
+    return bord + qRound((coteBouton() - coteSymbole()) / 2.0 + autourDuTrait * coteSymbole());
 }
 
 void SelecteurQuantite::montrer(int quantite)

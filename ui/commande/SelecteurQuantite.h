@@ -23,6 +23,8 @@ public:
     void montrer(int quantite);
     // Of one that shows a figure or two, px.
     [[nodiscard]] static int largeurUsuelle();
+    // From the stroke of the plus to its right edge, px: what stands above is in line with the stroke.
+    [[nodiscard]] static int depassement();
 
 protected:
     void changeEvent(QEvent *evenement) override;
