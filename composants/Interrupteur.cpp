@@ -6,6 +6,8 @@
 
 #include <QPainter>
 
+#include <utility>
+
 namespace Quillet {
 
 namespace {
@@ -19,9 +21,10 @@ QSize taille()
 
 } // namespace
 
-Interrupteur::Interrupteur(QWidget *parent) : QCheckBox(parent), position_(new Ressort(Ressorts::action, this))
+Interrupteur::Interrupteur(std::optional<QColor> allume, QWidget *parent)
+    : QCheckBox(parent), allume_(std::move(allume)), position_(new Ressort(Ressorts::action, this))
 {
-    connect(this, &QCheckBox::toggled, this, [this](bool allume) { position_->vers(allume ? 1 : 0); });
+    connect(this, &QCheckBox::toggled, this, [this](bool oui) { position_->vers(oui ? 1 : 0); });
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
@@ -43,7 +46,7 @@ void Interrupteur::paintEvent(QPaintEvent *)
     const double position = position_->valeur();
     peintre.setPen(Qt::NoPen);
     peintre.setBrush(Dessin::melange(Dessin::melange(Theme::filet(palette()), Theme::secondaire(palette()), 0.35),
-                                     Theme::bleu(), position));
+                                     allume_.value_or(Theme::accent(palette())), position));
     peintre.drawRoundedRect(piste, piste.height() / 2, piste.height() / 2);
 
     const double rayon = piste.height() / 2 - 2;

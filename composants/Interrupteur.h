@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QColor>
+
+#include <optional>
 
 namespace Quillet {
 
@@ -12,7 +15,8 @@ class Interrupteur : public QCheckBox
     Q_OBJECT
 
 public:
-    explicit Interrupteur(QWidget *parent = nullptr);
+    // Without a colour for when it is on, it takes the accent.
+    explicit Interrupteur(std::optional<QColor> allume = std::nullopt, QWidget *parent = nullptr);
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
@@ -20,6 +24,7 @@ protected:
     [[nodiscard]] bool hitButton(const QPoint &position) const override;
 
 private:
+    std::optional<QColor> allume_; // none: the accent
     Ressort *position_;
 };
 

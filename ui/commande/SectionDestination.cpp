@@ -31,7 +31,7 @@ SectionDestination::SectionDestination(const Donnees &donnees, Commande &command
       remarque_(new Alerte),
       destination_(new Choix),
       nomComplet_(new Libelle({}, Libelle::Rang::secondaire)),
-      horsUE_(new Interrupteur),
+      horsUE_(new Interrupteur(Theme::bleu())),
       rangeeHorsUE_(new Formulaire::Rangee({}, horsUE_)),
       declaration_(new Libelle({})),
       rangeeDeclaration_(new Formulaire::Rangee(QStringLiteral("Déclaration en douane"), declaration_))
