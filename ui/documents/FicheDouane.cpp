@@ -55,6 +55,7 @@ QWidget *FicheDouane::instructions()
     const QString site = TextesDocuments::siteDeLaPoste();
     QPushButton *ouvrir =
         Boutons::deFeuille(QStringLiteral("Ouvrir %1").arg(site), QStringLiteral("arrow.up.forward.app"));
+    Boutons::rendrePrincipal(ouvrir);
     connect(ouvrir, &QPushButton::clicked, this,
             [this, site] { Lien::ouvrir(QUrl(QStringLiteral("https://www.%1/").arg(site)), this); });
     colonne->addWidget(ouvrir, 0, Qt::AlignLeft);

@@ -83,6 +83,7 @@ QWidget *FicheFacture::sorties()
                                                QStringLiteral("printer"));
     QPushButton *enregistrer =
         Boutons::deFeuille(QStringLiteral("Enregistrer en PDF…"), QStringLiteral("square.and.arrow.down"));
+    Boutons::rendrePrincipal(imprimer);
     connect(imprimer, &QPushButton::clicked, this, &FicheFacture::imprimer);
     connect(enregistrer, &QPushButton::clicked, this, &FicheFacture::enregistrer);
 
