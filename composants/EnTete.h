@@ -1,5 +1,7 @@
 #pragma once
 
+#include "composants/Theme.h"
+
 #include <QWidget>
 
 class QBoxLayout;
@@ -14,7 +16,10 @@ class EnTete : public QWidget
     Q_OBJECT
 
 public:
-    explicit EnTete(const QString &titre, QWidget *parent = nullptr);
+    // `marge`: on either side, px.
+    explicit EnTete(const QString &titre, int marge = Theme::margeDePage, QWidget *parent = nullptr);
+    // On a wide screen what it holds is as wide as the page below, and as centred; in px for text of 10 pt.
+    void setLargeur(int largeur);
     void setSousTitre(const QString &sousTitre);
     void ajouter(QWidget *commande);
 
@@ -22,6 +27,7 @@ protected:
     void paintEvent(QPaintEvent *evenement) override;
 
 private:
+    QWidget *bandeau_;
     Libelle *sousTitre_;
     QBoxLayout *rangee_;
 };

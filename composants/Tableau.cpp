@@ -1,5 +1,6 @@
 #include "composants/Tableau.h"
 
+#include "composants/Dessin.h"
 #include "composants/Libelle.h"
 #include "composants/Pile.h"
 #include "composants/Theme.h"
@@ -12,12 +13,17 @@
 
 namespace Quillet {
 
+namespace {
+
+constexpr int espace = 12; // between columns, px
+
+} // namespace
+
 Tableau::Tableau(const QList<Colonne> &colonnes, int marge, QWidget *parent)
     : QWidget(parent), grille_(new QGridLayout(this)), colonnes_(static_cast<int>(colonnes.size())), marge_(marge)
 {
     grille_->setContentsMargins(0, 0, 0, 0);
-    grille_->setHorizontalSpacing(12);
-    grille_->setVerticalSpacing(0);
+    grille_->setSpacing(0); // a column without cells would have none: cells hold it themselves
     for (const auto &[texte, alignement, part, retrait, dite] : colonnes) {
         auto *tete = new Libelle(texte, Libelle::Rang::secondaire);
         tete->setFont(Theme::enGras(Theme::encadre()));
@@ -34,8 +40,9 @@ Tableau::Tableau(const QList<Colonne> &colonnes, int marge, QWidget *parent)
 void Tableau::placer(QWidget *contenu, Qt::Alignment alignement)
 {
     auto *cellule = new QWidget(this);
-    Pile::colonne(cellule, {.marges = {0, marge_, 0, marge_}}, {{contenu, 0, alignement}});
     const int rang = grille_->count();
+    const int avant = rang % colonnes_ > 0 ? espace : 0;
+    Pile::colonne(cellule, {.marges = {avant, marge_, 0, marge_}}, {{contenu, 0, alignement}});
     grille_->addWidget(cellule, rang / colonnes_, rang % colonnes_);
 }
 
@@ -48,7 +55,16 @@ void Tableau::ajouter(const QList<QWidget *> &contenus)
 
 void Tableau::setLargeurMinimale(int colonne, int largeur)
 {
-    grille_->setColumnMinimumWidth(colonne, largeur);
+    grille_->setColumnMinimumWidth(colonne, largeur + (colonne > 0 ? espace : 0));
+}
+
+void Tableau::laisser(int colonnes, int part)
+{
+    laissees_ = colonnes;
+    for (int colonne = colonnes_; colonne < colonnes_ + laissees_; ++colonne) {
+        grille_->setColumnStretch(colonne, part);
+        grille_->setColumnMinimumWidth(colonne, 1); // else a column without cells gets no share
+    }
 }
 
 void Tableau::setRangeeVisible(int rangee, bool visible)
@@ -92,15 +108,16 @@ QSize Tableau::minimumSizeHint() const
             for (int rang = colonne; rang < grille_->count(); rang += colonnes_)
                 parPart = std::max(parPart, double(grille_->itemAt(rang)->minimumSize().width()) / part);
         }
-    const int partage = static_cast<int>(std::ceil(parts * parPart)) + grille_->horizontalSpacing() * (colonnes_ - 1);
-    return QWidget::minimumSizeHint().expandedTo({partage, 0});
+    for (int colonne = colonnes_; colonne < colonnes_ + laissees_; ++colonne)
+        parts += grille_->columnStretch(colonne);
+    return QWidget::minimumSizeHint().expandedTo({static_cast<int>(std::ceil(parts * parPart)), 0});
 }
 
 void Tableau::peindreLesFilets(QPainter &peintre) const
 {
     const QRect place = contentsRect();
     for (const int rangee : rangees())
-        peintre.fillRect(place.left(), cellule(rangee, 0)->y(), place.width(), 1, Theme::filet(palette()));
+        Dessin::filet(peintre, QPoint(place.left(), cellule(rangee, 0)->y()), place.width(), palette());
 }
 
 void Tableau::paintEvent(QPaintEvent *)

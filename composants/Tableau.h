@@ -30,6 +30,8 @@ public:
     // One for each column.
     void ajouter(const QList<QWidget *> &contenus);
     void setLargeurMinimale(int colonne, int largeur);
+    // Leaves the room of so many more columns, each of that part: its own are where those of a table with more are.
+    void laisser(int colonnes, int part);
     // Row 0: the heads, which are heard all the same.
     void setRangeeVisible(int rangee, bool visible);
 
@@ -62,6 +64,7 @@ private:
     QGridLayout *grille_; // filled row by row, the heads first
     int colonnes_;
     int marge_;
+    int laissees_ = 0; // columns that another table has
 };
 
 } // namespace Quillet

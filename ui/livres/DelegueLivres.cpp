@@ -1,6 +1,5 @@
 #include "ui/livres/DelegueLivres.h"
 
-#include "composants/Chiffres.h"
 #include "composants/Dessin.h"
 #include "composants/Theme.h"
 #include "model/Format.h"
@@ -95,6 +94,9 @@ void DelegueLivres::paint(QPainter *peintre, const QStyleOptionViewItem &option,
     if (option.state.testFlag(QStyle::State_Selected))
         Dessin::aplat(*peintre, marque, Theme::rayonControle,
                       Dessin::transparente(Theme::accentTexte(option.palette), 0.12));
+    else if (option.state.testFlag(QStyle::State_MouseOver))
+        Dessin::aplat(*peintre, marque, Theme::rayonControle,
+                      Dessin::transparente(option.palette.color(QPalette::WindowText), 0.05));
     if (option.state.testFlag(QStyle::State_HasFocus) && option.widget && Dessin::focusVisible(option.widget))
         Dessin::anneauDeFocus(*peintre, marque, Theme::rayonControle, Theme::accentTexte(option.palette));
     peindreLivre(*peintre, cadre.adjusted(marge, 0, -marge, 0), rang, option.palette);
@@ -126,7 +128,7 @@ void DelegueLivres::peindreCarte(QPainter &peintre, const QRect &cadre, int rang
     peintre.setClipRect(cadre, Qt::IntersectClip);
     Dessin::carte(peintre, cadre.adjusted(0, premier ? 0 : -suite, 0, dernier ? 0 : suite), palette);
     if (!premier)
-        peintre.fillRect(cadre.left() + marge, cadre.top(), cadre.width() - 2 * marge, 1, Theme::filet(palette));
+        Dessin::filet(peintre, cadre.topLeft() + QPoint(marge, 0), cadre.width() - 2 * marge, palette);
     peintre.restore();
 }
 
@@ -167,14 +169,12 @@ void DelegueLivres::peindreLivre(QPainter &peintre, const QRect &cadre, int rang
     peintre.setFont(policeDuPrix());
     peintre.setPen(livre.disponible ? texte : secondaire);
     const QString prix = Format::euros(livre.prix);
-    Chiffres::peindre(peintre, ligne, Qt::AlignLeft, prix);
-    ligne.setLeft(ligne.left() + Chiffres::largeur(peintre.fontMetrics(), prix));
+    peintre.drawText(ligne, Qt::AlignLeft | Qt::AlignVCenter, prix);
+    ligne.setLeft(ligne.left() + peintre.fontMetrics().horizontalAdvance(prix));
     peintre.setFont(Theme::encadre());
     ligne.setLeft(ligne.left() + peintre.fontMetrics().horizontalAdvance(u' '));
     peintre.setPen(livre.poids ? secondaire : Theme::orange(palette));
-    Chiffres::peindre(peintre, ligne, Qt::AlignLeft,
-                      peintre.fontMetrics().elidedText(QStringLiteral("· ") + TextesLivres::poids(livre),
-                                                       Qt::ElideRight, ligne.width()));
+    ecrire(peintre, ligne, QStringLiteral("· ") + TextesLivres::poids(livre));
 }
 
 } // namespace Quillet

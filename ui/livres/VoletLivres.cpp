@@ -33,8 +33,8 @@ class Liste : public ListeDite<QListView>
 public:
     Liste()
     {
-        setViewportMargins(VoletLivres::marge, 0, VoletLivres::marge - style()->pixelMetric(QStyle::PM_ScrollBarExtent),
-                           0);
+        setViewportMargins(VoletLivres::margeGauche, 0,
+                           VoletLivres::marge - style()->pixelMetric(QStyle::PM_ScrollBarExtent), 0);
     }
 };
 
@@ -58,6 +58,7 @@ VoletLivres::VoletLivres(const Catalogue &catalogue, ImagesCouvertures &images, 
     liste_->setModel(modele_);
     liste_->setItemDelegate(new DelegueLivres(*modele_, images, liste_));
     liste_->setAccessibleName(QStringLiteral("Livres"));
+    liste_->setMouseTracking(true); // the row under the pointer shows
     liste_->setFrameShape(QFrame::NoFrame);
     liste_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     liste_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -118,7 +119,8 @@ QWidget *VoletLivres::filtres()
         filtrer();
     });
 
-    QWidget *filtres = Pile::enColonne({.marges = {marge, 16, marge, 4}, .espace = 8}, {recherche_, vendeur, etat});
+    QWidget *filtres =
+        Pile::enColonne({.marges = {margeGauche, 16, marge, 4}, .espace = 8}, {recherche_, vendeur, etat});
     // On X11 a list to choose from is called by its label only.
     auto *etiquette = new QLabel(etat->accessibleName(), filtres);
     etiquette->setBuddy(etat);

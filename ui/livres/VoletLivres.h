@@ -23,7 +23,8 @@ class VoletLivres : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr int marge = 16; // px, on either side
+    static constexpr int margeGauche = 24; // px, in line with the title above
+    static constexpr int marge = 16;       // px, on the right
 
     VoletLivres(const Catalogue &catalogue, ImagesCouvertures &images, QWidget *parent = nullptr);
 

@@ -33,9 +33,10 @@ namespace Quillet {
 
 namespace {
 
-constexpr int largeurDuVolet = 340;
+constexpr int largeurDuVolet = 348;
+constexpr int marge = VoletLivres::margeGauche;
+constexpr int largeurDePage = largeurDuVolet + Theme::largeurDePage + marge; // within its margins
 constexpr auto tempsDeLecture = 1s; // of a sentence that says why
-constexpr int marge = 24;
 
 // The button in words, with what it would act on; nothing to act on disables it.
 void nommer(QToolButton *bouton, const QString &nom, const QString &geste)
@@ -53,7 +54,7 @@ VueLivres::VueLivres(const Contexte &contexte, QWidget *parent)
     : EcranDeRubrique(parent),
       contexte_(contexte),
       historique_(contexte.catalogue),
-      enTete_(new EnTete(QStringLiteral("Livres"))),
+      enTete_(new EnTete(QStringLiteral("Livres"), marge)),
       choix_(new ChoixTarifs),
       volet_(new VoletLivres(contexte.catalogue, contexte.images)),
       fiche_(new FicheLivre(contexte.images)),
@@ -65,9 +66,13 @@ VueLivres::VueLivres(const Contexte &contexte, QWidget *parent)
     lecture_.setSingleShot(true);
     lecture_.setInterval(tempsDeLecture);
     enTete_->ajouter(choix_);
+    enTete_->setLargeur(largeurDePage - marge);
     QWidget *liste = gauche();
-    Pile::colonne(this, {.espace = 0},
-                  {enTete_, {Partage::entre(liste, droite(), liste, Theme::aLaTaille(largeurDuVolet)), 1}});
+    // A splitter sets its own widest width.
+    QWidget *colonnes = Pile::enRangee({}, {Partage::entre(liste, droite(), liste, Theme::aLaTaille(largeurDuVolet))});
+    TailleDuTexte::suivre(colonnes, [colonnes] { colonnes->setMaximumWidth(Theme::aLaTaille(largeurDePage) + marge); });
+    QBoxLayout *page = Pile::rangee({.espace = 0}, {Pile::reste(0), {colonnes, 1}, Pile::reste(0)});
+    Pile::colonne(this, {.espace = 0}, {enTete_, {page, 1}});
 
     connect(annuler_->defaultAction(), &QAction::triggered, this,
             [this] { tenter([this] { volet_->choisir(historique_.annuler()); }); });
@@ -111,7 +116,7 @@ QWidget *VueLivres::gauche()
 {
     QPushButton *revenir = Boutons::deFeuille(QStringLiteral("Revenir aux valeurs d’origine…"));
     connect(revenir, &QPushButton::clicked, this, &VueLivres::revenir);
-    QBoxLayout *pied = Pile::rangee({.marges = {VoletLivres::marge, 10, VoletLivres::marge, 14}}, {{revenir, 1}});
+    QBoxLayout *pied = Pile::rangee({.marges = {VoletLivres::margeGauche, 10, VoletLivres::marge, 14}}, {{revenir, 1}});
     return Pile::enColonne({.espace = 0}, {{volet_, 1}, pied});
 }
 

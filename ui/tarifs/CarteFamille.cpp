@@ -1,6 +1,7 @@
 #include "ui/tarifs/CarteFamille.h"
 
 #include "composants/Dessin.h"
+#include "composants/Formulaire.h"
 #include "composants/LecteurDEcran.h"
 #include "composants/Libelle.h"
 #include "composants/LibelleChiffre.h"
@@ -9,14 +10,16 @@
 #include "composants/Theme.h"
 #include "model/Format.h"
 
+#include <QGridLayout>
 #include <QPainter>
 
 namespace Quillet {
 
 namespace {
 
-constexpr int partDuPoids = 3;
-constexpr int partDUneZone = 2;
+constexpr int partDuPoids = 1;
+constexpr int partDUneZone = 1;
+constexpr int margeDeCarte = 18;
 constexpr int retrait = 7; // of the figures, for the tint of the one that counts
 
 // A figure; the one that the order in progress pays is tinted.
@@ -52,7 +55,7 @@ private:
     bool enCours_;
 };
 
-QWidget *tableau(const TextesTarifs::Famille &famille)
+QWidget *tableau(const TextesTarifs::Famille &famille, qsizetype zones)
 {
     QList<Tableau::Colonne> colonnes{{QStringLiteral("Poids"), Qt::AlignLeft, partDuPoids}};
     for (const QString &zone : famille.zones)
@@ -64,20 +67,39 @@ QWidget *tableau(const TextesTarifs::Famille &famille)
             cellules.append(new CasePrix(palier.prix[i], famille.zones[i], palier.poids));
         tableau->ajouter(cellules);
     }
+    tableau->laisser(static_cast<int>(zones - famille.zones.size()), partDUneZone);
     return tableau;
 }
 
 } // namespace
 
-CarteFamille::CarteFamille(const TextesTarifs::Famille &famille, QWidget *parent) : QWidget(parent)
+CarteFamille::CarteFamille(const TextesTarifs::Famille &famille, qsizetype zones, QWidget *parent) : QWidget(parent)
 {
     LecteurDEcran::jouer(this, QAccessible::Grouping);
-    QBoxLayout *colonne = Pile::colonne(this, {.marges = {18, 8, 18, 12}, .espace = 0}, {tableau(famille)});
+    QBoxLayout *colonne =
+        Pile::colonne(this, {.marges = {margeDeCarte, 8, margeDeCarte, 12}, .espace = 0}, {tableau(famille, zones)});
     for (const QString &pays : famille.pays) {
         colonne->addSpacing(6);
         colonne->addWidget(Libelle::note(pays));
     }
     setAccessibleName(famille.titre);
+}
+
+QWidget *CarteFamille::enLigne(QWidget *rangee, qsizetype zones)
+{
+    constexpr int marge = margeDeCarte - Formulaire::margeHorizontale;
+    auto *ligne = new QWidget;
+    auto *valeur = Pile::rangee({.marges = {0, 0, retrait, 0}}, {{rangee, 1}});
+    auto *grille = new QGridLayout(ligne);
+    grille->setContentsMargins(marge, 0, marge, 0);
+    grille->setSpacing(0);
+    grille->addLayout(valeur, 0, 0, 1, 2);
+    grille->setColumnStretch(0, partDuPoids);
+    for (int zone = 1; zone <= zones; ++zone) {
+        grille->setColumnStretch(zone, partDUneZone);
+        grille->setColumnMinimumWidth(zone, 1);
+    }
+    return ligne;
 }
 
 void CarteFamille::paintEvent(QPaintEvent *)

@@ -12,7 +12,10 @@ class CarteFamille : public QWidget
     Q_OBJECT
 
 public:
-    explicit CarteFamille(const TextesTarifs::Famille &famille, QWidget *parent = nullptr);
+    // `zones`: the most that a family of the page has; all their columns are in line.
+    CarteFamille(const TextesTarifs::Famille &famille, qsizetype zones, QWidget *parent = nullptr);
+    // A row of another card, its value in line with the first zone.
+    static QWidget *enLigne(QWidget *rangee, qsizetype zones);
 
 protected:
     void paintEvent(QPaintEvent *evenement) override;

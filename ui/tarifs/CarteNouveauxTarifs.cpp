@@ -36,15 +36,15 @@ QWidget *texte(const QString &texte, Qt::Alignment alignement)
     return libelle;
 }
 
-// With its heads only. The last two columns are one, under its head.
+// With its heads only. The last two columns are one, under its head; who hears it is told which is which.
 Tableau *tableau()
 {
     return new Tableau({{QStringLiteral("Zone"), Qt::AlignLeft, 5},
                         {QStringLiteral("Jusqu’à"), Qt::AlignRight, 2},
                         {QStringLiteral("Avant"), Qt::AlignRight, 2},
                         {QStringLiteral("Après"), Qt::AlignRight, 2},
-                        {QStringLiteral("Écart"), Qt::AlignRight, 3},
-                        {{}, Qt::AlignRight, 2, 0, QStringLiteral("Variation")}});
+                        {{}, Qt::AlignRight, 2, 0, QStringLiteral("Écart")},
+                        {QStringLiteral("Écart"), Qt::AlignRight, 2, 0, QStringLiteral("Variation")}});
 }
 
 Tableau *changements(const QList<EcartTarif> &ecarts, const QSet<QString> &aVerifier)
@@ -57,7 +57,7 @@ Tableau *changements(const QList<EcartTarif> &ecarts, const QSet<QString> &aVeri
         LibelleChiffre *lu =
             aVerifier.contains(ecarts[i].id()) ? new ChiffreAVerifier(apres) : new LibelleChiffre(apres);
         rangees->ajouter({texte(zone, Qt::AlignLeft), texte(jusqua, Qt::AlignRight), new LibelleChiffre(avant), lu,
-                          new LibelleChiffre(ecart), new LibelleChiffre(variation)});
+                          new LibelleChiffre(ecart), new LibelleChiffre(variation, Libelle::Rang::secondaire)});
     }
     return rangees;
 }

@@ -27,29 +27,25 @@ namespace Quillet {
 namespace {
 
 constexpr int entreSections = 32;
-
-// A price stays within sight of its weight, however few zones share the page's width.
-QLayout *aSaLargeur(QWidget *tableau, qsizetype zones)
-{
-    constexpr int page = 100;
-    const int prise = std::min(page, 27 + 20 * static_cast<int>(zones));
-    return Pile::rangee({}, {{tableau, prise}, Pile::reste(page - prise)});
-}
+constexpr int largeurDePage = 840; // a price stays within sight of its weight
 
 QWidget *tableaux(const QList<TextesTarifs::Famille> &familles, const QList<TextesTarifs::Frais> &frais)
 {
     auto *tableaux = new QWidget;
     QBoxLayout *colonne = Pile::colonne(tableaux, {.espace = 12});
+    qsizetype zones = 1; // of the family that has the most
+    for (const TextesTarifs::Famille &famille : familles)
+        zones = std::max(zones, famille.zones.size());
     for (const TextesTarifs::Famille &famille : familles) {
         colonne->addWidget(Libelle::titreDeSection(famille.titre));
-        colonne->addLayout(aSaLargeur(new CarteFamille(famille), famille.zones.size()));
+        colonne->addWidget(new CarteFamille(famille, zones));
         colonne->addSpacing(entreSections - 12);
     }
     auto *groupe = new Formulaire::Groupe;
     for (const auto &[libelle, valeur] : frais)
-        groupe->ajouter(new Formulaire::Rangee(libelle, new Libelle(valeur)));
+        groupe->ajouter(CarteFamille::enLigne(new Formulaire::Rangee(libelle, new Libelle(valeur)), zones));
     colonne->addWidget(Libelle::titreDeSection(QStringLiteral("Frais PayPal")));
-    colonne->addLayout(aSaLargeur(groupe, 1));
+    colonne->addWidget(groupe);
     return tableaux;
 }
 
@@ -64,11 +60,11 @@ VueTarifs::VueTarifs(const Contexte &contexte, QWidget *parent)
       paypal_(new LigneVerification(QStringLiteral("Frais PayPal")))
 {
     auto *contenu = new QWidget;
-    TailleDuTexte::suivre(contenu, [contenu] { contenu->setMaximumWidth(Theme::aLaTaille(Theme::largeurDePage)); });
+    TailleDuTexte::suivre(contenu, [contenu] { contenu->setMaximumWidth(Theme::aLaTaille(largeurDePage)); });
     sections_ = Pile::colonne(contenu, {.espace = entreSections}, {controles(), Pile::reste()});
     const int ascenseur = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     QWidget *page = Pile::enRangee({.marges = {Theme::margeDePage, 24, Theme::margeDePage - ascenseur, 28}},
-                                   {{contenu, 1}, Pile::reste(0)});
+                                   {Pile::reste(0), {contenu, 1}, Pile::reste(0)});
     auto *defilement = new PageAuClavier;
     defilement->setAccessibleName(QStringLiteral("Tarifs et frais"));
     defilement->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -76,6 +72,7 @@ VueTarifs::VueTarifs(const Contexte &contexte, QWidget *parent)
     page->setAutoFillBackground(false); // the focus ring is painted behind it
 
     Pile::colonne(this, {.espace = 0}, {enTete_, {defilement, 1}});
+    enTete_->setLargeur(largeurDePage);
     enTete_->ajouter(choix_);
     connect(choix_, &ChoixTarifs::choisi, this, &VueTarifs::actualiser);
     connect(&contexte_.catalogue, &Catalogue::change, this, &VueTarifs::actualiser);
