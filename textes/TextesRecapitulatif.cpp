@@ -2,6 +2,7 @@
 
 #include "documents/ReponseType.h"
 #include "model/Format.h"
+#include "textes/NomsVendeurs.h"
 #include "textes/TextesFrais.h"
 #include "textes/TextesPays.h"
 
@@ -39,6 +40,25 @@ QList<TextesRecapitulatif::Ligne> TextesRecapitulatif::livres(const Calcul &calc
                        QString::number(ligne.quantite) + QStringLiteral(" × ") + Format::euros(ligne.livre.prix),
                        Format::euros(ligne.montant())});
     return lignes;
+}
+
+QString TextesRecapitulatif::autresLivres(const QList<Livre> &livres, const BonDeCommande &bon)
+{
+    QStringList phrases;
+    for (const Vendeur vendeur : tous<Vendeur>) {
+        int nombre = 0;
+        for (const Livre &livre : livres)
+            if (livre.vendeur == vendeur && vendeur != bon.vendeur)
+                nombre += bon.quantite(livre);
+        if (nombre == 0)
+            continue;
+        const auto phrase = nombre == 1
+                                ? QStringLiteral("%1 livre de %2 reste aussi dans la commande ; il ne compte pas ici.")
+                                : QStringLiteral("%1 livres de %2 restent aussi dans la commande ; ils ne comptent "
+                                                 "pas ici.");
+        phrases.append(phrase.arg(nombre).arg(NomsVendeurs::court(vendeur)));
+    }
+    return phrases.join(u' ');
 }
 
 QString TextesRecapitulatif::emballage(const Emballage &emballage)

@@ -104,6 +104,21 @@ private slots:
                  "C’est le dernier palier de la grille : au-delà, il faut faire deux colis.");
     }
 
+    void livresDeLAutre()
+    {
+        for (const auto &[nom, miens, siens, phrase] : Rangees<int, int, const char *>{
+                 {"aucun", 2, 0, ""},
+                 {"un", 2, 1, "1 livre de Mireva reste aussi dans la commande ; il ne compte pas ici."},
+                 {"trois", 0, 3, "3 livres de Mireva restent aussi dans la commande ; ils ne comptent pas ici."},
+             }) {
+            const Rangee rangee(nom);
+            Cas cas;
+            cas.bon.ajuster(cas.banc.livres[0], miens);
+            cas.bon.ajuster(cas.banc.livres[2], siens);
+            QCOMPARE(autresLivres(cas.banc.livres, cas.bon), phrase);
+        }
+    }
+
     void detailsDesMontants()
     {
         for (const auto &[destination, envoi, frais, declaration] : Rangees<const char *, const char *, const char *>{

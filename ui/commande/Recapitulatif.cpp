@@ -1,6 +1,7 @@
 #include "ui/commande/Recapitulatif.h"
 
 #include "composants/Pile.h"
+#include "textes/TextesRecapitulatif.h"
 #include "ui/Contexte.h"
 #include "ui/commande/SectionDestination.h"
 #include "ui/commande/SectionDocuments.h"
@@ -20,6 +21,7 @@ constexpr int largeurMinimale = 330;
 
 Recapitulatif::Recapitulatif(const Contexte &contexte, QWidget *parent)
     : Defilement(parent),
+      contexte_(contexte),
       livres_(new SectionLivres),
       poids_(new SectionPoids(contexte.donnees().reglages.emballages, contexte.commande)),
       destination_(new SectionDestination(contexte.donnees(), contexte.commande)),
@@ -50,7 +52,7 @@ QSize Recapitulatif::minimumSizeHint() const
 
 void Recapitulatif::montrer(const Calcul &calcul)
 {
-    livres_->montrer(calcul);
+    livres_->montrer(calcul, TextesRecapitulatif::autresLivres(contexte_.donnees().livres, contexte_.bon()));
     poids_->montrer(calcul);
     destination_->montrer(calcul);
     montants_->montrer(calcul);

@@ -32,6 +32,7 @@ signals:
     void reponseDemandee();
 
 private:
+    const Contexte &contexte_;
     SectionLivres *livres_;
     SectionPoids *poids_;
     SectionDestination *destination_;
