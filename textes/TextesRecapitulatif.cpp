@@ -6,6 +6,8 @@
 #include "textes/TextesFrais.h"
 #include "textes/TextesPays.h"
 
+#include <algorithm>
+
 namespace Quillet {
 
 namespace {
@@ -25,8 +27,10 @@ QString TextesRecapitulatif::sousTitre(const Calcul &calcul)
     return livres + Format::poids(calcul.poidsRetenu);
 }
 
-QString TextesRecapitulatif::resume(const Calcul &calcul)
+QString TextesRecapitulatif::resume(const Calcul &calcul, bool videe)
 {
+    if (videe)
+        return QStringLiteral("%1. Ctrl+Z rend la commande vidée.").arg(sousTitre(calcul));
     if (calcul.nombreDeLivres() == 0)
         return sousTitre(calcul);
     return QStringLiteral("%1, total à payer : %2").arg(sousTitre(calcul), Format::dit(Format::euros(calcul.total)));
@@ -158,6 +162,45 @@ TextesRecapitulatif::lienDePaiement(const Calcul &calcul, const Donnees &donnees
 QString TextesRecapitulatif::libelleDeLaReponse(Langue langue)
 {
     return QStringLiteral("E-mail en %1").arg(traits(langue).nom);
+}
+
+QString TextesRecapitulatif::creationDuLien()
+{
+    return QStringLiteral("Créer le lien dans PayPal");
+}
+
+QString TextesRecapitulatif::tourDeCopie(const Suivi &suivi, const QList<TexteACopier> &textes)
+{
+    if (textes.isEmpty())
+        return {};
+    const TexteACopier &suivant = textes[suivi.aCopier(textes)];
+    const auto dernier = std::ranges::find(textes, suivi.dernierCopie(), &TexteACopier::titre);
+    if (dernier == textes.end() || !suivi.estCopie(*dernier))
+        return QStringLiteral("À copier : %1").arg(suivant.titre);
+    return QStringLiteral("Copié : %1. %2")
+        .arg(dernier->titre, suivi.estCopie(suivant) ? QStringLiteral("Tout est copié.")
+                                                     : QStringLiteral("Ensuite : %1").arg(suivant.titre));
+}
+
+QString TextesRecapitulatif::colis(const Calcul &calcul)
+{
+    const QString vers = QStringLiteral("Envoi : %1")
+                             .arg(calcul.destination ? calcul.destination->libelleCourt : QString(Format::absent));
+    return calcul.lignes.isEmpty() ? vers : QStringLiteral("%1 · %2").arg(vers, Format::poids(calcul.poidsRetenu));
+}
+
+TextesRecapitulatif::EtapeSuivante TextesRecapitulatif::etapeSuivante(Etape etape, const Calcul &calcul, Langue langue)
+{
+    const bool pret = calcul.pretAPartir();
+    switch (etape) {
+    case Etape::lien:
+        return {QStringLiteral("arrow.up.forward.app"), creationDuLien(), true, pret};
+    case Etape::reponse:
+        return {QStringLiteral("envelope"), libelleDeLaReponse(langue), pret, pret};
+    case Etape::facture:
+        return {QStringLiteral("doc.plaintext"), QStringLiteral("Facture"), pret, pret};
+    }
+    Q_UNREACHABLE();
 }
 
 } // namespace Quillet

@@ -2,6 +2,7 @@
 
 #include "model/Calcul.h"
 #include "model/Langue.h"
+#include "model/Suivi.h"
 
 #include <QList>
 #include <QString>
@@ -39,10 +40,19 @@ struct LienDePaiement
     QString zoneDite; // that the buyer will read a zone's name; empty: a country's
 };
 
+// The way on, as the button of its section shows it.
+struct EtapeSuivante
+{
+    QString symbole;
+    QString texte;
+    bool possible = false;
+    bool attendue = false; // there is an order for it
+};
+
 // "3 livres · 1 250 g"
 QString sousTitre(const Calcul &calcul);
-// To be heard: "3 livres · 1 250 g, total à payer : 73,19 €"
-QString resume(const Calcul &calcul);
+// To be heard: "3 livres · 1 250 g, total à payer : 73,19 €"; or that the order was emptied, which can be undone.
+QString resume(const Calcul &calcul, bool videe = false);
 
 QList<Ligne> livres(const Calcul &calcul);
 // That the order also holds books of another seller, which do not count; empty when it holds none.
@@ -61,5 +71,12 @@ QString detailFrais(const Calcul &calcul, const FraisPaypal &frais);
 QString perte(const Calcul &calcul);
 std::optional<LienDePaiement> lienDePaiement(const Calcul &calcul, const Donnees &donnees, const BonDeCommande &bon);
 QString libelleDeLaReponse(Langue langue);
+QString creationDuLien();
+// What was copied last of the link's texts, and which comes next.
+QString tourDeCopie(const Suivi &suivi, const QList<TexteACopier> &textes);
+
+// "Envoi : Suisse · 1 012 g"
+QString colis(const Calcul &calcul);
+EtapeSuivante etapeSuivante(Etape etape, const Calcul &calcul, Langue langue);
 
 } // namespace Quillet::TextesRecapitulatif

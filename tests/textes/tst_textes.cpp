@@ -75,6 +75,7 @@ private slots:
         Cas cas;
         QCOMPARE(sousTitre(cas.calcul()), "Aucun livre");
         QCOMPARE(resume(cas.calcul()), "Aucun livre");
+        QCOMPARE(resume(cas.calcul(), true), "Aucun livre. Ctrl+Z rend la commande vidée.");
         cas.bon.ajuster(cas.banc.livres[0], 1);
         QCOMPARE(sousTitre(cas.calcul()), "1 livre · 240 g");
         QCOMPARE(lisible(resume(cas.calcul())), "1 livre · 240 g, total à payer : 20,49 €");
@@ -117,6 +118,50 @@ private slots:
             cas.bon.ajuster(cas.banc.livres[2], siens);
             QCOMPARE(autresLivres(cas.banc.livres, cas.bon), phrase);
         }
+    }
+
+    void etapes()
+    {
+        for (const auto &[nom, livre, etape, texte, possible, attendue] : Rangees<int, Etape, const char *, bool, bool>{
+                 // 0: none; 2: never weighed
+                 {"commande vide", 0, Etape::lien, "Créer le lien dans PayPal", true, false},
+                 {"total inconnu", 2, Etape::lien, "Créer le lien dans PayPal", true, false},
+                 {"à payer", 1, Etape::lien, "Créer le lien dans PayPal", true, true},
+                 {"à répondre", 1, Etape::reponse, "E-mail en anglais", true, true},
+                 {"à facturer", 1, Etape::facture, "Facture", true, true},
+                 {"plus de total", 2, Etape::facture, "Facture", false, false},
+             }) {
+            const Rangee rangee(nom);
+            Cas cas;
+            if (livre > 0)
+                cas.bon.ajuster(cas.banc.livres[livre - 1], 1);
+            const auto suivante = etapeSuivante(etape, cas.calcul(), Langue::anglais);
+            QCOMPARE(suivante.texte, texte);
+            QCOMPARE(suivante.possible, possible);
+            QCOMPARE(suivante.attendue, attendue);
+        }
+    }
+
+    void piedEtTourDeCopie()
+    {
+        Cas cas;
+        cas.bon.codeDestination = vers("mars"); // unknown
+        QCOMPARE(colis(cas.calcul()), "Envoi : —");
+        cas.bon.codeDestination = vers("suisse");
+        QCOMPARE(colis(cas.calcul()), "Envoi : Suisse");
+        cas.bon.ajuster(cas.banc.livres[0], 1);
+        QCOMPARE(lisible(colis(cas.calcul())), "Envoi : Suisse · 240 g");
+
+        QList<TexteACopier> textes{{"Description", "un livre"}, {"Prix", "20,49"}};
+        Suivi suivi;
+        QCOMPARE(tourDeCopie(suivi, {}), "");
+        QCOMPARE(tourDeCopie(suivi, textes), "À copier : Description");
+        suivi.copier(textes[0]);
+        QCOMPARE(tourDeCopie(suivi, textes), "Copié : Description. Ensuite : Prix");
+        suivi.copier(textes[1]);
+        QCOMPARE(tourDeCopie(suivi, textes), "Copié : Prix. Tout est copié.");
+        textes[1].valeur = "21,00";
+        QCOMPARE(tourDeCopie(suivi, textes), "À copier : Prix");
     }
 
     void detailsDesMontants()

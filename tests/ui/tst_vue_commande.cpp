@@ -12,9 +12,11 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 
@@ -194,6 +196,58 @@ private slots:
         QVERIFY(!controle<QAbstractButton>(reinitialiser)->isEnabled());
     }
 
+    // The foot, beside whatever place the panel was left at.
+    void lePied()
+    {
+        const auto suivante = [this](const QString &etape) {
+            return controle<QPushButton>(QStringLiteral("Étape suivante : ") + etape);
+        };
+        const QString lien = "Créer le lien dans PayPal";
+        QVERIFY(suivante(lien) && suivante(lien)->isEnabled() && !suivante(lien)->isDefault());
+        QCOMPARE(valeur("TOTAL"), "—");
+        cliquer("Livre 1");
+        QCOMPARE(valeur("TOTAL"), "20,49 €");
+        QVERIFY(suivante(lien)->isDefault());
+        QString message; // there is no browser
+        QVERIFY(
+            Dialogues::cliquerPuisRepondre(fenetre(), suivante(lien)->accessibleName(), {BancEcran::lire(message)}));
+        QVERIFY(message.startsWith("Aucun navigateur"));
+        QVERIFY(suivante("E-mail en français"));
+        cliquer("Anglais");
+        QDialog *reponse = banc_->ouvrir(suivante("E-mail en anglais")->accessibleName());
+        QCOMPARE(reponse->windowTitle(), "Réponse à l’acheteur");
+        reponse->reject();
+        cliquer("Livre 1");
+        QVERIFY(suivante(lien));
+    }
+
+    void annulerLaReinitialisation()
+    {
+        cliquer("Livre 1");
+        cliquer("Livre 1");
+        taper(colisPese, "450");
+        QVERIFY(Ecran::defiler(fenetre(), "E-mail en français"));
+        const QScrollBar *ascenseur = panneau()->verticalScrollBar();
+        QVERIFY(ascenseur->value() > 0);
+        cliquer(reinitialiser);
+        QCOMPARE(ascenseur->value(), 0);
+        QVERIFY(montre("Commande vidée") && controle("Annuler")->hasFocus());
+        QTest::keyClick(controle<QLineEdit>(colisPese), Qt::Key_Z, Qt::ControlModifier); // nothing typed there
+        QCOMPARE(quantite(1), 2);
+        QCOMPARE(controle<QLineEdit>(colisPese)->text(), "450");
+        QVERIFY(!controle("Annuler"));
+
+        cliquer(reinitialiser);
+        cliquer("Annuler");
+        QCOMPARE(quantite(1), 2);
+        QVERIFY(controle(reinitialiser)->hasFocus());
+        cliquer(reinitialiser);
+        cliquer("Livre 1");
+        QVERIFY(!montre("Commande vidée"));
+        QTest::keyClick(fenetre(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(quantite(1), 1);
+    }
+
     void changerDeVendeur()
     {
         cliquer("Livre 1");
@@ -256,6 +310,32 @@ private slots:
         QTRY_VERIFY(!copie("Nom de l’objet"));
     }
 
+    void copierALaSuite()
+    {
+        cliquer("Livre 1");
+        const auto coches = [this] {
+            const auto textes = fenetre()->findChildren<QLabel *>();
+            return std::ranges::count_if(
+                textes, [](const QLabel *texte) { return texte->isVisible() && texte->text() == "copié"; });
+        };
+        for (const char *texte : {"Éditions Davrel – 1 book", "", "20,49", "https://davrel.example/merci"}) {
+            QTest::keyClick(fenetre(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+            QVERIFY(!*texte || QApplication::clipboard()->text() == QString::fromUtf8(texte));
+        }
+        QCOMPARE(coches(), 4);
+        QVERIFY(montre("Copié : URL de redirection. Tout est copié."));
+        cliquer("Copier le suivant");
+        QCOMPARE(QApplication::clipboard()->text(), "Éditions Davrel – 1 book");
+        cliquer("Livre 1"); // another order
+        QCOMPARE(coches(), 0);
+        cliquer("Copier Description");
+        QCOMPARE(coches(), 1);
+        cliquer("Anglais"); // another description
+        QCOMPARE(coches(), 0);
+        cliquer(reinitialiser);
+        QTest::keyClick(fenetre(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier); // nothing to copy
+    }
+
     void documentsEtReponse()
     {
         const auto actif = [this](const char *bouton) { return controle<QAbstractButton>(bouton)->isEnabled(); };
@@ -303,10 +383,26 @@ private slots:
         }
         QCOMPARE(quantite(1), 1);
         qsizetype precedent = -1;
-        for (const char *nom : {"Tout réinitialiser", "davrel.example", "Livre 1", "Retirer un exemplaire",
-                                "Ajouter un exemplaire", "Livre 2", "Livre 5", "Emballage", "Colis pesé", "Envoi vers",
-                                "Français", "Créer le lien dans PayPal", "Pays de livraison", "Copier Prix",
-                                "Copier URL de redirection", "Facture", "E-mail en français", "Rubriques"}) {
+        for (const char *nom : {"Tout réinitialiser",
+                                "davrel.example",
+                                "Livre 1",
+                                "Retirer un exemplaire",
+                                "Ajouter un exemplaire",
+                                "Livre 2",
+                                "Livre 5",
+                                "Emballage",
+                                "Colis pesé",
+                                "Envoi vers",
+                                "Français",
+                                "Créer le lien dans PayPal",
+                                "Pays de livraison",
+                                "Copier Prix",
+                                "Copier URL de redirection",
+                                "Copier le suivant",
+                                "Facture",
+                                "E-mail en français",
+                                "Étape suivante : Créer le lien dans PayPal",
+                                "Rubriques"}) {
             const qsizetype rang = atteints.indexOf(nom, precedent + 1);
             QVERIFY2(rang > precedent,
                      qPrintable(QString::fromUtf8(nom) + QStringLiteral(" / ") + atteints.join(u'|')));
@@ -354,6 +450,13 @@ private:
     [[nodiscard]] Controle *controle(const QString &nom) const
     {
         return qobject_cast<Controle *>(Ecran::controle(fenetre(), nom));
+    }
+    [[nodiscard]] QScrollArea *panneau() const // that holds the sections of the summary
+    {
+        QWidget *parent = controle(colisPese);
+        while (!qobject_cast<QScrollArea *>(parent))
+            parent = parent->parentWidget();
+        return qobject_cast<QScrollArea *>(parent);
     }
     [[nodiscard]] QString valeur(const QString &libelle) const
     {

@@ -126,6 +126,7 @@ private slots:
         QTest::keyClick(Ecran::controle(feuille, champAdresse), Qt::Key_Return);
         const QStringList recus = messagerie_.recus();
         QCOMPARE(recus.size(), 2);
+        QVERIFY(Ecran::controle(&banc_->app->fenetre(), "Étape suivante : Facture"));
         const auto champs = champsDeThunderbird(recus[1]);
         QCOMPARE(champs[0].second, "ada@exemple.fr");
         QCOMPARE(champs[1].second, "Votre commande de livres – davrel.example");

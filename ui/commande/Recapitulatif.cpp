@@ -1,8 +1,11 @@
 #include "ui/commande/Recapitulatif.h"
 
+#include "composants/Defilement.h"
 #include "composants/Pile.h"
+#include "documents/ReponseType.h"
 #include "textes/TextesRecapitulatif.h"
 #include "ui/Contexte.h"
+#include "ui/commande/PiedDeCommande.h"
 #include "ui/commande/SectionDestination.h"
 #include "ui/commande/SectionDocuments.h"
 #include "ui/commande/SectionLien.h"
@@ -10,6 +13,10 @@
 #include "ui/commande/SectionMontants.h"
 #include "ui/commande/SectionPoids.h"
 #include "ui/commande/SectionReponse.h"
+
+#include <QScrollBar>
+
+#include <utility>
 
 namespace Quillet {
 
@@ -19,19 +26,22 @@ constexpr int largeurMinimale = 330;
 
 } // namespace
 
-Recapitulatif::Recapitulatif(const Contexte &contexte, QWidget *parent)
-    : Defilement(parent),
+Recapitulatif::Recapitulatif(const Contexte &contexte, const Suivi &suivi, QWidget *parent)
+    : QWidget(parent),
       contexte_(contexte),
+      suivi_(suivi),
       livres_(new SectionLivres),
       poids_(new SectionPoids(contexte.donnees().reglages.emballages, contexte.commande)),
       destination_(new SectionDestination(contexte.donnees(), contexte.commande)),
       montants_(new SectionMontants(contexte.donnees().reglages)),
-      lien_(new SectionLien(contexte.donnees(), contexte.commande)),
+      lien_(new SectionLien(contexte.donnees(), contexte.commande, suivi)),
       documents_(new SectionDocuments),
-      reponse_(new SectionReponse(contexte.commande))
+      reponse_(new SectionReponse(contexte.commande)),
+      defilement_(new Defilement),
+      pied_(new PiedDeCommande)
 {
-    setAutoFillBackground(true);
-    setBackgroundRole(QPalette::AlternateBase);
+    defilement_->setAutoFillBackground(true);
+    defilement_->setBackgroundRole(QPalette::AlternateBase);
 
     QWidget *page =
         Pile::enColonne({.marges = {16, 24, 16, 28}, .espace = 22},
@@ -39,15 +49,23 @@ Recapitulatif::Recapitulatif(const Contexte &contexte, QWidget *parent)
     page->setAutoFillBackground(true);
     page->setBackgroundRole(QPalette::AlternateBase);
     page->resize(size()); // any size: without one, setWidget lays the whole page out to find its own
-    setWidget(page);
+    defilement_->setWidget(page);
+    Pile::colonne(this, {.espace = 0}, {{defilement_, 1}, pied_});
 
     connect(documents_, &SectionDocuments::demandes, this, &Recapitulatif::documentsDemandes);
-    connect(reponse_, &SectionReponse::demandee, this, &Recapitulatif::reponseDemandee);
+    connect(lien_, &SectionLien::creationDemandee, this, [this] { emit etapeDemandee(Etape::lien); });
+    connect(lien_, &SectionLien::copie, this, &Recapitulatif::copie);
+    connect(lien_, &SectionLien::copieALaSuite, this, [this](QWidget *rangee) {
+        defilement_->ensureWidgetVisible(rangee); // the keys may come from anywhere
+    });
+    connect(reponse_, &SectionReponse::demandee, this, [this] { emit etapeDemandee(Etape::reponse); });
+    connect(pied_, &PiedDeCommande::etapeDemandee, this, &Recapitulatif::etapeDemandee);
+    connect(pied_, &PiedDeCommande::annulationDemandee, this, &Recapitulatif::annulationDemandee);
 }
 
 QSize Recapitulatif::minimumSizeHint() const
 {
-    return Defilement::minimumSizeHint().expandedTo({largeurMinimale, 0});
+    return QWidget::minimumSizeHint().expandedTo({largeurMinimale, 0});
 }
 
 void Recapitulatif::montrer(const Calcul &calcul)
@@ -59,6 +77,16 @@ void Recapitulatif::montrer(const Calcul &calcul)
     lien_->montrer(calcul);
     documents_->montrer(calcul);
     reponse_->montrer(calcul);
+    pied_->montrer(calcul, suivi_.suivante(), langueAcheteur(contexte_.bon(), calcul));
+    pied_->montrerVidee(contexte_.commande.peutRendre());
+    const bool vide = contexte_.bon().estVide();
+    if (std::exchange(vide_, vide) != vide && vide)
+        defilement_->verticalScrollBar()->setValue(0); // the next buyer's begins at the top
+}
+
+void Recapitulatif::proposerDAnnuler()
+{
+    pied_->proposerDAnnuler();
 }
 
 } // namespace Quillet

@@ -3,8 +3,9 @@
 #include "composants/Alerte.h"
 #include "composants/ChampACopier.h"
 #include "composants/Icone.h"
-#include "composants/Lien.h"
+#include "composants/Libelle.h"
 #include "composants/LigneDeTexte.h"
+#include "composants/Pile.h"
 #include "documents/PaysDeLivraison.h"
 #include "documents/ReponseType.h"
 #include "model/Commande.h"
@@ -13,6 +14,7 @@
 
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 
 namespace Quillet {
 
@@ -24,10 +26,11 @@ const QString reglagesDuLien =
 
 } // namespace
 
-SectionLien::SectionLien(const Donnees &donnees, Commande &commande, QWidget *parent)
+SectionLien::SectionLien(const Donnees &donnees, Commande &commande, const Suivi &suivi, QWidget *parent)
     : Section(QStringLiteral("Lien de paiement PayPal"), reglagesDuLien, parent),
       donnees_(donnees),
       commande_(commande),
+      suivi_(suivi),
       langue_(new ChoixLangue),
       pays_(new LigneDeTexte),
       rangeePays_(new Formulaire::RangeeHaute(QStringLiteral("Pays de livraison"), pays_)),
@@ -35,21 +38,32 @@ SectionLien::SectionLien(const Donnees &donnees, Commande &commande, QWidget *pa
       nomDeLObjet_(new ChampACopier(QStringLiteral("Nom de l’objet"))),
       description_(new ChampACopier(QStringLiteral("Description"))),
       prix_(new ChampACopier(QStringLiteral("Prix"))),
-      retour_(new ChampACopier(QStringLiteral("URL de redirection")))
+      retour_(new ChampACopier(QStringLiteral("URL de redirection"))),
+      tour_(Libelle::note({}))
 {
-    auto *creer = new QPushButton(Icone::icone(QStringLiteral("arrow.up.forward.app")),
-                                  QStringLiteral("Créer le lien dans PayPal"));
+    auto *creer =
+        new QPushButton(Icone::icone(QStringLiteral("arrow.up.forward.app")), TextesRecapitulatif::creationDuLien());
+    const QKeySequence touches(Qt::CTRL | Qt::SHIFT | Qt::Key_C);
+    auto *copier = new QPushButton(Icone::icone(QStringLiteral("doc.on.doc")), QStringLiteral("Copier le suivant"));
+    copier->setToolTip(QStringLiteral("Copier le suivant (%1)").arg(touches.toString(QKeySequence::NativeText)));
+    tour_->setAlignment(Qt::AlignHCenter);
+    aLaSuite_ = Pile::enColonne({.espace = 4}, {copier, tour_});
     groupe()->ajouter(new Formulaire::RangeeHaute(QStringLiteral("Langue de l’acheteur"), langue_));
     groupe()->ajouter(Formulaire::seul(creer));
     groupe()->ajouter(rangeePays_);
     groupe()->ajouter(zone_);
-    for (ChampACopier *champ : {nomDeLObjet_, description_, prix_, retour_})
+    for (ChampACopier *champ : {nomDeLObjet_, description_, prix_, retour_}) {
         groupe()->ajouter(champ);
+        connect(champ, &ChampACopier::copie, this, [this, champ] { emit copie({champ->titre(), champ->valeur()}); });
+    }
+    groupe()->ajouter(aLaSuite_);
 
     connect(langue_, &ChoixLangue::choisie, this, [this](Langue langue) {
         commande_.adopter(PaysDeLivraison::ecrite(commande_.bon(), langue, donnees_.pays));
     });
-    connect(creer, &QPushButton::clicked, this, [this] { Lien::ouvrir(ReponseType::creationDuLien(), this); });
+    connect(creer, &QPushButton::clicked, this, &SectionLien::creationDemandee);
+    connect(copier, &QPushButton::clicked, this, &SectionLien::copierLeSuivant);
+    connect(new QShortcut(touches, this), &QShortcut::activated, this, &SectionLien::copierLeSuivant);
     connect(pays_, &QLineEdit::textChanged, &commande_, &Commande::setPaysLivraison);
 }
 
@@ -65,6 +79,7 @@ void SectionLien::montrer(const Calcul &calcul)
     for (ChampACopier *champ : {nomDeLObjet_, description_, prix_})
         champ->setVisible(lien.has_value());
     retour_->setVisible(lien && lien->retour);
+    aLaSuite_->setVisible(lien.has_value());
     if (!lien)
         return;
     rangeePays_->setDetail(lien->indicationDuPays);
@@ -73,6 +88,34 @@ void SectionLien::montrer(const Calcul &calcul)
     description_->montrer(lien->description);
     prix_->montrer(lien->prix, lien->prixAffiche);
     retour_->montrer(lien->retour.value_or(QString()));
+    for (ChampACopier *champ : champs())
+        champ->marquer(suivi_.estCopie({champ->titre(), champ->valeur()}));
+    tour_->setText(TextesRecapitulatif::tourDeCopie(suivi_, textes()));
+}
+
+QList<ChampACopier *> SectionLien::champs() const
+{
+    QList<ChampACopier *> champs{nomDeLObjet_, description_, prix_, retour_};
+    champs.removeIf([](const ChampACopier *champ) { return champ->isHidden(); });
+    return champs;
+}
+
+QList<TexteACopier> SectionLien::textes() const
+{
+    QList<TexteACopier> textes;
+    for (const ChampACopier *champ : champs())
+        textes.append({champ->titre(), champ->valeur()});
+    return textes;
+}
+
+void SectionLien::copierLeSuivant()
+{
+    const auto places = champs();
+    if (places.isEmpty())
+        return;
+    ChampACopier *suivant = places[suivi_.aCopier(textes())];
+    suivant->copier();
+    emit copieALaSuite(suivant);
 }
 
 } // namespace Quillet

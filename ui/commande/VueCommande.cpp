@@ -4,10 +4,12 @@
 #include "composants/EnTete.h"
 #include "composants/EtatVide.h"
 #include "composants/Icone.h"
+#include "composants/Lien.h"
 #include "composants/Partage.h"
 #include "composants/Pile.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
+#include "documents/ReponseType.h"
 #include "textes/TextesRecapitulatif.h"
 #include "ui/Contexte.h"
 #include "ui/commande/Couverture.h"
@@ -19,6 +21,7 @@
 
 #include <QPushButton>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStyle>
 
@@ -48,7 +51,7 @@ VueCommande::VueCommande(const Contexte &contexte, QWidget *parent)
       grille_(new GrilleLivres(contexte.commande, contexte.images, selecteur_->dernierControle())),
       sansLivre_(new EtatVide(QStringLiteral("books.vertical"), {},
                               QStringLiteral("Le catalogue n’a pas de livre de ce vendeur."))),
-      recapitulatif_(new Recapitulatif(contexte)),
+      recapitulatif_(new Recapitulatif(contexte, suivi_)),
       annonce_(this, [this] { return resume_; })
 {
     reinitialiser_->setToolTip(
@@ -63,10 +66,20 @@ VueCommande::VueCommande(const Contexte &contexte, QWidget *parent)
     Pile::rangee(this, {},
                  {Partage::entre(colonneDesLivres(), recapitulatif_, recapitulatif_, Theme::aLaTaille(panneauIdeal))});
 
-    connect(reinitialiser_, &QPushButton::clicked, &contexte_.commande, &Commande::vider);
+    connect(reinitialiser_, &QPushButton::clicked, this, &VueCommande::vider);
+    connect(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, this, &VueCommande::rendre);
+    connect(recapitulatif_, &Recapitulatif::annulationDemandee, this, [this] {
+        reinitialiser_->setEnabled(true);
+        reinitialiser_->setFocus(); // before the button that has it goes
+        rendre();
+    });
     connect(selecteur_, &SelecteurSite::choisi, &contexte_.commande, &Commande::setVendeur);
     connect(recapitulatif_, &Recapitulatif::documentsDemandes, this, &VueCommande::ouvrirLesDocuments);
-    connect(recapitulatif_, &Recapitulatif::reponseDemandee, this, &VueCommande::ouvrirLaReponse);
+    connect(recapitulatif_, &Recapitulatif::etapeDemandee, this, &VueCommande::passerA);
+    connect(recapitulatif_, &Recapitulatif::copie, this, [this](const TexteACopier &texte) {
+        suivi_.copier(texte);
+        actualiser();
+    });
     connect(&contexte_.commande, &Commande::change, this, &VueCommande::actualiser);
     connect(&contexte_.catalogue, &Catalogue::change, this, &VueCommande::actualiser);
     connect(&contexte_.jour, &JourCourant::change, this, &VueCommande::actualiser);
@@ -99,8 +112,8 @@ QWidget *VueCommande::colonneDesLivres()
 void VueCommande::actualiser()
 {
     const Calcul calcul = contexte_.calcul();
+    suivi_.suivre(contexte_.bon(), calcul.total);
     enTete_->setSousTitre(TextesRecapitulatif::sousTitre(calcul));
-    reinitialiser_->setEnabled(!contexte_.bon().estVide());
     selecteur_->montrer(contexte_.bon().vendeur);
     QList<Livre> livres;
     std::ranges::copy_if(contexte_.donnees().livres, std::back_inserter(livres),
@@ -109,7 +122,10 @@ void VueCommande::actualiser()
     grille_->setVisible(!livres.isEmpty());
     sansLivre_->setVisible(livres.isEmpty());
     recapitulatif_->montrer(calcul);
-    const QString resume = TextesRecapitulatif::resume(calcul);
+    if (reinitialiser_->hasFocus() && contexte_.commande.peutRendre())
+        recapitulatif_->proposerDAnnuler(); // disabled, it would hand the focus to any neighbour
+    reinitialiser_->setEnabled(!contexte_.bon().estVide());
+    const QString resume = TextesRecapitulatif::resume(calcul, contexte_.commande.peutRendre());
     if (std::exchange(resume_, resume) != resume)
         annonce_.start(); // whoever does not see the summary hears what has become of it
 }
@@ -121,7 +137,45 @@ void VueCommande::ouvrirLesDocuments(OngletDocuments onglet)
 
 void VueCommande::ouvrirLaReponse()
 {
-    (new VueReponse(contexte_, window()))->ouvrir();
+    auto *reponse = new VueReponse(contexte_, window());
+    connect(reponse, &VueReponse::remise, this, [this] { noter(Etape::reponse); });
+    reponse->ouvrir();
+}
+
+void VueCommande::passerA(Etape etape)
+{
+    switch (etape) {
+    case Etape::lien:
+        Lien::ouvrir(ReponseType::creationDuLien(), this);
+        noter(etape);
+        break;
+    case Etape::reponse:
+        ouvrirLaReponse();
+        break;
+    case Etape::facture:
+        ouvrirLesDocuments(OngletDocuments::facture);
+        break;
+    }
+}
+
+void VueCommande::noter(Etape etape)
+{
+    suivi_.faire(etape);
+    actualiser();
+}
+
+void VueCommande::vider()
+{
+    suiviVide_ = suivi_;
+    contexte_.commande.vider();
+}
+
+void VueCommande::rendre()
+{
+    if (!contexte_.commande.peutRendre())
+        return;
+    suivi_ = suiviVide_;
+    contexte_.commande.rendre();
 }
 
 } // namespace Quillet

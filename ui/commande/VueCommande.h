@@ -1,6 +1,7 @@
 #pragma once
 
 #include "composants/AnnonceAuRepos.h"
+#include "model/Suivi.h"
 #include "ui/EcranDeRubrique.h"
 #include "ui/documents/OngletDocuments.h"
 
@@ -28,8 +29,14 @@ private:
     void actualiser();
     void ouvrirLesDocuments(OngletDocuments onglet);
     void ouvrirLaReponse();
+    void passerA(Etape etape);
+    void noter(Etape etape);
+    void vider();
+    void rendre();
 
     const Contexte &contexte_;
+    Suivi suivi_;
+    Suivi suiviVide_; // of the order that was emptied last
     EnTete *enTete_;
     QPushButton *reinitialiser_;
     SelecteurSite *selecteur_;

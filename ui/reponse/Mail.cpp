@@ -156,12 +156,12 @@ void ouvrir(GAppInfo *programme, const QString &adresse, Lancement *attente)
 
 } // namespace
 
-void Mail::ecrire(const Message &message, QObject *temoin, const std::function<void(const QString &)> &echouer,
+bool Mail::ecrire(const Message &message, QObject *temoin, const std::function<void(const QString &)> &echouer,
                   std::chrono::milliseconds patience)
 {
     const Programme programme(g_app_info_get_default_for_uri_scheme("mailto"));
     if (!programme)
-        return;
+        return false;
     const QString destinataire = AdresseMail::estSeule(message.a) ? message.a.trimmed() : QString();
     const QString titre = surUneLigne(message.sujet);
     if (!estThunderbird(programme.get()))
@@ -169,6 +169,7 @@ void Mail::ecrire(const Message &message, QObject *temoin, const std::function<v
                new Lancement(temoin, nom(programme.get()), echouer, patience));
     else if (!composer(programme.get(), pourThunderbird(destinataire, titre, enHtml(message.corps, message.enGras))))
         throw Echec(pasOuvert(nom(programme.get())));
+    return true;
 }
 
 } // namespace Quillet

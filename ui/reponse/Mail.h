@@ -19,10 +19,10 @@ struct Message
     std::optional<QString> enGras; // its first occurrence is bold, where the mail program takes styled text
 };
 
-// Opens it as a new message, ready to send. Without any mail program, does nothing. Throws Echec when there is one that
-// does not start; where only the desktop can tell, or does not within `patience`, the sentence for the user comes later
-// by `echouer`, unless `temoin` has gone by then.
-void ecrire(const Message &message, QObject *temoin, const std::function<void(const QString &)> &echouer,
+// Opens it as a new message, ready to send. False, and nothing done, without any mail program. Throws Echec when there
+// is one that does not start; where only the desktop can tell, or does not within `patience`, the sentence for the user
+// comes later by `echouer`, unless `temoin` has gone by then.
+bool ecrire(const Message &message, QObject *temoin, const std::function<void(const QString &)> &echouer,
             std::chrono::milliseconds patience = std::chrono::seconds(8));
 
 } // namespace Quillet::Mail

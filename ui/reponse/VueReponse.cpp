@@ -156,8 +156,9 @@ void VueReponse::ouvrirDansMail()
         boite->open();
     };
     try {
-        Mail::ecrire({adresse_->text(), message->sujet(), message->corps(), message->ligneTotal()}, parentWidget(),
-                     prevenir);
+        if (Mail::ecrire({adresse_->text(), message->sujet(), message->corps(), message->ligneTotal()}, parentWidget(),
+                         prevenir))
+            emit remise();
     } catch (const Echec &echec) {
         QMessageBox::warning(this, windowTitle(), echec.texte());
     }

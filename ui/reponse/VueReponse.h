@@ -24,6 +24,10 @@ class VueReponse : public Feuille
 public:
     explicit VueReponse(const Contexte &contexte, QWidget *parent = nullptr);
 
+signals:
+    // To the mail program.
+    void remise();
+
 private:
     enum class Page { reponse, impossible };
 
