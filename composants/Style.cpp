@@ -242,6 +242,8 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption *option, con
                 std::max(taille.height(), contenu.height() + Theme::aLaTaille(14))};
     case CT_LineEdit:
         return {taille.width(), std::max(hauteurControle, contenu.height() + 12)};
+    case CT_MenuBarItem: // room for what marks the one under the pointer
+        return {taille.width() + 8, taille.height()};
     case CT_ToolButton:
         return {taille.width() + 8, std::max(taille.height(), contenu.height() + 14)};
     default:
