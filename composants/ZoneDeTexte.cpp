@@ -2,6 +2,7 @@
 
 #include "composants/TailleDuTexte.h"
 
+#include <QMimeData>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -25,11 +26,23 @@ ZoneDeTexte::ZoneDeTexte(int lignes, QWidget *parent) : QPlainTextEdit(parent)
                           [this, lignes] { setFixedHeight(lignes * fontMetrics().lineSpacing() + 2 * (marge + 1)); });
 }
 
+void ZoneDeTexte::nettoyerLeColle(std::function<QString(const QString &)> nettoyage)
+{
+    nettoyage_ = std::move(nettoyage);
+}
+
 // Qt 6.4 does not look whether there is anything to insert: an empty clipboard would end the program.
 void ZoneDeTexte::insertFromMimeData(const QMimeData *contenu)
 {
-    if (canInsertFromMimeData(contenu))
-        QPlainTextEdit::insertFromMimeData(contenu);
+    if (!canInsertFromMimeData(contenu))
+        return;
+    QMimeData colle;
+    colle.setText(contenu->text());
+    QTextCursor debut = textCursor();
+    debut.setPosition(debut.selectionStart());
+    if (nettoyage_ && (debut.atBlockStart() || colle.text().contains(u'\n')))
+        colle.setText(nettoyage_(colle.text()));
+    QPlainTextEdit::insertFromMimeData(&colle);
 }
 
 // The frame holds the scroll bar too, and changes as a whole with the focus.

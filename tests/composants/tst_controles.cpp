@@ -5,9 +5,12 @@
 #include "composants/Defilement.h"
 #include "composants/Feuille.h"
 #include "composants/LecteurDEcran.h"
+#include "composants/ZoneDeTexte.h"
 
 #include <QAbstractItemView>
 #include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
 #include <QLabel>
 #include <QMessageBox>
 #include <QRadioButton>
@@ -118,6 +121,23 @@ private slots:
         QVERIFY(QMessageBox::question(feuille, "Feuille", "Fermer ?") != QMessageBox::Yes);
         QVERIFY(feuille && !feuille->isVisible());
         QTRY_VERIFY(!feuille);
+    }
+
+    // A piece of a line is pasted into another as it is.
+    void leColleEstNettoye()
+    {
+        ZoneDeTexte zone(3);
+        zone.nettoyerLeColle([](const QString &texte) { return texte.simplified(); });
+        const auto coller = [&](const char *texte) {
+            QApplication::clipboard()->setText(texte);
+            zone.paste();
+            return zone.toPlainText();
+        };
+        QCOMPARE(coller("  Ada"), "Ada");
+        QCOMPARE(coller(" Exemple"), "Ada Exemple");
+        QCOMPARE(coller(" et\n Bob"), "Ada Exempleet Bob");
+        QTest::keyClicks(&zone, "  ");
+        QCOMPARE(zone.toPlainText(), "Ada Exempleet Bob  ");
     }
 
     void lAttenteEstBornee()
