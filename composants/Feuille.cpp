@@ -7,12 +7,26 @@
 
 #include <QAbstractEventDispatcher>
 #include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QThread>
 
 #include <algorithm>
 
 namespace Quillet {
+
+namespace {
+
+bool aDuTexte(const QWidget *champ)
+{
+    if (const auto *ligne = qobject_cast<const QLineEdit *>(champ))
+        return !ligne->text().isEmpty();
+    const auto *zone = qobject_cast<const QPlainTextEdit *>(champ);
+    return zone && !zone->document()->isEmpty();
+}
+
+} // namespace
 
 Feuille::Feuille(const QString &titre, QWidget *parent) : QDialog(parent)
 {
@@ -62,6 +76,10 @@ void Feuille::prendreLaTaille(QSize taille)
 // On a button, Return presses it; anywhere else, the sheet's own command.
 void Feuille::keyPressEvent(QKeyEvent *evenement)
 {
+    if (evenement->key() == Qt::Key_Escape && aDuTexte(focusWidget())) {
+        setFocus();
+        return;
+    }
     auto *bouton = qobject_cast<QPushButton *>(focusWidget());
     if (bouton && (evenement->key() == Qt::Key_Return || evenement->key() == Qt::Key_Enter))
         bouton->click();

@@ -4,7 +4,7 @@
 
 namespace Quillet {
 
-// A sheet over the window; Escape closes it.
+// A sheet over the window; Escape closes it, once it has left a field that holds a text.
 class Feuille : public QDialog
 {
     Q_OBJECT

@@ -111,6 +111,8 @@ def ouvrir(programme, vendeur, bouton, titre):
 
 def fermer(programme, vendeur):
     titre = nom(vendeur.racine)
+    if role_de(foyer(vendeur.racine)) == "text":
+        vendeur.touche("Escape")  # leaves what was typed
     vendeur.touche("Escape", "Quillet")
     attendre(lambda: cherche(programme, "dialog", titre) is None, "la feuille reste ouverte")
     vendeur.racine = fenetre(programme, "frame", "Quillet")

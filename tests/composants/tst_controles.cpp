@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QRadioButton>
 #include <QSemaphore>
@@ -121,6 +122,30 @@ private slots:
         QVERIFY(QMessageBox::question(feuille, "Feuille", "Fermer ?") != QMessageBox::Yes);
         QVERIFY(feuille && !feuille->isVisible());
         QTRY_VERIFY(!feuille);
+    }
+
+    // What was typed, pasted or dictated is not lost by one key.
+    void echapQuitteDAbordLeChamp()
+    {
+        const auto coups = [](const char *propose, const char *tape, bool zone) {
+            Feuille feuille("Feuille", nullptr);
+            auto *ligne = new QLineEdit(propose, &feuille);
+            auto *lignes = new ZoneDeTexte(2, &feuille);
+            lignes->setPlainText(propose);
+            QWidget *champ = zone ? static_cast<QWidget *>(lignes) : ligne;
+            feuille.open();
+            champ->setFocus();
+            QTest::keyClicks(champ, tape);
+            int frappes = 0;
+            for (; feuille.isVisible() && frappes < 3; ++frappes)
+                QTest::keyClick(feuille.focusWidget(), Qt::Key_Escape);
+            return frappes;
+        };
+        for (const bool zone : {false, true}) {
+            QCOMPARE(coups("", "Ada", zone), 2);
+            QCOMPARE(coups("2026-001", "", zone), 2);
+            QCOMPARE(coups("", "", zone), 1);
+        }
     }
 
     // A piece of a line is pasted into another as it is.

@@ -81,7 +81,9 @@ private slots:
         lien->paste();
         QCOMPARE(lien->text(), "https://lien.example/8");
 
-        QTest::keyClick(feuille, Qt::Key_Escape);
+        QTest::keyClick(lien, Qt::Key_Escape); // leaves what was typed
+        QCOMPARE(Dialogues::devant(), feuille);
+        QTest::keyClick(feuille->focusWidget(), Qt::Key_Escape);
         QTRY_VERIFY(!Dialogues::devant());
         feuille = banc_->ouvrir(enFrancais);
         QVERIFY(Ecran::montre(feuille, sansLien)); // nothing typed outlives the sheet
