@@ -32,9 +32,17 @@ QString TextesReponse::lienDouteux(const ReponseType &reponse)
     Q_UNREACHABLE();
 }
 
+QString TextesReponse::destinataire(const QString &adresse)
+{
+    if (adresse.trimmed().isEmpty())
+        return {};
+    const QString remise = AdresseMail::dans(adresse);
+    return remise.isEmpty() ? QStringLiteral("—") : remise;
+}
+
 QString TextesReponse::adresseRefusee(const QString &adresse)
 {
-    if (adresse.trimmed().isEmpty() || AdresseMail::estSeule(adresse))
+    if (adresse.trimmed().isEmpty() || !AdresseMail::dans(adresse).isEmpty())
         return {};
     return QStringLiteral("Ce n’est pas une adresse seule : le message s’ouvrira sans destinataire.");
 }

@@ -9,6 +9,9 @@ namespace Quillet::TextesReponse {
 QString lienAbsent(const ReponseType &reponse);
 // That the link pasted may not be the one that the buyer pays by; empty when it looks right, or when there is none.
 QString lienDouteux(const ReponseType &reponse);
+// Who the message is for, given the text typed: the address handed over, a dash when the text gives none, nothing
+// without a text.
+QString destinataire(const QString &adresse);
 // That the text typed cannot be the recipient; empty when it can, or when there is none.
 QString adresseRefusee(const QString &adresse);
 

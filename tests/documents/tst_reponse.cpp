@@ -2,6 +2,7 @@
 #include "documents/ReponseType.h"
 #include "model/Format.h"
 #include "tests/Banc.h"
+#include "tests/Rangees.h"
 
 #include <QTest>
 
@@ -123,16 +124,45 @@ private slots:
 
     void adresses()
     {
-        for (const char *seule :
-             {"ada@exemple.fr", "  ada@exemple.fr\n", "d'ada+livres&co%1=#/?@exemple.fr", "été@exemple.fr"})
-            QVERIFY2(AdresseMail::estSeule(seule), seule);
-        for (const char *refusee :
-             {"", "ada", "@exemple.fr", "ada@", "ada@exemple.fr@ailleurs.fr", "ada@exemple.fr,bob@exemple.fr",
-              "ada@exemple.fr;bob", "Ada <ada@exemple.fr>", "\"ada\"@exemple.fr",
-              "=?utf-8?Q?a=40b.fr=2Cbob?=@exemple.fr", "ada@=?utf-8?Q?b.fr=2Cbob=40c.fr?=", "x:ada(bob)@exemple.fr",
-              "ada\\@exemple.fr", "ada @exemple.fr", "ada@exemple.fr\nBcc: bob", "ada@exemple.fr\u200b",
-              "ada@exemple.fr\u0001"})
-            QVERIFY2(!AdresseMail::estSeule(refusee), refusee);
+        for (const auto &[texte, adresse] : Rangees<const char *>{
+                 {"  ada@exemple.fr\n", "ada@exemple.fr"},
+                 {"d'ada+livres&co%1=#/?@exemple.fr", "d'ada+livres&co%1=#/?@exemple.fr"},
+                 {"été@exemple.fr", "été@exemple.fr"},
+                 {"Ada Exemple <ada@exemple.fr>", "ada@exemple.fr"},
+                 {"\"Exemple, Ada\" <ada@exemple.fr> ", "ada@exemple.fr"},
+                 {"<ada@exemple.fr>", "ada@exemple.fr"},
+                 {"mailto:ada@exemple.fr", "ada@exemple.fr"},
+                 {"MAILTO:ada%2Blivres@exemple.fr?subject=Livres&bcc=bob@exemple.fr", "ada+livres@exemple.fr"},
+                 {"ada@exemple.fr <mailto:ada@exemple.fr>", "ada@exemple.fr"},
+             }) {
+            const Rangee rangee(texte);
+            QCOMPARE(AdresseMail::dans(texte), adresse);
+        }
+        for (const char *refusee : {"",
+                                    "ada",
+                                    "@exemple.fr",
+                                    "ada@",
+                                    "ada@exemple.fr@ailleurs.fr",
+                                    "ada@exemple.fr,bob@exemple.fr",
+                                    "ada@exemple.fr;bob",
+                                    "bob@exemple.fr <ada@exemple.fr>",
+                                    "Bob <bob@exemple.fr>, Ada <ada@exemple.fr>",
+                                    "Ada <ada@exemple.fr> et Bob",
+                                    "Ada <ada>",
+                                    ">ada@exemple.fr<",
+                                    "mailto:ada@exemple.fr,bob@exemple.fr",
+                                    "mailto:ada@exemple.fr%0ABcc:bob@exemple.fr",
+                                    "mailto:?to=ada@exemple.fr",
+                                    "\"ada\"@exemple.fr",
+                                    "=?utf-8?Q?a=40b.fr=2Cbob?=@exemple.fr",
+                                    "ada@=?utf-8?Q?b.fr=2Cbob=40c.fr?=",
+                                    "x:ada(bob)@exemple.fr",
+                                    "ada\\@exemple.fr",
+                                    "ada @exemple.fr",
+                                    "ada@exemple.fr\nBcc: bob",
+                                    "ada@exemple.fr\u200b",
+                                    "ada@exemple.fr\u0001"})
+            QVERIFY2(AdresseMail::dans(refusee).isEmpty(), refusee);
     }
 };
 

@@ -60,6 +60,9 @@ private slots:
         QVERIFY(Ecran::montre(feuille, douteux));
         QVERIFY(Ecran::taper(feuille, champAdresse, "ada@exemple.fr,b@c.fr"));
         QVERIFY(Ecran::montre(feuille, refusee));
+        QVERIFY(message->toPlainText().contains("À : —\n"));
+        QVERIFY(Ecran::taper(feuille, champAdresse, "Ada <ada@exemple.org>"));
+        QVERIFY(message->toPlainText().contains("À : ada@exemple.org\n"));
         QVERIFY(Ecran::taper(feuille, champAdresse, "ada@exemple.fr"));
         QVERIFY(!Ecran::montre(feuille, refusee));
         const QStringList lignes = lisible(message->toPlainText()).split(u'\n');
@@ -124,7 +127,7 @@ private slots:
         banc_->commander("france");
         QDialog *feuille = banc_->ouvrir(enFrancais);
         QVERIFY(Ecran::taper(feuille, champLien, "https://lien.example/7"));
-        QVERIFY(Ecran::taper(feuille, champAdresse, " ada@exemple.fr"));
+        QVERIFY(Ecran::taper(feuille, champAdresse, "Ada <ada@exemple.fr>"));
         QTest::keyClick(Ecran::controle(feuille, champAdresse), Qt::Key_Return);
         const QStringList recus = messagerie_.recus();
         QCOMPARE(recus.size(), 2);

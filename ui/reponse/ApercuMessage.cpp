@@ -20,10 +20,10 @@ ApercuMessage::ApercuMessage(QWidget *parent) : QTextEdit(parent)
     document()->setDocumentMargin(18);
 }
 
-void ApercuMessage::montrer(const ReponseType &reponse, const QString &adresse)
+void ApercuMessage::montrer(const ReponseType &reponse, const QString &destinataire)
 {
     reponse_.emplace(reponse);
-    adresse_ = adresse;
+    destinataire_ = destinataire;
     ecrire();
 }
 
@@ -46,10 +46,10 @@ void ApercuMessage::ecrire()
     QTextCharFormat discret = simple;
     discret.setForeground(Theme::secondaire(palette()));
     constexpr qreal avantLeCorps = 14;
-    ligne(reponse_->sujet(), gras, adresse_.isEmpty() ? avantLeCorps : 4);
-    if (!adresse_.isEmpty()) {
+    ligne(reponse_->sujet(), gras, destinataire_.isEmpty() ? avantLeCorps : 4);
+    if (!destinataire_.isEmpty()) {
         plume.insertBlock();
-        ligne(QStringLiteral("À : %1").arg(adresse_), discret, avantLeCorps);
+        ligne(QStringLiteral("À : %1").arg(destinataire_), discret, avantLeCorps);
     }
     const QString total = reponse_->ligneTotal();
     for (const QString &texte : reponse_->corps().split(u'\n')) {

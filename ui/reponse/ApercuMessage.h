@@ -15,8 +15,8 @@ class ApercuMessage : public QTextEdit
 
 public:
     explicit ApercuMessage(QWidget *parent = nullptr);
-    // No recipient line for an empty address.
-    void montrer(const ReponseType &reponse, const QString &adresse);
+    // No recipient, no line for one.
+    void montrer(const ReponseType &reponse, const QString &destinataire);
 
 protected:
     bool event(QEvent *evenement) override;
@@ -26,7 +26,7 @@ private:
     void ecrire();
 
     std::optional<ReponseType> reponse_;
-    QString adresse_;
+    QString destinataire_;
 };
 
 } // namespace Quillet

@@ -162,7 +162,7 @@ bool Mail::ecrire(const Message &message, QObject *temoin, const std::function<v
     const Programme programme(g_app_info_get_default_for_uri_scheme("mailto"));
     if (!programme)
         return false;
-    const QString destinataire = AdresseMail::estSeule(message.a) ? message.a.trimmed() : QString();
+    const QString destinataire = AdresseMail::dans(message.a);
     const QString titre = surUneLigne(message.sujet);
     if (!estThunderbird(programme.get()))
         ouvrir(programme.get(), mailto(destinataire, titre, message.corps),

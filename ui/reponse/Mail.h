@@ -13,7 +13,7 @@ namespace Quillet::Mail {
 
 struct Message
 {
-    QString a; // handed over only when it is one plain address
+    QString a; // the one plain address that it gives is handed over, or none
     QString sujet;
     QString corps;
     std::optional<QString> enGras; // its first occurrence is bold, where the mail program takes styled text

@@ -128,7 +128,7 @@ void VueReponse::actualiser()
     lienAbsent_->montrer(TextesReponse::lienAbsent(*message));
     lienDouteux_->montrer(TextesReponse::lienDouteux(*message));
     adresseRefusee_->montrer(TextesReponse::adresseRefusee(adresse_->text()));
-    apercu_->montrer(*message, adresse_->text());
+    apercu_->montrer(*message, TextesReponse::destinataire(adresse_->text()));
 }
 
 void VueReponse::passerA(Page page)
