@@ -37,28 +37,31 @@ QString reserve(Age age)
     return {};
 }
 
+Ligne::Etat dernierSucces(const std::optional<QDateTime> &verifie, Age age)
+{
+    if (!verifie)
+        return {.symbole = {}, .texte = QStringLiteral("Pas encore vérifiés depuis l’app")};
+    const bool perime = age == Age::perime;
+    return {.symbole = perime ? QStringLiteral("clock.badge.exclamationmark") : QStringLiteral("checkmark.circle"),
+            .texte = QStringLiteral("Vérifiés le ") + Format::date(verifie->toLocalTime().date()) + reserve(age),
+            .ton = perime ? Ligne::Ton::alerte : Ligne::Ton::neutre};
+}
+
 // Where the check stands; `changement` is what a change reads.
 void direLEtat(Ligne &ligne, const Verifications::Etat &etat, const std::optional<QDateTime> &verifie, Age age,
                const QString &changement)
 {
     ligne.cas = etat.cas;
     if (etat.cas == Cas::enCours) {
-        ligne.etat = QStringLiteral("Mise à jour en cours…");
+        ligne.etat.texte = QStringLiteral("Mise à jour en cours…");
     } else if (etat.cas == Cas::erreur) {
-        ligne.symboleEtat = QStringLiteral("exclamationmark.triangle");
-        ligne.ton = Ligne::Ton::alerte;
-        ligne.etat = etat.message;
+        ligne.etat = {QStringLiteral("exclamationmark.triangle"), etat.message, Ligne::Ton::alerte};
+        if (age == Age::perime)
+            ligne.rappel = dernierSucces(verifie, age);
     } else if (etat.cas == Cas::changement) {
-        ligne.symboleEtat = QStringLiteral("info.circle");
-        ligne.ton = Ligne::Ton::accent;
-        ligne.etat = changement;
-    } else if (!verifie) {
-        ligne.etat = QStringLiteral("Pas encore vérifiés depuis l’app");
+        ligne.etat = {QStringLiteral("info.circle"), changement, Ligne::Ton::accent};
     } else {
-        const bool perime = age == Age::perime;
-        ligne.symboleEtat = perime ? QStringLiteral("clock.badge.exclamationmark") : QStringLiteral("checkmark.circle");
-        ligne.ton = perime ? Ligne::Ton::alerte : Ligne::Ton::neutre;
-        ligne.etat = QStringLiteral("Vérifiés le ") + Format::date(verifie->toLocalTime().date()) + reserve(age);
+        ligne.etat = dernierSucces(verifie, age);
     }
 }
 

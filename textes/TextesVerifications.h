@@ -15,12 +15,19 @@ struct Ligne
 {
     enum class Ton { neutre, accent, alerte };
 
+    // A sentence and its symbol, either may be empty.
+    struct Etat
+    {
+        QString symbole;
+        QString texte;
+        Ton ton = Ton::neutre; // of the symbol
+    };
+
     QString symbole;
     QString titre;
     QString detail;
-    QString symboleEtat; // may be empty
-    QString etat;
-    Ton ton = Ton::neutre; // of the state's symbol
+    Etat etat;
+    Etat rappel; // beside a failure: that the last success is too old
     Verifications::Etat::Cas cas = Verifications::Etat::Cas::inconnu;
     bool trouvaille = false; // there is something to show, be it of an earlier run
     QUrl page;               // the one that was read

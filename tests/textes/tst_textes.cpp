@@ -8,6 +8,7 @@
 #include "textes/TextesRetour.h"
 #include "textes/TextesTarifs.h"
 #include "textes/TextesVerifications.h"
+#include "visite/HorsReseau.h"
 
 using namespace Quillet;
 
@@ -372,10 +373,35 @@ private slots:
             const Verifications verifications(*catalogue, preferences, maintenant, PagesSurveillees{QUrl(), QUrl()});
             const auto ligne = TextesVerifications::laPoste(verifications, catalogue->donnees(), jourDuBanc);
             QCOMPARE(ligne.detail, "en vigueur au 1er janvier 2026, nouvelle grille au 1er avril 2026");
-            QCOMPARE(ligne.symboleEtat, symbole);
-            QCOMPARE(ligne.etat, etat);
+            QCOMPARE(ligne.etat.symbole, symbole);
+            QCOMPARE(ligne.etat.texte, etat);
             QCOMPARE(lisible(TextesVerifications::paypal(verifications, catalogue->donnees()).detail),
                      "2,90 % + 0,35 € ; Royaume-Uni + 1,29 %, autres pays + 1,99 %");
+        }
+    }
+
+    // A failure does not hide how old the last success is.
+    void verificationManquee()
+    {
+        const Banc banc;
+        const auto catalogue = banc.charger();
+        for (const auto &[verifie, symbole, rappel] : Rangees<const char *, const char *>{
+                 {"2026-03-01T12:00:00Z", "", ""},
+                 {"2025-11-03T12:00:00Z", "clock.badge.exclamationmark", "Vérifiés le 3 novembre 2025 : à revérifier"},
+                 {"", "", "Pas encore vérifiés depuis l’app"},
+             }) {
+            const Rangee rangee(verifie);
+            Preferences preferences = banc.preferences();
+            preferences.ecrire("verification.laPoste", verifie);
+            const auto maintenant = [] { return QDateTime(jourDuBanc, QTime(10, 0)); };
+            Verifications verifications(*catalogue, preferences, maintenant, horsReseau());
+            verifications.verifierLaPoste();
+            QTRY_COMPARE(verifications.etatLaPoste().cas, Verifications::Etat::Cas::erreur);
+            const auto ligne = TextesVerifications::laPoste(verifications, catalogue->donnees(), jourDuBanc);
+            QCOMPARE(ligne.etat.symbole, "exclamationmark.triangle");
+            QCOMPARE(ligne.etat.texte, verifications.etatLaPoste().message);
+            QCOMPARE(ligne.rappel.symbole, symbole);
+            QCOMPARE(ligne.rappel.texte, rappel);
         }
     }
 

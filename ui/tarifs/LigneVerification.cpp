@@ -34,6 +34,7 @@ LigneVerification::LigneVerification(const QString &nom, QWidget *parent)
       titre_(new Libelle({})),
       detail_(new Libelle({}, Libelle::Rang::secondaire)),
       etat_(new Libelle({})),
+      rappel_(new Libelle({})),
       progres_(new QProgressBar),
       changements_(new QPushButton(QStringLiteral("Voir les changements"))),
       page_(new QPushButton(Icone::icone(QStringLiteral("arrow.up.forward.app")), QStringLiteral("Ouvrir la page"))),
@@ -42,8 +43,10 @@ LigneVerification::LigneVerification(const QString &nom, QWidget *parent)
     titre_->setFont(Theme::enGras(font()));
     detail_->setFont(Theme::encadre());
     detail_->setWordWrap(true);
-    etat_->setFont(Theme::encadre());
-    etat_->setWordWrap(true);
+    for (Libelle *libelle : {etat_, rappel_}) {
+        libelle->setFont(Theme::encadre());
+        libelle->setWordWrap(true);
+    }
     progres_->setRange(0, 0);
     progres_->setTextVisible(false);
     progres_->setFixedSize(72, 5);
@@ -53,7 +56,7 @@ LigneVerification::LigneVerification(const QString &nom, QWidget *parent)
     changements_->setDefault(true); // filled: it is what the line asks for
 
     QBoxLayout *situation = Pile::rangee({}, {{etat_, 1}, {progres_, 0, Qt::AlignVCenter}});
-    QBoxLayout *textes = Pile::colonne({.espace = 3}, {titre_, detail_, situation});
+    QBoxLayout *textes = Pile::colonne({.espace = 3}, {titre_, detail_, situation, rappel_});
     auto *rangee = new QHBoxLayout(this);
     rangee->setSpacing(8);
     auto *place = new QSpacerItem(0, 0);
@@ -65,7 +68,7 @@ LigneVerification::LigneVerification(const QString &nom, QWidget *parent)
     TailleDuTexte::suivre(this, [this, place, rangee] {
         place->changeSize(coteSymbole() + espace, 0, QSizePolicy::Fixed);
         rangee->invalidate();
-        placerLEtat();
+        placerLesEtats();
     });
     connect(changements_, &QPushButton::clicked, this, &LigneVerification::changementsDemandes);
     connect(verifier_, &QPushButton::clicked, this, &LigneVerification::verificationDemandee);
@@ -77,9 +80,12 @@ void LigneVerification::montrer(const TextesVerifications::Ligne &ligne)
     ligne_ = ligne;
     titre_->setText(ligne.titre);
     detail_->setText(ligne.detail);
-    etat_->setText(ligne.etat);
-    verifier_->setAccessibleDescription(ligne.etat); // heard by who has just pressed it
-    placerLEtat();
+    etat_->setText(ligne.etat.texte);
+    rappel_->setText(ligne.rappel.texte);
+    rappel_->setVisible(!ligne.rappel.texte.isEmpty());
+    // Heard by who has just pressed it.
+    verifier_->setAccessibleDescription((ligne.etat.texte + u'\n' + ligne.rappel.texte).trimmed());
+    placerLesEtats();
     // The button stays enabled while the check runs: it would lose the focus to a neighbour.
     progres_->setVisible(ligne.cas == Verifications::Etat::Cas::enCours);
     page_->setVisible(ligne.cas == Verifications::Etat::Cas::erreur);
@@ -88,9 +94,13 @@ void LigneVerification::montrer(const TextesVerifications::Ligne &ligne)
 }
 
 // No symbol, no room for one.
-void LigneVerification::placerLEtat()
+void LigneVerification::placerLesEtats()
 {
-    etat_->setContentsMargins(ligne_.symboleEtat.isEmpty() ? 0 : coteEtat() + 6, 0, 0, 0);
+    const auto placer = [](Libelle *libelle, const TextesVerifications::Ligne::Etat &etat) {
+        libelle->setContentsMargins(etat.symbole.isEmpty() ? 0 : coteEtat() + 6, 0, 0, 0);
+    };
+    placer(etat_, ligne_.etat);
+    placer(rappel_, ligne_.rappel);
 }
 
 void LigneVerification::paintEvent(QPaintEvent *)
@@ -98,13 +108,21 @@ void LigneVerification::paintEvent(QPaintEvent *)
     QPainter peintre(this);
     Icone::peindre(peintre, ligne_.symbole, QRectF(0, titre_->y(), coteSymbole(), coteSymbole()),
                    Theme::secondaire(palette()));
-    if (ligne_.symboleEtat.isEmpty())
+    peindreLEtat(peintre, etat_, ligne_.etat);
+    peindreLEtat(peintre, rappel_, ligne_.rappel);
+}
+
+void LigneVerification::peindreLEtat(QPainter &peintre, const Libelle *libelle,
+                                     const TextesVerifications::Ligne::Etat &etat) const
+{
+    using Ton = TextesVerifications::Ligne::Ton;
+    if (etat.symbole.isEmpty())
         return;
-    const QColor couleur = ligne_.ton == TextesVerifications::Ligne::Ton::alerte   ? Theme::orange(palette())
-                           : ligne_.ton == TextesVerifications::Ligne::Ton::accent ? Theme::accentTexte(palette())
-                                                                                   : Theme::secondaire(palette());
-    const int haut = etat_->y() + (etat_->fontMetrics().height() - coteEtat()) / 2;
-    Icone::peindre(peintre, ligne_.symboleEtat, QRectF(etat_->x(), haut, coteEtat(), coteEtat()), couleur);
+    const QColor couleur = etat.ton == Ton::alerte   ? Theme::orange(palette())
+                           : etat.ton == Ton::accent ? Theme::accentTexte(palette())
+                                                     : Theme::secondaire(palette());
+    const int haut = libelle->y() + (libelle->fontMetrics().height() - coteEtat()) / 2;
+    Icone::peindre(peintre, etat.symbole, QRectF(libelle->x(), haut, coteEtat(), coteEtat()), couleur);
 }
 
 } // namespace Quillet

@@ -29,12 +29,14 @@ protected:
     void paintEvent(QPaintEvent *evenement) override;
 
 private:
-    void placerLEtat();
+    void placerLesEtats();
+    void peindreLEtat(QPainter &peintre, const Libelle *libelle, const TextesVerifications::Ligne::Etat &etat) const;
 
     TextesVerifications::Ligne ligne_;
     Libelle *titre_;
     Libelle *detail_;
     Libelle *etat_;
+    Libelle *rappel_;
     QProgressBar *progres_;
     QPushButton *changements_;
     QPushButton *page_;
