@@ -93,14 +93,11 @@ void LigneVerification::montrer(const TextesVerifications::Ligne &ligne)
     update();
 }
 
-// No symbol, no room for one.
+// No symbol, no room for one; what stands under the state lines up with it.
 void LigneVerification::placerLesEtats()
 {
-    const auto placer = [](Libelle *libelle, const TextesVerifications::Ligne::Etat &etat) {
-        libelle->setContentsMargins(etat.symbole.isEmpty() ? 0 : coteEtat() + 6, 0, 0, 0);
-    };
-    placer(etat_, ligne_.etat);
-    placer(rappel_, ligne_.rappel);
+    for (Libelle *libelle : {etat_, rappel_})
+        libelle->setContentsMargins(ligne_.etat.symbole.isEmpty() ? 0 : coteEtat() + 6, 0, 0, 0);
 }
 
 void LigneVerification::paintEvent(QPaintEvent *)
