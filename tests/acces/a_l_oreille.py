@@ -83,9 +83,8 @@ def commander(vendeur, compte):
     with compte.etape("Deux titres, l’un en deux exemplaires"):
         vendeur.aller("push button", "Le Phare de sel")
         vendeur.touche("space", "1 livre · 395 g, total à payer : 25,59 €")
-        vendeur.aller("push button", "Ajouter un exemplaire")
-        vendeur.touche("space", "2 livres · 750 g, total à payer : ")
-        vendeur.aller("push button", "L’Herbier des heures")
+        vendeur.touche("plus", "2 dans la commande", "2 livres · 750 g, total à payer : ")
+        vendeur.aller("push button", "L’Herbier des heures", "Right")
         vendeur.touche("space", "3 livres · 972 g, total à payer : ")
     with compte.etape("La destination, aux flèches"):
         liste = vendeur.aller("combo box", "Envoi vers")

@@ -57,15 +57,18 @@ def commander(quillet, compte):
     with compte.etape("Deux couvertures pressées à la barre d’espace"):
         aller(quillet, "push button", "Le Phare de sel")
         touche("space", "space")
-        aller(quillet, "push button", "L’Herbier des heures")
+        taper("herb")
+        attendre_le_foyer(quillet, "push button", "L’Herbier des heures")
         touche("space")
         attendre(lambda: montre(quillet, "3 livres · 972 g"), "le sous-titre ne suit pas")
-    with compte.etape("+ et − du sélecteur"):
-        aller(quillet, "push button", "Ajouter un exemplaire")
-        touche("space")
+    with compte.etape("+, − et un chiffre sur la couverture"):
+        touche("plus")
         attendre(lambda: montre(quillet, "4 livres · 1 194 g"), "+ n’ajoute pas")
-        aller(quillet, "push button", "Retirer un exemplaire", "shift+Tab")
-        touche("space")
+        touche("minus")
+        attendre(lambda: montre(quillet, "3 livres · 972 g"), "− ne retire pas")
+        touche("2")
+        attendre(lambda: montre(quillet, "4 livres · 1 194 g"), "le chiffre ne compte pas")
+        touche("minus")
         attendre(lambda: montre(quillet, "3 livres · 972 g"), "− ne retire pas")
     with compte.etape("Poids et destination"):
         aller(quillet, "text", "Colis pesé, en grammes")

@@ -2,6 +2,7 @@
 
 #include "composants/Chiffres.h"
 #include "composants/Dessin.h"
+#include "composants/LecteurDEcran.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
 #include "model/Commande.h"
@@ -77,10 +78,15 @@ int peindreEpuise(QPainter &peintre, const QRect &ligne, const QPalette &palette
                               .fond = Theme::remplissage(palette)});
 }
 
+QString dansLaCommande(int quantite)
+{
+    return QStringLiteral("%1 dans la commande").arg(quantite);
+}
+
 QString enMots(const Livre &livre, int quantite)
 {
     const QString mots = TextesLivres::enMots(livre);
-    return quantite > 0 ? QStringLiteral("%1, %2 dans la commande").arg(mots, QString::number(quantite)) : mots;
+    return quantite > 0 ? QStringLiteral("%1, %2").arg(mots, dansLaCommande(quantite)) : mots;
 }
 
 } // namespace
@@ -91,7 +97,10 @@ CarteLivre::CarteLivre(const Livre &livre, Commande &commande, ImagesCouvertures
       couverture_(new Couverture(livre, images, this)),
       selecteur_(new SelecteurQuantite(livre, commande, this))
 {
-    connect(couverture_, &QAbstractButton::clicked, this, [this, &commande] { commande.ajuster(livre_, 1); });
+    connect(couverture_, &QAbstractButton::clicked, this, [this, &commande] {
+        if (livre_.disponible)
+            commande.ajuster(livre_, 1);
+    });
     montrer(livre, commande.bon().quantite(livre));
     TailleDuTexte::suivre(this, [this] { placer(); });
 }
@@ -100,10 +109,11 @@ void CarteLivre::montrer(const Livre &livre, int quantite)
 {
     if (quantite == quantite_ && livre == livre_)
         return; // most cards, at most changes
+    if (quantite != quantite_ && couverture_->hasFocus())
+        LecteurDEcran::annoncer(couverture_, dansLaCommande(quantite));
     livre_ = livre;
     quantite_ = quantite;
     couverture_->montrer(livre, quantite);
-    couverture_->setEnabled(livre.disponible);
     couverture_->setAccessibleName(enMots(livre, quantite));
     setToolTip(livre.titreComplet);
     selecteur_->montrer(quantite);

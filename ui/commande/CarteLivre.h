@@ -21,6 +21,7 @@ public:
 
     [[nodiscard]] const Livre &livre() const { return livre_; }
     void montrer(const Livre &livre, int quantite);
+    [[nodiscard]] Couverture *couverture() const { return couverture_; }
     // Puts the card's controls behind `precedent` in the order of the Tab key; gives the last of them.
     QWidget *placerApres(QWidget *precedent);
 

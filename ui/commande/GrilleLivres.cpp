@@ -2,6 +2,7 @@
 
 #include "model/Commande.h"
 #include "ui/commande/CarteLivre.h"
+#include "ui/commande/ClavierDeLaGrille.h"
 #include "ui/commande/Couverture.h"
 #include "ui/commande/TransitionCartes.h"
 
@@ -42,7 +43,11 @@ Disposition disposition(int place)
 } // namespace
 
 GrilleLivres::GrilleLivres(Commande &commande, ImagesCouvertures &images, QWidget *precedent, QWidget *parent)
-    : QWidget(parent), commande_(commande), images_(images), precedent_(precedent)
+    : QWidget(parent),
+      commande_(commande),
+      images_(images),
+      precedent_(precedent),
+      clavier_(new ClavierDeLaGrille(commande, this))
 {
     QSizePolicy politique(QSizePolicy::Expanding, QSizePolicy::Preferred);
     politique.setHeightForWidth(true);
@@ -98,6 +103,7 @@ void GrilleLivres::remplacerLesCartes(const QList<Livre> &livres)
 {
     TransitionCartes::arreter(this); // cards that it covers cannot be taken into a picture
     const auto sortantes = TransitionCartes::instantanes(cartes_);
+    clavier_->suivre({}); // a card that goes hands the focus to the next
     qDeleteAll(cartes_);
     cartes_.clear();
     for (const Livre &livre : livres)
@@ -109,9 +115,15 @@ void GrilleLivres::remplacerLesCartes(const QList<Livre> &livres)
         carte->show();
         precedent = carte->placerApres(precedent);
     }
+    clavier_->suivre(cartes_);
     suivreLePointeur();
     if (!sortantes.isEmpty())
         TransitionCartes::jouer(sortantes, TransitionCartes::instantanes(cartes_), images_, this);
+}
+
+QWidget *GrilleLivres::arret() const
+{
+    return clavier_->arret();
 }
 
 void GrilleLivres::suivreLePointeur()

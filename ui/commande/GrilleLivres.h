@@ -11,6 +11,7 @@
 namespace Quillet {
 
 class CarteLivre;
+class ClavierDeLaGrille;
 class Commande;
 class ImagesCouvertures;
 
@@ -25,6 +26,9 @@ public:
 
     // Cards of other books enter and leave with a fade; the same books are only brought up to date.
     void montrer(const QList<Livre> &livres);
+
+    // The cover where the keyboard was last, or the first; null when there is none.
+    [[nodiscard]] QWidget *arret() const;
 
     // Lifts the cover that the pointer is over, and no other. Called when the cards have moved under it.
     void suivreLePointeur();
@@ -51,6 +55,7 @@ private:
     ImagesCouvertures &images_;
     QWidget *precedent_;
     QList<CarteLivre *> cartes_;
+    ClavierDeLaGrille *clavier_;
     std::optional<QPointF> pointeur_; // on the screen; none when it is not over the window
 };
 

@@ -52,6 +52,7 @@ public:
         setAccessibleName(nom);
         setToolTip(nom);
         setAutoRepeat(true);
+        setFocusPolicy(Qt::NoFocus); // their keys are on the cover
     }
 
 protected:
@@ -65,8 +66,6 @@ protected:
         const double cote = coteSymbole();
         Icone::peindre(peintre, symbole_, QRectF((width() - cote) / 2, (height() - cote) / 2, cote, cote),
                        Dessin::transparente(couleur, isEnabled() ? 1 : 0.35));
-        if (Dessin::focusVisible(this))
-            Dessin::anneauDeFocus(peintre, rect(), coteBouton() / 2.0, couleur);
     }
 
     void enterEvent(QEnterEvent *) override { update(); }
@@ -117,20 +116,15 @@ void SelecteurQuantite::montrer(int quantite)
     nombre_->afficher(QString::number(quantite), quantite > quantite_ ? 1 : -1);
     quantite_ = quantite;
     decrire();
-    if (quantite == 0 && moins_->hasFocus())
-        setFocus(); // else Qt hands the focus to plus, and one key too many adds the copy back
     moins_->setEnabled(quantite > 0);
     plein_->vers(quantite > 0 ? 1 : 0);
 }
 
-// All cards have the same buttons: a screen reader hears whose they are from the group, then the number. The group says
-// the number only where it may have the focus, at 0: Orca 48 would say it again at each copy.
+// All cards have the same buttons: a screen reader hears whose they are from the group, then the number.
 void SelecteurQuantite::decrire()
 {
-    const QString etat = QStringLiteral("%1 dans la commande").arg(quantite_);
-    setAccessibleDescription(quantite_ == 0 ? etat : QString());
     for (QWidget *partie : {moins_, plus_})
-        partie->setAccessibleDescription(etat);
+        partie->setAccessibleDescription(QStringLiteral("%1 dans la commande").arg(quantite_));
 }
 
 void SelecteurQuantite::colorer()
@@ -158,8 +152,6 @@ void SelecteurQuantite::paintEvent(QPaintEvent *)
     peintre.setRenderHint(QPainter::Antialiasing);
     const QRectF capsule = QRectF(rect()).adjusted(ombre, 0, -ombre, -ombre);
     const double rayon = capsule.height() / 2;
-    if (Dessin::focusVisible(this))
-        Dessin::anneauDeFocus(peintre, capsule, rayon, Theme::accentTexte(palette()));
     const double plein = std::clamp(plein_->valeur(), 0.0, 1.0);
     if (plein <= 0)
         return;
