@@ -385,11 +385,10 @@ private slots:
         }
         QCOMPARE(quantite(1), 1);
         qsizetype precedent = -1;
-        for (const char *nom :
-             {"Tout réinitialiser", "davrel.example", "Livre 1", "Emballage", "Colis pesé", "Envoi vers", "Français",
-              "Créer le lien dans PayPal", "Pays de livraison", "Copier Prix", "Copier URL de redirection",
-              "Copier le suivant", "Facture", "E-mail en français", "Étape suivante : Créer le lien dans PayPal",
-              "Rubriques"}) {
+        for (const char *nom : {"Tout réinitialiser", "davrel.example", "Livre 1", "Emballage", "Colis pesé",
+                                "Envoi vers", "Français", "Créer le lien dans PayPal", "Pays de livraison",
+                                "Copier Prix", "Copier URL de redirection", "Copier le suivant", "Facture",
+                                "E-mail en français", "Étape suivante : Créer le lien dans PayPal", "Rubriques"}) {
             const qsizetype rang = atteints.indexOf(nom, precedent + 1);
             QVERIFY2(rang > precedent,
                      qPrintable(QString::fromUtf8(nom) + QStringLiteral(" / ") + atteints.join(u'|')));
