@@ -73,4 +73,14 @@ void DessinBouton::contenu(QPainter &peintre, const QStyleOptionButton &option, 
         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextHideMnemonic, option.text);
 }
 
+void DessinBouton::outil(QPainter &peintre, const QStyleOption &option)
+{
+    const bool survol = contient(option, QStyle::State_MouseOver) && contient(option, QStyle::State_Enabled);
+    const bool enfonce = contient(option, QStyle::State_Sunken);
+    const QRectF cadre = QRectF(option.rect).adjusted(3, 3, -3, -3);
+    if (survol || enfonce)
+        Dessin::aplat(peintre, cadre, Theme::rayonControle,
+                      Dessin::transparente(option.palette.color(QPalette::WindowText), enfonce ? 0.14 : 0.07));
+}
+
 } // namespace Quillet

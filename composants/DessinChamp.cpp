@@ -41,4 +41,12 @@ void DessinChamp::chevrons(QPainter &peintre, const QRectF &place, const QPalett
     Icone::peindre(peintre, QStringLiteral("chevron.up.chevron.down"), dessin, Theme::secondaire(palette));
 }
 
+void DessinChamp::texteChoisi(QPainter &peintre, const QStyleOptionComboBox &option, const QRect &place)
+{
+    const auto groupe = option.state.testFlag(QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled;
+    peintre.setPen(option.palette.color(groupe, QPalette::ButtonText));
+    peintre.drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
+                     option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, place.width()));
+}
+
 } // namespace Quillet

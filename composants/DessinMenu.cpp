@@ -55,6 +55,13 @@ QRectF carre(const QPointF &centre, qreal cote)
     return {centre - QPointF(cote, cote) / 2, QSizeF(cote, cote)};
 }
 
+// On what comes up over other cards a hairline alone would be lost.
+QColor trait(const QPalette &palette)
+{
+    const bool renforce = Theme::contraste(palette) == Theme::Contraste::renforce;
+    return Dessin::melange(Theme::filet(palette), Theme::secondaire(palette), renforce ? 0 : 0.35);
+}
+
 bool transparente(const QWidget *widget)
 {
     return widget && widget->window()->testAttribute(Qt::WA_TranslucentBackground);
@@ -65,11 +72,8 @@ bool transparente(const QWidget *widget)
 void DessinMenu::panneau(QPainter &peintre, const QStyleOption &option, const QWidget *widget)
 {
     const QPalette &palette = option.palette;
-    const bool renforce = Theme::contraste(palette) == Theme::Contraste::renforce;
-    // Over other cards a hairline alone would be lost.
-    const QColor contour = Dessin::melange(Theme::filet(palette), Theme::secondaire(palette), renforce ? 0 : 0.35);
     Dessin::encadre(peintre, option.rect, transparente(widget) ? Theme::rayonGroupe : 0, Theme::surgissant(palette),
-                    contour);
+                    trait(palette));
 }
 
 void DessinMenu::entree(QPainter &peintre, const QStyleOptionMenuItem &option)
@@ -77,7 +81,8 @@ void DessinMenu::entree(QPainter &peintre, const QStyleOptionMenuItem &option)
     const QPalette &palette = option.palette;
     const QRect cadre = option.rect.adjusted(bord, 0, -bord, 0);
     if (option.menuItemType == QStyleOptionMenuItem::Separator) {
-        Dessin::filet(peintre, QPoint(cadre.left() + marge, cadre.center().y()), cadre.width() - 2 * marge, palette);
+        const QRectF ligne(cadre.left() + marge, cadre.center().y(), cadre.width() - 2 * marge, Dessin::trait(peintre));
+        peintre.fillRect(Dessin::surLesPixels(peintre, ligne), trait(palette));
         return;
     }
     const bool actif = option.state.testFlag(QStyle::State_Enabled);

@@ -11,6 +11,7 @@
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
@@ -34,22 +35,13 @@ bool contient(const QStyleOption &option, QStyle::StateFlag etat)
     return option.state.testFlag(etat);
 }
 
-void texteDuChoix(const QStyleOptionComboBox &option, QPainter &peintre, const QRect &place)
+// Of a group, where Fusion leaves its card.
+QRect sousLeTitre(const QStyleOption &option, const QWidget *widget)
 {
-    const auto groupe = contient(option, QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled;
-    peintre.setPen(option.palette.color(groupe, QPalette::ButtonText));
-    peintre.drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
-                     option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, place.width()));
-}
-
-void fondDOutil(const QStyleOption &option, QPainter &peintre)
-{
-    const bool survol = contient(option, QStyle::State_MouseOver) && contient(option, QStyle::State_Enabled);
-    const bool enfonce = contient(option, QStyle::State_Sunken);
-    const QRectF cadre = QRectF(option.rect).adjusted(3, 3, -3, -3);
-    if (survol || enfonce)
-        Dessin::aplat(peintre, cadre, Theme::rayonControle,
-                      Dessin::transparente(option.palette.color(QPalette::WindowText), enfonce ? 0.14 : 0.07));
+    constexpr int espace = 3;
+    const auto *groupe = qobject_cast<const QGroupBox *>(widget);
+    const bool titre = groupe && !groupe->title().isEmpty();
+    return option.rect.adjusted(0, titre ? option.fontMetrics.height() + espace : 0, 0, 0);
 }
 
 } // namespace
@@ -100,6 +92,9 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
     case PE_FrameLineEdit:
     case PE_FrameMenu:
         break;
+    case PE_FrameGroupBox:
+        Dessin::carte(*peintre, sousLeTitre(*option, widget), option->palette);
+        break;
     case PE_PanelMenu:
         DessinMenu::panneau(*peintre, *option, widget);
         break;
@@ -107,7 +102,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
         DessinMenu::bulle(*peintre, *option, widget);
         break;
     case PE_PanelButtonTool:
-        fondDOutil(*option, *peintre);
+        DessinBouton::outil(*peintre, *option);
         break;
     case PE_FrameFocusRect:
         // Each control draws its own ring, but a flat tool button is not even asked for its panel.
@@ -146,7 +141,7 @@ bool Style::peindre(ControlElement element, const QStyleOption &option, QPainter
         return bouton;
     case CE_ComboBoxLabel:
         if (choix)
-            texteDuChoix(*choix, peintre, subControlRect(CC_ComboBox, choix, SC_ComboBoxEditField, widget));
+            DessinChamp::texteChoisi(peintre, *choix, subControlRect(CC_ComboBox, choix, SC_ComboBoxEditField, widget));
         return choix;
     case CE_Splitter:
         peintre.fillRect(option.rect, Theme::filet(option.palette));
