@@ -85,13 +85,17 @@ void Groupe::paintEvent(QPaintEvent *)
     }
 }
 
-Section::Section(const QString &titre, const QString &pied, QWidget *parent) : QWidget(parent), groupe_(new Groupe)
+Section::Section(const QString &titre, const QString &pied, QWidget *parent)
+    : QWidget(parent), titre_(titre), precision_(new Libelle({}, Libelle::Rang::secondaire)), groupe_(new Groupe)
 {
     LecteurDEcran::jouer(this, QAccessible::Grouping);
     auto *tete = new Libelle(titre);
     tete->setFont(Theme::titreCarte());
     tete->setContentsMargins(2, 0, 2, 0);
-    QBoxLayout *colonne = Pile::colonne(this, {.espace = 6}, {tete, groupe_});
+    precision_->setFont(Theme::encadre());
+    precision_->hide();
+    QBoxLayout *titres = Pile::rangee({.espace = 8}, {tete, {precision_, 0, Qt::AlignVCenter}, Pile::reste()});
+    QBoxLayout *colonne = Pile::colonne(this, {.espace = 6}, {titres, groupe_});
     if (!pied.isEmpty()) {
         Libelle *note = Libelle::note(pied);
         note->setContentsMargins(margeHorizontale, 0, margeHorizontale, 0);
@@ -99,6 +103,13 @@ Section::Section(const QString &titre, const QString &pied, QWidget *parent) : Q
         colonne->addWidget(note);
     }
     setAccessibleName(titre);
+}
+
+void Section::setPrecision(const QString &precision)
+{
+    precision_->setText(precision);
+    precision_->show();
+    setAccessibleName(QStringLiteral("%1, %2").arg(titre_, precision));
 }
 
 Rangee::Rangee(const QString &libelle, QWidget *valeur, QWidget *parent)

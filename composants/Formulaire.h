@@ -34,9 +34,13 @@ class Section : public QWidget
 
 public:
     explicit Section(const QString &titre, const QString &pied = {}, QWidget *parent = nullptr);
+    // Beside the title, of second rank.
+    void setPrecision(const QString &precision);
     [[nodiscard]] Groupe *groupe() const { return groupe_; }
 
 private:
+    QString titre_;
+    Libelle *precision_;
     Groupe *groupe_;
 };
 

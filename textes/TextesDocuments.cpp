@@ -14,37 +14,53 @@ namespace {
 using TextesDocuments::Champ;
 using TextesDocuments::Rubrique;
 
+Champ texte(const QString &titre, const QString &valeur)
+{
+    return {.titre = titre, .valeur = valeur};
+}
+
 Champ montant(const QString &titre, Centimes valeur)
 {
-    return {titre, Format::montant(valeur), Format::euros(valeur)};
+    return {.titre = titre, .valeur = Format::montant(valeur), .affichage = Format::euros(valeur)};
+}
+
+Champ poids(const QString &titre, Grammes valeur, bool connu, const QString &alerte)
+{
+    const bool sur = connu && valeur > Grammes{};
+    return {.titre = titre, .valeur = Format::kilos(valeur), .alerte = sur ? QString() : alerte};
 }
 
 Rubrique envoi(const Calcul &calcul)
 {
-    Rubrique envoi{QStringLiteral("Envoi"),
-                   {{QStringLiteral("Nature de l’envoi"), QStringLiteral("Vente de marchandises"), {}}}};
+    Rubrique envoi{.titre = QStringLiteral("Envoi"),
+                   .champs = {texte(QStringLiteral("Nature de l’envoi"), QStringLiteral("Vente de marchandises"))}};
     if (calcul.envoi)
         envoi.champs.append(montant(QStringLiteral("Frais de port"), *calcul.envoi));
-    envoi.champs.append({QStringLiteral("Poids brut du colis (kg)"), Format::kilos(calcul.poidsRetenu), {}});
+    envoi.champs.append(poids(QStringLiteral("Poids brut du colis (kg)"), calcul.poidsRetenu, calcul.poidsConnu(),
+                              QStringLiteral("Le poids du colis n’est pas encore connu : pesez-le, et tapez son poids "
+                                             "dans la commande.")));
     envoi.champs.append(montant(QStringLiteral("Valeur totale"), calcul.sousTotal));
     return envoi;
 }
 
 Rubrique article(int numero, const ArticleDouane &article)
 {
-    return {QStringLiteral("Article %1").arg(numero),
-            {{QStringLiteral("Description"), article.description, {}},
-             {QStringLiteral("Poids net unitaire (kg)"), Format::kilos(article.poidsUnitaire), {}},
-             montant(QStringLiteral("Valeur unitaire"), article.valeurUnitaire),
-             {QStringLiteral("Pays d’origine"), article.origine, {}},
-             {QStringLiteral("N° tarifaire (SH)"), article.codeSH, {}}}};
+    return {.titre = QStringLiteral("Article %1").arg(numero),
+            .precision = QStringLiteral("%1 exemplaire%2")
+                             .arg(QString::number(article.quantite), QLatin1String(article.quantite > 1 ? "s" : "")),
+            .champs = {texte(QStringLiteral("Description"), article.description),
+                       poids(QStringLiteral("Poids net unitaire (kg)"), article.poidsUnitaire, true,
+                             QStringLiteral("Ce livre n’a pas encore été pesé : déclarez son vrai poids.")),
+                       montant(QStringLiteral("Valeur unitaire"), article.valeurUnitaire),
+                       texte(QStringLiteral("Pays d’origine"), article.origine),
+                       texte(QStringLiteral("N° tarifaire (SH)"), article.codeSH)}};
 }
 
 Rubrique expediteur(const IdentiteVendeur &vendeur)
 {
-    Rubrique expediteur{QStringLiteral("Expéditeur"), {}};
+    Rubrique expediteur{.titre = QStringLiteral("Expéditeur")};
     for (const QString &ligne : vendeur.adresse)
-        expediteur.champs.append({expediteur.champs.isEmpty() ? QStringLiteral("Adresse") : QString(), ligne, {}});
+        expediteur.champs.append(texte(expediteur.champs.isEmpty() ? QStringLiteral("Adresse") : QString(), ligne));
     return expediteur;
 }
 

@@ -17,6 +17,7 @@ struct Champ
     QString titre; // none for an address that goes on
     QString valeur;
     QString affichage; // in place of the value, where it is not empty
+    QString alerte;    // why it may not be right; mostly empty
 
     bool operator==(const Champ &) const = default;
 };
@@ -24,6 +25,7 @@ struct Champ
 struct Rubrique
 {
     QString titre;
+    QString precision; // beside the title; may be empty
     QList<Champ> champs;
 
     bool operator==(const Rubrique &) const = default;

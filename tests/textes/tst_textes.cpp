@@ -405,6 +405,30 @@ private slots:
         }
     }
 
+    // No weight of zero, nor one that a book is missing from, goes without a word.
+    void poidsDeclares()
+    {
+        for (const auto &[nom, pese, livre, averti] : Rangees<int, int, const char *>{
+                 // weighed parcel, in grams; the book's number; titles of what is warned of
+                 {"livre pesé", 0, 1, ""},
+                 {"livre à peser", 0, 2, "Poids brut du colis (kg) Poids net unitaire (kg) "},
+                 {"livre à peser, colis pesé", 500, 2, "Poids net unitaire (kg) "},
+             }) {
+            const Rangee rangee(nom);
+            Cas cas;
+            cas.bon.codeDestination = vers("suisse");
+            cas.bon.ajuster(cas.banc.livres[livre - 1], 1);
+            if (pese)
+                cas.bon.poidsPese = Grammes{pese};
+            QString titres;
+            for (const auto &rubrique : TextesDocuments::declaration(cas.calcul(), cas.banc.reglages))
+                for (const auto &champ : rubrique.champs)
+                    if (!champ.alerte.isEmpty())
+                        titres += champ.titre + u' ';
+            QCOMPARE(titres, averti);
+        }
+    }
+
     void ecarts()
     {
         const TarifsColissimo tarifs = desTarifs("2026-04-01", Centimes{600});

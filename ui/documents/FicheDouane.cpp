@@ -68,10 +68,14 @@ QWidget *FicheDouane::page(const QString &manque)
     QBoxLayout *colonne = Pile::colonne(page, {.marges = {20, 20, 20, 24}, .espace = 22}, {instructions()});
     for (const TextesDocuments::Rubrique &rubrique : montrees_) {
         auto *section = new Formulaire::Section(rubrique.titre);
+        if (!rubrique.precision.isEmpty())
+            section->setPrecision(rubrique.precision);
         for (const TextesDocuments::Champ &champ : rubrique.champs) {
             auto *rangee = new ChampACopier(champ.titre, colonneDesTitres);
             rangee->montrer(champ.valeur, champ.affichage);
             section->groupe()->ajouter(rangee);
+            if (!champ.alerte.isEmpty())
+                section->groupe()->ajouter(new Alerte(champ.alerte));
         }
         colonne->addWidget(section);
     }
