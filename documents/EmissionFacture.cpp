@@ -5,7 +5,7 @@ namespace Quillet {
 QString EmissionFacture::numeroPour(const QString &champ, Vendeur vendeur, QDate jour)
 {
     const bool aJour = NumerotationFactures::rapport(champ, jour) == NumerotationFactures::Rapport::dansLaSerie;
-    if (champ != propose_ || (aJour && champ == parti_))
+    if (champ != propose_ || (aJour && champ == memoire_.partie()))
         return champ;
     try {
         propose_ = numerotation_.prochain(vendeur, jour);
@@ -23,13 +23,17 @@ void EmissionFacture::noter(const QString &champ)
         propose_.reset();
 }
 
-QString EmissionFacture::dernierAvant(const QString &numero, Vendeur vendeur) const
+PlaceDuNumero EmissionFacture::place(const QString &numero, Vendeur vendeur, QDate jour) const
 {
+    PlaceDuNumero place;
+    place.reparti = numero == memoire_.partie();
+    place.dejaParti = !place.reparti && memoire_.estPartie(numero, vendeur);
     try {
-        return numero == parti_ ? QString() : numerotation_.dernier(vendeur);
+        place.dernier = numerotation_.dernier(vendeur);
+        place.suivant = numerotation_.prochain(vendeur, jour);
     } catch (const ErreurStockage &) { // `sansProposition` has said so
-        return {};
     }
+    return place;
 }
 
 bool EmissionFacture::emettre(const Facture &facture, Vendeur vendeur,
@@ -37,7 +41,7 @@ bool EmissionFacture::emettre(const Facture &facture, Vendeur vendeur,
 {
     if (!sortir(facture))
         return false;
-    parti_ = facture.numero;
+    memoire_.noterDepart(facture.numero, vendeur);
     try {
         numerotation_.retenir(facture.numero, vendeur);
     } catch (const ErreurStockage &erreur) {

@@ -64,6 +64,48 @@ Rubrique expediteur(const IdentiteVendeur &vendeur)
     return expediteur;
 }
 
+// Of a number of the day's series.
+QString remarqueDansLaSerie(const QString &numero, const PlaceDuNumero &place, QDate jour)
+{
+    using Rapport = NumerotationFactures::Rapport;
+    const Rapport dernier = NumerotationFactures::rapport(place.dernier, jour);
+    if (dernier == Rapport::posterieur)
+        return QStringLiteral("La suite de %1 n’avance plus : le dernier numéro retenu, %2, est d’une année à venir.")
+            .arg(QString::number(jour.year()), place.dernier);
+    if (place.reparti)
+        return {};
+    if (!place.dernier.isEmpty() && dernier == Rapport::aucun)
+        return QStringLiteral("Le dernier numéro retenu, « %1 », n’est pas compris : vérifiez que celui-ci le suit.")
+            .arg(place.dernier);
+    if (!NumerotationFactures::avance(numero, place.dernier))
+        return place.dejaParti
+                   ? QString()
+                   : QStringLiteral(
+                         "Ce numéro ne vient pas après %1, le dernier retenu : une facture le porte peut-être déjà.")
+                         .arg(place.dernier);
+    if (!place.suivant.isEmpty() && NumerotationFactures::avance(numero, place.suivant))
+        return QStringLiteral("Ce numéro n’est pas le suivant : %1 resterait sans facture.").arg(place.suivant);
+    return {};
+}
+
+QString rapportALaSerie(const QString &numero, const PlaceDuNumero &place, QDate jour)
+{
+    using Rapport = NumerotationFactures::Rapport;
+    switch (NumerotationFactures::rapport(numero, jour)) {
+    case Rapport::aucun:
+        return QStringLiteral("Ce numéro n’a pas la forme %1 : il ne sera pas retenu.")
+            .arg(NumerotationFactures::premier(jour));
+    case Rapport::anterieur:
+        return QStringLiteral("Ce numéro est d’une année passée : la suite de %1 n’en change pas.").arg(jour.year());
+    case Rapport::posterieur:
+        return QStringLiteral("Ce numéro est d’une année à venir : après lui, ceux de %1 ne seront plus retenus.")
+            .arg(jour.year());
+    case Rapport::dansLaSerie:
+        return remarqueDansLaSerie(numero, place, jour);
+    }
+    Q_UNREACHABLE();
+}
+
 } // namespace
 
 QString TextesDocuments::siteDeLaPoste()
@@ -119,31 +161,23 @@ QString TextesDocuments::sansIdentite(const Calcul &calcul, const Reglages &regl
     return {};
 }
 
-QString TextesDocuments::remarqueSurLeNumero(const QString &numero, const QString &dernier, QDate jour)
+QString TextesDocuments::remarqueSurLeNumero(const QString &numero, const PlaceDuNumero &place, QDate jour)
 {
-    using Rapport = NumerotationFactures::Rapport;
     if (numero.trimmed().isEmpty())
         return QStringLiteral("La facture n’a pas de numéro : aucun ne sera retenu.");
-    switch (NumerotationFactures::rapport(numero, jour)) {
-    case Rapport::aucun:
-        return QStringLiteral("Ce numéro n’a pas la forme %1 : il ne sera pas retenu.")
-            .arg(NumerotationFactures::premier(jour));
-    case Rapport::anterieur:
-        return QStringLiteral("Ce numéro est d’une année passée : la suite de %1 n’en change pas.").arg(jour.year());
-    case Rapport::posterieur:
-        return QStringLiteral("Ce numéro est d’une année à venir : après lui, ceux de %1 ne seront plus retenus.")
-            .arg(jour.year());
-    case Rapport::dansLaSerie:
-        break;
-    }
-    if (!dernier.isEmpty() && NumerotationFactures::rapport(dernier, jour) == Rapport::aucun)
-        return QStringLiteral("Le dernier numéro retenu, « %1 », n’est pas compris : vérifiez que celui-ci le suit.")
-            .arg(dernier);
-    if (!NumerotationFactures::avance(numero, dernier))
-        return QStringLiteral(
-                   "Ce numéro ne vient pas après %1, le dernier retenu : une facture le porte peut-être déjà.")
-            .arg(dernier);
-    return {};
+    QStringList remarques{rapportALaSerie(numero, place, jour)};
+    if (place.dejaParti)
+        remarques.prepend(QStringLiteral("Une autre facture %1 est partie depuis l’ouverture de Quillet.").arg(numero));
+    remarques.removeAll(QString());
+    return remarques.join(u'\n');
+}
+
+QString TextesDocuments::dejaPartie(const QString &partie, const QString &numero)
+{
+    if (partie.isEmpty())
+        return {};
+    const QString phrase = QStringLiteral("La facture %1 est déjà partie pour cette commande.").arg(partie);
+    return numero == partie ? phrase : phrase + QStringLiteral(" Pour la sortir de nouveau, reprenez ce numéro.");
 }
 
 QString TextesDocuments::numeroPris(const QString &numero, const QString &suivant)
@@ -160,6 +194,13 @@ QString TextesDocuments::vendeur(const IdentiteVendeur &vendeur)
     if (!vendeur.mentionTva.isEmpty())
         lignes.append(vendeur.mentionTva);
     return lignes.join(u'\n');
+}
+
+QString TextesDocuments::sansAcheteur(const QString &acheteur)
+{
+    return acheteur.trimmed().isEmpty()
+               ? QStringLiteral("Acheteur manquant : son nom et son adresse sont obligatoires sur la facture.")
+               : QString();
 }
 
 QString TextesDocuments::sansSiret(const IdentiteVendeur &vendeur)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documents/EmissionFacture.h"
 #include "model/Calcul.h"
 #include "model/Reglages.h"
 
@@ -49,13 +50,16 @@ struct Obstacle
 std::optional<Obstacle> obstacleALaFacture(const Calcul &calcul, const Reglages &reglages);
 // That the settings lack the seller's identity; empty when they do not.
 QString sansIdentite(const Calcul &calcul, const Reglages &reglages);
-// What is odd about a number; empty when it carries the day's series on. `dernier`: the one it is to come after, maybe
-// empty.
-QString remarqueSurLeNumero(const QString &numero, const QString &dernier, QDate jour);
+// What is odd about a number; empty when it carries the day's series on.
+QString remarqueSurLeNumero(const QString &numero, const PlaceDuNumero &place, QDate jour);
+// That an invoice has left for this order, under the number `partie`; empty when there is none.
+QString dejaPartie(const QString &partie, const QString &numero);
 // The proposed number went to another invoice: this one waits, with the next.
 QString numeroPris(const QString &numero, const QString &suivant);
 // The seller, as the invoice will name them, one line each.
 QString vendeur(const IdentiteVendeur &vendeur);
+// That nobody is invoiced; empty when somebody is.
+QString sansAcheteur(const QString &acheteur);
 // That the seller has no registration number; empty when there is one.
 QString sansSiret(const IdentiteVendeur &vendeur);
 

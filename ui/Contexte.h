@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documents/MemoireFactures.h"
 #include "model/Calcul.h"
 #include "model/Catalogue.h"
 #include "model/Commande.h"
@@ -15,6 +16,7 @@ struct Contexte
 {
     Catalogue &catalogue;
     Commande &commande;
+    MemoireFactures &factures;
     Verifications &verifications;
     ImagesCouvertures &images;
     JourCourant &jour;

@@ -64,9 +64,10 @@ QuilletApp::QuilletApp(const Ressources &ressources, Stockage stockage, const Pr
       images_(QDir(ressources.chemin(QStringLiteral("couvertures")))),
       jour_(std::move(aujourdhui)),
       preferences_(preferences),
-      contexte_{*catalogue_, commande_, verifications_, images_, jour_, preferences_},
+      contexte_{*catalogue_, commande_, factures_, verifications_, images_, jour_, preferences_},
       fenetre_(std::make_unique<Fenetre>(contexte_, misesAJour_))
 {
+    QObject::connect(&commande_, &Commande::change, &commande_, [this] { factures_.suivre(commande_.bon()); });
     // Neither drawing the icon in all its sizes nor the network's own start may delay the first image.
     QObject::connect(fenetre_.get(), &Fenetre::posee, fenetre_.get(), [this] {
         QApplication::setWindowIcon(QIcon(QStringLiteral(":/quillet.svg")));

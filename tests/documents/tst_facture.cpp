@@ -1,3 +1,4 @@
+#include "documents/AdressePostale.h"
 #include "documents/ArticleDouane.h"
 #include "documents/Facture.h"
 #include "tests/Banc.h"
@@ -53,6 +54,19 @@ private slots:
         BonDeCommande sansIdentite{.vendeur = Vendeur::mireva};
         sansIdentite.ajuster(banc.livres[2], 1);
         QVERIFY(!existe(sansIdentite));
+    }
+
+    void adresseCollee()
+    {
+        for (const auto &[collee, nette] : Rangees<const char *>{
+                 {"Ada Exemple", "Ada Exemple"},
+                 {"\n  Ada Exemple\t\r\n\r\n\u00a0\n\t1 rue de l’Exemple\u2028France\n",
+                  "Ada Exemple\n1 rue de l’Exemple\nFrance"},
+                 {" \n ", ""},
+             }) {
+            const Rangee rangee(collee);
+            QCOMPARE(AdressePostale::sansVides(collee), nette);
+        }
     }
 
     void nomDeFichier()

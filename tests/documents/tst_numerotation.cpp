@@ -79,7 +79,8 @@ private slots:
             QVERIFY(fichier.open(QIODevice::WriteOnly) && fichier.write(octets) == octets.size());
             fichier.close();
             NumerotationFactures numerotation{Preferences(chemin)};
-            EmissionFacture emission{Preferences(chemin)};
+            MemoireFactures memoire;
+            EmissionFacture emission(Preferences(chemin), memoire);
             QCOMPARE(emission.numeroPour({}, Vendeur::davrel, jourDuBanc), propose);
             QCOMPARE(emission.sansProposition().isEmpty(), propose != nullptr);
             if (propose)
@@ -172,7 +173,8 @@ private slots:
     void numeroDuChamp()
     {
         const Banc banc;
-        EmissionFacture emission(banc.preferences());
+        MemoireFactures memoire;
+        EmissionFacture emission(banc.preferences(), memoire);
         const auto numero = [&](const char *saisi, QDate jour) {
             return emission.numeroPour(saisi, Vendeur::davrel, jour);
         };
@@ -182,9 +184,14 @@ private slots:
         const auto part = [](const Facture &) { return true; };
         QVERIFY(emission.emettre({.numero = "2026-005"}, Vendeur::davrel, part));
         QCOMPARE(numero("2026-005", jourDuBanc), "2026-005"); // has left from here, and may once more
-        QCOMPARE(emission.dernierAvant("2026-005", Vendeur::davrel), "");
-        QCOMPARE(emission.dernierAvant("2026-004", Vendeur::davrel), "2026-005");
+        const auto place = [&](const char *n) { return emission.place(n, Vendeur::davrel, jourDuBanc); };
+        QVERIFY(place("2026-005").reparti && !place("2026-005").dejaParti && !place("2026-004").reparti);
+        QCOMPARE(place("2026-004").dernier, "2026-005");
+        QCOMPARE(place("2026-004").suivant, "2026-006");
         QCOMPARE(numero("2026-005", QDate(2027, 1, 1)), "2027-001");
+        memoire.suivre({.paysLivraison = "Suisse"}); // another order
+        QVERIFY(!place("2026-005").reparti && place("2026-005").dejaParti);
+        QVERIFY(!emission.place("2026-005", Vendeur::mireva, jourDuBanc).dejaParti);
         emission.noter("2026-001"); // typed instead, perhaps to print an old one again
         QCOMPARE(numero("2026-001", jourDuBanc), "2026-001");
         emission.noter("2027-001");
@@ -192,10 +199,29 @@ private slots:
         QVERIFY(emission.sansProposition().isEmpty());
     }
 
+    void oublieeAvecLaCommande()
+    {
+        const auto apres = [](void (*changer)(BonDeCommande &)) {
+            BonDeCommande bon{.quantites = {{1, 2}}};
+            MemoireFactures memoire;
+            memoire.suivre(bon);
+            memoire.noterAcheteur("Ada");
+            memoire.noterDepart("2026-001", Vendeur::davrel);
+            changer(bon);
+            memoire.suivre(bon);
+            return memoire.acheteur() + memoire.partie();
+        };
+        QCOMPARE(apres([](BonDeCommande &bon) { bon.langue = Langue::anglais; }), "Ada2026-001");
+        QCOMPARE(apres([](BonDeCommande &bon) { bon.quantites[2] = 0; }), "Ada2026-001");
+        QCOMPARE(apres([](BonDeCommande &bon) { bon.quantites[1] = 1; }), "");
+        QCOMPARE(apres([](BonDeCommande &bon) { bon.poidsPese = Grammes{300}; }), "");
+    }
+
     void compteUneFoisPartie()
     {
         const Banc banc;
-        EmissionFacture emission(banc.preferences());
+        MemoireFactures memoire;
+        EmissionFacture emission(banc.preferences(), memoire);
         const Facture facture{.numero = "2026-007"};
         const auto retenu = [&] { return banc.preferences().texte(cleDavrel); };
         const auto emettre = [&](const std::function<bool(const Facture &)> &sortir) {

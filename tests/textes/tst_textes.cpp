@@ -429,6 +429,31 @@ private slots:
         }
     }
 
+    void remarquesSurLeNumero()
+    {
+        const QString trou = "Ce numéro n’est pas le suivant : 2026-005 resterait sans facture.";
+        const QString arret =
+            "La suite de 2026 n’avance plus : le dernier numéro retenu, 2027-002, est d’une année à venir.";
+        const QString autre = "Une autre facture %1 est partie depuis l’ouverture de Quillet.";
+        const PlaceDuNumero suivie{.dernier = "2026-004", .suivant = "2026-005"};
+        const PlaceDuNumero arretee{.dernier = "2027-002", .suivant = "2026-001"};
+        for (const auto &[numero, place, remarque] : Rangees<PlaceDuNumero, QString>{
+                 {"2026-005", suivie, ""},
+                 {"2026-006", suivie, trou},
+                 {"2026-006", {}, ""}, // nothing could be read
+                 {"2026-004", {.dernier = "2026-004", .suivant = "2026-005", .reparti = true}, ""},
+                 {"2026-004", {.dernier = "2026-004", .suivant = "2026-005", .dejaParti = true}, autre.arg("2026-004")},
+                 {"2026-001", arretee, arret},
+                 {"2026-001", {.dernier = "2027-002", .suivant = "2026-001", .reparti = true}, arret},
+                 {"2026-001",
+                  {.dernier = "2027-002", .suivant = "2026-001", .dejaParti = true},
+                  autre.arg("2026-001") + u'\n' + arret},
+             }) {
+            const Rangee rangee(numero);
+            QCOMPARE(TextesDocuments::remarqueSurLeNumero(numero, place, jourDuBanc), remarque);
+        }
+    }
+
     void ecarts()
     {
         const TarifsColissimo tarifs = desTarifs("2026-04-01", Centimes{600});

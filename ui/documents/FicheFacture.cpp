@@ -11,6 +11,7 @@
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
 #include "composants/ZoneDeTexte.h"
+#include "documents/AdressePostale.h"
 #include "textes/TextesDocuments.h"
 #include "ui/Contexte.h"
 #include "ui/documents/ApercuFacture.h"
@@ -33,24 +34,32 @@ const QString cleDossier = QStringLiteral("dossierDesFactures");
 FicheFacture::FicheFacture(const Contexte &contexte, QWidget *parent)
     : QStackedWidget(parent),
       contexte_(contexte),
-      emission_(contexte.preferences),
+      emission_(contexte.preferences, contexte.factures),
       impossible_(new EtatVide),
       numero_(new LigneDeTexte),
       remarque_(new Alerte),
+      dejaPartie_(new Alerte),
       acheteur_(new ZoneDeTexte(6)),
       sansSiret_(new Alerte),
+      sansAcheteur_(new Alerte),
       identite_(new Libelle({})),
       apercu_(new ApercuFacture),
       issue_(new Alerte(QStringLiteral("checkmark.circle"), {}, Alerte::Ton::note))
 {
     addWidget(formulaire());
     addWidget(impossible_);
+    acheteur_->setPlainText(contexte.factures.acheteur());
+    acheteur_->moveCursor(QTextCursor::End);
     connect(numero_, &QLineEdit::textChanged, this, &FicheFacture::completer);
-    connect(acheteur_, &ZoneDeTexte::textChanged, this, &FicheFacture::completer);
+    connect(acheteur_, &ZoneDeTexte::textChanged, this, [this] {
+        contexte_.factures.noterAcheteur(acheteur_->toPlainText());
+        completer();
+    });
 }
 
 QWidget *FicheFacture::formulaire()
 {
+    acheteur_->nettoyerLeColle(AdressePostale::sansVides);
     acheteur_->setPlaceholderText(QStringLiteral("Nom et adresse de livraison, recopiés du paiement PayPal."));
     numero_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     identite_->setWordWrap(true);
@@ -62,6 +71,7 @@ QWidget *FicheFacture::formulaire()
                        "l’enregistrement."));
     auto *facture = new Formulaire::Section(QStringLiteral("Facture"));
     facture->groupe()->ajouter(numero);
+    facture->groupe()->ajouter(dejaPartie_);
     facture->groupe()->ajouter(remarque_);
     facture->groupe()->ajouter(new Formulaire::RangeeHaute(QStringLiteral("Acheteur"), acheteur_));
     facture->groupe()->ajouter(sansSiret_);
@@ -87,9 +97,19 @@ QWidget *FicheFacture::sorties()
     connect(imprimer, &QPushButton::clicked, this, &FicheFacture::imprimer);
     connect(enregistrer, &QPushButton::clicked, this, &FicheFacture::enregistrer);
 
-    issue_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long sentence must not widen the column
-    return Pile::enColonne({.marges = {4, 24, 20, 24}, .espace = 12},
-                           {imprimer, enregistrer, {apercu_, 0, Qt::AlignHCenter}, issue_, Pile::reste()});
+    for (Alerte *phrase : {sansAcheteur_, issue_}) // must not widen the column
+        phrase->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto *defilement = new Defilement;
+    defilement->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    defilement->setWidget(
+        Pile::enColonne({.marges = {4, 24, 16, 24}, .espace = 12},
+                        {imprimer, enregistrer, sansAcheteur_, {apercu_, 0, Qt::AlignHCenter}, issue_, Pile::reste()}));
+    return defilement;
+}
+
+void FicheFacture::direLIssue(const QString &issue)
+{
+    issue_->montrer(issue);
 }
 
 void FicheFacture::montrer(const Calcul &calcul)
@@ -123,14 +143,16 @@ void FicheFacture::completer()
         return;
     facture_->numero = numero_->text();
     facture_->acheteur = acheteur_->toPlainText();
-    const QString dernier = emission_.dernierAvant(facture_->numero, vendeur_);
-    const QString remarque = TextesDocuments::remarqueSurLeNumero(facture_->numero, dernier, facture_->date);
+    const PlaceDuNumero place = emission_.place(facture_->numero, vendeur_, facture_->date);
+    const QString remarque = TextesDocuments::remarqueSurLeNumero(facture_->numero, place, facture_->date);
     const bool sansProposition = facture_->numero.isEmpty() && !emission_.sansProposition().isEmpty();
     remarque_->montrer(sansProposition ? emission_.sansProposition() : remarque);
+    dejaPartie_->montrer(TextesDocuments::dejaPartie(contexte_.factures.partie(), facture_->numero));
+    sansAcheteur_->montrer(TextesDocuments::sansAcheteur(facture_->acheteur));
     identite_->setText(TextesDocuments::vendeur(facture_->vendeur));
     sansSiret_->montrer(TextesDocuments::sansSiret(facture_->vendeur));
     apercu_->montrer(*facture_);
-    issue_->montrer({});
+    direLIssue({});
 }
 
 void FicheFacture::imprimer()
@@ -171,12 +193,12 @@ bool FicheFacture::emettre(const QString &issue, const std::function<bool(const 
     contexte_.jour.regarder(); // the invoice is of the day on which it leaves: on another, the sheet shows it anew
     if (!facture_ || !encoreLibre(*facture_))
         return false;
-    issue_->montrer({});
+    direLIssue({});
     const Facture facture = *facture_; // whatever changes while a dialog is open
     try {
         if (!emission_.emettre(facture, vendeur_, sortir))
             return false;
-        issue_->montrer(issue.arg(facture.numero));
+        direLIssue(issue.arg(facture.numero));
         return true;
     } catch (const Echec &echec) {
         prevenir(echec.texte());

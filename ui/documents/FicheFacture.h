@@ -38,6 +38,8 @@ private:
     void completer();
     void imprimer();
     void enregistrer();
+    // What became of the invoice; empty when nothing has yet.
+    void direLIssue(const QString &issue);
     // True when all is done.
     bool emettre(const QString &issue, const std::function<bool(const Facture &)> &sortir);
     bool encoreLibre(const Facture &facture);
@@ -51,8 +53,10 @@ private:
     EtatVide *impossible_;
     QLineEdit *numero_;
     Alerte *remarque_;
+    Alerte *dejaPartie_;
     ZoneDeTexte *acheteur_;
     Alerte *sansSiret_;
+    Alerte *sansAcheteur_;
     Libelle *identite_;
     ApercuFacture *apercu_;
     Alerte *issue_;
