@@ -5,6 +5,8 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
+#include <QDesktopServices>
+#include <QFile>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
@@ -32,6 +34,9 @@ QString ecrit(const QDialog *feuille, const QString &champ)
 class TestFichesDocuments : public QObject
 {
     Q_OBJECT
+
+public slots:
+    void ouvert(const QUrl &adresse) { ouverts_.append(adresse.toLocalFile()); }
 
 private slots:
     void initTestCase() { QuilletApp::preparer(Theme::Mode::clair); }
@@ -130,6 +135,27 @@ private slots:
         QVERIFY(Ecran::montre(feuille, "Une autre facture 2026-001 est partie depuis l’ouverture de Quillet."));
     }
 
+    void lePdfSOuvre()
+    {
+        QTemporaryDir dossier;
+        banc_->commander("suisse");
+        QDialog *feuille = banc_->ouvrir(facture);
+        const QString pdf = "Ouvrir le PDF";
+        QVERIFY(!Ecran::controle(feuille, pdf));
+        sauver(feuille, dossier);
+        QDesktopServices::setUrlHandler("file", this, "ouvert");
+        const auto rendre = qScopeGuard([] { QDesktopServices::unsetUrlHandler("file"); });
+        QVERIFY(Ecran::cliquer(feuille, pdf));
+        QVERIFY(Ecran::cliquer(feuille, "Ouvrir le dossier"));
+        QCOMPARE(ouverts_, (QStringList{dossier.filePath("facture.pdf"), dossier.path()}));
+        QVERIFY(QFile::remove(dossier.filePath("facture.pdf")));
+        QString message;
+        QVERIFY(Dialogues::cliquerPuisRepondre(feuille, pdf, {BancEcran::lire(message)}));
+        QCOMPARE(message, "Ce n’est plus là :\n" + dossier.filePath("facture.pdf"));
+        QVERIFY(Ecran::taper(feuille, acheteur, "Ada")); // an invoice that has not left
+        QVERIFY(!Ecran::controle(feuille, pdf));
+    }
+
     void etatsDeLaFacture()
     {
         const QString sansSiret = "Numéro SIRET manquant : obligatoire sur la facture d’une micro-entreprise.";
@@ -202,6 +228,7 @@ private:
                                                {Dialogues::enregistrerSous(dossier.filePath("facture.pdf"))}));
     }
 
+    QStringList ouverts_;
     std::unique_ptr<BancEcran> banc_;
 };
 

@@ -6,6 +6,7 @@
 #include "composants/EtatVide.h"
 #include "composants/Formulaire.h"
 #include "composants/Libelle.h"
+#include "composants/Lien.h"
 #include "composants/LigneDeTexte.h"
 #include "composants/Pile.h"
 #include "composants/TailleDuTexte.h"
@@ -44,7 +45,8 @@ FicheFacture::FicheFacture(const Contexte &contexte, QWidget *parent)
       sansAcheteur_(new Alerte),
       identite_(new Libelle({})),
       apercu_(new ApercuFacture),
-      issue_(new Alerte(QStringLiteral("checkmark.circle"), {}, Alerte::Ton::note))
+      issue_(new Alerte(QStringLiteral("checkmark.circle"), {}, Alerte::Ton::note)),
+      ouvertures_(ouvertures())
 {
     addWidget(formulaire());
     addWidget(impossible_);
@@ -101,15 +103,29 @@ QWidget *FicheFacture::sorties()
         phrase->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto *defilement = new Defilement;
     defilement->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
-    defilement->setWidget(
-        Pile::enColonne({.marges = {4, 24, 16, 24}, .espace = 12},
-                        {imprimer, enregistrer, sansAcheteur_, {apercu_, 0, Qt::AlignHCenter}, issue_, Pile::reste()}));
+    defilement->setWidget(Pile::enColonne(
+        {.marges = {4, 24, 16, 24}, .espace = 12},
+        {imprimer, enregistrer, sansAcheteur_, {apercu_, 0, Qt::AlignHCenter}, issue_, ouvertures_, Pile::reste()}));
     return defilement;
+}
+
+QWidget *FicheFacture::ouvertures()
+{
+    const QString ailleurs = QStringLiteral("arrow.up.forward.app");
+    QPushButton *pdf = Boutons::deFeuille(QStringLiteral("Ouvrir le PDF"), ailleurs);
+    QPushButton *dossier = Boutons::deFeuille(QStringLiteral("Ouvrir le dossier"), ailleurs);
+    connect(pdf, &QPushButton::clicked, this, [this] { Lien::ouvrirFichier(fichier_, this); });
+    connect(dossier, &QPushButton::clicked, this,
+            [this] { Lien::ouvrirFichier(QFileInfo(fichier_).absolutePath(), this); });
+    QWidget *ouvertures = Pile::enColonne({.espace = 8}, {pdf, dossier});
+    ouvertures->hide();
+    return ouvertures;
 }
 
 void FicheFacture::direLIssue(const QString &issue)
 {
     issue_->montrer(issue);
+    ouvertures_->hide();
 }
 
 void FicheFacture::montrer(const Calcul &calcul)
@@ -181,6 +197,8 @@ void FicheFacture::enregistrer()
     });
     if (!faite)
         return;
+    fichier_ = *chemin;
+    ouvertures_->show();
     try {
         contexte_.preferences.ecrire(cleDossier, QFileInfo(*chemin).absolutePath());
     } catch (const ErreurStockage &erreur) {

@@ -35,6 +35,7 @@ public:
 private:
     QWidget *formulaire();
     QWidget *sorties();
+    QWidget *ouvertures();
     void completer();
     void imprimer();
     void enregistrer();
@@ -60,6 +61,8 @@ private:
     Libelle *identite_;
     ApercuFacture *apercu_;
     Alerte *issue_;
+    QString fichier_; // where it was saved last
+    QWidget *ouvertures_;
 };
 
 } // namespace Quillet
