@@ -150,8 +150,7 @@ def facturer(programme, quillet, compte, dossier):
     with compte.etape("Facture : l’aperçu s’agrandit, Échap le referme, le focus revient"):
         aller(feuille, "push button", "Agrandir la facture")
         touche("space")
-        grand = fenetre(programme, "dialog", "Facture")
-        exiger(nom(attendre(lambda: foyer(grand), "l’aperçu ne prend pas le focus")), "l’aperçu n’a pas de nom")
+        attendre_le_foyer(feuille, "document frame", f"Facture {NUMERO} – Éditions Davrel")
         touche("Escape")
         attendre_le_foyer(feuille, "push button", "Agrandir la facture")
     fermer(programme, quillet, feuille, "Facture", compte)

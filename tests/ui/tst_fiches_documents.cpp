@@ -9,6 +9,8 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 
 using namespace Quillet;
 
@@ -154,6 +156,25 @@ private slots:
         QCOMPARE(message, "Ce n’est plus là :\n" + dossier.filePath("facture.pdf"));
         QVERIFY(Ecran::taper(feuille, acheteur, "Ada")); // an invoice that has not left
         QVERIFY(!Ecran::controle(feuille, pdf));
+    }
+
+    // In the sheet itself, which Escape gives back before it closes it.
+    void lApercuSAgrandit()
+    {
+        banc_->commander("suisse");
+        QDialog *feuille = banc_->ouvrir(facture);
+        QVERIFY(Ecran::cliquer(feuille, "Agrandir la facture"));
+        QCOMPARE(Dialogues::devant(), feuille);
+        QVERIFY(!Ecran::controle(feuille, acheteur));
+        QWidget *page = feuille->focusWidget();
+        QCOMPARE(page->accessibleName(), "Facture 2026-001 – Éditions Davrel");
+        const auto *ascenseur = qobject_cast<QScrollArea *>(page)->verticalScrollBar();
+        QCOMPARE(ascenseur->maximum(), 0);
+        QVERIFY(Ecran::cliquer(feuille, "100 %"));
+        QTRY_VERIFY(ascenseur->maximum() > 0);
+        QTest::keyClick(page, Qt::Key_Escape);
+        QCOMPARE(feuille->focusWidget()->accessibleName(), "Agrandir la facture");
+        QVERIFY(Ecran::controle(feuille, acheteur));
     }
 
     void etatsDeLaFacture()

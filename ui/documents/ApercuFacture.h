@@ -6,7 +6,7 @@
 
 namespace Quillet {
 
-// The invoice's page, reduced; a click shows it at its own size.
+// The invoice's page, reduced: a button that asks for a larger one.
 class ApercuFacture : public QAbstractButton
 {
     Q_OBJECT
@@ -19,8 +19,6 @@ protected:
     void paintEvent(QPaintEvent *evenement) override;
 
 private:
-    void agrandir();
-
     Facture facture_;
 };
 

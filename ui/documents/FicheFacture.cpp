@@ -16,6 +16,7 @@
 #include "textes/TextesDocuments.h"
 #include "ui/Contexte.h"
 #include "ui/documents/ApercuFacture.h"
+#include "ui/documents/FactureAgrandie.h"
 #include "ui/documents/ImpressionFacture.h"
 
 #include <QFileInfo>
@@ -45,18 +46,33 @@ FicheFacture::FicheFacture(const Contexte &contexte, QWidget *parent)
       sansAcheteur_(new Alerte),
       identite_(new Libelle({})),
       apercu_(new ApercuFacture),
+      agrandie_(new FactureAgrandie),
       issue_(new Alerte(QStringLiteral("checkmark.circle"), {}, Alerte::Ton::note)),
       ouvertures_(ouvertures())
 {
     addWidget(formulaire());
     addWidget(impossible_);
+    addWidget(agrandie_);
     acheteur_->setPlainText(contexte.factures.acheteur());
     acheteur_->moveCursor(QTextCursor::End);
+    connect(apercu_, &QAbstractButton::clicked, this, [this] {
+        passerA(Page::agrandie);
+        agrandie_->prendreLeFocus();
+    });
+    connect(agrandie_, &FactureAgrandie::quittee, this, [this] {
+        passerA(Page::formulaire);
+        apercu_->setFocus();
+    });
     connect(numero_, &QLineEdit::textChanged, this, &FicheFacture::completer);
     connect(acheteur_, &ZoneDeTexte::textChanged, this, [this] {
         contexte_.factures.noterAcheteur(acheteur_->toPlainText());
         completer();
     });
+}
+
+void FicheFacture::passerA(Page page)
+{
+    setCurrentIndex(static_cast<int>(page));
 }
 
 QWidget *FicheFacture::formulaire()
@@ -131,12 +147,14 @@ void FicheFacture::direLIssue(const QString &issue)
 void FicheFacture::montrer(const Calcul &calcul)
 {
     const auto obstacle = TextesDocuments::obstacleALaFacture(calcul, contexte_.donnees().reglages);
-    setCurrentIndex(obstacle ? 1 : 0);
     if (obstacle) {
+        passerA(Page::impossible);
         facture_.reset();
         impossible_->montrer(obstacle->symbole, obstacle->titre, obstacle->raison);
         return;
     }
+    if (currentWidget() == impossible_)
+        passerA(Page::formulaire);
     vendeur_ = *calcul.vendeurs().begin();
     const QDate jour = contexte_.jour.aujourdhui();
     if (const QString numero = emission_.numeroPour(numero_->text(), vendeur_, jour); numero != numero_->text())
@@ -168,6 +186,7 @@ void FicheFacture::completer()
     identite_->setText(TextesDocuments::vendeur(facture_->vendeur));
     sansSiret_->montrer(TextesDocuments::sansSiret(facture_->vendeur));
     apercu_->montrer(*facture_);
+    agrandie_->montrer(*facture_);
     direLIssue({});
 }
 

@@ -15,6 +15,7 @@ namespace Quillet {
 class Alerte;
 class ApercuFacture;
 class EtatVide;
+class FactureAgrandie;
 class Libelle;
 class ZoneDeTexte;
 struct Contexte;
@@ -33,6 +34,9 @@ public:
     void prendreLeFocus();
 
 private:
+    enum class Page { formulaire, impossible, agrandie };
+
+    void passerA(Page page);
     QWidget *formulaire();
     QWidget *sorties();
     QWidget *ouvertures();
@@ -60,6 +64,7 @@ private:
     Alerte *sansAcheteur_;
     Libelle *identite_;
     ApercuFacture *apercu_;
+    FactureAgrandie *agrandie_;
     Alerte *issue_;
     QString fichier_; // where it was saved last
     QWidget *ouvertures_;
