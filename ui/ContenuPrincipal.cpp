@@ -38,6 +38,22 @@ QList<ListeRubriques::Entree> entrees()
     return entrees;
 }
 
+// Where the focus was last in this part, or else where Tab would come in; null: nowhere.
+QWidget *foyerDans(QWidget *partie)
+{
+    const auto prenable = [](const QWidget *widget) {
+        return (widget->focusPolicy() & Qt::TabFocus) && widget->isEnabled() && widget->isVisible();
+    };
+    if (prenable(partie))
+        return partie;
+    if (QWidget *dernier = partie->focusWidget(); dernier && prenable(dernier))
+        return dernier;
+    for (QWidget *suivant = partie->nextInFocusChain(); suivant != partie; suivant = suivant->nextInFocusChain())
+        if (partie->isAncestorOf(suivant) && prenable(suivant))
+            return suivant;
+    return nullptr;
+}
+
 } // namespace
 
 ContenuPrincipal::ContenuPrincipal(const Contexte &contexte, QWidget *parent)
@@ -72,6 +88,25 @@ std::optional<Rubrique> ContenuPrincipal::rubrique() const
 {
     const auto choisies = rubriques_->selectionModel()->selectedRows();
     return choisies.isEmpty() ? std::nullopt : std::optional(static_cast<Rubrique>(choisies.first().row()));
+}
+
+void ContenuPrincipal::changerDeZone(int pas)
+{
+    QList<EcranDeRubrique::Zone> zones{{rubriques_, rubriques_}};
+    zones += ecranMontre()->zones();
+    const auto nombre = zones.size();
+    qsizetype rang = pas > 0 ? nombre - 1 : 0; // from nowhere, to the first or the last
+    for (qsizetype i = 0; i < nombre; ++i)
+        if (const QWidget *foyer = window()->focusWidget();
+            foyer == zones[i].aire || zones[i].aire->isAncestorOf(foyer))
+            rang = i;
+    for (qsizetype essai = 1; essai < nombre; ++essai) {
+        rang = (rang + pas + nombre) % nombre;
+        if (QWidget *foyer = foyerDans(zones[rang].entree)) {
+            foyer->setFocus(Qt::ShortcutFocusReason);
+            return;
+        }
+    }
 }
 
 bool ContenuPrincipal::conclure()

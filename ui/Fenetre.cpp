@@ -4,6 +4,8 @@
 #include "composants/Theme.h"
 #include "model/Enumeration.h"
 #include "ui/ContenuPrincipal.h"
+#include "ui/FeuilleRaccourcis.h"
+#include "ui/Raccourcis.h"
 #include "ui/misesajour/FeuilleMiseAJour.h"
 #include "watch/MisesAJour.h"
 
@@ -99,8 +101,13 @@ void Fenetre::creerMenu(MisesAJour &misesAJour)
     suivre();
     menu->addSeparator();
     QAction *quitter = menu->addAction(QStringLiteral("&Quitter"), this, &QWidget::close);
-    quitter->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+    quitter->setShortcuts(Raccourcis::touches(Raccourcis::Geste::quitter));
     quitter->setMenuRole(QAction::QuitRole);
+
+    QMenu *aide = menuBar()->addMenu(QStringLiteral("&Aide"));
+    QAction *raccourcis = aide->addAction(QStringLiteral("&Raccourcis clavier"), this,
+                                          [this] { (new FeuilleRaccourcis(this))->ouvrir(); });
+    raccourcis->setShortcuts(Raccourcis::touches(Raccourcis::Geste::aide)); // a field keeps its "?"
 }
 
 void Fenetre::creerRaccourcis()
@@ -112,6 +119,12 @@ void Fenetre::creerRaccourcis()
             touches.append(QKeySequence(Qt::CTRL | touche));
         raccourci->setKeys(touches);
         connect(raccourci, &QShortcut::activated, this, [this, rubrique] { contenu_->montrer(rubrique); });
+    }
+    using Raccourcis::Geste;
+    for (const auto &[geste, pas] : {std::pair(Geste::zoneSuivante, 1), std::pair(Geste::zonePrecedente, -1)}) {
+        auto *raccourci = new QShortcut(this);
+        raccourci->setKeys(Raccourcis::touches(geste));
+        connect(raccourci, &QShortcut::activated, this, [this, pas = pas] { contenu_->changerDeZone(pas); });
     }
 }
 

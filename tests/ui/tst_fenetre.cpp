@@ -5,6 +5,7 @@
 #include "ui/InstanceUnique.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QLocalSocket>
 #include <QMenuBar>
 #include <QSignalSpy>
@@ -54,6 +55,27 @@ private slots:
             QTest::keyClick(&banc.app->fenetre(), touche, Qt::ControlModifier);
             QCOMPARE(banc.app->fenetre().contenu()->rubrique(), rubrique);
         }
+    }
+
+    void listeDesRaccourcis()
+    {
+        BancEcran banc;
+        banc.demarrer();
+        Fenetre &fenetre = banc.app->fenetre();
+        for (const Qt::Key touche : {Qt::Key_F1, Qt::Key_Question}) {
+            QTest::keyClick(&fenetre, touche);
+            QDialog *feuille = Dialogues::devant();
+            QVERIFY(feuille && feuille->windowTitle() == "Raccourcis clavier");
+            QVERIFY(Ecran::montre(feuille, "Ouvrir la réponse") && Ecran::controle(feuille, "Ctrl+E"));
+            feuille->reject();
+        }
+        banc.commander("france");
+        auto *champ = qobject_cast<QLineEdit *>(Ecran::controle(&fenetre, "Pays de livraison"));
+        QVERIFY(champ);
+        champ->setFocus();
+        QTest::keyClick(champ, '?');
+        QCOMPARE(champ->text(), "?");
+        QVERIFY(!QApplication::activeModalWidget());
     }
 
     // A window left open over New Year's Eve says and charges the new price as soon as it is used again.

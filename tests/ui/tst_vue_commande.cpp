@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -481,6 +482,36 @@ private slots:
         QCOMPARE(ici(), "Livre 5");
         cliquer("Mireva"); // the cards go, the focus with them
         QVERIFY(controle("Livre 3")->focusPolicy() & Qt::TabFocus);
+    }
+
+    // From part to part, and straight to what is done with every order.
+    void touchesDeLaCommande()
+    {
+        const auto presser = [&](Qt::Key touche, Qt::KeyboardModifiers avec = Qt::NoModifier) {
+            QTest::keyClick(fenetre(), touche, avec);
+            return QApplication::focusWidget()->accessibleName().section(u',', 0, 0);
+        };
+        fenetre()->contenu()->findChild<QListWidget *>()->setFocus();
+        QCOMPARE(presser(Qt::Key_F6), "Livre 1");
+        QCOMPARE(presser(Qt::Key_F6), "Emballage");
+        controle(colisPese)->setFocus();
+        QCOMPARE(presser(Qt::Key_F6), "Rubriques");
+        QCOMPARE(presser(Qt::Key_F6, Qt::ShiftModifier), colisPese.section(u',', 0, 0)); // where one was
+        controle("davrel.example")->setFocus();                                          // in the books' part too
+        QCOMPARE(presser(Qt::Key_F6), colisPese.section(u',', 0, 0));
+
+        presser(Qt::Key_E, Qt::ControlModifier);
+        QVERIFY(!QApplication::activeModalWidget()); // nothing to reply yet
+        cliquer("Livre 1");
+        controle("Pays de livraison")->setFocus();
+        presser(Qt::Key_E, Qt::ControlModifier);
+        auto *reponse = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        QVERIFY(reponse);
+        reponse->reject();
+        presser(Qt::Key_R, Qt::ControlModifier);
+        QVERIFY(bon().estVide());
+        QVERIFY(controle(reinitialiser)->toolTip().endsWith("la destination restent")); // as it is worded
+        QVERIFY(controle("E-mail en français")->toolTip().endsWith(" (Ctrl+E)"));
     }
 
     // What a screen reader does without a click or a key counts as much.

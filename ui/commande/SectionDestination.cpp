@@ -12,8 +12,10 @@
 #include "model/Commande.h"
 #include "textes/TextesPays.h"
 #include "textes/TextesRecapitulatif.h"
+#include "ui/Raccourcis.h"
 
 #include <QAction>
+#include <QShortcut>
 
 namespace Quillet {
 
@@ -41,6 +43,10 @@ SectionDestination::SectionDestination(const Donnees &donnees, Commande &command
     auto *loupe = recherche_->addAction(Icone::icone(QStringLiteral("magnifyingglass")), QLineEdit::LeadingPosition);
     loupe->setText(QStringLiteral("Aller à la recherche d’un pays"));
     connect(loupe, &QAction::triggered, recherche_, qOverload<>(&QWidget::setFocus));
+    recherche_->setToolTip(Raccourcis::infobulle(Raccourcis::Geste::chercherUnPays));
+    auto *raccourci = new QShortcut(recherche_);
+    raccourci->setKeys(Raccourcis::touches(Raccourcis::Geste::chercherUnPays));
+    connect(raccourci, &QShortcut::activated, recherche_, [this] { recherche_->setFocus(Qt::ShortcutFocusReason); });
     recherche_->setVisible(!donnees.pays.isEmpty());
     for (const Destination &destination : donnees.destinations)
         destination_->ajouter(destination.libelleCourt, destination.code.texte());

@@ -4,6 +4,7 @@
 #include "documents/ReponseType.h"
 #include "model/Commande.h"
 #include "textes/TextesRecapitulatif.h"
+#include "ui/Raccourcis.h"
 
 #include <QPushButton>
 
@@ -15,6 +16,7 @@ SectionReponse::SectionReponse(const Commande &commande, QWidget *parent)
       commande_(commande),
       ecrire_(new QPushButton(Icone::icone(QStringLiteral("envelope")), {}))
 {
+    Raccourcis::presser(ecrire_, Raccourcis::Geste::repondre);
     groupe()->ajouter(Formulaire::seul(ecrire_));
     connect(ecrire_, &QPushButton::clicked, this, &SectionReponse::demandee);
 }

@@ -12,6 +12,7 @@
 #include "documents/ReponseType.h"
 #include "textes/TextesRecapitulatif.h"
 #include "ui/Contexte.h"
+#include "ui/Raccourcis.h"
 #include "ui/commande/Couverture.h"
 #include "ui/commande/GrilleLivres.h"
 #include "ui/commande/Recapitulatif.h"
@@ -59,12 +60,13 @@ VueCommande::VueCommande(const Contexte &contexte, QWidget *parent)
                        "destination restent"));
     reinitialiser_->setAccessibleDescription(
         QStringLiteral("Quantités, colis pesé et pays de livraison ; l’emballage et la destination restent"));
+    Raccourcis::presser(reinitialiser_, Raccourcis::Geste::reinitialiser);
     enTete_->ajouter(reinitialiser_);
     TailleDuTexte::suivre(recapitulatif_,
                           [this] { recapitulatif_->setMaximumWidth(Theme::aLaTaille(panneauMaximum)); });
 
-    Pile::rangee(this, {},
-                 {Partage::entre(colonneDesLivres(), recapitulatif_, recapitulatif_, Theme::aLaTaille(panneauIdeal))});
+    livres_ = colonneDesLivres();
+    Pile::rangee(this, {}, {Partage::entre(livres_, recapitulatif_, recapitulatif_, Theme::aLaTaille(panneauIdeal))});
 
     connect(reinitialiser_, &QPushButton::clicked, this, &VueCommande::vider);
     connect(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, this, &VueCommande::rendre);
@@ -85,6 +87,12 @@ VueCommande::VueCommande(const Contexte &contexte, QWidget *parent)
     connect(&contexte_.jour, &JourCourant::change, this, &VueCommande::actualiser);
     actualiser();
     annonce_.stop();
+}
+
+QList<EcranDeRubrique::Zone> VueCommande::zones()
+{
+    QWidget *couverture = grille_->arret();
+    return {{livres_, couverture ? couverture : livres_}, {recapitulatif_, recapitulatif_}};
 }
 
 QWidget *VueCommande::colonneDesLivres()

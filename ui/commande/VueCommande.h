@@ -23,6 +23,7 @@ class VueCommande : public EcranDeRubrique
 
 public:
     explicit VueCommande(const Contexte &contexte, QWidget *parent = nullptr);
+    [[nodiscard]] QList<Zone> zones() override;
 
 private:
     QWidget *colonneDesLivres();
@@ -41,6 +42,7 @@ private:
     QPushButton *reinitialiser_;
     SelecteurSite *selecteur_;
     GrilleLivres *grille_;
+    QWidget *livres_; // the column around it
     EtatVide *sansLivre_;
     Recapitulatif *recapitulatif_;
     QString resume_; // as announced

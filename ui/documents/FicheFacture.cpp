@@ -15,6 +15,7 @@
 #include "documents/AdressePostale.h"
 #include "textes/TextesDocuments.h"
 #include "ui/Contexte.h"
+#include "ui/Raccourcis.h"
 #include "ui/documents/ApercuFacture.h"
 #include "ui/documents/FactureAgrandie.h"
 #include "ui/documents/ImpressionFacture.h"
@@ -112,6 +113,8 @@ QWidget *FicheFacture::sorties()
     QPushButton *enregistrer =
         Boutons::deFeuille(QStringLiteral("Enregistrer en PDF…"), QStringLiteral("square.and.arrow.down"));
     Boutons::rendrePrincipal(imprimer);
+    Raccourcis::presser(imprimer, Raccourcis::Geste::imprimer);
+    Raccourcis::presser(enregistrer, Raccourcis::Geste::enregistrer);
     connect(imprimer, &QPushButton::clicked, this, &FicheFacture::imprimer);
     connect(enregistrer, &QPushButton::clicked, this, &FicheFacture::enregistrer);
 

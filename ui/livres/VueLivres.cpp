@@ -59,8 +59,8 @@ VueLivres::VueLivres(const Contexte &contexte, QWidget *parent)
       volet_(new VoletLivres(contexte.catalogue, contexte.images)),
       fiche_(new FicheLivre(contexte.images)),
       echec_(new Alerte),
-      annuler_(creerBouton(QStringLiteral("arrow.uturn.backward"), QKeySequence::Undo)),
-      retablir_(creerBouton(QStringLiteral("arrow.uturn.forward"), QKeySequence::Redo)),
+      annuler_(creerBouton(QStringLiteral("arrow.uturn.backward"), Raccourcis::Geste::annuler)),
+      retablir_(creerBouton(QStringLiteral("arrow.uturn.forward"), Raccourcis::Geste::retablir)),
       lecture_(this)
 {
     lecture_.setSingleShot(true);
@@ -94,15 +94,16 @@ VueLivres::VueLivres(const Contexte &contexte, QWidget *parent)
     connect(&contexte_.catalogue, &Catalogue::change, this, &VueLivres::actualiser);
     connect(&contexte_.jour, &JourCourant::change, this, &VueLivres::actualiser);
     montrerAnnulation();
-    auto *chercher = new QShortcut(QKeySequence::Find, this);
+    auto *chercher = new QShortcut(this);
+    chercher->setKeys(Raccourcis::touches(Raccourcis::Geste::chercherUnLivre));
     connect(chercher, &QShortcut::activated, volet_, &VoletLivres::chercher);
 }
 
 // A button of the head, also reached by keys.
-QToolButton *VueLivres::creerBouton(const QString &symbole, QKeySequence::StandardKey touches)
+QToolButton *VueLivres::creerBouton(const QString &symbole, Raccourcis::Geste geste)
 {
     auto *action = new QAction(Icone::icone(symbole), {}, this);
-    action->setShortcuts(touches);
+    action->setShortcuts(Raccourcis::touches(geste));
     addAction(action);
     auto *bouton = new QToolButton;
     bouton->setDefaultAction(action);

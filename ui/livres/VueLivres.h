@@ -2,8 +2,8 @@
 
 #include "model/HistoriqueLivres.h"
 #include "ui/EcranDeRubrique.h"
+#include "ui/Raccourcis.h"
 
-#include <QKeySequence>
 #include <QTimer>
 
 #include <functional>
@@ -37,7 +37,7 @@ protected:
 private:
     QWidget *gauche();
     QWidget *droite();
-    QToolButton *creerBouton(const QString &symbole, QKeySequence::StandardKey touches);
+    QToolButton *creerBouton(const QString &symbole, Raccourcis::Geste geste);
     void actualiser();
     void montrerAnnulation();
     void tenter(const std::function<void()> &geste);

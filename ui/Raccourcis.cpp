@@ -1,0 +1,132 @@
+#include "ui/Raccourcis.h"
+
+#include "model/Enumeration.h"
+#include "ui/Rubriques.h"
+
+#include <QAbstractButton>
+#include <QShortcut>
+
+#include <algorithm>
+
+namespace Quillet {
+
+namespace {
+
+using Raccourcis::Geste;
+using Raccourcis::Groupe;
+using Raccourcis::Raccourci;
+
+QString texteDe(const QKeySequence &touches)
+{
+    return touches.toString(QKeySequence::NativeText);
+}
+
+Groupe partout()
+{
+    Groupe groupe{QStringLiteral("Partout"), {}};
+    for (const Rubrique rubrique : tous<Rubrique>) {
+        const TraitsDeRubrique t = traits(rubrique);
+        const QKeySequence touches(Qt::CTRL | t.touches.front());
+        groupe.raccourcis.append({Geste::duControle, {touches}, QStringLiteral("Écran %1").arg(t.libelle)});
+    }
+    groupe.raccourcis += QList<Raccourci>{
+        {Geste::zoneSuivante, {Qt::Key_F6}, QStringLiteral("Partie suivante de la fenêtre")},
+        {Geste::zonePrecedente, {Qt::SHIFT | Qt::Key_F6}, QStringLiteral("Partie précédente de la fenêtre")},
+        {Geste::duControle,
+         {Qt::Key_Tab, Qt::SHIFT | Qt::Key_Tab},
+         QStringLiteral("D’un champ ou d’un bouton à l’autre")},
+        {Geste::duControle, {Qt::Key_Space}, QStringLiteral("Presser le bouton")},
+        {Geste::duControle,
+         {Qt::Key_Escape},
+         QStringLiteral("Fermer une feuille ; dans un prix ou un poids, rendre la valeur d’avant")},
+        {Geste::aide, {Qt::Key_F1, Qt::Key_Question}, QStringLiteral("Raccourcis clavier")},
+        {Geste::quitter, {Qt::CTRL | Qt::Key_Q}, QStringLiteral("Quitter")},
+    };
+    return groupe;
+}
+
+Groupe surUneCouverture()
+{
+    return {
+        QStringLiteral("Sur une couverture"),
+        {{Geste::duControle,
+          {},
+          QStringLiteral("D’une couverture à l’autre"),
+          {QStringLiteral("←"), QStringLiteral("→"), QStringLiteral("↑"), QStringLiteral("↓")}},
+         {Geste::duControle, {Qt::Key_Home, Qt::Key_End}, QStringLiteral("La première, la dernière")},
+         {Geste::duControle,
+          {},
+          QStringLiteral("Le livre dont un mot du titre commence par ces lettres"),
+          {QStringLiteral("A…Z")}},
+         {Geste::duControle,
+          {},
+          QStringLiteral("Un exemplaire de plus"),
+          {QStringLiteral("+"), QStringLiteral("Espace"), QStringLiteral("Entrée")}},
+         {Geste::duControle, {}, QStringLiteral("Un exemplaire de moins"), {QStringLiteral("−")}},
+         {Geste::duControle, {}, QStringLiteral("Ce nombre d’exemplaires (1 puis 2 : douze)"), {QStringLiteral("0…9")}},
+         {Geste::duControle, {Qt::Key_Delete, Qt::Key_Backspace}, QStringLiteral("Aucun exemplaire")}}};
+}
+
+} // namespace
+
+QStringList Raccourcis::Raccourci::enTexte() const
+{
+    if (!dites.isEmpty())
+        return dites;
+    QStringList textes;
+    std::ranges::transform(touches, std::back_inserter(textes), texteDe);
+    return textes;
+}
+
+QList<Groupe> Raccourcis::table()
+{
+    return {partout(),
+            surUneCouverture(),
+            {QStringLiteral("Écran Commande"),
+             {{Geste::chercherUnPays, {Qt::CTRL | Qt::Key_L}, QStringLiteral("Chercher un pays")},
+              {Geste::repondre, {Qt::CTRL | Qt::Key_E}, QStringLiteral("Ouvrir la réponse")},
+              {Geste::reinitialiser, {Qt::CTRL | Qt::Key_R}, QStringLiteral("Tout réinitialiser")}}},
+            {QStringLiteral("Facture"),
+             {{Geste::imprimer, {Qt::CTRL | Qt::Key_P}, QStringLiteral("Imprimer la facture")},
+              {Geste::enregistrer, {Qt::CTRL | Qt::Key_S}, QStringLiteral("Enregistrer la facture en PDF")}}},
+            {QStringLiteral("Écran Livres"),
+             {{Geste::chercherUnLivre, {Qt::CTRL | Qt::Key_F}, QStringLiteral("Chercher un livre")},
+              {Geste::annuler, QKeySequence::keyBindings(QKeySequence::Undo), QStringLiteral("Annuler")},
+              {Geste::retablir, QKeySequence::keyBindings(QKeySequence::Redo), QStringLiteral("Rétablir")}}}};
+}
+
+namespace {
+
+Raccourci trouver(Geste geste)
+{
+    for (const Groupe &groupe : Raccourcis::table())
+        for (const Raccourci &raccourci : groupe.raccourcis)
+            if (raccourci.geste == geste)
+                return raccourci;
+    Q_UNREACHABLE();
+}
+
+} // namespace
+
+QList<QKeySequence> Raccourcis::touches(Geste geste)
+{
+    return trouver(geste).touches;
+}
+
+QString Raccourcis::infobulle(Geste geste)
+{
+    const Raccourci raccourci = trouver(geste);
+    return QStringLiteral("%1 (%2)").arg(raccourci.effet, raccourci.enTexte().constFirst());
+}
+
+void Raccourcis::presser(QAbstractButton *bouton, Geste geste)
+{
+    auto *raccourci = new QShortcut(bouton);
+    raccourci->setKeys(touches(geste));
+    raccourci->setAutoRepeat(false);
+    QObject::connect(raccourci, &QShortcut::activated, bouton, &QAbstractButton::click);
+    if (bouton->toolTip().isEmpty())
+        bouton->setToolTip(infobulle(geste));
+}
+
+} // namespace Quillet
