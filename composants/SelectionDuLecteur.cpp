@@ -4,7 +4,8 @@
 
 namespace Quillet {
 
-SelectionDuLecteur::SelectionDuLecteur(const QItemSelectionModel *lignes, QObject *parent) : QObject(parent)
+SelectionDuLecteur::SelectionDuLecteur(const QItemSelectionModel *lignes, QObject *parent)
+    : QObject(parent), lignes_(lignes)
 {
     connect(lignes, &QItemSelectionModel::selectionChanged, this, &SelectionDuLecteur::noter);
     connect(lignes, &QItemSelectionModel::currentChanged, this, [this] { ligne_ = QModelIndex(); });
@@ -19,7 +20,8 @@ void SelectionDuLecteur::noter(const QItemSelection &lignes)
 
 void SelectionDuLecteur::dire()
 {
-    if (ligne_.isValid())
+    if (ligne_.isValid()
+        && ligne_ != lignes_->currentIndex()) // a list that takes the focus may have a current row first
         emit prise(ligne_);
 }
 

@@ -24,6 +24,7 @@ private:
     void noter(const QItemSelection &lignes);
     void dire();
 
+    const QItemSelectionModel *lignes_;
     QPersistentModelIndex ligne_;
 };
 
