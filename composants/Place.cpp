@@ -7,8 +7,13 @@ namespace Quillet {
 
 QSize Place::surLEcran(const QWidget *fenetre)
 {
+    return de(fenetre->screen());
+}
+
+QSize Place::de(const QScreen *ecran)
+{
     constexpr QSize cadre(8, 40); // of common desktops, px
-    return fenetre->screen()->availableSize() - cadre;
+    return ecran->availableSize() - cadre;
 }
 
 } // namespace Quillet

@@ -2,13 +2,13 @@
 
 #include "composants/LecteurDEcran.h"
 #include "composants/Libelle.h"
-#include "composants/Partage.h"
 #include "composants/Pile.h"
 #include "composants/Place.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
 #include "model/Enumeration.h"
 #include "textes/TextesTarifs.h"
+#include "ui/Colonnes.h"
 #include "ui/Contexte.h"
 #include "ui/EcranDeRubrique.h"
 #include "ui/ListeRubriques.h"
@@ -65,7 +65,9 @@ ContenuPrincipal::ContenuPrincipal(const Contexte &contexte, QWidget *parent)
       ecrans_(tous<Rubrique>.size(), nullptr)
 {
     QWidget *barre = barreLaterale();
-    Pile::rangee(this, {}, {Partage::entre(barre, detail_, barre, Theme::aLaTaille(barreIdeale))});
+    Pile::rangee(this, {},
+                 {Colonnes::entre(barre, detail_, barre, Theme::aLaTaille(barreIdeale), QStringLiteral("rubriques"),
+                                  contexte.preferences)});
 
     connect(rubriques_, &QListWidget::itemSelectionChanged, this, &ContenuPrincipal::changerDEcran);
     connect(&contexte_.catalogue, &Catalogue::change, this, &ContenuPrincipal::actualiser);

@@ -3,8 +3,11 @@
 #include "composants/Place.h"
 #include "composants/Theme.h"
 #include "model/Enumeration.h"
+#include "ui/Colonnes.h"
 #include "ui/ContenuPrincipal.h"
+#include "ui/Contexte.h"
 #include "ui/FeuilleRaccourcis.h"
+#include "ui/PlaceDeLaFenetre.h"
 #include "ui/Raccourcis.h"
 #include "ui/misesajour/FeuilleMiseAJour.h"
 #include "watch/MisesAJour.h"
@@ -14,6 +17,7 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScreen>
 #include <QShortcut>
 #include <QTimer>
 
@@ -28,10 +32,21 @@ namespace {
 
 constexpr QSize contenuParDefaut(1320, 860);
 constexpr auto apresLaPremiereImage = 150ms;
+const QString clePlace = QStringLiteral("fenetre");
+
+// What a window may take of each, the first one's first.
+QList<QRect> placesDesEcrans()
+{
+    QList<QRect> places;
+    for (const QScreen *ecran : QGuiApplication::screens())
+        places.append({ecran->availableGeometry().topLeft(), Place::de(ecran)});
+    return places;
+}
 
 } // namespace
 
-Fenetre::Fenetre(const Contexte &contexte, MisesAJour &misesAJour) : contenu_(new ContenuPrincipal(contexte))
+Fenetre::Fenetre(const Contexte &contexte, MisesAJour &misesAJour)
+    : preferences_(contexte.preferences), contenu_(new ContenuPrincipal(contexte))
 {
     setObjectName(QStringLiteral("quillet"));
     setWindowTitle(QStringLiteral("Quillet"));
@@ -40,6 +55,34 @@ Fenetre::Fenetre(const Contexte &contexte, MisesAJour &misesAJour) : contenu_(ne
     creerRaccourcis();
     qApp->installEventFilter(this);
     resize(tailleParDefaut().boundedTo(Place::surLEcran(this)).expandedTo(minimumSizeHint()));
+    reprendreLaPlace();
+}
+
+void Fenetre::reprendreLaPlace()
+{
+    ouverture_ = QRect(pos(), size());
+    const auto place = PlaceDeLaFenetre::lue(preferences_.texte(clePlace));
+    const auto ecrans = placesDesEcrans();
+    if (!place || ecrans.isEmpty())
+        return;
+    ouverture_ = place->dans(ecrans, minimumSizeHint());
+    move(ouverture_.topLeft());
+    resize(ouverture_.size());
+    setWindowState(windowState().setFlag(Qt::WindowMaximized, place->agrandie));
+}
+
+void Fenetre::retenirLaPlace()
+{
+    const PlaceDeLaFenetre place{isMaximized() ? ouverture_ : QRect(pos(), size()), isMaximized()};
+    try {
+        if (preferences_.chercher(clePlace).perte)
+            return; // a file to be mended is left to the seller
+        if (preferences_.texte(clePlace) != place.texte())
+            preferences_.ecrire(clePlace, place.texte());
+        Colonnes::retenir(this, preferences_);
+    } catch (const ErreurStockage &) {
+        return; // no reason to keep a window open: the next one opens as this one did
+    }
 }
 
 QSize Fenetre::tailleParDefaut() const
@@ -61,7 +104,10 @@ bool Fenetre::eventFilter(QObject *objet, QEvent *evenement)
 // What could not be saved stays in sight; closing again leaves it.
 void Fenetre::closeEvent(QCloseEvent *evenement)
 {
-    evenement->setAccepted(contenu_->conclure());
+    const bool conclu = contenu_->conclure();
+    evenement->setAccepted(conclu);
+    if (conclu)
+        retenirLaPlace();
 }
 
 void Fenetre::showEvent(QShowEvent *evenement)

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QRect>
 
 namespace Quillet {
 
 class ContenuPrincipal;
 class MisesAJour;
+class Preferences;
 struct Contexte;
 
 // The one window and its menu. Closing it ends the program.
@@ -36,8 +38,12 @@ private:
     void creerMenu(MisesAJour &misesAJour);
     void creerRaccourcis();
     void aPropos();
+    void reprendreLaPlace();
+    void retenirLaPlace();
 
+    Preferences &preferences_;
     ContenuPrincipal *contenu_;
+    QRect ouverture_; // as it opened, but for filling the screen
     bool dejaMontree_ = false;
 };
 

@@ -3,12 +3,14 @@
 #include "ui/ContenuPrincipal.h"
 #include "ui/ControlePoste.h"
 #include "ui/InstanceUnique.h"
+#include "ui/PlaceDeLaFenetre.h"
 
 #include <QApplication>
 #include <QLineEdit>
 #include <QLocalSocket>
 #include <QMenuBar>
 #include <QSignalSpy>
+#include <QSplitter>
 #include <QThread>
 
 #include <algorithm>
@@ -38,6 +40,76 @@ private slots:
         fenetre.resize(100, 100);
         QTRY_COMPARE(fenetre.contenu()->size(), QSize(980, 640));
         QVERIFY(fenetre.contenu()->minimumSizeHint().width() <= 980); // nothing in it asks for more
+    }
+
+    void placesRelues()
+    {
+        for (const auto &[nom, texte, place] : Rangees<QString, std::optional<PlaceDeLaFenetre>>{
+                 {"place", "10 -20 1200 800", PlaceDeLaFenetre{{10, -20, 1200, 800}}},
+                 {"agrandie", "10 20 1200 800 agrandie", PlaceDeLaFenetre{{10, 20, 1200, 800}, true}},
+                 {"rien", "", {}},
+                 {"trop peu", "10 20 1200", {}},
+                 {"mot", "10 20 mille 800", {}},
+                 {"vide", "10 20 0 800", {}},
+                 {"démesuré", "10 20 1200 99999", {}},
+                 {"autre état", "10 20 1200 800 réduite", {}},
+             }) {
+            const Rangee rangee(nom);
+            QVERIFY(PlaceDeLaFenetre::lue(texte) == place);
+            QCOMPARE(place ? place->texte() : texte, texte);
+        }
+    }
+
+    // Two screens side by side, of which the second may be gone.
+    void placesSurLesEcrans()
+    {
+        const QRect premier(0, 0, 1600, 900);
+        const QRect second(1600, 0, 2000, 1200);
+        for (const auto &[nom, ecrans, voulue, obtenue] : Rangees<QList<QRect>, QRect, QRect>{
+                 {"telle quelle", {premier, second}, {1700, 50, 1300, 800}, {1700, 50, 1300, 800}},
+                 {"écran débranché", {premier}, {1700, 50, 1300, 800}, {300, 50, 1300, 800}},
+                 {"à cheval", {premier, second}, {1500, 0, 1300, 800}, {1600, 0, 1300, 800}},
+                 {"trop grande", {premier}, {100, 100, 1900, 1100}, {0, 0, 1600, 900}},
+                 {"trop petite", {premier}, {50, 60, 10, 10}, {50, 60, 980, 640}},
+                 {"au-dessus", {premier}, {50, -500, 1000, 700}, {50, 0, 1000, 700}},
+             }) {
+            const Rangee rangee(nom);
+            QCOMPARE(PlaceDeLaFenetre{voulue}.dans(ecrans, {980, 640}), obtenue);
+        }
+    }
+
+    void dUnDemarrageALAutre()
+    {
+        BancEcran banc;
+        const Preferences preferences = banc.donnees.preferences();
+        banc.demarrer();
+        banc.app->fenetre().resize(1000, 700);
+        auto *colonnes = banc.app->fenetre().findChild<QSplitter *>("colonne.rubriques");
+        QTest::mouseClick(colonnes->handle(1), Qt::LeftButton); // moved by nobody
+        banc.app->fenetre().close();
+        QVERIFY(preferences.texte("colonne.rubriques").isEmpty());
+        banc.demarrer();
+        QCOMPARE(banc.app->fenetre().size(), QSize(1000, 700));
+        colonnes = banc.app->fenetre().findChild<QSplitter *>("colonne.rubriques");
+        QWidget *poignee = colonnes->handle(1);
+        QTest::mousePress(poignee, Qt::LeftButton, {}, {1, 100});
+        QTest::mouseMove(poignee, {31, 100});
+        QTest::mouseRelease(poignee, Qt::LeftButton, {}, {31, 100});
+        const int large = colonnes->sizes().constFirst();
+        QVERIFY(large > 220);
+        banc.app->fenetre().showMaximized();
+        banc.app->fenetre().close();
+        banc.demarrer();
+        QVERIFY(banc.app->fenetre().isMaximized());
+        colonnes = banc.app->fenetre().findChild<QSplitter *>("colonne.rubriques");
+        QTRY_COMPARE(colonnes->sizes().constFirst(), large);
+
+        QFile fichier(preferences.fichier()); // damaged: it is the seller's to mend, with the invoices' numbers in it
+        QVERIFY(fichier.open(QIODevice::WriteOnly) && fichier.write("abîmé") > 0);
+        fichier.close();
+        banc.app->fenetre().close();
+        QVERIFY(fichier.open(QIODevice::ReadOnly));
+        QCOMPARE(fichier.readAll(), "abîmé");
     }
 
     void raccourcis()

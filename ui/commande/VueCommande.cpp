@@ -5,12 +5,12 @@
 #include "composants/EtatVide.h"
 #include "composants/Icone.h"
 #include "composants/Lien.h"
-#include "composants/Partage.h"
 #include "composants/Pile.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
 #include "documents/ReponseType.h"
 #include "textes/TextesRecapitulatif.h"
+#include "ui/Colonnes.h"
 #include "ui/Contexte.h"
 #include "ui/Raccourcis.h"
 #include "ui/commande/Couverture.h"
@@ -66,7 +66,9 @@ VueCommande::VueCommande(const Contexte &contexte, QWidget *parent)
                           [this] { recapitulatif_->setMaximumWidth(Theme::aLaTaille(panneauMaximum)); });
 
     livres_ = colonneDesLivres();
-    Pile::rangee(this, {}, {Partage::entre(livres_, recapitulatif_, recapitulatif_, Theme::aLaTaille(panneauIdeal))});
+    Pile::rangee(this, {},
+                 {Colonnes::entre(livres_, recapitulatif_, recapitulatif_, Theme::aLaTaille(panneauIdeal),
+                                  QStringLiteral("commande"), contexte.preferences)});
 
     connect(reinitialiser_, &QPushButton::clicked, this, &VueCommande::vider);
     connect(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, this, &VueCommande::rendre);

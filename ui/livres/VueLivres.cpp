@@ -6,12 +6,12 @@
 #include "composants/EnTete.h"
 #include "composants/EtatVide.h"
 #include "composants/Icone.h"
-#include "composants/Partage.h"
 #include "composants/Pile.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
 #include "textes/TextesBoutons.h"
 #include "textes/TextesGestes.h"
+#include "ui/Colonnes.h"
 #include "ui/Contexte.h"
 #include "ui/livres/FicheLivre.h"
 #include "ui/livres/RetourAuxValeurs.h"
@@ -69,7 +69,7 @@ VueLivres::VueLivres(const Contexte &contexte, QWidget *parent)
     enTete_->setLargeur(largeurDePage - marge);
     QWidget *liste = gauche();
     // A splitter sets its own widest width.
-    QWidget *colonnes = Pile::enRangee({}, {Partage::entre(liste, droite(), liste, Theme::aLaTaille(largeurDuVolet))});
+    QWidget *colonnes = Pile::enRangee({}, {Colonnes::entre(liste, droite(), liste, Theme::aLaTaille(largeurDuVolet), QStringLiteral("livres"), contexte.preferences)});
     TailleDuTexte::suivre(colonnes, [colonnes] { colonnes->setMaximumWidth(Theme::aLaTaille(largeurDePage) + marge); });
     QBoxLayout *page = Pile::rangee({.espace = 0}, {Pile::reste(0), {colonnes, 1}, Pile::reste(0)});
     Pile::colonne(this, {.espace = 0}, {enTete_, {page, 1}});
