@@ -215,7 +215,7 @@ void CarteLivre::paintEvent(QPaintEvent *)
     const QString prix = Format::euros(livre_.prix);
     peintre.setFont(Chiffres::ajustee(policeDuPrix(), prix, apres - apresLePrix - bas.left()));
     peintre.setPen(livre_.disponible ? texte : secondaire);
-    peintre.drawText(bas, Qt::AlignLeft | Qt::AlignVCenter, prix);
+    Chiffres::peindre(peintre, bas, Qt::AlignLeft, prix);
 }
 
 } // namespace Quillet

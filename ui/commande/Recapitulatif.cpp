@@ -77,7 +77,7 @@ void Recapitulatif::montrer(const Calcul &calcul)
     lien_->montrer(calcul);
     documents_->montrer(calcul);
     reponse_->montrer(calcul);
-    pied_->montrer(calcul, suivi_.suivante(), langueAcheteur(contexte_.bon(), calcul));
+    pied_->montrer(calcul, suivi_.suivante(), langueAcheteur(contexte_.bon(), calcul.destination));
     pied_->montrerVidee(contexte_.commande.peutRendre());
     const bool vide = contexte_.bon().estVide();
     if (std::exchange(vide_, vide) != vide && vide)

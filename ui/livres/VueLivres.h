@@ -50,10 +50,10 @@ private:
     VoletLivres *volet_;
     FicheLivre *fiche_;
     Alerte *echec_;
-    QTimer lecture_; // runs while what has just failed has not been read yet
     QStackedWidget *place_ = nullptr;
     QToolButton *annuler_;
     QToolButton *retablir_;
+    QTimer lecture_; // runs while what has just failed has not been read yet
 };
 
 } // namespace Quillet
