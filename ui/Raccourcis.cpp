@@ -80,19 +80,22 @@ QStringList Raccourcis::Raccourci::enTexte() const
 
 QList<Groupe> Raccourcis::table()
 {
-    return {partout(),
-            surUneCouverture(),
-            {QStringLiteral("Écran Commande"),
-             {{Geste::chercherUnPays, {Qt::CTRL | Qt::Key_L}, QStringLiteral("Chercher un pays")},
-              {Geste::repondre, {Qt::CTRL | Qt::Key_E}, QStringLiteral("Ouvrir la réponse")},
-              {Geste::reinitialiser, {Qt::CTRL | Qt::Key_R}, QStringLiteral("Tout réinitialiser")}}},
-            {QStringLiteral("Facture"),
-             {{Geste::imprimer, {Qt::CTRL | Qt::Key_P}, QStringLiteral("Imprimer la facture")},
-              {Geste::enregistrer, {Qt::CTRL | Qt::Key_S}, QStringLiteral("Enregistrer la facture en PDF")}}},
-            {QStringLiteral("Écran Livres"),
-             {{Geste::chercherUnLivre, {Qt::CTRL | Qt::Key_F}, QStringLiteral("Chercher un livre")},
-              {Geste::annuler, QKeySequence::keyBindings(QKeySequence::Undo), QStringLiteral("Annuler")},
-              {Geste::retablir, QKeySequence::keyBindings(QKeySequence::Redo), QStringLiteral("Rétablir")}}}};
+    return {
+        partout(),
+        surUneCouverture(),
+        {QStringLiteral("Écran Commande"),
+         {{Geste::chercherUnPays, {Qt::CTRL | Qt::Key_L}, QStringLiteral("Chercher un pays")},
+          {Geste::repondre, {Qt::CTRL | Qt::Key_E}, QStringLiteral("Ouvrir la réponse")},
+          {Geste::reinitialiser, {Qt::CTRL | Qt::Key_R}, QStringLiteral("Tout réinitialiser")},
+          {Geste::rendre, QKeySequence::keyBindings(QKeySequence::Undo), QStringLiteral("Rendre la commande vidée")},
+          {Geste::copierLeSuivant, {Qt::CTRL | Qt::SHIFT | Qt::Key_C}, QStringLiteral("Copier le suivant")}}},
+        {QStringLiteral("Facture"),
+         {{Geste::imprimer, {Qt::CTRL | Qt::Key_P}, QStringLiteral("Imprimer la facture")},
+          {Geste::enregistrer, {Qt::CTRL | Qt::Key_S}, QStringLiteral("Enregistrer la facture en PDF")}}},
+        {QStringLiteral("Écran Livres"),
+         {{Geste::chercherUnLivre, {Qt::CTRL | Qt::Key_F}, QStringLiteral("Chercher un livre")},
+          {Geste::annuler, QKeySequence::keyBindings(QKeySequence::Undo), QStringLiteral("Annuler")},
+          {Geste::retablir, QKeySequence::keyBindings(QKeySequence::Redo), QStringLiteral("Rétablir")}}}};
 }
 
 namespace {

@@ -16,6 +16,8 @@ enum class Geste {
     chercherUnPays,
     repondre,
     reinitialiser,
+    rendre,
+    copierLeSuivant,
     imprimer,
     enregistrer,
     chercherUnLivre,

@@ -6,6 +6,7 @@
 #include "composants/Pile.h"
 #include "composants/Theme.h"
 #include "textes/TextesRecapitulatif.h"
+#include "ui/Raccourcis.h"
 #include "ui/commande/LigneDuTotal.h"
 
 #include <QPainter>
@@ -38,7 +39,7 @@ PiedDeCommande::PiedDeCommande(QWidget *parent)
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::AlternateBase);
 
-    annuler_->setToolTip(QStringLiteral("Rendre la commande vidée (Ctrl+Z)"));
+    annuler_->setToolTip(Raccourcis::infobulle(Raccourcis::Geste::rendre));
     annuler_->setAccessibleName(QStringLiteral("Annuler, rendre la commande vidée"));
     auto *videe = new Libelle(QStringLiteral("Commande vidée"));
     videe->setWordWrap(true);

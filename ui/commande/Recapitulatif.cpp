@@ -63,6 +63,11 @@ Recapitulatif::Recapitulatif(const Contexte &contexte, const Suivi &suivi, QWidg
     connect(pied_, &PiedDeCommande::annulationDemandee, this, &Recapitulatif::annulationDemandee);
 }
 
+QList<EcranDeRubrique::Zone> Recapitulatif::zones() const
+{
+    return {{defilement_, defilement_}, {pied_, pied_}};
+}
+
 QSize Recapitulatif::minimumSizeHint() const
 {
     return QWidget::minimumSizeHint().expandedTo({largeurMinimale, 0});

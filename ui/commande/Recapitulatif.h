@@ -2,6 +2,7 @@
 
 #include "model/Calcul.h"
 #include "model/Suivi.h"
+#include "ui/EcranDeRubrique.h"
 #include "ui/documents/OngletDocuments.h"
 
 #include <QWidget>
@@ -30,6 +31,8 @@ public:
     Recapitulatif(const Contexte &contexte, const Suivi &suivi, QWidget *parent = nullptr);
 
     void montrer(const Calcul &calcul);
+    // Its page, then its foot.
+    [[nodiscard]] QList<EcranDeRubrique::Zone> zones() const;
     // The focus goes to what undoes the emptying.
     void proposerDAnnuler();
     [[nodiscard]] QSize minimumSizeHint() const override;

@@ -10,6 +10,7 @@
 #include "documents/ReponseType.h"
 #include "model/Commande.h"
 #include "textes/TextesRecapitulatif.h"
+#include "ui/Raccourcis.h"
 #include "ui/reponse/ChoixLangue.h"
 
 #include <QLineEdit>
@@ -43,9 +44,8 @@ SectionLien::SectionLien(const Donnees &donnees, Commande &commande, const Suivi
 {
     auto *creer =
         new QPushButton(Icone::icone(QStringLiteral("arrow.up.forward.app")), TextesRecapitulatif::creationDuLien());
-    const QKeySequence touches(Qt::CTRL | Qt::SHIFT | Qt::Key_C);
     auto *copier = new QPushButton(Icone::icone(QStringLiteral("doc.on.doc")), QStringLiteral("Copier le suivant"));
-    copier->setToolTip(QStringLiteral("Copier le suivant (%1)").arg(touches.toString(QKeySequence::NativeText)));
+    copier->setToolTip(Raccourcis::infobulle(Raccourcis::Geste::copierLeSuivant));
     tour_->setAlignment(Qt::AlignHCenter);
     aLaSuite_ = Pile::enColonne({.espace = 4}, {copier, tour_});
     groupe()->ajouter(new Formulaire::RangeeHaute(QStringLiteral("Langue de l’acheteur"), langue_));
@@ -63,7 +63,9 @@ SectionLien::SectionLien(const Donnees &donnees, Commande &commande, const Suivi
     });
     connect(creer, &QPushButton::clicked, this, &SectionLien::creationDemandee);
     connect(copier, &QPushButton::clicked, this, &SectionLien::copierLeSuivant);
-    connect(new QShortcut(touches, this), &QShortcut::activated, this, &SectionLien::copierLeSuivant);
+    auto *raccourci = new QShortcut(this); // also while the button is hidden
+    raccourci->setKeys(Raccourcis::touches(Raccourcis::Geste::copierLeSuivant));
+    connect(raccourci, &QShortcut::activated, this, &SectionLien::copierLeSuivant);
     connect(pays_, &QLineEdit::textChanged, &commande_, &Commande::setPaysLivraison);
 }
 

@@ -71,7 +71,9 @@ VueCommande::VueCommande(const Contexte &contexte, QWidget *parent)
                                   QStringLiteral("commande"), contexte.preferences)});
 
     connect(reinitialiser_, &QPushButton::clicked, this, &VueCommande::vider);
-    connect(new QShortcut(QKeySequence::Undo, this), &QShortcut::activated, this, &VueCommande::rendre);
+    auto *raccourci = new QShortcut(this);
+    raccourci->setKeys(Raccourcis::touches(Raccourcis::Geste::rendre));
+    connect(raccourci, &QShortcut::activated, this, &VueCommande::rendre);
     connect(recapitulatif_, &Recapitulatif::annulationDemandee, this, [this] {
         reinitialiser_->setEnabled(true);
         reinitialiser_->setFocus(); // before the button that has it goes
@@ -94,7 +96,7 @@ VueCommande::VueCommande(const Contexte &contexte, QWidget *parent)
 QList<EcranDeRubrique::Zone> VueCommande::zones()
 {
     QWidget *couverture = grille_->arret();
-    return {{livres_, couverture ? couverture : livres_}, {recapitulatif_, recapitulatif_}};
+    return QList<Zone>{{livres_, couverture ? couverture : livres_}} + recapitulatif_->zones();
 }
 
 QWidget *VueCommande::colonneDesLivres()
