@@ -6,6 +6,7 @@
 #include "composants/Theme.h"
 
 #include <QAbstractEventDispatcher>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -18,12 +19,12 @@ namespace Quillet {
 
 namespace {
 
-bool aDuTexte(const QWidget *champ)
+QString texteDe(const QWidget *champ)
 {
     if (const auto *ligne = qobject_cast<const QLineEdit *>(champ))
-        return !ligne->text().isEmpty();
+        return ligne->text();
     const auto *zone = qobject_cast<const QPlainTextEdit *>(champ);
-    return zone && !zone->document()->isEmpty();
+    return zone ? zone->toPlainText() : QString();
 }
 
 } // namespace
@@ -31,6 +32,16 @@ bool aDuTexte(const QWidget *champ)
 Feuille::Feuille(const QString &titre, QWidget *parent) : QDialog(parent)
 {
     setWindowTitle(titre);
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget *, const QWidget *ici) {
+        if (ici && isAncestorOf(ici))
+            avant_ = texteDe(ici);
+    });
+}
+
+bool Feuille::aTape() const
+{
+    const QString texte = texteDe(focusWidget());
+    return !texte.isEmpty() && texte != avant_;
 }
 
 void Feuille::ouvrir()
@@ -76,7 +87,7 @@ void Feuille::prendreLaTaille(QSize taille)
 // On a button, Return presses it; anywhere else, the sheet's own command.
 void Feuille::keyPressEvent(QKeyEvent *evenement)
 {
-    if (evenement->key() == Qt::Key_Escape && aDuTexte(focusWidget())) {
+    if (evenement->key() == Qt::Key_Escape && aTape()) {
         setFocus();
         return;
     }

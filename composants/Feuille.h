@@ -28,8 +28,10 @@ protected:
 
 private:
     void finir();
+    [[nodiscard]] bool aTape() const; // in the field that has the focus, since it has it
 
     int boucles_ = 0; // that ran when it opened, the dialogs' own apart
+    QString avant_;   // what that field held before
 };
 
 } // namespace Quillet

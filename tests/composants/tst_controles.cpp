@@ -134,6 +134,8 @@ private slots:
             lignes->setPlainText(propose);
             QWidget *champ = zone ? static_cast<QWidget *>(lignes) : ligne;
             feuille.open();
+            if (!QTest::qWaitForWindowActive(&feuille))
+                return -1;
             champ->setFocus();
             QTest::keyClicks(champ, tape);
             int frappes = 0;
@@ -143,7 +145,8 @@ private slots:
         };
         for (const bool zone : {false, true}) {
             QCOMPARE(coups("", "Ada", zone), 2);
-            QCOMPARE(coups("2026-001", "", zone), 2);
+            QCOMPARE(coups("2026-001", "", zone), 1);
+            QCOMPARE(coups("2026-001", "b", zone), 2);
             QCOMPARE(coups("", "", zone), 1);
         }
     }
