@@ -21,6 +21,13 @@ QString texteDe(const QKeySequence &touches)
     return touches.toString(QKeySequence::NativeText);
 }
 
+// The platform's keys, of which the first is told: some keyboards have others.
+Raccourci standard(Geste geste, QKeySequence::StandardKey quoi, const QString &effet)
+{
+    const auto touches = QKeySequence::keyBindings(quoi);
+    return {geste, touches, effet, {texteDe(touches.value(0))}};
+}
+
 Groupe partout()
 {
     Groupe groupe{QStringLiteral("Partout"), {}};
@@ -38,7 +45,8 @@ Groupe partout()
         {Geste::duControle, {Qt::Key_Space}, QStringLiteral("Presser le bouton")},
         {Geste::duControle,
          {Qt::Key_Escape},
-         QStringLiteral("Fermer une feuille ; dans un prix ou un poids, rendre la valeur d’avant")},
+         QStringLiteral(
+             "Quitter le champ rempli, puis fermer la feuille ; à l’écran Livres, rendre la valeur d’avant")},
         {Geste::aide, {Qt::Key_F1, Qt::Key_Question}, QStringLiteral("Raccourcis clavier")},
         {Geste::quitter, {Qt::CTRL | Qt::Key_Q}, QStringLiteral("Quitter")},
     };
@@ -80,22 +88,21 @@ QStringList Raccourcis::Raccourci::enTexte() const
 
 QList<Groupe> Raccourcis::table()
 {
-    return {
-        partout(),
-        surUneCouverture(),
-        {QStringLiteral("Écran Commande"),
-         {{Geste::chercherUnPays, {Qt::CTRL | Qt::Key_L}, QStringLiteral("Chercher un pays")},
-          {Geste::repondre, {Qt::CTRL | Qt::Key_E}, QStringLiteral("Ouvrir la réponse")},
-          {Geste::reinitialiser, {Qt::CTRL | Qt::Key_R}, QStringLiteral("Tout réinitialiser")},
-          {Geste::rendre, QKeySequence::keyBindings(QKeySequence::Undo), QStringLiteral("Rendre la commande vidée")},
-          {Geste::copierLeSuivant, {Qt::CTRL | Qt::SHIFT | Qt::Key_C}, QStringLiteral("Copier le suivant")}}},
-        {QStringLiteral("Facture"),
-         {{Geste::imprimer, {Qt::CTRL | Qt::Key_P}, QStringLiteral("Imprimer la facture")},
-          {Geste::enregistrer, {Qt::CTRL | Qt::Key_S}, QStringLiteral("Enregistrer la facture en PDF")}}},
-        {QStringLiteral("Écran Livres"),
-         {{Geste::chercherUnLivre, {Qt::CTRL | Qt::Key_F}, QStringLiteral("Chercher un livre")},
-          {Geste::annuler, QKeySequence::keyBindings(QKeySequence::Undo), QStringLiteral("Annuler")},
-          {Geste::retablir, QKeySequence::keyBindings(QKeySequence::Redo), QStringLiteral("Rétablir")}}}};
+    return {partout(),
+            surUneCouverture(),
+            {QStringLiteral("Écran Commande"),
+             {{Geste::chercherUnPays, {Qt::CTRL | Qt::Key_L}, QStringLiteral("Chercher un pays")},
+              {Geste::repondre, {Qt::CTRL | Qt::Key_E}, QStringLiteral("Ouvrir la réponse")},
+              {Geste::reinitialiser, {Qt::CTRL | Qt::Key_R}, QStringLiteral("Tout réinitialiser")},
+              standard(Geste::rendre, QKeySequence::Undo, QStringLiteral("Rétablir la commande vidée")),
+              {Geste::copierLeSuivant, {Qt::CTRL | Qt::SHIFT | Qt::Key_C}, QStringLiteral("Copier le suivant")}}},
+            {QStringLiteral("Facture"),
+             {{Geste::imprimer, {Qt::CTRL | Qt::Key_P}, QStringLiteral("Imprimer la facture")},
+              {Geste::enregistrer, {Qt::CTRL | Qt::Key_S}, QStringLiteral("Enregistrer la facture en PDF")}}},
+            {QStringLiteral("Écran Livres"),
+             {{Geste::chercherUnLivre, {Qt::CTRL | Qt::Key_F}, QStringLiteral("Chercher un livre")},
+              standard(Geste::annuler, QKeySequence::Undo, QStringLiteral("Annuler")),
+              standard(Geste::retablir, QKeySequence::Redo, QStringLiteral("Rétablir"))}}};
 }
 
 namespace {
@@ -122,9 +129,9 @@ QString Raccourcis::infobulle(Geste geste)
     return QStringLiteral("%1 (%2)").arg(raccourci.effet, raccourci.enTexte().constFirst());
 }
 
-void Raccourcis::presser(QAbstractButton *bouton, Geste geste)
+void Raccourcis::presser(QAbstractButton *bouton, Geste geste, QWidget *page)
 {
-    auto *raccourci = new QShortcut(bouton);
+    auto *raccourci = new QShortcut(page ? page : bouton);
     raccourci->setKeys(touches(geste));
     raccourci->setAutoRepeat(false);
     QObject::connect(raccourci, &QShortcut::activated, bouton, &QAbstractButton::click);

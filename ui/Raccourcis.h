@@ -4,6 +4,7 @@
 #include <QStringList>
 
 class QAbstractButton;
+class QWidget;
 
 // The keys of the program, in one place: windows bind them, a sheet lists them, tooltips end with them.
 namespace Quillet::Raccourcis {
@@ -48,7 +49,7 @@ QList<Groupe> table();
 QList<QKeySequence> touches(Geste geste);
 // "Ouvrir la réponse (Ctrl+E)".
 QString infobulle(Geste geste);
-// Has the keys press the button, as long as it is in sight; a tooltip that it has is left as it is.
-void presser(QAbstractButton *bouton, Geste geste);
+// Has the keys press the button as long as it is in sight, or else `page`; a tooltip that it has is left as it is.
+void presser(QAbstractButton *bouton, Geste geste, QWidget *page = nullptr);
 
 } // namespace Quillet::Raccourcis

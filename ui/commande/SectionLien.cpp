@@ -15,7 +15,6 @@
 
 #include <QLineEdit>
 #include <QPushButton>
-#include <QShortcut>
 
 namespace Quillet {
 
@@ -45,7 +44,6 @@ SectionLien::SectionLien(const Donnees &donnees, Commande &commande, const Suivi
     auto *creer =
         new QPushButton(Icone::icone(QStringLiteral("arrow.up.forward.app")), TextesRecapitulatif::creationDuLien());
     auto *copier = new QPushButton(Icone::icone(QStringLiteral("doc.on.doc")), QStringLiteral("Copier le suivant"));
-    copier->setToolTip(Raccourcis::infobulle(Raccourcis::Geste::copierLeSuivant));
     tour_->setAlignment(Qt::AlignHCenter);
     aLaSuite_ = Pile::enColonne({.espace = 4}, {copier, tour_});
     groupe()->ajouter(new Formulaire::RangeeHaute(QStringLiteral("Langue de l’acheteur"), langue_));
@@ -63,9 +61,7 @@ SectionLien::SectionLien(const Donnees &donnees, Commande &commande, const Suivi
     });
     connect(creer, &QPushButton::clicked, this, &SectionLien::creationDemandee);
     connect(copier, &QPushButton::clicked, this, &SectionLien::copierLeSuivant);
-    auto *raccourci = new QShortcut(this); // also while the button is hidden
-    raccourci->setKeys(Raccourcis::touches(Raccourcis::Geste::copierLeSuivant));
-    connect(raccourci, &QShortcut::activated, this, &SectionLien::copierLeSuivant);
+    Raccourcis::presser(copier, Raccourcis::Geste::copierLeSuivant);
     connect(pays_, &QLineEdit::textChanged, &commande_, &Commande::setPaysLivraison);
 }
 

@@ -113,8 +113,8 @@ QWidget *FicheFacture::sorties()
     QPushButton *enregistrer =
         Boutons::deFeuille(QStringLiteral("Enregistrer en PDF…"), QStringLiteral("square.and.arrow.down"));
     Boutons::rendrePrincipal(imprimer);
-    Raccourcis::presser(imprimer, Raccourcis::Geste::imprimer);
-    Raccourcis::presser(enregistrer, Raccourcis::Geste::enregistrer);
+    Raccourcis::presser(imprimer, Raccourcis::Geste::imprimer, this); // also over the enlarged page
+    Raccourcis::presser(enregistrer, Raccourcis::Geste::enregistrer, this);
     connect(imprimer, &QPushButton::clicked, this, &FicheFacture::imprimer);
     connect(enregistrer, &QPushButton::clicked, this, &FicheFacture::enregistrer);
 
@@ -195,6 +195,8 @@ void FicheFacture::completer()
 
 void FicheFacture::imprimer()
 {
+    if (!facture_)
+        return;
     const bool joignables = ImpressionFacture::imprimantesJoignables(this, patience_);
     if (!isVisible())
         return; // the sheet was closed meanwhile
@@ -217,10 +219,12 @@ void FicheFacture::enregistrer()
         chemin = ImpressionFacture::enregistrer(facture, contexte_.preferences.texte(cleDossier), permise, this);
         return chemin.has_value();
     });
+    if (chemin) { // also where the number could not be kept
+        fichier_ = *chemin;
+        ouvertures_->show();
+    }
     if (!faite)
         return;
-    fichier_ = *chemin;
-    ouvertures_->show();
     try {
         contexte_.preferences.ecrire(cleDossier, QFileInfo(*chemin).absolutePath());
     } catch (const ErreurStockage &erreur) {
@@ -238,6 +242,7 @@ bool FicheFacture::emettre(const QString &issue, const std::function<bool(const 
     try {
         if (!emission_.emettre(facture, vendeur_, sortir))
             return false;
+        completer();
         direLIssue(issue.arg(facture.numero));
         return true;
     } catch (const Echec &echec) {
