@@ -2,25 +2,21 @@
 
 namespace Quillet {
 
-namespace {
-
-// Another language for the reply, or a book taken and put back, does not make another order.
-BonDeCommande essentiel(BonDeCommande bon)
-{
-    bon.langue.reset();
-    bon.quantites.removeIf([](const auto &entree) { return entree.value() == 0; });
-    return bon;
-}
-
-} // namespace
-
 void MemoireFactures::suivre(const BonDeCommande &bon)
 {
-    if (essentiel(bon) != essentiel(bon_)) {
-        acheteur_.clear();
-        partie_.clear();
-    }
-    bon_ = bon;
+    vente_ = bon.vente();
+    if (bon.estVide()) // the next buyer may want the same
+        notes_ = {};
+}
+
+QString MemoireFactures::acheteur() const
+{
+    return notes_.vente == vente_ ? notes_.acheteur : QString();
+}
+
+QString MemoireFactures::partie() const
+{
+    return notes_.vente == vente_ ? notes_.partie : QString();
 }
 
 bool MemoireFactures::estPartie(const QString &numero, Vendeur vendeur) const
@@ -28,9 +24,14 @@ bool MemoireFactures::estPartie(const QString &numero, Vendeur vendeur) const
     return parties_.contains({vendeur, numero});
 }
 
+void MemoireFactures::noterAcheteur(const QString &acheteur)
+{
+    notes_ = {vente_, acheteur, partie()};
+}
+
 void MemoireFactures::noterDepart(const QString &numero, Vendeur vendeur)
 {
-    partie_ = numero;
+    notes_ = {vente_, acheteur(), numero};
     parties_.append({vendeur, numero});
 }
 

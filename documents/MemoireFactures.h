@@ -13,22 +13,27 @@ namespace Quillet {
 class MemoireFactures
 {
 public:
-    // To be told of each change of the order: what was remembered of another is forgotten.
+    // To be told of each change of the order: what is noted of one is not told of another, nor once it was emptied.
     void suivre(const BonDeCommande &bon);
 
     // Of the order: the buyer as typed, and the number of the last invoice that left for it; either may be empty.
-    [[nodiscard]] const QString &acheteur() const { return acheteur_; }
-    [[nodiscard]] const QString &partie() const { return partie_; }
+    [[nodiscard]] QString acheteur() const;
+    [[nodiscard]] QString partie() const;
     // Whether an invoice of that number has left, for whatever order.
     [[nodiscard]] bool estPartie(const QString &numero, Vendeur vendeur) const;
 
-    void noterAcheteur(const QString &acheteur) { acheteur_ = acheteur; }
+    void noterAcheteur(const QString &acheteur);
     void noterDepart(const QString &numero, Vendeur vendeur);
 
 private:
-    BonDeCommande bon_; // the one that `acheteur_` and `partie_` are about
-    QString acheteur_;
-    QString partie_;
+    struct Notes
+    {
+        BonDeCommande vente;
+        QString acheteur;
+        QString partie;
+    };
+    BonDeCommande vente_; // the order's
+    Notes notes_;
     QList<std::pair<Vendeur, QString>> parties_;
 };
 

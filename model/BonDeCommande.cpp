@@ -9,6 +9,14 @@ bool BonDeCommande::estVide() const
     return std::ranges::none_of(quantites, [](int quantite) { return quantite > 0; });
 }
 
+BonDeCommande BonDeCommande::vente() const
+{
+    BonDeCommande vente{
+        .vendeur = vendeur, .quantites = quantites, .codeDestination = codeDestination, .horsUE = horsUE};
+    vente.quantites.removeIf([](const auto &entree) { return entree.value() == 0; });
+    return vente;
+}
+
 void BonDeCommande::ajuster(const Livre &livre, int delta)
 {
     const auto voulue = qint64{quantite(livre)} + delta;

@@ -34,6 +34,8 @@ struct BonDeCommande
     [[nodiscard]] int quantite(const Livre &livre) const { return quantites.value(livre.id); }
     // No copy of any book, of either seller.
     [[nodiscard]] bool estVide() const;
+    // What is sold to whom lives where: however it is weighed, and whatever words the buyer is written in.
+    [[nodiscard]] BonDeCommande vente() const;
 
     // Keeps the count between 0 and `quantiteMaximale`.
     void ajuster(const Livre &livre, int delta);

@@ -4,14 +4,13 @@
 
 namespace Quillet {
 
-void Suivi::suivre(BonDeCommande bon, const std::optional<Centimes> &total)
+void Suivi::suivre(const BonDeCommande &bon, const std::optional<Centimes> &total)
 {
-    bon.langue.reset();
-    bon.paysLivraison.clear();
-    if (bon == bon_ && total == total_)
+    const BonDeCommande vente = bon.vente();
+    if (vente == vente_ && total == total_)
         return;
     *this = {};
-    bon_ = bon;
+    vente_ = vente;
     total_ = total;
 }
 

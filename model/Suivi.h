@@ -20,8 +20,8 @@ struct TexteACopier
 class Suivi
 {
 public:
-    // The order as it is after each change. Its language and its country are given on the way: they begin nothing anew.
-    void suivre(BonDeCommande bon, const std::optional<Centimes> &total);
+    // The order as it is after each change.
+    void suivre(const BonDeCommande &bon, const std::optional<Centimes> &total);
 
     void faire(Etape etape);
     [[nodiscard]] Etape suivante() const { return suivante_; }
@@ -41,7 +41,7 @@ private:
     };
     [[nodiscard]] int fois(const TexteACopier &texte) const;
 
-    BonDeCommande bon_;
+    BonDeCommande vente_;
     std::optional<Centimes> total_;
     Etape suivante_ = Etape::lien;
     QHash<QString, Copie> copies_; // by title

@@ -115,9 +115,10 @@ private slots:
         for (const auto &[nom, geste, attendue] : Rangees<std::function<void(BonDeCommande &, Total &)>, Etape>{
                  {"rien", [](BonDeCommande &, Total &) {}, Etape::facture},
                  {"la langue", [](BonDeCommande &bon, Total &) { bon.langue = Langue::anglais; }, Etape::facture},
-                 {"le pays", [](BonDeCommande &bon, Total &) { bon.paysLivraison = "Italy"; }, Etape::facture},
+                 {"le pays", [](BonDeCommande &bon, Total &) { bon.paysLivraison = bon.paysTrouve = "Italy"; },
+                  Etape::facture},
                  {"un livre", [](BonDeCommande &bon, Total &) { bon.quantites[1] = 2; }, Etape::lien},
-                 {"le colis pesé", [](BonDeCommande &bon, Total &) { bon.poidsPese = Grammes{300}; }, Etape::lien},
+                 {"le colis pesé", [](BonDeCommande &bon, Total &) { bon.poidsPese = Grammes{300}; }, Etape::facture},
                  {"la destination", [](BonDeCommande &bon, Total &) { bon.destiner(vers("ue")); }, Etape::lien},
                  {"vidée", [](BonDeCommande &bon, Total &) { bon.vider(); }, Etape::lien},
                  {"le prix d’un livre", [](BonDeCommande &, Total &total) { total = Centimes{2100}; }, Etape::lien},

@@ -73,6 +73,8 @@ bool ClavierDeLaGrille::presser(const QKeyEvent &touche)
         aller(*rang);
         return true;
     }
+    if (touche.text().isEmpty() || !touche.text().front().isDigit())
+        nombre_.reset(); // what follows is another number
     switch (touche.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -117,10 +119,11 @@ bool ClavierDeLaGrille::ecrire(QChar signe, bool repetee)
 void ClavierDeLaGrille::compter(int exemplaires)
 {
     const Livre &livre = cartes_[rang_]->livre();
-    if (livre.disponible)
-        commande_.ajuster(livre, exemplaires - commande_.bon().quantite(livre));
-    else
+    const int avant = commande_.bon().quantite(livre);
+    if (!livre.disponible)
         LecteurDEcran::annoncer(arret(), TextesLivres::epuise());
+    else if (std::max(0, exemplaires) != avant) // none taken from none is no gesture
+        commande_.ajuster(livre, exemplaires - avant);
 }
 
 } // namespace Quillet

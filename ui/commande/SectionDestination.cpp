@@ -72,7 +72,7 @@ SectionDestination::SectionDestination(const Donnees &donnees, Commande &command
 
 void SectionDestination::envoyer(const Pays &pays)
 {
-    recherche_->clear();
+    recherche_->setText({}); // not to be undone: Ctrl+Z is the screen's again
     remarquer();
     if (const auto envoyee = PaysDeLivraison::envoyee(commande_.bon(), pays, donnees_)) {
         commande_.adopter(*envoyee);

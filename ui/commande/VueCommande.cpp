@@ -20,6 +20,7 @@
 #include "ui/documents/VueDocuments.h"
 #include "ui/reponse/VueReponse.h"
 
+#include <QApplication>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QShortcut>
@@ -73,12 +74,9 @@ VueCommande::VueCommande(const Contexte &contexte, QWidget *parent)
     connect(reinitialiser_, &QPushButton::clicked, this, &VueCommande::vider);
     auto *raccourci = new QShortcut(this);
     raccourci->setKeys(Raccourcis::touches(Raccourcis::Geste::rendre));
+    raccourci->setAutoRepeat(false);
     connect(raccourci, &QShortcut::activated, this, &VueCommande::rendre);
-    connect(recapitulatif_, &Recapitulatif::annulationDemandee, this, [this] {
-        reinitialiser_->setEnabled(true);
-        reinitialiser_->setFocus(); // before the button that has it goes
-        rendre();
-    });
+    connect(recapitulatif_, &Recapitulatif::annulationDemandee, this, &VueCommande::rendre);
     connect(selecteur_, &SelecteurSite::choisi, &contexte_.commande, &Commande::setVendeur);
     connect(recapitulatif_, &Recapitulatif::documentsDemandes, this, &VueCommande::ouvrirLesDocuments);
     connect(recapitulatif_, &Recapitulatif::etapeDemandee, this, &VueCommande::passerA);
@@ -158,8 +156,8 @@ void VueCommande::passerA(Etape etape)
 {
     switch (etape) {
     case Etape::lien:
-        Lien::ouvrir(ReponseType::creationDuLien(), this);
-        noter(etape);
+        if (Lien::ouvrir(ReponseType::creationDuLien(), this) && contexte_.calcul().pretAPartir())
+            noter(etape);
         break;
     case Etape::reponse:
         ouvrirLaReponse();
@@ -179,7 +177,11 @@ void VueCommande::noter(Etape etape)
 void VueCommande::vider()
 {
     suiviVide_ = suivi_;
+    facturesVides_ = contexte_.factures;
+    const bool dansLePanneau = recapitulatif_->isAncestorOf(QApplication::focusWidget());
     contexte_.commande.vider();
+    if (dansLePanneau && contexte_.commande.peutRendre())
+        recapitulatif_->proposerDAnnuler(); // the field that has the focus may go
 }
 
 void VueCommande::rendre()
@@ -187,6 +189,11 @@ void VueCommande::rendre()
     if (!contexte_.commande.peutRendre())
         return;
     suivi_ = suiviVide_;
+    contexte_.factures = facturesVides_;
+    if (recapitulatif_->isAncestorOf(QApplication::focusWidget())) {
+        reinitialiser_->setEnabled(true);
+        reinitialiser_->setFocus(); // before the button that proposed it goes
+    }
     contexte_.commande.rendre();
 }
 

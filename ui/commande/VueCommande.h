@@ -1,6 +1,7 @@
 #pragma once
 
 #include "composants/AnnonceAuRepos.h"
+#include "documents/MemoireFactures.h"
 #include "model/Suivi.h"
 #include "ui/EcranDeRubrique.h"
 #include "ui/documents/OngletDocuments.h"
@@ -37,7 +38,8 @@ private:
 
     const Contexte &contexte_;
     Suivi suivi_;
-    Suivi suiviVide_; // of the order that was emptied last
+    Suivi suiviVide_;               // of the order that was emptied last
+    MemoireFactures facturesVides_; // then
     EnTete *enTete_;
     QPushButton *reinitialiser_;
     SelecteurSite *selecteur_;
