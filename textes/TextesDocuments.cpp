@@ -84,7 +84,9 @@ QString remarqueDansLaSerie(const QString &numero, const PlaceDuNumero &place, Q
                          "Ce numéro ne vient pas après %1, le dernier retenu : une facture le porte peut-être déjà.")
                          .arg(place.dernier);
     if (!place.suivant.isEmpty() && NumerotationFactures::avance(numero, place.suivant))
-        return QStringLiteral("Ce numéro n’est pas le suivant : %1 resterait sans facture.").arg(place.suivant);
+        return QStringLiteral("Ce numéro n’est pas le suivant : la suite attend %1, et les numéros sautés resteraient "
+                              "sans facture.")
+            .arg(place.suivant);
     return {};
 }
 
@@ -167,7 +169,7 @@ QString TextesDocuments::remarqueSurLeNumero(const QString &numero, const PlaceD
         return QStringLiteral("La facture n’a pas de numéro : aucun ne sera retenu.");
     QStringList remarques{rapportALaSerie(numero, place, jour)};
     if (place.dejaParti)
-        remarques.prepend(QStringLiteral("Une autre facture %1 est partie depuis l’ouverture de Quillet.").arg(numero));
+        remarques.prepend(QStringLiteral("Une facture %1 est déjà partie depuis l’ouverture de Quillet.").arg(numero));
     remarques.removeAll(QString());
     return remarques.join(u'\n');
 }

@@ -30,7 +30,7 @@ QString TextesRecapitulatif::sousTitre(const Calcul &calcul)
 QString TextesRecapitulatif::resume(const Calcul &calcul, bool videe)
 {
     if (videe)
-        return QStringLiteral("%1. Ctrl+Z rend la commande vidée.").arg(sousTitre(calcul));
+        return QStringLiteral("%1. Ctrl+Z rétablit la commande.").arg(sousTitre(calcul));
     if (calcul.nombreDeLivres() == 0)
         return sousTitre(calcul);
     return QStringLiteral("%1, total à payer : %2").arg(sousTitre(calcul), Format::dit(Format::euros(calcul.total)));
@@ -186,7 +186,10 @@ QString TextesRecapitulatif::colis(const Calcul &calcul)
 {
     const QString vers = QStringLiteral("Envoi : %1")
                              .arg(calcul.destination ? calcul.destination->libelleCourt : QString(Format::absent));
-    return calcul.lignes.isEmpty() ? vers : QStringLiteral("%1 · %2").arg(vers, Format::poids(calcul.poidsRetenu));
+    if (calcul.lignes.isEmpty())
+        return vers;
+    const QString poids = calcul.poidsConnu() ? Format::poids(calcul.poidsRetenu) : QStringLiteral("colis à peser");
+    return QStringLiteral("%1 · %2").arg(vers, poids);
 }
 
 TextesRecapitulatif::EtapeSuivante TextesRecapitulatif::etapeSuivante(Etape etape, const Calcul &calcul, Langue langue)

@@ -71,9 +71,13 @@ ControleDonnees ControleDonnees::de(const QDir &dossier, QDate aujourdhui)
                                      couvertures, Couvertures::fichiers(couvertures)});
 
     std::optional<FichierControle<QList<Pays>>> pays;
-    if (ressources.existe(QStringLiteral("pays")))
+    if (ressources.existe(QStringLiteral("pays"))) {
+        // One destination to be mended would be told of each of its countries.
+        const bool comparables = destinations.erreurs().isEmpty();
         pays.emplace(ressources, QStringLiteral("pays"))
-            .controler(Regles::pays, ReglesCommunes::codes(destinations.valeur()));
+            .controler(Regles::pays,
+                       comparables ? ReglesCommunes::codes(destinations.valeur()) : QList<CodeDestination>());
+    }
 
     ControleDonnees controle{
         .livres = livres.valeur().size(), .tarifs = noms.size(), .destinations = destinations.valeur().size()};

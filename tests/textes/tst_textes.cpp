@@ -76,7 +76,7 @@ private slots:
         Cas cas;
         QCOMPARE(sousTitre(cas.calcul()), "Aucun livre");
         QCOMPARE(resume(cas.calcul()), "Aucun livre");
-        QCOMPARE(resume(cas.calcul(), true), "Aucun livre. Ctrl+Z rend la commande vidée.");
+        QCOMPARE(resume(cas.calcul(), true), "Aucun livre. Ctrl+Z rétablit la commande.");
         cas.bon.ajuster(cas.banc.livres[0], 1);
         QCOMPARE(sousTitre(cas.calcul()), "1 livre · 240 g");
         QCOMPARE(lisible(resume(cas.calcul())), "1 livre · 240 g, total à payer : 20,49 €");
@@ -431,10 +431,11 @@ private slots:
 
     void remarquesSurLeNumero()
     {
-        const QString trou = "Ce numéro n’est pas le suivant : 2026-005 resterait sans facture.";
+        const QString trou = "Ce numéro n’est pas le suivant : la suite attend 2026-005, et les numéros sautés "
+                             "resteraient sans facture.";
         const QString arret =
             "La suite de 2026 n’avance plus : le dernier numéro retenu, 2027-002, est d’une année à venir.";
-        const QString autre = "Une autre facture %1 est partie depuis l’ouverture de Quillet.";
+        const QString autre = "Une facture %1 est déjà partie depuis l’ouverture de Quillet.";
         const PlaceDuNumero suivie{.dernier = "2026-004", .suivant = "2026-005"};
         const PlaceDuNumero arretee{.dernier = "2027-002", .suivant = "2026-001"};
         for (const auto &[numero, place, remarque] : Rangees<PlaceDuNumero, QString>{

@@ -1,5 +1,6 @@
 #include "tests/BancEcran.h"
 #include "tests/Rangees.h"
+#include "ui/Colonnes.h"
 #include "ui/ContenuPrincipal.h"
 #include "ui/ControlePoste.h"
 #include "ui/InstanceUnique.h"
@@ -83,14 +84,16 @@ private slots:
         BancEcran banc;
         const Preferences preferences = banc.donnees.preferences();
         banc.demarrer();
-        banc.app->fenetre().resize(1000, 700);
+        const QSize taille(banc.app->fenetre().minimumSizeHint().width(), 700); // which any screen holds
+        banc.app->fenetre().resize(taille);
         auto *colonnes = banc.app->fenetre().findChild<QSplitter *>("colonne.rubriques");
         QTest::mouseClick(colonnes->handle(1), Qt::LeftButton); // moved by nobody
         banc.app->fenetre().close();
         QVERIFY(preferences.texte("colonne.rubriques").isEmpty());
         banc.demarrer();
-        QCOMPARE(banc.app->fenetre().size(), QSize(1000, 700));
+        QCOMPARE(banc.app->fenetre().size(), taille);
         colonnes = banc.app->fenetre().findChild<QSplitter *>("colonne.rubriques");
+        banc.app->fenetre().resize(1200, 700); // room to move
         QWidget *poignee = colonnes->handle(1);
         QTest::mousePress(poignee, Qt::LeftButton, {}, {1, 100});
         QTest::mouseMove(poignee, {31, 100});
@@ -101,8 +104,13 @@ private slots:
         banc.app->fenetre().close();
         banc.demarrer();
         QVERIFY(banc.app->fenetre().isMaximized());
-        colonnes = banc.app->fenetre().findChild<QSplitter *>("colonne.rubriques");
-        QTRY_COMPARE(colonnes->sizes().constFirst(), large);
+        QCOMPARE(preferences.texte("colonne.rubriques"), QString::number(large));
+        auto *gauche = new QWidget;
+        const std::unique_ptr<QSplitter> partage(
+            Colonnes::entre(gauche, new QWidget, gauche, 210, "rubriques", preferences));
+        partage->resize(1200, 100);
+        partage->show();
+        QTRY_COMPARE(partage->sizes().constFirst(), large);
 
         QFile fichier(preferences.fichier()); // damaged: it is the seller's to mend, with the invoices' numbers in it
         QVERIFY(fichier.open(QIODevice::WriteOnly) && fichier.write("abîmé") > 0);

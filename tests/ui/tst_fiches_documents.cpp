@@ -134,7 +134,7 @@ private slots:
         QCOMPARE(ecrit(feuille, acheteur), "");
         QVERIFY(Ecran::taper(feuille, numero, "2026-001"));
         QVERIFY(!Ecran::montre(feuille, "La facture 2026-001 est déjà partie pour cette commande."));
-        QVERIFY(Ecran::montre(feuille, "Une autre facture 2026-001 est partie depuis l’ouverture de Quillet."));
+        QVERIFY(Ecran::montre(feuille, "Une facture 2026-001 est déjà partie depuis l’ouverture de Quillet."));
     }
 
     void lePdfSOuvre()
@@ -153,7 +153,7 @@ private slots:
         QVERIFY(QFile::remove(dossier.filePath("facture.pdf")));
         QString message;
         QVERIFY(Dialogues::cliquerPuisRepondre(feuille, pdf, {BancEcran::lire(message)}));
-        QCOMPARE(message, "Ce n’est plus là :\n" + dossier.filePath("facture.pdf"));
+        QCOMPARE(message, "Fichier ou dossier introuvable, déplacé ou supprimé :\n" + dossier.filePath("facture.pdf"));
         QVERIFY(Ecran::taper(feuille, acheteur, "Ada")); // an invoice that has not left
         QVERIFY(!Ecran::controle(feuille, pdf));
     }
@@ -188,7 +188,8 @@ private slots:
                  {"F12", "Ce numéro n’a pas la forme 2026-001 : il ne sera pas retenu."},
                  {"2062-001", "Ce numéro est d’une année à venir : après lui, ceux de 2026 ne seront plus retenus."},
                  {"2025-001", "Ce numéro est d’une année passée : la suite de 2026 n’en change pas."},
-                 {"2026-007", "Ce numéro n’est pas le suivant : 2026-005 resterait sans facture."},
+                 {"2026-007", "Ce numéro n’est pas le suivant : la suite attend 2026-005, et les numéros sautés "
+                              "resteraient sans facture."},
                  {"2026-004",
                   "Ce numéro ne vient pas après 2026-004, le dernier retenu : une facture le porte peut-être déjà."},
                  {"", "La facture n’a pas de numéro : aucun ne sera retenu."},

@@ -21,7 +21,7 @@ private slots:
         Pays suede{.libelleFr = "la Suède", .libelleEn = "Sweden", .destination = vers("ue"), .remarque = "À savoir."};
         banc_->donnees.pays = {suede, suisse, {.libelleFr = "le Groenland", .libelleEn = "Greenland"}};
         banc_->demarrer();
-        banc_->commander("Union européenne");
+        banc_->commander("ue");
         champ_ = qobject_cast<QLineEdit *>(Ecran::controle(&banc_->app->fenetre(), "Chercher un pays"));
         QVERIFY(champ_);
         champ_->setFocus();

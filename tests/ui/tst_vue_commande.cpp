@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDesktopServices>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -36,6 +37,9 @@ const QString reinitialiser = "Tout réinitialiser";
 class TestVueCommande : public QObject
 {
     Q_OBJECT
+
+public slots:
+    void ouvrir(const QUrl &) {} // as a browser would
 
 private slots:
     void initTestCase() { QuilletApp::preparer(Theme::Mode::clair); }
@@ -215,6 +219,10 @@ private slots:
         QVERIFY(
             Dialogues::cliquerPuisRepondre(fenetre(), suivante(lien)->accessibleName(), {BancEcran::lire(message)}));
         QVERIFY(message.startsWith("Aucun navigateur"));
+        QVERIFY(suivante(lien)); // still to be done
+        QDesktopServices::setUrlHandler("https", this, "ouvrir");
+        suivante(lien)->click();
+        QDesktopServices::unsetUrlHandler("https");
         QVERIFY(suivante("E-mail en français"));
         cliquer("Anglais");
         QDialog *reponse = banc_->ouvrir(suivante("E-mail en anglais")->accessibleName());
@@ -495,7 +503,9 @@ private slots:
         QCOMPARE(presser(Qt::Key_F6), "Livre 1");
         QCOMPARE(presser(Qt::Key_F6), "Emballage");
         controle(colisPese)->setFocus();
+        QCOMPARE(presser(Qt::Key_F6), "Étape suivante : Créer le lien dans PayPal");
         QCOMPARE(presser(Qt::Key_F6), "Rubriques");
+        presser(Qt::Key_F6, Qt::ShiftModifier);
         QCOMPARE(presser(Qt::Key_F6, Qt::ShiftModifier), colisPese.section(u',', 0, 0)); // where one was
         controle("davrel.example")->setFocus();                                          // in the books' part too
         QCOMPARE(presser(Qt::Key_F6), colisPese.section(u',', 0, 0));

@@ -40,7 +40,7 @@ PiedDeCommande::PiedDeCommande(QWidget *parent)
     setBackgroundRole(QPalette::AlternateBase);
 
     annuler_->setToolTip(Raccourcis::infobulle(Raccourcis::Geste::rendre));
-    annuler_->setAccessibleName(QStringLiteral("Annuler, rendre la commande vidée"));
+    annuler_->setAccessibleName(QStringLiteral("Annuler, rétablir la commande vidée"));
     auto *videe = new Libelle(QStringLiteral("Commande vidée"));
     videe->setWordWrap(true);
     videe_ = Pile::enRangee({.espace = 8}, {{videe, 1}, annuler_});
