@@ -157,6 +157,12 @@ void DessinMenu::rubrique(QPainter &peintre, const QStyleOptionMenuItem &option,
                      option.text);
 }
 
+void DessinMenu::sousLaBarre(QPainter &peintre, const QStyleOption &option)
+{
+    peintre.fillRect(QRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1),
+                     Theme::filet(option.palette));
+}
+
 void DessinMenu::bulle(QPainter &peintre, const QStyleOption &option, const QWidget *widget)
 {
     const QColor fond = option.palette.color(QPalette::ToolTipBase);

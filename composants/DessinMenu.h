@@ -19,6 +19,8 @@ void entree(QPainter &peintre, const QStyleOptionMenuItem &option);
 void choix(QPainter &peintre, const QStyleOptionMenuItem &option);
 void defileur(QPainter &peintre, const QStyleOption &option);
 void rubrique(QPainter &peintre, const QStyleOptionMenuItem &option, bool souligne);
+// The hairline under the bar of menus.
+void sousLaBarre(QPainter &peintre, const QStyleOption &option);
 void bulle(QPainter &peintre, const QStyleOption &option, const QWidget *widget);
 
 // For a text of this size.

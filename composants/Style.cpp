@@ -153,7 +153,11 @@ bool Style::peindre(ControlElement element, const QStyleOption &option, QPainter
     case CE_MenuBarItem:
         if (entree)
             DessinMenu::rubrique(peintre, *entree, styleHint(SH_UnderlineShortcut, entree, widget, nullptr));
+        DessinMenu::sousLaBarre(peintre, option);
         return entree;
+    case CE_MenuBarEmptyArea:
+        DessinMenu::sousLaBarre(peintre, option);
+        return true;
     case CE_MenuScroller:
         DessinMenu::defileur(peintre, option);
         return true;
