@@ -127,4 +127,14 @@ void Preferences::ecrire(const QString &cle, const QString &texte)
     Fichier::ecrire(fichier_, encoder(valeurs));
 }
 
+void Preferences::retenirSiPossible(const QString &cle, const QString &texte)
+{
+    try {
+        if (!chercher(cle).perte && this->texte(cle) != texte)
+            ecrire(cle, texte);
+    } catch (const ErreurStockage &) {
+        return; // what matters more is written later, and says so when it fails
+    }
+}
+
 } // namespace Quillet

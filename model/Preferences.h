@@ -30,6 +30,8 @@ public:
     // Returns once the text is on the disk. Throws ErreurStockage; what was kept before still is. A file that is not
     // whole is copied aside first, and what cannot be read of it counts as lost.
     void ecrire(const QString &cle, const QString &texte);
+    // The same of a habit that may be lost: a file that is damaged is left as it is, and a refusal disturbs nobody.
+    void retenirSiPossible(const QString &cle, const QString &texte);
 
 private:
     QString fichier_;

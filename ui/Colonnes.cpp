@@ -4,13 +4,14 @@
 #include "model/Preferences.h"
 
 #include <QSplitter>
-#include <QVariant>
+#include <QTimer>
+
+using namespace std::chrono_literals;
 
 namespace Quillet {
 
 namespace {
 
-constexpr auto largeurVoulue = "largeurVoulue";
 constexpr int excessive = 10'000; // px
 
 } // namespace
@@ -23,16 +24,14 @@ QSplitter *Colonnes::entre(QWidget *gauche, QWidget *droite, QWidget *fixe, int 
     const bool sensee = retenue > 0 && retenue < excessive;
     QSplitter *partage = Partage::entre(gauche, droite, fixe, sensee ? retenue : largeur);
     partage->setObjectName(cle);
-    QObject::connect(partage, &QSplitter::splitterMoved, partage,
-                     [partage, fixe] { partage->setProperty(largeurVoulue, fixe->width()); });
+    auto *repos = new QTimer(partage);
+    repos->setSingleShot(true);
+    repos->setInterval(1s);
+    QObject::connect(partage, &QSplitter::splitterMoved, repos, qOverload<>(&QTimer::start));
+    QObject::connect(repos, &QTimer::timeout, partage, [preferences = Preferences(preferences), cle, fixe]() mutable {
+        preferences.retenirSiPossible(cle, QString::number(fixe->width()));
+    });
     return partage;
-}
-
-void Colonnes::retenir(const QWidget *fenetre, Preferences &preferences)
-{
-    for (const auto *partage : fenetre->findChildren<QSplitter *>())
-        if (const QVariant voulue = partage->property(largeurVoulue); voulue.isValid())
-            preferences.ecrire(partage->objectName(), voulue.toString());
 }
 
 } // namespace Quillet

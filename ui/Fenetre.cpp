@@ -53,6 +53,9 @@ Fenetre::Fenetre(const Contexte &contexte, MisesAJour &misesAJour)
     setCentralWidget(contenu_);
     creerMenu(misesAJour);
     creerRaccourcis();
+    repos_.setSingleShot(true);
+    repos_.setInterval(1s);
+    connect(&repos_, &QTimer::timeout, this, &Fenetre::retenirLaPlace);
     qApp->installEventFilter(this);
     resize(tailleParDefaut().boundedTo(Place::surLEcran(this)).expandedTo(minimumSizeHint()));
     reprendreLaPlace();
@@ -60,29 +63,22 @@ Fenetre::Fenetre(const Contexte &contexte, MisesAJour &misesAJour)
 
 void Fenetre::reprendreLaPlace()
 {
-    ouverture_ = QRect(pos(), size());
+    ordinaire_ = QRect(pos(), size());
     const auto place = PlaceDeLaFenetre::lue(preferences_.texte(clePlace));
     const auto ecrans = placesDesEcrans();
     if (!place || ecrans.isEmpty())
         return;
-    ouverture_ = place->dans(ecrans, minimumSizeHint());
-    move(ouverture_.topLeft());
-    resize(ouverture_.size());
+    ordinaire_ = place->dans(ecrans, minimumSizeHint());
+    move(ordinaire_.topLeft());
+    resize(ordinaire_.size());
     setWindowState(windowState().setFlag(Qt::WindowMaximized, place->agrandie));
 }
 
 void Fenetre::retenirLaPlace()
 {
-    const PlaceDeLaFenetre place{isMaximized() ? ouverture_ : QRect(pos(), size()), isMaximized()};
-    try {
-        if (preferences_.chercher(clePlace).perte)
-            return; // a file to be mended is left to the seller
-        if (preferences_.texte(clePlace) != place.texte())
-            preferences_.ecrire(clePlace, place.texte());
-        Colonnes::retenir(this, preferences_);
-    } catch (const ErreurStockage &) {
-        return; // no reason to keep a window open: the next one opens as this one did
-    }
+    if (!(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen | Qt::WindowMinimized)))
+        ordinaire_ = QRect(pos(), size());
+    preferences_.retenirSiPossible(clePlace, PlaceDeLaFenetre{ordinaire_, isMaximized()}.texte());
 }
 
 QSize Fenetre::tailleParDefaut() const
@@ -104,10 +100,19 @@ bool Fenetre::eventFilter(QObject *objet, QEvent *evenement)
 // What could not be saved stays in sight; closing again leaves it.
 void Fenetre::closeEvent(QCloseEvent *evenement)
 {
-    const bool conclu = contenu_->conclure();
-    evenement->setAccepted(conclu);
-    if (conclu)
-        retenirLaPlace();
+    evenement->setAccepted(contenu_->conclure());
+}
+
+void Fenetre::moveEvent(QMoveEvent *evenement)
+{
+    QMainWindow::moveEvent(evenement);
+    repos_.start();
+}
+
+void Fenetre::resizeEvent(QResizeEvent *evenement)
+{
+    QMainWindow::resizeEvent(evenement);
+    repos_.start();
 }
 
 void Fenetre::showEvent(QShowEvent *evenement)

@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 #include <QRect>
+#include <QTimer>
 
 namespace Quillet {
 
@@ -31,6 +32,8 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent *evenement) override;
+    void moveEvent(QMoveEvent *evenement) override;
+    void resizeEvent(QResizeEvent *evenement) override;
     void showEvent(QShowEvent *evenement) override;
     bool eventFilter(QObject *objet, QEvent *evenement) override;
 
@@ -43,7 +46,8 @@ private:
 
     Preferences &preferences_;
     ContenuPrincipal *contenu_;
-    QRect ouverture_; // as it opened, but for filling the screen
+    QRect ordinaire_; // where it stands but for filling the screen
+    QTimer repos_;    // runs while it has just been moved: nothing is written at exit
     bool dejaMontree_ = false;
 };
 

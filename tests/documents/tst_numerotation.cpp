@@ -118,6 +118,8 @@ private slots:
         QVERIFY(QFile::exists(fichier.fileName() + ".illisible"));
 
         QVERIFY(QFile::resize(fichier.fileName(), Fichier::Borne::preferences + 1));
+        banc.preferences().retenirSiPossible("fenetre", "0 0 980 700"); // which is not worth a damaged file's bytes
+        QVERIFY(!QFile::exists(fichier.fileName() + ".illisible-2"));
         numerotation.retenir("2026-009", Vendeur::davrel);
         QCOMPARE(numerotation.prochain(Vendeur::davrel, jourDuBanc), "2026-010");
         QVERIFY(QFile::exists(fichier.fileName() + ".illisible-2"));

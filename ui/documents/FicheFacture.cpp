@@ -242,7 +242,6 @@ bool FicheFacture::emettre(const QString &issue, const std::function<bool(const 
     try {
         if (!emission_.emettre(facture, vendeur_, sortir))
             return false;
-        completer();
         direLIssue(issue.arg(facture.numero));
         return true;
     } catch (const Echec &echec) {
