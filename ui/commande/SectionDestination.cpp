@@ -55,11 +55,11 @@ SectionDestination::SectionDestination(const Donnees &donnees, Commande &command
     rangeeHorsUE_->setDetail(QStringLiteral("hors Union européenne : déclaration en douane"));
 
     groupe()->ajouter(recherche_);
+    groupe()->ajouter(remarque_);
     groupe()->ajouter(new Formulaire::Rangee(QStringLiteral("Envoi vers"), destination_));
     groupe()->ajouter(nomComplet_);
     groupe()->ajouter(rangeeHorsUE_);
     groupe()->ajouter(rangeeDeclaration_);
-    groupe()->ajouter(remarque_);
 
     connect(recherche_, &QLineEdit::textEdited, this, &SectionDestination::remarquer);
     connect(recherche_, &ChampAPropositions::choisie, this, [this](int rang) { envoyer(trouves_.value(rang)); });
