@@ -1,24 +1,22 @@
 #include "composants/ChampAPropositions.h"
 
-#include "composants/Dessin.h"
+#include "composants/DessinMenu.h"
 #include "composants/LecteurDEcran.h"
 #include "composants/SelectionDuLecteur.h"
+#include "composants/Theme.h"
 
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QPainter>
 #include <QStringListModel>
+#include <QStyleOption>
 #include <QStyledItemDelegate>
-
-#include <algorithm>
 
 namespace Quillet {
 
 namespace {
 
-constexpr int hauteurMinimale = 28;
-
-// As an entry of a menu.
+// Drawn as the entries of a menu.
 class Dessinateur : public QStyledItemDelegate
 {
 public:
@@ -26,24 +24,27 @@ public:
 
     void paint(QPainter *peintre, const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
-        peintre->setRenderHint(QPainter::Antialiasing);
-        const bool choisie = option.state.testFlag(QStyle::State_Selected);
-        const QRect cadre = option.rect.adjusted(4, 1, -4, -1);
-        if (choisie)
-            Dessin::aplat(*peintre, cadre, rayon, option.palette.color(QPalette::Highlight));
-        peintre->setPen(option.palette.color(choisie ? QPalette::HighlightedText : QPalette::Text));
-        const QRect texte = cadre.adjusted(8, 0, -8, 0);
-        peintre->drawText(texte, Qt::AlignLeft | Qt::AlignVCenter,
-                          option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, texte.width()));
+        peintre->fillRect(option.rect, Theme::surgissant(option.palette));
+        DessinMenu::entree(*peintre, entree(option, index));
     }
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
-        const QSize taille = QStyledItemDelegate::sizeHint(option, index);
-        return {taille.width(), std::max(hauteurMinimale, taille.height() + 10)};
+        return DessinMenu::taille(entree(option, index), QStyledItemDelegate::sizeHint(option, index));
     }
 
 private:
-    static constexpr int rayon = 6;
+    static QStyleOptionMenuItem entree(const QStyleOptionViewItem &option, const QModelIndex &index)
+    {
+        QStyleOptionMenuItem entree;
+        entree.rect = option.rect;
+        entree.state = option.state;
+        entree.palette = option.palette;
+        entree.font = option.font;
+        entree.fontMetrics = option.fontMetrics;
+        entree.menuItemType = QStyleOptionMenuItem::Normal;
+        entree.text = index.data().toString().replace(u'&', QLatin1String("&&"));
+        return entree;
+    }
 };
 
 } // namespace

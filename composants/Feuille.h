@@ -4,7 +4,7 @@
 
 namespace Quillet {
 
-// A sheet over the window; Escape closes it, once it has left a field that holds a text.
+// A sheet over the window; Escape closes it, once it has left a field in which something was typed.
 class Feuille : public QDialog
 {
     Q_OBJECT

@@ -46,7 +46,7 @@ Groupe partout()
         {Geste::duControle,
          {Qt::Key_Escape},
          QStringLiteral(
-             "Quitter le champ rempli, puis fermer la feuille ; à l’écran Livres, rendre la valeur d’avant")},
+             "Quitter le champ où l’on a tapé, puis fermer la feuille ; à l’écran Livres, rendre la valeur d’avant")},
         {Geste::aide, {Qt::Key_F1, Qt::Key_Question}, QStringLiteral("Raccourcis clavier")},
         {Geste::quitter, {Qt::CTRL | Qt::Key_Q}, QStringLiteral("Quitter")},
     };
