@@ -1,22 +1,35 @@
 #include "documents/MemoireFactures.h"
 
+#include <algorithm>
+
 namespace Quillet {
 
 void MemoireFactures::suivre(const BonDeCommande &bon)
 {
     vente_ = bon.vente();
-    if (bon.estVide()) // the next buyer may want the same
-        notes_ = {};
+}
+
+MemoireFactures::Notes MemoireFactures::notes() const
+{
+    const auto notes = std::ranges::find(notes_, vente_, &Notes::vente);
+    return notes == notes_.end() ? Notes{} : *notes;
+}
+
+MemoireFactures::Notes &MemoireFactures::aNoter()
+{
+    if (const auto notes = std::ranges::find(notes_, vente_, &Notes::vente); notes != notes_.end())
+        return *notes;
+    return notes_.emplaceBack(Notes{.vente = vente_});
 }
 
 QString MemoireFactures::acheteur() const
 {
-    return notes_.vente == vente_ ? notes_.acheteur : QString();
+    return notes().acheteur;
 }
 
 QString MemoireFactures::partie() const
 {
-    return notes_.vente == vente_ ? notes_.partie : QString();
+    return notes().partie;
 }
 
 bool MemoireFactures::estPartie(const QString &numero, Vendeur vendeur) const
@@ -26,12 +39,12 @@ bool MemoireFactures::estPartie(const QString &numero, Vendeur vendeur) const
 
 void MemoireFactures::noterAcheteur(const QString &acheteur)
 {
-    notes_ = {vente_, acheteur, partie()};
+    aNoter().acheteur = acheteur;
 }
 
 void MemoireFactures::noterDepart(const QString &numero, Vendeur vendeur)
 {
-    notes_ = {vente_, acheteur(), numero};
+    aNoter().partie = numero;
     parties_.append({vendeur, numero});
 }
 

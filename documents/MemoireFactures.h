@@ -13,7 +13,7 @@ namespace Quillet {
 class MemoireFactures
 {
 public:
-    // To be told of each change of the order: what is noted of one is not told of another, nor once it was emptied.
+    // To be told of each change of the order: what is noted of one is not told of another.
     void suivre(const BonDeCommande &bon);
 
     // Of the order: the buyer as typed, and the number of the last invoice that left for it; either may be empty.
@@ -32,8 +32,11 @@ private:
         QString acheteur;
         QString partie;
     };
+    [[nodiscard]] Notes notes() const;
+    [[nodiscard]] Notes &aNoter();
+
     BonDeCommande vente_; // the order's
-    Notes notes_;
+    QList<Notes> notes_;
     QList<std::pair<Vendeur, QString>> parties_;
 };
 

@@ -11,8 +11,11 @@ bool BonDeCommande::estVide() const
 
 BonDeCommande BonDeCommande::vente() const
 {
-    BonDeCommande vente{
-        .vendeur = vendeur, .quantites = quantites, .codeDestination = codeDestination, .horsUE = horsUE};
+    BonDeCommande vente{.vendeur = vendeur,
+                        .quantites = quantites,
+                        .codeDestination = codeDestination,
+                        .horsUE = horsUE,
+                        .rangAcheteur = rangAcheteur};
     vente.quantites.removeIf([](const auto &entree) { return entree.value() == 0; });
     return vente;
 }
@@ -20,7 +23,10 @@ BonDeCommande BonDeCommande::vente() const
 void BonDeCommande::ajuster(const Livre &livre, int delta)
 {
     const auto voulue = qint64{quantite(livre)} + delta;
+    const bool etaitVide = estVide();
     quantites[livre.id] = static_cast<int>(std::clamp<qint64>(voulue, 0, quantiteMaximale));
+    if (!etaitVide && estVide())
+        ++rangAcheteur;
 }
 
 void BonDeCommande::destiner(const CodeDestination &code)
@@ -39,7 +45,8 @@ void BonDeCommande::vider()
     *this = {.vendeur = vendeur,
              .emballage = emballage,
              .poidsEmballageLibre = poidsEmballageLibre,
-             .codeDestination = codeDestination};
+             .codeDestination = codeDestination,
+             .rangAcheteur = estVide() ? rangAcheteur : rangAcheteur + 1};
 }
 
 } // namespace Quillet

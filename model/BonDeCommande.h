@@ -30,14 +30,15 @@ struct BonDeCommande
     QString paysLivraison;        // as the buyer wrote it
     std::optional<Langue> langue; // none: not chosen yet
     QString paysTrouve;           // what a search wrote in `paysLivraison`; typed over, it counts no more
+    int rangAcheteur = 0;         // since the start: the next buyer may want just the same
 
     [[nodiscard]] int quantite(const Livre &livre) const { return quantites.value(livre.id); }
     // No copy of any book, of either seller.
     [[nodiscard]] bool estVide() const;
-    // What is sold to whom lives where: however it is weighed, and whatever words the buyer is written in.
+    // What is sold to which buyer, and where: however it is weighed, and whatever words the buyer is written in.
     [[nodiscard]] BonDeCommande vente() const;
 
-    // Keeps the count between 0 and `quantiteMaximale`.
+    // Keeps the count between 0 and `quantiteMaximale`; without any book left, the next one is another buyer's.
     void ajuster(const Livre &livre, int delta);
     // Another destination asks its own questions: country, language and customs exception start afresh.
     void destiner(const CodeDestination &code);

@@ -16,7 +16,8 @@ struct TexteACopier
     QString valeur;
 };
 
-// What the seller has done for the present order. It counts as long as the buyer pays the same for the same.
+// What the seller has done for the present order. It counts as long as the buyer pays the same for the same, and again
+// for an emptied order that is had back.
 class Suivi
 {
 public:
@@ -24,28 +25,33 @@ public:
     void suivre(const BonDeCommande &bon, const std::optional<Centimes> &total);
 
     void faire(Etape etape);
-    [[nodiscard]] Etape suivante() const { return suivante_; }
+    [[nodiscard]] Etape suivante() const { return fait_.suivante; }
 
     void copier(const TexteACopier &texte);
     [[nodiscard]] bool estCopie(const TexteACopier &texte) const { return fois(texte) > 0; }
     // Empty before the first.
-    [[nodiscard]] QString dernierCopie() const { return dernierCopie_; }
+    [[nodiscard]] QString dernierCopie() const { return fait_.dernierCopie; }
     // Rank of the first of those copied least often: once each is, they start again.
     [[nodiscard]] qsizetype aCopier(const QList<TexteACopier> &textes) const;
 
 private:
+    [[nodiscard]] int fois(const TexteACopier &texte) const;
+
     struct Copie
     {
         QString valeur;
         int fois = 0;
     };
-    [[nodiscard]] int fois(const TexteACopier &texte) const;
-
-    BonDeCommande vente_;
-    std::optional<Centimes> total_;
-    Etape suivante_ = Etape::lien;
-    QHash<QString, Copie> copies_; // by title
-    QString dernierCopie_;         // its title
+    struct Fait
+    {
+        BonDeCommande vente;
+        std::optional<Centimes> total;
+        Etape suivante = Etape::lien;
+        QHash<QString, Copie> copies; // by title
+        QString dernierCopie;         // its title
+    };
+    Fait fait_;
+    Fait precedent_; // for the buyer before
 };
 
 } // namespace Quillet

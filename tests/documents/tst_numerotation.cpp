@@ -215,7 +215,7 @@ private slots:
             changer(bon);
             memoire.suivre(bon);
             const QString apresLeGeste = memoire.acheteur() + memoire.partie();
-            memoire.suivre({.quantites = {{1, 2}}}); // taken back, or the next buyer's
+            memoire.suivre({.quantites = {{1, 2}}}); // taken back
             return apresLeGeste + '/' + memoire.acheteur();
         };
         QCOMPARE(apres([](BonDeCommande &bon) { bon.langue = Langue::anglais; }), "Ada2026-001/Ada");
@@ -223,7 +223,12 @@ private slots:
         QCOMPARE(apres([](BonDeCommande &bon) { bon.quantites[2] = 0; }), "Ada2026-001/Ada");
         QCOMPARE(apres([](BonDeCommande &bon) { bon.quantites[1] = 1; }), "/Ada");
         QCOMPARE(apres([](BonDeCommande &bon) { bon.destiner(CodeDestination("ue")); }), "/Ada");
-        QCOMPARE(apres([](BonDeCommande &bon) { bon.vider(); }), "/");
+        QCOMPARE(apres([](BonDeCommande &bon) { bon.vider(); }), "/Ada");
+        QCOMPARE(apres([](BonDeCommande &bon) {
+                     bon.vider();
+                     bon.quantites = {{1, 2}}; // the next buyer's
+                 }),
+                 "/Ada");
     }
 
     void compteUneFoisPartie()

@@ -138,6 +138,27 @@ private slots:
         }
     }
 
+    void ceQuiFutFaitRevient()
+    {
+        const BonDeCommande bon{.quantites = {{1, 1}}};
+        for (const auto &[nom, geste, attendue] : Rangees<void (*)(BonDeCommande &), Etape>{
+                 {"vidée", [](BonDeCommande &autre) { autre.vider(); }, Etape::facture},
+                 {"un livre de plus", [](BonDeCommande &autre) { autre.quantites[1] = 2; }, Etape::lien},
+                 {"l’acheteur suivant", [](BonDeCommande &autre) { ++autre.rangAcheteur; }, Etape::facture},
+             }) {
+            const Rangee rangee(nom);
+            Suivi suivi;
+            suivi.suivre(bon, {});
+            suivi.faire(Etape::reponse);
+            BonDeCommande autre = bon;
+            geste(autre);
+            suivi.suivre(autre, {});
+            QVERIFY(suivi.suivante() == Etape::lien);
+            suivi.suivre(bon, {});
+            QVERIFY(suivi.suivante() == attendue);
+        }
+    }
+
     void copierChacunSonTour()
     {
         QList<TexteACopier> textes{{"Nom", "Davrel"}, {"Description", "un livre"}, {"Prix", "20,49"}};

@@ -176,8 +176,6 @@ void VueCommande::noter(Etape etape)
 
 void VueCommande::vider()
 {
-    suiviVide_ = suivi_;
-    facturesVides_ = contexte_.factures;
     const bool dansLePanneau = recapitulatif_->isAncestorOf(QApplication::focusWidget());
     contexte_.commande.vider();
     if (dansLePanneau && contexte_.commande.peutRendre())
@@ -188,8 +186,6 @@ void VueCommande::rendre()
 {
     if (!contexte_.commande.peutRendre())
         return;
-    suivi_ = suiviVide_;
-    contexte_.factures = facturesVides_;
     if (recapitulatif_->isAncestorOf(QApplication::focusWidget())) {
         reinitialiser_->setEnabled(true);
         reinitialiser_->setFocus(); // before the button that proposed it goes

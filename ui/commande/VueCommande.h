@@ -1,7 +1,6 @@
 #pragma once
 
 #include "composants/AnnonceAuRepos.h"
-#include "documents/MemoireFactures.h"
 #include "model/Suivi.h"
 #include "ui/EcranDeRubrique.h"
 #include "ui/documents/OngletDocuments.h"
@@ -38,8 +37,6 @@ private:
 
     const Contexte &contexte_;
     Suivi suivi_;
-    Suivi suiviVide_;               // of the order that was emptied last
-    MemoireFactures facturesVides_; // then
     EnTete *enTete_;
     QPushButton *reinitialiser_;
     SelecteurSite *selecteur_;
