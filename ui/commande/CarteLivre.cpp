@@ -94,13 +94,11 @@ QString enMots(const Livre &livre, int quantite)
 CarteLivre::CarteLivre(const Livre &livre, Commande &commande, ImagesCouvertures &images, QWidget *parent)
     : QWidget(parent),
       livre_(livre),
+      commande_(commande),
       couverture_(new Couverture(livre, images, this)),
       selecteur_(new SelecteurQuantite(livre, commande, this))
 {
-    connect(couverture_, &QAbstractButton::clicked, this, [this, &commande] {
-        if (livre_.disponible)
-            commande.ajuster(livre_, 1);
-    });
+    connect(couverture_, &QAbstractButton::clicked, this, [this] { compter(quantite_ + 1); });
     montrer(livre, commande.bon().quantite(livre));
     TailleDuTexte::suivre(this, [this] { placer(); });
 }
@@ -119,6 +117,14 @@ void CarteLivre::montrer(const Livre &livre, int quantite)
     selecteur_->montrer(quantite);
     selecteur_->setVisible(livre.disponible);
     update();
+}
+
+void CarteLivre::compter(int exemplaires)
+{
+    if (!livre_.disponible)
+        LecteurDEcran::annoncer(couverture_, TextesLivres::epuise());
+    else if (std::max(0, exemplaires) != quantite_) // none taken from none is no gesture
+        commande_.ajuster(livre_, exemplaires - quantite_);
 }
 
 QWidget *CarteLivre::placerApres(QWidget *precedent)

@@ -21,6 +21,9 @@ public:
 
     [[nodiscard]] const Livre &livre() const { return livre_; }
     void montrer(const Livre &livre, int quantite);
+    // So many copies in the order; of a sold-out book, the number stays.
+    void compter(int exemplaires);
+    [[nodiscard]] int quantite() const { return quantite_; }
     [[nodiscard]] Couverture *couverture() const { return couverture_; }
     // Puts the card's controls behind `precedent` in the order of the Tab key; gives the last of them.
     QWidget *placerApres(QWidget *precedent);
@@ -45,6 +48,7 @@ private:
     [[nodiscard]] QRect ligneDuBas() const;
 
     Livre livre_;
+    Commande &commande_;
     int quantite_ = -1; // shown; -1: nothing yet
     Couverture *couverture_;
     SelecteurQuantite *selecteur_;

@@ -1,8 +1,5 @@
 #include "ui/commande/ClavierDeLaGrille.h"
 
-#include "composants/LecteurDEcran.h"
-#include "model/Commande.h"
-#include "textes/TextesLivres.h"
 #include "ui/commande/CarteLivre.h"
 #include "ui/commande/Couverture.h"
 #include "ui/commande/ParcoursDeLaGrille.h"
@@ -16,7 +13,7 @@ using namespace std::chrono_literals;
 
 namespace Quillet {
 
-ClavierDeLaGrille::ClavierDeLaGrille(Commande &commande, QObject *parent) : QObject(parent), commande_(commande)
+ClavierDeLaGrille::ClavierDeLaGrille(QObject *parent) : QObject(parent)
 {
     frappe_.setSingleShot(true);
     frappe_.setInterval(1s);
@@ -75,14 +72,15 @@ bool ClavierDeLaGrille::presser(const QKeyEvent &touche)
     }
     if (touche.text().isEmpty() || !touche.text().front().isDigit())
         nombre_.reset(); // what follows is another number
+    CarteLivre &carte = *cartes_[rang_];
     switch (touche.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        compter(commande_.bon().quantite(cartes_[rang_]->livre()) + 1);
+        carte.compter(carte.quantite() + 1);
         return true;
     case Qt::Key_Delete:
     case Qt::Key_Backspace:
-        compter(0);
+        carte.compter(0);
         return true;
     default:
         return touche.text().size() == 1 && ecrire(touche.text().front(), touche.isAutoRepeat());
@@ -91,39 +89,29 @@ bool ClavierDeLaGrille::presser(const QKeyEvent &touche)
 
 bool ClavierDeLaGrille::ecrire(QChar signe, bool repetee)
 {
-    const int exemplaires = commande_.bon().quantite(cartes_[rang_]->livre());
+    CarteLivre &carte = *cartes_[rang_];
     if (signe == u'+' || signe == u'=') { // one key on most keyboards
-        compter(exemplaires + 1);
+        carte.compter(carte.quantite() + 1);
     } else if (signe == u'-' || signe == u'−') {
-        compter(exemplaires - 1);
+        carte.compter(carte.quantite() - 1);
     } else if (signe >= u'0' && signe <= u'9') {
         if (repetee)
             return true; // a digit held down is one digit
         nombre_ = ParcoursDeLaGrille::nombre(nombre_, signe.digitValue());
         frappe_.start();
-        compter(*nombre_);
+        carte.compter(*nombre_);
     } else if (signe.isLetter()) {
         lettres_ += signe;
         frappe_.start();
         QStringList titres;
-        for (const CarteLivre *carte : std::as_const(cartes_))
-            titres.append(carte->livre().titre);
+        for (const CarteLivre *autre : std::as_const(cartes_))
+            titres.append(autre->livre().titre);
         if (const auto rang = ParcoursDeLaGrille::titre(titres, lettres_, rang_))
             aller(*rang);
     } else {
         return false;
     }
     return true;
-}
-
-void ClavierDeLaGrille::compter(int exemplaires)
-{
-    const Livre &livre = cartes_[rang_]->livre();
-    const int avant = commande_.bon().quantite(livre);
-    if (!livre.disponible)
-        LecteurDEcran::annoncer(arret(), TextesLivres::epuise());
-    else if (std::max(0, exemplaires) != avant) // none taken from none is no gesture
-        commande_.ajuster(livre, exemplaires - avant);
 }
 
 } // namespace Quillet

@@ -11,8 +11,6 @@ class QKeyEvent;
 namespace Quillet {
 
 class CarteLivre;
-class Commande;
-struct Livre;
 
 // Makes the covers one stop of the Tab key, inside which arrows and letters walk and digits count.
 class ClavierDeLaGrille : public QObject
@@ -20,7 +18,7 @@ class ClavierDeLaGrille : public QObject
     Q_OBJECT
 
 public:
-    ClavierDeLaGrille(Commande &commande, QObject *parent);
+    explicit ClavierDeLaGrille(QObject *parent);
     // The cards now shown; Tab stops at the first one, later at the one that had the focus last.
     void suivre(const QList<CarteLivre *> &cartes);
     // Null when there is no card.
@@ -34,9 +32,7 @@ private:
     void aller(int rang);
     bool presser(const QKeyEvent &touche);
     bool ecrire(QChar signe, bool repetee);
-    void compter(int exemplaires);
 
-    Commande &commande_;
     QList<CarteLivre *> cartes_;
     int rang_ = 0;
     QTimer frappe_; // runs while one goes on typing

@@ -47,7 +47,7 @@ GrilleLivres::GrilleLivres(Commande &commande, ImagesCouvertures &images, QWidge
       commande_(commande),
       images_(images),
       precedent_(precedent),
-      clavier_(new ClavierDeLaGrille(commande, this))
+      clavier_(new ClavierDeLaGrille(this))
 {
     QSizePolicy politique(QSizePolicy::Expanding, QSizePolicy::Preferred);
     politique.setHeightForWidth(true);
