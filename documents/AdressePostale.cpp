@@ -12,7 +12,8 @@ QString AdressePostale::sansVides(const QString &texte)
     for (const QString &ligne : texte.split(sauts))
         if (const QString pleine = ligne.trimmed(); !pleine.isEmpty())
             lignes.append(pleine);
-    return lignes.join(u'\n');
+    const bool suivie = lignes.size() == 1 && texte.endsWith(u'\n');
+    return lignes.join(u'\n') + (suivie ? QStringLiteral("\n") : QString());
 }
 
 } // namespace Quillet

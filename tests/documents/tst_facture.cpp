@@ -63,6 +63,7 @@ private slots:
                  {"\n  Ada Exemple\t\r\n\r\n\u00a0\n\t1 rue de l’Exemple\u2028France\n",
                   "Ada Exemple\n1 rue de l’Exemple\nFrance"},
                  {" \n ", ""},
+                 {" 1 rue de l’Exemple\r\n", "1 rue de l’Exemple\n"}, // line by line
              }) {
             const Rangee rangee(collee);
             QCOMPARE(AdressePostale::sansVides(collee), nette);
