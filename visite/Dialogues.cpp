@@ -16,13 +16,13 @@ QDialog *Dialogues::devant()
     return qobject_cast<QDialog *>(QApplication::activeModalWidget());
 }
 
-bool Dialogues::cliquerPuisRepondre(QWidget *fenetre, const QString &bouton, std::initializer_list<Reponse> reponses)
+bool Dialogues::fairePuisRepondre(const std::function<bool()> &geste, std::initializer_list<Reponse> reponses)
 {
     const auto *suivante = reponses.begin();
     const QDialog *connu = devant();
     bool inattendu = false;
     QTimer guet; // runs in the dialogs' own event loops
-    QObject::connect(&guet, &QTimer::timeout, fenetre, [&] {
+    QObject::connect(&guet, &QTimer::timeout, &guet, [&] {
         QDialog *dialogue = devant();
         if (!dialogue || dialogue == connu)
             return;
@@ -35,13 +35,17 @@ bool Dialogues::cliquerPuisRepondre(QWidget *fenetre, const QString &bouton, std
         }
     });
     guet.start(10);
-    if (!Ecran::cliquer(fenetre, bouton))
+    if (!geste())
         return false;
     if (suivante == reponses.end() && !inattendu)
         return true;
-    std::fprintf(stderr, "%s après : %s\n", inattendu ? "Un dialogue de trop" : "Il manque un dialogue",
-                 qPrintable(bouton));
+    std::fprintf(stderr, "%s\n", inattendu ? "Un dialogue de trop" : "Il manque un dialogue");
     return false;
+}
+
+bool Dialogues::cliquerPuisRepondre(QWidget *fenetre, const QString &bouton, std::initializer_list<Reponse> reponses)
+{
+    return fairePuisRepondre([&] { return Ecran::cliquer(fenetre, bouton); }, reponses);
 }
 
 Dialogues::Reponse Dialogues::renoncer()

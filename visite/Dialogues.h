@@ -15,8 +15,10 @@ namespace Quillet::Dialogues {
 QDialog *devant();
 
 using Reponse = std::function<void(QDialog *)>;
-// Clicks the button, then answers the dialogs that it opens, one after the other. False when one did not come, or
-// one too many.
+// Makes the gesture, then answers the dialogs that it opens, one after the other. False when it could not be made, when
+// one did not come, or one too many.
+bool fairePuisRepondre(const std::function<bool()> &geste, std::initializer_list<Reponse> reponses);
+// The gesture is a click on the button.
 bool cliquerPuisRepondre(QWidget *fenetre, const QString &bouton, std::initializer_list<Reponse> reponses);
 
 // Answers.

@@ -41,7 +41,11 @@ public slots:
     void ouvert(const QUrl &adresse) { ouverts_.append(adresse.toLocalFile()); }
 
 private slots:
-    void initTestCase() { QuilletApp::preparer(Theme::Mode::clair); }
+    void initTestCase()
+    {
+        qputenv("CUPS_SERVER", "/nulle/part"); // no test prints on a real printer
+        QuilletApp::preparer(Theme::Mode::clair);
+    }
 
     void init()
     {
@@ -118,6 +122,9 @@ private slots:
         QVERIFY(!Ecran::montre(feuille, sansAcheteur));
         sauver(feuille, dossier);
         QVERIFY(Ecran::cliquer(feuille, fermer));
+        QVERIFY(Ecran::cliquer(&banc_->app->fenetre(), "Tout réinitialiser"));
+        QVERIFY(banc_->app->commande().bon().estVide());
+        QVERIFY(Ecran::cliquer(&banc_->app->fenetre(), "Annuler"));
 
         feuille = banc_->ouvrir(facture);
         QVERIFY(Ecran::montre(feuille, "La facture 2026-001 est déjà partie pour cette commande. Pour la sortir de "
@@ -144,7 +151,12 @@ private slots:
         QDialog *feuille = banc_->ouvrir(facture);
         const QString pdf = "Ouvrir le PDF";
         QVERIFY(!Ecran::controle(feuille, pdf));
+        const QString sautes = "Ce numéro n’est pas le suivant : la suite attend 2026-001, et les numéros sautés "
+                               "resteraient sans facture.";
+        QVERIFY(Ecran::taper(feuille, numero, "2026-003"));
+        QVERIFY(Ecran::montre(feuille, sautes));
         sauver(feuille, dossier);
+        QVERIFY(!Ecran::montre(feuille, sautes)); // it is the last one now
         QDesktopServices::setUrlHandler("file", this, "ouvert");
         const auto rendre = qScopeGuard([] { QDesktopServices::unsetUrlHandler("file"); });
         QVERIFY(Ecran::cliquer(feuille, pdf));
@@ -172,6 +184,15 @@ private slots:
         QCOMPARE(ascenseur->maximum(), 0);
         QVERIFY(Ecran::cliquer(feuille, "100 %"));
         QTRY_VERIFY(ascenseur->maximum() > 0);
+        for (const auto touche : {Qt::Key_P, Qt::Key_S}) { // they work here too
+            feuille->activateWindow(); // offscreen, no dialog gives it back
+            QVERIFY(QTest::qWaitForWindowActive(feuille));
+            const auto presser = [&] {
+                QTest::keyClick(page, touche, Qt::ControlModifier);
+                return true;
+            };
+            QVERIFY(Dialogues::fairePuisRepondre(presser, {Dialogues::renoncer()}));
+        }
         QTest::keyClick(page, Qt::Key_Escape);
         QCOMPARE(feuille->focusWidget()->accessibleName(), "Agrandir la facture");
         QVERIFY(Ecran::controle(feuille, acheteur));

@@ -24,7 +24,8 @@ private slots:
         banc_->commander("ue");
         champ_ = qobject_cast<QLineEdit *>(Ecran::controle(&banc_->app->fenetre(), "Chercher un pays"));
         QVERIFY(champ_);
-        champ_->setFocus();
+        QTest::keyClick(&banc_->app->fenetre(), Qt::Key_L, Qt::ControlModifier);
+        QVERIFY(champ_->hasFocus());
     }
 
     void cleanup() { banc_.reset(); }

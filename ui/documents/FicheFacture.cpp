@@ -180,10 +180,7 @@ void FicheFacture::completer()
         return;
     facture_->numero = numero_->text();
     facture_->acheteur = acheteur_->toPlainText();
-    const PlaceDuNumero place = emission_.place(facture_->numero, vendeur_, facture_->date);
-    const QString remarque = TextesDocuments::remarqueSurLeNumero(facture_->numero, place, facture_->date);
-    const bool sansProposition = facture_->numero.isEmpty() && !emission_.sansProposition().isEmpty();
-    remarque_->montrer(sansProposition ? emission_.sansProposition() : remarque);
+    remarquerLeNumero();
     dejaPartie_->montrer(TextesDocuments::dejaPartie(contexte_.factures.partie(), facture_->numero));
     sansAcheteur_->montrer(TextesDocuments::sansAcheteur(facture_->acheteur));
     identite_->setText(TextesDocuments::vendeur(facture_->vendeur));
@@ -191,6 +188,14 @@ void FicheFacture::completer()
     apercu_->montrer(*facture_);
     agrandie_->montrer(*facture_);
     direLIssue({});
+}
+
+void FicheFacture::remarquerLeNumero()
+{
+    const PlaceDuNumero place = emission_.place(facture_->numero, vendeur_, facture_->date);
+    const QString remarque = TextesDocuments::remarqueSurLeNumero(facture_->numero, place, facture_->date);
+    const bool sansProposition = facture_->numero.isEmpty() && !emission_.sansProposition().isEmpty();
+    remarque_->montrer(sansProposition ? emission_.sansProposition() : remarque);
 }
 
 void FicheFacture::imprimer()
@@ -243,6 +248,8 @@ bool FicheFacture::emettre(const QString &issue, const std::function<bool(const 
         if (!emission_.emettre(facture, vendeur_, sortir))
             return false;
         direLIssue(issue.arg(facture.numero));
+        if (facture_)
+            remarquerLeNumero(); // it is the last one kept now
         return true;
     } catch (const Echec &echec) {
         prevenir(echec.texte());

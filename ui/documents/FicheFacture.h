@@ -41,6 +41,7 @@ private:
     QWidget *sorties();
     QWidget *ouvertures();
     void completer();
+    void remarquerLeNumero();
     void imprimer();
     void enregistrer();
     // What became of the invoice; empty when nothing has yet.
