@@ -1,6 +1,7 @@
 #include "ui/Colonnes.h"
 
 #include "composants/Partage.h"
+#include "composants/Theme.h"
 #include "model/Preferences.h"
 
 #include <QSplitter>
@@ -22,14 +23,14 @@ QSplitter *Colonnes::entre(QWidget *gauche, QWidget *droite, QWidget *fixe, int 
     const QString cle = QStringLiteral("colonne.") + nom;
     const int retenue = preferences.texte(cle).toInt();
     const bool sensee = retenue > 0 && retenue < excessive;
-    QSplitter *partage = Partage::entre(gauche, droite, fixe, sensee ? retenue : largeur);
+    QSplitter *partage = Partage::entre(gauche, droite, fixe, Theme::aLaTaille(sensee ? retenue : largeur));
     partage->setObjectName(cle);
     auto *repos = new QTimer(partage);
     repos->setSingleShot(true);
     repos->setInterval(1s);
     QObject::connect(partage, &QSplitter::splitterMoved, repos, qOverload<>(&QTimer::start));
     QObject::connect(repos, &QTimer::timeout, partage, [preferences = Preferences(preferences), cle, fixe]() mutable {
-        preferences.retenirSiPossible(cle, QString::number(fixe->width()));
+        preferences.retenirSiPossible(cle, QString::number(qRound(fixe->width() * 100.0 / Theme::aLaTaille(100))));
     });
     return partage;
 }

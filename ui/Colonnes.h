@@ -12,7 +12,8 @@ class Preferences;
 // Two panes of `composants/Partage` whose limit stays, from one start to the next, where the user has put it.
 namespace Colonnes {
 
-// `nom` is what the limit is remembered by, as soon as it rests.
+// `largeur` is that of `fixe` beside text of the least size, px; another one is remembered by `nom`, as soon as it
+// rests.
 QSplitter *entre(QWidget *gauche, QWidget *droite, QWidget *fixe, int largeur, const QString &nom,
                  const Preferences &preferences);
 } // namespace Colonnes

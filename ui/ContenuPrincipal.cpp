@@ -65,9 +65,9 @@ ContenuPrincipal::ContenuPrincipal(const Contexte &contexte, QWidget *parent)
       ecrans_(tous<Rubrique>.size(), nullptr)
 {
     QWidget *barre = barreLaterale();
-    Pile::rangee(this, {},
-                 {Colonnes::entre(barre, detail_, barre, Theme::aLaTaille(barreIdeale), QStringLiteral("rubriques"),
-                                  contexte.preferences)});
+    Pile::rangee(
+        this, {},
+        {Colonnes::entre(barre, detail_, barre, barreIdeale, QStringLiteral("rubriques"), contexte.preferences)});
 
     connect(rubriques_, &QListWidget::itemSelectionChanged, this, &ContenuPrincipal::changerDEcran);
     connect(&contexte_.catalogue, &Catalogue::change, this, &ContenuPrincipal::actualiser);

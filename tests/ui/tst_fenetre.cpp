@@ -105,12 +105,19 @@ private slots:
         QTRY_VERIFY(preferences.texte("fenetre").endsWith("agrandie"));
         banc.demarrer();
         QVERIFY(banc.app->fenetre().isMaximized());
-        auto *gauche = new QWidget;
-        const std::unique_ptr<QSplitter> partage(
-            Colonnes::entre(gauche, new QWidget, gauche, 210, "rubriques", preferences));
-        partage->resize(1200, 100);
-        partage->show();
-        QTRY_COMPARE(partage->sizes().constFirst(), large);
+        const QFont usuelle = QApplication::font();
+        const auto rendre = qScopeGuard([&] { QApplication::setFont(usuelle); });
+        for (const int foisPlusGrand : {1, 2}) {
+            QFont police = usuelle;
+            police.setPointSizeF(usuelle.pointSizeF() * foisPlusGrand);
+            QApplication::setFont(police);
+            auto *gauche = new QWidget;
+            const std::unique_ptr<QSplitter> partage(
+                Colonnes::entre(gauche, new QWidget, gauche, 210, "rubriques", preferences));
+            partage->resize(1200, 100);
+            partage->show();
+            QTRY_COMPARE(partage->sizes().constFirst(), foisPlusGrand * large);
+        }
     }
 
     void raccourcis()

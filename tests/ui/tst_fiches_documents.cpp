@@ -185,7 +185,8 @@ private slots:
         QVERIFY(Ecran::cliquer(feuille, "100 %"));
         QTRY_VERIFY(ascenseur->maximum() > 0);
         for (const auto touche : {Qt::Key_P, Qt::Key_S}) { // they work here too
-            feuille->activateWindow(); // offscreen, no dialog gives it back
+            // Offscreen, no dialog gives it back.
+            feuille->activateWindow();
             QVERIFY(QTest::qWaitForWindowActive(feuille));
             const auto presser = [&] {
                 QTest::keyClick(page, touche, Qt::ControlModifier);

@@ -68,8 +68,8 @@ VueCommande::VueCommande(const Contexte &contexte, QWidget *parent)
 
     livres_ = colonneDesLivres();
     Pile::rangee(this, {},
-                 {Colonnes::entre(livres_, recapitulatif_, recapitulatif_, Theme::aLaTaille(panneauIdeal),
-                                  QStringLiteral("commande"), contexte.preferences)});
+                 {Colonnes::entre(livres_, recapitulatif_, recapitulatif_, panneauIdeal, QStringLiteral("commande"),
+                                  contexte.preferences)});
 
     connect(reinitialiser_, &QPushButton::clicked, this, &VueCommande::vider);
     auto *raccourci = new QShortcut(this);

@@ -69,8 +69,8 @@ VueLivres::VueLivres(const Contexte &contexte, QWidget *parent)
     enTete_->setLargeur(largeurDePage - marge);
     QWidget *liste = gauche();
     // A splitter sets its own widest width.
-    QWidget *colonnes = Pile::enRangee({}, {Colonnes::entre(liste, droite(), liste, Theme::aLaTaille(largeurDuVolet),
-                                                            QStringLiteral("livres"), contexte.preferences)});
+    QWidget *colonnes = Pile::enRangee(
+        {}, {Colonnes::entre(liste, droite(), liste, largeurDuVolet, QStringLiteral("livres"), contexte.preferences)});
     TailleDuTexte::suivre(colonnes, [colonnes] { colonnes->setMaximumWidth(Theme::aLaTaille(largeurDePage) + marge); });
     QBoxLayout *page = Pile::rangee({.espace = 0}, {Pile::reste(0), {colonnes, 1}, Pile::reste(0)});
     Pile::colonne(this, {.espace = 0}, {enTete_, {page, 1}});
