@@ -222,6 +222,7 @@ private slots:
         QCOMPARE(exemplaires, 2);
         QCOMPARE(caches, 3);
         QVERIFY(contenu(chemin).startsWith("%PDF-"));
+        QVERIFY(Ecran::montre(feuille, "Facture 2026-001 enregistrée.") && Ecran::controle(feuille, "Ouvrir le PDF"));
         QCOMPARE(retenu(), "2026-001");
     }
 

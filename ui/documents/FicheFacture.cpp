@@ -210,7 +210,7 @@ void FicheFacture::imprimer()
             enregistrer();
         return;
     }
-    emettre(QStringLiteral("Facture %1 imprimée."), [this](const Facture &facture) {
+    emettre([this](const Facture &facture) {
         const auto permise = [&] { return encoreLibre(facture); };
         return ImpressionFacture::imprimer(facture, Facture::exemplaires, permise, this);
     });
@@ -218,17 +218,11 @@ void FicheFacture::imprimer()
 
 void FicheFacture::enregistrer()
 {
-    std::optional<QString> chemin;
-    const bool faite = emettre(QStringLiteral("Facture %1 enregistrée."), [&](const Facture &facture) {
+    const auto chemin = emettre([this](const Facture &facture) {
         const auto permise = [&] { return encoreLibre(facture); };
-        chemin = ImpressionFacture::enregistrer(facture, contexte_.preferences.texte(cleDossier), permise, this);
-        return chemin.has_value();
+        return ImpressionFacture::enregistrer(facture, contexte_.preferences.texte(cleDossier), permise, this);
     });
-    if (chemin) { // also where the number could not be kept
-        fichier_ = *chemin;
-        ouvertures_->show();
-    }
-    if (!faite)
+    if (!chemin)
         return;
     try {
         contexte_.preferences.ecrire(cleDossier, QFileInfo(*chemin).absolutePath());
@@ -237,24 +231,35 @@ void FicheFacture::enregistrer()
     }
 }
 
-bool FicheFacture::emettre(const QString &issue, const std::function<bool(const Facture &)> &sortir)
+std::optional<QString> FicheFacture::emettre(const Sortie &sortir)
 {
     contexte_.jour.regarder(); // the invoice is of the day on which it leaves: on another, the sheet shows it anew
     if (!facture_ || !encoreLibre(*facture_))
-        return false;
+        return std::nullopt;
     direLIssue({});
     const Facture facture = *facture_; // whatever changes while a dialog is open
+    std::optional<QString> fichier;
+    bool retenue = false;
     try {
-        if (!emission_.emettre(facture, vendeur_, sortir))
-            return false;
-        direLIssue(issue.arg(facture.numero));
-        if (facture_)
-            remarquerLeNumero(); // it is the last one kept now
-        return true;
+        retenue = emission_.emettre(facture, vendeur_, [&](const Facture &prete) {
+            fichier = sortir(prete);
+            return fichier.has_value();
+        });
     } catch (const Echec &echec) {
         prevenir(echec.texte());
-        return false;
     }
+    if (retenue) {
+        direLIssue(
+            (fichier->isEmpty() ? QStringLiteral("Facture %1 imprimée.") : QStringLiteral("Facture %1 enregistrée."))
+                .arg(facture.numero));
+        if (facture_)
+            remarquerLeNumero(); // it is the last one kept now
+    }
+    if (fichier && !fichier->isEmpty()) { // also where the number could not be kept
+        fichier_ = QFileInfo(*fichier).absoluteFilePath();
+        ouvertures_->show();
+    }
+    return retenue ? fichier : std::nullopt;
 }
 
 // Another session may have kept its number since it was proposed.

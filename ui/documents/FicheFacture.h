@@ -46,8 +46,10 @@ private:
     void enregistrer();
     // What became of the invoice; empty when nothing has yet.
     void direLIssue(const QString &issue);
-    // True when all is done.
-    bool emettre(const QString &issue, const std::function<bool(const Facture &)> &sortir);
+    // Has the invoice leave: into the file that is given, onto paper when it is empty, not at all when there is none.
+    using Sortie = std::function<std::optional<QString>(const Facture &)>;
+    // The same, when all is done.
+    std::optional<QString> emettre(const Sortie &sortir);
     bool encoreLibre(const Facture &facture);
     void prevenir(const QString &message);
 

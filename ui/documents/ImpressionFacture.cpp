@@ -88,7 +88,8 @@ bool ImpressionFacture::proposerLePdf(QWidget *parent)
     return question.clickedButton() == enPdf;
 }
 
-bool ImpressionFacture::imprimer(const Facture &facture, int exemplaires, const Permission &permise, QWidget *parent)
+std::optional<QString> ImpressionFacture::imprimer(const Facture &facture, int exemplaires, const Permission &permise,
+                                                   QWidget *parent)
 {
     const QByteArray page = pdf(facture);
     QPrinter reglages;
@@ -99,7 +100,7 @@ bool ImpressionFacture::imprimer(const Facture &facture, int exemplaires, const 
     reglages.setDocName(facture.nomDeFichier()); // what the dialog proposes to a print to file
     DialogueImpression dialogue(&reglages, parent);
     if (dialogue.exec() != QDialog::Accepted || !permise())
-        return false;
+        return std::nullopt;
     if (!dialogue.fichier().isEmpty())
         ecrire(dialogue.fichier(), page);
     else
@@ -107,7 +108,7 @@ bool ImpressionFacture::imprimer(const Facture &facture, int exemplaires, const 
                              [&, titre = facture.titre() + QStringLiteral(".pdf"), travail = dialogue.travail()] {
                                  FileImpression::envoyer(page, titre, travail);
                              });
-    return true;
+    return dialogue.fichier();
 }
 
 std::optional<QString> ImpressionFacture::enregistrer(const Facture &facture, const QString &dossier,

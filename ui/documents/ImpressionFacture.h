@@ -27,8 +27,9 @@ using Permission = std::function<bool()>;
 // Both ask in the platform's dialog, over `parent`, and once more by `permise` when it is left, however long it stood.
 // They throw Echec when the invoice could not leave.
 
-// Returns whether the job was handed over; false when the user gave up, or it was not allowed any more.
-bool imprimer(const Facture &facture, int exemplaires, const Permission &permise, QWidget *parent);
+// Returns the path of the file to which the job was printed, empty when it was handed over to a printer; none when the
+// user gave up, or it was not allowed any more.
+std::optional<QString> imprimer(const Facture &facture, int exemplaires, const Permission &permise, QWidget *parent);
 // Returns the path of the file written; none as above. The dialog opens on `dossier`, or on the user's documents when
 // that folder is not there.
 std::optional<QString> enregistrer(const Facture &facture, const QString &dossier, const Permission &permise,
