@@ -29,14 +29,6 @@ Controle *trouver(const QWidget *fenetre, const QString &nom)
     return trouve;
 }
 
-QLabel *etiquette(const QWidget *fenetre, const QString &texte)
-{
-    const auto etiquettes = fenetre->findChildren<QLabel *>();
-    const auto trouvee = std::ranges::find_if(
-        etiquettes, [&](const QLabel *etiquette) { return etiquette->isVisible() && etiquette->text() == texte; });
-    return trouvee == etiquettes.end() ? nullptr : *trouvee;
-}
-
 void montrer(QWidget *controle)
 {
     QCoreApplication::processEvents(); // what has just changed is laid out first
@@ -107,6 +99,14 @@ bool Ecran::defiler(QWidget *fenetre, const QString &nom)
     if (controle)
         montrer(controle);
     return controle != nullptr;
+}
+
+QLabel *Ecran::etiquette(const QWidget *fenetre, const QString &texte)
+{
+    const auto etiquettes = fenetre->findChildren<QLabel *>();
+    const auto trouvee = std::ranges::find_if(
+        etiquettes, [&](const QLabel *etiquette) { return etiquette->isVisible() && etiquette->text() == texte; });
+    return trouvee == etiquettes.end() ? nullptr : *trouvee;
 }
 
 bool Ecran::montre(const QWidget *fenetre, const QString &texte)

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class QLabel;
 class QWidget;
 
 // Finds the controls of a window by what a screen reader says of them, and works them as a person does. Each returns
@@ -17,7 +18,8 @@ bool taper(QWidget *fenetre, const QString &nom, const QString &texte);
 bool choisir(QWidget *fenetre, const QString &nom, const QString &entree);
 // Scrolls until the control can be seen.
 bool defiler(QWidget *fenetre, const QString &nom);
-// Whether some label that can be seen says just this.
+// The label in sight that says just this; null when none does.
+QLabel *etiquette(const QWidget *fenetre, const QString &texte);
 bool montre(const QWidget *fenetre, const QString &texte);
 // The text on the right of a label; empty when the label is not on the screen.
 QString valeurEnFaceDe(const QWidget *fenetre, const QString &libelle);

@@ -52,6 +52,10 @@ Recapitulatif::Recapitulatif(const Contexte &contexte, const Suivi &suivi, QWidg
     defilement_->setWidget(page);
     Pile::colonne(this, {.espace = 0}, {{defilement_, 1}, pied_});
 
+    connect(
+        destination_, &SectionDestination::remarquee, this,
+        [this](QWidget *remarque) { defilement_->ensureWidgetVisible(remarque); },
+        Qt::QueuedConnection); // once it has its place
     connect(documents_, &SectionDocuments::demandes, this, &Recapitulatif::documentsDemandes);
     connect(lien_, &SectionLien::creationDemandee, this, [this] { emit etapeDemandee(Etape::lien); });
     connect(lien_, &SectionLien::copie, this, &Recapitulatif::copie);

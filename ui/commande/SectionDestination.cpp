@@ -63,8 +63,10 @@ SectionDestination::SectionDestination(const Donnees &donnees, Commande &command
 
     connect(recherche_, &QLineEdit::textEdited, this, &SectionDestination::remarquer);
     connect(recherche_, &ChampAPropositions::choisie, this, [this](int rang) { envoyer(trouves_.value(rang)); });
-    connect(recherche_, &ChampAPropositions::sansReponse, this,
-            [this](const QString &texte) { remarque_->montrer(TextesPays::introuvable(texte)); });
+    connect(recherche_, &ChampAPropositions::sansReponse, this, [this](const QString &texte) {
+        remarque_->montrer(TextesPays::introuvable(texte));
+        emit remarquee(remarque_);
+    });
     connect(destination_, &Choix::choisi, &commande_,
             [this](const QString &code) { commande_.setCodeDestination(CodeDestination(code)); });
     connect(horsUE_, &QAbstractButton::toggled, &commande_, &Commande::setHorsUE);
@@ -80,6 +82,8 @@ void SectionDestination::envoyer(const Pays &pays)
     } else {
         remarque_->montrer(TextesPays::nonEtabli(pays));
     }
+    if (remarque_->isVisible())
+        emit remarquee(remarque_);
 }
 
 void SectionDestination::montrer(const Calcul &calcul)

@@ -24,6 +24,10 @@ public:
     SectionDestination(const Donnees &donnees, Commande &commande, QWidget *parent = nullptr);
     void montrer(const Calcul &calcul);
 
+signals:
+    // What is to be known of the country asked for has just been written there.
+    void remarquee(QWidget *remarque);
+
 private:
     void envoyer(const Pays &pays);
     void remarquer(); // of the order's country, in place of what a search has said
