@@ -76,6 +76,9 @@ void Fenetre::reprendreLaPlace()
 
 void Fenetre::retenirLaPlace()
 {
+    const bool seulementOuverte = !std::exchange(dejaPosee_, true) && size() == ordinaire_.size();
+    if (seulementOuverte)
+        return; // where and as large as nobody has chosen
     if (!(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen | Qt::WindowMinimized)))
         ordinaire_ = QRect(pos(), size());
     preferences_.retenirSiPossible(clePlace, PlaceDeLaFenetre{ordinaire_, isMaximized()}.texte());

@@ -46,8 +46,9 @@ private:
 
     Preferences &preferences_;
     ContenuPrincipal *contenu_;
-    QRect ordinaire_; // where it stands but for filling the screen
-    QTimer repos_;    // runs while it has just been moved: nothing is written at exit
+    QRect ordinaire_;        // where it stands but for filling the screen
+    bool dejaPosee_ = false; // where it came to rest first
+    QTimer repos_;           // runs while it has just been moved: nothing is written at exit
     bool dejaMontree_ = false;
 };
 

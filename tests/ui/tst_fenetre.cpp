@@ -79,6 +79,17 @@ private slots:
         }
     }
 
+    void commeElleSOuvreElleNEstPasRetenue()
+    {
+        BancEcran banc;
+        const Preferences preferences = banc.donnees.preferences();
+        banc.demarrer();
+        auto *colonnes = banc.app->fenetre().findChild<QSplitter *>("colonne.rubriques");
+        emit colonnes->splitterMoved(1, 1); // rests after the window does
+        QTRY_VERIFY(!preferences.texte("colonne.rubriques").isEmpty());
+        QVERIFY(preferences.texte("fenetre").isEmpty());
+    }
+
     void dUnDemarrageALAutre()
     {
         BancEcran banc;
