@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/BonDeCommande.h"
+#include "model/MemoireDeVente.h"
 
 #include <QList>
 #include <QString>
@@ -13,12 +13,12 @@ namespace Quillet {
 class MemoireFactures
 {
 public:
-    // To be told of each change of the order: what is noted of one is not told of another.
-    void suivre(const BonDeCommande &bon);
+    // The order as it is after each change.
+    void suivre(const BonDeCommande &bon) { memoire_.suivre(bon); }
 
     // Of the order: the buyer as typed, and the number of the last invoice that left for it; either may be empty.
-    [[nodiscard]] QString acheteur() const;
-    [[nodiscard]] QString partie() const;
+    [[nodiscard]] const QString &acheteur() const { return memoire_.faits().acheteur; }
+    [[nodiscard]] const QString &partie() const { return memoire_.faits().partie; }
     // Whether an invoice of that number has left, for whatever order.
     [[nodiscard]] bool estPartie(const QString &numero, Vendeur vendeur) const;
 
@@ -28,15 +28,10 @@ public:
 private:
     struct Notes
     {
-        BonDeCommande vente;
         QString acheteur;
         QString partie;
     };
-    [[nodiscard]] Notes notes() const;
-    [[nodiscard]] Notes &aNoter();
-
-    BonDeCommande vente_; // the order's
-    QList<Notes> notes_;
+    MemoireDeVente<Notes> memoire_;
     QList<std::pair<Vendeur, QString>> parties_;
 };
 

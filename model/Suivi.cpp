@@ -1,37 +1,31 @@
 #include "model/Suivi.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace Quillet {
 
 void Suivi::suivre(const BonDeCommande &bon, const std::optional<Centimes> &total)
 {
-    const BonDeCommande vente = bon.vente();
-    const auto concerne = [&](const Fait &fait) { return fait.vente == vente && fait.total == total; };
-    if (concerne(fait_))
-        return;
-    const Fait neuf{.vente = vente, .total = total};
-    const Fait ancien = std::exchange(fait_, concerne(precedent_) ? precedent_ : neuf);
-    if (ancien.vente.rangAcheteur != vente.rangAcheteur)
-        precedent_ = ancien;
+    memoire_.suivre(bon);
+    if (Faits &faits = memoire_.faits(); faits.total != total)
+        faits = {.total = total};
 }
 
 void Suivi::faire(Etape etape)
 {
-    fait_.suivante = etape == Etape::lien ? Etape::reponse : Etape::facture;
+    memoire_.faits().suivante = etape == Etape::lien ? Etape::reponse : Etape::facture;
 }
 
 void Suivi::copier(const TexteACopier &texte)
 {
-    fait_.copies[texte.titre] = {texte.valeur, fois(texte) + 1};
-    fait_.dernierCopie = texte.titre;
+    memoire_.faits().copies[texte.titre] = {texte.valeur, fois(texte) + 1};
+    memoire_.faits().dernierCopie = texte.titre;
 }
 
 // Another value under the same title was never copied.
 int Suivi::fois(const TexteACopier &texte) const
 {
-    const Copie copie = fait_.copies.value(texte.titre);
+    const Copie copie = memoire_.faits().copies.value(texte.titre);
     return copie.valeur == texte.valeur ? copie.fois : 0;
 }
 

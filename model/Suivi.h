@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/BonDeCommande.h"
+#include "model/MemoireDeVente.h"
 
 #include <QHash>
 
@@ -16,8 +16,7 @@ struct TexteACopier
     QString valeur;
 };
 
-// What the seller has done for the present order. It counts as long as the buyer pays the same for the same, and again
-// for an emptied order that is had back.
+// What the seller has done for the present order. It counts as long as the buyer pays the same for the same.
 class Suivi
 {
 public:
@@ -25,12 +24,12 @@ public:
     void suivre(const BonDeCommande &bon, const std::optional<Centimes> &total);
 
     void faire(Etape etape);
-    [[nodiscard]] Etape suivante() const { return fait_.suivante; }
+    [[nodiscard]] Etape suivante() const { return memoire_.faits().suivante; }
 
     void copier(const TexteACopier &texte);
     [[nodiscard]] bool estCopie(const TexteACopier &texte) const { return fois(texte) > 0; }
     // Empty before the first.
-    [[nodiscard]] QString dernierCopie() const { return fait_.dernierCopie; }
+    [[nodiscard]] QString dernierCopie() const { return memoire_.faits().dernierCopie; }
     // Rank of the first of those copied least often: once each is, they start again.
     [[nodiscard]] qsizetype aCopier(const QList<TexteACopier> &textes) const;
 
@@ -42,16 +41,14 @@ private:
         QString valeur;
         int fois = 0;
     };
-    struct Fait
+    struct Faits
     {
-        BonDeCommande vente;
         std::optional<Centimes> total;
         Etape suivante = Etape::lien;
         QHash<QString, Copie> copies; // by title
         QString dernierCopie;         // its title
     };
-    Fait fait_;
-    Fait precedent_; // for the buyer before
+    MemoireDeVente<Faits> memoire_;
 };
 
 } // namespace Quillet

@@ -144,7 +144,7 @@ private slots:
         for (const auto &[nom, geste, attendue] : Rangees<void (*)(BonDeCommande &), Etape>{
                  {"vidée", [](BonDeCommande &autre) { autre.vider(); }, Etape::facture},
                  {"un livre de plus", [](BonDeCommande &autre) { autre.quantites[1] = 2; }, Etape::lien},
-                 {"l’acheteur suivant", [](BonDeCommande &autre) { ++autre.rangAcheteur; }, Etape::facture},
+                 {"l’autre vendeur", [](BonDeCommande &autre) { autre.vendeur = Vendeur::mireva; }, Etape::facture},
              }) {
             const Rangee rangee(nom);
             Suivi suivi;
