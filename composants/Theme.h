@@ -30,7 +30,7 @@ QColor accent(Mode mode);                    // with normal contrast
 QColor accentTexte(const QPalette &palette); // accent as a text or focus colour
 QColor orange(const QPalette &palette);      // warnings
 // The same by day and by night, white on it.
-QColor bleu();     // a switch that is on
+QColor bleu();     // the customs switch that is on
 QColor bleuHaut(); // the chosen site, from its top
 QColor bleuBas();  // to its bottom
 

@@ -18,7 +18,7 @@ struct PlaceDuNumero
     QString dernier;        // the last one kept; empty when there is none that can be read
     QString suivant;        // that the day's series waits for; empty when `dernier` could not be read
     bool reparti = false;   // it has left for this very order, and may once more
-    bool dejaParti = false; // for another one, since the program started
+    bool dejaParti = false; // otherwise, since the program started
 };
 
 // How an invoice gets its number and leaves.

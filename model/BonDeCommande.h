@@ -13,7 +13,7 @@
 
 namespace Quillet {
 
-// What the seller entered of one order. What follows from it is a Calcul.
+// What the seller entered of one order, and for which buyer. What follows from it is a Calcul.
 struct BonDeCommande
 {
     static constexpr int quantiteMaximale = 99;

@@ -56,7 +56,7 @@ void ecrire(const QString &chemin, const QByteArray &octets);
 // Copies what a file holds beside it, never over another file: `nom`.illisible, -2… Gives the copy's name, which may be
 // there already with the same bytes. Throws ErreurStockage.
 QString mettreDeCote(const QString &chemin, const QByteArray &contenu);
-// A plain file larger than that.
+// Whether a plain file holds more bytes; false when there is none.
 bool excede(const QString &chemin, qint64 borne);
 // Gives a file that is too large to be read, or copied, a second name beside it, as above. Throws ErreurStockage.
 QString doubler(const QString &chemin);

@@ -32,14 +32,15 @@ struct Lues
     bool entieres = true; // no line was lost
 };
 
-// None when anything is no line of ours: a file that was cut or overwritten must not pass for one without numbers. What
-// other programs put around lines and texts means nothing.
-std::optional<Lues> decoder(QByteArray octets)
+// Nothing, when anything is no line of ours: a file that was cut or overwritten must not pass for one without numbers.
+// What other programs put around lines and texts means nothing.
+Lues decoder(QByteArray octets)
 {
+    const Lues perdues{{}, false};
     if (octets.startsWith("\xEF\xBB\xBF"))
         octets = octets.sliced(3);
     if (!octets.endsWith('\n') || !QUtf8StringView(octets).isValidUtf8())
-        return std::nullopt;
+        return perdues;
     Valeurs valeurs;
     for (const QString &brute : QString::fromUtf8(octets).split(u'\n')) {
         const QString ligne = brute.trimmed();
@@ -49,14 +50,14 @@ std::optional<Lues> decoder(QByteArray octets)
         const QString valeur = ligne.section(u'=', 1).trimmed();
         if (!ligne.contains(u'=') || cle.isEmpty() || valeurs.contains(cle)
             || std::ranges::any_of(cle + valeur, estUnSigneDeCommande))
-            return std::nullopt;
+            return perdues;
         valeurs.insert(cle, valeur);
     }
     const bool comptees = valeurs.contains(cleDuNombre);
     const qint64 annonces = valeurs.take(cleDuNombre).toLongLong();
     if (valeurs.isEmpty()) // none is ever written so
-        return std::nullopt;
-    return Lues{valeurs, !comptees || (annonces > 0 && valeurs.size() >= annonces)};
+        return perdues;
+    return {valeurs, !comptees || (annonces > 0 && valeurs.size() >= annonces)};
 }
 
 QByteArray encoder(const Valeurs &valeurs)
@@ -78,7 +79,7 @@ Valeurs aGarder(const QString &fichier)
     const auto octets = Fichier::lireOuRefuser(fichier, Fichier::Borne::preferences);
     if (!octets)
         return {};
-    Lues lues = decoder(*octets).value_or(Lues{{}, false});
+    Lues lues = decoder(*octets);
     if (!lues.entieres)
         lues.valeurs.insert(cleDeLaCopie, Fichier::mettreDeCote(fichier, *octets));
     return lues.valeurs;
@@ -95,7 +96,7 @@ Preferences Preferences::deLUtilisateur()
 QString Preferences::texte(const QString &cle) const
 {
     const auto octets = Fichier::lire(fichier_, Fichier::Borne::preferences);
-    return octets ? decoder(*octets).value_or(Lues()).valeurs.value(cle) : QString();
+    return octets ? decoder(*octets).valeurs.value(cle) : QString();
 }
 
 Preferences::Trouvee Preferences::chercher(const QString &cle) const
@@ -106,7 +107,7 @@ Preferences::Trouvee Preferences::chercher(const QString &cle) const
     const auto octets = Fichier::lireOuRefuser(fichier_, Fichier::Borne::preferences);
     if (!octets)
         return {};
-    const Lues lues = decoder(*octets).value_or(Lues{{}, false});
+    const Lues lues = decoder(*octets);
     if (lues.valeurs.contains(cle))
         return {lues.valeurs.value(cle), {}};
     if (!lues.entieres)
@@ -130,7 +131,8 @@ void Preferences::ecrire(const QString &cle, const QString &texte)
 void Preferences::retenirSiPossible(const QString &cle, const QString &texte)
 {
     try {
-        if (!chercher(cle).perte && this->texte(cle) != texte)
+        const Trouvee trouvee = chercher(cle);
+        if (!trouvee.perte && trouvee.texte != texte)
             ecrire(cle, texte);
     } catch (const ErreurStockage &) {
         return; // what matters more is written later, and says so when it fails

@@ -67,11 +67,6 @@ QString TextesPays::proposition(const Pays &pays, const Donnees &donnees)
     return pays.nom() + QStringLiteral(" · ") + zoneDe(pays, donnees);
 }
 
-QString TextesPays::choisi(const Pays &pays, const Donnees &donnees)
-{
-    return pays.nom() + QStringLiteral(", ") + zoneDe(pays, donnees);
-}
-
 QString TextesPays::introuvable(const QString &recherche)
 {
     return QStringLiteral("Aucun pays ne répond à « %1 ».").arg(recherche.trimmed());

@@ -12,8 +12,7 @@ namespace Quillet::TextesPays {
 QList<Pays> trouves(const QList<Pays> &pays, const QString &recherche);
 // In the list of what was found: "Guadeloupe · Outre-mer OM1".
 QString proposition(const Pays &pays, const Donnees &donnees);
-// To be heard once it was chosen: "Guadeloupe, Outre-mer OM1".
-QString choisi(const Pays &pays, const Donnees &donnees);
+// Of a search that finds none.
 QString introuvable(const QString &recherche);
 // That nobody says which destination serves it.
 QString nonEtabli(const Pays &pays);

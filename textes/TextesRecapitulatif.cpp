@@ -171,8 +171,6 @@ QString TextesRecapitulatif::creationDuLien()
 
 QString TextesRecapitulatif::tourDeCopie(const Suivi &suivi, const QList<TexteACopier> &textes)
 {
-    if (textes.isEmpty())
-        return {};
     const TexteACopier &suivant = textes[suivi.aCopier(textes)];
     const auto dernier = std::ranges::find(textes, suivi.dernierCopie(), &TexteACopier::titre);
     if (dernier == textes.end() || !suivi.estCopie(*dernier))

@@ -72,7 +72,7 @@ QString perte(const Calcul &calcul);
 std::optional<LienDePaiement> lienDePaiement(const Calcul &calcul, const Donnees &donnees, const BonDeCommande &bon);
 QString libelleDeLaReponse(Langue langue);
 QString creationDuLien();
-// What was copied last of the link's texts, and which comes next.
+// What was copied last of the link's texts, one at least, and which comes next.
 QString tourDeCopie(const Suivi &suivi, const QList<TexteACopier> &textes);
 
 // "Envoi : Suisse · 1 012 g"

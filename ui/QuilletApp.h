@@ -35,7 +35,7 @@ private:
     // In this order: a check under way reads the catalogue, the window reads all.
     std::unique_ptr<Catalogue> catalogue_;
     Commande commande_;
-    MemoireFactures factures_; // of that order, for as long as it stands
+    MemoireFactures factures_;
     Verifications verifications_;
     MisesAJour misesAJour_;
     ImagesCouvertures images_;

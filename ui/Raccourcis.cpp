@@ -34,16 +34,14 @@ Groupe partout()
     for (const Rubrique rubrique : tous<Rubrique>) {
         const TraitsDeRubrique t = traits(rubrique);
         const QKeySequence touches(Qt::CTRL | t.touches.front());
-        groupe.raccourcis.append({Geste::duControle, {touches}, QStringLiteral("Écran %1").arg(t.libelle)});
+        groupe.raccourcis.append({{}, {touches}, QStringLiteral("Écran %1").arg(t.libelle)});
     }
     groupe.raccourcis += QList<Raccourci>{
         {Geste::zoneSuivante, {Qt::Key_F6}, QStringLiteral("Partie suivante de la fenêtre")},
         {Geste::zonePrecedente, {Qt::SHIFT | Qt::Key_F6}, QStringLiteral("Partie précédente de la fenêtre")},
-        {Geste::duControle,
-         {Qt::Key_Tab, Qt::SHIFT | Qt::Key_Tab},
-         QStringLiteral("D’un champ ou d’un bouton à l’autre")},
-        {Geste::duControle, {Qt::Key_Space}, QStringLiteral("Presser le bouton")},
-        {Geste::duControle,
+        {{}, {Qt::Key_Tab, Qt::SHIFT | Qt::Key_Tab}, QStringLiteral("D’un champ ou d’un bouton à l’autre")},
+        {{}, {Qt::Key_Space}, QStringLiteral("Presser le bouton")},
+        {{},
          {Qt::Key_Escape},
          QStringLiteral(
              "Quitter le champ où l’on a tapé, puis fermer la feuille ; à l’écran Livres, rendre la valeur d’avant")},
@@ -57,22 +55,19 @@ Groupe surUneCouverture()
 {
     return {
         QStringLiteral("Sur une couverture"),
-        {{Geste::duControle,
+        {{{},
           {},
           QStringLiteral("D’une couverture à l’autre"),
           {QStringLiteral("←"), QStringLiteral("→"), QStringLiteral("↑"), QStringLiteral("↓")}},
-         {Geste::duControle, {Qt::Key_Home, Qt::Key_End}, QStringLiteral("La première, la dernière")},
-         {Geste::duControle,
-          {},
-          QStringLiteral("Le livre dont un mot du titre commence par ces lettres"),
-          {QStringLiteral("A…Z")}},
-         {Geste::duControle,
+         {{}, {Qt::Key_Home, Qt::Key_End}, QStringLiteral("La première, la dernière")},
+         {{}, {}, QStringLiteral("Le livre dont un mot du titre commence par ces lettres"), {QStringLiteral("A…Z")}},
+         {{},
           {},
           QStringLiteral("Un exemplaire de plus"),
           {QStringLiteral("+"), QStringLiteral("Espace"), QStringLiteral("Entrée")}},
-         {Geste::duControle, {}, QStringLiteral("Un exemplaire de moins"), {QStringLiteral("−")}},
-         {Geste::duControle, {}, QStringLiteral("Ce nombre d’exemplaires (1 puis 2 : douze)"), {QStringLiteral("0…9")}},
-         {Geste::duControle, {Qt::Key_Delete, Qt::Key_Backspace}, QStringLiteral("Aucun exemplaire")}}};
+         {{}, {}, QStringLiteral("Un exemplaire de moins"), {QStringLiteral("−")}},
+         {{}, {}, QStringLiteral("Ce nombre d’exemplaires (1 puis 2 : douze)"), {QStringLiteral("0…9")}},
+         {{}, {Qt::Key_Delete, Qt::Key_Backspace}, QStringLiteral("Aucun exemplaire")}}};
 }
 
 } // namespace
@@ -129,12 +124,18 @@ QString Raccourcis::infobulle(Geste geste)
     return QStringLiteral("%1 (%2)").arg(raccourci.effet, raccourci.enTexte().constFirst());
 }
 
-void Raccourcis::presser(QAbstractButton *bouton, Geste geste, QWidget *page)
+QShortcut *Raccourcis::lier(QWidget *page, Geste geste, const std::function<void()> &faire)
 {
-    auto *raccourci = new QShortcut(page ? page : bouton);
+    auto *raccourci = new QShortcut(page);
     raccourci->setKeys(touches(geste));
     raccourci->setAutoRepeat(false);
-    QObject::connect(raccourci, &QShortcut::activated, bouton, &QAbstractButton::click);
+    QObject::connect(raccourci, &QShortcut::activated, page, faire);
+    return raccourci;
+}
+
+void Raccourcis::presser(QAbstractButton *bouton, Geste geste, QWidget *page)
+{
+    lier(page ? page : bouton, geste, [bouton] { bouton->click(); });
     if (bouton->toolTip().isEmpty())
         bouton->setToolTip(infobulle(geste));
 }

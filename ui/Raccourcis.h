@@ -3,7 +3,11 @@
 #include <QKeySequence>
 #include <QStringList>
 
+#include <functional>
+#include <optional>
+
 class QAbstractButton;
+class QShortcut;
 class QWidget;
 
 // The keys of the program, in one place: windows bind them, a sheet lists them, tooltips end with them.
@@ -24,12 +28,11 @@ enum class Geste {
     chercherUnLivre,
     annuler,
     retablir,
-    duControle, // keys of the control that has the focus, only listed here
 };
 
 struct Raccourci
 {
-    Geste geste;
+    std::optional<Geste> geste; // none: keys of the control that has the focus, only listed
     QList<QKeySequence> touches;
     QString effet;
     QStringList dites = {}; // what is listed of them; empty: all
@@ -49,7 +52,9 @@ QList<Groupe> table();
 QList<QKeySequence> touches(Geste geste);
 // "Ouvrir la réponse (Ctrl+E)".
 QString infobulle(Geste geste);
-// Has the keys press the button as long as it is in sight, or else `page`; a tooltip that it has is left as it is.
+// Binds the keys while `page` is in sight.
+QShortcut *lier(QWidget *page, Geste geste, const std::function<void()> &faire);
+// Has them press the button while `page` is in sight, without one the button; a tooltip that it has is left as it is.
 void presser(QAbstractButton *bouton, Geste geste, QWidget *page = nullptr);
 
 } // namespace Quillet::Raccourcis

@@ -20,6 +20,7 @@ bool choisir(QWidget *fenetre, const QString &nom, const QString &entree);
 bool defiler(QWidget *fenetre, const QString &nom);
 // The label in sight that says just this; null when none does.
 QLabel *etiquette(const QWidget *fenetre, const QString &texte);
+// Whether there is one.
 bool montre(const QWidget *fenetre, const QString &texte);
 // The text on the right of a label; empty when the label is not on the screen.
 QString valeurEnFaceDe(const QWidget *fenetre, const QString &libelle);

@@ -3,7 +3,6 @@
 #include "textes/FiltreLivres.h"
 #include "textes/TextesDocuments.h"
 #include "textes/TextesLivres.h"
-#include "textes/TextesRecapitulatif.h"
 #include "textes/TextesReponse.h"
 #include "textes/TextesRetour.h"
 #include "textes/TextesTarifs.h"

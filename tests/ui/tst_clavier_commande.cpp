@@ -178,7 +178,7 @@ private slots:
         reponse->reject();
         presser(Qt::Key_R, Qt::ControlModifier);
         QVERIFY(bon().estVide());
-        QVERIFY(controle(reinitialiser)->toolTip().endsWith("la destination restent")); // as it is worded
+        QVERIFY(controle(reinitialiser)->toolTip().endsWith("la destination restent")); // its own stays
         QVERIFY(controle("E-mail en français")->toolTip().endsWith(" (Ctrl+E)"));
     }
 };

@@ -96,9 +96,9 @@ private slots:
         const Preferences preferences = banc.donnees.preferences();
         banc.demarrer();
         const QSize taille(banc.app->fenetre().minimumSizeHint().width(), 700); // which any screen holds
-        banc.app->fenetre().resize(taille);
         auto *colonnes = banc.app->fenetre().findChild<QSplitter *>("colonne.rubriques");
         QTest::mouseClick(colonnes->handle(1), Qt::LeftButton); // moved by nobody
+        banc.app->fenetre().resize(taille);                     // to rest after the columns
         QTRY_VERIFY(preferences.texte("fenetre").endsWith(QString::number(taille.width()) + " 700"));
         QVERIFY(preferences.texte("colonne.rubriques").isEmpty());
         banc.demarrer();

@@ -96,9 +96,10 @@ CarteLivre::CarteLivre(const Livre &livre, Commande &commande, ImagesCouvertures
       livre_(livre),
       commande_(commande),
       couverture_(new Couverture(livre, images, this)),
-      selecteur_(new SelecteurQuantite(livre, commande, this))
+      selecteur_(new SelecteurQuantite(livre.titre, this))
 {
     connect(couverture_, &QAbstractButton::clicked, this, [this] { compter(quantite_ + 1); });
+    connect(selecteur_, &SelecteurQuantite::demande, this, [this](int difference) { compter(quantite_ + difference); });
     montrer(livre, commande.bon().quantite(livre));
     TailleDuTexte::suivre(this, [this] { placer(); });
 }

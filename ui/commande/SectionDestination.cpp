@@ -15,7 +15,6 @@
 #include "ui/Raccourcis.h"
 
 #include <QAction>
-#include <QShortcut>
 
 namespace Quillet {
 
@@ -44,9 +43,8 @@ SectionDestination::SectionDestination(const Donnees &donnees, Commande &command
     loupe->setText(QStringLiteral("Aller à la recherche d’un pays"));
     connect(loupe, &QAction::triggered, recherche_, qOverload<>(&QWidget::setFocus));
     recherche_->setToolTip(Raccourcis::infobulle(Raccourcis::Geste::chercherUnPays));
-    auto *raccourci = new QShortcut(recherche_);
-    raccourci->setKeys(Raccourcis::touches(Raccourcis::Geste::chercherUnPays));
-    connect(raccourci, &QShortcut::activated, recherche_, [this] { recherche_->setFocus(Qt::ShortcutFocusReason); });
+    Raccourcis::lier(recherche_, Raccourcis::Geste::chercherUnPays,
+                     [this] { recherche_->setFocus(Qt::ShortcutFocusReason); });
     recherche_->setVisible(!donnees.pays.isEmpty());
     for (const Destination &destination : donnees.destinations)
         destination_->ajouter(destination.libelleCourt, destination.code.texte());
@@ -78,7 +76,7 @@ void SectionDestination::envoyer(const Pays &pays)
     remarquer();
     if (const auto envoyee = PaysDeLivraison::envoyee(commande_.bon(), pays, donnees_)) {
         commande_.adopter(*envoyee);
-        LecteurDEcran::annoncer(recherche_, TextesPays::choisi(pays, donnees_));
+        LecteurDEcran::annoncer(recherche_, TextesPays::proposition(pays, donnees_));
     } else {
         remarque_->montrer(TextesPays::nonEtabli(pays));
     }

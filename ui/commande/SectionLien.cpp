@@ -110,7 +110,7 @@ void SectionLien::copierLeSuivant()
 {
     const auto places = champs();
     if (places.isEmpty())
-        return;
+        return; // pressed by a screen reader, which may know the button from before it was hidden
     ChampACopier *suivant = places[suivi_.aCopier(textes())];
     suivant->copier();
     emit copieALaSuite(suivant);

@@ -8,7 +8,6 @@
 #include "composants/Ressort.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
-#include "model/Commande.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -77,7 +76,7 @@ private:
 
 } // namespace
 
-SelecteurQuantite::SelecteurQuantite(const Livre &livre, Commande &commande, QWidget *parent)
+SelecteurQuantite::SelecteurQuantite(const QString &titre, QWidget *parent)
     : QWidget(parent),
       moins_(new BoutonRond(QStringLiteral("minus"), QStringLiteral("Retirer un exemplaire"))),
       plus_(new BoutonRond(QStringLiteral("plus"), QStringLiteral("Ajouter un exemplaire"))),
@@ -90,10 +89,10 @@ SelecteurQuantite::SelecteurQuantite(const Livre &livre, Commande &commande, QWi
     TailleDuTexte::suivre(nombre_, [this] { nombre_->setMinimumWidth(largeurDuNombre()); });
     nombre_->setText(QStringLiteral("0"));
     Pile::rangee(this, {.marges = {bord, 2, bord, 2 + ombre}, .espace = espace}, {moins_, nombre_, plus_});
-    connect(moins_, &QAbstractButton::clicked, this, [livre, &commande] { commande.ajuster(livre, -1); });
-    connect(plus_, &QAbstractButton::clicked, this, [livre, &commande] { commande.ajuster(livre, 1); });
+    connect(moins_, &QAbstractButton::clicked, this, [this] { emit demande(-1); });
+    connect(plus_, &QAbstractButton::clicked, this, [this] { emit demande(1); });
     moins_->setEnabled(false);
-    setAccessibleName(QStringLiteral("%1, nombre d’exemplaires").arg(livre.titre));
+    setAccessibleName(QStringLiteral("%1, nombre d’exemplaires").arg(titre));
     decrire();
     colorer();
 }

@@ -1,14 +1,11 @@
 #pragma once
 
-#include "model/Livre.h"
-
 #include <QWidget>
 
 class QAbstractButton;
 
 namespace Quillet {
 
-class Commande;
 class NombreRoulant;
 class Ressort;
 
@@ -18,13 +15,17 @@ class SelecteurQuantite : public QWidget
     Q_OBJECT
 
 public:
-    SelecteurQuantite(const Livre &livre, Commande &commande, QWidget *parent = nullptr);
+    explicit SelecteurQuantite(const QString &titre, QWidget *parent = nullptr);
 
     void montrer(int quantite);
     // Of one that shows a figure or two, px.
     [[nodiscard]] static int largeurUsuelle();
     // From the stroke of the plus to its right edge, px: what stands above is in line with the stroke.
     [[nodiscard]] static int depassement();
+
+signals:
+    // One copy more, or one less.
+    void demande(int difference);
 
 protected:
     void changeEvent(QEvent *evenement) override;

@@ -23,7 +23,6 @@
 #include <QApplication>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QSplitter>
 #include <QStyle>
 
@@ -72,10 +71,7 @@ VueCommande::VueCommande(const Contexte &contexte, QWidget *parent)
                                   contexte.preferences)});
 
     connect(reinitialiser_, &QPushButton::clicked, this, &VueCommande::vider);
-    auto *raccourci = new QShortcut(this);
-    raccourci->setKeys(Raccourcis::touches(Raccourcis::Geste::rendre));
-    raccourci->setAutoRepeat(false);
-    connect(raccourci, &QShortcut::activated, this, &VueCommande::rendre);
+    Raccourcis::lier(this, Raccourcis::Geste::rendre, [this] { rendre(); });
     connect(recapitulatif_, &Recapitulatif::annulationDemandee, this, &VueCommande::rendre);
     connect(selecteur_, &SelecteurSite::choisi, &contexte_.commande, &Commande::setVendeur);
     connect(recapitulatif_, &Recapitulatif::documentsDemandes, this, &VueCommande::ouvrirLesDocuments);

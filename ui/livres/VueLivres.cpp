@@ -20,7 +20,6 @@
 
 #include <QAction>
 #include <QPushButton>
-#include <QShortcut>
 #include <QShowEvent>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -95,9 +94,7 @@ VueLivres::VueLivres(const Contexte &contexte, QWidget *parent)
     connect(&contexte_.catalogue, &Catalogue::change, this, &VueLivres::actualiser);
     connect(&contexte_.jour, &JourCourant::change, this, &VueLivres::actualiser);
     montrerAnnulation();
-    auto *chercher = new QShortcut(this);
-    chercher->setKeys(Raccourcis::touches(Raccourcis::Geste::chercherUnLivre));
-    connect(chercher, &QShortcut::activated, volet_, &VoletLivres::chercher);
+    Raccourcis::lier(this, Raccourcis::Geste::chercherUnLivre, [this] { volet_->chercher(); });
 }
 
 // A button of the head, also reached by keys.
