@@ -86,8 +86,6 @@ private slots:
                  {"aussitôt", [](Commande &) {}, true},
                  {"geste sans effet", [](Commande &commande) { commande.setCodeDestination(vers("ue")); }, true},
                  {"un livre", [&](Commande &commande) { commande.ajuster(livre, 1); }, false},
-                 {"la destination", [](Commande &commande) { commande.setCodeDestination(vers("suisse")); }, false},
-                 {"la langue", [](Commande &commande) { commande.setLangue(Langue::francais); }, false},
                  {"vidée deux fois", [](Commande &commande) { commande.vider(); }, true},
              }) {
             const Rangee rangee(nom);

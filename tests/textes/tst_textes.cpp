@@ -145,51 +145,37 @@ private slots:
         banc.reglages.fraisPaypal.supplements = {
             {RegionPaypal::eee, Taux{0}}, {RegionPaypal::royaumeUni, Taux{129}}, {RegionPaypal::autres, Taux{199}}};
         const auto catalogue = banc.charger();
-        for (const auto &[verifie, symbole, etat] : Rangees<const char *, const char *>{
-                 // as kept
-                 {"", "", "Pas encore vérifiés depuis l’app"},
-                 {"2026-03-01T12:00:00Z", "checkmark.circle", "Vérifiés le 1er mars 2026"},
-                 {"2025-11-03T12:00:00Z", "clock.badge.exclamationmark", "Vérifiés le 3 novembre 2025 : à revérifier"},
-                 {"2026-03-02T20:00:00Z", "checkmark.circle", "Vérifiés le 2 mars 2026"},
+        for (const auto &[verifie, symbole, etat, rappele] : Rangees<const char *, const char *, bool>{
+                 // as kept; whether a failure does not hide it
+                 {"", "", "Pas encore vérifiés depuis l’app", true},
+                 {"2026-03-01T12:00:00Z", "checkmark.circle", "Vérifiés le 1er mars 2026", false},
+                 {"2025-11-03T12:00:00Z", "clock.badge.exclamationmark", "Vérifiés le 3 novembre 2025 : à revérifier",
+                  true},
+                 {"2026-03-02T20:00:00Z", "checkmark.circle", "Vérifiés le 2 mars 2026", false},
                  {"2026-03-04T12:00:00Z", "checkmark.circle",
-                  "Vérifiés le 4 mars 2026, une date à venir : l’horloge a changé"},
-             }) {
-            const Rangee rangee(verifie);
-            Preferences preferences = banc.preferences();
-            preferences.ecrire("verification.laPoste", verifie);
-            const auto maintenant = [] { return QDateTime(jourDuBanc, QTime(10, 0)); };
-            const Verifications verifications(*catalogue, preferences, maintenant, PagesSurveillees{QUrl(), QUrl()});
-            const auto ligne = TextesVerifications::laPoste(verifications, catalogue->donnees(), jourDuBanc);
-            QCOMPARE(ligne.detail, "en vigueur au 1er janvier 2026, nouvelle grille au 1er avril 2026");
-            QCOMPARE(ligne.etat.symbole, symbole);
-            QCOMPARE(ligne.etat.texte, etat);
-            QCOMPARE(lisible(TextesVerifications::paypal(verifications, catalogue->donnees()).detail),
-                     "2,90 % + 0,35 € ; Royaume-Uni + 1,29 %, autres pays + 1,99 %");
-        }
-    }
-
-    // A failure does not hide how old the last success is.
-    void verificationManquee()
-    {
-        const Banc banc;
-        const auto catalogue = banc.charger();
-        for (const auto &[verifie, symbole, rappel] : Rangees<const char *, const char *>{
-                 {"2026-03-01T12:00:00Z", "", ""},
-                 {"2025-11-03T12:00:00Z", "clock.badge.exclamationmark", "Vérifiés le 3 novembre 2025 : à revérifier"},
-                 {"", "", "Pas encore vérifiés depuis l’app"},
+                  "Vérifiés le 4 mars 2026, une date à venir : l’horloge a changé", false},
              }) {
             const Rangee rangee(verifie);
             Preferences preferences = banc.preferences();
             preferences.ecrire("verification.laPoste", verifie);
             const auto maintenant = [] { return QDateTime(jourDuBanc, QTime(10, 0)); };
             Verifications verifications(*catalogue, preferences, maintenant, horsReseau());
+            const auto dite = [&] {
+                return TextesVerifications::laPoste(verifications, catalogue->donnees(), jourDuBanc);
+            };
+            const auto ligne = dite();
+            QCOMPARE(ligne.detail, "en vigueur au 1er janvier 2026, nouvelle grille au 1er avril 2026");
+            QCOMPARE(ligne.etat.symbole, symbole);
+            QCOMPARE(ligne.etat.texte, etat);
+            QCOMPARE(lisible(TextesVerifications::paypal(verifications, catalogue->donnees()).detail),
+                     "2,90 % + 0,35 € ; Royaume-Uni + 1,29 %, autres pays + 1,99 %");
+
             verifications.verifierLaPoste();
             QTRY_COMPARE(verifications.etatLaPoste().cas, Verifications::Etat::Cas::erreur);
-            const auto ligne = TextesVerifications::laPoste(verifications, catalogue->donnees(), jourDuBanc);
-            QCOMPARE(ligne.etat.symbole, "exclamationmark.triangle");
-            QCOMPARE(ligne.etat.texte, verifications.etatLaPoste().message);
-            QCOMPARE(ligne.rappel.symbole, symbole);
-            QCOMPARE(ligne.rappel.texte, rappel);
+            QCOMPARE(dite().etat.symbole, "exclamationmark.triangle");
+            QCOMPARE(dite().etat.texte, verifications.etatLaPoste().message);
+            QCOMPARE(dite().rappel.symbole, rappele ? symbole : "");
+            QCOMPARE(dite().rappel.texte, rappele ? etat : "");
         }
     }
 
