@@ -17,6 +17,7 @@
 #include <QPainter>
 #include <QStyleOption>
 #include <QStyleOptionSlider>
+#include <QTextFormat>
 #include <QToolButton>
 
 #include <algorithm>
@@ -301,6 +302,14 @@ int Style::styleHint(StyleHint indice, const QStyleOption *option, const QWidget
     case SH_UnderlineShortcut: // in the bar, for who is about to press it
         return !qobject_cast<const QMenuBar *>(widget) || widget->hasFocus()
                || QGuiApplication::queryKeyboardModifiers().testFlag(Qt::AltModifier);
+    case SH_TextControl_FocusIndicatorTextCharFormat: // of a link
+        if (auto *lien = qstyleoption_cast<QStyleHintReturnVariant *>(retour); lien && option) {
+            QTextCharFormat anneau;
+            anneau.setProperty(QTextFormat::OutlinePen,
+                               QPen(Theme::accentTexte(option->palette), Dessin::epaisseurDAnneau));
+            lien->variant = anneau;
+        }
+        return 1;
     case SH_ComboBox_PopupFrameStyle: // the panel has its own
         return QFrame::NoFrame;
     case SH_ScrollBar_LeftClickAbsolutePosition:
