@@ -6,6 +6,7 @@
 #include "ui/Colonnes.h"
 #include "ui/ContenuPrincipal.h"
 #include "ui/Contexte.h"
+#include "ui/FeuilleGuide.h"
 #include "ui/FeuilleRaccourcis.h"
 #include "ui/PlaceDeLaFenetre.h"
 #include "ui/Raccourcis.h"
@@ -159,6 +160,8 @@ void Fenetre::creerMenu(MisesAJour &misesAJour)
     quitter->setMenuRole(QAction::QuitRole);
 
     QMenu *aide = menuBar()->addMenu(QStringLiteral("&Aide"));
+    aide->addAction(QStringLiteral("&Guide"), this,
+                    [this] { (new FeuilleGuide(FeuilleGuide::fichierLivre(), this))->ouvrir(); });
     QAction *raccourcis = aide->addAction(QStringLiteral("&Raccourcis clavier"), this,
                                           [this] { (new FeuilleRaccourcis(this))->ouvrir(); });
     raccourcis->setShortcuts(Raccourcis::touches(Raccourcis::Geste::aide)); // a field keeps its "?"

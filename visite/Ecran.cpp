@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QLabel>
+#include <QMenu>
 #include <QScrollArea>
 #include <QTest>
 
@@ -56,6 +57,18 @@ bool Ecran::cliquer(QWidget *fenetre, const QString &nom)
     montrer(bouton);
     QTest::mouseClick(bouton, Qt::LeftButton);
     return true;
+}
+
+bool Ecran::choisirAuMenu(const QWidget *fenetre, const QString &entree)
+{
+    for (const auto *menu : fenetre->findChildren<QMenu *>())
+        for (QAction *action : menu->actions())
+            if (action->isEnabled() && action->text().remove(u'&') == entree) {
+                action->trigger();
+                return true;
+            }
+    std::fprintf(stderr, "Introuvable aux menus : %s\n", qPrintable(entree));
+    return false;
 }
 
 bool Ecran::taper(QWidget *fenetre, const QString &nom, const QString &texte)

@@ -13,6 +13,8 @@ namespace Quillet::Ecran {
 // finds "Le Phare de sel, 18,00 €". Null when there is none.
 QWidget *controle(const QWidget *fenetre, const QString &nom);
 bool cliquer(QWidget *fenetre, const QString &nom);
+// In the menus, as it reads there.
+bool choisirAuMenu(const QWidget *fenetre, const QString &entree);
 // In place of what the field holds.
 bool taper(QWidget *fenetre, const QString &nom, const QString &texte);
 bool choisir(QWidget *fenetre, const QString &nom, const QString &entree);

@@ -12,6 +12,7 @@
 #include <QPlainTextEdit>
 #include <QScrollArea>
 #include <QSplitter>
+#include <QTextEdit>
 #include <QWidget>
 
 #include <algorithm>
@@ -165,8 +166,8 @@ bool abrege(const TextePeint &texte)
     for (const char *propriete : {"text", "placeholderText", "currentText"})
         if (texte.widget->property(propriete).toString().remove(u'&').contains(texte.texte))
             return false;
-    if (dansUn<QAbstractItemView>(texte.widget))
-        return false; // tells it line by line
+    if (dansUn<QAbstractItemView>(texte.widget) || dansUn<QTextEdit>(texte.widget))
+        return false; // the one tells it line by line, the other shortens nothing
     for (const QWidget *widget = texte.widget; widget; widget = widget->parentWidget())
         if (!widget->toolTip().isEmpty())
             return false;

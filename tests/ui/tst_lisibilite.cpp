@@ -7,6 +7,7 @@
 
 #include <QListView>
 #include <QRegularExpression>
+#include <QTextBrowser>
 
 using namespace Quillet;
 
@@ -142,6 +143,13 @@ private slots:
         lire("Commande", &fenetre);
         for (const char *bouton : {"Déclaration en douane", "Facture", "E-mail en anglais"})
             lireEtFermer(bouton, banc.ouvrir(bouton));
+        QVERIFY(Ecran::choisirAuMenu(&fenetre, "Guide"));
+        auto *guide = Dialogues::devant()->findChild<QTextBrowser *>();
+        for (const char *section : {"#au-clavier", "#vos-livres-vos-couvertures-vos-adresses"}) {
+            emit guide->anchorClicked(QUrl(section));
+            lire(QStringLiteral("Guide, ") + section, Dialogues::devant());
+        }
+        lireEtFermer("Guide", Dialogues::devant());
         fenetre.contenu()->montrer(Rubrique::tarifs);
         for (const char *page : {"Tarifs Colissimo", "Frais PayPal"}) {
             const QString voir = QStringLiteral("Voir les changements, ") + QString::fromUtf8(page);
