@@ -1,13 +1,18 @@
 #include "visite/Parcours.h"
 
+#include "composants/Formulaire.h"
 #include "ui/ContenuPrincipal.h"
 #include "ui/Fenetre.h"
 #include "visite/Dialogues.h"
 #include "visite/Ecran.h"
 
+#include <QApplication>
 #include <QDialog>
+#include <QPainter>
+#include <QScreen>
 #include <QTest>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace Quillet {
@@ -44,7 +49,7 @@ bool Parcours::jouer()
     if (!peserLeColis(QStringLiteral("1012")))
         return false;
     raconter(QStringLiteral("Le colis est pesé"));
-    if (!photographier(QStringLiteral("commande")))
+    if (!photographier(QStringLiteral("commande")) || !chercherUnPays() || !lireLAide())
         return false;
     if (!changerDeDestination(QStringLiteral("Suisse")))
         return false;
@@ -80,9 +85,52 @@ bool Parcours::peserLeColis(const QString &grammes)
     return Ecran::taper(&quillet_.fenetre(), QStringLiteral("Colis pesé, en grammes"), grammes);
 }
 
+bool Parcours::chercherUnPays()
+{
+    const QString nom = QStringLiteral("Chercher un pays");
+    Fenetre &fenetre = quillet_.fenetre();
+    QWidget *champ = Ecran::controle(&fenetre, nom);
+    if (!champ)
+        return false;
+    // Lists open within the screen, which may be smaller than the window that is drawn in memory.
+    const QPoint milieu = fenetre.screen()->availableGeometry().center();
+    fenetre.move(fenetre.pos() + milieu - champ->mapToGlobal(champ->rect().center()));
+    QWidget *section = champ;
+    while (!section->isWindow() && !qobject_cast<Formulaire::Section *>(section))
+        section = section->parentWidget();
+    champ->setFocus();
+    if (!Ecran::taper(&fenetre, nom, QStringLiteral("gua")) || !QApplication::activePopupWidget()
+        || !photographier(QStringLiteral("pays")) || !photographier(QStringLiteral("recherche-pays"), section))
+        return false;
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    return Ecran::taper(&fenetre, nom, {});
+}
+
+bool Parcours::lireLAide()
+{
+    struct Page
+    {
+        QString image;
+        QString entree;
+        QSize taille;
+    };
+    return std::ranges::all_of(
+        std::initializer_list<Page>{{QStringLiteral("guide"), QStringLiteral("Guide"), {760, 780}},
+                                    {QStringLiteral("raccourcis"), QStringLiteral("Raccourcis clavier"), {600, 720}}},
+        [this](const Page &page) {
+            QDialog *feuille = ouverte(Ecran::choisirAuMenu(&quillet_.fenetre(), page.entree), page.taille);
+            return feuille && photographier(page.image) && Ecran::cliquer(feuille, QStringLiteral("Fermer"));
+        });
+}
+
 QDialog *Parcours::ouvrir(const QString &bouton, QSize taille)
 {
-    QDialog *feuille = Ecran::cliquer(&quillet_.fenetre(), bouton) ? Dialogues::devant() : nullptr;
+    return ouverte(Ecran::cliquer(&quillet_.fenetre(), bouton), taille);
+}
+
+QDialog *Parcours::ouverte(bool demandee, QSize taille)
+{
+    QDialog *feuille = demandee ? Dialogues::devant() : nullptr;
     if (feuille)
         feuille->resize(taille); // whatever screen it is drawn for
     return feuille;
@@ -151,12 +199,17 @@ void Parcours::raconter(const QString &etape)
             std::printf("    %s : %s\n", libelle, qPrintable(valeur));
 }
 
-bool Parcours::photographier(const QString &nom)
+bool Parcours::photographier(const QString &nom, QWidget *partie)
 {
     QTest::qWait(tempsDesRessorts);
     const QString chemin = dossier_.filePath(nom + suffixe_ + QStringLiteral(".png"));
     QWidget *devant = Dialogues::devant() ? Dialogues::devant() : static_cast<QWidget *>(&quillet_.fenetre());
-    if (devant->grab().save(chemin))
+    QWidget *vu = partie ? partie->parentWidget() : devant;
+    const QRect cadre = partie ? partie->geometry() + QMargins(16, 10, 16, 16) : vu->rect();
+    QPixmap image = vu->grab(cadre);
+    if (QWidget *liste = QApplication::activePopupWidget()) // a window of its own
+        QPainter(&image).drawPixmap(vu->mapFromGlobal(liste->mapToGlobal(QPoint())) - cadre.topLeft(), liste->grab());
+    if (image.save(chemin))
         return true;
     std::fprintf(stderr, "Image impossible à écrire : %s\n", qPrintable(chemin));
     return false;

@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 
 class QDialog;
+class QWidget;
 
 namespace Quillet {
 
@@ -28,11 +29,15 @@ private:
     void raconter(const QString &etape);
     // The sheet that a click on this button opens, at its own size; null when there is none.
     QDialog *ouvrir(const QString &bouton, QSize taille);
+    static QDialog *ouverte(bool demandee, QSize taille);
+    bool chercherUnPays();
+    bool lireLAide();
     bool repondreALAcheteur();
     bool preparerLesDocuments();
     bool accepterLesNouveautes();
     bool reporterDesPrix();
-    bool photographier(const QString &nom);
+    // What is in front, or the surroundings of a part of it, whatever scrolling hides; with the list that is open over.
+    bool photographier(const QString &nom, QWidget *partie = nullptr);
 
     QDir dossier_;
     QString suffixe_;
