@@ -144,6 +144,7 @@ private slots:
         presser(Qt::Key_L, "l");
         QCOMPARE(ici(), "Livre 5");
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(ici(), "Emballage"); // from any cover as from the first
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
         QCOMPARE(ici(), "Livre 5");
         cliquer("Mireva"); // the cards go, the focus with them

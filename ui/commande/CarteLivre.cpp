@@ -128,16 +128,6 @@ void CarteLivre::compter(int exemplaires)
         commande_.ajuster(livre_, exemplaires - quantite_);
 }
 
-QWidget *CarteLivre::placerApres(QWidget *precedent)
-{
-    QWidget *dernier = precedent;
-    for (auto *controle : findChildren<QAbstractButton *>()) {
-        QWidget::setTabOrder(dernier, controle);
-        dernier = controle;
-    }
-    return dernier;
-}
-
 int CarteLivre::hauteur(int largeur)
 {
     return hauteurCouverture(largeur) + espace + hauteurDuTitre() + interligne

@@ -25,8 +25,6 @@ public:
     void compter(int exemplaires);
     [[nodiscard]] int quantite() const { return quantite_; }
     [[nodiscard]] Couverture *couverture() const { return couverture_; }
-    // Puts the card's controls behind `precedent` in the order of the Tab key; gives the last of them.
-    QWidget *placerApres(QWidget *precedent);
 
     // Whether a place in the card's own pixels is on what it shows.
     [[nodiscard]] bool contient(const QPoint &place) const;

@@ -113,7 +113,8 @@ void GrilleLivres::remplacerLesCartes(const QList<Livre> &livres)
     QWidget *precedent = precedent_;
     for (CarteLivre *carte : std::as_const(cartes_)) {
         carte->show();
-        precedent = carte->placerApres(precedent);
+        QWidget::setTabOrder(precedent, carte->couverture());
+        precedent = carte->couverture();
     }
     clavier_->suivre(cartes_);
     suivreLePointeur();
