@@ -50,7 +50,8 @@ bool LigneDeTexte::event(QEvent *evenement)
     if (evenement->type() == QEvent::ShortcutOverride) {
         const auto *touche = static_cast<QKeyEvent *>(evenement);
         if ((touche->matches(QKeySequence::Undo) && !isUndoAvailable())
-            || (touche->matches(QKeySequence::Redo) && !isRedoAvailable() && !isUndoAvailable())) {
+            || (touche->matches(QKeySequence::Redo) && !isRedoAvailable() && !isUndoAvailable())
+            || (touche->matches(QKeySequence::MoveToEndOfLine) && touche->key() != Qt::Key_End)) { // Ctrl+E, under X11
             evenement->ignore();
             return false;
         }

@@ -7,7 +7,8 @@
 namespace Quillet {
 
 // A line of text that keeps undo and redo to itself only while it has typing of its own, otherwise its screen answers
-// the same keys; and that drops the line breaks that are pasted.
+// the same keys; that leaves Ctrl+E, which elsewhere is End, to its screen; and that drops the line breaks that are
+// pasted.
 class LigneDeTexte : public QLineEdit
 {
     Q_OBJECT
