@@ -38,6 +38,11 @@ Feuille::Feuille(const QString &titre, QWidget *parent) : QDialog(parent)
     });
 }
 
+void Feuille::compterPourFait()
+{
+    avant_ = texteDe(focusWidget());
+}
+
 bool Feuille::aTape() const
 {
     const QString texte = texteDe(focusWidget());

@@ -4,7 +4,7 @@
 
 namespace Quillet {
 
-// A sheet over the window; Escape closes it, once it has left a field in which something was typed.
+// A sheet over the window; Escape closes it, once it has left a field in which something was typed and not yet used.
 class Feuille : public QDialog
 {
     Q_OBJECT
@@ -25,6 +25,8 @@ protected:
     // A hairline between two parts of the sheet.
     static QWidget *filet(Qt::Orientation sens);
     void keyPressEvent(QKeyEvent *evenement) override;
+    // What was typed has served: Escape need not save it any more.
+    void compterPourFait();
 
 private:
     void finir();

@@ -140,6 +140,8 @@ private slots:
                                 "ouvrez ce lien : https://lien.example/7<br>"),
                  qPrintable(corps));
         QCOMPARE(Dialogues::devant(), feuille);
+        QTest::keyClick(feuille->focusWidget(), Qt::Key_Escape); // what was typed has left: nothing to save
+        QTRY_VERIFY(!Dialogues::devant());
     }
 
     void messagerieCassee()

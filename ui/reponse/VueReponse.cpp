@@ -157,8 +157,10 @@ void VueReponse::ouvrirDansMail()
     };
     try {
         if (Mail::ecrire({adresse_->text(), message->sujet(), message->corps(), message->ligneTotal()}, parentWidget(),
-                         prevenir))
+                         prevenir)) {
+            compterPourFait();
             emit remise();
+        }
     } catch (const Echec &echec) {
         QMessageBox::warning(this, windowTitle(), echec.texte());
     }
