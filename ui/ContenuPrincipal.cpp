@@ -111,6 +111,13 @@ void ContenuPrincipal::changerDeZone(int pas)
     }
 }
 
+void ContenuPrincipal::prendreLeFocus()
+{
+    QWidget *entree = ecranMontre()->zones().constFirst().entree;
+    if (entree->focusPolicy() & Qt::TabFocus)
+        entree->setFocus();
+}
+
 bool ContenuPrincipal::conclure()
 {
     EcranDeRubrique *montre = ecranMontre();

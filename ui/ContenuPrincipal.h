@@ -26,6 +26,8 @@ public:
     // No section at all shows the order.
     void montrer(std::optional<Rubrique> rubrique);
     [[nodiscard]] std::optional<Rubrique> rubrique() const;
+    // The focus goes where the screen's work begins, if there is anything to do.
+    void prendreLeFocus();
     // The focus goes to the next part of the window, or with -1 to the one before.
     void changerDeZone(int pas);
     // Ends the edit under way; false when it could not be saved, which its screen says.

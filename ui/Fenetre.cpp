@@ -52,6 +52,7 @@ Fenetre::Fenetre(const Contexte &contexte, MisesAJour &misesAJour)
     setObjectName(QStringLiteral("quillet"));
     setWindowTitle(QStringLiteral("Quillet"));
     setCentralWidget(contenu_);
+    contenu_->prendreLeFocus();
     creerMenu(misesAJour);
     creerRaccourcis();
     repos_.setSingleShot(true);

@@ -17,7 +17,7 @@ class Vendeur:
         self._compte = compte
         self._oreille = Oreille(os.environ["ACCES_TRANSCRIPTION"])
         self._signalees = set()
-        self._entendre("ouverture", ["Quillet", "Commande"])
+        self._entendre("ouverture", ["Quillet", "Le Phare de sel"])
 
     def touche(self, une, *attendus):
         """Presses it, and hears what it should have said, if that is known."""
