@@ -10,10 +10,25 @@ import a_l_oreille
 import audit
 import au_clavier
 import par_l_arbre
+import trois_commandes
 from arbre import Echec, GLib, application
 
-PARTIES = {"arbre": par_l_arbre, "clavier": au_clavier, "audit": audit, "oreille": a_l_oreille}
-SANS_ORCA = ["arbre", "clavier", "audit"]
+
+def tel_quel(binaire, _dossier):
+    return binaire
+
+
+# What plays each part, on a program each, and what prepares that program.
+PARTIES = {
+    "arbre": [(par_l_arbre.jouer, tel_quel)],
+    "clavier": [(au_clavier.jouer, tel_quel)],
+    "audit": [(audit.jouer, tel_quel)],
+    "commandes": [(trois_commandes.au_clavier, trois_commandes.preparer),
+                  (trois_commandes.a_la_souris, trois_commandes.preparer),
+                  (trois_commandes.parmi_soixante, trois_commandes.preparer_soixante)],
+    "oreille": [(a_l_oreille.jouer, tel_quel)],
+}
+SANS_ORCA = [partie for partie in PARTIES if partie != "oreille"]
 
 
 class Abandon(Exception):
@@ -45,13 +60,14 @@ class Compte:
         print(f"  ÉCHEC  {quoi} : {pourquoi}", flush=True)
 
 
-def jouer(partie, binaire, compte):
-    print(f"{partie} :", flush=True)
+def derouler(jouer, preparer, binaire, compte):
     with tempfile.TemporaryDirectory() as dossier:
         chez_soi = {f"XDG_{quoi}_HOME": f"{dossier}/{quoi}" for quoi in ("CONFIG", "DATA")}  # no part sees another's
-        quillet = subprocess.Popen([binaire], env=os.environ | chez_soi)
+        chez_soi["HOME"] = dossier
+        chez_soi["PATH"] = f"{dossier}/outils:{os.environ['PATH']}"  # what a part puts before the system's
+        quillet = subprocess.Popen([preparer(binaire, dossier)], env=os.environ | chez_soi)
         try:
-            PARTIES[partie].jouer(application("Quillet"), compte, dossier)
+            jouer(application("Quillet"), compte, dossier)
             with compte.etape("Le programme s’est fermé de lui-même, sans faute"):
                 if quillet.wait(timeout=10) != 0:
                     raise Echec(f"code {quillet.returncode}")
@@ -65,7 +81,9 @@ def jouer(partie, binaire, compte):
 def main(binaire, *choisies):
     compte = Compte()
     for partie in choisies or SANS_ORCA:
-        jouer(partie, binaire, compte)
+        print(f"{partie} :", flush=True)
+        for jeu in PARTIES[partie]:
+            derouler(*jeu, binaire, compte)
     print(f"{compte.reussites} étapes réussies, {compte.echecs} en échec")
     return 1 if compte.echecs else 0
 

@@ -8,6 +8,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 PATIENCE = 8  # seconds for what the program is to show
+Atspi.set_timeout(1000 * PATIENCE, 1000 * PATIENCE)  # an action answers once it is done: a screen is built, say
 
 
 class Echec(Exception):
