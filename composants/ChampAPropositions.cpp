@@ -3,10 +3,9 @@
 #include "composants/DessinMenu.h"
 #include "composants/LecteurDEcran.h"
 #include "composants/SelectionDuLecteur.h"
-#include "composants/Theme.h"
 
-#include <QAbstractItemView>
 #include <QCompleter>
+#include <QListView>
 #include <QPainter>
 #include <QStringListModel>
 #include <QStyleOption>
@@ -16,7 +15,9 @@ namespace Quillet {
 
 namespace {
 
-// Drawn as the entries of a menu.
+constexpr int ecart = 4; // px, from the field to its list
+
+// Drawn as the entries of a list of choices.
 class Dessinateur : public QStyledItemDelegate
 {
 public:
@@ -24,8 +25,7 @@ public:
 
     void paint(QPainter *peintre, const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
-        peintre->fillRect(option.rect, Theme::surgissant(option.palette));
-        DessinMenu::entree(*peintre, entree(option, index));
+        DessinMenu::choix(*peintre, entree(option, index));
     }
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
@@ -57,7 +57,10 @@ ChampAPropositions::ChampAPropositions(Recherche recherche, QWidget *parent)
 {
     liste_->setWidget(this); // not setCompleter, which would write in the field what the arrows reach
     liste_->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
-    liste_->popup()->setItemDelegate(new Dessinateur(this));
+    auto *liste = new QListView;
+    liste_->setPopup(liste);
+    liste->setFrameShape(QFrame::StyledPanel); // measured again, now that it is known to come up
+    liste->setItemDelegate(new Dessinateur(this));
     connect(this, &QLineEdit::textEdited, this, &ChampAPropositions::proposer);
     connect(this, &QLineEdit::returnPressed, this, &ChampAPropositions::valider);
     connect(liste_, qOverload<const QModelIndex &>(&QCompleter::activated), this, &ChampAPropositions::prendre);
@@ -77,7 +80,7 @@ void ChampAPropositions::proposer()
         liste_->popup()->hide();
         return;
     }
-    liste_->complete();
+    liste_->complete(contentsRect().adjusted(0, 0, 0, ecart));
     liste_->popup()->setCurrentIndex(liste_->popup()->model()->index(0, 0));
 }
 

@@ -8,7 +8,7 @@
 #include "composants/DessinMenu.h"
 #include "composants/Icone.h"
 
-#include <QAbstractScrollArea>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QGroupBox>
@@ -30,6 +30,7 @@ constexpr int hauteurControle = 30;
 constexpr int largeurAscenseur = 11;
 constexpr int retraitDuChoix = 9; // of its text
 constexpr int margeDeBulle = 5;
+constexpr int margeDesPropositions = 3; // as much as QCompleter counts when it measures its list
 
 bool contient(const QStyleOption &option, QStyle::StateFlag etat)
 {
@@ -43,6 +44,12 @@ QRect sousLeTitre(const QStyleOption &option, const QWidget *widget)
     const auto *groupe = qobject_cast<const QGroupBox *>(widget);
     const bool titre = groupe && !groupe->title().isEmpty();
     return option.rect.adjusted(0, titre ? option.fontMetrics.height() + espace : 0, 0, 0);
+}
+
+// The list that comes up under a field.
+bool proposition(const QWidget *widget)
+{
+    return widget && widget->windowType() == Qt::Popup && qobject_cast<const QAbstractItemView *>(widget);
 }
 
 } // namespace
@@ -63,11 +70,12 @@ void Style::polish(QWidget *widget)
 {
     QProxyStyle::polish(widget);
     const bool liste = widget->inherits("QComboBoxPrivateContainer");
-    if ((liste || qobject_cast<QMenu *>(widget) || widget->inherits("QTipLabel")) && Composition::active())
+    const bool surgit = liste || proposition(widget) || qobject_cast<QMenu *>(widget) || widget->inherits("QTipLabel");
+    if (surgit && Composition::active())
         widget->setAttribute(Qt::WA_TranslucentBackground);
     if (liste)
         widget->setContentsMargins(DessinMenu::bord, 0, DessinMenu::bord, 0);
-    if (widget->inherits("QComboBoxListView"))
+    if (proposition(widget) || widget->inherits("QComboBoxListView"))
         static_cast<QAbstractScrollArea *>(widget)->viewport()->setAutoFillBackground(false);
 }
 
@@ -95,6 +103,12 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
         break;
     case PE_FrameGroupBox:
         Dessin::carte(*peintre, sousLeTitre(*option, widget), option->palette);
+        break;
+    case PE_Frame:
+        if (proposition(widget))
+            DessinMenu::panneau(*peintre, *option, widget);
+        else
+            QProxyStyle::drawPrimitive(element, option, peintre, widget);
         break;
     case PE_PanelMenu:
         DessinMenu::panneau(*peintre, *option, widget);
@@ -269,6 +283,8 @@ int Style::pixelMetric(PixelMetric mesure, const QStyleOption *option, const QWi
         return 0;
     case PM_MenuVMargin:
         return DessinMenu::bord;
+    case PM_DefaultFrameWidth:
+        return proposition(widget) ? margeDesPropositions : QProxyStyle::pixelMetric(mesure, option, widget);
     case PM_ToolTipLabelFrameWidth:
         return margeDeBulle;
     default:
