@@ -143,6 +143,11 @@ private slots:
         QCOMPARE(quantite(4), 0);
         presser(Qt::Key_L, "l");
         QCOMPARE(ici(), "Livre 5");
+        presser(Qt::Key_I, "i");
+        presser(Qt::Key_Plus, "+"); // chosen: what follows is another title
+        presser(Qt::Key_L, "l");
+        QCOMPARE(ici(), "Livre 1");
+        presser(Qt::Key_End);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         QCOMPARE(ici(), "Emballage"); // from any cover as from the first
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);

@@ -67,9 +67,12 @@ bool ClavierDeLaGrille::presser(const QKeyEvent &touche)
     const auto colonnes = std::ranges::count(cartes_, cartes_.constFirst()->y(), &CarteLivre::y);
     if (const auto rang = ParcoursDeLaGrille::versOu(touche.key(), rang_, static_cast<int>(cartes_.size()),
                                                      static_cast<int>(colonnes))) {
+        lettres_.clear();
         aller(*rang);
         return true;
     }
+    if (!touche.text().isEmpty() && !touche.text().front().isLetter())
+        lettres_.clear(); // what follows is another title
     if (touche.text().isEmpty() || !touche.text().front().isDigit())
         nombre_.reset(); // what follows is another number
     CarteLivre &carte = *cartes_[rang_];
