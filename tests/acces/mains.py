@@ -78,7 +78,7 @@ class ALaSouris(Gestes):
         self.cliquer(quillet, "text", "Chercher un pays")
         taper(commande.cherche)
         self.presser(attendre(lambda: next((n for n in parcourir(programme) if n.get_role_name() == "list item"
-                                            and nom(n).startswith(commande.pays)), None), "aucun pays n’est proposé"))
+                                            and nom(n).startswith(commande.pays + " · ")), None), "aucun pays n’est proposé"))
 
     def peser(self, quillet, pesee):
         self.cliquer(quillet, "text", "Colis pesé, en grammes")

@@ -39,9 +39,9 @@ class Commande:
 PHARE = {"Le Phare de sel": "phare"}
 FRANCE = Commande("Un livre, France", PHARE, "7,59 €", "25,59 €", "Total à payer (livres + envoi) : 25,59 €")
 CANADA = Commande("Un livre, Canada", PHARE, "35,19 €", "53,19 €", "Total to pay (books + shipping): €53.19", "can",
-                  "le Canada", "Canada", "402", True)
+                  "Canada", "Canada", "402", True)
 GUADELOUPE = Commande("Deux titres, Guadeloupe", PHARE | {"L’Herbier des heures": "herb"}, "19,00 €", "52,00 €",
-                      "Total à payer (livres + envoi) : 52,00 €", "gua", "la Guadeloupe", "la Guadeloupe")
+                      "Total à payer (livres + envoi) : 52,00 €", "gua", "Guadeloupe", "la Guadeloupe")
 
 
 def passer(main, commande, programme, quillet, dossier):
