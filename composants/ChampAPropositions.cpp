@@ -11,6 +11,8 @@
 #include <QStyleOption>
 #include <QStyledItemDelegate>
 
+#include <algorithm>
+
 namespace Quillet {
 
 namespace {
@@ -60,6 +62,7 @@ ChampAPropositions::ChampAPropositions(Recherche recherche, QWidget *parent)
     auto *liste = new QListView;
     liste_->setPopup(liste);
     liste->setFrameShape(QFrame::StyledPanel); // measured again, now that it is known to come up
+    liste->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     liste->setItemDelegate(new Dessinateur(this));
     connect(this, &QLineEdit::textEdited, this, &ChampAPropositions::proposer);
     connect(this, &QLineEdit::returnPressed, this, &ChampAPropositions::valider);
@@ -80,8 +83,11 @@ void ChampAPropositions::proposer()
         liste_->popup()->hide();
         return;
     }
-    liste_->complete(contentsRect().adjusted(0, 0, 0, ecart));
-    liste_->popup()->setCurrentIndex(liste_->popup()->model()->index(0, 0));
+    auto *popup = static_cast<QListView *>(liste_->popup());
+    liste_->setMaxVisibleItems(proposees_->rowCount()); // a search gives no more than can be read
+    const int large = popup->sizeHintForColumn(0) + 2 * popup->frameWidth();
+    liste_->complete(QRect(0, 0, std::max(width(), large), height() + ecart)); // wider than the field if it must
+    popup->setCurrentIndex(popup->model()->index(0, 0));
 }
 
 // The open list hands Return to the field before it takes it for itself.

@@ -16,7 +16,7 @@ SectionDocuments::SectionDocuments(QWidget *parent)
       facture_(new QPushButton(Icone::icone(QStringLiteral("doc.plaintext")), QStringLiteral("Facture")))
 {
     auto *boutons = new QWidget;
-    QBoxLayout *rangee = Pile::rangee(boutons, {.espace = 12});
+    QBoxLayout *rangee = Pile::rangee(boutons, {.espace = 8});
     for (QPushButton *bouton : {douane_, facture_}) {
         rangee->addWidget(bouton, bouton->sizeHint().width()); // in proportion to its text
         // Less of it where the panel is at its narrowest.

@@ -18,7 +18,7 @@ namespace Quillet {
 namespace {
 
 constexpr QSize couverture(40, 60);
-constexpr int marge = 12;  // inside a group
+constexpr int marge = 10;  // inside a group
 constexpr int retrait = 4; // of the current row's mark
 constexpr int avantLEtiquette = 8;
 constexpr int sousLeTitre = 8;    // between a group's title and the group
