@@ -118,10 +118,14 @@ QList<QKeySequence> Raccourcis::touches(Geste geste)
     return trouver(geste).touches;
 }
 
-QString Raccourcis::infobulle(Geste geste)
+void Raccourcis::dire(QWidget *controle, Geste geste)
 {
     const Raccourci raccourci = trouver(geste);
-    return QStringLiteral("%1 (%2)").arg(raccourci.effet, raccourci.enTexte().constFirst());
+    const QString touches = raccourci.enTexte().constFirst();
+    if (controle->toolTip().isEmpty())
+        controle->setToolTip(QStringLiteral("%1 (%2)").arg(raccourci.effet, touches));
+    if (controle->accessibleDescription().isEmpty()) // the tooltip would be read, which says the name again
+        controle->setAccessibleDescription(touches);
 }
 
 QShortcut *Raccourcis::lier(QWidget *page, Geste geste, const std::function<void()> &faire)
@@ -136,8 +140,7 @@ QShortcut *Raccourcis::lier(QWidget *page, Geste geste, const std::function<void
 void Raccourcis::presser(QAbstractButton *bouton, Geste geste, QWidget *page)
 {
     lier(page ? page : bouton, geste, [bouton] { bouton->click(); });
-    if (bouton->toolTip().isEmpty())
-        bouton->setToolTip(infobulle(geste));
+    dire(bouton, geste);
 }
 
 } // namespace Quillet

@@ -50,11 +50,12 @@ struct Groupe
 QList<Groupe> table();
 
 QList<QKeySequence> touches(Geste geste);
-// "Ouvrir la réponse (Ctrl+E)".
-QString infobulle(Geste geste);
+// Tells of the keys, on a tooltip ("Ouvrir la réponse (Ctrl+E)") and aloud; what the control tells already is left as
+// it is.
+void dire(QWidget *controle, Geste geste);
 // Binds the keys while `page` is in sight.
 QShortcut *lier(QWidget *page, Geste geste, const std::function<void()> &faire);
-// Has them press the button while `page` is in sight, without one the button; a tooltip that it has is left as it is.
+// Has them press the button while `page` is in sight, without one the button.
 void presser(QAbstractButton *bouton, Geste geste, QWidget *page = nullptr);
 
 } // namespace Quillet::Raccourcis

@@ -186,6 +186,7 @@ private slots:
         QVERIFY(bon().estVide());
         QVERIFY(controle(reinitialiser)->toolTip().endsWith("la destination restent")); // its own stays
         QVERIFY(controle("E-mail en français")->toolTip().endsWith(" (Ctrl+E)"));
+        QCOMPARE(controle("E-mail en français")->accessibleDescription(), "Ctrl+E"); // not the tooltip, to be read too
     }
 };
 

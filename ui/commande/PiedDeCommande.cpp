@@ -39,7 +39,7 @@ PiedDeCommande::PiedDeCommande(QWidget *parent)
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::AlternateBase);
 
-    annuler_->setToolTip(Raccourcis::infobulle(Raccourcis::Geste::rendre));
+    Raccourcis::dire(annuler_, Raccourcis::Geste::rendre);
     annuler_->setAccessibleName(QStringLiteral("Annuler, rétablir la commande vidée"));
     auto *videe = new Libelle(QStringLiteral("Commande vidée"));
     videe->setWordWrap(true);

@@ -42,7 +42,7 @@ SectionDestination::SectionDestination(const Donnees &donnees, Commande &command
     auto *loupe = recherche_->addAction(Icone::icone(QStringLiteral("magnifyingglass")), QLineEdit::LeadingPosition);
     loupe->setText(QStringLiteral("Aller à la recherche d’un pays"));
     connect(loupe, &QAction::triggered, recherche_, qOverload<>(&QWidget::setFocus));
-    recherche_->setToolTip(Raccourcis::infobulle(Raccourcis::Geste::chercherUnPays));
+    Raccourcis::dire(recherche_, Raccourcis::Geste::chercherUnPays);
     Raccourcis::lier(recherche_, Raccourcis::Geste::chercherUnPays,
                      [this] { recherche_->setFocus(Qt::ShortcutFocusReason); });
     recherche_->setVisible(!donnees.pays.isEmpty());
