@@ -41,6 +41,8 @@ private slots:
         suivante(lien)->click();
         QDesktopServices::unsetUrlHandler("https");
         QVERIFY(suivante("E-mail en français"));
+        const QWidget *prix = controle("Copier Prix"); // PayPal's page asks for the texts
+        QCOMPARE(prix->visibleRegion().boundingRect(), prix->rect());
         cliquer("Anglais");
         QDialog *reponse = banc_->ouvrir(suivante("E-mail en anglais")->accessibleName());
         QCOMPARE(reponse->windowTitle(), "Réponse à l’acheteur");

@@ -23,6 +23,7 @@ namespace Quillet {
 namespace {
 
 constexpr int largeurMinimale = 330;
+constexpr int espace = 22; // between the sections
 
 } // namespace
 
@@ -44,7 +45,7 @@ Recapitulatif::Recapitulatif(const Contexte &contexte, const Suivi &suivi, QWidg
     defilement_->setBackgroundRole(QPalette::AlternateBase);
 
     QWidget *page =
-        Pile::enColonne({.marges = {16, 24, 16, 28}, .espace = 22},
+        Pile::enColonne({.marges = {16, 24, 16, 28}, .espace = espace},
                         {livres_, poids_, destination_, montants_, lien_, documents_, reponse_, Pile::reste()});
     page->setAutoFillBackground(true);
     page->setBackgroundRole(QPalette::AlternateBase);
@@ -63,7 +64,11 @@ Recapitulatif::Recapitulatif(const Contexte &contexte, const Suivi &suivi, QWidg
         defilement_->ensureWidgetVisible(rangee); // the keys may come from anywhere
     });
     connect(reponse_, &SectionReponse::demandee, this, [this] { emit etapeDemandee(Etape::reponse); });
-    connect(pied_, &PiedDeCommande::etapeDemandee, this, &Recapitulatif::etapeDemandee);
+    connect(pied_, &PiedDeCommande::etapeDemandee, this, [this](Etape etape) {
+        if (etape == Etape::lien) // PayPal's page will ask for its texts
+            defilement_->verticalScrollBar()->setValue(lien_->y() - espace);
+        emit etapeDemandee(etape);
+    });
     connect(pied_, &PiedDeCommande::annulationDemandee, this, &Recapitulatif::annulationDemandee);
 }
 
