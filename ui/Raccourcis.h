@@ -19,6 +19,7 @@ enum class Geste {
     zoneSuivante,
     zonePrecedente,
     chercherUnPays,
+    etapeSuivante,
     repondre,
     reinitialiser,
     rendre,

@@ -27,8 +27,16 @@ class AuClavier(Gestes):
     def copier_le_suivant(self, _quillet):
         self.touche("ctrl+shift+c")
 
-    def repondre(self, _quillet):
-        self.touche("ctrl+e")
+    def creer_le_lien(self, quillet):
+        self.etape_suivante(quillet, "Créer le lien dans PayPal")
+
+    def repondre(self, quillet):
+        self.etape_suivante(quillet, "E-mail")
+
+    def etape_suivante(self, quillet, laquelle):
+        attendre(lambda: any(nom(n).startswith(f"Étape suivante : {laquelle}") for n in parcourir(quillet)),
+                 f"« {laquelle} » n’est pas l’étape suivante")
+        self.touche("ctrl+Return")
 
     def vers_l_adresse(self, _feuille):
         self.touche("Tab")
@@ -53,11 +61,7 @@ class AuClavier(Gestes):
         self.touche("space")
 
     def facturer(self, quillet):
-        if nom(foyer(quillet)) == "Déclaration en douane":  # whose neighbour it is
-            self.touche("Tab")
-        else:
-            self.vers_le_pied(quillet)
-        self.touche("space")
+        self.etape_suivante(quillet, "Facture")
 
     def vers_le_pied(self, quillet):
         self.jusqu_a(quillet, "F6", lambda ici: nom(ici).startswith("Étape suivante"))
@@ -92,8 +96,10 @@ class ALaSouris(Gestes):
     def copier_le_suivant(self, quillet):
         self.cliquer(quillet, "push button", "Copier le suivant")
 
-    def repondre(self, quillet):
+    def creer_le_lien(self, quillet):
         self.cliquer(quillet, "push button", "Étape suivante : Créer le lien dans PayPal")
+
+    def repondre(self, quillet):
         self.presser(attendre(lambda: next((n for n in parcourir(quillet) if nom(n).startswith("Étape suivante : E-mail")),
                                            None), "la réponse n’est pas l’étape suivante"))
 

@@ -57,6 +57,7 @@ def passer(main, commande, programme, quillet, dossier):
     if commande.adresse:
         lue = texte(trouver(quillet, "text", "Pays de livraison"))
         exiger(lue == commande.adresse, f"pays de livraison « {lue} », attendu « {commande.adresse} »")
+    main.creer_le_lien(quillet)
     textes = [copier(lambda: main.copier_le_suivant(quillet)) for _ in range(4)]
     exiger(len(set(textes)) == 4 and commande.total[:-2] in textes, f"textes du lien : {textes}")
 

@@ -52,6 +52,7 @@ PiedDeCommande::PiedDeCommande(QWidget *parent)
     Pile::colonne(this, {.marges = {16, 11, 16 + ascenseur, 12}, .espace = 0},
                   {videe_, envoi_.rangee, total_, reste_.rangee, Pile::blanc(8), suivante_});
 
+    Raccourcis::presser(suivante_, Raccourcis::Geste::etapeSuivante);
     connect(annuler_, &QPushButton::clicked, this, &PiedDeCommande::annulationDemandee);
     connect(suivante_, &QPushButton::clicked, this, [this] { emit etapeDemandee(etape_); });
 }
