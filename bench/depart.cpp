@@ -56,7 +56,6 @@ int attendreEtRapporter(const Temoin &temoin, std::chrono::nanoseconds depart)
 int main(int argc, char **argv)
 {
     Temoin temoin(argc, argv);
-    temoin.installEventFilter(new SansPointeur(&temoin));
     const QStringList arguments = Temoin::arguments();
     const std::chrono::nanoseconds depart(arguments.value(2).toLongLong());
     if (arguments.value(1) == QStringLiteral("vide")) {
@@ -76,6 +75,7 @@ int main(int argc, char **argv)
         Ressources::duProgramme(), Stockage::deLUtilisateur(), Preferences::deLUtilisateur(),
         [] { return QDate::currentDate(); }, horsReseau());
     bureau.relever();
+    temoin.installEventFilter(new SansPointeur(&temoin)); // the last one sees events first
     quillet.fenetre().show();
     return attendreEtRapporter(temoin, depart);
 }
