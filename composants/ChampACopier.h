@@ -25,7 +25,7 @@ public:
 
     // `affichage` is shown instead of the value when it is not empty.
     void montrer(const QString &valeur, const QString &affichage = {});
-    // A quiet tick after the title that stands over the value: it was copied already.
+    // A quiet tick after the title that stands over the value: it was copied already. Nothing beside the value.
     void marquer(bool copie);
     // As its button does, and has it said which one it was.
     void copier();

@@ -22,8 +22,9 @@ QColor transparente(QColor couleur, double opacite);
 void aplat(QPainter &peintre, const QRectF &cadre, qreal rayon, const QColor &couleur);
 
 // On a screen at 125 %, lines of one px would be one of the device's here and two there: these are as wide everywhere.
-// The width of a hairline, px; a frame moved onto the device's own pixels.
+// The width of a hairline, px.
 qreal trait(const QPainter &peintre);
+// The frame, moved onto the device's own pixels.
 QRectF surLesPixels(const QPainter &peintre, const QRectF &cadre);
 // A hairline from here to the right.
 void filet(QPainter &peintre, const QPointF &debut, qreal longueur, const QPalette &palette);

@@ -56,7 +56,7 @@ QRectF carre(const QPointF &centre, qreal cote)
 }
 
 // On what comes up over other cards a hairline alone would be lost.
-QColor trait(const QPalette &palette)
+QColor couleurDuTrait(const QPalette &palette)
 {
     const bool renforce = Theme::contraste(palette) == Theme::Contraste::renforce;
     return Dessin::melange(Theme::filet(palette), Theme::secondaire(palette), renforce ? 0 : 0.35);
@@ -73,7 +73,7 @@ void DessinMenu::panneau(QPainter &peintre, const QStyleOption &option, const QW
 {
     const QPalette &palette = option.palette;
     Dessin::encadre(peintre, option.rect, transparente(widget) ? Theme::rayonGroupe : 0, Theme::surgissant(palette),
-                    trait(palette));
+                    couleurDuTrait(palette));
 }
 
 void DessinMenu::entree(QPainter &peintre, const QStyleOptionMenuItem &option)
@@ -82,7 +82,7 @@ void DessinMenu::entree(QPainter &peintre, const QStyleOptionMenuItem &option)
     const QRect cadre = option.rect.adjusted(bord, 0, -bord, 0);
     if (option.menuItemType == QStyleOptionMenuItem::Separator) {
         const QRectF ligne(cadre.left() + marge, cadre.center().y(), cadre.width() - 2 * marge, Dessin::trait(peintre));
-        peintre.fillRect(Dessin::surLesPixels(peintre, ligne), trait(palette));
+        peintre.fillRect(Dessin::surLesPixels(peintre, ligne), couleurDuTrait(palette));
         return;
     }
     const bool actif = option.state.testFlag(QStyle::State_Enabled);
@@ -159,8 +159,8 @@ void DessinMenu::rubrique(QPainter &peintre, const QStyleOptionMenuItem &option,
 
 void DessinMenu::sousLaBarre(QPainter &peintre, const QStyleOption &option)
 {
-    peintre.fillRect(QRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1),
-                     Theme::filet(option.palette));
+    const QPointF debut(option.rect.left(), option.rect.bottom() + 1 - Dessin::trait(peintre));
+    Dessin::filet(peintre, debut, option.rect.width(), option.palette);
 }
 
 void DessinMenu::bulle(QPainter &peintre, const QStyleOption &option, const QWidget *widget)

@@ -18,7 +18,8 @@ class EnTete : public QWidget
 public:
     // `marge`: on either side, px.
     explicit EnTete(const QString &titre, int marge = Theme::margeDePage, QWidget *parent = nullptr);
-    // On a wide screen what it holds is as wide as the page below, and as centred; in px for text of 10 pt.
+    // On a wide screen what it holds is as wide as the page below, and as centred; px, as `Theme::aLaTaille` takes
+    // them.
     void setLargeur(int largeur);
     void setSousTitre(const QString &sousTitre);
     void ajouter(QWidget *commande);

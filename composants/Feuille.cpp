@@ -89,7 +89,8 @@ void Feuille::prendreLaTaille(QSize taille)
     resize(Theme::aLaTaille(taille).boundedTo(Place::surLEcran(this)));
 }
 
-// On a button, Return presses it; anywhere else, the sheet's own command.
+// Escape first leaves a field in which something was typed. On a button, Return presses it; anywhere else, the sheet's
+// own command.
 void Feuille::keyPressEvent(QKeyEvent *evenement)
 {
     if (evenement->key() == Qt::Key_Escape && aTape()) {

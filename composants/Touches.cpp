@@ -14,6 +14,7 @@ namespace Quillet {
 namespace {
 
 constexpr int marge = 7; // on either side of a key's text
+constexpr int rayon = 4;
 constexpr int entreTouches = 3;
 constexpr int entreManieres = 10;
 
@@ -60,9 +61,7 @@ void Touches::paintEvent(QPaintEvent *)
     peintre.setRenderHint(QPainter::Antialiasing);
     peintre.setFont(Theme::legende());
     parcourir(manieres_, [&](const QRect &place, const QString &touche) {
-        peintre.setPen(Theme::filet(palette()));
-        peintre.setBrush(Theme::remplissage(palette()));
-        peintre.drawRoundedRect(QRectF(place).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+        Dessin::encadre(peintre, place, rayon, Theme::remplissage(palette()), Theme::filet(palette()));
         peintre.setPen(palette().color(QPalette::WindowText));
         peintre.drawText(place, Qt::AlignCenter, touche);
     });

@@ -50,8 +50,8 @@ void creerDossier(const QString &chemin);
 // False when not all could be written; the device's own error says why.
 bool toutEcrire(QIODevice &fichier, QByteArrayView octets);
 // Replaces or creates the file, whole or not at all, and returns once the disk has taken it, with its name. Throws
-// ErreurStockage; what stood there is then as it was, unless it was longer than `Borne::toute` and the disk failed
-// last.
+// ErreurStockage; what stood there is then as it was, unless it was longer than `Borne::toute` and the last
+// wait for the disk failed.
 void ecrire(const QString &chemin, const QByteArray &octets);
 // Copies what a file holds beside it, never over another file: `nom`.illisible, -2… Gives the copy's name, which may be
 // there already with the same bytes. Throws ErreurStockage.

@@ -3,7 +3,6 @@
 #include "composants/Place.h"
 #include "composants/Theme.h"
 #include "model/Enumeration.h"
-#include "ui/Colonnes.h"
 #include "ui/ContenuPrincipal.h"
 #include "ui/Contexte.h"
 #include "ui/FeuilleGuide.h"

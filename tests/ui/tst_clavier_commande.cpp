@@ -1,7 +1,6 @@
 #include "tests/BancCommande.h"
 #include "tests/Rangees.h"
 #include "ui/ContenuPrincipal.h"
-#include "ui/commande/Couverture.h"
 #include "ui/commande/ParcoursDeLaGrille.h"
 
 #include <QAbstractButton>

@@ -1,5 +1,6 @@
 #include "ui/commande/PiedDeCommande.h"
 
+#include "composants/Dessin.h"
 #include "composants/Icone.h"
 #include "composants/LecteurDEcran.h"
 #include "composants/Libelle.h"
@@ -85,7 +86,8 @@ void PiedDeCommande::proposerDAnnuler()
 
 void PiedDeCommande::paintEvent(QPaintEvent *)
 {
-    QPainter(this).fillRect(0, 0, width(), 1, Theme::filet(palette()));
+    QPainter peintre(this);
+    Dessin::filet(peintre, {0, 0}, width(), palette());
 }
 
 } // namespace Quillet

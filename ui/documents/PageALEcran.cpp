@@ -1,5 +1,6 @@
 #include "ui/documents/PageALEcran.h"
 
+#include "composants/Dessin.h"
 #include "composants/Theme.h"
 #include "ui/documents/PageFacture.h"
 
@@ -11,9 +12,7 @@ void peindreLaPage(QPainter &peintre, const Facture &facture, const QRectF &cadr
 {
     peintre.save();
     peintre.setRenderHint(QPainter::Antialiasing);
-    peintre.setPen(QPen(Theme::filet(palette), 1));
-    peintre.setBrush(Theme::carte(palette));
-    peintre.drawRect(cadre.adjusted(0.5, 0.5, -0.5, -0.5));
+    Dessin::encadre(peintre, cadre, 0, Theme::carte(palette), Theme::filet(palette));
     peintre.translate(cadre.topLeft());
     const double echelle = cadre.width() / PageFacture::taille.width();
     peintre.scale(echelle, echelle);
