@@ -33,8 +33,10 @@ Feuille::Feuille(const QString &titre, QWidget *parent) : QDialog(parent)
 {
     setWindowTitle(titre);
     connect(qApp, &QApplication::focusChanged, this, [this](const QWidget *, const QWidget *ici) {
-        if (ici && isAncestorOf(ici))
-            avant_ = texteDe(ici);
+        if (!ici || ici == champ_ || (ici != this && !isAncestorOf(ici)))
+            return; // back from another window, nothing has begun anew
+        champ_ = ici;
+        avant_ = texteDe(ici);
     });
 }
 

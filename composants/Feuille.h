@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QPointer>
 
 namespace Quillet {
 
@@ -32,8 +33,9 @@ private:
     void finir();
     [[nodiscard]] bool aTape() const; // in the field that has the focus, since it has it
 
-    int boucles_ = 0; // that ran when it opened, the dialogs' own apart
-    QString avant_;   // what that field held before
+    int boucles_ = 0;               // that ran when it opened, the dialogs' own apart
+    QPointer<const QWidget> champ_; // that had the focus last
+    QString avant_;                 // what it held before
 };
 
 } // namespace Quillet
