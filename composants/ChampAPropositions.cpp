@@ -5,6 +5,7 @@
 #include "composants/SelectionDuLecteur.h"
 
 #include <QCompleter>
+#include <QEvent>
 #include <QListView>
 #include <QPainter>
 #include <QStringListModel>
@@ -83,11 +84,32 @@ void ChampAPropositions::proposer()
         liste_->popup()->hide();
         return;
     }
+    window()->installEventFilter(this);
     auto *popup = static_cast<QListView *>(liste_->popup());
     liste_->setMaxVisibleItems(proposees_->rowCount()); // a search gives no more than can be read
     const int large = popup->sizeHintForColumn(0) + 2 * popup->frameWidth();
     liste_->complete(QRect(0, 0, std::max(width(), large), height() + ecart)); // wider than the field if it must
     popup->setCurrentIndex(popup->model()->index(0, 0));
+}
+
+void ChampAPropositions::renoncer()
+{
+    liste_->popup()->hide();
+    setText({});
+}
+
+// The list stands over the window, and stays where it came up.
+void ChampAPropositions::hideEvent(QHideEvent *evenement)
+{
+    liste_->popup()->hide();
+    LigneDeTexte::hideEvent(evenement);
+}
+
+bool ChampAPropositions::eventFilter(QObject *objet, QEvent *evenement)
+{
+    if (objet == window() && (evenement->type() == QEvent::Move || evenement->type() == QEvent::Resize))
+        liste_->popup()->hide();
+    return LigneDeTexte::eventFilter(objet, evenement);
 }
 
 // The open list hands Return to the field before it takes it for itself.

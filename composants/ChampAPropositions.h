@@ -21,12 +21,18 @@ public:
     using Recherche = std::function<QStringList(const QString &)>;
 
     explicit ChampAPropositions(Recherche recherche, QWidget *parent = nullptr);
+    // Nothing is asked for any more.
+    void renoncer();
 
 signals:
     // Of those that were last proposed.
     void choisie(int rang);
     // Return, with nothing to propose.
     void sansReponse(const QString &texte);
+
+protected:
+    void hideEvent(QHideEvent *evenement) override;
+    bool eventFilter(QObject *objet, QEvent *evenement) override;
 
 private:
     void proposer();

@@ -9,6 +9,9 @@ std::optional<BonDeCommande> PaysDeLivraison::envoyee(BonDeCommande bon, const P
     const auto destination = pays.destination ? donnees.destination(*pays.destination) : std::nullopt;
     if (!destination)
         return std::nullopt;
+    const auto precedent = Pays::designe(donnees.pays, bon.paysTrouve);
+    if (precedent && precedent->libelleFr != pays.libelleFr)
+        ++bon.rangAcheteur; // who lives elsewhere, though the parcel costs the same, is somebody else
     bon.destiner(destination->code);
     bon.horsUE = pays.horsUE.value_or(false);
     bon.paysLivraison = bon.paysTrouve = pays.libelle(langueAcheteur(bon, destination));

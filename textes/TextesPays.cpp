@@ -69,7 +69,10 @@ QString TextesPays::proposition(const Pays &pays, const Donnees &donnees)
 
 QString TextesPays::introuvable(const QString &recherche)
 {
-    return QStringLiteral("Aucun pays ne répond à « %1 ».").arg(recherche.trimmed());
+    constexpr int lisible = 40;
+    const QString dite = recherche.simplified();
+    return QStringLiteral("Aucun pays ne répond à « %1 ».")
+        .arg(dite.size() > lisible ? dite.left(lisible) + u'…' : dite);
 }
 
 QString TextesPays::nonEtabli(const Pays &pays)

@@ -1,4 +1,6 @@
 #include "tests/BancEcran.h"
+#include "tests/Rangees.h"
+#include "ui/ContenuPrincipal.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -20,7 +22,8 @@ private slots:
         banc_ = std::make_unique<BancEcran>();
         Pays suisse{.libelleFr = "la Suisse", .libelleEn = "Switzerland", .destination = vers("suisse")};
         Pays suede{.libelleFr = "la Suède", .libelleEn = "Sweden", .destination = vers("ue"), .remarque = "À savoir."};
-        banc_->donnees.pays = {suede, suisse, {.libelleFr = "le Groenland", .libelleEn = "Greenland"}};
+        Pays finlande{.libelleFr = "la Finlande", .libelleEn = "Finland", .destination = vers("ue")};
+        banc_->donnees.pays = {suede, suisse, finlande, {.libelleFr = "le Groenland", .libelleEn = "Greenland"}};
         banc_->demarrer();
         banc_->commander("ue");
         champ_ = qobject_cast<QLineEdit *>(Ecran::controle(&banc_->app->fenetre(), "Chercher un pays"));
@@ -57,8 +60,8 @@ private slots:
     void neRienDeviner()
     {
         const BonDeCommande avant = bon();
-        QTest::keyClicks(champ_, "groen");
         banc_->app->fenetre().resize(1000, 600);
+        QTest::keyClicks(champ_, "groen");
         QTest::keyClick(liste(), Qt::Key_Return);
         const QString nonEtabli = "Groenland : rien ne dit de façon sûre quel tarif s’applique. Demandez à La Poste, "
                                   "puis choisissez l’envoi vous-même.";
@@ -69,6 +72,38 @@ private slots:
         QTest::keyClick(champ_, Qt::Key_Return);
         QTRY_VERIFY(enEntier("Aucun pays ne répond à « zut »."));
         QCOMPARE(bon(), avant);
+    }
+
+    // Seen nowhere else, it would change the order unseen.
+    void laListeSeFerme()
+    {
+        for (const auto &[nom, geste] : Rangees<std::function<void(Fenetre &)>>{
+                 {"autre écran", [](Fenetre &fenetre) { fenetre.contenu()->montrer(Rubrique::tarifs); }},
+                 {"fenêtre agrandie", [](Fenetre &fenetre) { fenetre.resize(fenetre.size() + QSize(40, 40)); }},
+                 {"commande vidée", [this](Fenetre &) { banc_->app->commande().vider(); }},
+             }) {
+            const Rangee rangee(nom);
+            banc_->app->fenetre().contenu()->montrer(Rubrique::commande);
+            champ_->clear();
+            QTest::keyClicks(champ_, "su");
+            QVERIFY(liste());
+            geste(banc_->app->fenetre());
+            QTRY_VERIFY(!liste());
+        }
+        QCOMPARE(champ_->text(), "");
+    }
+
+    void autrePaysAutreAcheteur()
+    {
+        const auto trouver = [this](const char *pays) {
+            QTest::keyClicks(champ_, pays);
+            QTest::keyClick(liste(), Qt::Key_Return);
+            return bon().vente();
+        };
+        banc_->app->commande().setCodeDestination(vers("ue"));
+        const BonDeCommande suede = trouver("sued");
+        QCOMPARE(trouver("sued"), suede);
+        QVERIFY(trouver("finl") != suede);
     }
 
 private:

@@ -72,7 +72,7 @@ SectionDestination::SectionDestination(const Donnees &donnees, Commande &command
 
 void SectionDestination::envoyer(const Pays &pays)
 {
-    recherche_->setText({}); // not to be undone: Ctrl+Z is the screen's again
+    recherche_->renoncer(); // nor can it be undone: Ctrl+Z is the screen's again
     remarquer();
     if (const auto envoyee = PaysDeLivraison::envoyee(commande_.bon(), pays, donnees_)) {
         commande_.adopter(*envoyee);
@@ -86,6 +86,8 @@ void SectionDestination::envoyer(const Pays &pays)
 
 void SectionDestination::montrer(const Calcul &calcul)
 {
+    if (commande_.peutRendre())
+        recherche_->renoncer();
     destination_->montrer(commande_.bon().codeDestination.texte());
     const QString complet = TextesRecapitulatif::destinationComplete(calcul);
     nomComplet_->setText(complet);
