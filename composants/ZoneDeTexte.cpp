@@ -10,8 +10,9 @@ namespace Quillet {
 
 namespace {
 
-constexpr int marge = 5;  // above and below the text
-constexpr int gauche = 7; // as in a field of one line
+constexpr int marge = 5;              // above and below the text
+constexpr int gauche = 7;             // as in a field of one line
+constexpr int plusLongColle = 10'000; // letters: what is longer was copied by mistake, and takes minutes to lay out
 
 } // namespace
 
@@ -37,7 +38,7 @@ void ZoneDeTexte::insertFromMimeData(const QMimeData *contenu)
     if (!canInsertFromMimeData(contenu))
         return;
     QMimeData colle;
-    colle.setText(contenu->text());
+    colle.setText(contenu->text().left(plusLongColle));
     QTextCursor debut = textCursor();
     debut.setPosition(debut.selectionStart());
     if (nettoyage_ && (debut.atBlockStart() || colle.text().contains(u'\n')))

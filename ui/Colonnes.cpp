@@ -7,6 +7,8 @@
 #include <QSplitter>
 #include <QTimer>
 
+#include <algorithm>
+
 using namespace std::chrono_literals;
 
 namespace Quillet {
@@ -23,7 +25,8 @@ QSplitter *Colonnes::entre(QWidget *gauche, QWidget *droite, QWidget *fixe, int 
     const QString cle = QStringLiteral("colonne.") + nom;
     const int retenue = preferences.texte(cle).toInt();
     const bool sensee = retenue > 0 && retenue < excessive;
-    QSplitter *partage = Partage::entre(gauche, droite, fixe, Theme::aLaTaille(sensee ? retenue : largeur));
+    const int large = std::min(Theme::aLaTaille(sensee ? retenue : largeur), fixe->maximumWidth());
+    QSplitter *partage = Partage::entre(gauche, droite, fixe, large);
     partage->setObjectName(cle);
     auto *repos = new QTimer(partage);
     repos->setSingleShot(true);

@@ -25,7 +25,7 @@ std::optional<PlaceDeLaFenetre> PlaceDeLaFenetre::lue(const QString &texte)
     for (const QString &mot : std::as_const(mots)) {
         bool entier = false;
         const int nombre = mot.toInt(&entier);
-        if (!entier || std::abs(nombre) > leBoutDuMonde)
+        if (!entier || nombre < -leBoutDuMonde || nombre > leBoutDuMonde)
             return std::nullopt;
         nombres.append(nombre);
     }

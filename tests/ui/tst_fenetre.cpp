@@ -53,6 +53,7 @@ private slots:
                  {"mot", "10 20 mille 800", {}},
                  {"vide", "10 20 0 800", {}},
                  {"démesuré", "10 20 1200 99999", {}},
+                 {"au bout des entiers", "-2147483648 20 1200 800", {}},
                  {"autre état", "10 20 1200 800 réduite", {}},
              }) {
             const Rangee rangee(nom);

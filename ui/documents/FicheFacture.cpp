@@ -252,8 +252,10 @@ std::optional<QString> FicheFacture::emettre(const Sortie &sortir)
         direLIssue(
             (fichier->isEmpty() ? QStringLiteral("Facture %1 imprimée.") : QStringLiteral("Facture %1 enregistrée."))
                 .arg(facture.numero));
-        if (facture_)
-            remarquerLeNumero(); // it is the last one kept now
+        if (facture_) {
+            remarquerLeNumero();       // it is the last one kept now
+            passerA(Page::formulaire); // which says so
+        }
     }
     if (fichier && !fichier->isEmpty()) { // also where the number could not be kept
         fichier_ = QFileInfo(*fichier).absoluteFilePath();
