@@ -197,6 +197,17 @@ private slots:
         QTest::keyClick(page, Qt::Key_Escape);
         QCOMPARE(feuille->focusWidget()->accessibleName(), "Agrandir la facture");
         QVERIFY(Ecran::controle(feuille, acheteur));
+
+        const QTemporaryDir dossier;
+        QVERIFY(Ecran::cliquer(feuille, "Agrandir la facture"));
+        const auto enregistrerDIci = [&] {
+            BancEcran::revenirA(feuille);
+            QTest::keyClick(page, Qt::Key_S, Qt::ControlModifier);
+            return true;
+        };
+        const auto sous = Dialogues::enregistrerSous(dossier.filePath("facture.pdf"));
+        QVERIFY(Dialogues::fairePuisRepondre(enregistrerDIci, {sous}));
+        QVERIFY(Ecran::montre(feuille, "Facture 2026-001 enregistrée.")); // back in sight
     }
 
     void etatsDeLaFacture()

@@ -84,6 +84,7 @@ private slots:
         lien->paste();
         QCOMPARE(lien->text(), "https://lien.example/8");
 
+        BancEcran::revenirA(feuille);          // from PayPal's page
         QTest::keyClick(lien, Qt::Key_Escape); // leaves what was typed
         QCOMPARE(Dialogues::devant(), feuille);
         QTest::keyClick(feuille->focusWidget(), Qt::Key_Escape);

@@ -253,8 +253,9 @@ std::optional<QString> FicheFacture::emettre(const Sortie &sortir)
             (fichier->isEmpty() ? QStringLiteral("Facture %1 imprimée.") : QStringLiteral("Facture %1 enregistrée."))
                 .arg(facture.numero));
         if (facture_) {
-            remarquerLeNumero();       // it is the last one kept now
-            passerA(Page::formulaire); // which says so
+            remarquerLeNumero(); // it is the last one kept now
+            if (currentWidget() == agrandie_)
+                emit agrandie_->quittee(); // the form says so
         }
     }
     if (fichier && !fichier->isEmpty()) { // also where the number could not be kept
