@@ -132,13 +132,12 @@ void Raccourcis::dire(QWidget *controle, Geste geste)
         controle->setAccessibleDescription(touches);
 }
 
-QShortcut *Raccourcis::lier(QWidget *page, Geste geste, const std::function<void()> &faire)
+void Raccourcis::lier(QWidget *page, Geste geste, const std::function<void()> &faire)
 {
     auto *raccourci = new QShortcut(page);
     raccourci->setKeys(touches(geste));
     raccourci->setAutoRepeat(false);
     QObject::connect(raccourci, &QShortcut::activated, page, faire);
-    return raccourci;
 }
 
 void Raccourcis::presser(QAbstractButton *bouton, Geste geste, QWidget *page)

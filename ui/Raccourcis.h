@@ -7,7 +7,6 @@
 #include <optional>
 
 class QAbstractButton;
-class QShortcut;
 class QWidget;
 
 // The keys of the program, in one place: windows bind them, a sheet lists them, tooltips end with them.
@@ -55,7 +54,7 @@ QList<QKeySequence> touches(Geste geste);
 // it is.
 void dire(QWidget *controle, Geste geste);
 // Binds the keys while `page` is in sight.
-QShortcut *lier(QWidget *page, Geste geste, const std::function<void()> &faire);
+void lier(QWidget *page, Geste geste, const std::function<void()> &faire);
 // Has them press the button while `page` is in sight, without one the button.
 void presser(QAbstractButton *bouton, Geste geste, QWidget *page = nullptr);
 

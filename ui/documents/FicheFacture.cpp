@@ -60,10 +60,7 @@ FicheFacture::FicheFacture(const Contexte &contexte, QWidget *parent)
         passerA(Page::agrandie);
         agrandie_->prendreLeFocus();
     });
-    connect(agrandie_, &FactureAgrandie::quittee, this, [this] {
-        passerA(Page::formulaire);
-        apercu_->setFocus();
-    });
+    connect(agrandie_, &FactureAgrandie::quittee, this, &FicheFacture::quitterLaPage);
     connect(numero_, &QLineEdit::textChanged, this, &FicheFacture::completer);
     connect(acheteur_, &ZoneDeTexte::textChanged, this, [this] {
         contexte_.factures.noterAcheteur(acheteur_->toPlainText());
@@ -74,6 +71,12 @@ FicheFacture::FicheFacture(const Contexte &contexte, QWidget *parent)
 void FicheFacture::passerA(Page page)
 {
     setCurrentIndex(static_cast<int>(page));
+}
+
+void FicheFacture::quitterLaPage()
+{
+    passerA(Page::formulaire);
+    apercu_->setFocus();
 }
 
 QWidget *FicheFacture::formulaire()
@@ -255,7 +258,7 @@ std::optional<QString> FicheFacture::emettre(const Sortie &sortir)
         if (facture_) {
             remarquerLeNumero(); // it is the last one kept now
             if (currentWidget() == agrandie_)
-                emit agrandie_->quittee(); // the form says so
+                quitterLaPage(); // the form says so
         }
     }
     if (fichier && !fichier->isEmpty()) { // also where the number could not be kept

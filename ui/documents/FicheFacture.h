@@ -37,6 +37,7 @@ private:
     enum class Page { formulaire, impossible, agrandie };
 
     void passerA(Page page);
+    void quitterLaPage(); // enlarged, back to the form
     QWidget *formulaire();
     QWidget *sorties();
     QWidget *ouvertures();
