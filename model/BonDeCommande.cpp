@@ -1,5 +1,7 @@
 #include "model/BonDeCommande.h"
 
+#include "model/Donnees.h"
+
 #include <algorithm>
 
 namespace Quillet {
@@ -47,6 +49,24 @@ void BonDeCommande::vider()
              .poidsEmballageLibre = poidsEmballageLibre,
              .codeDestination = codeDestination,
              .rangAcheteur = estVide() ? rangAcheteur : rangAcheteur + 1};
+}
+
+void BonDeCommande::suivre(const Donnees &donnees)
+{
+    const QList<Vendeur> vendeurs = donnees.vendeurs();
+    if (!vendeurs.isEmpty() && !vendeurs.contains(vendeur))
+        vendeur = vendeurs.first();
+    const QList<Emballage> &emballages = donnees.reglages.emballages;
+    if (emballage != autrePoids() && std::ranges::find(emballages, emballage, &Emballage::nom) == emballages.end())
+        emballage = emballageDeDepart(donnees.reglages);
+    quantites.removeIf([&](const auto &entree) {
+        return std::ranges::find(donnees.livres, entree.key(), &Livre::id) == donnees.livres.end();
+    });
+}
+
+QString BonDeCommande::emballageDeDepart(const Reglages &reglages)
+{
+    return reglages.emballageDeDepart.value_or(BonDeCommande().emballage);
 }
 
 } // namespace Quillet

@@ -13,12 +13,17 @@
 
 namespace Quillet {
 
+struct Donnees;
+struct Reglages;
+
 // What the seller entered of one order, and for which buyer. What follows from it is a Calcul.
 struct BonDeCommande
 {
     static constexpr int quantiteMaximale = 99;
     // The packaging whose weight the seller types.
     static QString autrePoids() { return QStringLiteral("Autre poids"); }
+    // The packaging of a new order.
+    static QString emballageDeDepart(const Reglages &reglages);
 
     Vendeur vendeur = Vendeur::davrel;
     QMap<qint64, int> quantites; // by a book's id; no entry: none
@@ -44,6 +49,8 @@ struct BonDeCommande
     void destiner(const CodeDestination &code);
     // Ready for the next buyer; seller, packaging and destination stay.
     void vider();
+    // Lets go of books, seller and packaging that the data do not have any more.
+    void suivre(const Donnees &donnees);
 
     bool operator==(const BonDeCommande &) const = default;
 };

@@ -47,9 +47,12 @@ Reglages reglagesAvecFrais(const Ressources &ressources, Stockage &stockage)
     return reglages;
 }
 
+// Overrides are of books that cannot be written: the sellers' own hold what the screens changed.
 QList<Livre> livresModifies(const Ressources &ressources, Stockage &stockage)
 {
     auto livres = ressources.lire<QList<Livre>>(QStringLiteral("livres"));
+    if (ressources.origine() == Origine::utilisateur)
+        return livres;
     const auto modifications =
         stockage.lire<ModificationsLivres>(Stockage::fichierDesLivres()).value_or(ModificationsLivres{});
     for (Livre &livre : livres)
@@ -68,14 +71,27 @@ Donnees charger(const Ressources &ressources, Stockage &stockage)
     donnees.destinations = ressources.lire<QList<Destination>>(QStringLiteral("destinations"));
     if (ressources.existe(QStringLiteral("pays")))
         donnees.pays = ressources.lire<QList<Pays>>(QStringLiteral("pays"));
+    donnees.personnelles = ressources.origine() == Origine::utilisateur;
     return donnees;
 }
 
 } // namespace
 
 Catalogue::Catalogue(const Ressources &ressources, Stockage stockage)
-    : ressources_(ressources), stockage_(std::move(stockage)), donnees_(charger(ressources, stockage_))
+    : ressources_(ressources), stockage_(std::move(stockage))
 {
+    ouvrir(ressources);
+}
+
+// What the folder holds is noted before it is read: what changes in between shows.
+void Catalogue::ouvrir(const Ressources &ressources)
+{
+    std::optional<DossierPersonnel> personnel;
+    if (ressources.origine() == Origine::utilisateur)
+        personnel.emplace(ressources.dossier());
+    donnees_ = charger(ressources, stockage_);
+    ressources_ = ressources;
+    personnel_ = std::move(personnel);
 }
 
 std::unique_ptr<Catalogue> Catalogue::charge(const Ressources &ressources, Stockage stockage)
@@ -149,8 +165,37 @@ QList<Livre> Catalogue::valeursLivrees() const
     return ressources_.lire<QList<Livre>>(QStringLiteral("livres"));
 }
 
+void Catalogue::remplacer(const QList<Livre> &livres)
+{
+    personnel_.value().ecrire(livres, DossierPersonnel::livres());
+    adopter(donnees_.livres, livres);
+}
+
+void Catalogue::remplacer(const Reglages &reglages)
+{
+    Reglages nouveaux = reglages;
+    nouveaux.fraisPaypal = donnees_.reglages.fraisPaypal;
+    personnel_.value().ecrire(nouveaux, DossierPersonnel::reglages());
+    adopter(donnees_.reglages, nouveaux);
+}
+
+QStringList Catalogue::changesAilleurs() const
+{
+    return personnel_ ? personnel_->changes() : QStringList();
+}
+
+void Catalogue::recharger()
+{
+    const bool dejaPropres = ressources_.origine() == Origine::utilisateur; // even lost, nothing stands for them
+    ouvrir(dejaPropres ? ressources_ : Ressources::personnelles(stockage_.donneesPersonnelles()).value_or(ressources_));
+    emit recharge();
+    emit change();
+}
+
 void Catalogue::ecrireLivres(const QList<Livre> &livres)
 {
+    if (personnel_)
+        return remplacer(livres);
     ModificationsLivres modifications;
     for (const Livre &livre : livres)
         modifications.insert(cle(livre), ModificationLivre::de(livre));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Donnees.h"
+#include "model/DossierPersonnel.h"
 #include "model/Ressources.h"
 #include "model/Stockage.h"
 
@@ -23,7 +24,11 @@ public:
 
     [[nodiscard]] const Donnees &donnees() const { return donnees_; }
 
-    // Each writes a user's file and throws ErreurStockage.
+    [[nodiscard]] const Ressources &ressources() const { return ressources_; }
+    [[nodiscard]] const Stockage &stockage() const { return stockage_; }
+
+    // Each writes a user's file and throws ErreurStockage: over shipped books, what they say of each one; of the
+    // sellers' own, the books themselves.
     void enregistrer(const TarifsColissimo &tarifs);
     void enregistrer(const FraisPaypal &frais);
     // Replaces the books of the same ids.
@@ -37,17 +42,29 @@ public:
     // The books without the user's changes; throws RessourceIllisible.
     [[nodiscard]] QList<Livre> valeursLivrees() const;
 
+    // Only of the sellers' own data. They also throw DonneesChangees.
+    void remplacer(const QList<Livre> &livres);
+    // All but PayPal's fees, which are accepted on their own.
+    void remplacer(const Reglages &reglages);
+    // The data files that somebody else has changed since; none of others' data.
+    [[nodiscard]] QStringList changesAilleurs() const;
+    // Takes the data in force anew, whoever they belong to by now. Throws RessourceIllisible: memory then stands.
+    void recharger();
+
 signals:
     void change();
+    void recharge(); // before `change`: nothing that was kept of the former data holds
 
 private:
     Catalogue(const Ressources &ressources, Stockage stockage);
     void ecrireLivres(const QList<Livre> &livres);
+    void ouvrir(const Ressources &ressources);
     template <typename T>
     void adopter(T &champ, const T &valeur);
 
     Ressources ressources_;
     Stockage stockage_;
+    std::optional<DossierPersonnel> personnel_;
     Donnees donnees_;
 };
 

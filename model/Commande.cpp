@@ -1,5 +1,7 @@
 #include "model/Commande.h"
 
+#include "model/Donnees.h"
+
 namespace Quillet {
 
 void Commande::setCodeDestination(const CodeDestination &code)
@@ -27,6 +29,21 @@ void Commande::rendre()
 {
     if (const auto videe = videe_)
         adopter(*videe);
+}
+
+void Commande::commencer(const Donnees &donnees)
+{
+    BonDeCommande bon{.emballage = BonDeCommande::emballageDeDepart(donnees.reglages)};
+    bon.suivre(donnees);
+    bon.rangAcheteur = bon_.rangAcheteur + (bon_.estVide() ? 0 : 1);
+    adopter(bon);
+}
+
+void Commande::suivre(const Donnees &donnees)
+{
+    BonDeCommande bon = bon_;
+    bon.suivre(donnees);
+    adopter(bon);
 }
 
 void Commande::adopter(const BonDeCommande &bon)

@@ -33,6 +33,10 @@ public:
     // Whether `rendre` gives back what `vider` took: until the next change.
     [[nodiscard]] bool peutRendre() const { return videe_.has_value(); }
     void rendre();
+    // What a new order starts with, where the sellers' own data say so.
+    void commencer(const Donnees &donnees);
+    // After the sellers' own data have changed; see BonDeCommande.
+    void suivre(const Donnees &donnees);
 
 signals:
     void change();

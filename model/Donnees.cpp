@@ -17,6 +17,18 @@ bool memesPrix(const TarifsColissimo &connus, const TarifsColissimo &lus)
 
 } // namespace
 
+QList<Vendeur> Donnees::vendeurs() const
+{
+    const auto aUnLivre = [&](Vendeur vendeur) {
+        return std::ranges::find(livres, vendeur, &Livre::vendeur) != livres.end();
+    };
+    QList<Vendeur> vendeurs;
+    for (const Vendeur vendeur : tous<Vendeur>)
+        if (!personnelles || reglages.identite(vendeur) || aUnLivre(vendeur))
+            vendeurs.append(vendeur);
+    return vendeurs;
+}
+
 const TarifsColissimo &Donnees::tarifs(const Jour &jour) const
 {
     Q_ASSERT(!grillesConnues.isEmpty());

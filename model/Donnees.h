@@ -20,7 +20,11 @@ struct Donnees
     QList<TarifsColissimo> grillesConnues; // at least one, in the order in which they were loaded
     QList<Destination> destinations;
     Reglages reglages;
-    QList<Pays> pays; // none where the sellers' own data come from before there was such a list
+    QList<Pays> pays;          // none where the sellers' own data come from before there was such a list
+    bool personnelles = false; // the sellers' own, changed by the screens
+
+    // Those that screens name. The sellers' own data may name one only: then nothing of the other shows.
+    [[nodiscard]] QList<Vendeur> vendeurs() const;
 
     // The schedule in force on a day; before the first one, the earliest. It lives until these data change.
     [[nodiscard]] const TarifsColissimo &tarifs(const Jour &jour) const;

@@ -11,6 +11,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <filesystem>
 #include <utility>
 
@@ -263,6 +264,26 @@ QString Fichier::doubler(const QString &chemin)
     if (const int erreur = dossier.synchroniser())
         throw ErreurStockage(copie, raisonSysteme(erreur));
     return QFileInfo(copie).fileName();
+}
+
+void Fichier::renommer(const QString &chemin, const QString &nouveau)
+{
+    const Dossier depart{QFileInfo(chemin)};
+    const Dossier arrivee{QFileInfo(nouveau)};
+    const auto passer = [](const QString &de, const QString &vers) {
+        return renameat2(AT_FDCWD, QFile::encodeName(de).constData(), AT_FDCWD, QFile::encodeName(vers).constData(),
+                         RENAME_NOREPLACE)
+                       == 0
+                   ? 0
+                   : errno;
+    };
+    if (const int erreur = passer(chemin, nouveau))
+        throw ErreurStockage(nouveau, raisonSysteme(erreur));
+    const int premier = arrivee.synchroniser();
+    if (const int erreur = premier ? premier : depart.synchroniser()) {
+        passer(nouveau, chemin); // as it was, or else in its new place, whole
+        throw ErreurStockage(nouveau, raisonSysteme(erreur));
+    }
 }
 
 void Fichier::effacer(const QString &chemin)

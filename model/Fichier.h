@@ -60,6 +60,9 @@ QString mettreDeCote(const QString &chemin, const QByteArray &contenu);
 bool excede(const QString &chemin, qint64 borne);
 // Gives a file that is too large to be read, or copied, a second name beside it, as above. Throws ErreurStockage.
 QString doubler(const QString &chemin);
+// Gives a file or folder another name, which must be free, as `ecrire` replaces. Throws ErreurStockage; the former name
+// then still stands.
+void renommer(const QString &chemin, const QString &nouveau);
 // Removes as `ecrire` replaces. A missing file is no error.
 void effacer(const QString &chemin);
 

@@ -8,14 +8,14 @@ void Constats::noter(const QString &lieu, const QString &raison)
 {
     if (couvre(lieu))
         return;
-    lieux_.append(lieu);
+    notes_.append({lieu, raison});
     textes_.append(QStringLiteral("%1 : %2").arg(lieu, raison));
 }
 
 bool Constats::couvre(const QString &lieu) const
 {
-    return std::ranges::any_of(lieux_, [&](const QString &refuse) {
-        const QString suite = lieu.startsWith(refuse) ? lieu.mid(refuse.size(), 1) : QStringLiteral("x");
+    return std::ranges::any_of(notes_, [&](const Note &note) {
+        const QString suite = lieu.startsWith(note.lieu) ? lieu.mid(note.lieu.size(), 1) : QStringLiteral("x");
         return suite.isEmpty() || suite == QLatin1String(".") || suite == QLatin1String("[");
     });
 }

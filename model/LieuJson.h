@@ -3,6 +3,7 @@
 #include "model/Echec.h"
 
 #include <QJsonValue>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -26,11 +27,18 @@ public:
     // A mistake beside all others of its place.
     void ajouter(const QString &texte) { textes_.append(texte); }
     [[nodiscard]] const QStringList &textes() const { return textes_; }
+    struct Note
+    {
+        QString lieu;
+        QString raison;
+    };
+    // What was noted at a place.
+    [[nodiscard]] const QList<Note> &notes() const { return notes_; }
 
 private:
     [[nodiscard]] bool couvre(const QString &lieu) const;
 
-    QStringList lieux_;
+    QList<Note> notes_;
     QStringList textes_;
 };
 

@@ -43,7 +43,8 @@ struct MentionsDouane
 {
     QString contenuFr;
     QString contenuEn;
-    QString codeSH; // Harmonized System code of printed books
+    QString codeSH;                                                    // Harmonized System code of printed books
+    std::optional<QMap<CodeDestination, QString>> codesParDestination; // where more digits are wanted
 
     bool operator==(const MentionsDouane &) const = default;
 };
@@ -57,6 +58,8 @@ struct IdentiteVendeur
     QString mentionTva;
     std::optional<QString> retourPaypal; // where PayPal sends the buyer back to
     std::optional<QString> site;         // host name of the seller's web site
+    std::optional<QString> nomCourt;     // on the screens; none: the place's
+    std::optional<QString> eori;         // number by which customs know the seller
 
     bool operator==(const IdentiteVendeur &) const = default;
 };
@@ -64,9 +67,10 @@ struct IdentiteVendeur
 struct Reglages
 {
     FraisPaypal fraisPaypal;
-    QList<Emballage> emballages; // the first is the default one
+    QList<Emballage> emballages; // the first counts in the prices of PayPal buttons
     MentionsDouane douane;
     QMap<Cle<Vendeur>, IdentiteVendeur> vendeurs;
+    std::optional<QString> emballageDeDepart; // name of the one that a new order starts with
 
     [[nodiscard]] std::optional<IdentiteVendeur> identite(Vendeur vendeur) const;
 
@@ -100,6 +104,7 @@ inline constexpr auto Json::champs<MentionsDouane> = std::tuple{
     Champ{"contenuFr", &MentionsDouane::contenuFr},
     Champ{"contenuEn", &MentionsDouane::contenuEn},
     Champ{"codeSH", &MentionsDouane::codeSH},
+    Champ{"codesParDestination", &MentionsDouane::codesParDestination},
 };
 
 template <>
@@ -110,6 +115,8 @@ inline constexpr auto Json::champs<IdentiteVendeur> = std::tuple{
     Champ{"mentionTva", &IdentiteVendeur::mentionTva},
     Champ{"retourPaypal", &IdentiteVendeur::retourPaypal},
     Champ{"site", &IdentiteVendeur::site},
+    Champ{"nomCourt", &IdentiteVendeur::nomCourt},
+    Champ{"eori", &IdentiteVendeur::eori},
 };
 
 template <>
@@ -118,6 +125,7 @@ inline constexpr auto Json::champs<Reglages> = std::tuple{
     Champ{"emballages", &Reglages::emballages},
     Champ{"douane", &Reglages::douane},
     Champ{"vendeurs", &Reglages::vendeurs},
+    Champ{"emballageDeDepart", &Reglages::emballageDeDepart},
 };
 
 } // namespace Quillet

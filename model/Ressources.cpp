@@ -8,6 +8,34 @@
 
 namespace Quillet {
 
+namespace {
+
+// A link may lead to a disk that is not there today.
+bool estLa(const QString &dossier)
+{
+    const QFileInfo info(dossier);
+    return info.exists() || info.isSymLink();
+}
+
+QDir propre(const QString &dossier)
+{
+    return {QDir::cleanPath(QFileInfo(dossier).absoluteFilePath())};
+}
+
+} // namespace
+
+Ressources Ressources::enVigueur(const QDir &personnelles)
+{
+    const auto propres = Ressources::personnelles(personnelles);
+    return propres ? *propres : duProgramme();
+}
+
+std::optional<Ressources> Ressources::personnelles(const QDir &dossier)
+{
+    return estLa(dossier.path()) ? std::optional(Ressources(propre(dossier.path()), Origine::utilisateur))
+                                 : std::nullopt;
+}
+
 Ressources Ressources::duProgramme()
 {
     return autourDe(QDir(QCoreApplication::applicationDirPath()));
@@ -15,15 +43,12 @@ Ressources Ressources::duProgramme()
 
 Ressources Ressources::autourDe(const QDir &programme)
 {
-    const QFileInfo propres(programme.filePath(QStringLiteral(QUILLET_PARTAGE "/quillet-donnees")));
-    if (propres.exists() || propres.isSymLink()) { // a link may lead to a disk that is not there today
-        Ressources ressources(QDir(QDir::cleanPath(propres.absoluteFilePath())));
-        ressources.duVendeur_ = true;
-        return ressources;
-    }
+    const QString propres = programme.filePath(QStringLiteral(QUILLET_PARTAGE "/quillet-donnees"));
+    if (estLa(propres))
+        return Ressources(propre(propres), Origine::administrateur);
     for (const QString &dossier : {QStringLiteral(QUILLET_PARTAGE "/quillet"), QStringLiteral("resources")})
         if (programme.exists(dossier + QStringLiteral("/livres.json")))
-            return Ressources(QDir(programme.filePath(dossier)));
+            return Ressources(QDir(programme.filePath(dossier)), Origine::exemple);
     throw RessourceIllisible(QStringLiteral("livres.json : fichier introuvable"));
 }
 
@@ -63,7 +88,7 @@ QByteArray Ressources::octets(const Json::Lieu &fichier) const
 
 void Ressources::refuser(const QString &raison) const
 {
-    if (!duVendeur_)
+    if (origine_ != Origine::administrateur && origine_ != Origine::utilisateur)
         throw RessourceIllisible(raison);
     const QString conseil = QStringLiteral("%1\n\nCe sont vos propres données, dans %2.\nPour voir tout ce qui est à "
                                            "corriger, dans un terminal :\nquillet --verifier %3");

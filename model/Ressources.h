@@ -17,16 +17,33 @@ public:
     explicit RessourceIllisible(const QString &raison) : Echec(QStringLiteral("Ressource illisible : ") + raison) {}
 };
 
-// The read-only folder of books, covers, destinations, settings and schedules.
+// Whose data a folder holds.
+enum class Origine {
+    dossier,        // one that was named
+    exemple,        // invented, shipped with the program
+    administrateur, // the sellers' own, beside the program: only read
+    utilisateur,    // the sellers' own, in the user's data: the screens change them
+};
+
+// The folder of books, covers, destinations, settings and schedules; only read here.
 class Ressources
 {
 public:
-    explicit Ressources(const QDir &dossier) : dossier_(dossier) {}
+    explicit Ressources(const QDir &dossier, Origine origine = Origine::dossier) : dossier_(dossier), origine_(origine)
+    {
+    }
+    // Those in force: the user's own folder as soon as it is there, whatever its state, for an invoice must never leave
+    // with the example's names; else the program's. Throws RessourceIllisible when there is none.
+    static Ressources enVigueur(const QDir &personnelles);
+    // The user's own; none as long as nothing stands there.
+    static std::optional<Ressources> personnelles(const QDir &dossier);
     // Found relative to the executable; throws RessourceIllisible when there is none.
     static Ressources duProgramme();
-    // The same around any folder of a program: the sellers' own data as soon as they are there, whatever their state,
-    // for an invoice must never leave with the example's names; else the shipped ones.
+    // The same around any folder of a program: the sellers' own data by the same rule, else the shipped ones.
     static Ressources autourDe(const QDir &programme);
+
+    [[nodiscard]] Origine origine() const { return origine_; }
+    [[nodiscard]] const QDir &dossier() const { return dossier_; }
 
     // Reads `nom`.json; throws RessourceIllisible.
     template <typename T>
@@ -76,7 +93,7 @@ private:
     [[noreturn]] void refuser(const QString &raison) const;
 
     QDir dossier_;
-    bool duVendeur_ = false;
+    Origine origine_;
 };
 
 } // namespace Quillet

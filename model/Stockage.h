@@ -25,6 +25,8 @@ public:
     static QString fichierDesLivres() { return QStringLiteral("livres-modifies.json"); }
     static QString fichierDesFrais() { return QStringLiteral("frais-paypal.json"); }
     [[nodiscard]] const QDir &dossier() const { return dossier_; }
+    // Where the sellers' own data are, once there are some.
+    [[nodiscard]] QDir donneesPersonnelles() const { return {dossier_.filePath(QStringLiteral("donnees"))}; }
 
     // None when the file is missing or cannot be read as a T.
     template <typename T>

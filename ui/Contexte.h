@@ -4,6 +4,7 @@
 #include "model/Calcul.h"
 #include "model/Catalogue.h"
 #include "model/Commande.h"
+#include "model/Historique.h"
 #include "model/Preferences.h"
 #include "ui/JourCourant.h"
 #include "ui/couvertures/ImagesCouvertures.h"
@@ -15,6 +16,7 @@ namespace Quillet {
 struct Contexte
 {
     Catalogue &catalogue;
+    Historique &historique;
     Commande &commande;
     MemoireFactures &factures;
     Verifications &verifications;

@@ -59,14 +59,24 @@ void QuilletApp::suivre(Bureau &bureau)
 QuilletApp::QuilletApp(const Ressources &ressources, Stockage stockage, const Preferences &preferences,
                        Aujourdhui aujourdhui, const PagesSurveillees &pages, const SourceMisesAJour &misesAJour)
     : catalogue_(Catalogue::charge(ressources, std::move(stockage))),
+      historique_(*catalogue_),
       verifications_(*catalogue_, preferences, maintenant(aujourdhui), pages),
       misesAJour_(misesAJour, preferences, maintenant(aujourdhui)),
       images_(QDir(ressources.chemin(QStringLiteral("couvertures")))),
       jour_(std::move(aujourdhui)),
       preferences_(preferences),
-      contexte_{*catalogue_, commande_, factures_, verifications_, images_, jour_, preferences_},
+      contexte_{*catalogue_, historique_, commande_, factures_, verifications_, images_, jour_, preferences_},
       fenetre_(std::make_unique<Fenetre>(contexte_, misesAJour_))
 {
+    commande_.commencer(catalogue_->donnees());
+    QObject::connect(catalogue_.get(), &Catalogue::change, &commande_, [this] {
+        if (catalogue_->donnees().personnelles)
+            commande_.suivre(catalogue_->donnees());
+    });
+    QObject::connect(catalogue_.get(), &Catalogue::recharge, &commande_, [this] {
+        images_.setDossier(QDir(catalogue_->ressources().chemin(QStringLiteral("couvertures"))));
+        commande_.commencer(catalogue_->donnees());
+    });
     QObject::connect(&commande_, &Commande::change, &commande_, [this] { factures_.suivre(commande_.bon()); });
     // Neither drawing the icon in all its sizes nor the network's own start may delay the first image.
     QObject::connect(fenetre_.get(), &Fenetre::posee, fenetre_.get(), [this] {

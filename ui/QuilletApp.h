@@ -34,6 +34,7 @@ public:
 private:
     // In this order: a check under way reads the catalogue, the window reads all.
     std::unique_ptr<Catalogue> catalogue_;
+    Historique historique_;
     Commande commande_;
     MemoireFactures factures_;
     Verifications verifications_;

@@ -43,8 +43,9 @@ int ouvrir(Bureau &bureau, const QByteArray &jeton)
     try {
         if (!instance.prendreLaPlace(jeton))
             return 0;
+        const Stockage donnees = Stockage::deLUtilisateur();
         QuilletApp quillet(
-            Ressources::duProgramme(), Stockage::deLUtilisateur(), Preferences::deLUtilisateur(),
+            Ressources::enVigueur(donnees.donneesPersonnelles()), donnees, Preferences::deLUtilisateur(),
             [] { return QDate::currentDate(); }, PagesSurveillees(), sourceDesMisesAJour());
         QObject::connect(&instance, &InstanceUnique::appelee, &quillet.fenetre(), &Fenetre::ramener);
         bureau.relever(); // most often it has answered by now: the first image is right at once

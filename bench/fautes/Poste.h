@@ -2,7 +2,7 @@
 
 #include "documents/NumerotationFactures.h"
 #include "model/Catalogue.h"
-#include "model/HistoriqueLivres.h"
+#include "model/Historique.h"
 
 namespace Quillet {
 
@@ -12,7 +12,7 @@ struct Poste
     Poste(const Ressources &ressources, const QString &dossier);
 
     std::unique_ptr<Catalogue> catalogue;
-    HistoriqueLivres historique;
+    Historique historique;
     NumerotationFactures numeros;
 };
 

@@ -63,7 +63,7 @@ ControleDonnees ControleDonnees::de(const QDir &dossier, QDate aujourdhui)
         fichier.controler(Regles::tarifs, tarifsLus);
         tarifsLus.append({fichier.nom(), fichier.valeur()});
     }
-    reglages.controler(Regles::reglages);
+    reglages.controler(Regles::reglages, ReglesCommunes::codes(destinations.valeur()));
     destinations.controler(Regles::destinations, tarifsLus);
     const QDir couvertures(ressources.chemin(QStringLiteral("couvertures")));
     livres.controler(Regles::livres,

@@ -41,10 +41,12 @@ struct Reperes
 // `precedents`: the schedules of the files before this one.
 void tarifs(const TarifsColissimo &tarifs, const TarifsParFichier &precedents, const Json::Lieu &lieu);
 void frais(const FraisPaypal &frais, const Json::Lieu &lieu);
-void reglages(const Reglages &reglages, const Json::Lieu &lieu);
+// `destinations`: their codes, none when there is nothing to compare with.
+void reglages(const Reglages &reglages, const QList<CodeDestination> &destinations, const Json::Lieu &lieu);
 void destinations(const QList<Destination> &destinations, const TarifsParFichier &tarifs, const Json::Lieu &lieu);
 // `destinations`: their codes, none when there is nothing to compare with.
 void pays(const QList<Pays> &pays, const QList<CodeDestination> &destinations, const Json::Lieu &lieu);
 void livres(const QList<Livre> &livres, const Reperes &reperes, const Json::Lieu &lieu);
+void livre(const Livre &livre, const Reperes &reperes, const Json::Lieu &lieu);
 
 } // namespace Quillet::Regles

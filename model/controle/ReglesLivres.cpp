@@ -58,7 +58,9 @@ void lienPaypal(const QUrl &lien, const std::optional<IdentiteVendeur> &vendeur,
                        .arg(LienPaypal::hote(texte)));
 }
 
-void livre(const Livre &livre, const Reperes &reperes, const Lieu &lieu)
+} // namespace
+
+void Regles::livre(const Livre &livre, const Reperes &reperes, const Lieu &lieu)
 {
     if (!reperes.vendeurs.isEmpty() && !reperes.vendeurs.contains(livre.vendeur))
         lieu.noter("vendeur",
@@ -79,12 +81,8 @@ void livre(const Livre &livre, const Reperes &reperes, const Lieu &lieu)
     prixParDestination(livre.prixEcartes, reperes.destinations, Lieu(lieu, QStringLiteral("prixEcartes")));
 }
 
-} // namespace
-
 void Regles::livres(const QList<Livre> &livres, const Reperes &reperes, const Lieu &lieu)
 {
-    if (livres.isEmpty())
-        lieu.noter(QStringLiteral("aucun livre"));
     ReglesCommunes::sansDoublon(livres, "id", &Livre::id, lieu);
     for (qsizetype i = 0; i < livres.size(); ++i)
         livre(livres[i], reperes, Lieu(lieu, i));

@@ -1,7 +1,10 @@
 #include "model/BonDeCommande.h"
+#include "model/ChiffresAscii.h"
 #include "model/controle/NumeroDeControle.h"
 #include "model/controle/Regles.h"
 #include "model/controle/ReglesCommunes.h"
+
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -20,8 +23,10 @@ void clesConnues(const QMap<Cle<Enum>, T> &table, const Lieu &lieu)
             Lieu(lieu, cle.texte()).noter(QStringLiteral("clé inconnue"));
 }
 
-void emballages(const QList<Emballage> &emballages, const Lieu &lieu)
+void emballages(const Reglages &reglages, const Lieu &racine)
 {
+    const QList<Emballage> &emballages = reglages.emballages;
+    const Lieu lieu(racine, QStringLiteral("emballages"));
     if (emballages.isEmpty())
         return; // sellers who weigh every parcel need none
     ReglesCommunes::sansDoublon(emballages, "nom", &Emballage::nom, lieu);
@@ -31,10 +36,38 @@ void emballages(const QList<Emballage> &emballages, const Lieu &lieu)
     if (emballages.first().poids == Grammes{})
         Lieu(lieu, 0).noter("poids",
                             QStringLiteral("plus de 0 g attendus, ce poids compte dans les prix des boutons PayPal"));
-    const QString deDepart = BonDeCommande().emballage;
-    if (std::ranges::find(emballages, deDepart, &Emballage::nom) == emballages.end())
+    const QString deDepart = BonDeCommande::emballageDeDepart(reglages);
+    if (deDepart != BonDeCommande::autrePoids()
+        && std::ranges::find(emballages, deDepart, &Emballage::nom) == emballages.end())
         lieu.noter(QStringLiteral("aucun ne s’appelle « %1 », l’emballage d’une nouvelle commande : il compterait 0 g")
                        .arg(deDepart));
+}
+
+void codeDouanier(const QString &code, const Lieu &lieu)
+{
+    if (code.size() < 6 || code.size() > 10 || !queDesChiffres(code))
+        lieu.noter(QStringLiteral("six à dix chiffres attendus"));
+}
+
+void douane(const MentionsDouane &douane, const QList<CodeDestination> &destinations, const Lieu &lieu)
+{
+    codeDouanier(douane.codeSH, Lieu(lieu, QStringLiteral("codeSH")));
+    if (!douane.codesParDestination)
+        return;
+    const Lieu codes(lieu, QStringLiteral("codesParDestination"));
+    for (auto code = douane.codesParDestination->begin(); code != douane.codesParDestination->end(); ++code) {
+        const Lieu place(codes, code.key().texte());
+        codeDouanier(code.value(), place);
+        if (!destinations.isEmpty() && !destinations.contains(code.key()))
+            place.noter(QStringLiteral("aucune destination n’a ce code"));
+    }
+}
+
+// The country that gave it, then up to fifteen signs of its choice.
+bool estUnEori(const QString &numero)
+{
+    static const QRegularExpression forme(QStringLiteral("^[A-Z]{2}[0-9A-Z]{1,15}$"));
+    return forme.match(numero).hasMatch();
 }
 
 bool estUnNomDeSite(const QString &site)
@@ -52,6 +85,9 @@ void vendeur(const IdentiteVendeur &identite, const Lieu &lieu)
         ReglesCommunes::controler(QUrl(*identite.retourPaypal), Lieu(lieu, QStringLiteral("retourPaypal")));
     if (identite.site && !estUnNomDeSite(*identite.site))
         lieu.noter("site", QStringLiteral("nom de site attendu, sans https:// ni page"));
+    if (identite.eori && !estUnEori(*identite.eori))
+        lieu.noter("eori",
+                   QStringLiteral("numéro EORI attendu : deux lettres, puis quinze chiffres au plus, sans espace"));
 }
 
 } // namespace
@@ -61,10 +97,11 @@ void Regles::frais(const FraisPaypal &frais, const Lieu &lieu)
     clesConnues(frais.supplements, Lieu(lieu, QStringLiteral("supplements")));
 }
 
-void Regles::reglages(const Reglages &reglages, const Lieu &lieu)
+void Regles::reglages(const Reglages &reglages, const QList<CodeDestination> &destinations, const Lieu &lieu)
 {
     frais(reglages.fraisPaypal, Lieu(lieu, QStringLiteral("fraisPaypal")));
-    emballages(reglages.emballages, Lieu(lieu, QStringLiteral("emballages")));
+    emballages(reglages, lieu);
+    douane(reglages.douane, destinations, Lieu(lieu, QStringLiteral("douane")));
 
     const Lieu vendeurs(lieu, QStringLiteral("vendeurs"));
     if (reglages.vendeurs.isEmpty())

@@ -1,4 +1,4 @@
-#include "model/HistoriqueLivres.h"
+#include "model/Historique.h"
 #include "tests/Banc.h"
 #include "tests/DisquePlein.h"
 
@@ -18,7 +18,7 @@ private slots:
     {
         const Banc banc;
         const auto catalogue = banc.charger();
-        HistoriqueLivres historique(*catalogue);
+        Historique historique(*catalogue);
         historique.modifier(catalogue->donnees().livres[0], "rien");
         QVERIFY(!QFile::exists(banc.cheminUtilisateur("livres-modifies.json")));
         QList<QList<Livre>> etapes{catalogue->donnees().livres};
@@ -67,7 +67,7 @@ private slots:
     {
         const Banc banc;
         const auto catalogue = banc.charger();
-        HistoriqueLivres historique(*catalogue);
+        Historique historique(*catalogue);
         Livre livre = catalogue->donnees().livres[1];
         livre.poids = Grammes{410};
         {

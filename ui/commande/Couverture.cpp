@@ -46,7 +46,7 @@ Couverture::Couverture(Livre livre, ImagesCouvertures &images, QWidget *parent)
 {
     setFocusPolicy(Qt::StrongFocus);
     connect(&images_, &ImagesCouvertures::prete, this, [this](const QString &couverture) {
-        if (couverture == livre_.couverture)
+        if (couverture.isEmpty() || couverture == livre_.couverture)
             oublierLeDessin();
     });
 }

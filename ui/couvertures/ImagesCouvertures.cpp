@@ -51,6 +51,16 @@ ImagesCouvertures::~ImagesCouvertures()
     lecteurs_.waitForDone();
 }
 
+void ImagesCouvertures::setDossier(const QDir &dossier)
+{
+    dossier_ = dossier;
+    fichiers_ = Couvertures::fichiers(dossier);
+    images_.clear();
+    enLecture_.clear();
+    ++lot_;
+    emit prete({});
+}
+
 QImage ImagesCouvertures::image(const QString &couverture, const QSize &pixels)
 {
     const auto fichier = fichiers_.constFind(Couvertures::nom(couverture));
@@ -61,9 +71,9 @@ QImage ImagesCouvertures::image(const QString &couverture, const QSize &pixels)
         return *lue;
     if (!enLecture_.contains(demande)) {
         enLecture_.insert(demande);
-        const auto travail = [this, couverture, pixels, demande, chemin = dossier_.filePath(*fichier)] {
+        const auto travail = [this, lot = lot_, couverture, pixels, demande, chemin = dossier_.filePath(*fichier)] {
             QMetaObject::invokeMethod(
-                this, [=, this, image = lire(chemin, pixels)] { recevoir(couverture, demande, image); },
+                this, [=, this, image = lire(chemin, pixels)] { recevoir(lot, couverture, demande, image); },
                 Qt::QueuedConnection);
         };
         // Once the painting that asks is over: reading would slow it down. The last asked for is in sight, the first
@@ -74,8 +84,10 @@ QImage ImagesCouvertures::image(const QString &couverture, const QSize &pixels)
     return {};
 }
 
-void ImagesCouvertures::recevoir(const QString &couverture, const QString &cle, const QImage &image)
+void ImagesCouvertures::recevoir(int lot, const QString &couverture, const QString &cle, const QImage &image)
 {
+    if (lot != lot_)
+        return;
     enLecture_.remove(cle);
     if (image.isNull())
         fichiers_.remove(Couvertures::nom(couverture)); // a damaged picture: the coloured cover stands in

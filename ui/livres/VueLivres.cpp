@@ -52,7 +52,7 @@ void nommer(QToolButton *bouton, const QString &nom, const QString &geste)
 VueLivres::VueLivres(const Contexte &contexte, QWidget *parent)
     : EcranDeRubrique(parent),
       contexte_(contexte),
-      historique_(contexte.catalogue),
+      historique_(contexte.historique),
       enTete_(new EnTete(QStringLiteral("Livres"), marge)),
       choix_(new ChoixTarifs),
       volet_(new VoletLivres(contexte.catalogue, contexte.images)),
@@ -75,9 +75,9 @@ VueLivres::VueLivres(const Contexte &contexte, QWidget *parent)
     Pile::colonne(this, {.espace = 0}, {enTete_, {page, 1}});
 
     connect(annuler_->defaultAction(), &QAction::triggered, this,
-            [this] { tenter([this] { volet_->choisir(historique_.annuler()); }); });
+            [this] { tenter([this] { montrerLeTouche(historique_.annuler()); }); });
     connect(retablir_->defaultAction(), &QAction::triggered, this,
-            [this] { tenter([this] { volet_->choisir(historique_.retablir()); }); });
+            [this] { tenter([this] { montrerLeTouche(historique_.retablir()); }); });
     connect(fiche_, &FicheLivre::modification, this,
             [this](const Livre &livre, const QString &geste) { tenter([&] { historique_.modifier(livre, geste); }); });
     connect(fiche_, &FicheLivre::reporter, this, [this](const Livre &livre, const QList<PrixBouton> &boutons) {
@@ -87,7 +87,7 @@ VueLivres::VueLivres(const Contexte &contexte, QWidget *parent)
         tenter([&] { historique_.garder(livre, bouton, TextesGestes::garde(livre)); });
     });
     connect(fiche_, &FicheLivre::saisieRefusee, &lecture_, qOverload<>(&QTimer::start));
-    connect(&historique_, &HistoriqueLivres::change, this, &VueLivres::montrerAnnulation);
+    connect(&historique_, &Historique::change, this, &VueLivres::montrerAnnulation);
     connect(fiche_, &FicheLivre::livreSuivant, volet_, &VoletLivres::passerAuSuivant);
     connect(volet_, &VoletLivres::choixChange, this, &VueLivres::actualiser);
     connect(choix_, &ChoixTarifs::choisi, this, &VueLivres::actualiser);
@@ -188,6 +188,12 @@ void VueLivres::tenter(const std::function<void()> &geste)
         return;
     actualiser();
     lecture_.start();
+}
+
+void VueLivres::montrerLeTouche(std::optional<qint64> livre)
+{
+    if (livre)
+        volet_->choisir(*livre);
 }
 
 void VueLivres::revenir()

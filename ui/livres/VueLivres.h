@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/HistoriqueLivres.h"
+#include "model/Historique.h"
 #include "ui/EcranDeRubrique.h"
 #include "ui/Raccourcis.h"
 
@@ -41,10 +41,11 @@ private:
     void actualiser();
     void montrerAnnulation();
     void tenter(const std::function<void()> &geste);
+    void montrerLeTouche(std::optional<qint64> livre);
     void revenir();
 
     const Contexte &contexte_;
-    HistoriqueLivres historique_;
+    Historique &historique_;
     EnTete *enTete_;
     ChoixTarifs *choix_;
     VoletLivres *volet_;

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "model/controle/Regles.h"
+
+#include <QMap>
+#include <QString>
+
+// What the rules of the data files hold against a record that is being typed, for the screens to say beside each field.
+namespace Quillet::Objections {
+
+// Sentences by the way from the record to the field: "isbn", "teinte[1]", "emballages[0].nom". Empty: nothing is wrong.
+using ParChamp = QMap<QString, QString>;
+
+ParChamp surLeLivre(const Livre &livre, const Regles::Reperes &reperes);
+ParChamp surLesReglages(const Reglages &reglages, const QList<CodeDestination> &destinations);
+
+} // namespace Quillet::Objections

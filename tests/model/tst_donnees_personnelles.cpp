@@ -1,0 +1,139 @@
+#include "model/DossierPersonnel.h"
+#include "model/Historique.h"
+#include "tests/Banc.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Quillet;
+
+namespace {
+
+// The bench's books, made the sellers' own.
+struct BancPersonnel : Banc
+{
+    BancPersonnel()
+    {
+        deposer();
+        DossierPersonnel::creer(stockage().donneesPersonnelles(), ressources(), reglages, livres, {});
+    }
+    [[nodiscard]] QString chemin(const QString &nom) const { return cheminUtilisateur("donnees/" + nom); }
+    [[nodiscard]] std::unique_ptr<Catalogue> ouvrir() const
+    {
+        return Catalogue::charge(Ressources::enVigueur(stockage().donneesPersonnelles()), stockage());
+    }
+};
+
+QStringList titres(const Catalogue &catalogue)
+{
+    QStringList titres;
+    for (const Livre &livre : catalogue.donnees().livres)
+        titres.append(livre.titre);
+    return titres;
+}
+
+} // namespace
+
+class TestDonneesPersonnelles : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void tiennentLieuDeLExemple()
+    {
+        const Banc vide;
+        QCOMPARE(Ressources::enVigueur(vide.stockage().donneesPersonnelles()).origine(), Origine::exemple);
+
+        BancPersonnel banc;
+        banc.ecrireUtilisateur(Stockage::fichierDesLivres(), R"({"1":{"prix":1,"disponible":false}})");
+        const auto catalogue = banc.ouvrir();
+        QVERIFY(catalogue->donnees().personnelles);
+        QCOMPARE(catalogue->donnees().livres, banc.livres); // what was changed of shipped books is not theirs
+        QCOMPARE(catalogue->donnees().destinations, banc.destinations);
+        QCOMPARE(catalogue->donnees().grillesConnues, banc.tarifs);
+        QVERIFY_THROWS_EXCEPTION(ErreurStockage, DossierPersonnel::creer(banc.stockage().donneesPersonnelles(),
+                                                                         banc.ressources(), banc.reglages, {}, {}));
+        QCOMPARE(titres(*banc.ouvrir()).size(), banc.livres.size());
+
+        Fichier::ecrire(banc.chemin("livres.json"), "[");
+        QVERIFY_THROWS_EXCEPTION(RessourceIllisible, banc.ouvrir());
+        QVERIFY_THROWS_EXCEPTION(RessourceIllisible, catalogue->recharger());
+        QCOMPARE(catalogue->donnees().livres, banc.livres);
+    }
+
+    void unLivreSEcritDansSonFichier()
+    {
+        BancPersonnel banc;
+        const auto catalogue = banc.ouvrir();
+        Historique historique(*catalogue);
+        const QStringList avant = titres(*catalogue);
+
+        Livre livre = catalogue->donnees().livres[0];
+        livre.titre = "Autre titre";
+        livre.prix = Centimes{4321};
+        historique.modifier(livre, "titre");
+        QList<Livre> livres = catalogue->donnees().livres;
+        livres.append(unLivre(77, Vendeur::mireva, Centimes{900}, {}));
+        historique.remplacer(livres, "ajout");
+        livres.removeFirst();
+        historique.remplacer(livres, "retrait");
+        QCOMPARE(banc.ouvrir()->donnees().livres, livres);
+        QVERIFY(!QFile::exists(banc.cheminUtilisateur(Stockage::fichierDesLivres())));
+
+        QCOMPARE(historique.annuler(), 1);
+        QVERIFY(historique.annuler());
+        QCOMPARE(historique.aAnnuler(), "titre");
+        QCOMPARE(banc.ouvrir()->donnees().livres.first(), livre);
+        historique.annuler();
+        QCOMPARE(titres(*banc.ouvrir()), avant);
+        historique.retablir();
+        QCOMPARE(historique.retablir(), 77);
+        historique.retablir();
+        QCOMPARE(banc.ouvrir()->donnees().livres, livres);
+
+        Reglages reglages = catalogue->donnees().reglages;
+        reglages.emballages.first().nom = "Sac";
+        reglages.fraisPaypal.fixe = Centimes{1}; // only accepted with the others
+        const FraisPaypal frais = catalogue->donnees().reglages.fraisPaypal;
+        historique.remplacer(reglages, "emballage");
+        QCOMPARE(banc.ouvrir()->donnees().reglages.emballages.first().nom, "Sac");
+        QCOMPARE(banc.ouvrir()->donnees().reglages.fraisPaypal, frais);
+        QVERIFY(!historique.annuler());
+        QCOMPARE(banc.ouvrir()->donnees().reglages, banc.reglages);
+    }
+
+    void rienNEstEcritParDessusUnAutre()
+    {
+        BancPersonnel banc;
+        const auto ici = banc.ouvrir();
+        const auto ailleurs = banc.ouvrir();
+        QVERIFY(ici->changesAilleurs().isEmpty());
+        Livre livre = ailleurs->donnees().livres[1];
+        livre.prix = Centimes{5};
+        ailleurs->modifier({livre});
+        QVERIFY(ailleurs->changesAilleurs().isEmpty());
+        QCOMPARE(ici->changesAilleurs(), QStringList{"livres.json"});
+
+        Historique historique(*ici);
+        const QList<Livre> avant = ici->donnees().livres;
+        Livre autre = avant[0];
+        autre.prix = Centimes{6};
+        QVERIFY_THROWS_EXCEPTION(DonneesChangees, historique.modifier(autre, "prix"));
+        QCOMPARE(ici->donnees().livres, avant);
+        QCOMPARE(banc.ouvrir()->donnees().livres[1], livre);
+
+        const QSignalSpy recharges(ici.get(), &Catalogue::recharge);
+        ici->recharger();
+        QCOMPARE(recharges.count(), 1);
+        QCOMPARE(ici->donnees().livres[1], livre);
+        historique.modifier(autre, "prix");
+        QCOMPARE(banc.ouvrir()->donnees().livres[0], autre);
+
+        QVERIFY(QFile::remove(banc.chemin("reglages.json")));
+        QVERIFY_THROWS_EXCEPTION(DonneesChangees, ici->remplacer(Reglages{}));
+        QVERIFY_THROWS_EXCEPTION(RessourceIllisible, ici->recharger()); // never the example's
+    }
+};
+
+QTEST_MAIN(TestDonneesPersonnelles)
+#include "tst_donnees_personnelles.moc"
