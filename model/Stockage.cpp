@@ -6,8 +6,7 @@ namespace Quillet {
 
 Stockage Stockage::deLUtilisateur()
 {
-    const QDir donnees(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
-    return Stockage(QDir(donnees.filePath(QStringLiteral("Quillet"))));
+    return dans(QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)));
 }
 
 QList<TarifsColissimo> Stockage::grillesEnregistrees()

@@ -20,6 +20,8 @@ public:
     explicit Stockage(const QDir &dossier) : dossier_(dossier) {}
     // The folder "Quillet" of the platform's per-user data.
     static Stockage deLUtilisateur();
+    // The same under any folder that stands for that one.
+    static Stockage dans(const QDir &commun) { return Stockage(QDir(commun.filePath(QStringLiteral("Quillet")))); }
 
     // The names of its files, but for the schedules'.
     static QString fichierDesLivres() { return QStringLiteral("livres-modifies.json"); }

@@ -16,7 +16,7 @@ void BancEcran::demarrer(const Preferences &preferences)
     app.reset();
     donnees.deposer();
     app = std::make_unique<QuilletApp>(
-        donnees.ressources(), donnees.stockage(), preferences, [this] { return jour; }, pages, misesAJour);
+        ressources(), donnees.stockage(), preferences, [this] { return jour; }, pages, misesAJour);
     app->fenetre().show();
     if (!QTest::qWaitForWindowActive(&app->fenetre()))
         qFatal("La fenêtre ne s’ouvre pas");
@@ -26,6 +26,16 @@ void BancEcran::commander(const QString &destination) const
 {
     app->commande().ajuster(donnees.livres[0], 2);
     app->commande().setCodeDestination(CodeDestination(destination));
+}
+
+Ressources BancEcran::ressources() const
+{
+    const QDir personnelles = donnees.stockage().donneesPersonnelles();
+    if (origine != Origine::utilisateur)
+        return Ressources(donnees.ressources().dossier(), origine);
+    if (!personnelles.exists())
+        DossierPersonnel::creer(personnelles, donnees.ressources(), donnees.reglages, donnees.livres, {});
+    return Ressources::enVigueur(personnelles);
 }
 
 QDialog *BancEcran::ouvrir(const QString &bouton) const

@@ -21,11 +21,14 @@ struct BancEcran
     PagesSurveillees pages = horsReseau();
     SourceMisesAJour misesAJour;
     QDate jour = jourDuBanc; // the program's, at any time
+    Origine origine = Origine::dossier;
     std::unique_ptr<QuilletApp> app;
 
     // Starts the program, again if need be, on `donnees` as they are now.
     void demarrer();
     void demarrer(const Preferences &preferences);
+    // What it starts on: `donnees`, or once they are the sellers' own, their folder.
+    [[nodiscard]] Ressources ressources() const;
     // Two copies of the first book.
     void commander(const QString &destination) const;
     // The sheet behind a button of the window.

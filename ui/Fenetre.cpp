@@ -1,5 +1,6 @@
 #include "ui/Fenetre.h"
 
+#include "composants/Pile.h"
 #include "composants/Place.h"
 #include "composants/Theme.h"
 #include "model/Enumeration.h"
@@ -9,6 +10,7 @@
 #include "ui/FeuilleRaccourcis.h"
 #include "ui/PlaceDeLaFenetre.h"
 #include "ui/Raccourcis.h"
+#include "ui/VeilleDesDonnees.h"
 #include "ui/misesajour/FeuilleMiseAJour.h"
 #include "watch/MisesAJour.h"
 
@@ -50,7 +52,7 @@ Fenetre::Fenetre(const Contexte &contexte, MisesAJour &misesAJour)
 {
     setObjectName(QStringLiteral("quillet"));
     setWindowTitle(QStringLiteral("Quillet"));
-    setCentralWidget(contenu_);
+    setCentralWidget(Pile::enColonne({.espace = 0}, {new VeilleDesDonnees(contexte), {contenu_, 1}}));
     contenu_->prendreLeFocus();
     creerMenu(misesAJour);
     creerRaccourcis();

@@ -1,6 +1,7 @@
 #include "ui/InstanceUnique.h"
 
 #include "model/Echec.h"
+#include "model/Stockage.h"
 
 #include <QDeadlineTimer>
 #include <QFile>
@@ -51,8 +52,8 @@ InstanceUnique::InstanceUnique(const QDir &commun, std::chrono::milliseconds pat
 
 InstanceUnique::~InstanceUnique()
 {
-    if (verrouDesDonnees_ >= 0)
-        close(verrouDesDonnees_);
+    for (const int verrou : verrousDesDonnees_)
+        close(verrou);
 }
 
 QDir InstanceUnique::communDeLUtilisateur()
@@ -101,14 +102,24 @@ bool InstanceUnique::appelerLaPremiere(const QByteArray &jeton) const
     return false;
 }
 
-// Sessions of one account do not share their runtime folder, but do share the data. The lock goes with the program,
-// however it ends, and leaves no file. A disk that knows no such lock must not keep the seller from working.
+// Sessions of one account do not share their runtime folder, but do share the data; other accounts may share the
+// sellers' own.
 void InstanceUnique::verrouillerLesDonnees()
 {
     commun_.mkpath(QStringLiteral("."));
-    if (verrouDesDonnees_ < 0)
-        verrouDesDonnees_ = open(QFile::encodeName(commun_.path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (verrouDesDonnees_ >= 0 && flock(verrouDesDonnees_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+    verrouiller(commun_.path());
+    verrouiller(Stockage::dans(commun_).donneesPersonnelles().path());
+}
+
+// The lock goes with the program, however it ends, and leaves no file. A folder that is not there, or a disk that knows
+// no such lock, must not keep the seller from working.
+void InstanceUnique::verrouiller(const QString &dossier)
+{
+    const int verrou = open(QFile::encodeName(dossier).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (verrou < 0)
+        return;
+    verrousDesDonnees_.append(verrou);
+    if (flock(verrou, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
         verrou_.unlock();
         throw Echec(QStringLiteral("Quillet est déjà ouvert sur les mêmes données, sans doute dans une autre "
                                    "session.\nFermez-le là-bas, puis recommencez."));

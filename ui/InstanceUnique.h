@@ -32,13 +32,14 @@ signals:
 private:
     [[nodiscard]] bool appelerLaPremiere(const QByteArray &jeton) const;
     void verrouillerLesDonnees();
+    void verrouiller(const QString &dossier);
     void ecouter(QLocalSocket *appel);
 
     QDir commun_;
     std::chrono::milliseconds patience_;
     QString adresse_;
     QLockFile verrou_;
-    int verrouDesDonnees_ = -1; // holds a lock as long as it is open
+    QList<int> verrousDesDonnees_; // each holds its lock as long as it is open
     QLocalServer serveur_;
 };
 

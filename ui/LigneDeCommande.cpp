@@ -21,7 +21,7 @@ using LigneDeCommande::Reponse;
 
 QString usage()
 {
-    return QStringLiteral("Usage : quillet [--verifier DOSSIER]\n");
+    return QStringLiteral("Usage : quillet [--verifier [DOSSIER]]\n");
 }
 
 QString texteDAide()
@@ -30,9 +30,10 @@ QString texteDAide()
 Sans option, ouvre la fenêtre de Quillet.
 
   --verifier DOSSIER  contrôle un dossier de données (livres, couvertures, destinations,
-                      réglages, tarifs) et vos propres fichiers (changements de livres, tarifs et
-                      frais acceptés, préférences) ; nomme chaque erreur avec sa place, sans écran ;
-                      dit aussi ce qui manque au système (formats d’images, polices)
+                      réglages, tarifs), celui qui sert si aucun n’est nommé, et vos propres
+                      fichiers (changements de livres, tarifs et frais acceptés, préférences) ;
+                      nomme chaque erreur avec sa place, sans écran ; dit aussi ce qui manque au
+                      système (formats d’images, polices)
   -v, --version       donne la version
   -h, --help          montre cette aide
 
@@ -57,9 +58,8 @@ std::optional<QString> malComprise(QCommandLineParser &analyseur, const QCommand
     const bool lue = analyseur.parse(arguments);
     if (const QStringList inconnues = analyseur.unknownOptionNames(); !inconnues.isEmpty())
         return QStringLiteral("option inconnue « %1 »").arg(inconnues.first());
-    if (arguments.last() == QLatin1String("--verifier")
-        || (analyseur.isSet(verifier)
-            && (analyseur.value(verifier).isEmpty() || analyseur.value(verifier).startsWith(u'-'))))
+    if (analyseur.isSet(verifier)
+        && (analyseur.value(verifier).isEmpty() || analyseur.value(verifier).startsWith(u'-')))
         return QStringLiteral("« --verifier » attend un dossier");
     if (!lue)
         return QStringLiteral("il manque une valeur à une option, ou elle n’en attend pas");
@@ -68,7 +68,8 @@ std::optional<QString> malComprise(QCommandLineParser &analyseur, const QCommand
     return std::nullopt;
 }
 
-Reponse controle(const QString &dossier)
+// Of the folder named, or else of the one in force.
+Reponse controle(const QString &nomme)
 {
     // Typefaces and pictures are asked of a display; this one needs no screen.
     QByteArray nom("quillet");
@@ -78,8 +79,11 @@ Reponse controle(const QString &dossier)
     int nombre = 3;
     const QGuiApplication programme(nombre, arguments.data());
 
-    auto controle = ControleDonnees::de(QDir(dossier), QDate::currentDate());
-    const QDir images(Ressources(QDir(dossier)).chemin(QStringLiteral("couvertures")));
+    const Ressources ressources = nomme.isEmpty()
+                                      ? Ressources::enVigueur(Stockage::deLUtilisateur().donneesPersonnelles())
+                                      : Ressources(QDir(nomme));
+    auto controle = ControleDonnees::de(ressources.dossier(), QDate::currentDate());
+    const QDir images(ressources.chemin(QStringLiteral("couvertures")));
     QStringList couvertures;
     for (const QString &fichier : Couvertures::fichiers(images))
         couvertures.append(images.filePath(fichier));
@@ -87,8 +91,11 @@ Reponse controle(const QString &dossier)
     controle.erreurs += ControlePoste::imagesAbimees(moyens, couvertures)
                         + ControleUtilisateur::erreurs(Stockage::deLUtilisateur().dossier())
                         + NumerotationFactures{Preferences::deLUtilisateur()}.erreurs();
+    const QStringList choisi =
+        nomme.isEmpty() ? QStringList{QStringLiteral("Données qui servent : %1").arg(ressources.dossier().path())}
+                        : QStringList();
     const QStringList lignes =
-        controle.erreurs + QStringList{controle.bilan()} + ControlePoste::manques(moyens, couvertures);
+        choisi + controle.erreurs + QStringList{controle.bilan()} + ControlePoste::manques(moyens, couvertures);
     return {controle.erreurs.isEmpty() ? 0 : 1, lignes.join(u'\n') + u'\n'};
 }
 
@@ -104,13 +111,15 @@ std::optional<Reponse> LigneDeCommande::repondre(const QStringList &arguments)
     analyseur.addOptions({verifier, version, aide});
     accepterCellesDeQt(analyseur);
 
-    if (const auto raison = malComprise(analyseur, verifier, arguments))
+    const bool sansDossier = arguments.size() > 1 && arguments.last() == QLatin1String("--verifier");
+    const QStringList avecValeurs = sansDossier ? arguments.first(arguments.size() - 1) : arguments;
+    if (const auto raison = malComprise(analyseur, verifier, avecValeurs))
         return Reponse{2, QStringLiteral("quillet : %1\n%2").arg(*raison, usage())};
     if (analyseur.isSet(aide))
         return Reponse{0, texteDAide()};
     if (analyseur.isSet(version))
         return Reponse{0, QStringLiteral("Quillet " QUILLET_VERSION "\n")};
-    if (analyseur.isSet(verifier))
+    if (sansDossier || analyseur.isSet(verifier))
         return controle(analyseur.value(verifier));
     return std::nullopt;
 }

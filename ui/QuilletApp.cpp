@@ -13,6 +13,8 @@
 #include <QScreen>
 #include <QTranslator>
 
+#include <utility>
+
 namespace Quillet {
 
 namespace {
@@ -73,10 +75,13 @@ QuilletApp::QuilletApp(const Ressources &ressources, Stockage stockage, const Pr
         if (catalogue_->donnees().personnelles)
             commande_.suivre(catalogue_->donnees());
     });
-    QObject::connect(catalogue_.get(), &Catalogue::recharge, &commande_, [this] {
-        images_.setDossier(QDir(catalogue_->ressources().chemin(QStringLiteral("couvertures"))));
-        commande_.commencer(catalogue_->donnees());
-    });
+    QObject::connect(catalogue_.get(), &Catalogue::recharge, &commande_,
+                     [this, enForce = ressources.dossier().path()]() mutable {
+                         images_.setDossier(QDir(catalogue_->ressources().chemin(QStringLiteral("couvertures"))));
+                         if (const QString dossier = catalogue_->ressources().dossier().path();
+                             std::exchange(enForce, dossier) != dossier)
+                             commande_.commencer(catalogue_->donnees()); // the same numbers are other books
+                     });
     QObject::connect(&commande_, &Commande::change, &commande_, [this] { factures_.suivre(commande_.bon()); });
     // Neither drawing the icon in all its sizes nor the network's own start may delay the first image.
     QObject::connect(fenetre_.get(), &Fenetre::posee, fenetre_.get(), [this] {

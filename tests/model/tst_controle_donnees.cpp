@@ -165,7 +165,8 @@ private slots:
                   1,
                   "/nulle/part : dossier introuvable\n1 erreur à corriger.",
                   ""},
-                 {"sans dossier", {verifier}, 2, "", "quillet : « --verifier » attend un dossier\nUsage : "},
+                 {"celles qui servent", {verifier}, 0, "Données qui servent : ", ""},
+                 {"dossier vide", {verifier, ""}, 2, "", "quillet : « --verifier » attend un dossier\nUsage : "},
                  {"option inconnue", {"--bidon"}, 2, "", "quillet : option inconnue « bidon »\nUsage : "},
                  {"argument inattendu",
                   {"livres.json"},
@@ -202,13 +203,13 @@ void TestControleDonnees::erreurs()
              {"reglages", R"("douane" : {)", R"("douane" : 3, "x" : {)",
               "reglages.douane : objet attendu\nreglages.x : clé inconnue"},
              {"reglages", R"("taux" : 290)", R"("taux" : 290,)",
-              "reglages.json : JSON illisible, ligne 43, colonne 3 : virgule en trop"},
+              "reglages.json : JSON illisible, ligne 44, colonne 3 : virgule en trop"},
              {"reglages", R"("taux" : 290)", R"("taux" : 290, "fixe" : 0, "x\"{" : "taux")",
               "reglages.fraisPaypal.x\"{ : clé inconnue\n"
-              "reglages.json, ligne 42 : clé « fixe » écrite deux fois, la dernière compte"},
+              "reglages.json, ligne 43 : clé « fixe » écrite deux fois, la dernière compte"},
              {"reglages", R"("taux" : 290)", R"("taux" : 290, "\u0074aux": 290, "fixe" : 0)",
-              "reglages.json, ligne 42 : clé « taux » écrite deux fois, la dernière compte\n"
-              "reglages.json, ligne 42 : clé « fixe » écrite deux fois, la dernière compte"},
+              "reglages.json, ligne 43 : clé « taux » écrite deux fois, la dernière compte\n"
+              "reglages.json, ligne 43 : clé « fixe » écrite deux fois, la dernière compte"},
              {"destinations", R"("code" : "france")", R"("code" : 1)", "destinations[0].code : texte attendu"},
              {"tarifs-colissimo-2026-01-01", R"("code" : "om1")", R"("code" : 1)",
               "tarifs-colissimo-2026-01-01.grilles[1].code : texte attendu"},
@@ -268,7 +269,16 @@ void TestControleDonnees::erreurs()
              {"reglages", R"("mireva" : {)", R"("Mireva" : {)",
               "…\nlivres[13].vendeur : « mireva » n’a pas d’identité dans reglages.vendeurs\n"
               "reglages.vendeurs.Mireva : clé inconnue"},
-             {"reglages", R"("Enveloppe à bulles")", R"("Enveloppe")",
+             {"reglages", R"("codeSH" : "490199")",
+              R"("codeSH" : "49.0", "codesParDestination" : {"suisse" : "49019900", "lune" : "12345678901"})",
+              "reglages.douane.codeSH : six à dix chiffres attendus\n"
+              "reglages.douane.codesParDestination.lune : six à dix chiffres attendus"},
+             {"reglages", R"("nom" : "Atelier Mireva",)",
+              R"("nom" : "Atelier Mireva", "eori" : "FR 123", "nomCourt" : " ",)",
+              "reglages.vendeurs.mireva.nomCourt : texte vide\n"
+              "reglages.vendeurs.mireva.eori : numéro EORI attendu : deux lettres, puis quinze chiffres au plus, sans "
+              "espace"},
+             {"reglages", R"("nom" : "Enveloppe à bulles")", R"("nom" : "Enveloppe")",
               "reglages.emballages : aucun ne s’appelle « Enveloppe à bulles », "
               "l’emballage d’une nouvelle commande : il compterait 0 g"},
              {"reglages", "Pochette cartonnée", "Carton",

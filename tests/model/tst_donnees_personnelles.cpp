@@ -102,6 +102,34 @@ private slots:
         QCOMPARE(banc.ouvrir()->donnees().reglages, banc.reglages);
     }
 
+    // A new order starts with what the data say; the one in progress lets go of what they do not have any more.
+    void laCommandeSuit()
+    {
+        Banc banc;
+        Donnees donnees = banc.donnees();
+        QCOMPARE(donnees.vendeurs().size(), 2);
+        Commande commande;
+        commande.commencer(donnees);
+        QCOMPARE(commande.bon(), BonDeCommande());
+
+        donnees.personnelles = true;
+        donnees.reglages.vendeurs.remove(Vendeur::davrel);
+        donnees.livres.removeIf([](const Livre &livre) { return livre.vendeur == Vendeur::davrel; });
+        donnees.reglages.emballages.append({"Sac", Grammes{12}});
+        donnees.reglages.emballageDeDepart = "Sac";
+        commande.ajuster(banc.livres[0], 2);
+        commande.setEmballage("Disparu");
+        commande.suivre(donnees);
+        QCOMPARE(commande.bon().vendeur, Vendeur::mireva);
+        QCOMPARE(commande.bon().emballage, "Sac");
+        QVERIFY(commande.bon().estVide());
+        commande.setEmballage(BonDeCommande::autrePoids());
+        commande.suivre(donnees);
+        QCOMPARE(commande.bon().emballage, BonDeCommande::autrePoids());
+        commande.commencer(donnees);
+        QCOMPARE(commande.bon().emballage, "Sac");
+    }
+
     void rienNEstEcritParDessusUnAutre()
     {
         BancPersonnel banc;

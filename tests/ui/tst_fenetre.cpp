@@ -261,6 +261,51 @@ private slots:
         QVERIFY2(ailleurs.startsWith("Quillet est déjà ouvert sur les mêmes données"), qPrintable(ailleurs));
     }
 
+    // Two homes whose own data are one folder, as two accounts may share it.
+    void memesDonneesParUnLien()
+    {
+        const QTemporaryDir commun;
+        for (const char *maison : {"a", "b"}) {
+            QVERIFY(QDir(commun.path()).mkpath(QStringLiteral("%1/Quillet").arg(maison)));
+            QVERIFY(QFile::link(commun.path(), commun.filePath(QStringLiteral("%1/Quillet/donnees").arg(maison))));
+        }
+        InstanceUnique premiere(commun.filePath("a"));
+        QVERIFY(premiere.prendreLaPlace({}));
+        const QTemporaryDir autreSession;
+        qputenv("XDG_RUNTIME_DIR", autreSession.path().toUtf8());
+        QVERIFY_THROWS_EXCEPTION(Echec, (void)InstanceUnique(commun.filePath("b")).prendreLaPlace({}));
+        qputenv("XDG_RUNTIME_DIR", session_.path().toUtf8());
+    }
+
+    // The order in progress stays, but for what is not sold any more.
+    void donneesChangeesAilleurs()
+    {
+        BancEcran banc;
+        banc.origine = Origine::utilisateur;
+        banc.demarrer();
+        banc.commander("france");
+        banc.app->commande().ajuster(banc.donnees.livres[1], 1);
+        QWidget *relire = Ecran::controle(&banc.app->fenetre(), "Les relire");
+        QVERIFY(!relire);
+
+        const auto ailleurs = Catalogue::charge(banc.ressources(), banc.donnees.stockage());
+        QList<Livre> livres = ailleurs->donnees().livres;
+        livres.removeAt(1);
+        livres[0].titre = "Vu d’ailleurs";
+        ailleurs->remplacer(livres);
+        QTRY_VERIFY(relire = Ecran::controle(&banc.app->fenetre(), "Les relire"));
+        banc.donnees.ecrireUtilisateur("donnees/destinations.json", "[");
+        QVERIFY(Ecran::cliquer(&banc.app->fenetre(), "Les relire"));
+        QVERIFY(relire->isVisible()); // what cannot be read is said, and the former stands
+        QCOMPARE(banc.app->commande().bon().quantites.size(), 2);
+
+        banc.donnees.ecrireUtilisateur("donnees/destinations.json", Json::encoder(banc.donnees.destinations));
+        QVERIFY(Ecran::cliquer(&banc.app->fenetre(), "Les relire"));
+        QTRY_VERIFY(!relire->isVisible());
+        QCOMPARE(banc.app->commande().bon().quantites, (QMap<qint64, int>{{banc.donnees.livres[0].id, 2}}));
+        QVERIFY(Ecran::controle(&banc.app->fenetre(), "Vu d’ailleurs"));
+    }
+
     // Whatever a program of the same user sends there, the first is called only by a call, and hangs up.
     void appelsHostiles()
     {
