@@ -23,6 +23,19 @@ namespace {
 const QDate jourDeLaVisite(2026, 3, 2);
 constexpr int tempsDesRessorts = 900; // ms
 
+// The shipped books and sellers, as if they were the seller's own.
+Ressources lesSiennes(const Stockage &stockage)
+{
+    const Ressources livrees = Ressources::duProgramme();
+    const QDir images(livrees.chemin(QStringLiteral("couvertures")));
+    QHash<QString, QByteArray> couvertures;
+    for (const QString &image : images.entryList(QDir::Files))
+        couvertures.insert(image, Fichier::lireOuRefuser(images.filePath(image), Fichier::Borne::image).value());
+    DossierPersonnel::creer(stockage.donneesPersonnelles(), livrees, livrees.lire<Reglages>(QStringLiteral("reglages")),
+                            livrees.lire<QList<Livre>>(QStringLiteral("livres")), couvertures);
+    return Ressources::enVigueur(stockage.donneesPersonnelles());
+}
+
 } // namespace
 
 Parcours::Parcours(const QDir &dossier, QString suffixe, bool bavard, std::optional<QSize> taille)
@@ -30,9 +43,10 @@ Parcours::Parcours(const QDir &dossier, QString suffixe, bool bavard, std::optio
       suffixe_(std::move(suffixe)),
       bavard_(bavard),
       taille_(taille),
+      stockage_(Stockage::dans(QDir(donnees_.path()))),
       quillet_(
-          Ressources::duProgramme(), Stockage(QDir(donnees_.filePath(QStringLiteral("Quillet")))),
-          Preferences(donnees_.filePath(QStringLiteral("Quillet.ini"))), [] { return jourDeLaVisite; }, site_.pages())
+          lesSiennes(stockage_), stockage_, Preferences(donnees_.filePath(QStringLiteral("Quillet.ini"))),
+          [] { return jourDeLaVisite; }, site_.pages())
 {
 }
 

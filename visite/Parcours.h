@@ -45,6 +45,7 @@ private:
     std::optional<QSize> taille_;
     QTemporaryDir donnees_;
     SiteDeLaVisite site_;
+    Stockage stockage_;
     QuilletApp quillet_;
 };
 
