@@ -2,6 +2,7 @@
 
 #include "composants/TailleDuTexte.h"
 
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
 #include <QStyleOption>
@@ -46,9 +47,19 @@ void ZoneDeTexte::insertFromMimeData(const QMimeData *contenu)
     QPlainTextEdit::insertFromMimeData(&colle);
 }
 
-// The frame holds the scroll bar too, and changes as a whole with the focus.
+// The frame holds the scroll bar too, and changes as a whole with the focus. Undo and redo are its screen's, as in a
+// LigneDeTexte, while the field has no typing of its own.
 bool ZoneDeTexte::event(QEvent *evenement)
 {
+    if (evenement->type() == QEvent::ShortcutOverride) {
+        const auto *touche = static_cast<QKeyEvent *>(evenement);
+        const bool aDefaire = document()->isUndoAvailable();
+        if ((touche->matches(QKeySequence::Undo) && !aDefaire)
+            || (touche->matches(QKeySequence::Redo) && !aDefaire && !document()->isRedoAvailable())) {
+            evenement->ignore();
+            return false;
+        }
+    }
     if (evenement->type() == QEvent::FocusIn || evenement->type() == QEvent::FocusOut)
         update();
     if (evenement->type() != QEvent::Paint)

@@ -1,5 +1,6 @@
 #include "composants/Attente.h"
 #include "composants/BoutonCopier.h"
+#include "composants/ChampDeFiche.h"
 #include "composants/Choix.h"
 #include "composants/ChoixSegmente.h"
 #include "composants/Defilement.h"
@@ -166,6 +167,65 @@ private slots:
         QCOMPARE(coller(" et\n Bob"), "Ada Exempleet Bob");
         QTest::keyClicks(&zone, "  ");
         QCOMPARE(zone.toPlainText(), "Ada Exempleet Bob  ");
+    }
+
+    // As typed, so handed over, once; what is refused stays, with the reason, until another value is shown.
+    void laFicheGardeCeQuiFutTape_data()
+    {
+        QTest::addColumn<int>("lignes");
+        QTest::newRow("une ligne") << 1;
+        QTest::newRow("plusieurs lignes") << 3;
+    }
+    void laFicheGardeCeQuiFutTape()
+    {
+        QFETCH(const int, lignes);
+        QWidget page;
+        auto *fiche = new ChampDeFiche("SIRET", lignes, &page);
+        auto *autre = new QLineEdit(&page);
+        fiche->montrer("1");
+        page.show();
+        QVERIFY(QTest::qWaitForWindowActive(&page));
+        QStringList rendus;
+        connect(fiche, &ChampDeFiche::saisi, fiche, [&](const QString &texte) {
+            rendus.append(texte);
+            fiche->objecter(texte == "12" ? "faux" : "");
+        });
+        QWidget *champ = fiche->focusProxy();
+        const auto alerte = [&] { return champ->accessibleDescription(); };
+        fiche->setFocus();
+        QTest::keyClick(champ, Qt::Key_End);
+        QTest::keyClick(champ, Qt::Key_2);
+        fiche->montrer("1"); // something else has changed
+        QCOMPARE(fiche->texte(), "12");
+        autre->setFocus();
+        QCOMPARE(rendus, QStringList{"12"});
+        QVERIFY(fiche->estRefuse());
+        fiche->montrer("1");
+        QCOMPARE(fiche->texte() + alerte(), "12faux");
+        fiche->setFocus();
+        autre->setFocus(); // nothing new
+        QCOMPARE(rendus.size(), 1);
+
+        fiche->objecter("faux");
+        fiche->montrer("3"); // undone
+        QCOMPARE(fiche->texte() + alerte(), "3");
+        fiche->setFocus(); // its screen's own undo answers, until there is typing
+        const auto annule = [&] {
+            QKeyEvent touche(QEvent::ShortcutOverride, Qt::Key_Z, Qt::ControlModifier);
+            touche.ignore();
+            QApplication::sendEvent(champ, &touche);
+            return touche.isAccepted();
+        };
+        QVERIFY(!annule());
+        QTest::keyClick(champ, Qt::Key_End);
+        QTest::keyClick(champ, Qt::Key_4);
+        QVERIFY(annule());
+        page.hide(); // as a sheet that closes
+        QCOMPARE(rendus.value(1) + alerte(), "34");
+        lignes == 1 ? fiche->findChild<QLineEdit *>()->setText("5") // by a reader
+                    : fiche->findChild<ZoneDeTexte *>()->setPlainText("5");
+        QCOMPARE(rendus.value(2), "5");
+        QCOMPARE(rendus.size(), 3);
     }
 
     void lAttenteEstBornee()
