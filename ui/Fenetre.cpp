@@ -6,19 +6,15 @@
 #include "model/Enumeration.h"
 #include "ui/ContenuPrincipal.h"
 #include "ui/Contexte.h"
-#include "ui/FeuilleGuide.h"
-#include "ui/FeuilleRaccourcis.h"
+#include "ui/Menus.h"
 #include "ui/PlaceDeLaFenetre.h"
 #include "ui/Raccourcis.h"
 #include "ui/VeilleDesDonnees.h"
-#include "ui/misesajour/FeuilleMiseAJour.h"
-#include "watch/MisesAJour.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QScreen>
 #include <QShortcut>
 #include <QTimer>
@@ -54,7 +50,7 @@ Fenetre::Fenetre(const Contexte &contexte, MisesAJour &misesAJour)
     setWindowTitle(QStringLiteral("Quillet"));
     setCentralWidget(Pile::enColonne({.espace = 0}, {new VeilleDesDonnees(contexte), {contenu_, 1}}));
     contenu_->prendreLeFocus();
-    creerMenu(misesAJour);
+    Menus::garnir(*this, contexte, misesAJour);
     creerRaccourcis();
     repos_.setSingleShot(true);
     repos_.setInterval(1s);
@@ -146,29 +142,6 @@ void Fenetre::ramener(const QByteArray &jeton)
         qunsetenv(pourQt); // it serves once, and is not for the programs started from here
 }
 
-void Fenetre::creerMenu(MisesAJour &misesAJour)
-{
-    QMenu *menu = menuBar()->addMenu(QStringLiteral("&Quillet"));
-    menu->addAction(QStringLiteral("À &propos de Quillet"), this, &Fenetre::aPropos)->setMenuRole(QAction::AboutRole);
-    QAction *rechercher = menu->addAction(QStringLiteral("&Rechercher les mises à jour…"), this,
-                                          [this, &misesAJour] { (new FeuilleMiseAJour(misesAJour, this))->ouvrir(); });
-    rechercher->setMenuRole(QAction::ApplicationSpecificRole);
-    const auto suivre = [rechercher, &misesAJour] { rechercher->setEnabled(misesAJour.peutVerifier()); };
-    connect(&misesAJour, &MisesAJour::change, rechercher, suivre);
-    suivre();
-    menu->addSeparator();
-    QAction *quitter = menu->addAction(QStringLiteral("&Quitter"), this, &QWidget::close);
-    quitter->setShortcuts(Raccourcis::touches(Raccourcis::Geste::quitter));
-    quitter->setMenuRole(QAction::QuitRole);
-
-    QMenu *aide = menuBar()->addMenu(QStringLiteral("&Aide"));
-    aide->addAction(QStringLiteral("&Guide"), this,
-                    [this] { (new FeuilleGuide(FeuilleGuide::fichierLivre(), this))->ouvrir(); });
-    QAction *raccourcis = aide->addAction(QStringLiteral("&Raccourcis clavier"), this,
-                                          [this] { (new FeuilleRaccourcis(this))->ouvrir(); });
-    raccourcis->setShortcuts(Raccourcis::touches(Raccourcis::Geste::aide)); // a field keeps its "?"
-}
-
 void Fenetre::creerRaccourcis()
 {
     for (const Rubrique rubrique : tous<Rubrique>) {
@@ -185,21 +158,6 @@ void Fenetre::creerRaccourcis()
         raccourci->setKeys(Raccourcis::touches(geste));
         connect(raccourci, &QShortcut::activated, this, [this, pas = pas] { contenu_->changerDeZone(pas); });
     }
-}
-
-void Fenetre::aPropos()
-{
-    auto *boite = new QMessageBox(
-        QMessageBox::NoIcon, QStringLiteral("À propos de Quillet"),
-        QStringLiteral(
-            "<h3>Quillet %1</h3><p>Le prix d’une commande, et ce qu’il en reste, pour les auteurs qui vendent leurs "
-            "livres par la poste.</p>"
-            "<p>© 2026 The Quillet authors · licence MIT</p>")
-            .arg(QApplication::applicationVersion()),
-        QMessageBox::Ok, this);
-    boite->setIconPixmap(windowIcon().pixmap(64));
-    boite->setAttribute(Qt::WA_DeleteOnClose);
-    boite->open(); // a reader that chooses in a menu waits until the choice has been obeyed
 }
 
 } // namespace Quillet

@@ -38,9 +38,7 @@ protected:
     bool eventFilter(QObject *objet, QEvent *evenement) override;
 
 private:
-    void creerMenu(MisesAJour &misesAJour);
     void creerRaccourcis();
-    void aPropos();
     void reprendreLaPlace();
     void retenirLaPlace();
 
