@@ -1,6 +1,7 @@
 #include "ui/ControlePoste.h"
 
 #include "composants/Theme.h"
+#include "echanges/LectureEntiere.h"
 #include "model/Couvertures.h"
 
 #include <QFileInfo>
@@ -36,20 +37,9 @@ QStringList imagesIllisibles(const QList<QByteArray> &lues, const QStringList &c
     return phrases;
 }
 
-// A decoder that loses the thread may fill the rest with grey, and tell nobody but the log.
 bool seLitEntiere(const QString &chemin)
 {
-    static bool plainte = false; // what takes messages is a plain function
-    plainte = false;
-    const QtMessageHandler avant =
-        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &contexte, const QString &message) {
-            plainte = plainte
-                      || (qstrcmp(contexte.category, "qt.gui.imageio.jpeg") == 0
-                          && (message.startsWith(u"Corrupt") || message.startsWith(u"Premature")));
-        });
-    const bool lue = !QImageReader(chemin).read().isNull();
-    qInstallMessageHandler(avant);
-    return lue && !plainte;
+    return LectureEntiere::reussit([&] { return !QImageReader(chemin).read().isNull(); });
 }
 
 QStringList policeAbsente(const QStringList &polices, const QStringList &voulues, const QString &paquet)

@@ -1,6 +1,7 @@
 #include "ui/LigneDeCommande.h"
 
 #include "documents/NumerotationFactures.h"
+#include "echanges/LectureDeCouverture.h"
 #include "model/Couvertures.h"
 #include "model/Ressources.h"
 #include "model/Stockage.h"
@@ -68,17 +69,28 @@ std::optional<QString> malComprise(QCommandLineParser &analyseur, const QCommand
     return std::nullopt;
 }
 
+// Typefaces and pictures are asked of a display; this one needs no screen.
+class SansEcran
+{
+    QByteArray nom_{"quillet"};
+    QByteArray option_{"-platform"};
+    QByteArray plateforme_{"offscreen"};
+    std::array<char *, 4> arguments_{nom_.data(), option_.data(), plateforme_.data(), nullptr};
+    int nombre_ = 3;
+    QGuiApplication programme_{nombre_, arguments_.data()};
+};
+
+Reponse couverture(const QString &source)
+{
+    const SansEcran programme;
+    const auto reponse = LectureDeCouverture::repondre(source);
+    return {reponse.code, QString::fromUtf8(reponse.texte)};
+}
+
 // Of the folder named, or else of the one in force.
 Reponse controle(const QString &nomme)
 {
-    // Typefaces and pictures are asked of a display; this one needs no screen.
-    QByteArray nom("quillet");
-    QByteArray option("-platform");
-    QByteArray plateforme("offscreen");
-    std::array<char *, 4> arguments{nom.data(), option.data(), plateforme.data(), nullptr};
-    int nombre = 3;
-    const QGuiApplication programme(nombre, arguments.data());
-
+    const SansEcran programme;
     const Ressources ressources = nomme.isEmpty()
                                       ? Ressources::enVigueur(Stockage::deLUtilisateur().donneesPersonnelles())
                                       : Ressources(QDir(nomme));
@@ -104,11 +116,13 @@ Reponse controle(const QString &nomme)
 std::optional<Reponse> LigneDeCommande::repondre(const QStringList &arguments)
 {
     const QCommandLineOption verifier(QStringLiteral("verifier"), QString(), QStringLiteral("DOSSIER"));
+    const QCommandLineOption lireCouverture(LectureDeCouverture::option(), QString(),
+                                            QStringLiteral("IMAGE")); // our own
     const QCommandLineOption version(QStringList{QStringLiteral("v"), QStringLiteral("version")});
     const QCommandLineOption aide(QStringList{QStringLiteral("h"), QStringLiteral("help")});
     QCommandLineParser analyseur;
     analyseur.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    analyseur.addOptions({verifier, version, aide});
+    analyseur.addOptions({verifier, lireCouverture, version, aide});
     accepterCellesDeQt(analyseur);
 
     const bool sansDossier = arguments.size() > 1 && arguments.last() == QLatin1String("--verifier");
@@ -119,6 +133,8 @@ std::optional<Reponse> LigneDeCommande::repondre(const QStringList &arguments)
         return Reponse{0, texteDAide()};
     if (analyseur.isSet(version))
         return Reponse{0, QStringLiteral("Quillet " QUILLET_VERSION "\n")};
+    if (analyseur.isSet(lireCouverture))
+        return couverture(analyseur.value(lireCouverture));
     if (sansDossier || analyseur.isSet(verifier))
         return controle(analyseur.value(verifier));
     return std::nullopt;

@@ -10,7 +10,8 @@ namespace Quillet::LigneDeCommande {
 
 struct Reponse
 {
-    int code; // exit status: 0, 1 for data to be corrected, 2 for a command line that is not understood
+    int code; // exit status: 0, 1 for data to be corrected, 2 for a command line that is not understood, else
+              // LectureDeCouverture's
     QString texte;
 };
 

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "echanges/CouverturePrete.h"
+#include "model/Livre.h"
+
+#include <QDateTime>
+#include <QDir>
+
+// The pictures that Quillet puts into a folder of covers, each under a name of its own: none is ever written over, so
+// that whatever names one finds it again.
+namespace Quillet::Couvertures {
+
+// The file's name, for the book's `couverture`: its title and eight figures of its bytes. The same picture is written
+// once. Returns once the disk has taken it; throws ErreurStockage.
+QString deposer(const QDir &dossier, const QString &titre, const CouverturePrete &couverture);
+
+// Removes those deposited that no book names. Not the ones of these last thirty days: in a folder that two computers
+// share, the book may come after its picture. What cannot be removed stays for another time.
+void elaguer(const QDir &dossier, const QList<Livre> &livres, const QDateTime &maintenant);
+
+} // namespace Quillet::Couvertures
