@@ -63,6 +63,11 @@ QColor DessinCouverture::couleur(const Livre &livre)
 QPixmap DessinCouverture::dessin(const Livre &livre, const QSizeF &taille, const QSizeF &tailleDeLecture, qreal densite,
                                  ImagesCouvertures &images)
 {
+    return dessin(livre, taille, densite, images.image(livre.couverture, (tailleDeLecture * densite).toSize()));
+}
+
+QPixmap DessinCouverture::dessin(const Livre &livre, const QSizeF &taille, qreal densite, const QImage &image)
+{
     const QSize pixels = (taille * densite).toSize();
     QPixmap dessin(pixels);
     dessin.setDevicePixelRatio(densite);
@@ -73,7 +78,6 @@ QPixmap DessinCouverture::dessin(const Livre &livre, const QSizeF &taille, const
     QPainterPath contour;
     contour.addRoundedRect(tout, Theme::rayonCouverture, Theme::rayonCouverture);
     peintre.setRenderHint(QPainter::SmoothPixmapTransform);
-    const QImage image = images.image(livre.couverture, (tailleDeLecture * densite).toSize());
     QBrush brosse(couleur(livre));
     if (!image.isNull()) {
         brosse = QBrush(image);

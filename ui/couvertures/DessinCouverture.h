@@ -3,6 +3,7 @@
 #include "model/Livre.h"
 
 #include <QColor>
+#include <QImage>
 #include <QPixmap>
 
 namespace Quillet {
@@ -23,6 +24,8 @@ QColor couleur(const Livre &livre);
 // px.
 QPixmap dessin(const Livre &livre, const QSizeF &taille, const QSizeF &tailleDeLecture, qreal densite,
                ImagesCouvertures &images);
+// The same of a picture that is at hand, in the pixels of the device; null: of the colour.
+QPixmap dessin(const Livre &livre, const QSizeF &taille, qreal densite, const QImage &image);
 
 } // namespace DessinCouverture
 

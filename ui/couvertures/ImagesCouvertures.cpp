@@ -61,6 +61,12 @@ void ImagesCouvertures::setDossier(const QDir &dossier)
     emit prete({});
 }
 
+void ImagesCouvertures::ajouter(const QString &fichier)
+{
+    fichiers_.insert(Couvertures::nom(fichier), fichier);
+    emit prete(fichier);
+}
+
 QImage ImagesCouvertures::image(const QString &couverture, const QSize &pixels)
 {
     const auto fichier = fichiers_.constFind(Couvertures::nom(couverture));

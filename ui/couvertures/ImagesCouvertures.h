@@ -21,6 +21,8 @@ public:
 
     // Another folder, or the same after pictures have come: what was read counts no more.
     void setDossier(const QDir &dossier);
+    // This file has come into the folder since.
+    void ajouter(const QString &fichier);
     // The picture named after `couverture` without its extension, filling `pixels` of the device; null when it is not
     // read yet (then `prete` follows) or when there is none.
     QImage image(const QString &couverture, const QSize &pixels);
