@@ -4,6 +4,7 @@
 paquets=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-svg-dev libicu-dev libcups2-dev libqpdf-dev libxcb1-dev libglib2.0-dev zlib1g-dev libsodium-dev
+    libzip-dev
     pkg-config curl qt6-wayland qt6-translations-l10n ca-certificates
     fonts-inter fonts-linuxlibertine fonts-dejavu-core python3
 )

@@ -88,6 +88,13 @@ void NumerotationFactures::retenir(const QString &numero, Vendeur vendeur)
         preferences.ecrire(cle(vendeur), numero);
 }
 
+void NumerotationFactures::reprendre(const QString &numero, Vendeur vendeur)
+{
+    const auto trouvee = preferences.chercher(cle(vendeur));
+    if (trouvee.perte || trouvee.texte != numero)
+        preferences.ecrire(cle(vendeur), numero);
+}
+
 bool NumerotationFactures::avance(const QString &numero, const QString &dernier)
 {
     const auto retenu = decomposer(numero);

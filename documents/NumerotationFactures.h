@@ -24,6 +24,8 @@ struct NumerotationFactures
     // Throws ErreurStockage when the preferences could not be read or written; the series is then where
     // it was.
     void retenir(const QString &numero, Vendeur vendeur);
+    // The series is another one, kept elsewhere: it goes on after this number, be it an older one. Throws as `retenir`.
+    void reprendre(const QString &numero, Vendeur vendeur);
 
     // How a number stands to the series of a day; `aucun` for a text that `retenir` cannot understand.
     enum class Rapport { aucun, anterieur, dansLaSerie, posterieur };

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "echanges/Demeure.h"
+#include "echanges/Manifeste.h"
+
+#include <QByteArray>
+#include <QStringList>
+
+namespace Quillet {
+
+// What is taken along of a state, ready to be put into an archive.
+struct Bagage
+{
+    struct Piece
+    {
+        QString nom;
+        QByteArray octets;
+        QString fichier; // where a picture is read when it is packed; empty of all others
+        qint64 taille = 0;
+    };
+
+    Manifeste manifeste;
+    QList<Piece> pieces; // the manifest first, the rest by name
+    QStringList absents; // what could not be taken, and why, in words
+
+    // Throws Echec when data in force cannot be read any more.
+    static Bagage de(const Demeure &demeure, QDate jour);
+    [[nodiscard]] bool estVide() const { return pieces.size() <= 1; }
+};
+
+} // namespace Quillet

@@ -1,0 +1,73 @@
+#include "echanges/Disque.h"
+
+#include "model/CauseSysteme.h"
+#include "model/Fichier.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+
+namespace Quillet {
+
+namespace {
+
+ErreurStockage erreur(const QString &chemin, int code)
+{
+    return {chemin, CauseSysteme::enFrancais(std::error_code(code, std::generic_category()))};
+}
+
+int renommer(const QString &chemin, const QString &nouveau)
+{
+    return std::rename(QFile::encodeName(chemin).constData(), QFile::encodeName(nouveau).constData()) == 0 ? 0 : errno;
+}
+
+} // namespace
+
+void Disque::synchroniser(const QString &chemin)
+{
+    const int fd = open(QFile::encodeName(chemin).constData(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0)
+        throw erreur(chemin, errno);
+    const int code = fsync(fd) == 0 ? 0 : errno;
+    close(fd);
+    // Some file systems know no such request.
+    if (code != 0 && code != EINVAL && code != ENOSYS && code != ENOTTY && code != EOPNOTSUPP)
+        throw erreur(chemin, code);
+}
+
+void Disque::remplacer(const QString &chemin, const QString &nouveau)
+{
+    if (const int code = renommer(chemin, nouveau))
+        throw erreur(nouveau, code);
+    synchroniser(QFileInfo(nouveau).absolutePath());
+}
+
+void Disque::poser(const QString &chemin, const QString &nouveau)
+{
+    const int code = QFileInfo(nouveau).isSymLink() ? EXDEV : renommer(chemin, nouveau);
+    if (code != 0 && code != EXDEV)
+        throw erreur(nouveau, code);
+    if (code == 0)
+        return;
+    const auto octets = Fichier::lireOuRefuser(chemin, Fichier::Borne::toute);
+    if (!octets)
+        throw erreur(chemin, ENOENT);
+    Fichier::ecrire(nouveau, *octets);
+    supprimer(chemin);
+}
+
+void Disque::supprimer(const QString &chemin)
+{
+    std::error_code code;
+    std::filesystem::remove_all(std::filesystem::path(QFile::encodeName(chemin).toStdString()), code);
+    if (code)
+        throw erreur(chemin, code.value());
+}
+
+} // namespace Quillet

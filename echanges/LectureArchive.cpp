@@ -1,0 +1,194 @@
+#include "echanges/Archive.h"
+#include "echanges/Disque.h"
+#include "echanges/ErreurZip.h"
+#include "echanges/FinDeZip.h"
+#include "echanges/PiecesDArchive.h"
+#include "model/CauseSysteme.h"
+#include "model/Fichier.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+
+#include <array>
+#include <functional>
+
+namespace Quillet {
+
+namespace {
+
+constexpr zip_uint32_t sortes = 0170000;
+constexpr zip_uint32_t sorteFichier = 0100000;
+
+Echec refus(const QString &raison)
+{
+    return Echec(QStringLiteral("Cette archive ne peut pas être reprise : %1.").arg(raison));
+}
+
+// A name as the user is shown it.
+QString cite(const QString &nom)
+{
+    constexpr qsizetype lettres = 60;
+    QString propre = nom.left(lettres);
+    for (QChar &signe : propre)
+        if (!signe.isPrint())
+            signe = u'?';
+    return QStringLiteral("« %1 »").arg(propre);
+}
+
+// One entry, as far as it can be judged before any of it is read.
+struct Entete
+{
+    zip_uint64_t rang = 0;
+    QString nom;
+};
+
+class Lecture
+{
+public:
+    explicit Lecture(const QString &chemin, qint64 total = PiecesDArchive::total) : reste_(total)
+    {
+        FinDeZip::verifier(chemin);
+        int code = 0;
+        archive_.reset(zip_open(QFile::encodeName(chemin).constData(), ZIP_RDONLY, &code));
+        if (!archive_)
+            throw refus(Zip::enFrancais(Zip::Erreur(code).ici()));
+        const zip_int64_t nombre = zip_get_num_entries(archive_.get(), 0);
+        if (nombre > PiecesDArchive::nombre)
+            throw refus(QStringLiteral("elle contient trop de fichiers"));
+        QSet<QString> noms;
+        for (zip_uint64_t rang = 0; rang < static_cast<zip_uint64_t>(nombre); ++rang) {
+            const QString nom = nomDe(rang);
+            if (noms.contains(nom))
+                throw refus(QStringLiteral("elle contient deux fois %1").arg(cite(nom)));
+            noms.insert(nom);
+            exigerUnFichier(rang, nom);
+            if (!nom.endsWith(u'/')) // a folder, which some programs list beside what it holds
+                entetes_.append({rang, nom});
+        }
+    }
+
+    [[nodiscard]] const QList<Entete> &entetes() const { return entetes_; }
+
+    [[nodiscard]] Manifeste manifeste()
+    {
+        for (const Entete &entete : entetes_)
+            if (entete.nom == PiecesDArchive::manifeste) {
+                QByteArray octets;
+                lire(entete, Fichier::Borne::preferences, [&](QByteArrayView morceau) { octets.append(morceau); });
+                return decoder(octets);
+            }
+        throw refus(QStringLiteral("elle n’a pas été faite par Quillet"));
+    }
+
+    // Bounds what is really there, whatever the archive announces.
+    void lire(const Entete &entete, qint64 borne, const std::function<void(QByteArrayView)> &prendre)
+    {
+        const Zip::Entree entree(zip_fopen_index(archive_.get(), entete.rang, 0));
+        if (!entree)
+            throw refus(Zip::enFrancais(zip_get_error(archive_.get())));
+        std::array<char, 65536> tampon{};
+        qint64 lus = 0;
+        while (true) {
+            const zip_int64_t morceau = zip_fread(entree.get(), tampon.data(), tampon.size());
+            if (morceau < 0)
+                throw refus(Zip::enFrancais(zip_file_get_error(entree.get())));
+            if (morceau == 0)
+                return;
+            lus += morceau;
+            reste_ -= morceau;
+            if (lus > borne)
+                throw refus(QStringLiteral("%1 est trop gros").arg(cite(entete.nom)));
+            if (reste_ < 0)
+                throw refus(QStringLiteral("ce qu’elle contient est trop gros"));
+            prendre({tampon.data(), static_cast<qsizetype>(morceau)});
+        }
+    }
+
+private:
+    [[nodiscard]] QString nomDe(zip_uint64_t rang)
+    {
+        const char *brut = zip_get_name(archive_.get(), rang, 0);
+        const QString nom = QString::fromUtf8(brut ? brut : "");
+        if (nom.isEmpty() || nom.contains(QChar::ReplacementCharacter) || PiecesDArchive::sEchappe(nom))
+            throw refus(QStringLiteral("un de ses fichiers, %1, se placerait ailleurs").arg(cite(nom)));
+        return nom;
+    }
+
+    void exigerUnFichier(zip_uint64_t rang, const QString &nom)
+    {
+        zip_stat_t etat{};
+        if (zip_stat_index(archive_.get(), rang, 0, &etat) != 0)
+            throw refus(Zip::enFrancais(zip_get_error(archive_.get())));
+        if ((etat.valid & ZIP_STAT_ENCRYPTION_METHOD) && etat.encryption_method != ZIP_EM_NONE)
+            throw refus(QStringLiteral("elle est protégée par un mot de passe"));
+        zip_uint8_t systeme = 0;
+        zip_uint32_t attributs = 0;
+        zip_file_get_external_attributes(archive_.get(), rang, 0, &systeme, &attributs);
+        const zip_uint32_t sorte = systeme == ZIP_OPSYS_UNIX ? (attributs >> 16U) & sortes : 0;
+        if (sorte != 0 && sorte != sorteFichier && !nom.endsWith(u'/'))
+            throw refus(QStringLiteral("%1 n’est pas un fichier ordinaire").arg(cite(nom)));
+    }
+
+    [[nodiscard]] static Manifeste decoder(const QByteArray &octets)
+    {
+        try {
+            const Json::Lieu lieu(PiecesDArchive::manifeste);
+            const QJsonObject objet = Json::analyser(octets, lieu).toObject();
+            qint64 format = 0;
+            Json::lire(objet.value(QStringLiteral("format")), Json::Lieu(lieu, QStringLiteral("format")), format);
+            if (format > Manifeste::formatConnu)
+                throw refus(QStringLiteral("elle vient d’une version plus récente de Quillet"));
+            return Json::decoder<Manifeste>(octets, PiecesDArchive::manifeste);
+        } catch (const Json::Erreur &erreur) {
+            throw refus(erreur.texte());
+        }
+    }
+
+    Zip::Archive archive_;
+    QList<Entete> entetes_;
+    qint64 reste_;
+};
+
+void deposer(Lecture &lecture, const Entete &entete, qint64 borne, const QString &chemin)
+{
+    QFile fichier(chemin);
+    if (!fichier.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
+        throw ErreurStockage(chemin, CauseSysteme::enFrancais(fichier.errorString()));
+    lecture.lire(entete, borne, [&](QByteArrayView morceau) {
+        if (!Fichier::toutEcrire(fichier, morceau))
+            throw ErreurStockage(chemin, CauseSysteme::enFrancais(fichier.errorString()));
+    });
+    fichier.close();
+    Disque::synchroniser(chemin);
+}
+
+} // namespace
+
+Manifeste Archive::manifeste(const QString &chemin)
+{
+    return Lecture(chemin).manifeste();
+}
+
+Archive::Contenu Archive::deballer(const QString &chemin, const QString &dossier, qint64 total)
+{
+    Lecture lecture(chemin, total);
+    Contenu contenu{.manifeste = lecture.manifeste()};
+    const QDir base(dossier);
+    Fichier::creerDossier(base.filePath(PiecesDArchive::couvertures.chopped(1)));
+    for (const Entete &entete : lecture.entetes()) {
+        const auto borne = PiecesDArchive::borne(entete.nom);
+        if (!borne) {
+            contenu.inconnus.append(cite(entete.nom));
+        } else {
+            deposer(lecture, entete, *borne, base.filePath(entete.nom));
+            contenu.noms.append(entete.nom);
+        }
+    }
+    for (const QString &place : {PiecesDArchive::couvertures, PiecesDArchive::propres, QString()})
+        Disque::synchroniser(base.filePath(place));
+    return contenu;
+}
+
+} // namespace Quillet

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "model/Json.h"
+#include "model/Vendeur.h"
+
+#include <QMap>
+#include <QString>
+
+namespace Quillet {
+
+// What an archive says of itself.
+struct Manifeste
+{
+    static constexpr qint64 formatConnu = 1; // the latest
+
+    qint64 format = formatConnu;
+    QString programme; // the version that wrote it
+    Jour jour;
+    QString origine;   // "exemple", "administrateur", "utilisateur": whose data were in force
+    QString empreinte; // the same for the same content, but for pictures changed under the same name and size
+
+    bool operator==(const Manifeste &) const = default;
+};
+
+template <>
+inline constexpr auto Json::champs<Manifeste> = std::tuple{
+    Champ{"format", &Manifeste::format},   Champ{"programme", &Manifeste::programme}, Champ{"jour", &Manifeste::jour},
+    Champ{"origine", &Manifeste::origine}, Champ{"empreinte", &Manifeste::empreinte},
+};
+
+// The last invoice number of each seller that has one.
+using SeriesFactures = QMap<Cle<Vendeur>, QString>;
+
+} // namespace Quillet
