@@ -1,5 +1,6 @@
 #include "composants/PressePapiers.h"
 #include "composants/bureau/Bureau.h"
+#include "echanges/Reprise.h"
 #include "ui/Fenetre.h"
 #include "ui/InstanceUnique.h"
 #include "ui/LigneDeCommande.h"
@@ -44,8 +45,10 @@ int ouvrir(Bureau &bureau, const QByteArray &jeton)
         if (!instance.prendreLaPlace(jeton))
             return 0;
         const Stockage donnees = Stockage::deLUtilisateur();
+        const Preferences preferences = Preferences::deLUtilisateur();
+        Reprise::achever(donnees.dossier(), preferences); // before anything of it is read
         QuilletApp quillet(
-            Ressources::enVigueur(donnees.donneesPersonnelles()), donnees, Preferences::deLUtilisateur(),
+            Ressources::enVigueur(donnees.donneesPersonnelles()), donnees, preferences,
             [] { return QDate::currentDate(); }, PagesSurveillees(), sourceDesMisesAJour());
         QObject::connect(&instance, &InstanceUnique::appelee, &quillet.fenetre(), &Fenetre::ramener);
         bureau.relever(); // most often it has answered by now: the first image is right at once

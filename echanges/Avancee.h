@@ -1,0 +1,37 @@
+#pragma once
+
+#include "model/Preferences.h"
+
+#include <QDir>
+#include <QStringList>
+
+namespace Quillet {
+
+// Puts what was unpacked and decided on where it belongs, file by file, from wherever it was stopped: each step can be
+// taken again. All throw Echec.
+class Avancee
+{
+public:
+    Avancee(const QDir &reprise, const QDir &utilisateur, const Preferences &preferences);
+
+    // To be kept in that folder: these are the files of what will be in force, and no other.
+    static void noter(const QDir &reprise, const QStringList &noms);
+
+    void jusquAuBout();
+
+private:
+    void placerLesDonnees();
+    void retirerLesAutres() const;
+    void placerCeuxDeLUtilisateur();
+    void placerLesSeries();
+    void placer(const QString &nom) const;
+    template <typename T>
+    void reecrire(const QString &nom);
+
+    QDir reprise_;
+    QDir utilisateur_;
+    Preferences preferences_;
+    QStringList noms_;
+};
+
+} // namespace Quillet

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "echanges/Demeure.h"
+#include "echanges/Manifeste.h"
+
+#include <QDateTime>
+#include <QStringList>
+
+#include <memory>
+
+namespace Quillet {
+
+// The import has begun to stand, and could not be brought to its end: it will be when the program starts again, which
+// must be before anything else is read or saved.
+class RepriseInachevee : public Echec
+{
+public:
+    explicit RepriseInachevee(const QString &raison);
+};
+
+// An archive unpacked beside the user's data and found sound. Nothing of it counts before it is taken; it goes when
+// this does.
+class Reprise
+{
+public:
+    // Throws Echec: what the archive is, or what its data have that keeps them from being loaded.
+    static std::unique_ptr<Reprise> preparer(const QString &archive, const Demeure &demeure, QDate aujourdhui);
+    ~Reprise();
+    Q_DISABLE_COPY_MOVE(Reprise)
+
+    [[nodiscard]] const Manifeste &manifeste() const { return manifeste_; }
+    // Without, the sellers' data stay as they are: it comes from the shipped example.
+    [[nodiscard]] bool aDesDonneesPropres() const { return propres_; }
+    // As they will be in force.
+    [[nodiscard]] const Donnees &donnees() const { return donnees_; }
+    [[nodiscard]] const SeriesFactures &series() const { return series_; }
+    // What `--verifier` would have to say of them.
+    [[nodiscard]] const QStringList &remarques() const { return remarques_; }
+    // What the archive has that Quillet does not know.
+    [[nodiscard]] const QStringList &inconnus() const { return inconnus_; }
+
+    // All of it but for other series than these, or nothing; the former state is kept as a copy. Throws Echec when
+    // nothing was changed, RepriseInachevee when it stopped on its way.
+    void prendre(const SeriesFactures &series, const QDateTime &maintenant);
+
+    // Ends what was begun before the program stopped: to be called before anything is loaded. Throws Echec when it
+    // cannot be: nothing must be loaded then.
+    static void achever(const QDir &utilisateur, const Preferences &preferences);
+
+private:
+    Reprise(const QString &archive, const Demeure &demeure, QDate aujourdhui);
+    void charger(QDate aujourdhui);
+    void lireLesSeries(const QDir &dossier);
+
+    Demeure demeure_;
+    Manifeste manifeste_;
+    bool propres_ = false;
+    Donnees donnees_;
+    SeriesFactures series_;
+    QStringList noms_;
+    QStringList remarques_;
+    QStringList inconnus_;
+};
+
+} // namespace Quillet

@@ -1,0 +1,222 @@
+#include "documents/NumerotationFactures.h"
+#include "echanges/Copies.h"
+#include "echanges/Reprise.h"
+#include "tests/DisquePlein.h"
+#include "tests/Rangees.h"
+#include "tests/echanges/BancPropre.h"
+
+#include <sys/stat.h>
+
+using namespace Quillet;
+
+namespace {
+
+const QDateTime maintenant(jourDuBanc, QTime(21, 4, 9));
+
+QString erreurDe(const std::function<void()> &geste)
+{
+    try {
+        geste();
+    } catch (const Echec &erreur) {
+        return lisible(erreur.texte());
+    }
+    return {};
+}
+
+// Another seller's home, with what the first one must have after an import.
+struct Autre : BancPropre
+{
+    Autre()
+    {
+        livres[0].titre = "Le Phare de sel";
+        livres[0].couverture = "phare";
+        livres.removeLast();
+        installer({{"phare.png", "deux"}, {"marees.svg", "<svg/>"}});
+        auto catalogue = ouvrir();
+        FraisPaypal frais = reglages.fraisPaypal;
+        frais.taux = Taux{301};
+        catalogue->enregistrer(frais);
+        catalogue->enregistrer(desTarifs("2027-01-01", Centimes{600}));
+        NumerotationFactures{preferences()}.retenir("2026-004", Vendeur::davrel);
+    }
+};
+
+} // namespace
+
+class TestReprise : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void reprendTout()
+    {
+        const Autre autre;
+        const QString archive = autre.exporter();
+        BancPropre banc;
+        banc.installer({{"phare.png", "un"}, {"seule.jpg", "x"}});
+        banc.ecrireUtilisateur("donnees/notes.txt", "à moi");
+        banc.ecrireUtilisateur("tarifs-colissimo-2026-06-01.json", Json::encoder(desTarifs("2026-06-01", Centimes{1})));
+        const auto avant = banc.fichiers();
+        const auto reprise = Reprise::preparer(archive, banc.demeure(), jourDuBanc);
+        QCOMPARE(reprise->donnees().livres, autre.livres);
+        QCOMPARE(reprise->series().value(Vendeur::davrel), "2026-004");
+        reprise->prendre(reprise->series(), maintenant);
+
+        QMap<QString, QByteArray> voulus = autre.fichiers();
+        voulus.insert("donnees/notes.txt", "à moi"); // nobody else's
+        QCOMPARE(banc.fichiers(), voulus);
+        QCOMPARE(banc.ouvrir()->donnees(), autre.ouvrir()->donnees());
+
+        const QList<Copie> copies = Copies(banc.demeure()).liste(); // the former state
+        QCOMPARE(copies.size(), 1);
+        Reprise::preparer(copies[0].chemin, banc.demeure(), jourDuBanc)->prendre({}, maintenant);
+        voulus = avant;
+        voulus["Quillet.ini"] = banc.fichiers()["Quillet.ini"];
+        QCOMPARE(banc.fichiers(), voulus);
+    }
+
+    // The example's owner sends accepted fees, changes of books and numbers, but no books.
+    void sansDonneesPropres()
+    {
+        const BancPropre exemple;
+        auto catalogue = exemple.ouvrir();
+        Livre livre = exemple.livres[0];
+        livre.prix = Centimes{4200};
+        catalogue->modifier({livre});
+        const QString archive = exemple.exporter();
+        for (const bool propres : {false, true}) {
+            BancPropre banc;
+            if (propres)
+                banc.installer();
+            const auto reprise = Reprise::preparer(archive, banc.demeure(), jourDuBanc);
+            QVERIFY(!reprise->aDesDonneesPropres());
+            reprise->prendre({}, maintenant);
+            QCOMPARE(banc.ouvrir()->donnees().livres[0].prix, propres ? Centimes{1500} : Centimes{4200});
+        }
+    }
+
+    void neReprendRienDeMalade()
+    {
+        for (const auto &[nom, fichier, octets, phrase] : Rangees<const char *, const char *, const char *>{
+                 {"livres illisibles", "donnees/livres.json", "[{}]", "livres[0].id : "},
+                 {"sans destinations", "donnees/destinations.json", nullptr, "destinations.json : fichier introuvable"},
+                 {"frais illisibles", "frais-paypal.json", "{}", "frais-paypal.json.releve : "},
+             }) {
+            const Rangee rangee(nom);
+            const Autre autre;
+            Bagage bagage = Bagage::de(autre.demeure(), jourDuBanc);
+            for (Bagage::Piece &piece : bagage.pieces)
+                if (piece.nom == fichier && octets)
+                    piece.octets = octets;
+            if (!octets)
+                bagage.pieces.removeIf([&](const Bagage::Piece &piece) { return piece.nom == fichier; });
+            const QString archive = autre.cheminUtilisateur("../malade.zip");
+            Archive::ecrire(archive, bagage);
+            const BancPropre banc;
+            banc.installer();
+            const auto avant = banc.fichiers();
+            const QString dit = erreurDe([&] { Reprise::preparer(archive, banc.demeure(), jourDuBanc); });
+            QVERIFY2(dit.contains(phrase), qPrintable(dit));
+            QCOMPARE(banc.fichiers(), avant);
+        }
+    }
+
+    // A number that is none would start the series again.
+    void numerosDouteux()
+    {
+        const Autre autre;
+        Bagage bagage = Bagage::de(autre.demeure(), jourDuBanc);
+        for (Bagage::Piece &piece : bagage.pieces)
+            if (piece.nom == "factures.json")
+                piece.octets = R"({"davrel":"abc","mireva":"2026-002","autre":"2026-001"})";
+        Archive::ecrire(autre.exporter(), bagage);
+        const BancPropre banc;
+        const auto reprise = Reprise::preparer(autre.exporter("x.zip"), banc.demeure(), jourDuBanc);
+        QCOMPARE(reprise->series().size(), 1);
+        const auto douteuse = Reprise::preparer(autre.cheminUtilisateur("../export.zip"), banc.demeure(), jourDuBanc);
+        QCOMPARE(douteuse->series(), (SeriesFactures{{Vendeur::mireva, "2026-002"}}));
+        QCOMPARE(douteuse->inconnus().size(), 2);
+    }
+
+    // Full at any point: before the import counts nothing has changed; afterwards it is brought to its end.
+    void disquePlein()
+    {
+        const Autre autre;
+        const QString archive = autre.exporter();
+        const auto apres = autre.fichiers();
+        bool entier = false;
+        for (rlim_t octets = 0; !entier; octets = octets * 2 + 1) {
+            const BancPropre banc;
+            banc.installer();
+            const Demeure demeure = banc.demeure();
+            const auto avant = banc.fichiers();
+            const QString dit = erreurDe([&] {
+                const DisquePlein plein(octets);
+                const auto reprise = Reprise::preparer(archive, demeure, jourDuBanc);
+                reprise->prendre(reprise->series(), maintenant);
+            });
+            entier = dit.isEmpty();
+            if (!dit.startsWith("Import inachevé")) {
+                QCOMPARE(banc.fichiers(), entier ? apres : avant);
+                continue;
+            }
+            QVERIFY(octets < 100'000);
+            Reprise::achever(QDir(banc.cheminUtilisateur()), banc.preferences());
+            QCOMPARE(banc.fichiers(), apres);
+        }
+    }
+
+    void dossierLie()
+    {
+        const Autre autre;
+        const BancPropre banc;
+        const QTemporaryDir synchronise;
+        QVERIFY(QDir().mkpath(banc.cheminUtilisateur()));
+        QVERIFY(QFile::link(synchronise.filePath("donnees"), banc.cheminUtilisateur("donnees")));
+        Demeure demeure = autre.demeure();
+        demeure.utilisateur = QDir(banc.cheminUtilisateur());
+        demeure.preferences = banc.preferences();
+        const auto reprise = Reprise::preparer(autre.exporter(), demeure, jourDuBanc);
+        QVERIFY(erreurDe([&] { reprise->prendre({}, maintenant); }).contains("introuvable")); // its disk is away
+        QVERIFY(QDir(synchronise.path()).mkdir("donnees"));
+        reprise->prendre({}, maintenant);
+        QVERIFY(QFileInfo(banc.cheminUtilisateur("donnees")).isSymLink());
+        QCOMPARE(banc.ouvrir()->donnees().livres, autre.livres);
+    }
+
+    void copies()
+    {
+        const BancPropre exemple;
+        QVERIFY(!Copies(exemple.demeure()).duJour(jourDuBanc)); // the example needs none
+        Copies(exemple.demeure()).avantReprise(jourDuBanc.startOfDay());
+        QVERIFY(Copies(exemple.demeure()).liste().isEmpty());
+
+        const BancPropre banc;
+        banc.installer();
+        for (int jour = 0; jour < 12; ++jour) {
+            auto catalogue = banc.ouvrir();
+            Livre livre = catalogue->donnees().livres[0];
+            livre.prix = Centimes{1000 + jour};
+            catalogue->modifier({livre});
+            const Copies copies(banc.demeure());
+            QVERIFY(copies.duJour(jourDuBanc.addDays(2 * jour)));
+            livre.prix = Centimes{1};
+            catalogue->modifier({livre});
+            QVERIFY(!copies.duJour(jourDuBanc.addDays(2 * jour))); // once a day
+            livre.prix = Centimes{1000 + jour};
+            catalogue->modifier({livre});
+            QVERIFY(!copies.duJour(jourDuBanc.addDays(2 * jour + 1))); // nothing changed since
+            Copies(banc.demeure()).avantReprise(jourDuBanc.addDays(jour).startOfDay().addSecs(jour));
+        }
+        const QList<Copie> copies = Copies(banc.demeure()).liste();
+        QCOMPARE(copies.size(), 20);
+        QCOMPARE(copies[0].moment.date(), jourDuBanc.addDays(22));
+        QCOMPARE(std::ranges::count(copies, true, &Copie::avantReprise), 10);
+        const auto reprise = Reprise::preparer(copies[1].chemin, banc.demeure(), jourDuBanc);
+        reprise->prendre({}, maintenant);
+        QCOMPARE(banc.ouvrir()->donnees().livres[0].prix, Centimes{1010});
+    }
+};
+
+QTEST_GUILESS_MAIN(TestReprise)
+#include "tst_reprise.moc"
