@@ -32,6 +32,8 @@ struct Contenu
 // Unpacks all that Quillet knows, `total` bytes at most, into a folder that must be there, on the disk when this
 // returns. Throws Echec, and leaves there what it had unpacked by then.
 Contenu deballer(const QString &chemin, const QString &dossier, qint64 total = PiecesDArchive::total);
+// The same but for the pictures, and whether the disk has taken it or not: to be looked at.
+Contenu entrouvrir(const QString &chemin, const QString &dossier);
 
 } // namespace Archive
 

@@ -160,8 +160,23 @@ void deposer(Lecture &lecture, const Entete &entete, qint64 borne, const QString
         if (!Fichier::toutEcrire(fichier, morceau))
             throw ErreurStockage(chemin, CauseSysteme::enFrancais(fichier.errorString()));
     });
-    fichier.close();
-    Disque::synchroniser(chemin);
+}
+
+template <typename Predicat>
+Archive::Contenu deposer(Lecture &lecture, const QDir &dossier, Predicat voulue)
+{
+    Archive::Contenu contenu{.manifeste = lecture.manifeste()};
+    Fichier::creerDossier(dossier.filePath(PiecesDArchive::couvertures.chopped(1)));
+    for (const Entete &entete : lecture.entetes()) {
+        const auto borne = PiecesDArchive::borne(entete.nom);
+        if (!borne) {
+            contenu.inconnus.append(cite(entete.nom));
+        } else if (voulue(entete.nom)) {
+            deposer(lecture, entete, *borne, dossier.filePath(entete.nom));
+            contenu.noms.append(entete.nom);
+        }
+    }
+    return contenu;
 }
 
 } // namespace
@@ -173,22 +188,21 @@ Manifeste Archive::manifeste(const QString &chemin)
 
 Archive::Contenu Archive::deballer(const QString &chemin, const QString &dossier, qint64 total)
 {
+    const auto tout = [](const QString &) { return true; };
     Lecture lecture(chemin, total);
-    Contenu contenu{.manifeste = lecture.manifeste()};
-    const QDir base(dossier);
-    Fichier::creerDossier(base.filePath(PiecesDArchive::couvertures.chopped(1)));
-    for (const Entete &entete : lecture.entetes()) {
-        const auto borne = PiecesDArchive::borne(entete.nom);
-        if (!borne) {
-            contenu.inconnus.append(cite(entete.nom));
-        } else {
-            deposer(lecture, entete, *borne, base.filePath(entete.nom));
-            contenu.noms.append(entete.nom);
-        }
-    }
+    const Contenu contenu = deposer(lecture, QDir(dossier), tout);
+    for (const QString &nom : contenu.noms)
+        Disque::synchroniser(QDir(dossier).filePath(nom));
     for (const QString &place : {PiecesDArchive::couvertures, PiecesDArchive::propres, QString()})
-        Disque::synchroniser(base.filePath(place));
+        Disque::synchroniser(QDir(dossier).filePath(place));
     return contenu;
+}
+
+Archive::Contenu Archive::entrouvrir(const QString &chemin, const QString &dossier)
+{
+    const auto sansImage = [](const QString &nom) { return !nom.startsWith(PiecesDArchive::couvertures); };
+    Lecture lecture(chemin);
+    return deposer(lecture, QDir(dossier), sansImage);
 }
 
 } // namespace Quillet

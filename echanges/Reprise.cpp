@@ -1,7 +1,6 @@
 #include "echanges/Reprise.h"
 
 #include "documents/NumerotationFactures.h"
-#include "echanges/Archive.h"
 #include "echanges/Avancee.h"
 #include "echanges/Copies.h"
 #include "echanges/Disque.h"
@@ -70,16 +69,23 @@ RepriseInachevee::RepriseInachevee(const QString &raison)
 
 std::unique_ptr<Reprise> Reprise::preparer(const QString &archive, const Demeure &demeure, QDate aujourdhui)
 {
-    return std::unique_ptr<Reprise>(new Reprise(archive, demeure, aujourdhui));
+    const auto ouvrir = [&](const QString &dossier) { return Archive::deballer(archive, dossier); };
+    return std::unique_ptr<Reprise>(new Reprise(demeure, aujourdhui, ouvrir));
 }
 
-Reprise::Reprise(const QString &archive, const Demeure &demeure, QDate aujourdhui) : demeure_(demeure)
+std::unique_ptr<Reprise> Reprise::regarder(const QString &archive, const Demeure &demeure, QDate aujourdhui)
+{
+    const auto ouvrir = [&](const QString &dossier) { return Archive::entrouvrir(archive, dossier); };
+    return std::unique_ptr<Reprise>(new Reprise(demeure, aujourdhui, ouvrir));
+}
+
+Reprise::Reprise(const Demeure &demeure, QDate aujourdhui, const Ouverture &ouvrir) : demeure_(demeure)
 {
     const QString dossier = partielle(demeure_.utilisateur);
     Disque::supprimer(dossier);
     try {
         Fichier::creerDossier(dossier);
-        const Archive::Contenu contenu = Archive::deballer(archive, dossier);
+        const Archive::Contenu contenu = ouvrir(dossier);
         manifeste_ = contenu.manifeste;
         noms_ = contenu.noms;
         inconnus_ = contenu.inconnus;

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "echanges/Archive.h"
 #include "echanges/Demeure.h"
 #include "echanges/Manifeste.h"
 
 #include <QDateTime>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 namespace Quillet {
@@ -25,6 +27,8 @@ class Reprise
 public:
     // Throws Echec: what the archive is, or what its data have that keeps them from being loaded.
     static std::unique_ptr<Reprise> preparer(const QString &archive, const Demeure &demeure, QDate aujourdhui);
+    // The same without its pictures: to be looked at, not to be taken.
+    static std::unique_ptr<Reprise> regarder(const QString &archive, const Demeure &demeure, QDate aujourdhui);
     ~Reprise();
     Q_DISABLE_COPY_MOVE(Reprise)
 
@@ -48,7 +52,8 @@ public:
     static void achever(const QDir &utilisateur, const Preferences &preferences);
 
 private:
-    Reprise(const QString &archive, const Demeure &demeure, QDate aujourdhui);
+    using Ouverture = std::function<Archive::Contenu(const QString &dossier)>;
+    Reprise(const Demeure &demeure, QDate aujourdhui, const Ouverture &ouvrir);
     void charger(QDate aujourdhui);
     void lireLesSeries(const QDir &dossier);
 

@@ -5,6 +5,7 @@
 #include "ui/FeuilleGuide.h"
 #include "ui/FeuilleRaccourcis.h"
 #include "ui/Raccourcis.h"
+#include "ui/echanges/Echanges.h"
 #include "ui/misesajour/FeuilleMiseAJour.h"
 #include "watch/MisesAJour.h"
 
@@ -31,7 +32,16 @@ void aPropos(Fenetre &fenetre)
     boite->open(); // a reader that chooses in a menu waits until the choice has been obeyed
 }
 
-void garnirQuillet(QMenu &menu, Fenetre &fenetre, MisesAJour &misesAJour)
+void garnirEchanges(QMenu &menu, Fenetre &fenetre, const Contexte &contexte)
+{
+    auto *echanges = new Echanges(contexte, &fenetre);
+    menu.addAction(QStringLiteral("&Exporter mes données…"), echanges, &Echanges::exporter);
+    menu.addAction(QStringLiteral("&Importer…"), echanges, &Echanges::importer);
+    menu.addAction(QStringLiteral("Revenir à une &copie…"), echanges, &Echanges::revenirAUneCopie);
+    QObject::connect(&fenetre, &Fenetre::posee, echanges, &Echanges::garderChaqueJour);
+}
+
+void garnirQuillet(QMenu &menu, Fenetre &fenetre, const Contexte &contexte, MisesAJour &misesAJour)
 {
     menu.addAction(QStringLiteral("À &propos de Quillet"), &fenetre, [&fenetre] { aPropos(fenetre); })
         ->setMenuRole(QAction::AboutRole);
@@ -41,6 +51,8 @@ void garnirQuillet(QMenu &menu, Fenetre &fenetre, MisesAJour &misesAJour)
     const auto suivre = [rechercher, &misesAJour] { rechercher->setEnabled(misesAJour.peutVerifier()); };
     QObject::connect(&misesAJour, &MisesAJour::change, rechercher, suivre);
     suivre();
+    menu.addSeparator();
+    garnirEchanges(menu, fenetre, contexte);
     menu.addSeparator();
     QAction *quitter = menu.addAction(QStringLiteral("&Quitter"), &fenetre, &QWidget::close);
     quitter->setShortcuts(Raccourcis::touches(Raccourcis::Geste::quitter));
@@ -58,9 +70,9 @@ void garnirAide(QMenu &menu, Fenetre &fenetre)
 
 } // namespace
 
-void Menus::garnir(Fenetre &fenetre, const Contexte &, MisesAJour &misesAJour)
+void Menus::garnir(Fenetre &fenetre, const Contexte &contexte, MisesAJour &misesAJour)
 {
-    garnirQuillet(*fenetre.menuBar()->addMenu(QStringLiteral("&Quillet")), fenetre, misesAJour);
+    garnirQuillet(*fenetre.menuBar()->addMenu(QStringLiteral("&Quillet")), fenetre, contexte, misesAJour);
     garnirAide(*fenetre.menuBar()->addMenu(QStringLiteral("&Aide")), fenetre);
 }
 

@@ -1,6 +1,7 @@
 #include "ui/documents/ImpressionFacture.h"
 
 #include "composants/Attente.h"
+#include "composants/CheminChoisi.h"
 #include "model/Fichier.h"
 #include "ui/documents/DialogueImpression.h"
 #include "ui/documents/LettresPdf.h"
@@ -23,23 +24,6 @@ namespace Quillet {
 namespace {
 
 const QString titreDuDialogue = QStringLiteral("Enregistrer la facture");
-
-// The dialog adds the suffix only to a name without any dot, and asked about replacing another file then.
-// None when the user keeps the file that stands there.
-std::optional<QString> enPdf(const QString &chemin, QWidget *parent)
-{
-    const QString suffixe = QStringLiteral(".pdf");
-    if (chemin.endsWith(suffixe, Qt::CaseInsensitive))
-        return chemin;
-    const QString complet = chemin + suffixe;
-    const QString question =
-        QStringLiteral("« %1 » existe déjà. Voulez-vous le remplacer ?").arg(QFileInfo(complet).fileName());
-    if (QFile::exists(complet)
-        && QMessageBox::question(parent, titreDuDialogue, question, QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
-               != QMessageBox::Yes)
-        return std::nullopt;
-    return complet;
-}
 
 void ecrire(const QString &chemin, const QByteArray &pdf)
 {
@@ -123,7 +107,8 @@ std::optional<QString> ImpressionFacture::enregistrer(const Facture &facture, co
     dialogue.selectFile(facture.nomDeFichier());
     if (dialogue.exec() != QDialog::Accepted)
         return std::nullopt;
-    const auto chemin = enPdf(dialogue.selectedFiles().constFirst(), parent);
+    const auto chemin = CheminChoisi::avecSuffixe(dialogue.selectedFiles().constFirst(), QStringLiteral(".pdf"),
+                                                  titreDuDialogue, parent);
     if (!chemin || !permise())
         return std::nullopt;
     ecrire(*chemin, pdf(facture));

@@ -1,0 +1,175 @@
+#include "ui/echanges/Echanges.h"
+
+#include "composants/Attente.h"
+#include "composants/CheminChoisi.h"
+#include "composants/Lien.h"
+#include "echanges/Archive.h"
+#include "echanges/Copies.h"
+#include "echanges/Reprise.h"
+#include "textes/TextesReprise.h"
+#include "ui/Contexte.h"
+#include "ui/echanges/FeuilleCopies.h"
+#include "ui/echanges/FeuilleImport.h"
+
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QThread>
+
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace Quillet {
+
+namespace {
+
+const QString cleDossier = QStringLiteral("dossierArchives");
+const QString suffixe = QStringLiteral(".zip");
+const QString filtre = QStringLiteral("Archives (*.zip)");
+const QString titreExport = QStringLiteral("Exporter mes données");
+
+QString dossierPropose(const Contexte &contexte)
+{
+    const QString dossier = contexte.preferences.texte(cleDossier);
+    return !dossier.isEmpty() && QDir(dossier).exists()
+               ? dossier
+               : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+QFileDialog *dialogue(const QString &titre, const Contexte &contexte, QWidget *parent)
+{
+    auto *dialogue = new QFileDialog(parent, titre, dossierPropose(contexte), filtre);
+    dialogue->setAttribute(Qt::WA_DeleteOnClose);
+    return dialogue;
+}
+
+void prevenir(const QString &titre, const QString &texte, QWidget *parent)
+{
+    auto *boite = new QMessageBox(QMessageBox::Warning, titre, texte, QMessageBox::Ok, parent);
+    boite->setAttribute(Qt::WA_DeleteOnClose);
+    boite->open();
+}
+
+void direExporte(const QString &chemin, const QString &absents, QWidget *parent)
+{
+    auto *boite = new QMessageBox(QMessageBox::Information, titreExport,
+                                  QStringLiteral("Vos données sont dans « %1 ».").arg(QFileInfo(chemin).fileName()),
+                                  QMessageBox::Ok, parent);
+    boite->setInformativeText(absents);
+    boite->setAttribute(Qt::WA_DeleteOnClose);
+    const QPushButton *dossier = boite->addButton(QStringLiteral("Ouvrir le dossier"), QMessageBox::ActionRole);
+    QObject::connect(dossier, &QPushButton::clicked, parent,
+                     [chemin, parent] { Lien::ouvrirFichier(QFileInfo(chemin).absolutePath(), parent); });
+    boite->open();
+}
+
+} // namespace
+
+Echanges::Echanges(const Contexte &contexte, QWidget *fenetre)
+    : QObject(fenetre), contexte_(contexte), fenetre_(fenetre)
+{
+}
+
+// A copy under way owns all that it touches.
+Echanges::~Echanges()
+{
+    constexpr auto patience = 2s;
+    if (fil_)
+        fil_->wait(QDeadlineTimer(patience));
+}
+
+void Echanges::exporter()
+{
+    QFileDialog *choix = dialogue(titreExport, contexte_, fenetre_);
+    choix->setAcceptMode(QFileDialog::AcceptSave);
+    choix->setDefaultSuffix(suffixe.sliced(1));
+    choix->selectFile(TextesReprise::nomDExport(contexte_.jour.aujourdhui()));
+    connect(choix, &QFileDialog::fileSelected, this, &Echanges::enregistrer);
+    choix->open();
+}
+
+void Echanges::enregistrer(const QString &choisi)
+{
+    const auto chemin = CheminChoisi::avecSuffixe(choisi, suffixe, titreExport, fenetre_);
+    if (!chemin)
+        return;
+    const Demeure demeure = Demeure::de(contexte_.catalogue, contexte_.preferences);
+    const QDate jour = contexte_.jour.aujourdhui();
+    QStringList absents;
+    try {
+        Attente::jusquAuBout(fenetre_, QStringLiteral("Export de vos données…"), [&] {
+            const Bagage bagage = Bagage::de(demeure, jour);
+            absents = bagage.absents;
+            Archive::ecrire(*chemin, bagage);
+        });
+    } catch (const Echec &erreur) {
+        prevenir(titreExport, QStringLiteral("Vos données n’ont pas été exportées.\n%1").arg(erreur.texte()), fenetre_);
+        return;
+    }
+    contexte_.preferences.retenirSiPossible(cleDossier, QFileInfo(*chemin).absolutePath());
+    direExporte(*chemin, TextesReprise::absents(absents), fenetre_);
+}
+
+void Echanges::importer()
+{
+    QFileDialog *choix = dialogue(QStringLiteral("Importer"), contexte_, fenetre_);
+    choix->setFileMode(QFileDialog::ExistingFile);
+    connect(choix, &QFileDialog::fileSelected, this,
+            [this](const QString &archive) { montrer(contexte_, archive, QStringLiteral("Importer"), fenetre_); });
+    choix->open();
+}
+
+void Echanges::revenirAUneCopie()
+{
+    (new FeuilleCopies(contexte_, echec_, fenetre_))->ouvrir();
+}
+
+QWidget *Echanges::montrer(const Contexte &contexte, const QString &archive, const QString &geste, QWidget *parent)
+{
+    const Demeure demeure = Demeure::de(contexte.catalogue, contexte.preferences);
+    const QDate jour = contexte.jour.aujourdhui();
+    std::unique_ptr<Reprise> reprise;
+    try {
+        Attente::jusquAuBout(parent, QStringLiteral("Lecture de l’archive…"),
+                             [&] { reprise = Reprise::preparer(archive, demeure, jour); });
+    } catch (const Echec &erreur) {
+        prevenir(geste, erreur.texte(), parent);
+        return nullptr;
+    }
+    auto *feuille = new FeuilleImport(contexte, std::move(reprise), geste, parent);
+    feuille->ouvrir();
+    return feuille;
+}
+
+void Echanges::garderChaqueJour()
+{
+    connect(&contexte_.jour, &JourCourant::change, this, &Echanges::garder);
+    garder();
+}
+
+// Unsaid when it fails, but in the sheet of the copies: who is at work is not to be held up by it.
+void Echanges::garder()
+{
+    if (fil_)
+        return;
+    const auto echec = std::make_shared<QString>();
+    fil_ = QThread::create(
+        [demeure = Demeure::de(contexte_.catalogue, contexte_.preferences), jour = contexte_.jour.aujourdhui(), echec] {
+            try {
+                Copies(demeure).duJour(jour);
+            } catch (const Echec &erreur) {
+                *echec = erreur.texte();
+            }
+        });
+    connect(fil_, &QThread::finished, fil_, &QObject::deleteLater);
+    connect(fil_, &QThread::finished, this, [this, echec] {
+        fil_ = nullptr;
+        echec_ = *echec;
+        emit copieFaite();
+    });
+    fil_->start(QThread::LowPriority);
+}
+
+} // namespace Quillet
