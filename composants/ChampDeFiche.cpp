@@ -78,6 +78,13 @@ void ChampDeFiche::montrer(const QString &valeur)
     objecter({});
 }
 
+void ChampDeFiche::oublier()
+{
+    rendu_ = valeur_;
+    poser(valeur_);
+    objecter({});
+}
+
 void ChampDeFiche::objecter(const QString &phrase)
 {
     objection_ = phrase;

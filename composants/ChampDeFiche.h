@@ -23,6 +23,8 @@ public:
 
     // What is known of the value. Leaves alone what is being typed, or was refused, while that stays the same.
     void montrer(const QString &valeur);
+    // Gives up what was typed, and what was said of it.
+    void oublier();
     // What is wrong with the text; empty: nothing.
     void objecter(const QString &phrase);
     [[nodiscard]] bool estRefuse() const { return !objection_.isEmpty(); }

@@ -1,5 +1,7 @@
 #include "model/Json.h"
 
+#include "model/AdresseWeb.h"
+
 #include <QJsonDocument>
 #include <QJsonParseError>
 
@@ -73,9 +75,10 @@ void lire(const QJsonValue &json, const Lieu &lieu, QUrl &valeur)
 {
     QString texte;
     lire(json, lieu, texte);
-    valeur = QUrl::fromEncoded(QUrl(texte).toEncoded()); // as it will be read back, half characters mended
-    if (!valeur.isValid() || valeur.scheme().isEmpty() || valeur.host().isEmpty())
+    const auto adresse = adresseWeb(texte);
+    if (!adresse)
         lieu.refuser(QStringLiteral("adresse web complète attendue"));
+    valeur = *adresse;
 }
 
 QJsonValue analyser(const QByteArray &octets, const Lieu &fichier)

@@ -1,11 +1,14 @@
 #include "model/Saisie.h"
 
+#include "model/AdresseWeb.h"
 #include "model/ChiffresAscii.h"
 #include "model/Format.h"
 
 namespace Quillet {
 
 namespace {
+
+constexpr int pagesAuPlus = 99'999;
 
 QString sansEspaces(QString texte)
 {
@@ -62,6 +65,29 @@ Saisie::Lecture<std::optional<Grammes>> Saisie::poids(const QString &texte)
     if (const auto poids = quantite<Grammes>(saisi))
         return poids;
     return Refus{QStringLiteral("Un poids va jusqu’à %1.").arg(Format::poids(Grammes{UniteGramme::maximum}))};
+}
+
+Saisie::Lecture<qint64> Saisie::pages(const QString &texte)
+{
+    const QString saisi = sansEspaces(texte);
+    if (saisi.isEmpty())
+        return Refus{QStringLiteral("Il faut un nombre de pages.")};
+    if (!queDesChiffres(saisi))
+        return Refus{QStringLiteral("Un nombre de pages s’écrit en chiffres, comme 288.")};
+    bool tient = false;
+    if (const int pages = saisi.toInt(&tient); tient && pages <= pagesAuPlus)
+        return pages;
+    return Refus{QStringLiteral("Un nombre de pages va jusqu’à %1.").arg(pagesAuPlus)};
+}
+
+Saisie::Lecture<std::optional<QUrl>> Saisie::adresse(const QString &texte)
+{
+    const QString saisi = texte.trimmed();
+    if (saisi.isEmpty())
+        return std::optional<QUrl>();
+    if (const auto adresse = adresseWeb(saisi))
+        return adresse;
+    return Refus{QStringLiteral("Une adresse web s’écrit en entier, comme https://www.paypal.com/….")};
 }
 
 QString Saisie::ecrit(Centimes prix)

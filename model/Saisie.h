@@ -3,6 +3,7 @@
 #include "model/Quantite.h"
 
 #include <QString>
+#include <QUrl>
 
 #include <optional>
 #include <variant>
@@ -22,6 +23,9 @@ using Lecture = std::variant<T, Refus>;
 Lecture<Centimes> prix(const QString &texte);
 // Whole grams; nothing typed: not weighed.
 Lecture<std::optional<Grammes>> poids(const QString &texte);
+Lecture<qint64> pages(const QString &texte);
+// Nothing typed: none. Which site it may lead to is not said here.
+Lecture<std::optional<QUrl>> adresse(const QString &texte);
 
 // How the field shows them: "18,50", "1 250".
 QString ecrit(Centimes prix);

@@ -33,4 +33,32 @@ QString TextesGestes::retour()
     return QStringLiteral("retour aux valeurs d’origine");
 }
 
+// A name of capitals keeps them.
+QString TextesGestes::champ(const QString &libelle, const Livre &livre)
+{
+    const bool sigle = libelle == libelle.toUpper();
+    const QString nom = sigle ? libelle : libelle.left(1).toLower() + libelle.mid(1);
+    return QStringLiteral("%1 de « %2 »").arg(nom, livre.titre);
+}
+
+QString TextesGestes::modification(const Livre &livre)
+{
+    return QStringLiteral("modification de « %1 »").arg(livre.titre);
+}
+
+QString TextesGestes::ajout(const Livre &livre)
+{
+    return QStringLiteral("ajout de « %1 »").arg(livre.titre);
+}
+
+QString TextesGestes::retrait(const Livre &livre)
+{
+    return QStringLiteral("retrait de « %1 »").arg(livre.titre);
+}
+
+QString TextesGestes::place(const Livre &livre)
+{
+    return QStringLiteral("place de « %1 »").arg(livre.titre);
+}
+
 } // namespace Quillet

@@ -1,10 +1,17 @@
 #include "model/controle/Objections.h"
 
+#include "model/Couvertures.h"
 #include "model/controle/ReglesCommunes.h"
 
 namespace Quillet {
 
 namespace {
+
+QString phrase(const QString &raison)
+{
+    const QString debut = raison.left(1).toUpper() + raison.mid(1);
+    return debut.endsWith(u'.') ? debut : debut + u'.';
+}
 
 template <typename T, typename Regle>
 Objections::ParChamp sur(const T &valeur, Regle regle)
@@ -15,11 +22,17 @@ Objections::ParChamp sur(const T &valeur, Regle regle)
     regle(racine);
     Objections::ParChamp objections;
     for (const auto &[lieu, raison] : constats.notes())
-        objections.insert(lieu.mid(1), raison); // without the dot that follows the record's name
+        objections.insert(lieu.mid(1), phrase(raison)); // without the dot that follows the record's name
     return objections;
 }
 
 } // namespace
+
+Regles::Reperes Objections::reperes(const Donnees &donnees, const QDir &couvertures)
+{
+    return {ReglesCommunes::codes(donnees.destinations), donnees.reglages.vendeurs, couvertures,
+            Couvertures::fichiers(couvertures)};
+}
 
 Objections::ParChamp Objections::surLeLivre(const Livre &livre, const Regles::Reperes &reperes)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/Donnees.h"
 #include "model/controle/Regles.h"
 
 #include <QMap>
@@ -10,6 +11,9 @@ namespace Quillet::Objections {
 
 // Sentences by the way from the record to the field: "isbn", "teinte[1]", "emballages[0].nom". Empty: nothing is wrong.
 using ParChamp = QMap<QString, QString>;
+
+// What books are held against: the data in force, and the folder of their covers.
+Regles::Reperes reperes(const Donnees &donnees, const QDir &couvertures);
 
 ParChamp surLeLivre(const Livre &livre, const Regles::Reperes &reperes);
 ParChamp surLesReglages(const Reglages &reglages, const QList<CodeDestination> &destinations);

@@ -66,7 +66,7 @@ void Regles::livre(const Livre &livre, const Reperes &reperes, const Lieu &lieu)
         lieu.noter("vendeur",
                    QStringLiteral("« %1 » n’a pas d’identité dans reglages.vendeurs").arg(brut(livre.vendeur)));
     if (livre.poids && *livre.poids == Grammes{})
-        lieu.noter("poids", QStringLiteral("0 g ; laissez-le absent tant qu’il n’est pas pesé"));
+        lieu.noter("poids", QStringLiteral("0 g : à ne pas dire tant que le livre n’est pas pesé"));
     if (!livre.isbn.isEmpty() && !NumeroDeControle::isbn(livre.isbn))
         lieu.noter("isbn", QStringLiteral("« %1 » n’est pas un ISBN : un chiffre manque ou est faux").arg(livre.isbn));
     if (livre.pages <= 0)
@@ -74,7 +74,7 @@ void Regles::livre(const Livre &livre, const Reperes &reperes, const Lieu &lieu)
     couverture(livre.couverture, reperes, Lieu(lieu, QStringLiteral("couverture")));
     teinte(livre.teinte, Lieu(lieu, QStringLiteral("teinte")));
     if (livre.prix == Centimes{})
-        lieu.noter("prix", QStringLiteral("plus de 0 attendu"));
+        lieu.noter("prix", QStringLiteral("un prix de plus de 0 € attendu"));
     if (livre.lienPaypal)
         lienPaypal(*livre.lienPaypal, reperes.identite(livre.vendeur), Lieu(lieu, QStringLiteral("lienPaypal")));
     prixParDestination(livre.prixPaypal, reperes.destinations, Lieu(lieu, QStringLiteral("prixPaypal")));

@@ -244,7 +244,7 @@ void TestControleDonnees::erreurs()
              {"livres", "29,\n      74,\n      99", "29, -1, 256",
               "livres[0].teinte[1] : nombre de 0 à 255 attendu\nlivres[0].teinte[2] : nombre de 0 à 255 attendu"},
              {"livres", R"("poids" : 355)", R"("poids" : 0)",
-              "livres[0].poids : 0 g ; laissez-le absent tant qu’il n’est pas pesé"},
+              "livres[0].poids : 0 g : à ne pas dire tant que le livre n’est pas pesé"},
              {"livres", R"("poids" : 355)", R"("poids" : -355)", "livres[0].poids : nombre négatif"},
              {"livres", R"("pages" : 288)", R"("pages" : 0)", "livres[0].pages : au moins une page attendue"},
              {"livres", R"("om1" : 4300)", R"("om3" : 4300)",
