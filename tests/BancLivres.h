@@ -12,14 +12,20 @@ namespace Quillet {
 // The books' screen, opened on the bench's books; the first one has a PayPal button.
 struct BancLivres : BancEcran
 {
-    BancLivres()
+    explicit BancLivres(Origine deQui = Origine::dossier)
     {
+        origine = deQui;
         donnees.livres[0].prixPaypal = {{vers("france"), Centimes{2000}}};
         demarrer();
         app->fenetre().contenu()->montrer(Rubrique::livres);
     }
     [[nodiscard]] Fenetre *fenetre() const { return &app->fenetre(); }
-    [[nodiscard]] Livre enregistre(qsizetype rang) const { return donnees.charger()->donnees().livres[rang]; }
+    [[nodiscard]] QList<Livre> enregistres() const
+    {
+        donnees.deposer();
+        return Catalogue::charge(ressources(), donnees.stockage())->donnees().livres;
+    }
+    [[nodiscard]] Livre enregistre(qsizetype rang) const { return enregistres()[rang]; }
     [[nodiscard]] QListView *liste() const
     {
         return qobject_cast<QListView *>(Ecran::controle(fenetre(), QStringLiteral("Livres")));

@@ -100,6 +100,14 @@ QList<Groupe> Raccourcis::table()
               {Geste::enregistrer, {Qt::CTRL | Qt::Key_S}, QStringLiteral("Enregistrer la facture en PDF")}}},
             {QStringLiteral("Écran Livres"),
              {{Geste::chercherUnLivre, {Qt::CTRL | Qt::Key_F}, QStringLiteral("Chercher un livre")},
+              {Geste::ajouterUnLivre, {Qt::CTRL | Qt::Key_N}, QStringLiteral("Ajouter un livre")},
+              {Geste::modifierLeLivre, {Qt::Key_F2}, QStringLiteral("Modifier le livre")},
+              {Geste::dupliquerLeLivre, {Qt::CTRL | Qt::Key_D}, QStringLiteral("Dupliquer le livre")},
+              {Geste::retirerLeLivre, {Qt::Key_Delete}, QStringLiteral("Dans la liste, retirer le livre")},
+              {Geste::monterLeLivre, {Qt::ALT | Qt::Key_Up}, QStringLiteral("Dans la liste, monter le livre")},
+              {Geste::descendreLeLivre, {Qt::ALT | Qt::Key_Down}, QStringLiteral("Dans la liste, descendre le livre")},
+              {Geste::livrePrecedent, {Qt::CTRL | Qt::Key_PageUp}, QStringLiteral("Livre précédent, dans sa feuille")},
+              {Geste::livreSuivant, {Qt::CTRL | Qt::Key_PageDown}, QStringLiteral("Livre suivant, dans sa feuille")},
               standard(Geste::annuler, QKeySequence::Undo, QStringLiteral("Annuler")),
               standard(Geste::retablir, QKeySequence::Redo, QStringLiteral("Rétablir"))}}};
 }

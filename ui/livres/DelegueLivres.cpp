@@ -74,20 +74,25 @@ QSize DelegueLivres::sizeHint(const QStyleOptionViewItem &, const QModelIndex &i
                    + (rang == modele_.rowCount() - 1 ? avantUnGroupe : 0)};
 }
 
+QRect DelegueLivres::cadreDuLivre(QRect rangee, int rang) const
+{
+    if (modele_.ouvreUnGroupe(rang))
+        rangee.setTop(rangee.top() + hauteurDuTitre());
+    if (rang == modele_.rowCount() - 1)
+        rangee.setBottom(rangee.bottom() - avantUnGroupe);
+    return rangee;
+}
+
 void DelegueLivres::paint(QPainter *peintre, const QStyleOptionViewItem &option, const QModelIndex &indice) const
 {
     const int rang = indice.row();
     const Livre &livre = modele_.livre(rang);
-    QRect cadre = option.rect;
+    const QRect cadre = cadreDuLivre(option.rect, rang);
     peintre->save();
     peintre->setRenderHint(QPainter::Antialiasing);
-    if (modele_.ouvreUnGroupe(rang)) {
-        peindreTitre(*peintre, QRect(cadre.topLeft(), QSize(cadre.width(), hauteurDuTitre() - sousLeTitre)), livre,
-                     option.palette);
-        cadre.setTop(cadre.top() + hauteurDuTitre());
-    }
-    if (rang == modele_.rowCount() - 1)
-        cadre.setBottom(cadre.bottom() - avantUnGroupe);
+    if (modele_.ouvreUnGroupe(rang))
+        peindreTitre(*peintre, QRect(option.rect.topLeft(), QSize(cadre.width(), hauteurDuTitre() - sousLeTitre)),
+                     livre, option.palette);
     peindreCarte(*peintre, cadre, rang, option.palette);
 
     const QRectF marque = QRectF(cadre).adjusted(retrait, retrait, -retrait, -retrait);

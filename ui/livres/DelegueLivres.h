@@ -19,6 +19,9 @@ public:
     void paint(QPainter *peintre, const QStyleOptionViewItem &option, const QModelIndex &indice) const override;
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &indice) const override;
 
+    // Of the row's room, what the book itself takes.
+    [[nodiscard]] QRect cadreDuLivre(QRect rangee, int rang) const;
+
 private:
     void peindreTitre(QPainter &peintre, const QRect &cadre, const Livre &premier, const QPalette &palette) const;
     void peindreCarte(QPainter &peintre, const QRect &cadre, int rang, const QPalette &palette) const;

@@ -11,6 +11,7 @@
 #include "model/Saisie.h"
 #include "textes/TextesGestes.h"
 #include "textes/TextesLivres.h"
+#include "ui/Raccourcis.h"
 #include "ui/couvertures/DessinCouverture.h"
 #include "ui/couvertures/ImagesCouvertures.h"
 #include "ui/livres/TableauBoutons.h"
@@ -92,8 +93,8 @@ QWidget *FicheLivre::enTete(ImagesCouvertures &images)
     image_ = new Image(images);
     titre_->setFont(Theme::titreSection());
     titre_->setWordWrap(true);
-    QBoxLayout *textes =
-        Pile::colonne({.espace = 2}, {titre_, auteur_, fabrication_, Pile::blanc(14), reglages(), Pile::reste()});
+    QBoxLayout *textes = Pile::colonne({.espace = 2}, {titre_, auteur_, fabrication_, Pile::blanc(14), reglages(),
+                                                       Pile::blanc(10), commandes(), Pile::reste()});
     return Pile::enRangee({.espace = 24}, {{image_, 0, Qt::AlignTop}, {textes, 1}});
 }
 
@@ -129,6 +130,22 @@ QWidget *FicheLivre::reglages()
     groupe->ajouter(poids_);
     groupe->ajouter(new Formulaire::Rangee(QStringLiteral("Disponible"), disponible_));
     return groupe;
+}
+
+QWidget *FicheLivre::commandes()
+{
+    const auto bouton = [this](const QString &texte, Raccourcis::Geste geste, void (FicheLivre::*signal)()) {
+        QPushButton *cree = Boutons::deFeuille(texte);
+        Raccourcis::dire(cree, geste);
+        connect(cree, &QPushButton::clicked, this, signal);
+        return cree;
+    };
+    commandes_ = Pile::enRangee(
+        {},
+        {bouton(QStringLiteral("Modifier…"), Raccourcis::Geste::modifierLeLivre, &FicheLivre::modifier),
+         bouton(QStringLiteral("Dupliquer…"), Raccourcis::Geste::dupliquerLeLivre, &FicheLivre::dupliquer),
+         bouton(QStringLiteral("Retirer"), Raccourcis::Geste::retirerLeLivre, &FicheLivre::retirer), Pile::reste()});
+    return commandes_;
 }
 
 QWidget *FicheLivre::boutonsPaypal()

@@ -26,6 +26,8 @@ public:
 
     // `suivant` tells whether another book has prices to report.
     void montrer(const Livre &livre, const QList<PrixBouton> &boutons, const TarifsColissimo &tarifs, bool suivant);
+    // Whether the book can be edited whole, copied, taken away.
+    void permettre(bool toutModifier) { commandes_->setVisible(toutModifier); }
     // Takes what is still being typed.
     void conclure();
 
@@ -36,10 +38,14 @@ signals:
     void reporter(Livre livre, const QList<PrixBouton> &boutons);
     void garder(Livre livre, PrixBouton bouton);
     void livreSuivant();
+    void modifier();
+    void dupliquer();
+    void retirer();
 
 private:
     QWidget *enTete(ImagesCouvertures &images);
     QWidget *reglages();
+    QWidget *commandes();
     QWidget *boutonsPaypal();
 
     Livre livre_;
@@ -52,6 +58,7 @@ private:
     ChampSaisi *prix_ = nullptr;
     ChampSaisi *poids_ = nullptr;
     Interrupteur *disponible_;
+    QWidget *commandes_ = nullptr;
     Libelle *situation_; // of the buttons, in a line
     QPushButton *page_;
     QPushButton *toutReporter_;

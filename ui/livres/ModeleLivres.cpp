@@ -79,7 +79,7 @@ QList<ModeleLivres::Rang> ModeleLivres::ranger() const
     return rangs;
 }
 
-// The same books in the same order keep the current row and the place in the list.
+// The same books keep the current row and the place in the list.
 void ModeleLivres::filtrer()
 {
     const QList<Rang> rangs = ranger();
@@ -91,9 +91,28 @@ void ModeleLivres::filtrer()
             emit dataChanged(index(0), index(rowCount() - 1));
         return;
     }
+    if (std::ranges::is_permutation(rangs, rangs_, {}, &Rang::id, &Rang::id)) {
+        reordonner(rangs);
+        return;
+    }
     beginResetModel();
     rangs_ = rangs;
     endResetModel();
+}
+
+void ModeleLivres::reordonner(const QList<Rang> &rangs)
+{
+    emit layoutAboutToBeChanged();
+    const QModelIndexList avant = persistentIndexList();
+    QList<qint64> ids;
+    for (const QModelIndex &indice : avant)
+        ids.append(rangs_[indice.row()].id);
+    rangs_ = rangs;
+    QModelIndexList apres;
+    for (const qint64 id : ids)
+        apres.append(index(*rang(id)));
+    changePersistentIndexList(avant, apres);
+    emit layoutChanged();
 }
 
 qsizetype ModeleLivres::aReporter() const
@@ -128,6 +147,25 @@ bool ModeleLivres::ouvreUnGroupe(int rang) const
 bool ModeleLivres::fermeUnGroupe(int rang) const
 {
     return rang == rangs_.size() - 1 || ouvreUnGroupe(rang + 1);
+}
+
+QList<qint64> ModeleLivres::ids() const
+{
+    QList<qint64> ids;
+    for (const Rang &rang : rangs_)
+        ids.append(rang.id);
+    return ids;
+}
+
+Qt::ItemFlags ModeleLivres::flags(const QModelIndex &indice) const
+{
+    const Qt::ItemFlags flags = QAbstractListModel::flags(indice) | Qt::ItemNeverHasChildren;
+    return catalogue_.donnees().personnelles ? flags | Qt::ItemIsDragEnabled : flags;
+}
+
+Qt::DropActions ModeleLivres::supportedDropActions() const
+{
+    return Qt::MoveAction;
 }
 
 qsizetype ModeleLivres::nombre(Vendeur vendeur) const

@@ -37,12 +37,15 @@ public:
     [[nodiscard]] std::optional<int> rang(qint64 id) const;
     // The next book with buttons to change, from the top again after the last; none but itself: none.
     [[nodiscard]] std::optional<int> suivantAReporter(int rang) const;
+    [[nodiscard]] QList<qint64> ids() const;
     // Whether the book opens or closes its seller's group.
     [[nodiscard]] bool ouvreUnGroupe(int rang) const;
     [[nodiscard]] bool fermeUnGroupe(int rang) const;
     [[nodiscard]] qsizetype nombre(Vendeur vendeur) const;
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &indice) const override;
+    [[nodiscard]] Qt::DropActions supportedDropActions() const override;
     [[nodiscard]] QVariant data(const QModelIndex &indice, int role) const override;
 
 private:
@@ -62,6 +65,7 @@ private:
 
     void compter();
     void filtrer();
+    void reordonner(const QList<Rang> &rangs);
     [[nodiscard]] QList<Rang> ranger() const;
     [[nodiscard]] QString enMots(int rang) const;
 

@@ -1,42 +1,35 @@
 #include "ui/livres/VoletLivres.h"
 
+#include "composants/Boutons.h"
 #include "composants/Choix.h"
 #include "composants/ChoixSegmente.h"
 #include "composants/EtatVide.h"
 #include "composants/Icone.h"
 #include "composants/LigneDeTexte.h"
-#include "composants/ListeDite.h"
 #include "composants/Pile.h"
 #include "composants/SelectionDuLecteur.h"
 #include "composants/Theme.h"
 #include "model/Catalogue.h"
 #include "textes/NomsVendeurs.h"
 #include "textes/TextesLivres.h"
+#include "ui/Raccourcis.h"
 #include "ui/couvertures/ImagesCouvertures.h"
 #include "ui/livres/DelegueLivres.h"
+#include "ui/livres/ListeLivres.h"
 #include "ui/livres/ModeleLivres.h"
 
 #include <QAction>
 #include <QLabel>
-#include <QListView>
+#include <QMenu>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QStackedWidget>
-#include <QStyle>
+
+#include <algorithm>
 
 namespace Quillet {
 
 namespace {
-
-// The margins belong to the list: its scroll bar stands at the edge of the pane.
-class Liste : public ListeDite<QListView>
-{
-public:
-    Liste()
-    {
-        setViewportMargins(VoletLivres::margeGauche, 0,
-                           VoletLivres::marge - style()->pixelMetric(QStyle::PM_ScrollBarExtent), 0);
-    }
-};
 
 QString cle(FiltreLivres::Etat etat)
 {
@@ -50,13 +43,15 @@ VoletLivres::VoletLivres(const Catalogue &catalogue, ImagesCouvertures &images, 
       catalogue_(catalogue),
       modele_(new ModeleLivres(catalogue, this)),
       recherche_(new LigneDeTexte),
-      liste_(new Liste),
       vide_(new EtatVide),
+      premier_(Boutons::deFeuille(QStringLiteral("Ajouter un livre…"))),
       place_(new QStackedWidget),
       annonce_(this, [this] { return TextesLivres::nombre(modele_->rowCount()); })
 {
+    auto *dessin = new DelegueLivres(*modele_, images, this);
+    liste_ = new ListeLivres(*modele_, *dessin);
     liste_->setModel(modele_);
-    liste_->setItemDelegate(new DelegueLivres(*modele_, images, liste_));
+    liste_->setItemDelegate(dessin);
     liste_->setAccessibleName(QStringLiteral("Livres"));
     liste_->setMouseTracking(true); // the row under the pointer shows
     liste_->setFrameShape(QFrame::NoFrame);
@@ -69,15 +64,24 @@ VoletLivres::VoletLivres(const Catalogue &catalogue, ImagesCouvertures &images, 
     connect(liste_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this](const QModelIndex &indice) {
         if (!indice.isValid())
             return; // the list is being filled again
-        choisi_ = modele_->livre(indice.row()).id;
+        rang_ = indice.row();
+        choisi_ = modele_->livre(rang_).id;
         emit choixChange();
     });
     connect(new SelectionDuLecteur(liste_->selectionModel(), this), &SelectionDuLecteur::prise, liste_,
             &QAbstractItemView::setCurrentIndex);
     connect(modele_, &QAbstractItemModel::modelReset, this, &VoletLivres::seReplacer);
 
+    liste_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(liste_, &QWidget::customContextMenuRequested, this, &VoletLivres::proposer);
+    connect(liste_, &ListeLivres::modifier, this, &VoletLivres::modifier);
+    connect(liste_, &ListeLivres::retirer, this, &VoletLivres::retirer);
+    connect(liste_, &ListeLivres::deplace, this, &VoletLivres::deplace);
+    connect(premier_, &QPushButton::clicked, this, &VoletLivres::ajouter);
+
     place_->addWidget(liste_);
-    place_->addWidget(vide_);
+    place_->addWidget(
+        Pile::enColonne({.marges = {margeGauche, 0, marge, 40}}, {{vide_, 1}, {premier_, 0, Qt::AlignHCenter}}));
     Pile::colonne(this, {.espace = 0}, {filtres(), {place_, 1}});
     seReplacer();
 }
@@ -174,7 +178,7 @@ void VoletLivres::filtrer()
     annonce_.start();
 }
 
-// The list was filled again: the same book when it is still there, else the first one.
+// The list was filled again: the same book when it is still there, else the one that has its place.
 void VoletLivres::seReplacer()
 {
     const bool vide = modele_->rowCount() == 0;
@@ -184,10 +188,45 @@ void VoletLivres::seReplacer()
                        catalogue_.donnees().livres.isEmpty()
                            ? QStringLiteral("Le catalogue est vide.")
                            : QStringLiteral("Aucun livre ne répond à la recherche et aux filtres."));
+    premier_->setVisible(catalogue_.donnees().personnelles && catalogue_.donnees().livres.isEmpty());
     if (vide)
         emit choixChange();
     else
-        liste_->setCurrentIndex(modele_->index(modele_->rang(choisi_).value_or(0)));
+        liste_->setCurrentIndex(
+            modele_->index(modele_->rang(choisi_).value_or(std::min(rang_, modele_->rowCount() - 1))));
+}
+
+void VoletLivres::prendreLeFocus()
+{
+    (place_->currentWidget()->isAncestorOf(premier_) ? static_cast<QWidget *>(premier_) : liste_)->setFocus();
+}
+
+QList<qint64> VoletLivres::ordre() const
+{
+    return modele_->ids();
+}
+
+// What can be done to the book under the pointer, or to the chosen one.
+void VoletLivres::proposer(const QPoint &ou)
+{
+    if (!catalogue_.donnees().personnelles || !choisi())
+        return;
+    auto *menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const auto proposer = [menu](const QString &texte, Raccourcis::Geste geste, const std::function<void()> &faire) {
+        QAction *action = menu->addAction(texte, menu, faire);
+        action->setShortcut(Raccourcis::touches(geste).constFirst());
+        action->setShortcutVisibleInContextMenu(true);
+    };
+    proposer(QStringLiteral("Modifier…"), Raccourcis::Geste::modifierLeLivre, [this] { emit modifier(); });
+    proposer(QStringLiteral("Dupliquer…"), Raccourcis::Geste::dupliquerLeLivre, [this] { emit dupliquer(); });
+    proposer(QStringLiteral("Retirer"), Raccourcis::Geste::retirerLeLivre, [this] { emit retirer(); });
+    menu->addSeparator();
+    proposer(QStringLiteral("Monter"), Raccourcis::Geste::monterLeLivre,
+             [this] { liste_->deplacer(EditionLivres::Cote::avant); });
+    proposer(QStringLiteral("Descendre"), Raccourcis::Geste::descendreLeLivre,
+             [this] { liste_->deplacer(EditionLivres::Cote::apres); });
+    menu->popup(liste_->viewport()->mapToGlobal(ou));
 }
 
 } // namespace Quillet

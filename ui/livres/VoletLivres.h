@@ -1,12 +1,13 @@
 #pragma once
 
 #include "composants/AnnonceAuRepos.h"
+#include "model/EditionLivres.h"
 #include "model/Tarifs.h"
 #include "textes/FiltreLivres.h"
 
 #include <QWidget>
 
-class QListView;
+class QPushButton;
 class QStackedWidget;
 
 namespace Quillet {
@@ -14,6 +15,7 @@ namespace Quillet {
 class Catalogue;
 class EtatVide;
 class ImagesCouvertures;
+class ListeLivres;
 class ModeleLivres;
 class LigneDeTexte;
 
@@ -39,24 +41,36 @@ public:
     [[nodiscard]] bool aUnSuivant() const;
     void passerAuSuivant();
     void chercher();
+    void prendreLeFocus();
+    // The books as they are shown.
+    [[nodiscard]] QList<qint64> ordre() const;
 
 signals:
     // Another book, or none.
     void choixChange();
+    void ajouter();
+    // The chosen book.
+    void modifier();
+    void dupliquer();
+    void retirer();
+    void deplace(qint64 id, Quillet::EditionLivres::Cote cote, qint64 voisin);
 
 private:
     QWidget *filtres();
     void filtrer();
     void seReplacer();
+    void proposer(const QPoint &ou);
 
     const Catalogue &catalogue_;
     FiltreLivres filtre_;
     ModeleLivres *modele_;
     LigneDeTexte *recherche_;
-    QListView *liste_;
+    ListeLivres *liste_;
     EtatVide *vide_;
+    QPushButton *premier_; // adds a book to an empty list
     QStackedWidget *place_;
     qint64 choisi_ = 0;      // id of the book last chosen
+    int rang_ = 0;           // where it was
     AnnonceAuRepos annonce_; // of how many books answer the filter
 };
 

@@ -1,15 +1,15 @@
 #pragma once
 
+#include "model/EditionLivres.h"
 #include "model/Historique.h"
 #include "ui/EcranDeRubrique.h"
-#include "ui/Raccourcis.h"
 
 #include <QTimer>
 
 #include <functional>
 
+class QPushButton;
 class QStackedWidget;
-class QToolButton;
 
 namespace Quillet {
 
@@ -19,6 +19,7 @@ class EnTete;
 class FicheLivre;
 class VoletLivres;
 struct Contexte;
+struct Livre;
 
 // Both sellers' books: their list on the left, the chosen one beside it to edit. Every change is saved at once and can
 // be undone until the program closes.
@@ -31,18 +32,27 @@ public:
 
     [[nodiscard]] bool conclure() override;
 
+signals:
+    // The seller wants books and sellers of his own in place of the example's.
+    void mettreLesSiens();
+
 protected:
     void showEvent(QShowEvent *evenement) override;
 
 private:
     QWidget *gauche();
     QWidget *droite();
-    QToolButton *creerBouton(const QString &symbole, Raccourcis::Geste geste);
     void actualiser();
-    void montrerAnnulation();
     void tenter(const std::function<void()> &geste);
     void montrerLeTouche(std::optional<qint64> livre);
     void revenir();
+    void ajouter();
+    void modifier();
+    void dupliquer();
+    void retirer();
+    void deplacer(qint64 id, EditionLivres::Cote cote, qint64 voisin);
+    void completer(const Livre &brouillon);
+    void direLeRetrait(const QString &titre);
 
     const Contexte &contexte_;
     Historique &historique_;
@@ -51,9 +61,12 @@ private:
     VoletLivres *volet_;
     FicheLivre *fiche_;
     Alerte *echec_;
+    Alerte *retrait_; // of the book last taken away
+    QWidget *bandeDuRetrait_ = nullptr;
+    QPushButton *revenir_;
+    QPushButton *siens_;
+    QPushButton *ajouter_;
     QStackedWidget *place_ = nullptr;
-    QToolButton *annuler_;
-    QToolButton *retablir_;
     QTimer lecture_; // runs while what has just failed has not been read yet
 };
 

@@ -1,0 +1,309 @@
+#include "tests/BancLivres.h"
+#include "tests/DisquePlein.h"
+#include "tests/Rangees.h"
+#include "ui/livres/VueLivres.h"
+
+#include <QDropEvent>
+#include <QMimeData>
+#include <QSignalSpy>
+
+#include <functional>
+
+using namespace Quillet;
+
+namespace {
+
+struct BancPersonnel : BancLivres
+{
+    BancPersonnel() : BancLivres(Origine::utilisateur) {}
+
+    [[nodiscard]] QDialog *feuille(const char *touches) const
+    {
+        QTest::keySequence(liste(), QKeySequence(touches));
+        QDialog *feuille = Dialogues::devant();
+        if (!feuille || !QTest::qWaitForWindowActive(feuille))
+            qFatal("Aucune feuille après : %s", touches);
+        return feuille;
+    }
+    [[nodiscard]] static QLineEdit *champ(const QDialog *feuille, const QString &nom)
+    {
+        return qobject_cast<QLineEdit *>(Ecran::controle(feuille, nom));
+    }
+    // What is said on the sheet, beside its fields too.
+    [[nodiscard]] static bool dit(const QDialog *feuille, const QString &phrase)
+    {
+        for (const auto *libelle : feuille->findChildren<QLabel *>())
+            if (libelle->isVisible() && lisible(libelle->text()).startsWith(phrase))
+                return true;
+        return false;
+    }
+    // Types and leaves the field.
+    static bool remplir(QDialog *feuille, const QString &nom, const QString &texte)
+    {
+        if (QLineEdit *ici = champ(feuille, nom))
+            ici->setFocus();
+        if (!Ecran::taper(feuille, nom, texte))
+            return false;
+        QTest::keyClick(champ(feuille, nom), Qt::Key_Tab);
+        return true;
+    }
+    [[nodiscard]] QString titres() const
+    {
+        QStringList titres;
+        for (const Livre &livre : enregistres())
+            titres.append(livre.titre);
+        return titres.join(QStringLiteral(", "));
+    }
+    [[nodiscard]] QPoint ou(int rang, double hauteur) const
+    {
+        const QRect rangee = liste()->visualRect(liste()->model()->index(rang, 0));
+        return {rangee.center().x(), rangee.top() + static_cast<int>(rangee.height() * hauteur)};
+    }
+    // The chosen book, dragged there and dropped.
+    void tirer(const QPoint &la) const
+    {
+        const std::unique_ptr<QMimeData> donneesTirees(liste()->model()->mimeData({liste()->currentIndex()}));
+        QWidget *vue = liste()->viewport();
+        QDragEnterEvent entree(la, Qt::MoveAction, donneesTirees.get(), Qt::LeftButton, {});
+        QDragMoveEvent passage(la, Qt::MoveAction, donneesTirees.get(), Qt::LeftButton, {});
+        QDropEvent depot(la, Qt::MoveAction, donneesTirees.get(), Qt::LeftButton, {});
+        for (QEvent *evenement : std::initializer_list<QEvent *>{&entree, &passage, &depot})
+            QCoreApplication::sendEvent(vue, evenement);
+    }
+};
+
+} // namespace
+
+// The sellers' own books, added, edited, moved and taken away on the books' screen.
+class TestLivresPersonnels : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QuilletApp::preparer(Theme::Mode::clair); }
+
+    void chaqueChampEstEnregistre()
+    {
+        const auto texte = [](const QString Livre::*champ) { return [champ](const Livre &l) { return l.*champ; }; };
+        using Lecture = std::function<QString(const Livre &)>;
+        for (const auto &[champ, saisie, lu, attendu, refus] :
+             Rangees<const char *, Lecture, const char *, const char *>{
+                 {"Titre", " Un ", texte(&Livre::titre), "Un", ""},
+                 {"Titre", " ", texte(&Livre::titre), "Livre 1", "Texte vide."},
+                 {"Titre complet", "", texte(&Livre::titreComplet), "Livre 1", ""},
+                 {"Auteur", "Lui", texte(&Livre::auteur), "Lui", ""},
+                 {"Prix", "16,5", [](const Livre &l) { return QString::number(l.prix.valeur()); }, "1650", ""},
+                 {"Prix", "0", [](const Livre &l) { return QString::number(l.prix.valeur()); }, "1500",
+                  "Un prix de plus de 0 €"},
+                 {"Poids", "", [](const Livre &l) { return l.poids ? "pesé" : ""; }, "", ""},
+                 {"Pages", "deux", [](const Livre &l) { return QString::number(l.pages); }, "200",
+                  "Un nombre de pages s’écrit"},
+                 {"ISBN", "978-0-00-000000-3", texte(&Livre::isbn), "978-0-00-000000-2",
+                  "« 978-0-00-000000-3 » n’est pas un ISBN"},
+                 {"Lien PayPal", "paypal.com", [](const Livre &l) { return l.lienPaypal ? "un" : ""; }, "",
+                  "Une adresse web s’écrit"},
+                 {"Lien PayPal", "http://paypal.com/x", [](const Livre &l) { return l.lienPaypal ? "un" : ""; }, "",
+                  "Adresse https attendue"},
+                 {"Lien PayPal", "https://paypal.com/x", [](const Livre &l) { return l.lienPaypal ? "un" : ""; }, "un",
+                  ""},
+             }) {
+            const Rangee rangee(saisie);
+            const BancPersonnel cas;
+            QDialog *feuille = cas.feuille("F2");
+            QVERIFY(cas.remplir(feuille, champ, saisie));
+            QCOMPARE(lu(cas.enregistre(0)), attendu);
+            QCOMPARE(cas.dit(feuille, refus), true);
+            if (*refus)
+                QCOMPARE(cas.champ(feuille, champ)->text(), saisie); // kept as it was typed
+        }
+    }
+
+    void annulerDansLaFeuille()
+    {
+        const BancPersonnel cas;
+        QDialog *feuille = cas.feuille("F2");
+        QVERIFY(cas.remplir(feuille, "Titre", "Un"));
+        QVERIFY(cas.remplir(feuille, "ISBN", "12"));
+        QTest::keySequence(feuille, QKeySequence("Ctrl+PgDown"));
+        QCOMPARE(cas.champ(feuille, "Titre")->text(), "Un"); // what was just refused has not been read
+        QTRY_VERIFY((QTest::keySequence(feuille, QKeySequence("Ctrl+PgDown")), feuille->windowTitle() == "Livre 2"));
+        QCOMPARE(cas.courant(), "Livre 2");
+        QCOMPARE(cas.champ(feuille, "ISBN")->text(), "978-0-00-000000-2");
+        QVERIFY(cas.remplir(feuille, "Auteur", "Elle"));
+        QVERIFY(Ecran::cliquer(feuille, "Couleur, Brique") || Ecran::cliquer(feuille, "Brique"));
+        QVERIFY(Ecran::controle(feuille, "Annuler : couleur de « Livre 2 »"));
+        for (int fois = 0; fois < 3; ++fois)
+            QTest::keySequence(feuille, QKeySequence::Undo);
+        QCOMPARE(feuille->windowTitle(), "Livre 1"); // where the last one undone was typed
+        QCOMPARE(cas.enregistres(), cas.donnees.livres);
+        QTest::keySequence(feuille, QKeySequence::Redo);
+        QCOMPARE(cas.enregistre(0).titre, "Un");
+        QTest::keyClick(feuille, Qt::Key_Escape);
+        QVERIFY(!feuille->isVisible());
+        QCOMPARE(cas.courant(), "Un");
+    }
+
+    // Nothing typed is lost, and leaving tries once more.
+    void echecDit()
+    {
+        const BancPersonnel cas;
+        QDialog *feuille = cas.feuille("F2");
+        {
+            const DisquePlein plein;
+            QVERIFY(cas.remplir(feuille, "Titre", "Un"));
+            QVERIFY(Ecran::cliquer(feuille, "Fermer"));
+        }
+        QVERIFY(feuille->isVisible());
+        QVERIFY(cas.dit(feuille, "Modification non enregistrée : "));
+        QCOMPARE(cas.champ(feuille, "Titre")->text(), "Un");
+        QCOMPARE(cas.enregistres(), cas.donnees.livres);
+        QTRY_VERIFY((feuille->reject(), !feuille->isVisible()));
+        QCOMPARE(cas.enregistre(0).titre, "Un");
+    }
+
+    void ajouter()
+    {
+        const BancPersonnel cas;
+        QDialog *feuille = cas.feuille("Ctrl+N");
+        QVERIFY(!cas.dit(feuille, "Texte vide."));
+        QCOMPARE(cas.champ(feuille, "Auteur")->text(), "Une autrice"); // as the last book
+        QVERIFY(cas.remplir(feuille, "Pages", "zut"));
+        QVERIFY(Ecran::cliquer(feuille, "Ajouter le livre"));
+        for (const char *refus : {"Texte vide.", "Il faut un prix.", "Un nombre de pages s’écrit"})
+            QVERIFY2(cas.dit(feuille, refus), refus);
+        QVERIFY(cas.champ(feuille, "Titre")->hasFocus());
+        for (const auto &[champ, saisie] : {std::pair("Titre", "Neuf"), {"Prix", "12"}, {"Pages", "80"}})
+            QVERIFY(cas.remplir(feuille, champ, saisie));
+        QVERIFY(Ecran::choisir(feuille, "Vendeur", "Mireva"));
+        {
+            const DisquePlein plein;
+            QVERIFY(Ecran::cliquer(feuille, "Ajouter le livre"));
+            QVERIFY(cas.dit(feuille, "Modification non enregistrée : "));
+        }
+        QVERIFY(Ecran::cliquer(feuille, "Ajouter le livre"));
+        QVERIFY(!feuille->isVisible());
+        const Livre livre = cas.enregistre(4);
+        QCOMPARE(livre.id, 5);
+        QCOMPARE(livre.titreComplet, "Neuf");
+        QCOMPARE(livre.vendeur, Vendeur::mireva);
+        QCOMPARE(cas.courant(), "Neuf");
+        QVERIFY(cas.liste()->hasFocus());
+        QVERIFY(cas.cliquer("Annuler : ajout de « Neuf »"));
+        QCOMPARE(cas.enregistres(), cas.donnees.livres);
+    }
+
+    void abandonner()
+    {
+        const BancPersonnel cas;
+        QDialog *feuille = cas.feuille("Ctrl+N");
+        feuille->reject();
+        QVERIFY(!feuille->isVisible()); // nothing was typed
+        feuille = cas.feuille("Ctrl+N");
+        QVERIFY(cas.remplir(feuille, "Titre", "Neuf"));
+        const auto fermer = [feuille] {
+            feuille->reject();
+            return true;
+        };
+        const auto repondre = [](const char *reponse) {
+            return [reponse](QDialog *question) { Ecran::cliquer(question, reponse); };
+        };
+        QVERIFY(Dialogues::fairePuisRepondre(fermer, {repondre("Continuer")}));
+        QVERIFY(feuille->isVisible());
+        QVERIFY(Dialogues::fairePuisRepondre(fermer, {repondre("Abandonner")}));
+        QTRY_VERIFY(!Dialogues::devant());
+    }
+
+    void dupliquer()
+    {
+        const BancPersonnel cas;
+        cas.app->commande().ajuster(cas.donnees.livres[0], 1);
+        QDialog *feuille = cas.feuille("Ctrl+D");
+        QCOMPARE(cas.champ(feuille, "ISBN")->text(), "");
+        QVERIFY(Ecran::cliquer(feuille, "Ajouter le livre"));
+        Livre attendu = cas.donnees.livres[0];
+        attendu.id = 5;
+        attendu.titre += " (copie)";
+        attendu.titreComplet += " (copie)";
+        attendu.isbn.clear();
+        attendu.prixPaypal.reset();
+        QCOMPARE(cas.enregistre(4), attendu);
+    }
+
+    // The neighbour is chosen, the order follows, and the book can be had back where it was.
+    void retirer()
+    {
+        const BancPersonnel cas;
+        cas.commander("france");
+        QTest::keyClick(cas.liste(), Qt::Key_Delete);
+        QCOMPARE(cas.titres(), "Livre 2, Livre 3, Livre 4");
+        QCOMPARE(cas.courant(), "Livre 2");
+        QVERIFY(cas.app->commande().bon().quantites.isEmpty());
+        QCOMPARE(cas.texte("« Livre 1 »"), "« Livre 1 » est retiré.");
+        QVERIFY(Ecran::cliquer(cas.fenetre(), "Annuler"));
+        QCOMPARE(cas.enregistres(), cas.donnees.livres);
+        QCOMPARE(cas.courant(), "Livre 1");
+        QVERIFY(cas.texte("« Livre 1 »").isEmpty());
+        for (int fois = 0; fois < 5; ++fois)
+            QTest::keyClick(cas.liste(), Qt::Key_Delete);
+        QCOMPARE(cas.titres(), "");
+        QVERIFY(cas.texte("Le catalogue est vide.") != "");
+        QVERIFY(cas.cliquer("Ajouter un livre…"));
+    }
+
+    // Within the seller's group (1, 2, 4, then 3), beside the books that are shown; the book stays chosen.
+    void autreOrdre()
+    {
+        const auto tirer = [](int rang, double hauteur) {
+            return [=](const BancPersonnel &cas) { cas.tirer(cas.ou(rang, hauteur)); };
+        };
+        const auto touche = [](Qt::Key quoi) {
+            return [=](const BancPersonnel &cas) { QTest::keyClick(cas.liste(), quoi, Qt::AltModifier); };
+        };
+        const char *avant = "Livre 1, Livre 2, Livre 3, Livre 4";
+        for (const auto &[geste, filtre, rang, faire, apres] :
+             Rangees<const char *, int, std::function<void(const BancPersonnel &)>, const char *>{
+                 {"monter", "Tous les livres", 2, touche(Qt::Key_Up), "Livre 1, Livre 4, Livre 2, Livre 3"},
+                 {"monter le premier", "Tous les livres", 0, touche(Qt::Key_Up), avant},
+                 {"descendre", "Tous les livres", 0, touche(Qt::Key_Down), "Livre 2, Livre 1, Livre 3, Livre 4"},
+                 {"descendre le dernier du vendeur", "Tous les livres", 2, touche(Qt::Key_Down), avant},
+                 {"seul de son vendeur", "Tous les livres", 3, touche(Qt::Key_Up), avant},
+                 {"descendre parmi les montrés", "À reporter", 0, touche(Qt::Key_Down),
+                  "Livre 2, Livre 3, Livre 4, Livre 1"},
+                 {"tirer au-dessus", "Tous les livres", 2, tirer(0, 0.5), "Livre 4, Livre 1, Livre 2, Livre 3"},
+                 {"tirer au-dessous", "Tous les livres", 0, tirer(1, 0.9), "Livre 2, Livre 1, Livre 3, Livre 4"},
+                 {"tirer chez l’autre", "Tous les livres", 0, tirer(3, 0.9), avant},
+             }) {
+            const Rangee rangee(geste);
+            const BancPersonnel cas;
+            QVERIFY(Ecran::choisir(cas.fenetre(), "État", filtre));
+            cas.choisir(rang);
+            const QString choisi = cas.courant();
+            faire(cas);
+            QCOMPARE(cas.titres(), apres);
+            QCOMPARE(cas.courant(), choisi);
+            QCOMPARE(Ecran::controle(cas.fenetre(), "Annuler : place de « " + choisi + " »") != nullptr,
+                     QString(apres) != avant);
+        }
+    }
+
+    // Other data are the program's, or the administrator's.
+    void desAutresRien()
+    {
+        const BancLivres cas(Origine::exemple);
+        for (const char *touches : {"Ctrl+N", "F2", "Ctrl+D", "Del", "Return", "Alt+Down"})
+            QTest::keySequence(cas.liste(), QKeySequence(touches));
+        QVERIFY(!Dialogues::devant());
+        QVERIFY(!Ecran::controle(cas.fenetre(), "Ajouter un livre…"));
+        QVERIFY(!Ecran::controle(cas.fenetre(), "Modifier…"));
+        QSignalSpy siens(cas.fenetre()->findChild<VueLivres *>(), &VueLivres::mettreLesSiens);
+        QVERIFY(cas.cliquer("Mettre les vôtres…"));
+        QCOMPARE(siens.count(), 1);
+        QCOMPARE(cas.enregistres(), cas.donnees.livres);
+        const BancPersonnel leurs;
+        QVERIFY(!Ecran::controle(leurs.fenetre(), "Revenir aux valeurs d’origine…"));
+        QVERIFY(!Ecran::controle(leurs.fenetre(), "Mettre les vôtres…"));
+    }
+};
+
+QTEST_MAIN(TestLivresPersonnels)
+#include "tst_livres_personnels.moc"

@@ -1,0 +1,107 @@
+#include "ui/livres/FeuilleLivre.h"
+
+#include "composants/Boutons.h"
+#include "composants/Pile.h"
+#include "model/Catalogue.h"
+#include "model/Historique.h"
+#include "textes/TextesGestes.h"
+#include "ui/BoutonsAnnulation.h"
+#include "ui/Contexte.h"
+#include "ui/Raccourcis.h"
+#include "ui/livres/FormulaireLivre.h"
+
+#include <QPushButton>
+
+#include <algorithm>
+
+namespace Quillet {
+
+FeuilleLivre::FeuilleLivre(const Contexte &contexte, qint64 id, const QList<qint64> &ordre, QWidget *parent)
+    : FeuilleDeLivre({}, contexte, parent), id_(id), ordre_(ordre)
+{
+    auto *annulation = new BoutonsAnnulation(contexte.historique, this);
+    QPushButton *precedent = Boutons::deFeuille(QStringLiteral("Livre précédent"));
+    QPushButton *suivant = Boutons::deFeuille(QStringLiteral("Livre suivant"));
+    Raccourcis::presser(precedent, Raccourcis::Geste::livrePrecedent, this);
+    Raccourcis::presser(suivant, Raccourcis::Geste::livreSuivant, this);
+    for (QPushButton *bouton : {precedent, suivant})
+        bouton->setVisible(ordre.size() > 1);
+    meubler(Pile::enRangee({}, {annulation, precedent, suivant}), page());
+
+    connect(annulation, &BoutonsAnnulation::annuler, this,
+            [this] { tenter([this] { montrer(contexte_.historique.annuler()); }); });
+    connect(annulation, &BoutonsAnnulation::retablir, this,
+            [this] { tenter([this] { montrer(contexte_.historique.retablir()); }); });
+    connect(precedent, &QPushButton::clicked, this, [this] { passer(-1); });
+    connect(suivant, &QPushButton::clicked, this, [this] { passer(1); });
+    connect(formulaire_, &FormulaireLivre::saisi, this, [this](const Livre &livre, const QString &geste) {
+        compterPourFait();
+        tenter([&] { contexte_.historique.modifier(livre, geste); });
+    });
+    connect(&contexte.catalogue, &Catalogue::change, this, &FeuilleLivre::actualiser);
+    actualiser();
+    formulaire_->prendreLeFocus();
+}
+
+const Livre *FeuilleLivre::livre() const
+{
+    const QList<Livre> &livres = contexte_.donnees().livres;
+    const auto trouve = std::ranges::find(livres, id_, &Livre::id);
+    return trouve == livres.end() ? nullptr : &*trouve;
+}
+
+void FeuilleLivre::actualiser()
+{
+    if (const Livre *montre = livre()) {
+        setWindowTitle(montre->titre);
+        formulaire_->montrer(*montre);
+    }
+}
+
+// A book that is gone, by what was undone, gives its place to a neighbour; the last one closes the sheet.
+void FeuilleLivre::montrer(std::optional<qint64> id)
+{
+    if (id)
+        id_ = *id;
+    if (!livre()) {
+        QDialog::reject();
+        return;
+    }
+    actualiser();
+    emit montre(id_);
+}
+
+void FeuilleLivre::passer(qsizetype pas)
+{
+    if (!conclure())
+        return;
+    const auto parti = [&](qint64 id) {
+        return std::ranges::find(contexte_.donnees().livres, id, &Livre::id) == contexte_.donnees().livres.end();
+    };
+    const qsizetype ici = ordre_.indexOf(id_);
+    for (qsizetype n = 1; n <= ordre_.size(); ++n) {
+        const qint64 autre = ordre_[(ici + n * pas + n * ordre_.size()) % ordre_.size()];
+        if (!parti(autre))
+            return montrer(autre);
+    }
+}
+
+// What could not be saved, or was refused, is said once before it is left; then it is tried once more.
+bool FeuilleLivre::conclure()
+{
+    formulaire_->conclure();
+    if (aLire())
+        return false;
+    const Livre saisi = formulaire_->livre();
+    if (const Livre *enregistre = livre(); enregistre && saisi != *enregistre)
+        tenter([&] { contexte_.historique.modifier(saisi, TextesGestes::modification(saisi)); });
+    return true;
+}
+
+void FeuilleLivre::reject()
+{
+    if (conclure())
+        FeuilleDeLivre::reject();
+}
+
+} // namespace Quillet

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "model/Livre.h"
+#include "model/controle/Regles.h"
+#include "textes/ChampsDuLivre.h"
+
+#include <QHash>
+#include <QList>
+#include <QWidget>
+
+#include <utility>
+
+namespace Quillet {
+
+class ChampDeFiche;
+class Choix;
+class ChoixCouleur;
+class Interrupteur;
+
+namespace Formulaire {
+class Groupe;
+}
+
+// Every field of a book, to be filled in. Each is checked when it is left: what is wrong is said beside it, and what
+// was typed stays.
+class FormulaireLivre : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // What the fields are held against, and offer.
+    struct Cadre
+    {
+        QList<Livre> livres; // of which a new one is proposed fields
+        Regles::Reperes reperes;
+        QList<std::pair<Vendeur, QString>> vendeurs; // one: it is not asked who sells
+    };
+
+    explicit FormulaireLivre(QWidget *parent = nullptr);
+
+    void setCadre(const Cadre &cadre);
+    // A draft, of which nothing is said before it is typed.
+    void commencer(const Livre &brouillon);
+    // A book that is there. What is being typed of the same one is left alone.
+    void montrer(const Livre &livre);
+    // With all that was typed and not refused.
+    [[nodiscard]] const Livre &livre() const { return livre_; }
+    // Takes what is still being typed.
+    void conclure();
+    // Says all that is wrong, and takes the focus to the first of it; true: nothing is.
+    [[nodiscard]] bool verifier();
+    void prendreLeFocus();
+
+signals:
+    // A field was left with something new: the book as it should become, and what that does ("titre de « … »").
+    void saisi(const Livre &livre, const QString &geste);
+    void refuse(); // what was typed; the field says why
+
+private:
+    Formulaire::Groupe *groupe(const QString &cles);
+    ChampDeFiche *creer(const ChampDuLivre &champ);
+    void saisir(const ChampDuLivre &champ, ChampDeFiche *ou, const QString &texte);
+    void actualiser();
+    void objecter();
+    void signaler(const QString &nom);
+
+    Cadre cadre_;
+    Livre livre_;
+    bool brouillon_ = false;
+    QList<ChampDuLivre> description_;
+    QHash<QString, ChampDeFiche *> champs_; // by the key that rules have for them
+    QWidget *rangeeDuVendeur_ = nullptr;
+    Choix *vendeur_;
+    Interrupteur *disponible_;
+    ChoixCouleur *couleur_;
+};
+
+} // namespace Quillet
