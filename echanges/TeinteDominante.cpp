@@ -30,7 +30,7 @@ qint64 poids(QRgb point)
 {
     const QColor couleur(point);
     const int vivacite = couleur.hsvSaturation() * couleur.value() / 255;
-    const bool papierOuEncre = couleur.value() < 40 || (couleur.value() > 232 && couleur.hsvSaturation() < 28);
+    const bool papierOuEncre = couleur.value() < 40 || (couleur.value() > 224 && couleur.hsvSaturation() < 48);
     return papierOuEncre ? 1 : 12 + vivacite;
 }
 
