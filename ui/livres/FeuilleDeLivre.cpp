@@ -22,7 +22,11 @@ constexpr auto tempsDeLecture = 1s; // of a sentence that says why
 } // namespace
 
 FeuilleDeLivre::FeuilleDeLivre(const QString &titre, const Contexte &contexte, QWidget *parent)
-    : Feuille(titre, parent), contexte_(contexte), formulaire_(new FormulaireLivre), echec_(new Alerte), lecture_(this)
+    : Feuille(titre, parent),
+      contexte_(contexte),
+      formulaire_(new FormulaireLivre(contexte.images)),
+      echec_(new Alerte),
+      lecture_(this)
 {
     lecture_.setSingleShot(true);
     lecture_.setInterval(tempsDeLecture);

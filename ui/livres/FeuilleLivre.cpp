@@ -9,6 +9,7 @@
 #include "ui/Contexte.h"
 #include "ui/Raccourcis.h"
 #include "ui/livres/FormulaireLivre.h"
+#include "ui/livres/PoseDeCouverture.h"
 
 #include <QPushButton>
 
@@ -36,7 +37,7 @@ FeuilleLivre::FeuilleLivre(const Contexte &contexte, qint64 id, const QList<qint
     connect(suivant, &QPushButton::clicked, this, [this] { passer(1); });
     connect(formulaire_, &FormulaireLivre::saisi, this, [this](const Livre &livre, const QString &geste) {
         compterPourFait();
-        tenter([&] { contexte_.historique.modifier(livre, geste); });
+        enregistrer(livre, geste);
     });
     connect(&contexte.catalogue, &Catalogue::change, this, &FeuilleLivre::actualiser);
     actualiser();
@@ -56,6 +57,16 @@ void FeuilleLivre::actualiser()
         setWindowTitle(montre->titre);
         formulaire_->montrer(*montre);
     }
+}
+
+void FeuilleLivre::enregistrer(const Livre &livre, const QString &geste)
+{
+    const auto &couverture = formulaire_->couverture();
+    const auto ecrire = [&] {
+        contexte_.historique.modifier(couverture ? avecCouverture(contexte_, livre, *couverture) : livre, geste);
+    };
+    if (tenter(ecrire))
+        actualiser();
 }
 
 // A book that is gone, by what was undone, gives its place to a neighbour; the last one closes the sheet.
@@ -93,8 +104,8 @@ bool FeuilleLivre::conclure()
     if (aLire())
         return false;
     const Livre saisi = formulaire_->livre();
-    if (const Livre *enregistre = livre(); enregistre && saisi != *enregistre)
-        tenter([&] { contexte_.historique.modifier(saisi, TextesGestes::modification(saisi)); });
+    if (const Livre *enregistre = livre(); enregistre && (saisi != *enregistre || formulaire_->couverture()))
+        enregistrer(saisi, TextesGestes::modification(saisi));
     return true;
 }
 

@@ -27,6 +27,7 @@ signals:
 private:
     [[nodiscard]] const Livre *livre() const; // null: it is gone
     void actualiser();
+    void enregistrer(const Livre &livre, const QString &geste);
     void montrer(std::optional<qint64> id);
     void passer(qsizetype pas);
     [[nodiscard]] bool conclure();

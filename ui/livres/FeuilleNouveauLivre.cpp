@@ -8,6 +8,7 @@
 #include "textes/TextesGestes.h"
 #include "ui/Contexte.h"
 #include "ui/livres/FormulaireLivre.h"
+#include "ui/livres/PoseDeCouverture.h"
 
 #include <QMessageBox>
 #include <QPushButton>
@@ -32,11 +33,16 @@ void FeuilleNouveauLivre::ajouter()
 {
     if (!formulaire_->verifier())
         return;
-    const Livre livre = formulaire_->livre();
-    const QList<Livre> livres = EditionLivres::avec(contexte_.donnees().livres, livre);
-    if (!tenter([&] { contexte_.historique.remplacer(livres, TextesGestes::ajout(livre)); }))
+    const auto ecrire = [this] {
+        const Livre &saisi = formulaire_->livre();
+        const auto &couverture = formulaire_->couverture();
+        const QList<Livre> livres = EditionLivres::avec(
+            contexte_.donnees().livres, couverture ? avecCouverture(contexte_, saisi, *couverture) : saisi);
+        contexte_.historique.remplacer(livres, TextesGestes::ajout(saisi));
+    };
+    if (!tenter(ecrire))
         return;
-    emit ajoute(livres.last().id);
+    emit ajoute(contexte_.donnees().livres.last().id);
     accept();
 }
 
@@ -44,7 +50,7 @@ void FeuilleNouveauLivre::ajouter()
 void FeuilleNouveauLivre::reject()
 {
     formulaire_->conclure();
-    if (formulaire_->livre() == propose_) {
+    if (formulaire_->livre() == propose_ && !formulaire_->couverture()) {
         FeuilleDeLivre::reject();
         return;
     }

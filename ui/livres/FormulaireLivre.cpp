@@ -10,6 +10,7 @@
 #include "model/EditionLivres.h"
 #include "model/controle/Objections.h"
 #include "textes/TextesGestes.h"
+#include "ui/couvertures/ChampCouverture.h"
 
 #include <algorithm>
 
@@ -35,9 +36,10 @@ QColor couleur(const QList<qint64> &teinte)
 
 } // namespace
 
-FormulaireLivre::FormulaireLivre(QWidget *parent)
+FormulaireLivre::FormulaireLivre(ImagesCouvertures &images, QWidget *parent)
     : QWidget(parent),
       description_(ChampDuLivre::tous()),
+      image_(new ChampCouverture(images)),
       vendeur_(new Choix),
       disponible_(new Interrupteur),
       couleur_(new ChoixCouleur(nuances()))
@@ -48,9 +50,11 @@ FormulaireLivre::FormulaireLivre(QWidget *parent)
     auto *vente = groupe(QStringLiteral("prix poids"));
     vente->ajouter(new Formulaire::Rangee(QStringLiteral("Disponible"), disponible_));
     auto *fabrication = groupe(QStringLiteral("pages format langue isbn"));
+    auto *image = new Formulaire::Groupe;
+    image->ajouter(image_);
     auto *reste = groupe(QStringLiteral("lienPaypal"));
     reste->ajouter(new Formulaire::Rangee(QStringLiteral("Couleur"), couleur_));
-    Pile::colonne(this, {.espace = entreGroupes}, {texte, vente, fabrication, reste, Pile::reste()});
+    Pile::colonne(this, {.espace = entreGroupes}, {texte, vente, fabrication, image, reste, Pile::reste()});
 
     connect(vendeur_, &Choix::choisi, this, [this](const QString &choisi) {
         for (const auto &[vendeur, nom] : std::as_const(cadre_.vendeurs))
@@ -65,8 +69,20 @@ FormulaireLivre::FormulaireLivre(QWidget *parent)
         livre_.disponible = disponible;
         emit saisi(livre_, TextesGestes::disponibilite(livre_));
     });
+    connect(image_, &ChampCouverture::choisie, this, [this](const CouverturePrete &couverture) {
+        couverture_ = couverture;
+        if (!couleurChoisie_)
+            livre_.teinte = couverture.teinte;
+        signaler(QStringLiteral("Couverture"));
+    });
+    connect(image_, &ChampCouverture::retiree, this, [this] {
+        couverture_.reset();
+        livre_.couverture.clear();
+        signaler(QStringLiteral("Couverture"));
+    });
     connect(couleur_, &ChoixCouleur::choisie, this, [this](const QColor &couleur) {
         livre_.teinte = {couleur.red(), couleur.green(), couleur.blue()};
+        couleurChoisie_ = true;
         signaler(QStringLiteral("Couleur"));
     });
 }
@@ -112,16 +128,24 @@ void FormulaireLivre::commencer(const Livre &brouillon)
 void FormulaireLivre::montrer(const Livre &livre)
 {
     if (brouillon_ || livre.id != livre_.id)
-        for (ChampDeFiche *champ : std::as_const(champs_))
-            champ->oublier();
+        oublier();
     brouillon_ = false;
+    couverture_.reset();
     livre_ = livre;
     actualiser();
     objecter();
 }
 
+void FormulaireLivre::oublier()
+{
+    for (ChampDeFiche *champ : std::as_const(champs_))
+        champ->oublier();
+    couleurChoisie_ = false;
+}
+
 void FormulaireLivre::actualiser()
 {
+    image_->montrer(livre_);
     for (const ChampDuLivre &champ : std::as_const(description_))
         champs_[champ.cle]->montrer(champ.ecrit(livre_));
     vendeur_->montrer(brut(livre_.vendeur));

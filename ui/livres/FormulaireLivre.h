@@ -1,5 +1,6 @@
 #pragma once
 
+#include "echanges/CouverturePrete.h"
 #include "model/Livre.h"
 #include "model/controle/Regles.h"
 #include "textes/ChampsDuLivre.h"
@@ -8,13 +9,16 @@
 #include <QList>
 #include <QWidget>
 
+#include <optional>
 #include <utility>
 
 namespace Quillet {
 
+class ChampCouverture;
 class ChampDeFiche;
 class Choix;
 class ChoixCouleur;
+class ImagesCouvertures;
 class Interrupteur;
 
 namespace Formulaire {
@@ -36,7 +40,7 @@ public:
         QList<std::pair<Vendeur, QString>> vendeurs; // one: it is not asked who sells
     };
 
-    explicit FormulaireLivre(QWidget *parent = nullptr);
+    explicit FormulaireLivre(ImagesCouvertures &images, QWidget *parent = nullptr);
 
     void setCadre(const Cadre &cadre);
     // A draft, of which nothing is said before it is typed.
@@ -45,6 +49,8 @@ public:
     void montrer(const Livre &livre);
     // With all that was typed and not refused.
     [[nodiscard]] const Livre &livre() const { return livre_; }
+    // The picture that is to become the book's cover, which `livre` does not name yet.
+    [[nodiscard]] const std::optional<CouverturePrete> &couverture() const { return couverture_; }
     // Takes what is still being typed.
     void conclure();
     // Says all that is wrong, and takes the focus to the first of it; true: nothing is.
@@ -52,7 +58,8 @@ public:
     void prendreLeFocus();
 
 signals:
-    // A field was left with something new: the book as it should become, and what that does ("titre de « … »").
+    // A field was left with something new, or another cover chosen: the book as it should become, and what that does
+    // ("titre de « … »").
     void saisi(const Livre &livre, const QString &geste);
     void refuse(); // what was typed; the field says why
 
@@ -60,6 +67,7 @@ private:
     Formulaire::Groupe *groupe(const QString &cles);
     ChampDeFiche *creer(const ChampDuLivre &champ);
     void saisir(const ChampDuLivre &champ, ChampDeFiche *ou, const QString &texte);
+    void oublier();
     void actualiser();
     void objecter();
     void signaler(const QString &nom);
@@ -70,6 +78,9 @@ private:
     QList<ChampDuLivre> description_;
     QHash<QString, ChampDeFiche *> champs_; // by the key that rules have for them
     QWidget *rangeeDuVendeur_ = nullptr;
+    ChampCouverture *image_;
+    std::optional<CouverturePrete> couverture_;
+    bool couleurChoisie_ = false; // by the seller: a new cover proposes none
     Choix *vendeur_;
     Interrupteur *disponible_;
     ChoixCouleur *couleur_;

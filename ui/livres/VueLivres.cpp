@@ -248,6 +248,8 @@ void VueLivres::retirer()
 
 void VueLivres::deplacer(qint64 id, EditionLivres::Cote cote, qint64 voisin)
 {
+    if (!contexte_.donnees().personnelles)
+        return;
     const QList<Livre> &livres = contexte_.donnees().livres;
     const auto livre = std::ranges::find(livres, id, &Livre::id);
     tenter(
