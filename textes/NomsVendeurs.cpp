@@ -2,29 +2,31 @@
 
 namespace Quillet {
 
-QString NomsVendeurs::court(Vendeur vendeur)
+QString NomsVendeurs::court(Vendeur vendeur, const Donnees &donnees)
 {
-    return traits(vendeur).nom.toString();
+    const QString place = traits(vendeur).nom.toString();
+    const auto identite = donnees.reglages.identite(vendeur);
+    return identite ? identite->nomCourt.value_or(donnees.personnelles ? identite->nom : place) : place;
 }
 
-QString NomsVendeurs::livresDeChacun()
+QString NomsVendeurs::livresDeChacun(const Donnees &donnees)
 {
     QStringList noms;
-    for (const Vendeur vendeur : tous<Vendeur>)
-        noms.append(court(vendeur));
+    for (const Vendeur vendeur : donnees.vendeurs())
+        noms.append(court(vendeur, donnees));
     return QStringLiteral("les livres de ") + noms.join(QStringLiteral(" et ceux de "));
 }
 
-QString NomsVendeurs::complet(Vendeur vendeur, const Reglages &reglages)
+QString NomsVendeurs::complet(Vendeur vendeur, const Donnees &donnees)
 {
-    const auto identite = reglages.identite(vendeur);
-    return identite ? identite->nom : court(vendeur);
+    const auto identite = donnees.reglages.identite(vendeur);
+    return identite ? identite->nom : court(vendeur, donnees);
 }
 
-QString NomsVendeurs::site(Vendeur vendeur, const Reglages &reglages)
+QString NomsVendeurs::site(Vendeur vendeur, const Donnees &donnees)
 {
-    const auto identite = reglages.identite(vendeur);
-    return identite ? identite->site.value_or(court(vendeur)) : court(vendeur);
+    const auto identite = donnees.reglages.identite(vendeur);
+    return identite && identite->site ? *identite->site : court(vendeur, donnees);
 }
 
 } // namespace Quillet

@@ -1,17 +1,18 @@
 #pragma once
 
-#include "model/Reglages.h"
+#include "model/Donnees.h"
 
 // How the sellers are called on the screens.
 namespace Quillet::NomsVendeurs {
 
-// "Davrel", "Mireva".
-QString court(Vendeur vendeur);
+// The short name that the seller chose, else the place's: "Davrel", "Mireva". Own data never call a seller by a name of
+// the example's: there the one of the documents comes first.
+QString court(Vendeur vendeur, const Donnees &donnees);
 // "les livres de Davrel et ceux de Mireva"
-QString livresDeChacun();
+QString livresDeChacun(const Donnees &donnees);
 // The name on the seller's documents; the short one when the seller has no identity.
-QString complet(Vendeur vendeur, const Reglages &reglages);
+QString complet(Vendeur vendeur, const Donnees &donnees);
 // The seller's web site; the short name when the seller has none.
-QString site(Vendeur vendeur, const Reglages &reglages);
+QString site(Vendeur vendeur, const Donnees &donnees);
 
 } // namespace Quillet::NomsVendeurs

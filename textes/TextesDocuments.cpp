@@ -43,17 +43,22 @@ Rubrique envoi(const Calcul &calcul)
     return envoi;
 }
 
-Rubrique article(int numero, const ArticleDouane &article)
+// `codeALArrivee`: empty when the one of everywhere does.
+Rubrique article(int numero, const ArticleDouane &article, const QString &codeALArrivee)
 {
-    return {.titre = QStringLiteral("Article %1").arg(numero),
-            .precision = QStringLiteral("%1 exemplaire%2")
-                             .arg(QString::number(article.quantite), QLatin1String(article.quantite > 1 ? "s" : "")),
-            .champs = {texte(QStringLiteral("Description"), article.description),
-                       poids(QStringLiteral("Poids net unitaire (kg)"), article.poidsUnitaire, true,
-                             QStringLiteral("Ce livre n’a pas encore été pesé : déclarez son vrai poids.")),
-                       montant(QStringLiteral("Valeur unitaire"), article.valeurUnitaire),
-                       texte(QStringLiteral("Pays d’origine"), article.origine),
-                       texte(QStringLiteral("N° tarifaire (SH)"), article.codeSH)}};
+    Rubrique rubrique{.titre = QStringLiteral("Article %1").arg(numero),
+                      .precision =
+                          QStringLiteral("%1 exemplaire%2")
+                              .arg(QString::number(article.quantite), QLatin1String(article.quantite > 1 ? "s" : "")),
+                      .champs = {texte(QStringLiteral("Description"), article.description),
+                                 poids(QStringLiteral("Poids net unitaire (kg)"), article.poidsUnitaire, true,
+                                       QStringLiteral("Ce livre n’a pas encore été pesé : déclarez son vrai poids.")),
+                                 montant(QStringLiteral("Valeur unitaire"), article.valeurUnitaire),
+                                 texte(QStringLiteral("Pays d’origine"), article.origine),
+                                 texte(QStringLiteral("N° tarifaire (SH)"), article.codeSH)}};
+    if (!codeALArrivee.isEmpty())
+        rubrique.champs.append(texte(QStringLiteral("N° tarifaire à l’arrivée"), codeALArrivee));
+    return rubrique;
 }
 
 Rubrique expediteur(const IdentiteVendeur &vendeur)
@@ -61,6 +66,8 @@ Rubrique expediteur(const IdentiteVendeur &vendeur)
     Rubrique expediteur{.titre = QStringLiteral("Expéditeur")};
     for (const QString &ligne : vendeur.adresse)
         expediteur.champs.append(texte(expediteur.champs.isEmpty() ? QStringLiteral("Adresse") : QString(), ligne));
+    if (vendeur.eori)
+        expediteur.champs.append(texte(QStringLiteral("N° EORI"), *vendeur.eori));
     return expediteur;
 }
 
@@ -129,23 +136,28 @@ QStringList TextesDocuments::instructionsDeDouane()
 QList<Rubrique> TextesDocuments::declaration(const Calcul &calcul, const Reglages &reglages)
 {
     QList<Rubrique> rubriques{envoi(calcul)};
+    const auto codes = reglages.douane.codesParDestination.value_or(QMap<CodeDestination, QString>());
+    const QString codeALArrivee = calcul.destination ? codes.value(calcul.destination->code) : QString();
     int numero = 0;
     for (const ArticleDouane &declare : articlesDouane(calcul, reglages.douane.codeSH))
-        rubriques.append(article(++numero, declare));
-    if (const auto vendeur = vendeurUnique(calcul, reglages); vendeur && !vendeur->adresse.isEmpty())
-        rubriques.append(expediteur(*vendeur));
+        rubriques.append(article(++numero, declare, codeALArrivee));
+    if (const auto vendeur = vendeurUnique(calcul, reglages))
+        if (const Rubrique rubrique = expediteur(*vendeur); !rubrique.champs.isEmpty())
+            rubriques.append(rubrique);
     return rubriques;
 }
 
 std::optional<TextesDocuments::Obstacle> TextesDocuments::obstacleALaFacture(const Calcul &calcul,
-                                                                             const Reglages &reglages)
+                                                                             const Donnees &donnees)
 {
     const QString impossible = QStringLiteral("Facture impossible");
     if (calcul.vendeurs().size() != 1)
         return Obstacle{QStringLiteral("person.2"), impossible,
-                        QStringLiteral("Une facture par vendeur : séparez %1 en deux commandes.")
-                            .arg(NomsVendeurs::livresDeChacun())};
-    if (const QString manque = sansIdentite(calcul, reglages); !manque.isEmpty())
+                        donnees.vendeurs().size() > 1
+                            ? QStringLiteral("Une facture par vendeur : séparez %1 en deux commandes.")
+                                  .arg(NomsVendeurs::livresDeChacun(donnees))
+                            : QStringLiteral("La commande n’a pas encore de livre.")};
+    if (const QString manque = sansIdentite(calcul, donnees); !manque.isEmpty())
         return Obstacle{QStringLiteral("person.2"), impossible, manque};
     if (!calcul.envoi)
         return Obstacle{QStringLiteral("doc.plaintext"),
@@ -154,12 +166,12 @@ std::optional<TextesDocuments::Obstacle> TextesDocuments::obstacleALaFacture(con
     return std::nullopt;
 }
 
-QString TextesDocuments::sansIdentite(const Calcul &calcul, const Reglages &reglages)
+QString TextesDocuments::sansIdentite(const Calcul &calcul, const Donnees &donnees)
 {
     for (const Vendeur vendeur : calcul.vendeurs())
-        if (!reglages.identite(vendeur))
+        if (!donnees.reglages.identite(vendeur))
             return QStringLiteral("Le nom et l’adresse de %1 manquent dans les réglages.")
-                .arg(NomsVendeurs::court(vendeur));
+                .arg(NomsVendeurs::court(vendeur, donnees));
     return {};
 }
 

@@ -2,7 +2,7 @@
 
 #include "documents/EmissionFacture.h"
 #include "model/Calcul.h"
-#include "model/Reglages.h"
+#include "model/Donnees.h"
 
 #include <QList>
 #include <QString>
@@ -47,9 +47,9 @@ struct Obstacle
 };
 
 // None when the invoice can be made.
-std::optional<Obstacle> obstacleALaFacture(const Calcul &calcul, const Reglages &reglages);
+std::optional<Obstacle> obstacleALaFacture(const Calcul &calcul, const Donnees &donnees);
 // That the settings lack the seller's identity; empty when they do not.
-QString sansIdentite(const Calcul &calcul, const Reglages &reglages);
+QString sansIdentite(const Calcul &calcul, const Donnees &donnees);
 // What is odd about a number; empty when it carries the day's series on.
 QString remarqueSurLeNumero(const QString &numero, const PlaceDuNumero &place, QDate jour);
 // That an invoice has left for this order, under the number `partie`; empty when there is none.

@@ -7,14 +7,11 @@
 
 namespace Quillet {
 
-namespace {
-
-QString vendu(const Livre &livre)
+QString TextesLivres::vendu(Vendeur vendeur, const Donnees &donnees)
 {
-    return QStringLiteral("vendu par ") + NomsVendeurs::court(livre.vendeur);
+    return donnees.vendeurs().size() > 1 ? QStringLiteral("vendu par ") + NomsVendeurs::court(vendeur, donnees)
+                                         : QString();
 }
-
-} // namespace
 
 QString TextesLivres::nombre(qsizetype livres)
 {
@@ -29,9 +26,10 @@ QString TextesLivres::fabrication(const Livre &livre)
     return QStringLiteral("%1 · %2").arg(livre.format, pages.arg(livre.pages));
 }
 
-QString TextesLivres::origine(const Livre &livre)
+QString TextesLivres::origine(const Livre &livre, const Donnees &donnees)
 {
-    return QStringLiteral("%1 · %2").arg(livre.auteur, vendu(livre));
+    const QString vendeur = vendu(livre.vendeur, donnees);
+    return vendeur.isEmpty() ? livre.auteur : QStringLiteral("%1 · %2").arg(livre.auteur, vendeur);
 }
 
 QString TextesLivres::edition(const Livre &livre)
@@ -49,10 +47,18 @@ QString TextesLivres::epuise()
     return QStringLiteral("Épuisé");
 }
 
-QString TextesLivres::enMots(const Livre &livre)
+QString TextesLivres::sansLivre(const Donnees &donnees)
 {
-    QStringList mots{livre.titre,  livre.auteur, fabrication(livre),
-                     vendu(livre), poids(livre), Format::euros(livre.prix)};
+    return donnees.vendeurs().size() > 1 ? QStringLiteral("Le catalogue n’a pas de livre de ce vendeur.")
+                                         : QStringLiteral("Le catalogue n’a pas encore de livre.");
+}
+
+QString TextesLivres::enMots(const Livre &livre, const QString &vendu)
+{
+    QStringList mots{livre.titre, livre.auteur, fabrication(livre)};
+    if (!vendu.isEmpty())
+        mots.append(vendu);
+    mots += {poids(livre), Format::euros(livre.prix)};
     if (!livre.disponible)
         mots.append(epuise());
     return mots.join(QStringLiteral(", "));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Livre.h"
+#include "model/Donnees.h"
 
 #include <QString>
 
@@ -11,14 +11,18 @@ namespace Quillet::TextesLivres {
 QString nombre(qsizetype livres);
 // "14 × 21 cm, broché · 288 pages"
 QString fabrication(const Livre &livre);
+// "vendu par Davrel"; empty when there is but one seller.
+QString vendu(Vendeur vendeur, const Donnees &donnees);
 // "Anselme Davrel · vendu par Davrel"
-QString origine(const Livre &livre);
+QString origine(const Livre &livre, const Donnees &donnees);
 // How it was made, and its ISBN.
 QString edition(const Livre &livre);
 // "355 g", or that the book was never weighed.
 QString poids(const Livre &livre);
 QString epuise();
-// The whole row, for a screen reader.
-QString enMots(const Livre &livre);
+// Of the seller that the order is for.
+QString sansLivre(const Donnees &donnees);
+// The whole row, for a screen reader; `vendu` as above.
+QString enMots(const Livre &livre, const QString &vendu);
 
 } // namespace Quillet::TextesLivres

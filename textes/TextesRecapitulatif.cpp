@@ -46,12 +46,12 @@ QList<TextesRecapitulatif::Ligne> TextesRecapitulatif::livres(const Calcul &calc
     return lignes;
 }
 
-QString TextesRecapitulatif::autresLivres(const QList<Livre> &livres, const BonDeCommande &bon)
+QString TextesRecapitulatif::autresLivres(const Donnees &donnees, const BonDeCommande &bon)
 {
     QStringList phrases;
     for (const Vendeur vendeur : tous<Vendeur>) {
         int nombre = 0;
-        for (const Livre &livre : livres)
+        for (const Livre &livre : donnees.livres)
             if (livre.vendeur == vendeur && vendeur != bon.vendeur)
                 nombre += bon.quantite(livre);
         if (nombre == 0)
@@ -60,7 +60,7 @@ QString TextesRecapitulatif::autresLivres(const QList<Livre> &livres, const BonD
                                 ? QStringLiteral("%1 livre de %2 reste aussi dans la commande ; il ne compte pas ici.")
                                 : QStringLiteral("%1 livres de %2 restent aussi dans la commande ; ils ne comptent "
                                                  "pas ici.");
-        phrases.append(phrase.arg(nombre).arg(NomsVendeurs::court(vendeur)));
+        phrases.append(phrase.arg(nombre).arg(NomsVendeurs::court(vendeur, donnees)));
     }
     return phrases.join(u' ');
 }

@@ -56,7 +56,7 @@ QString resume(const Calcul &calcul, bool videe = false);
 
 QList<Ligne> livres(const Calcul &calcul);
 // That the order also holds books of another seller, which do not count; empty when it holds none.
-QString autresLivres(const QList<Livre> &livres, const BonDeCommande &bon);
+QString autresLivres(const Donnees &donnees, const BonDeCommande &bon);
 QString emballage(const Emballage &emballage);
 std::optional<Ligne> palier(const Calcul &calcul);
 // That no tier comes after the parcel's; empty when one does.

@@ -2,8 +2,16 @@
 
 #include "documents/AdresseMail.h"
 #include "model/LienPaypal.h"
+#include "textes/NomsVendeurs.h"
 
 namespace Quillet {
+
+QString TextesReponse::impossible(const Donnees &donnees)
+{
+    return donnees.vendeurs().size() > 1
+               ? QStringLiteral("Une réponse par vendeur : séparez %1.").arg(NomsVendeurs::livresDeChacun(donnees))
+               : QStringLiteral("La commande n’a pas encore de livre.");
+}
 
 QString TextesReponse::lienAbsent(const ReponseType &reponse)
 {

@@ -1,6 +1,7 @@
 #include "tests/Rangees.h"
 #include "tests/textes/Cas.h"
 #include "textes/FiltreLivres.h"
+#include "textes/NomsVendeurs.h"
 #include "textes/TextesDocuments.h"
 #include "textes/TextesLivres.h"
 #include "textes/TextesReponse.h"
@@ -60,6 +61,56 @@ private slots:
             const auto reponse = ReponseType::de(cas.calcul(), cas.banc.reglages, cas.bon, lien);
             QVERIFY(reponse);
             QCOMPARE(TextesReponse::lienDouteux(*reponse), remarque);
+        }
+    }
+
+    // Own data never call anybody by the example's names, nor speak of a seller who is not there.
+    void nomsDesVendeurs()
+    {
+        struct Attendu
+        {
+            const char *court;
+            const char *site;
+            const char *vendu;
+            const char *obstacle;
+        };
+        const char *separez = "Une réponse par vendeur : séparez les livres de Davrel et ceux de Mireva.";
+        for (const auto &[nom, personnelles, nomCourt, deux, attendu] : Rangees<bool, const char *, bool, Attendu>{
+                 {"exemple", false, nullptr, true, {"Davrel", "davrel.example", "vendu par Davrel", separez}},
+                 {"les siennes",
+                  true,
+                  nullptr,
+                  true,
+                  {"Éditions Davrel", "davrel.example", "vendu par Éditions Davrel",
+                   "Une réponse par vendeur : séparez les livres de Éditions Davrel et ceux de Mireva."}},
+                 {"nom court",
+                  true,
+                  "Anne",
+                  true,
+                  {"Anne", "davrel.example", "vendu par Anne",
+                   "Une réponse par vendeur : séparez les livres de Anne et ceux de Mireva."}},
+                 {"un seul",
+                  true,
+                  "Anne",
+                  false,
+                  {"Anne", "davrel.example", "", "La commande n’a pas encore de livre."}},
+             }) {
+            const Rangee rangee(nom);
+            Donnees donnees = Banc().donnees();
+            donnees.personnelles = personnelles;
+            if (nomCourt)
+                donnees.reglages.vendeurs[Vendeur::davrel].nomCourt = QString::fromUtf8(nomCourt);
+            if (!deux)
+                donnees.livres.removeIf([](const Livre &livre) { return livre.vendeur == Vendeur::mireva; });
+            QCOMPARE(NomsVendeurs::court(Vendeur::davrel, donnees), attendu.court);
+            QCOMPARE(NomsVendeurs::site(Vendeur::davrel, donnees), attendu.site);
+            const QString vendu = TextesLivres::vendu(Vendeur::davrel, donnees);
+            QCOMPARE(vendu, attendu.vendu);
+            const QString suite = vendu.isEmpty() ? QString() : ", " + vendu;
+            const Livre &livre = donnees.livres[0];
+            QVERIFY(TextesLivres::enMots(livre, vendu).contains("200 pages" + suite + ", 200"));
+            QCOMPARE(TextesLivres::origine(livre, donnees), vendu.isEmpty() ? "Une autrice" : "Une autrice · " + vendu);
+            QCOMPARE(lisible(TextesReponse::impossible(donnees)), attendu.obstacle);
         }
     }
 
@@ -176,6 +227,41 @@ private slots:
             QCOMPARE(dite().etat.texte, verifications.etatLaPoste().message);
             QCOMPARE(dite().rappel.symbole, rappele ? symbole : "");
             QCOMPARE(dite().rappel.texte, rappele ? etat : "");
+        }
+    }
+
+    // What a seller adds comes after the values that are always there.
+    void valeursDeDouane()
+    {
+        const char *toujours = "Nature de l’envoi|Frais de port|Poids brut du colis (kg)|Valeur totale|Description|"
+                               "Poids net unitaire (kg)|Valeur unitaire|Pays d’origine|N° tarifaire (SH)";
+        for (const auto &[nom, eori, codes, adresse, titres] :
+             Rangees<bool, QMap<CodeDestination, QString>, bool, QString>{
+                 {"rien de plus", false, {}, true, "%1|Adresse|"},
+                 {"tout",
+                  true,
+                  {{vers("suisse"), "4901990000"}},
+                  true,
+                  "%1|N° tarifaire à l’arrivée=4901990000|Adresse||N° EORI=FR1"},
+                 {"sans adresse", true, {{vers("lune"), "4901990000"}}, false, "%1|N° EORI=FR1"},
+             }) {
+            const Rangee rangee(nom);
+            Cas cas;
+            cas.bon.codeDestination = vers("suisse");
+            cas.bon.ajuster(cas.banc.livres[0], 1);
+            cas.banc.reglages.douane.codesParDestination = codes;
+            IdentiteVendeur &vendeur = cas.banc.reglages.vendeurs[Vendeur::davrel];
+            if (eori)
+                vendeur.eori = "FR1";
+            if (!adresse)
+                vendeur.adresse.clear();
+            QStringList lus;
+            for (const auto &rubrique : TextesDocuments::declaration(cas.calcul(), cas.banc.reglages))
+                for (const auto &champ : rubrique.champs) {
+                    const bool ajoute = champ.titre == "N° EORI" || champ.titre.endsWith("l’arrivée");
+                    lus.append(ajoute ? champ.titre + u'=' + champ.valeur : champ.titre);
+                }
+            QCOMPARE(lus.join(u'|'), titres.arg(QString::fromUtf8(toujours)));
         }
     }
 

@@ -92,7 +92,7 @@ private slots:
             Cas cas;
             cas.bon.ajuster(cas.banc.livres[0], miens);
             cas.bon.ajuster(cas.banc.livres[2], siens);
-            QCOMPARE(autresLivres(cas.banc.livres, cas.bon), phrase);
+            QCOMPARE(autresLivres(cas.banc.donnees(), cas.bon), phrase);
         }
     }
 

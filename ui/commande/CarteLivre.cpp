@@ -83,15 +83,16 @@ QString dansLaCommande(int quantite)
     return QStringLiteral("%1 dans la commande").arg(quantite);
 }
 
-QString enMots(const Livre &livre, int quantite)
+QString enMots(const Livre &livre, const QString &vendu, int quantite)
 {
-    const QString mots = TextesLivres::enMots(livre);
+    const QString mots = TextesLivres::enMots(livre, vendu);
     return quantite > 0 ? QStringLiteral("%1, %2").arg(mots, dansLaCommande(quantite)) : mots;
 }
 
 } // namespace
 
-CarteLivre::CarteLivre(const Livre &livre, Commande &commande, ImagesCouvertures &images, QWidget *parent)
+CarteLivre::CarteLivre(const Livre &livre, const QString &vendu, Commande &commande, ImagesCouvertures &images,
+                       QWidget *parent)
     : QWidget(parent),
       livre_(livre),
       commande_(commande),
@@ -100,20 +101,21 @@ CarteLivre::CarteLivre(const Livre &livre, Commande &commande, ImagesCouvertures
 {
     connect(couverture_, &QAbstractButton::clicked, this, [this] { compter(quantite_ + 1); });
     connect(selecteur_, &SelecteurQuantite::demande, this, [this](int difference) { compter(quantite_ + difference); });
-    montrer(livre, commande.bon().quantite(livre));
+    montrer(livre, vendu, commande.bon().quantite(livre));
     TailleDuTexte::suivre(this, [this] { placer(); });
 }
 
-void CarteLivre::montrer(const Livre &livre, int quantite)
+void CarteLivre::montrer(const Livre &livre, const QString &vendu, int quantite)
 {
-    if (quantite == quantite_ && livre == livre_)
+    if (quantite == quantite_ && vendu == vendu_ && livre == livre_)
         return; // most cards, at most changes
     if (quantite != quantite_ && couverture_->hasFocus())
         LecteurDEcran::annoncer(couverture_, dansLaCommande(quantite));
     livre_ = livre;
+    vendu_ = vendu;
     quantite_ = quantite;
     couverture_->montrer(livre, quantite);
-    couverture_->setAccessibleName(enMots(livre, quantite));
+    couverture_->setAccessibleName(enMots(livre, vendu, quantite));
     setToolTip(livre.titreComplet);
     selecteur_->montrer(quantite);
     selecteur_->setVisible(livre.disponible);

@@ -17,10 +17,11 @@ class CarteLivre : public QWidget
     Q_OBJECT
 
 public:
-    CarteLivre(const Livre &livre, Commande &commande, ImagesCouvertures &images, QWidget *parent = nullptr);
+    CarteLivre(const Livre &livre, const QString &vendu, Commande &commande, ImagesCouvertures &images,
+               QWidget *parent = nullptr);
 
     [[nodiscard]] const Livre &livre() const { return livre_; }
-    void montrer(const Livre &livre, int quantite);
+    void montrer(const Livre &livre, const QString &vendu, int quantite);
     // So many copies in the order; of a sold-out book, the number stays.
     void compter(int exemplaires);
     [[nodiscard]] int quantite() const { return quantite_; }
@@ -46,6 +47,7 @@ private:
     [[nodiscard]] QRect ligneDuBas() const;
 
     Livre livre_;
+    QString vendu_; // by whom, in words
     Commande &commande_;
     int quantite_ = -1; // shown; -1: nothing yet
     Couverture *couverture_;

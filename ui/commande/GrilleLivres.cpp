@@ -85,21 +85,21 @@ bool GrilleLivres::eventFilter(QObject *objet, QEvent *evenement)
     return false;
 }
 
-void GrilleLivres::montrer(const QList<Livre> &livres)
+void GrilleLivres::montrer(const QList<Livre> &livres, const QString &vendu)
 {
     const bool memes = std::ranges::equal(
         cartes_, livres, std::ranges::equal_to{}, [](const CarteLivre *carte) { return carte->livre().id; },
         &Livre::id);
     if (!memes) {
-        remplacerLesCartes(livres);
+        remplacerLesCartes(livres, vendu);
         return;
     }
     TransitionCartes::arreter(this); // it shows the cards as they were
     for (qsizetype i = 0; i < livres.size(); ++i)
-        cartes_[i]->montrer(livres[i], commande_.bon().quantite(livres[i]));
+        cartes_[i]->montrer(livres[i], vendu, commande_.bon().quantite(livres[i]));
 }
 
-void GrilleLivres::remplacerLesCartes(const QList<Livre> &livres)
+void GrilleLivres::remplacerLesCartes(const QList<Livre> &livres, const QString &vendu)
 {
     TransitionCartes::arreter(this); // cards that it covers cannot be taken into a picture
     const auto sortantes = TransitionCartes::instantanes(cartes_);
@@ -107,7 +107,7 @@ void GrilleLivres::remplacerLesCartes(const QList<Livre> &livres)
     qDeleteAll(cartes_);
     cartes_.clear();
     for (const Livre &livre : livres)
-        cartes_.append(new CarteLivre(livre, commande_, images_, this));
+        cartes_.append(new CarteLivre(livre, vendu, commande_, images_, this));
     updateGeometry();
     placer();
     QWidget *precedent = precedent_;

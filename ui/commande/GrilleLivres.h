@@ -25,7 +25,8 @@ public:
     GrilleLivres(Commande &commande, ImagesCouvertures &images, QWidget *precedent, QWidget *parent = nullptr);
 
     // Cards of other books enter and leave with a fade; the same books are only brought up to date.
-    void montrer(const QList<Livre> &livres);
+    // Of one seller; `vendu` says by whom.
+    void montrer(const QList<Livre> &livres, const QString &vendu);
 
     // The cover where the keyboard was last, or the first; null when there is none.
     [[nodiscard]] QWidget *arret() const;
@@ -48,7 +49,7 @@ protected:
     void hideEvent(QHideEvent *evenement) override;
 
 private:
-    void remplacerLesCartes(const QList<Livre> &livres);
+    void remplacerLesCartes(const QList<Livre> &livres, const QString &vendu);
     void placer();
 
     Commande &commande_;

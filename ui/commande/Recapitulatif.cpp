@@ -32,7 +32,7 @@ Recapitulatif::Recapitulatif(const Contexte &contexte, const Suivi &suivi, QWidg
       contexte_(contexte),
       suivi_(suivi),
       livres_(new SectionLivres),
-      poids_(new SectionPoids(contexte.donnees().reglages.emballages, contexte.commande)),
+      poids_(new SectionPoids(contexte.donnees(), contexte.commande)),
       destination_(new SectionDestination(contexte.donnees(), contexte.commande)),
       montants_(new SectionMontants(contexte.donnees().reglages)),
       lien_(new SectionLien(contexte.donnees(), contexte.commande, suivi)),
@@ -84,7 +84,7 @@ QSize Recapitulatif::minimumSizeHint() const
 
 void Recapitulatif::montrer(const Calcul &calcul)
 {
-    livres_->montrer(calcul, TextesRecapitulatif::autresLivres(contexte_.donnees().livres, contexte_.bon()));
+    livres_->montrer(calcul, TextesRecapitulatif::autresLivres(contexte_.donnees(), contexte_.bon()));
     poids_->montrer(calcul);
     destination_->montrer(calcul);
     montants_->montrer(calcul);

@@ -45,9 +45,7 @@ SectionDestination::SectionDestination(const Donnees &donnees, Commande &command
     Raccourcis::dire(recherche_, Raccourcis::Geste::chercherUnPays);
     Raccourcis::lier(recherche_, Raccourcis::Geste::chercherUnPays,
                      [this] { recherche_->setFocus(Qt::ShortcutFocusReason); });
-    recherche_->setVisible(!donnees.pays.isEmpty());
-    for (const Destination &destination : donnees.destinations)
-        destination_->ajouter(destination.libelleCourt, destination.code.texte());
+    proposerLesDestinations();
     nomComplet_->setFont(Theme::encadre());
     nomComplet_->setWordWrap(true);
     rangeeHorsUE_->setDetail(QStringLiteral("hors Union européenne : déclaration en douane"));
@@ -84,10 +82,21 @@ void SectionDestination::envoyer(const Pays &pays)
         emit remarquee(remarque_);
 }
 
+void SectionDestination::proposerLesDestinations()
+{
+    proposees_ = donnees_.destinations;
+    destination_->clear();
+    for (const Destination &destination : std::as_const(proposees_))
+        destination_->ajouter(destination.libelleCourt, destination.code.texte());
+}
+
 void SectionDestination::montrer(const Calcul &calcul)
 {
     if (commande_.peutRendre())
         recherche_->renoncer();
+    recherche_->setVisible(!donnees_.pays.isEmpty());
+    if (proposees_ != donnees_.destinations)
+        proposerLesDestinations();
     destination_->montrer(commande_.bon().codeDestination.texte());
     const QString complet = TextesRecapitulatif::destinationComplete(calcul);
     nomComplet_->setText(complet);

@@ -29,6 +29,7 @@ signals:
     void remarquee(QWidget *remarque);
 
 private:
+    void proposerLesDestinations();
     void envoyer(const Pays &pays);
     void remarquer(); // of the order's country, in place of what a search has said
 
@@ -38,6 +39,7 @@ private:
     QList<Pays> trouves_; // proposed under it
     Alerte *remarque_;
     Choix *destination_;
+    QList<Destination> proposees_;
     Libelle *nomComplet_;
     Interrupteur *horsUE_;
     Formulaire::Rangee *rangeeHorsUE_;

@@ -6,9 +6,12 @@
 #include "composants/Pile.h"
 #include "composants/Theme.h"
 #include "model/Commande.h"
+#include "model/Donnees.h"
 #include "model/Format.h"
 #include "textes/TextesRecapitulatif.h"
 #include "ui/commande/ChampGrammes.h"
+
+#include <utility>
 
 namespace Quillet {
 
@@ -30,29 +33,21 @@ QWidget *avecUnite(ChampGrammes *champ)
     return ensemble;
 }
 
-Choix *choixDEmballage(const QList<Emballage> &emballages)
-{
-    auto *choix = new Choix;
-    for (const Emballage &emballage : emballages)
-        choix->ajouter(TextesRecapitulatif::emballage(emballage), emballage.nom);
-    choix->insertSeparator(choix->count());
-    choix->ajouter(BonDeCommande::autrePoids(), BonDeCommande::autrePoids());
-    return choix;
-}
-
 } // namespace
 
-SectionPoids::SectionPoids(const QList<Emballage> &emballages, Commande &commande, QWidget *parent)
+SectionPoids::SectionPoids(const Donnees &donnees, Commande &commande, QWidget *parent)
     : Section(QStringLiteral("Poids"), {}, parent),
+      donnees_(donnees),
       commande_(commande),
       poidsLivres_(QStringLiteral("Livres")),
-      emballage_(choixDEmballage(emballages)),
+      emballage_(new Choix),
       poidsLibre_(champ(QStringLiteral("Poids de l’emballage"))),
       rangeePoidsLibre_(new Formulaire::Rangee(QStringLiteral("Poids de l’emballage"), avecUnite(poidsLibre_))),
       poidsCalcule_(QStringLiteral("Poids calculé")),
       poidsPese_(champ(QStringLiteral("Colis pesé"))),
       avertissements_(Pile::enColonne({.espace = 10}, {}))
 {
+    proposerLesEmballages();
     poidsPese_->setPlaceholderText(Format::absent);
     poidsPese_->setFont(Theme::enGras(font()));
     auto *colisPese = new Formulaire::Rangee(QStringLiteral("Colis pesé"), avecUnite(poidsPese_));
@@ -73,9 +68,21 @@ SectionPoids::SectionPoids(const QList<Emballage> &emballages, Commande &command
     connect(poidsPese_, &ChampGrammes::saisi, &commande_, &Commande::setPoidsPese);
 }
 
+void SectionPoids::proposerLesEmballages()
+{
+    proposes_ = donnees_.reglages.emballages;
+    emballage_->clear();
+    for (const Emballage &emballage : std::as_const(proposes_))
+        emballage_->ajouter(TextesRecapitulatif::emballage(emballage), emballage.nom);
+    emballage_->insertSeparator(emballage_->count());
+    emballage_->ajouter(BonDeCommande::autrePoids(), BonDeCommande::autrePoids());
+}
+
 void SectionPoids::montrer(const Calcul &calcul)
 {
     poidsLivres_.montant->afficher(Format::poids(calcul.poidsLivres));
+    if (proposes_ != donnees_.reglages.emballages)
+        proposerLesEmballages();
     emballage_->montrer(commande_.bon().emballage);
     rangeePoidsLibre_->setVisible(commande_.bon().emballage == BonDeCommande::autrePoids());
     poidsLibre_->montrer(commande_.bon().poidsEmballageLibre);

@@ -9,6 +9,7 @@ namespace Quillet {
 class Commande;
 class ChampGrammes;
 class Choix;
+struct Donnees;
 
 // The weights, the packaging, the weighed parcel and what to beware of.
 class SectionPoids : public Formulaire::Section
@@ -16,16 +17,20 @@ class SectionPoids : public Formulaire::Section
     Q_OBJECT
 
 public:
-    SectionPoids(const QList<Emballage> &emballages, Commande &commande, QWidget *parent = nullptr);
+    // `donnees` are read each time the screen is brought up to date.
+    SectionPoids(const Donnees &donnees, Commande &commande, QWidget *parent = nullptr);
     void montrer(const Calcul &calcul);
 
 private:
+    void proposerLesEmballages();
     void montrerPoidsCalcule(const Calcul &calcul);
     void montrerAvertissements(const Calcul &calcul);
 
+    const Donnees &donnees_;
     Commande &commande_;
     RangeeMontant poidsLivres_;
     Choix *emballage_;
+    QList<Emballage> proposes_;
     ChampGrammes *poidsLibre_;
     QWidget *rangeePoidsLibre_;
     RangeeMontant poidsCalcule_;

@@ -1,22 +1,23 @@
 #pragma once
 
-#include "model/Reglages.h"
+#include "model/Vendeur.h"
 
 #include <QWidget>
 
 namespace Quillet {
 
 class ChoixSegmente;
+struct Donnees;
 
-// The seller picker, by the names of the sellers' sites.
+// The seller picker, by the names of the sellers' sites; hidden when there is but one.
 class SelecteurSite : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit SelecteurSite(const Reglages &reglages, QWidget *parent = nullptr);
+    explicit SelecteurSite(const Donnees &donnees, QWidget *parent = nullptr);
 
-    void montrer(Vendeur vendeur);
+    void montrer(const Donnees &donnees, Vendeur vendeur);
     // The last one that the Tab key reaches.
     [[nodiscard]] QWidget *dernierControle() const;
 
@@ -24,6 +25,8 @@ signals:
     void choisi(Vendeur vendeur);
 
 private:
+    void nommer(const Donnees &donnees);
+
     ChoixSegmente *choix_;
 };
 

@@ -9,6 +9,7 @@
 #include "composants/TailleDuTexte.h"
 #include "composants/Theme.h"
 #include "documents/ReponseType.h"
+#include "textes/TextesLivres.h"
 #include "textes/TextesRecapitulatif.h"
 #include "ui/Colonnes.h"
 #include "ui/Contexte.h"
@@ -48,10 +49,9 @@ VueCommande::VueCommande(const Contexte &contexte, QWidget *parent)
       enTete_(new EnTete(QStringLiteral("Commande"))),
       reinitialiser_(new QPushButton(Icone::icone(QStringLiteral("arrow.counterclockwise")),
                                      QStringLiteral("Tout réinitialiser"))),
-      selecteur_(new SelecteurSite(contexte.donnees().reglages)),
+      selecteur_(new SelecteurSite(contexte.donnees())),
       grille_(new GrilleLivres(contexte.commande, contexte.images, selecteur_->dernierControle())),
-      sansLivre_(new EtatVide(QStringLiteral("books.vertical"), {},
-                              QStringLiteral("Le catalogue n’a pas de livre de ce vendeur."))),
+      sansLivre_(new EtatVide),
       recapitulatif_(new Recapitulatif(contexte, suivi_)),
       annonce_(this, [this] { return resume_; })
 {
@@ -120,12 +120,16 @@ void VueCommande::actualiser()
     const Calcul calcul = contexte_.calcul();
     suivi_.suivre(contexte_.bon(), calcul.total);
     enTete_->setSousTitre(TextesRecapitulatif::sousTitre(calcul));
-    selecteur_->montrer(contexte_.bon().vendeur);
+    const Donnees &donnees = contexte_.donnees();
+    const Vendeur vendeur = contexte_.bon().vendeur;
+    selecteur_->montrer(donnees, vendeur);
     QList<Livre> livres;
-    std::ranges::copy_if(contexte_.donnees().livres, std::back_inserter(livres),
-                         [&](const Livre &livre) { return livre.vendeur == contexte_.bon().vendeur; });
-    grille_->montrer(livres);
+    std::ranges::copy_if(donnees.livres, std::back_inserter(livres),
+                         [&](const Livre &livre) { return livre.vendeur == vendeur; });
+    grille_->montrer(livres, TextesLivres::vendu(vendeur, donnees));
     grille_->setVisible(!livres.isEmpty());
+    if (livres.isEmpty())
+        sansLivre_->montrer(QStringLiteral("books.vertical"), {}, TextesLivres::sansLivre(donnees));
     sansLivre_->setVisible(livres.isEmpty());
     recapitulatif_->montrer(calcul);
     if (reinitialiser_->hasFocus() && contexte_.commande.peutRendre())

@@ -22,8 +22,8 @@ constexpr int colonneDesTitres = 170;
 
 } // namespace
 
-FicheDouane::FicheDouane(const Reglages &reglages, QWidget *parent)
-    : QStackedWidget(parent), reglages_(reglages), defilement_(new Defilement)
+FicheDouane::FicheDouane(const Donnees &donnees, QWidget *parent)
+    : QStackedWidget(parent), donnees_(donnees), defilement_(new Defilement)
 {
     addWidget(defilement_);
     addWidget(new EtatVide(
@@ -34,11 +34,11 @@ FicheDouane::FicheDouane(const Reglages &reglages, QWidget *parent)
 void FicheDouane::montrer(const Calcul &calcul)
 {
     setCurrentIndex(calcul.douaneRequise ? 0 : 1);
-    const auto rubriques = TextesDocuments::declaration(calcul, reglages_);
+    const auto rubriques = TextesDocuments::declaration(calcul, donnees_.reglages);
     if (!calcul.douaneRequise || rubriques == montrees_)
         return; // a new page would lose the focus and the check marks
     montrees_ = rubriques;
-    defilement_->setWidget(page(TextesDocuments::sansIdentite(calcul, reglages_)));
+    defilement_->setWidget(page(TextesDocuments::sansIdentite(calcul, donnees_)));
 }
 
 QWidget *FicheDouane::instructions()

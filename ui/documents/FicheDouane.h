@@ -14,15 +14,15 @@ class FicheDouane : public QStackedWidget
     Q_OBJECT
 
 public:
-    // `reglages` is read each time the screen is brought up to date.
-    explicit FicheDouane(const Reglages &reglages, QWidget *parent = nullptr);
+    // `donnees` are read each time the screen is brought up to date.
+    explicit FicheDouane(const Donnees &donnees, QWidget *parent = nullptr);
     void montrer(const Calcul &calcul);
 
 private:
     [[nodiscard]] QWidget *instructions();
     [[nodiscard]] QWidget *page(const QString &manque);
 
-    const Reglages &reglages_;
+    const Donnees &donnees_;
     QList<TextesDocuments::Rubrique> montrees_;
     Defilement *defilement_;
 };

@@ -152,7 +152,7 @@ void FicheFacture::direLIssue(const QString &issue)
 
 void FicheFacture::montrer(const Calcul &calcul)
 {
-    const auto obstacle = TextesDocuments::obstacleALaFacture(calcul, contexte_.donnees().reglages);
+    const auto obstacle = TextesDocuments::obstacleALaFacture(calcul, contexte_.donnees());
     if (obstacle) {
         passerA(Page::impossible);
         facture_.reset();

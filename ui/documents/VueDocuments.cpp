@@ -19,7 +19,7 @@ constexpr QSize tailleDesDocuments(760, 720);
 VueDocuments::VueDocuments(const Contexte &contexte, OngletDocuments onglet, QWidget *parent)
     : Feuille(QStringLiteral("Documents d’envoi"), parent),
       contexte_(contexte),
-      douane_(new FicheDouane(contexte.donnees().reglages)),
+      douane_(new FicheDouane(contexte.donnees())),
       facture_(new FicheFacture(contexte))
 {
     auto *onglets =

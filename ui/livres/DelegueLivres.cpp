@@ -111,7 +111,7 @@ void DelegueLivres::paint(QPainter *peintre, const QStyleOptionViewItem &option,
 void DelegueLivres::peindreTitre(QPainter &peintre, const QRect &cadre, const Livre &premier,
                                  const QPalette &palette) const
 {
-    const QString nom = NomsVendeurs::court(premier.vendeur);
+    const QString nom = NomsVendeurs::court(premier.vendeur, modele_.donnees());
     const QFontMetrics mesures(Theme::titreCarte());
     const int base = cadre.bottom() - mesures.descent();
     peintre.setFont(Theme::titreCarte());

@@ -73,8 +73,9 @@ private:
     Livre livre_;
 };
 
-FicheLivre::FicheLivre(ImagesCouvertures &images, QWidget *parent)
+FicheLivre::FicheLivre(const Donnees &donnees, ImagesCouvertures &images, QWidget *parent)
     : QWidget(parent),
+      donnees_(donnees),
       titre_(new Libelle({})),
       auteur_(ligneDiscrete()),
       fabrication_(ligneDiscrete()),
@@ -179,7 +180,7 @@ void FicheLivre::montrer(const Livre &livre, const QList<PrixBouton> &boutons, c
     boutons_ = boutons;
     image_->montrer(livre);
     titre_->setText(livre.titreComplet);
-    auteur_->setText(TextesLivres::origine(livre));
+    auteur_->setText(TextesLivres::origine(livre, donnees_));
     fabrication_->setText(TextesLivres::edition(livre));
     prix_->montrer(Saisie::ecrit(livre.prix));
     poids_->montrer(Saisie::ecrit(livre.poids));

@@ -15,6 +15,7 @@ class ImagesCouvertures;
 class Interrupteur;
 class Libelle;
 class TableauBoutons;
+struct Donnees;
 
 // One book: its price, weight and availability to edit, and its PayPal buttons to keep in step.
 class FicheLivre : public QWidget
@@ -22,7 +23,8 @@ class FicheLivre : public QWidget
     Q_OBJECT
 
 public:
-    explicit FicheLivre(ImagesCouvertures &images, QWidget *parent = nullptr);
+    // `donnees` are read each time the page is brought up to date.
+    FicheLivre(const Donnees &donnees, ImagesCouvertures &images, QWidget *parent = nullptr);
 
     // `suivant` tells whether another book has prices to report.
     void montrer(const Livre &livre, const QList<PrixBouton> &boutons, const TarifsColissimo &tarifs, bool suivant);
@@ -48,6 +50,7 @@ private:
     QWidget *commandes();
     QWidget *boutonsPaypal();
 
+    const Donnees &donnees_;
     Livre livre_;
     QList<PrixBouton> boutons_;
     class Image;

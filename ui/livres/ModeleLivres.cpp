@@ -159,13 +159,18 @@ QList<qint64> ModeleLivres::ids() const
 
 Qt::ItemFlags ModeleLivres::flags(const QModelIndex &indice) const
 {
-    const Qt::ItemFlags flags = QAbstractListModel::flags(indice) | Qt::ItemNeverHasChildren;
-    return catalogue_.donnees().personnelles ? flags | Qt::ItemIsDragEnabled : flags;
+    const Qt::ItemFlags flags = QAbstractListModel::flags(indice);
+    return indice.isValid() && donnees().personnelles ? flags | Qt::ItemIsDragEnabled : flags;
 }
 
 Qt::DropActions ModeleLivres::supportedDropActions() const
 {
     return Qt::MoveAction;
+}
+
+const Donnees &ModeleLivres::donnees() const
+{
+    return catalogue_.donnees();
 }
 
 qsizetype ModeleLivres::nombre(Vendeur vendeur) const
@@ -180,7 +185,8 @@ int ModeleLivres::rowCount(const QModelIndex &parent) const
 
 QString ModeleLivres::enMots(int rang) const
 {
-    const QString mots = TextesLivres::enMots(livre(rang));
+    const QString mots =
+        TextesLivres::enMots(livre(rang), TextesLivres::vendu(livre(rang).vendeur, catalogue_.donnees()));
     return aReporter(rang) == 0 ? mots : mots + QStringLiteral(", ") + TextesBoutons::nombreAReporter(aReporter(rang));
 }
 

@@ -12,6 +12,7 @@
 namespace Quillet {
 
 class Catalogue;
+struct Donnees;
 
 // The books that the filter retains, one seller's after the other's, each in the catalogue's order. A book that the
 // seller's own work takes out of the filter stays until the filter changes: the list does not move under the hand.
@@ -21,6 +22,8 @@ class ModeleLivres : public QAbstractListModel
 
 public:
     explicit ModeleLivres(const Catalogue &catalogue, QObject *parent = nullptr);
+
+    [[nodiscard]] const Donnees &donnees() const;
 
     void setFiltre(const FiltreLivres &filtre);
     // The schedule against which buttons are counted; nothing is counted before there is one.

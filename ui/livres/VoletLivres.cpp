@@ -22,6 +22,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QStackedWidget>
 
@@ -99,10 +100,10 @@ QWidget *VoletLivres::filtres()
         croix->setText(QStringLiteral("Effacer la recherche"));
     QStringList vendeurs{QStringLiteral("Tous")};
     for (const Vendeur vendeur : tous<Vendeur>)
-        vendeurs.append(NomsVendeurs::court(vendeur));
-    auto *vendeur = new ChoixSegmente(vendeurs, {.police = Theme::encadre(), .hauteur = 26});
-    vendeur->setAccessibleName(QStringLiteral("Vendeur"));
-    vendeur->montrer(0);
+        vendeurs.append(NomsVendeurs::court(vendeur, catalogue_.donnees()));
+    vendeur_ = new ChoixSegmente(vendeurs, {.police = Theme::encadre(), .hauteur = 26});
+    vendeur_->setAccessibleName(QStringLiteral("Vendeur"));
+    vendeur_->montrer(0);
     auto *etat = new Choix;
     etat->setAccessibleName(QStringLiteral("État"));
     etat->ajouter(QStringLiteral("Tous les livres"), cle(FiltreLivres::Etat::tous));
@@ -114,7 +115,7 @@ QWidget *VoletLivres::filtres()
         filtre_.recherche = FiltreLivres::mots(texte);
         filtrer();
     });
-    connect(vendeur, &ChoixSegmente::choisi, this, [this](int choisi) {
+    connect(vendeur_, &ChoixSegmente::choisi, this, [this](int choisi) {
         filtre_.vendeur = choisi == 0 ? std::nullopt : std::optional(tous<Vendeur>[choisi - 1]);
         filtrer();
     });
@@ -124,12 +125,33 @@ QWidget *VoletLivres::filtres()
     });
 
     QWidget *filtres =
-        Pile::enColonne({.marges = {margeGauche, 16, marge, 4}, .espace = 8}, {recherche_, vendeur, etat});
+        Pile::enColonne({.marges = {margeGauche, 16, marge, 4}, .espace = 8}, {recherche_, vendeur_, etat});
     // On X11 a list to choose from is called by its label only.
     auto *etiquette = new QLabel(etat->accessibleName(), filtres);
     etiquette->setBuddy(etat);
     etiquette->hide();
+    nommerLesVendeurs();
+    connect(&catalogue_, &Catalogue::change, this, &VoletLivres::nommerLesVendeurs);
     return filtres;
+}
+
+// With one seller there is nothing to choose.
+void VoletLivres::nommerLesVendeurs()
+{
+    const Donnees &donnees = catalogue_.donnees();
+    const QList<Vendeur> vendeurs = donnees.vendeurs();
+    for (const Vendeur vendeur : tous<Vendeur>) {
+        QRadioButton *bouton = vendeur_->bouton(1 + static_cast<int>(vendeur));
+        bouton->setText(NomsVendeurs::court(vendeur, donnees));
+        bouton->setVisible(vendeurs.contains(vendeur));
+    }
+    vendeur_->setVisible(vendeurs.size() > 1);
+    if (filtre_.vendeur && !vendeurs.contains(*filtre_.vendeur)) {
+        vendeur_->montrer(0);
+        filtre_.vendeur.reset();
+        filtrer();
+    }
+    liste_->viewport()->update(); // the groups' titles
 }
 
 void VoletLivres::setTarifs(const TarifsColissimo &tarifs)

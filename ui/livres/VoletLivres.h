@@ -13,6 +13,7 @@ class QStackedWidget;
 namespace Quillet {
 
 class Catalogue;
+class ChoixSegmente;
 class EtatVide;
 class ImagesCouvertures;
 class ListeLivres;
@@ -58,6 +59,7 @@ signals:
 private:
     QWidget *filtres();
     void filtrer();
+    void nommerLesVendeurs();
     void seReplacer();
     void proposer(const QPoint &ou);
 
@@ -65,6 +67,7 @@ private:
     FiltreLivres filtre_;
     ModeleLivres *modele_;
     LigneDeTexte *recherche_;
+    ChoixSegmente *vendeur_ = nullptr;
     ListeLivres *liste_;
     EtatVide *vide_;
     QPushButton *premier_; // adds a book to an empty list

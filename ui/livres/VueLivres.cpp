@@ -49,7 +49,7 @@ VueLivres::VueLivres(const Contexte &contexte, QWidget *parent)
       enTete_(new EnTete(QStringLiteral("Livres"), marge)),
       choix_(new ChoixTarifs),
       volet_(new VoletLivres(contexte.catalogue, contexte.images)),
-      fiche_(new FicheLivre(contexte.images)),
+      fiche_(new FicheLivre(contexte.donnees(), contexte.images)),
       echec_(new Alerte),
       retrait_(new Alerte(QStringLiteral("info.circle"), {}, Alerte::Ton::note)),
       revenir_(Boutons::deFeuille(QStringLiteral("Revenir aux valeurs d’origine…"))),

@@ -12,7 +12,6 @@
 #include "documents/PaysDeLivraison.h"
 #include "documents/ReponseType.h"
 #include "model/Echec.h"
-#include "textes/NomsVendeurs.h"
 #include "textes/TextesReponse.h"
 #include "ui/Contexte.h"
 #include "ui/reponse/ApercuMessage.h"
@@ -58,9 +57,8 @@ VueReponse::VueReponse(const Contexte &contexte, QWidget *parent)
       pages_(new QStackedWidget)
 {
     pages_->addWidget(Pile::enRangee({.espace = 0}, {saisie(), filet(Qt::Vertical), {message(), 1}}));
-    pages_->addWidget(
-        new EtatVide(QStringLiteral("person.2"), QStringLiteral("Réponse impossible"),
-                     QStringLiteral("Une réponse par vendeur : séparez %1.").arg(NomsVendeurs::livresDeChacun())));
+    pages_->addWidget(new EtatVide(QStringLiteral("person.2"), QStringLiteral("Réponse impossible"),
+                                   TextesReponse::impossible(contexte.donnees())));
     meubler(langue_, pages_);
     envoyer_->setDefault(true); // only now does it have a sheet to be the default of
 
