@@ -36,7 +36,7 @@ FeuilleDeLivre::FeuilleDeLivre(const QString &titre, const Contexte &contexte, Q
     cadre.reperes =
         Objections::reperes(donnees, QDir(contexte.catalogue.ressources().chemin(QStringLiteral("couvertures"))));
     for (const Vendeur vendeur : donnees.vendeurs())
-        cadre.vendeurs.append({vendeur, NomsVendeurs::court(vendeur)});
+        cadre.vendeurs.append({vendeur, NomsVendeurs::court(vendeur, donnees)});
     formulaire_->setCadre(cadre);
     connect(formulaire_, &FormulaireLivre::refuse, &lecture_, qOverload<>(&QTimer::start));
     prendreLaTaille(taille);
