@@ -16,7 +16,7 @@ void verifierReference(QStringView reference)
     if (voulue.isEmpty() || voulue.startsWith(u'#') || voulue.startsWith(u"data:"))
         return;
     const QString nom = voulue.size() > nomMontre ? voulue.first(nomMontre).toString() + u'…' : voulue.toString();
-    throw Echec(QStringLiteral("Le dessin SVG se sert d’un autre fichier, « %1 », qui ne viendrait pas avec lui. "
+    throw Echec(QStringLiteral("Le dessin SVG se sert d’un autre fichier, « %1 », qui ne viendrait pas avec lui. "
                                "Enregistrez-le avec ses images incorporées, ou en PNG.")
                     .arg(nom));
 }

@@ -47,7 +47,7 @@ void limiter()
 
 QString tropCompliquee()
 {
-    return QStringLiteral("Cette image est trop compliquée : la lire prendrait trop de temps ou de mémoire. "
+    return QStringLiteral("Cette image est trop compliquée : la lire prendrait trop de temps ou de mémoire. "
                           "Enregistrez-la en PNG ou en JPEG, à la taille d’une couverture.");
 }
 
@@ -62,7 +62,7 @@ QByteArray octetsDeLEntree()
         if (morceau = entree.read(Fichier::Borne::mebioctet); morceau.isEmpty())
             break;
     if (octets.size() > Fichier::Borne::image)
-        throw Echec(QStringLiteral("Cette image est trop lourde : Quillet en prend jusqu’à %1 Mo.")
+        throw Echec(QStringLiteral("Cette image est trop lourde : Quillet en prend jusqu’à %1 Mo.")
                         .arg(Fichier::Borne::image / Fichier::Borne::mebioctet));
     return octets;
 }
@@ -70,7 +70,7 @@ QByteArray octetsDeLEntree()
 QByteArray octetsDe(const QString &chemin)
 {
     const auto refuser = [&](const QString &raison) {
-        return Echec(QStringLiteral("« %1 » ne peut pas être lu : %2. %3")
+        return Echec(QStringLiteral("« %1 » ne peut pas être lu : %2. %3")
                          .arg(QFileInfo(chemin).fileName(), raison, PreparationCouverture::formatsPris()));
     };
     try {
@@ -154,7 +154,7 @@ void LectureDeCouverture::conclure()
     delai_.stop();
     const auto processus = std::exchange(processus_, nullptr);
     if (processus->error() == QProcess::FailedToStart)
-        return emit refusee(QStringLiteral("L’image n’a pas pu être lue : le programme %1 ne se lance plus. "
+        return emit refusee(QStringLiteral("L’image n’a pas pu être lue : le programme %1 ne se lance plus. "
                                            "Fermez Quillet, puis ouvrez-le de nouveau.")
                                 .arg(programme_));
     if (processus->exitStatus() != QProcess::NormalExit || recu_.size() > reponseAuPlus)

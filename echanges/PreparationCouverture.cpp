@@ -58,8 +58,8 @@ void verifierLaTaille(QSize taille, QSize voulue, bool dessin)
         throw Echec(QStringLiteral("Ce dessin SVG est beaucoup trop long ou trop large pour une couverture, qui a deux "
                                    "parts de large pour trois de haut."));
     if (!dessin && demesuree(taille))
-        throw Echec(QStringLiteral("Cette image est trop grande : %1 × %2 points. Quillet en prend %3 de côté au plus, "
-                                   "et %4 millions en tout ; une largeur de %5 suffit à une couverture.")
+        throw Echec(QStringLiteral("Cette image est trop grande : %1 × %2 points. Quillet en prend %3 de côté au plus, "
+                                   "et %4 millions en tout ; une largeur de %5 suffit à une couverture.")
                         .arg(ecrit(taille.width()), ecrit(taille.height()), ecrit(coteAuPlus),
                              ecrit(pointsAuPlus / 1'000'000), ecrit(CouverturePrete::tailleAuPlus.width())));
 }
@@ -73,7 +73,7 @@ QSize aLire(QSize taille, bool dessin)
 
 QImage lire(const QByteArray &octets, const QByteArray &format)
 {
-    const Echec abimee(QStringLiteral("L’image est abîmée ou coupée : elle ne se lit pas jusqu’au bout. Enregistrez-la "
+    const Echec abimee(QStringLiteral("L’image est abîmée ou coupée : elle ne se lit pas jusqu’au bout. Enregistrez-la "
                                       "de nouveau, ou choisissez-en une autre."));
     QBuffer fichier;
     fichier.setData(octets);

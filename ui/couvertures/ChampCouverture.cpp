@@ -171,13 +171,13 @@ void ChampCouverture::prendre(const QMimeData &donnees)
     const QList<QUrl> adresses = donnees.urls();
     const char *const image = format(donnees);
     if (adresses.size() > 1)
-        return refuser(QStringLiteral("Un livre n’a qu’une couverture : donnez une seule image."));
+        return refuser(QStringLiteral("Un livre n’a qu’une couverture : donnez une seule image."));
     if (adresses.size() == 1 && adresses[0].isLocalFile())
         lecture_.lireFichier(adresses[0].toLocalFile());
     else if (image)
         lecture_.lireOctets(donnees.data(QString::fromLatin1(image)));
     else if (adresses.size() == 1)
-        return refuser(QStringLiteral("Cette image est sur Internet : enregistrez-la d’abord sur cet ordinateur."));
+        return refuser(QStringLiteral("Cette image est sur Internet : enregistrez-la d’abord sur cet ordinateur."));
     else
         return refuser(QStringLiteral("Il n’y a pas d’image à coller."));
     refus_->montrer({});
