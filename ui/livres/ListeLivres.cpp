@@ -61,11 +61,12 @@ void ListeLivres::keyPressEvent(QKeyEvent *evenement)
 }
 
 // Above or below the book under the pointer, when it is one of the same seller's.
-std::optional<ListeLivres::Cible> ListeLivres::cible(const QPoint &position) const
+std::optional<ListeLivres::Cible> ListeLivres::cible(const QDropEvent &evenement) const
 {
+    const QPoint position = evenement.position().toPoint();
     const QModelIndex la = indexAt(position);
-    const QModelIndex tiree = currentIndex();
-    if (!la.isValid() || !tiree.isValid() || modele_.livre(la.row()).vendeur != modele_.livre(tiree.row()).vendeur)
+    const auto tire = modele_.tire(*evenement.mimeData());
+    if (!la.isValid() || !tire || modele_.livre(la.row()).vendeur != modele_.livre(*modele_.rang(*tire)).vendeur)
         return std::nullopt;
     const bool enHaut = position.y() < dessin_.cadreDuLivre(visualRect(la), la.row()).center().y();
     return Cible{la.row(), enHaut ? Cote::avant : Cote::apres};
@@ -79,15 +80,15 @@ void ListeLivres::montrerLaCible(const std::optional<Cible> &cible)
 
 void ListeLivres::dragEnterEvent(QDragEnterEvent *evenement)
 {
-    if (evenement->source() == this)
-        ListeDite<QListView>::dragEnterEvent(evenement);
+    if (modele_.tire(*evenement->mimeData()))
+        evenement->acceptProposedAction();
 }
 
 // The list scrolls by itself at its edges; whether the book can go there is this list's to say.
 void ListeLivres::dragMoveEvent(QDragMoveEvent *evenement)
 {
     ListeDite<QListView>::dragMoveEvent(evenement);
-    montrerLaCible(cible(evenement->position().toPoint()));
+    montrerLaCible(cible(*evenement));
     cible_ ? evenement->acceptProposedAction() : evenement->ignore();
 }
 
@@ -99,14 +100,14 @@ void ListeLivres::dragLeaveEvent(QDragLeaveEvent *evenement)
 
 void ListeLivres::dropEvent(QDropEvent *evenement)
 {
-    const auto la = cible(evenement->position().toPoint());
+    const auto la = cible(*evenement);
     stopAutoScroll();
     setState(NoState);
     montrerLaCible({});
     if (!la)
         return;
     evenement->acceptProposedAction();
-    emit deplace(modele_.livre(currentIndex().row()).id, la->cote, modele_.livre(la->rang).id);
+    emit deplace(*modele_.tire(*evenement->mimeData()), la->cote, modele_.livre(la->rang).id);
 }
 
 void ListeLivres::paintEvent(QPaintEvent *evenement)

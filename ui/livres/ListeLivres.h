@@ -42,7 +42,7 @@ private:
         int rang;
         EditionLivres::Cote cote;
     };
-    [[nodiscard]] std::optional<Cible> cible(const QPoint &position) const;
+    [[nodiscard]] std::optional<Cible> cible(const QDropEvent &evenement) const;
     void montrerLaCible(const std::optional<Cible> &cible);
 
     const ModeleLivres &modele_;

@@ -5,6 +5,8 @@
 #include "textes/TextesBoutons.h"
 #include "textes/TextesLivres.h"
 
+#include <QMimeData>
+
 #include <algorithm>
 #include <utility>
 
@@ -171,6 +173,26 @@ Qt::DropActions ModeleLivres::supportedDropActions() const
 const Donnees &ModeleLivres::donnees() const
 {
     return catalogue_.donnees();
+}
+
+QStringList ModeleLivres::mimeTypes() const
+{
+    return {QStringLiteral("application/x-quillet-livre")};
+}
+
+QMimeData *ModeleLivres::mimeData(const QModelIndexList &indices) const
+{
+    auto *donnees = new QMimeData;
+    for (const QModelIndex &indice : indices)
+        donnees->setData(mimeTypes().constFirst(), QByteArray::number(livre(indice.row()).id));
+    return donnees;
+}
+
+std::optional<qint64> ModeleLivres::tire(const QMimeData &donnees) const
+{
+    bool lu = false;
+    const qint64 id = donnees.data(mimeTypes().constFirst()).toLongLong(&lu);
+    return lu && rang(id) ? std::optional(id) : std::nullopt;
 }
 
 qsizetype ModeleLivres::nombre(Vendeur vendeur) const

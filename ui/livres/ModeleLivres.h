@@ -49,6 +49,10 @@ public:
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &indice) const override;
     [[nodiscard]] Qt::DropActions supportedDropActions() const override;
+    [[nodiscard]] QStringList mimeTypes() const override;
+    [[nodiscard]] QMimeData *mimeData(const QModelIndexList &indices) const override;
+    // The book that is dragged, if one is.
+    [[nodiscard]] std::optional<qint64> tire(const QMimeData &donnees) const;
     [[nodiscard]] QVariant data(const QModelIndex &indice, int role) const override;
 
 private:
