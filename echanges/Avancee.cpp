@@ -73,14 +73,14 @@ void Avancee::placerLesDonnees()
 // What is there no more was put in its place before.
 void Avancee::placer(const QString &nom) const
 {
-    if (reprise_.exists(nom))
+    if (Fichier::existe(reprise_.filePath(nom)))
         Disque::poser(reprise_.filePath(nom), utilisateur_.filePath(nom));
 }
 
 void Avancee::retirerLesAutres() const
 {
     for (const QString &dossier : {PiecesDArchive::propres, PiecesDArchive::couvertures}) {
-        for (const QString &fichier : QDir(utilisateur_.filePath(dossier)).entryList(QDir::Files)) {
+        for (const QString &fichier : Disque::fichiers(utilisateur_.filePath(dossier))) {
             const QString nom = dossier + fichier;
             if (PiecesDArchive::borne(nom) && !noms_.contains(nom))
                 Disque::supprimer(utilisateur_.filePath(nom));
@@ -92,11 +92,11 @@ void Avancee::retirerLesAutres() const
 void Avancee::placerCeuxDeLUtilisateur()
 {
     reecrire<FraisPaypal>(Stockage::fichierDesFrais());
-    QStringList tarifs = Fichier::lister(utilisateur_, TarifsColissimo::motifDeFichier());
-    tarifs += Fichier::lister(reprise_, TarifsColissimo::motifDeFichier());
-    tarifs.removeDuplicates();
-    for (const QString &nom : tarifs)
-        reecrire<TarifsColissimo>(nom);
+    QStringList fichiers = Disque::fichiers(utilisateur_.path()) + noms_;
+    fichiers.removeDuplicates();
+    for (const QString &nom : fichiers)
+        if (PiecesDArchive::estUnTarif(nom))
+            reecrire<TarifsColissimo>(nom);
 }
 
 // As the program does with such a file: one that it does not understand is copied aside first.

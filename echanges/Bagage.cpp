@@ -1,6 +1,7 @@
 #include "echanges/Bagage.h"
 
 #include "documents/NumerotationFactures.h"
+#include "echanges/Disque.h"
 #include "echanges/PiecesDArchive.h"
 #include "model/Couvertures.h"
 
@@ -34,8 +35,9 @@ public:
         else
             prendreSiLisible<ModificationsLivres>(Stockage::fichierDesLivres());
         prendreSiLisible<FraisPaypal>(Stockage::fichierDesFrais());
-        for (const QString &nom : Fichier::lister(demeure_.utilisateur, TarifsColissimo::motifDeFichier()))
-            prendreSiLisible<TarifsColissimo>(nom);
+        for (const QString &nom : Disque::fichiers(demeure_.utilisateur.path()))
+            if (PiecesDArchive::estUnTarif(nom))
+                prendreSiLisible<TarifsColissimo>(nom);
         prendreLesSeries();
         std::ranges::sort(bagage_.pieces, {}, &Bagage::Piece::nom);
         bagage_.manifeste = {.programme = QCoreApplication::applicationVersion(),
@@ -65,13 +67,13 @@ private:
     template <typename T>
     void prendreSiLisible(const QString &nom)
     {
-        if (!demeure_.utilisateur.exists(nom))
+        const auto octets = Fichier::lireOuRefuser(demeure_.utilisateur.filePath(nom), Fichier::Borne::donnees);
+        if (!octets)
             return;
         try {
-            const QByteArray octets = lire(demeure_.utilisateur, nom);
-            static_cast<void>(Json::decoder<T>(octets, nom));
-            ajouter(nom, octets);
-        } catch (const Echec &erreur) {
+            static_cast<void>(Json::decoder<T>(*octets, nom));
+            ajouter(nom, *octets);
+        } catch (const Json::Erreur &erreur) {
             bagage_.absents.append(erreur.texte());
         }
     }
@@ -94,19 +96,21 @@ private:
             prendreDesDonnees<QList<Livre>>(livres);
         prendreDesDonnees<Reglages>(QStringLiteral("reglages.json"));
         prendreDesDonnees<QList<Destination>>(QStringLiteral("destinations.json"));
-        if (const QString pays = QStringLiteral("pays.json"); demeure_.donnees.dossier().exists(pays))
+        if (const QString pays = QStringLiteral("pays.json"); Fichier::existe(demeure_.donnees.chemin(pays)))
             prendreDesDonnees<QList<Pays>>(pays);
-        for (const QString &nom : Fichier::lister(demeure_.donnees.dossier(), TarifsColissimo::motifDeFichier()))
-            prendreDesDonnees<TarifsColissimo>(nom);
+        for (const QString &nom : Disque::fichiers(demeure_.donnees.dossier().path()))
+            if (PiecesDArchive::estUnTarif(nom))
+                prendreDesDonnees<TarifsColissimo>(nom);
         prendreLesCouvertures();
     }
 
     void prendreLesCouvertures()
     {
         const QDir dossier(demeure_.donnees.chemin(QStringLiteral("couvertures")));
-        for (const QFileInfo &image : dossier.entryInfoList(QDir::Files)) {
-            if (!PiecesDArchive::estUneCouverture(image.fileName()))
+        for (const QString &nom : Disque::fichiers(dossier.path())) {
+            if (!PiecesDArchive::estUneCouverture(nom))
                 continue;
+            const QFileInfo image(dossier.filePath(nom));
             if (image.size() > Fichier::Borne::image)
                 bagage_.absents.append(QStringLiteral("%1 : l’image est trop lourde").arg(image.fileName()));
             else
@@ -119,7 +123,8 @@ private:
     {
         const NumerotationFactures numerotation{demeure_.preferences};
         SeriesFactures series;
-        try {
+        static_cast<void>(Fichier::lireOuRefuser(demeure_.preferences.fichier(), Fichier::Borne::preferences));
+        try { // what was lost there
             for (const Vendeur vendeur : tous<Vendeur>)
                 if (const QString numero = numerotation.dernier(vendeur); !numero.isEmpty())
                     series.insert(vendeur, numero);

@@ -29,6 +29,25 @@ int renommer(const QString &chemin, const QString &nouveau)
 
 } // namespace
 
+QStringList Disque::fichiers(const QString &dossier)
+{
+    std::error_code code;
+    const auto chemin = std::filesystem::path(QFile::encodeName(dossier).toStdString());
+    std::filesystem::directory_iterator suite(chemin, code);
+    if (code == std::errc::no_such_file_or_directory)
+        return {};
+    QStringList fichiers;
+    for (; !code && suite != std::filesystem::directory_iterator(); suite.increment(code))
+        if (suite->is_regular_file(code) && !code)
+            fichiers.append(QFile::decodeName(suite->path().filename().c_str()));
+        else if (code == std::errc::no_such_file_or_directory) // a link that leads nowhere
+            code.clear();
+    if (code)
+        throw erreur(dossier, code.value());
+    fichiers.sort();
+    return fichiers;
+}
+
 void Disque::synchroniser(const QString &chemin)
 {
     const int fd = open(QFile::encodeName(chemin).constData(), O_RDONLY | O_CLOEXEC);

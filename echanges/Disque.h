@@ -1,10 +1,14 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 // What `Fichier` does with files, done with what is too large to be held, and with folders. All throw ErreurStockage.
 namespace Quillet::Disque {
 
+// The plain files of a folder, and links to some, in order; none when there is no such folder. Unlike QDir's, a list
+// that the disk cuts short is refused.
+QStringList fichiers(const QString &dossier);
 // Returns once the disk has taken what a file, or a folder, holds.
 void synchroniser(const QString &chemin);
 // Gives a file another name in its folder, in place of a file of that name. Returns once the disk knows.

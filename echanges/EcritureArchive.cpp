@@ -59,16 +59,17 @@ void ajouter(zip_t *archive, const Bagage::Piece &piece)
     zip_file_set_external_attributes(archive, numero, 0, ZIP_OPSYS_UNIX, fichierOrdinaire);
 }
 
-void composer(const QString &chemin, const Bagage &bagage)
+// `nom`: what the user calls it.
+void composer(const QString &chemin, const QString &nom, const Bagage &bagage)
 {
     int code = 0;
     Zip::Archive archive(zip_open(QFile::encodeName(chemin).constData(), ZIP_CREATE | ZIP_TRUNCATE, &code));
     if (!archive)
-        refuser(chemin, Zip::Erreur(code).ici());
+        refuser(nom, Zip::Erreur(code).ici());
     for (const Bagage::Piece &piece : bagage.pieces)
         ajouter(archive.get(), piece);
     if (zip_close(archive.get()) != 0)
-        refuser(chemin, zip_get_error(archive.get()));
+        refuser(nom, zip_get_error(archive.get()));
     static_cast<void>(archive.release());
 }
 
@@ -78,7 +79,7 @@ void Archive::ecrire(const QString &chemin, const Bagage &bagage)
 {
     const QString provisoire = chemin + u'.' + QUuid::createUuid().toString(QUuid::Id128).first(8);
     try {
-        composer(provisoire, bagage);
+        composer(provisoire, chemin, bagage);
         Disque::synchroniser(provisoire);
         Disque::remplacer(provisoire, chemin);
     } catch (...) {

@@ -12,17 +12,11 @@ namespace Quillet {
 
 namespace {
 
-bool estUnTarif(const QString &fichier)
-{
-    const QStringList bouts = TarifsColissimo::motifDeFichier().split(u'*');
-    return !fichier.contains(u'/') && fichier.startsWith(bouts.first()) && fichier.endsWith(bouts.last());
-}
-
 bool estDesDonnees(const QString &fichier)
 {
     const QStringList noms{QStringLiteral("livres.json"), QStringLiteral("reglages.json"),
                            QStringLiteral("destinations.json"), QStringLiteral("pays.json")};
-    return noms.contains(fichier) || estUnTarif(fichier);
+    return noms.contains(fichier) || PiecesDArchive::estUnTarif(fichier);
 }
 
 bool estUnSigneDeCommande(QChar signe)
@@ -42,6 +36,12 @@ std::optional<qint64> PiecesDArchive::borne(const QString &nom)
                                               : estUnTarif(nom) || nom == Stockage::fichierDesFrais()
                                                     || nom == Stockage::fichierDesLivres();
     return json ? std::optional(Fichier::Borne::donnees) : std::nullopt;
+}
+
+bool PiecesDArchive::estUnTarif(const QString &fichier)
+{
+    const QStringList bouts = TarifsColissimo::motifDeFichier().split(u'*');
+    return !fichier.contains(u'/') && fichier.startsWith(bouts.first()) && fichier.endsWith(bouts.last());
 }
 
 bool PiecesDArchive::estUneCouverture(const QString &fichier)

@@ -23,6 +23,7 @@ constexpr qint64 nombre = 20'000;
 
 // The most bytes that are read of it; none of a name that is no part of an archive.
 std::optional<qint64> borne(const QString &nom);
+bool estUnTarif(const QString &fichier);
 // A picture whose name any system can hold, by itself and not behind a folder.
 bool estUneCouverture(const QString &fichier);
 // Whether a name could lead anywhere but below the folder in which it is unpacked.

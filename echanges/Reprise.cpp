@@ -115,8 +115,9 @@ void Reprise::charger(QDate aujourdhui)
     try {
         exigerLisible<FraisPaypal>(dossier, Stockage::fichierDesFrais());
         exigerLisible<ModificationsLivres>(dossier, Stockage::fichierDesLivres());
-        for (const QString &nom : Fichier::lister(dossier, TarifsColissimo::motifDeFichier()))
-            exigerLisible<TarifsColissimo>(dossier, nom);
+        for (const QString &nom : noms_)
+            if (PiecesDArchive::estUnTarif(nom))
+                exigerLisible<TarifsColissimo>(dossier, nom);
         lireLesSeries(dossier);
         donnees_ = Catalogue::charge(donnees, Stockage(dossier))->donnees();
     } catch (const RessourceIllisible &) {

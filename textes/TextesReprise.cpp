@@ -57,21 +57,20 @@ QStringList enPhrases(const QList<Comparaison::Changement> &changements)
     return phrases;
 }
 
-TextesReprise::Ligne ligne(const QString &libelle, const QStringList &noms)
+TextesReprise::Ligne ligne(const QString &un, const QStringList &noms)
 {
-    return {libelle, QString::number(noms.size()), cites(noms)};
+    return {noms.size() > 1 ? un + u's' : un, QString::number(noms.size()), cites(noms)};
 }
 
-TextesReprise::Section section(const QString &titre, const Comparaison::Liste &liste, bool feminin = false)
+TextesReprise::Section section(const QString &titre, const Comparaison::Liste &liste)
 {
-    const QString e = feminin ? QStringLiteral("e") : QString();
     TextesReprise::Section section{titre, {}};
     if (!liste.ajoutes.isEmpty())
-        section.lignes.append(ligne(QStringLiteral("Ajouté%1s").arg(e), liste.ajoutes));
+        section.lignes.append(ligne(QStringLiteral("Ajouté"), liste.ajoutes));
     if (!liste.changes.isEmpty())
-        section.lignes.append(ligne(QStringLiteral("Changé%1s").arg(e), enPhrases(liste.changes)));
+        section.lignes.append(ligne(QStringLiteral("Changé"), enPhrases(liste.changes)));
     if (!liste.disparus.isEmpty())
-        section.lignes.append(ligne(QStringLiteral("Retiré%1s").arg(e), liste.disparus));
+        section.lignes.append(ligne(QStringLiteral("Retiré"), liste.disparus));
     return section;
 }
 

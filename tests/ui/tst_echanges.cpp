@@ -1,0 +1,145 @@
+#include "documents/NumerotationFactures.h"
+#include "echanges/Copies.h"
+#include "tests/BancEcran.h"
+#include "textes/TextesReprise.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QMessageBox>
+#include <QSignalSpy>
+
+using namespace Quillet;
+
+namespace {
+
+// A seller at home, with own data.
+struct Maison : BancEcran
+{
+    Maison() { origine = Origine::utilisateur; }
+
+    void choisir(const QString &entree) const { QVERIFY(Ecran::choisirAuMenu(&app->fenetre(), entree)); }
+    // Chooses the file of the dialog that the command opens; what a message then says.
+    [[nodiscard]] QString choisirUnFichier(const QString &entree, const QString &fichier) const
+    {
+        choisir(entree);
+        Dialogues::enregistrerSous(fichier)(Dialogues::devant());
+        auto *boite = qobject_cast<QMessageBox *>(Dialogues::devant());
+        const QString dit = boite ? boite->text() + boite->informativeText() : QString();
+        if (boite)
+            boite->reject();
+        return lisible(dit);
+    }
+    [[nodiscard]] QString dernier() const
+    {
+        return NumerotationFactures{donnees.preferences()}.dernier(Vendeur::davrel);
+    }
+    [[nodiscard]] Copies copies() const
+    {
+        const auto catalogue = Catalogue::charge(ressources(), donnees.stockage());
+        return Copies(Demeure::de(*catalogue, donnees.preferences()));
+    }
+};
+
+const QString exporter = "Exporter mes données…";
+const QString importer = "Importer…";
+const QString revenir = "Revenir à une copie…";
+
+} // namespace
+
+class TestEchanges : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QuilletApp::preparer(Theme::Mode::clair); }
+
+    void emporter()
+    {
+        Maison depart;
+        depart.donnees.livres[0].titre = "Le Phare de sel";
+        depart.donnees.livres.removeLast();
+        NumerotationFactures{depart.donnees.preferences()}.retenir("2026-004", Vendeur::davrel);
+        depart.demarrer();
+        const QString archive = depart.donnees.cheminUtilisateur("../emporte.zip");
+        QVERIFY(depart.choisirUnFichier(exporter, archive).startsWith("Vos données sont dans « emporte.zip »."));
+
+        Maison arrivee;
+        arrivee.demarrer();
+        NumerotationFactures{arrivee.donnees.preferences()}.retenir("2026-009", Vendeur::davrel);
+        arrivee.commander("france");
+        QCOMPARE(arrivee.choisirUnFichier(importer, archive), "");
+        QDialog *feuille = Dialogues::devant();
+        QVERIFY(feuille);
+        for (const char *phrase :
+             {"Faite le 2 mars 2026 par Quillet 0.1.0 : 3 livres, 1 vendeur.", "Livre 1 (titre)", "Livre 4",
+              "Ce que vous avez aujourd’hui sera gardé : « Revenir à une copie… » le "
+              "rendra. La commande en cours sera vidée."})
+            QVERIFY2(Ecran::montre(feuille, phrase), phrase);
+        const auto *numeros = qobject_cast<QCheckBox *>(Ecran::controle(
+            feuille, "Reprendre les numéros de " + arrivee.donnees.reglages.identite(Vendeur::davrel)->nom));
+        QVERIFY(numeros && !numeros->isChecked()); // they would go back
+        QVERIFY(Ecran::cliquer(feuille, "Importer"));
+        QVERIFY(!Dialogues::devant());
+        QVERIFY(arrivee.app->commande().bon().estVide());
+        QVERIFY(Ecran::controle(&arrivee.app->fenetre(), "Le Phare de sel"));
+        QCOMPARE(arrivee.dernier(), "2026-009");
+
+        QList<Copie> copies = arrivee.copies().liste(); // today's may be among them
+        copies.removeIf([](const Copie &copie) { return !copie.avantReprise; });
+        QCOMPARE(copies.size(), 1);
+        arrivee.choisir(revenir);
+        QVERIFY(Ecran::montre(Dialogues::devant(), "Livres : 1 ajouté, 1 changé"));
+        QVERIFY(Ecran::cliquer(Dialogues::devant(), "Voir la copie : " + TextesReprise::copie(copies[0])));
+        QVERIFY(Ecran::cliquer(Dialogues::devant(), "Reprendre cette copie"));
+        QVERIFY(!Dialogues::devant());
+        QVERIFY(Ecran::controle(&arrivee.app->fenetre(), "Livre 1"));
+    }
+
+    void refuser()
+    {
+        Maison maison;
+        maison.demarrer();
+        const QString archive = maison.donnees.cheminUtilisateur("../photo.zip");
+        Fichier::ecrire(archive, "une photo");
+        QCOMPARE(maison.choisirUnFichier(importer, archive),
+                 "Cette archive ne peut pas être reprise : ce n’est pas une archive zip, ou elle est incomplète.");
+        const QString absent = maison.donnees.cheminUtilisateur("absent/a.zip");
+        QCOMPARE(maison.choisirUnFichier(exporter, absent),
+                 "Vos données n’ont pas été exportées.\n" + absent + " : fichier introuvable");
+    }
+
+    void copieDuJour()
+    {
+        Maison maison;
+        maison.demarrer();
+        QTRY_COMPARE(maison.copies().liste().size(), 1);
+        QCOMPARE(maison.copies().liste()[0].moment.date(), maison.jour);
+        maison.choisir(revenir);
+        QVERIFY(Ecran::montre(Dialogues::devant(), "2 mars 2026"));
+        QVERIFY(Ecran::montre(Dialogues::devant(), "Comme maintenant"));
+    }
+
+    void copieManquee()
+    {
+        Maison maison;
+        QVERIFY(QDir().mkpath(maison.donnees.cheminUtilisateur()));
+        maison.donnees.ecrireUtilisateur("copies", "un fichier prend la place");
+        maison.demarrer();
+        QSignalSpy posee(&maison.app->fenetre(), &Fenetre::posee);
+        QTRY_COMPARE(posee.size(), 1);
+        const auto montree = [&] {
+            maison.choisir(revenir);
+            QDialog *feuille = Dialogues::devant();
+            const auto estLa = [](const QLabel *etiquette) {
+                return etiquette->isVisible() && etiquette->text().startsWith("La copie du jour n’a pas pu être faite");
+            };
+            const bool dite = std::ranges::any_of(feuille->findChildren<QLabel *>(), estLa);
+            feuille->reject();
+            return dite;
+        };
+        QTRY_VERIFY(montree());
+    }
+};
+
+QTEST_MAIN(TestEchanges)
+#include "tst_echanges.moc"
