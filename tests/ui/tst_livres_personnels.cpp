@@ -193,7 +193,7 @@ private slots:
         QCOMPARE(livre.titreComplet, "Neuf");
         QCOMPARE(livre.vendeur, Vendeur::mireva);
         QCOMPARE(cas.courant(), "Neuf");
-        QTRY_VERIFY(cas.liste()->hasFocus());
+        QCOMPARE(cas.fenetre()->focusWidget(), cas.liste());
         QVERIFY(cas.cliquer("Annuler : ajout de « Neuf »"));
         QCOMPARE(cas.enregistres(), cas.donnees.livres);
     }
