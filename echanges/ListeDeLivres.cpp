@@ -63,7 +63,8 @@ public:
             completer(rangee, cellules);
         for (const auto &[champ, raison] : objections(rangee).asKeyValueRange())
             if (!refuse(rangee, nomDe(champ)))
-                rangee.refus.append(QStringLiteral("%1 : %2.").arg(nomDe(champ), raison));
+                rangee.refus.append(
+                    QStringLiteral("%1 : %2").arg(nomDe(champ), raison.left(1).toLower() + raison.mid(1)));
         refuserLesDoubles(rangee);
         rangee.sort = !rangee.refus.isEmpty()         ? Sort::refusee
                       : !rangee.avant                 ? Sort::ajoutee

@@ -10,6 +10,7 @@ import a_l_oreille
 import audit
 import au_clavier
 import par_l_arbre
+import premiers_pas
 import trois_commandes
 from arbre import Echec, GLib, application
 
@@ -26,6 +27,8 @@ PARTIES = {
     "commandes": [(trois_commandes.au_clavier, trois_commandes.preparer),
                   (trois_commandes.a_la_souris, trois_commandes.preparer),
                   (trois_commandes.parmi_soixante, trois_commandes.preparer_soixante)],
+    "premiers": [(premiers_pas.a_la_souris, premiers_pas.preparer_les_pas),
+                 (premiers_pas.au_clavier, premiers_pas.preparer_les_pas)],
     "oreille": [(a_l_oreille.jouer, tel_quel)],
 }
 SANS_ORCA = [partie for partie in PARTIES if partie != "oreille"]

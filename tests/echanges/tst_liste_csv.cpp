@@ -182,7 +182,7 @@ private slots:
                  {"avec leurs unités", "18.5 €;1 355 g;212 p.;A5;Français;En stock", ""},
                  {"prix en lettres", "dix;355;212;A5;Français;oui", "Prix (€) : Un prix s’écrit en chiffres"},
                  {"sans prix", ";355;212;A5;Français;oui", "Prix (€) : il faut un prix."},
-                 {"prix nul", "0;355;212;A5;Français;oui", "Prix (€) : plus de 0 attendu."},
+                 {"prix nul", "0;355;212;A5;Français;oui", "Prix (€) : un prix de plus de 0 € attendu."},
                  {"kilos", "18;0,355 kg;212;A5;Français;oui", "Poids (g) : Un poids s’écrit en grammes entiers"},
                  {"pages", "18;355;beaucoup;A5;Français;oui", "Pages : « beaucoup » n’est pas un nombre entier."},
                  {"sans format", "18;355;212;;Français;oui", "Format : texte vide."},
