@@ -23,6 +23,11 @@ QString nomDe(const QString &champ)
     return colonne ? traits(*colonne).nom.toString() : champ;
 }
 
+QString phrase(const QString &colonne, const QString &raison)
+{
+    return QStringLiteral("%1 : %2").arg(colonne, raison.endsWith(u'.') ? raison : raison + u'.');
+}
+
 QList<ListeDeLivres::Tete> reconnues(const QStringList &noms)
 {
     QList<ListeDeLivres::Tete> tetes;
@@ -63,8 +68,7 @@ public:
             completer(rangee, cellules);
         for (const auto &[champ, raison] : objections(rangee).asKeyValueRange())
             if (!refuse(rangee, nomDe(champ)))
-                rangee.refus.append(
-                    QStringLiteral("%1 : %2").arg(nomDe(champ), raison.left(1).toLower() + raison.mid(1)));
+                rangee.refus.append(phrase(nomDe(champ), raison));
         refuserLesDoubles(rangee);
         rangee.sort = !rangee.refus.isEmpty()         ? Sort::refusee
                       : !rangee.avant                 ? Sort::ajoutee

@@ -6,6 +6,7 @@
 #include "ui/FeuilleRaccourcis.h"
 #include "ui/Raccourcis.h"
 #include "ui/echanges/Echanges.h"
+#include "ui/echanges/Listes.h"
 #include "ui/misesajour/FeuilleMiseAJour.h"
 #include "watch/MisesAJour.h"
 
@@ -41,6 +42,14 @@ void garnirEchanges(QMenu &menu, Fenetre &fenetre, const Contexte &contexte)
     QObject::connect(&fenetre, &Fenetre::posee, echanges, &Echanges::garderChaqueJour);
 }
 
+void garnirListes(QMenu &menu, Fenetre &fenetre, const Contexte &contexte)
+{
+    menu.addAction(QStringLiteral("&Lire une liste de livres…"), &fenetre,
+                   [&fenetre, &contexte] { Listes::lire(contexte, &fenetre); });
+    menu.addAction(QStringLiteral("&Écrire la liste des livres…"), &fenetre,
+                   [&fenetre, &contexte] { Listes::ecrire(contexte, &fenetre); });
+}
+
 void garnirQuillet(QMenu &menu, Fenetre &fenetre, const Contexte &contexte, MisesAJour &misesAJour)
 {
     menu.addAction(QStringLiteral("À &propos de Quillet"), &fenetre, [&fenetre] { aPropos(fenetre); })
@@ -53,6 +62,7 @@ void garnirQuillet(QMenu &menu, Fenetre &fenetre, const Contexte &contexte, Mise
     suivre();
     menu.addSeparator();
     garnirEchanges(menu, fenetre, contexte);
+    garnirListes(menu, fenetre, contexte);
     menu.addSeparator();
     QAction *quitter = menu.addAction(QStringLiteral("&Quitter"), &fenetre, &QWidget::close);
     quitter->setShortcuts(Raccourcis::touches(Raccourcis::Geste::quitter));
