@@ -13,5 +13,6 @@ int coupures(const Ressources &ressources, const QString &travail);
 int appelsEnEchec(const Ressources &ressources, const QString &travail);
 int disquesPleins(const Ressources &ressources, const QString &travail);
 int dossiersPerdus(const Ressources &ressources, const QString &travail);
+int reprises(const Ressources &ressources, const QString &travail);
 
 } // namespace Quillet

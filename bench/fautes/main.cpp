@@ -27,6 +27,7 @@ constexpr auto parties = std::to_array<Partie>({
     {"appels", appelsEnEchec, "/dev/shm"},
     {"plein", disquesPleins, "/var/tmp"},
     {"dossiers", dossiersPerdus, "/var/tmp"},
+    {"reprises", reprises, "/dev/shm"},
 });
 
 } // namespace
