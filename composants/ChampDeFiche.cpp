@@ -50,6 +50,8 @@ ChampDeFiche::ChampDeFiche(const QString &libelle, int lignes, QWidget *parent)
     });
     setNomDit(libelle);
     aide_->hide();
+    if (libelle.isEmpty())
+        titre_->hide();
 
     rangee_->addWidget(champ_, 1);
     Pile::rangee(this, {.espace = 8},
@@ -109,6 +111,11 @@ void ChampDeFiche::accoler(QWidget *commande)
     rangee_->addWidget(commande);
 }
 
+QWidget *ChampDeFiche::raison() const
+{
+    return alerte_;
+}
+
 void ChampDeFiche::setNomDit(const QString &nom)
 {
     champ_->setAccessibleName(nom);
@@ -118,6 +125,11 @@ void ChampDeFiche::setNomDit(const QString &nom)
 void ChampDeFiche::decrire()
 {
     champ_->setAccessibleDescription(objection_.isEmpty() ? aide_->text() : objection_);
+}
+
+void ChampDeFiche::toutPrendre()
+{
+    ligne_ ? ligne_->selectAll() : zone_->selectAll();
 }
 
 void ChampDeFiche::conclure()

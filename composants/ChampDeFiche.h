@@ -18,7 +18,8 @@ class ChampDeFiche : public QWidget
     Q_OBJECT
 
 public:
-    // More lines than one: each Return begins another.
+    // Without a label the field takes the whole width, and is given a name. More lines than one: each Return begins
+    // another.
     explicit ChampDeFiche(const QString &libelle, int lignes = 1, QWidget *parent = nullptr);
 
     // What is known of the value. Leaves alone what is being typed, or was refused, while that stays the same.
@@ -36,10 +37,13 @@ public:
     void setAide(const QString &aide);
     // A command about the value, behind the field.
     void accoler(QWidget *commande);
+    // The line that says what is wrong, for whoever has a better place for it than under the field.
+    [[nodiscard]] QWidget *raison() const;
     // Its name for those who do not see the record it stands in.
     void setNomDit(const QString &nom);
     // As leaving the field does.
     void conclure();
+    void toutPrendre(); // to be typed over
 
 signals:
     // Typed since it was last shown or handed over; whoever takes it calls `objecter`, and `montrer` once it counts.

@@ -53,7 +53,12 @@ QString composer(const Numero &numero)
 
 QString NumerotationFactures::prochain(Vendeur vendeur, QDate date) const
 {
-    const auto retenu = decomposer(dernier(vendeur));
+    return suivant(dernier(vendeur), date);
+}
+
+QString NumerotationFactures::suivant(const QString &dernier, QDate date)
+{
+    const auto retenu = decomposer(dernier);
     const bool suite = retenu && retenu->annee == date.year() && retenu->rang < std::numeric_limits<qint64>::max();
     return suite ? composer({date.year(), retenu->rang + 1}) : premier(date);
 }
@@ -93,6 +98,11 @@ void NumerotationFactures::reprendre(const QString &numero, Vendeur vendeur)
     const auto trouvee = preferences.chercher(cle(vendeur));
     if (trouvee.perte || trouvee.texte != numero)
         preferences.ecrire(cle(vendeur), numero);
+}
+
+void NumerotationFactures::recommencer(const QString &dernier, Vendeur vendeur)
+{
+    preferences.ecrire(cle(vendeur), dernier);
 }
 
 bool NumerotationFactures::avance(const QString &numero, const QString &dernier)

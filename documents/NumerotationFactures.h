@@ -27,11 +27,17 @@ struct NumerotationFactures
     // The series is another one, kept elsewhere: it goes on after this number, be it an older one. Throws as `retenir`.
     void reprendre(const QString &numero, Vendeur vendeur);
 
+    // The series of somebody else ends: this seller's goes on after `dernier`, or begins when it is empty. Throws as
+    // `retenir`.
+    void recommencer(const QString &dernier, Vendeur vendeur);
+
     // How a number stands to the series of a day; `aucun` for a text that `retenir` cannot understand.
     enum class Rapport { aucun, anterieur, dansLaSerie, posterieur };
     static Rapport rapport(const QString &numero, QDate date);
     // Whether the series would go on after `numero` once `dernier` was kept.
     static bool avance(const QString &numero, const QString &dernier);
+    // What follows the last number of a series: the first of the day's, unless it goes on.
+    static QString suivant(const QString &dernier, QDate date);
     // The first number of the day's series: "2026-001".
     static QString premier(QDate date);
 };

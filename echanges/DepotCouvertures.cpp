@@ -32,10 +32,14 @@ bool estDeposee(const QFileInfo &fichier)
 
 } // namespace
 
+QString Couvertures::nomDuDepot(const QString &titre, const CouverturePrete &couverture)
+{
+    return QStringLiteral("%1-%2.%3").arg(NomDeFichier::de(titre), empreinte(couverture.octets), couverture.extension);
+}
+
 QString Couvertures::deposer(const QDir &dossier, const QString &titre, const CouverturePrete &couverture)
 {
-    const QString nom =
-        QStringLiteral("%1-%2.%3").arg(NomDeFichier::de(titre), empreinte(couverture.octets), couverture.extension);
+    const QString nom = nomDuDepot(titre, couverture);
     const QString chemin = dossier.filePath(nom);
     Fichier::creerDossier(dossier.absolutePath());
     if (Fichier::lire(chemin, Fichier::Borne::image) != couverture.octets)

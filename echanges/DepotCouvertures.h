@@ -10,8 +10,10 @@
 // that whatever names one finds it again.
 namespace Quillet::Couvertures {
 
-// The file's name, for the book's `couverture`: its title and eight figures of its bytes. The same picture is written
-// once. Returns once the disk has taken it; throws ErreurStockage.
+// The file's name, for the book's `couverture`: its title and eight figures of its bytes.
+QString nomDuDepot(const QString &titre, const CouverturePrete &couverture);
+// Writes it under that name, which it gives. The same picture is written once. Returns once the disk has taken it;
+// throws ErreurStockage.
 QString deposer(const QDir &dossier, const QString &titre, const CouverturePrete &couverture);
 
 // Removes those deposited that no book names. Not the ones of these last thirty days: in a folder that two computers

@@ -1,5 +1,7 @@
 #include "model/Couvertures.h"
 
+#include "model/Fichier.h"
+
 namespace Quillet {
 
 QString Couvertures::nom(const QString &fichier)
@@ -20,6 +22,17 @@ QHash<QString, QString> Couvertures::fichiers(const QDir &dossier)
     for (const QString &fichier : dossier.entryList(QDir::Files))
         fichiers.insert(nom(fichier), fichier);
     return fichiers;
+}
+
+QHash<QString, QByteArray> Couvertures::contenus(const QDir &dossier, const QList<Livre> &livres)
+{
+    const auto presentes = fichiers(dossier);
+    QHash<QString, QByteArray> contenus;
+    for (const Livre &livre : livres)
+        if (const QString fichier = presentes.value(nom(livre.couverture)); !fichier.isEmpty())
+            if (const auto octets = Fichier::lireOuRefuser(dossier.filePath(fichier), Fichier::Borne::image))
+                contenus.insert(fichier, *octets);
+    return contenus;
 }
 
 } // namespace Quillet

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/Livre.h"
+
 #include <QDir>
 #include <QHash>
 #include <QString>
@@ -14,5 +16,7 @@ QString nom(const QString &fichier);
 QStringList formats();
 // Files by that name.
 QHash<QString, QString> fichiers(const QDir &dossier);
+// What the files of these books' covers hold, by file; one that is not there is none. Throws ErreurStockage.
+QHash<QString, QByteArray> contenus(const QDir &dossier, const QList<Livre> &livres);
 
 } // namespace Quillet::Couvertures

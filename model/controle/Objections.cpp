@@ -39,6 +39,28 @@ Objections::ParChamp Objections::surLeLivre(const Livre &livre, const Regles::Re
     return sur(livre, [&](const Json::Lieu &lieu) { Regles::livre(livre, reperes, lieu); });
 }
 
+QString Objections::auChamp(const ParChamp &objections, const QString &champ)
+{
+    for (auto objection = objections.lowerBound(champ); objection != objections.end(); ++objection) {
+        const QStringView suite = QStringView(objection.key()).sliced(std::min(champ.size(), objection.key().size()));
+        if (!objection.key().startsWith(champ))
+            break;
+        if (suite.isEmpty() || suite.front() == u'.' || suite.front() == u'[')
+            return objection.value();
+    }
+    return {};
+}
+
+QString Objections::nouvelle(const ParChamp &avant, const ParChamp &apres, const QString &champ)
+{
+    if (const QString sienne = auChamp(apres, champ); !sienne.isEmpty())
+        return sienne;
+    for (auto objection = apres.begin(); objection != apres.end(); ++objection)
+        if (avant.value(objection.key()) != objection.value())
+            return objection.value();
+    return {};
+}
+
 Objections::ParChamp Objections::surLesReglages(const Reglages &reglages, const QList<CodeDestination> &destinations)
 {
     return sur(reglages, [&](const Json::Lieu &lieu) { Regles::reglages(reglages, destinations, lieu); });

@@ -16,6 +16,10 @@ using ParChamp = QMap<QString, QString>;
 Regles::Reperes reperes(const Donnees &donnees, const QDir &couvertures);
 
 ParChamp surLeLivre(const Livre &livre, const Regles::Reperes &reperes);
+// About this field, or a part of it; empty: nothing.
+QString auChamp(const ParChamp &objections, const QString &champ);
+// What a change of this field has brought about: about the field itself, else elsewhere. Empty: nothing.
+QString nouvelle(const ParChamp &avant, const ParChamp &apres, const QString &champ);
 ParChamp surLesReglages(const Reglages &reglages, const QList<CodeDestination> &destinations);
 
 } // namespace Quillet::Objections

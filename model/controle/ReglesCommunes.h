@@ -29,7 +29,7 @@ void controler(const T &, const Json::Lieu &)
 inline void controler(const QString &texte, const Json::Lieu &lieu)
 {
     if (texte.trimmed().isEmpty())
-        lieu.noter(QStringLiteral("texte vide"));
+        lieu.noter(QStringLiteral("à remplir"));
 }
 
 inline void controler(const Jour &jour, const Json::Lieu &lieu)

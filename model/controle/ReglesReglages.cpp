@@ -5,6 +5,7 @@
 #include "model/controle/ReglesCommunes.h"
 
 #include <QRegularExpression>
+#include <QSet>
 
 #include <algorithm>
 
@@ -29,10 +30,14 @@ void emballages(const Reglages &reglages, const Lieu &racine)
     const Lieu lieu(racine, QStringLiteral("emballages"));
     if (emballages.isEmpty())
         return; // sellers who weigh every parcel need none
-    ReglesCommunes::sansDoublon(emballages, "nom", &Emballage::nom, lieu);
-    for (qsizetype i = 0; i < emballages.size(); ++i)
+    QSet<QString> noms;
+    for (qsizetype i = 0; i < emballages.size(); ++i) {
+        if (noms.contains(emballages[i].nom))
+            Lieu(lieu, i).noter("nom", QStringLiteral("un autre emballage a déjà ce nom"));
         if (emballages[i].nom == BonDeCommande::autrePoids())
             Lieu(lieu, i).noter("nom", QStringLiteral("nom réservé au poids que l’on tape"));
+        noms.insert(emballages[i].nom);
+    }
     if (emballages.first().poids == Grammes{})
         Lieu(lieu, 0).noter("poids",
                             QStringLiteral("plus de 0 g attendus, ce poids compte dans les prix des boutons PayPal"));
@@ -78,7 +83,7 @@ bool estUnNomDeSite(const QString &site)
 void vendeur(const IdentiteVendeur &identite, const Lieu &lieu)
 {
     if (identite.adresse.isEmpty())
-        lieu.noter("adresse", QStringLiteral("aucune ligne"));
+        lieu.noter("adresse", QStringLiteral("adresse à remplir"));
     if (identite.siret && !NumeroDeControle::siret(*identite.siret))
         lieu.noter("siret", QStringLiteral("ce n’est pas un numéro SIRET"));
     if (identite.retourPaypal)

@@ -156,6 +156,18 @@ private slots:
         QCOMPARE(numerotation.prochain(Vendeur::mireva, jourDuBanc), "2026-001");
     }
 
+    // One's own series owes nothing to the one that was tried out, and goes on after invoices made elsewhere.
+    void uneAutreSerie()
+    {
+        const Banc banc;
+        NumerotationFactures numerotation{banc.preferences()};
+        numerotation.retenir("2026-005", Vendeur::davrel);
+        numerotation.recommencer("", Vendeur::davrel);
+        QCOMPARE(numerotation.prochain(Vendeur::davrel, jourDuBanc), "2026-001");
+        numerotation.recommencer("2026-003", Vendeur::davrel);
+        QCOMPARE(numerotation.prochain(Vendeur::davrel, jourDuBanc), "2026-004");
+    }
+
     // The disk takes a part of the file.
     void disquePlein()
     {

@@ -214,7 +214,7 @@ void TestControleDonnees::erreurs()
              {"tarifs-colissimo-2026-01-01", R"("code" : "om1")", R"("code" : 1)",
               "tarifs-colissimo-2026-01-01.grilles[1].code : texte attendu"},
              // What holds everywhere.
-             {"livres", "Le Phare de sel\"", " \"", "livres[0].titre : texte vide"},
+             {"livres", "Le Phare de sel\"", " \"", "livres[0].titre : à remplir"},
              {"livres", R"("france" : 1499)", R"("france" : -1)", "livres[1].prixPaypal.france : nombre négatif"},
              {"livres", "https://boutique.atelier-mireva.example/le-renard\"", "http://boutique.example\"",
               "livres[9].lienPaypal : adresse https attendue"},
@@ -275,14 +275,14 @@ void TestControleDonnees::erreurs()
               "reglages.douane.codesParDestination.lune : six à dix chiffres attendus"},
              {"reglages", R"("nom" : "Atelier Mireva",)",
               R"("nom" : "Atelier Mireva", "eori" : "FR 123", "nomCourt" : " ",)",
-              "reglages.vendeurs.mireva.nomCourt : texte vide\n"
+              "reglages.vendeurs.mireva.nomCourt : à remplir\n"
               "reglages.vendeurs.mireva.eori : numéro EORI attendu : deux lettres, puis quinze chiffres au plus, sans "
               "espace"},
              {"reglages", R"("nom" : "Enveloppe à bulles")", R"("nom" : "Enveloppe")",
               "reglages.emballages : aucun ne s’appelle « Enveloppe à bulles », "
               "l’emballage d’une nouvelle commande : il compterait 0 g"},
              {"reglages", "Pochette cartonnée", "Carton",
-              "reglages.emballages[4].nom : déjà pris par reglages.emballages[2]"},
+              "reglages.emballages[4].nom : un autre emballage a déjà ce nom"},
              {"reglages", "Pochette cartonnée", "Autre poids",
               "reglages.emballages[2].nom : nom réservé au poids que l’on tape"},
              {"reglages", R"("poids" : 40)", R"("poids" : 0)",

@@ -1,9 +1,14 @@
 #include "model/DossierPersonnel.h"
+#include "model/EditionReglages.h"
 #include "model/Historique.h"
+#include "model/controle/Objections.h"
 #include "tests/Banc.h"
+#include "tests/Rangees.h"
 
 #include <QSignalSpy>
 #include <QTest>
+
+#include <utility>
 
 using namespace Quillet;
 
@@ -128,6 +133,62 @@ private slots:
         QCOMPARE(commande.bon().emballage, BonDeCommande::autrePoids());
         commande.commencer(donnees);
         QCOMPARE(commande.bon().emballage, "Sac");
+    }
+
+    // The order in progress keeps its parcel, and a new one its packaging, under whatever name.
+    void lesEmballagesChangent()
+    {
+        Banc banc;
+        Donnees donnees = banc.donnees();
+        donnees.personnelles = true;
+        donnees.reglages.emballages.append({"Sac", Grammes{12}});
+        const auto noms = [&] {
+            QStringList lignes;
+            for (const Emballage &emballage : donnees.reglages.emballages)
+                lignes.append(emballage.nom);
+            return lignes.join(u' ') + u'|' + BonDeCommande::emballageDeDepart(donnees.reglages);
+        };
+        Commande commande;
+        commande.commencer(donnees);
+        const auto faire = [&](const Reglages &apres) {
+            const auto avant = std::exchange(donnees.reglages, apres).emballages;
+            commande.setEmballage(EditionReglages::nomApres(commande.bon().emballage, avant, apres.emballages));
+            commande.suivre(donnees);
+            return commande.bon().emballage;
+        };
+        QCOMPARE(faire(EditionReglages::emballageRenomme(donnees.reglages, 0, "Bulles")), "Bulles");
+        QCOMPARE(noms(), "Bulles Carton Sac|Bulles");
+        commande.setEmballage("Sac");
+        QCOMPARE(faire(EditionReglages::emballageRenomme(donnees.reglages, 2, "Toile")), "Toile");
+        QCOMPARE(faire(EditionReglages::emballageDeplace(donnees.reglages, 2, -2)), "Toile");
+        QCOMPARE(noms(), "Toile Bulles Carton|Bulles");
+        QCOMPARE(faire(EditionReglages::emballageDeplace(donnees.reglages, 2, 1)), "Toile");
+        QCOMPARE(noms(), "Toile Bulles Carton|Bulles");
+        QCOMPARE(faire(EditionReglages::sansEmballage(donnees.reglages, 0)), "Bulles");
+        QCOMPARE(faire(EditionReglages::sansEmballage(donnees.reglages, 0)), "Carton");
+        QCOMPARE(noms(), "Carton|Carton");
+        QCOMPARE(faire(EditionReglages::sansEmballage(donnees.reglages, 0)), BonDeCommande::autrePoids());
+        faire(EditionReglages::avecEmballage(EditionReglages::avecEmballage(donnees.reglages)));
+        QCOMPARE(noms(), "Nouvel emballage Nouvel emballage 2|" + BonDeCommande::autrePoids());
+    }
+
+    void lesObjectionsSontCellesDuChamp()
+    {
+        const Objections::ParChamp avant{{"emballages[1].nom", "pris"}, {"vendeurs.davrel.nomCourt", "vide"}};
+        for (const auto &[champ, dite, nouvelle] : Rangees<const char *, const char *>{
+                 {"vendeurs.davrel.nomCourt", "vide", "vide"},
+                 {"vendeurs.davrel.nom", "", "ailleurs"}, // which the other's name begins with
+                 {"emballages", "pris", "pris"},
+                 {"emballages[1]", "pris", "pris"},
+                 {"emballages[1].nom.suite", "", "ailleurs"},
+             }) {
+            const Rangee rangee(champ);
+            QCOMPARE(Objections::auChamp(avant, champ), dite);
+            Objections::ParChamp apres = avant;
+            QCOMPARE(Objections::nouvelle(avant, apres, "douane"), "");
+            apres.insert("site", "ailleurs");
+            QCOMPARE(Objections::nouvelle(avant, apres, champ), nouvelle);
+        }
     }
 
     void rienNEstEcritParDessusUnAutre()
