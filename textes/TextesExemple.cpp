@@ -13,7 +13,7 @@ QString siExemple(Origine origine, const QString &phrase)
 
 QString TextesExemple::surLaCommande()
 {
-    return QStringLiteral("Ces livres et leurs vendeurs sont un exemple, pour essayer Quillet.");
+    return QStringLiteral("Ces livres et leurs vendeurs sont un exemple.");
 }
 
 QString TextesExemple::surLaFacture(Origine origine)

@@ -8,6 +8,7 @@
 #include "ui/echanges/Echanges.h"
 #include "ui/echanges/Listes.h"
 #include "ui/misesajour/FeuilleMiseAJour.h"
+#include "ui/vendeurs/FeuilleVendeurs.h"
 #include "watch/MisesAJour.h"
 
 #include <QApplication>
@@ -31,6 +32,12 @@ void aPropos(Fenetre &fenetre)
     boite->setIconPixmap(fenetre.windowIcon().pixmap(64));
     boite->setAttribute(Qt::WA_DeleteOnClose);
     boite->open(); // a reader that chooses in a menu waits until the choice has been obeyed
+}
+
+void garnirDonnees(QMenu &menu, Fenetre &fenetre, const Contexte &contexte)
+{
+    menu.addAction(QStringLiteral("&Vendeurs et emballages…"), &fenetre,
+                   [&fenetre, &contexte] { FeuilleVendeurs::ouvrir(contexte, &fenetre); });
 }
 
 void garnirEchanges(QMenu &menu, Fenetre &fenetre, const Contexte &contexte)
@@ -61,6 +68,7 @@ void garnirQuillet(QMenu &menu, Fenetre &fenetre, const Contexte &contexte, Mise
     QObject::connect(&misesAJour, &MisesAJour::change, rechercher, suivre);
     suivre();
     menu.addSeparator();
+    garnirDonnees(menu, fenetre, contexte);
     garnirEchanges(menu, fenetre, contexte);
     garnirListes(menu, fenetre, contexte);
     menu.addSeparator();

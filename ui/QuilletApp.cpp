@@ -4,6 +4,7 @@
 #include "composants/Style.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/bureau/Bureau.h"
+#include "model/EditionReglages.h"
 #include "ui/ComplementFrancais.h"
 #include "ui/Fenetre.h"
 
@@ -71,16 +72,24 @@ QuilletApp::QuilletApp(const Ressources &ressources, Stockage stockage, const Pr
       fenetre_(std::make_unique<Fenetre>(contexte_, misesAJour_))
 {
     commande_.commencer(catalogue_->donnees());
-    QObject::connect(catalogue_.get(), &Catalogue::change, &commande_, [this] {
-        if (catalogue_->donnees().personnelles)
-            commande_.suivre(catalogue_->donnees());
-    });
+    QObject::connect(catalogue_.get(), &Catalogue::change, &commande_,
+                     [this, emballages = catalogue_->donnees().reglages.emballages]() mutable {
+                         const Donnees &donnees = catalogue_->donnees();
+                         const auto avant = std::exchange(emballages, donnees.reglages.emballages);
+                         if (!donnees.personnelles)
+                             return;
+                         commande_.setEmballage(
+                             EditionReglages::nomApres(commande_.bon().emballage, avant, emballages));
+                         commande_.suivre(donnees);
+                     });
     QObject::connect(catalogue_.get(), &Catalogue::recharge, &commande_,
                      [this, enForce = ressources.dossier().path()]() mutable {
                          images_.setDossier(QDir(catalogue_->ressources().chemin(QStringLiteral("couvertures"))));
                          if (const QString dossier = catalogue_->ressources().dossier().path();
-                             std::exchange(enForce, dossier) != dossier)
+                             std::exchange(enForce, dossier) != dossier) {
+                             factures_ = MemoireFactures();
                              commande_.commencer(catalogue_->donnees()); // the same numbers are other books
+                         }
                      });
     QObject::connect(&commande_, &Commande::change, &commande_, [this] { factures_.suivre(commande_.bon()); });
     // Neither drawing the icon in all its sizes nor the network's own start may delay the first image.

@@ -29,6 +29,7 @@ public:
     Q_DISABLE_COPY_MOVE(QuilletApp)
 
     [[nodiscard]] Commande &commande() { return commande_; }
+    [[nodiscard]] const Contexte &contexte() const { return contexte_; }
     [[nodiscard]] Catalogue &catalogue() { return *catalogue_; }
     [[nodiscard]] Fenetre &fenetre() { return *fenetre_; }
 

@@ -16,10 +16,12 @@
 #include "ui/Raccourcis.h"
 #include "ui/commande/Couverture.h"
 #include "ui/commande/GrilleLivres.h"
+#include "ui/commande/LigneDExemple.h"
 #include "ui/commande/Recapitulatif.h"
 #include "ui/commande/SelecteurSite.h"
 #include "ui/documents/VueDocuments.h"
 #include "ui/reponse/VueReponse.h"
+#include "ui/vendeurs/FeuillePremiersPas.h"
 
 #include <QApplication>
 #include <QPushButton>
@@ -112,7 +114,13 @@ QWidget *VueCommande::colonneDesLivres()
     defilement->setWidget(contenu);
     connect(defilement->verticalScrollBar(), &QScrollBar::valueChanged, grille_, &GrilleLivres::suivreLePointeur);
 
-    return Pile::enColonne({.espace = 0}, {enTete_, {defilement, 1}});
+    QWidget *colonne = Pile::enColonne({.espace = 0}, {enTete_, {defilement, 1}});
+    if (LigneDExemple::aDire(contexte_)) {
+        auto *exemple = new LigneDExemple(contexte_);
+        connect(exemple, &LigneDExemple::lesVotres, this, &VueCommande::mettreLesVotres);
+        static_cast<QBoxLayout *>(colonne->layout())->insertWidget(1, exemple);
+    }
+    return colonne;
 }
 
 void VueCommande::actualiser()
@@ -143,6 +151,16 @@ void VueCommande::actualiser()
 void VueCommande::ouvrirLesDocuments(OngletDocuments onglet)
 {
     (new VueDocuments(contexte_, onglet, window()))->ouvrir();
+}
+
+void VueCommande::mettreLesVotres()
+{
+    auto *feuille = new FeuillePremiersPas(contexte_, window());
+    connect(feuille, &QDialog::accepted, this, [this] {
+        if (QWidget *couverture = grille_->arret())
+            couverture->setFocus(); // the line that opened it has gone
+    });
+    feuille->ouvrir();
 }
 
 void VueCommande::ouvrirLaReponse()

@@ -29,6 +29,7 @@ private:
     QWidget *colonneDesLivres();
     void actualiser();
     void ouvrirLesDocuments(OngletDocuments onglet);
+    void mettreLesVotres();
     void ouvrirLaReponse();
     void passerA(Etape etape);
     void noter(Etape etape);

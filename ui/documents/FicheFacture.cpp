@@ -14,6 +14,7 @@
 #include "composants/ZoneDeTexte.h"
 #include "documents/AdressePostale.h"
 #include "textes/TextesDocuments.h"
+#include "textes/TextesExemple.h"
 #include "ui/Contexte.h"
 #include "ui/Raccourcis.h"
 #include "ui/documents/ApercuFacture.h"
@@ -40,6 +41,7 @@ FicheFacture::FicheFacture(const Contexte &contexte, QWidget *parent)
       emission_(contexte.preferences, contexte.factures),
       impossible_(new EtatVide),
       numero_(new LigneDeTexte),
+      exemple_(new Alerte),
       remarque_(new Alerte),
       dejaPartie_(new Alerte),
       acheteur_(new ZoneDeTexte(6)),
@@ -92,6 +94,7 @@ QWidget *FicheFacture::formulaire()
         QStringLiteral("Numéros suivis par vendeur et par année ; le numéro est retenu à l’impression ou à "
                        "l’enregistrement."));
     auto *facture = new Formulaire::Section(QStringLiteral("Facture"));
+    facture->groupe()->ajouter(exemple_);
     facture->groupe()->ajouter(numero);
     facture->groupe()->ajouter(dejaPartie_);
     facture->groupe()->ajouter(remarque_);
@@ -186,6 +189,7 @@ void FicheFacture::completer()
     remarquerLeNumero();
     dejaPartie_->montrer(TextesDocuments::dejaPartie(contexte_.factures.partie(), facture_->numero));
     sansAcheteur_->montrer(TextesDocuments::sansAcheteur(facture_->acheteur));
+    exemple_->montrer(TextesExemple::surLaFacture(contexte_.catalogue.ressources().origine()));
     identite_->setText(TextesDocuments::vendeur(facture_->vendeur));
     sansSiret_->montrer(TextesDocuments::sansSiret(facture_->vendeur));
     apercu_->montrer(*facture_);

@@ -61,6 +61,7 @@ private:
     std::optional<Facture> facture_; // the one shown
     EtatVide *impossible_;
     QLineEdit *numero_;
+    Alerte *exemple_; // that the name on it is invented
     Alerte *remarque_;
     Alerte *dejaPartie_;
     ZoneDeTexte *acheteur_;

@@ -20,6 +20,7 @@
 #include "ui/livres/RetourAuxValeurs.h"
 #include "ui/livres/VoletLivres.h"
 #include "ui/tarifs/ChoixTarifs.h"
+#include "ui/vendeurs/FeuillePremiersPas.h"
 
 #include <QPushButton>
 #include <QShowEvent>
@@ -98,6 +99,8 @@ VueLivres::VueLivres(const Contexte &contexte, QWidget *parent)
     connect(choix_, &ChoixTarifs::choisi, this, &VueLivres::actualiser);
     connect(&contexte_.catalogue, &Catalogue::change, this, &VueLivres::actualiser);
     connect(&contexte_.jour, &JourCourant::change, this, &VueLivres::actualiser);
+    connect(this, &VueLivres::mettreLesSiens, this,
+            [this] { (new FeuillePremiersPas(contexte_, window()))->ouvrir(); });
     Raccourcis::lier(this, Raccourcis::Geste::chercherUnLivre, [this] { volet_->chercher(); });
     Raccourcis::lier(this, Raccourcis::Geste::ajouterUnLivre, [this] { ajouter(); });
     Raccourcis::lier(this, Raccourcis::Geste::modifierLeLivre, [this] { modifier(); });

@@ -12,6 +12,7 @@
 #include "documents/PaysDeLivraison.h"
 #include "documents/ReponseType.h"
 #include "model/Echec.h"
+#include "textes/TextesExemple.h"
 #include "textes/TextesReponse.h"
 #include "ui/Contexte.h"
 #include "ui/reponse/ApercuMessage.h"
@@ -51,6 +52,7 @@ VueReponse::VueReponse(const Contexte &contexte, QWidget *parent)
       adresse_(champ(QStringLiteral("E-mail de l’acheteur"), QStringLiteral("prenom.nom@exemple.fr"))),
       lienDouteux_(new Alerte),
       adresseRefusee_(new Alerte),
+      exemple_(new Alerte),
       lienAbsent_(new Alerte(QStringLiteral("link"), {}, Alerte::Ton::note)),
       apercu_(new ApercuMessage),
       envoyer_(new QPushButton(Icone::icone(QStringLiteral("envelope")), QStringLiteral("Ouvrir dans Mail"))),
@@ -104,7 +106,7 @@ QWidget *VueReponse::message()
     connect(envoyer_, &QPushButton::clicked, this, &VueReponse::ouvrirDansMail);
 
     QWidget *message = Pile::enColonne({.marges = {20, 20, 20, 20}, .espace = 14},
-                                       {lienAbsent_, {apercu_, 1}, {envoyer_, 0, Qt::AlignLeft}});
+                                       {exemple_, lienAbsent_, {apercu_, 1}, {envoyer_, 0, Qt::AlignLeft}});
     TailleDuTexte::suivre(message, [message] { message->setMinimumSize(Theme::aLaTaille(plusPetitMessage)); });
     return message;
 }
@@ -123,6 +125,7 @@ void VueReponse::actualiser()
     if (!message)
         return;
     langue_->montrer(message->langue);
+    exemple_->montrer(TextesExemple::surLaReponse(contexte_.catalogue.ressources().origine()));
     lienAbsent_->montrer(TextesReponse::lienAbsent(*message));
     lienDouteux_->montrer(TextesReponse::lienDouteux(*message));
     adresseRefusee_->montrer(TextesReponse::adresseRefusee(adresse_->text()));

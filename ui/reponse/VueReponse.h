@@ -44,6 +44,7 @@ private:
     QLineEdit *adresse_;
     Alerte *lienDouteux_;
     Alerte *adresseRefusee_;
+    Alerte *exemple_; // that the books and names in it are invented
     Alerte *lienAbsent_;
     ApercuMessage *apercu_;
     QPushButton *envoyer_;
