@@ -185,7 +185,7 @@ private slots:
                  {"prix nul", "0;355;212;A5;Français;oui", "Prix (€) : Un prix de plus de 0"},
                  {"kilos", "18;0,355 kg;212;A5;Français;oui", "Poids (g) : Un poids s’écrit en grammes entiers"},
                  {"pages", "18;355;beaucoup;A5;Français;oui", "Pages : « beaucoup » n’est pas un nombre entier."},
-                 {"sans format", "18;355;212;;Français;oui", "Format : Texte vide."},
+                 {"sans format", "18;355;212;;Français;oui", "Format : À remplir."},
                  {"peut-être", "18;355;212;A5;Français;peut-être", "Disponible : « peut-être » n’est ni oui ni non."},
                  {"ISBN", "18;355;212;A5;Français;oui;978-2-00-000000-1",
                   "ISBN : « 978-2-00-000000-1 » n’est pas un ISBN"},

@@ -91,7 +91,7 @@ private slots:
         for (const auto &[champ, saisie, lu, attendu, refus] :
              Rangees<const char *, Lecture, const char *, const char *>{
                  {"Titre", " Un ", texte(&Livre::titre), "Un", ""},
-                 {"Titre", " ", texte(&Livre::titre), "Livre 1", "Texte vide."},
+                 {"Titre", " ", texte(&Livre::titre), "Livre 1", "À remplir."},
                  {"Titre complet", "", texte(&Livre::titreComplet), "Livre 1", ""},
                  {"Auteur", "Lui", texte(&Livre::auteur), "Lui", ""},
                  {"Prix", "16,5", [](const Livre &l) { return QString::number(l.prix.valeur()); }, "1650", ""},
@@ -171,11 +171,11 @@ private slots:
     {
         const BancPersonnel cas;
         QDialog *feuille = cas.feuille("Ctrl+N");
-        QVERIFY(!cas.dit(feuille, "Texte vide."));
+        QVERIFY(!cas.dit(feuille, "À remplir."));
         QCOMPARE(cas.champ(feuille, "Auteur")->text(), "Une autrice"); // as the last book
         QVERIFY(cas.remplir(feuille, "Pages", "zut"));
         QVERIFY(Ecran::cliquer(feuille, "Ajouter le livre"));
-        for (const char *refus : {"Texte vide.", "Il faut un prix.", "Un nombre de pages s’écrit"})
+        for (const char *refus : {"À remplir.", "Il faut un prix.", "Un nombre de pages s’écrit"})
             QVERIFY2(cas.dit(feuille, refus), refus);
         QVERIFY(cas.champ(feuille, "Titre")->hasFocus());
         for (const auto &[champ, saisie] : {std::pair("Titre", "Neuf"), {"Prix", "12"}, {"Pages", "80"}})
