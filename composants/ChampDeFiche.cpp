@@ -75,8 +75,11 @@ void ChampDeFiche::montrer(const QString &valeur)
     if (valeur == valeur_)
         return;
     valeur_ = rendu_ = valeur;
-    if (valeur != texte())
+    if (valeur != texte()) {
         poser(valeur);
+        if (ligne_ && !ligne_->hasFocus())
+            ligne_->home(false); // a long one shows where it begins
+    }
     objecter({});
 }
 

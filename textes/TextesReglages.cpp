@@ -107,14 +107,6 @@ QString TextesReglages::geste(const QString &libelle, const IdentiteVendeur &ide
     return QStringLiteral("%1 de « %2 »").arg(quoi, identite.nom);
 }
 
-QString TextesReglages::phrase(const QString &objection)
-{
-    if (objection.isEmpty())
-        return {};
-    return objection.left(1).toUpper() + objection.mid(1)
-           + (objection.endsWith(u'.') ? QString() : QStringLiteral("."));
-}
-
 QString TextesReglages::premierPas(int rang)
 {
     switch (rang) {

@@ -34,8 +34,6 @@ std::optional<QString> eoriPropose(const IdentiteVendeur &identite);
 QString chemin(Vendeur vendeur);
 // "adresse de « Éditions Davrel »"
 QString geste(const QString &libelle, const IdentiteVendeur &identite);
-// A rule's words, as a sentence beside a field.
-QString phrase(const QString &objection);
 
 // What a page of the first steps is for.
 QString premierPas(int rang);

@@ -2,6 +2,7 @@
 #include "composants/TailleDuTexte.h"
 #include "tests/BancEcran.h"
 #include "ui/ContenuPrincipal.h"
+#include "ui/vendeurs/FeuilleVendeurs.h"
 #include "visite/Lisibilite.h"
 #include "visite/SiteDeLaVisite.h"
 
@@ -162,6 +163,16 @@ private slots:
         for (int rang = 0; rang < livres->model()->rowCount(); ++rang) { // to report, not weighed, sold out
             livres->setCurrentIndex(livres->model()->index(rang, 0));
             lire(QStringLiteral("Livre %1").arg(rang), &fenetre);
+        }
+        using Feuilles = QList<std::pair<const char *, Origine>>;
+        const Feuilles siennes{{"Premiers pas", Origine::exemple}, {"Vendeurs et emballages", Origine::utilisateur}};
+        for (const auto &[ecran, origine] : extremes ? Feuilles() : siennes) { // a field shows a part of a long text
+            banc.origine = origine;
+            banc.demarrer();
+            lire(ecran, &banc.app->fenetre());
+            FeuilleVendeurs::ouvrir(banc.app->contexte(), &banc.app->fenetre());
+            Dialogues::devant()->setFocus(); // what is selected is drawn twice
+            lireEtFermer(ecran, Dialogues::devant());
         }
         QVERIFY2(tous.isEmpty(), qPrintable(tous.join(u'\n')));
     }

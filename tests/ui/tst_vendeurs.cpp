@@ -285,6 +285,8 @@ private:
         if (!champ)
             return false;
         champ->setFocus();
+        if (!QTest::qWaitFor([&] { return champ->hasFocus(); })) // once the sheet is in front
+            return false;
         QTest::keyClick(champ, Qt::Key_A, Qt::ControlModifier);
         if (auto *zone = qobject_cast<QPlainTextEdit *>(champ))
             zone->insertPlainText(texte);

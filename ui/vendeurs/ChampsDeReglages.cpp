@@ -1,7 +1,6 @@
 #include "ui/vendeurs/ChampsDeReglages.h"
 
 #include "composants/ChampDeFiche.h"
-#include "textes/TextesReglages.h"
 
 namespace Quillet {
 
@@ -45,7 +44,7 @@ ChampDeFiche *ChampsDeReglages::objecter(const Objections::ParChamp &objections)
     ChampDeFiche *premier = nullptr;
     for (const Lie &lie : lies()) {
         if (lie.champ->texte() == lie.description.lire(reglages())) // else it was refused, which it says
-            lie.champ->objecter(TextesReglages::phrase(Objections::auChamp(objections, lie.description.chemin)));
+            lie.champ->objecter(Objections::auChamp(objections, lie.description.chemin));
         if (!premier && lie.champ->estRefuse())
             premier = lie.champ;
     }

@@ -97,7 +97,7 @@ QString FeuillePremiersPas::noter(const Reglages &apres, const QString &chemin)
     brouillon_ = apres;
     vendeurs_->montrer();
     emballages_->montrer();
-    return TextesReglages::phrase(Objections::nouvelle(avant, objections(), chemin));
+    return Objections::nouvelle(avant, objections(), chemin);
 }
 
 Objections::ParChamp FeuillePremiersPas::objections() const

@@ -177,7 +177,7 @@ QString FeuilleVendeurs::ecrire(const Reglages &apres, const QString &chemin, co
     const QString objection = Objections::nouvelle(Objections::surLesReglages(donnees.reglages, codes(donnees)),
                                                    Objections::surLesReglages(apres, codes(donnees)), chemin);
     if (!objection.isEmpty())
-        return TextesReglages::phrase(objection);
+        return objection;
     QString echec;
     try {
         contexte_.historique.remplacer(apres, geste);

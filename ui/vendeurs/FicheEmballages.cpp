@@ -11,7 +11,6 @@
 #include "model/BonDeCommande.h"
 #include "model/EditionReglages.h"
 #include "model/Saisie.h"
-#include "textes/TextesReglages.h"
 
 #include <QPushButton>
 #include <QToolButton>
@@ -176,7 +175,7 @@ ChampDeFiche *FicheEmballages::objecter(const Objections::ParChamp &objections)
 {
     ChampDeFiche *premier = champs_.objecter(objections);
     if (!premier)
-        echec_->montrer(TextesReglages::phrase(Objections::auChamp(objections, liste)));
+        echec_->montrer(Objections::auChamp(objections, liste));
     return premier;
 }
 
