@@ -90,6 +90,8 @@ void Catalogue::ouvrir(const Ressources &ressources)
     if (ressources.origine() == Origine::utilisateur)
         personnel.emplace(ressources.dossier());
     donnees_ = charger(ressources, stockage_);
+    if (personnel)
+        fraisDuDossier_ = ressources.lire<Reglages>(QStringLiteral("reglages")).fraisPaypal;
     ressources_ = ressources;
     personnel_ = std::move(personnel);
 }
@@ -174,8 +176,9 @@ void Catalogue::remplacer(const QList<Livre> &livres)
 void Catalogue::remplacer(const Reglages &reglages)
 {
     Reglages nouveaux = reglages;
-    nouveaux.fraisPaypal = donnees_.reglages.fraisPaypal;
+    nouveaux.fraisPaypal = fraisDuDossier_;
     personnel_.value().ecrire(nouveaux, DossierPersonnel::reglages());
+    nouveaux.fraisPaypal = donnees_.reglages.fraisPaypal;
     adopter(donnees_.reglages, nouveaux);
 }
 

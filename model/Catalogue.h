@@ -66,6 +66,7 @@ private:
     Stockage stockage_;
     std::optional<DossierPersonnel> personnel_;
     Donnees donnees_;
+    FraisPaypal fraisDuDossier_; // those that accepted ones stand over
 };
 
 } // namespace Quillet

@@ -36,6 +36,7 @@ void Commande::commencer(const Donnees &donnees)
     BonDeCommande bon{.emballage = BonDeCommande::emballageDeDepart(donnees.reglages)};
     bon.suivre(donnees);
     bon.rangAcheteur = bon_.rangAcheteur + (bon_.estVide() ? 0 : 1);
+    videe_.reset(); // also where nothing else changes
     adopter(bon);
 }
 
@@ -43,7 +44,9 @@ void Commande::suivre(const Donnees &donnees)
 {
     BonDeCommande bon = bon_;
     bon.suivre(donnees);
-    adopter(bon);
+    if (videe_)
+        videe_->suivre(donnees);
+    passerA(bon, videe_);
 }
 
 void Commande::adopter(const BonDeCommande &bon)

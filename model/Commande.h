@@ -33,7 +33,7 @@ public:
     // Whether `rendre` gives back what `vider` took: until the next change.
     [[nodiscard]] bool peutRendre() const { return videe_.has_value(); }
     void rendre();
-    // What a new order starts with, where the sellers' own data say so.
+    // Starts anew, for another buyer, with what the data say; what was emptied cannot be had back.
     void commencer(const Donnees &donnees);
     // After the sellers' own data have changed; see BonDeCommande.
     void suivre(const Donnees &donnees);

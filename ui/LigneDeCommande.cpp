@@ -136,7 +136,11 @@ std::optional<Reponse> LigneDeCommande::repondre(const QStringList &arguments)
     if (analyseur.isSet(lireCouverture))
         return couverture(analyseur.value(lireCouverture));
     if (sansDossier || analyseur.isSet(verifier))
-        return controle(analyseur.value(verifier));
+        try {
+            return controle(analyseur.value(verifier));
+        } catch (const RessourceIllisible &erreur) { // not even the program's own data are there
+            return Reponse{1, erreur.texte() + u'\n'};
+        }
     return std::nullopt;
 }
 

@@ -4,6 +4,7 @@
 #include "composants/Style.h"
 #include "composants/TailleDuTexte.h"
 #include "composants/bureau/Bureau.h"
+#include "echanges/DepotCouvertures.h"
 #include "model/EditionReglages.h"
 #include "ui/ComplementFrancais.h"
 #include "ui/Fenetre.h"
@@ -83,10 +84,9 @@ QuilletApp::QuilletApp(const Ressources &ressources, Stockage stockage, const Pr
                          commande_.suivre(donnees);
                      });
     QObject::connect(catalogue_.get(), &Catalogue::recharge, &commande_,
-                     [this, enForce = ressources.dossier().path()]() mutable {
+                     [this, avant = ressources.origine()]() mutable {
                          images_.setDossier(QDir(catalogue_->ressources().chemin(QStringLiteral("couvertures"))));
-                         if (const QString dossier = catalogue_->ressources().dossier().path();
-                             std::exchange(enForce, dossier) != dossier) {
+                         if (std::exchange(avant, catalogue_->ressources().origine()) == Origine::exemple) {
                              factures_ = MemoireFactures();
                              commande_.commencer(catalogue_->donnees()); // the same numbers are other books
                          }
@@ -95,6 +95,9 @@ QuilletApp::QuilletApp(const Ressources &ressources, Stockage stockage, const Pr
     // Neither drawing the icon in all its sizes nor the network's own start may delay the first image.
     QObject::connect(fenetre_.get(), &Fenetre::posee, fenetre_.get(), [this] {
         QApplication::setWindowIcon(QIcon(QStringLiteral(":/quillet.svg")));
+        if (catalogue_->donnees().personnelles) // nothing can be undone yet that would name them again
+            Couvertures::elaguer(QDir(catalogue_->ressources().chemin(QStringLiteral("couvertures"))),
+                                 catalogue_->donnees().livres, QDateTime::currentDateTime());
         verifications_.verifierSiNecessaire();
     });
 }

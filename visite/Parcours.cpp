@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QPainter>
+#include <QPointer>
 #include <QScreen>
 #include <QTest>
 
@@ -57,7 +58,7 @@ bool Parcours::jouer()
     fenetre.show();
     if (!QTest::qWaitForWindowExposed(&fenetre))
         return false;
-    if (!composerLaCommande() || !changerDeDestination(QStringLiteral("Union européenne")))
+    if (!emporter() || !composerLaCommande() || !changerDeDestination(QStringLiteral("Union européenne")))
         return false;
     raconter(QStringLiteral("Trois livres vers l’Union européenne"));
     if (!peserLeColis(QStringLiteral("1012")))
@@ -78,7 +79,7 @@ bool Parcours::jouer()
     if (!accepterLesNouveautes())
         return false;
     fenetre.contenu()->montrer(Rubrique::livres);
-    return reporterDesPrix();
+    return reporterDesPrix() && changerUnLivre() && rapporter() && premiersPas();
 }
 
 bool Parcours::composerLaCommande()
@@ -199,6 +200,54 @@ bool Parcours::reporterDesPrix()
            && Ecran::cliquer(&fenetre, QStringLiteral("Reporter, Union européenne / EU"))
            && Ecran::cliquer(&fenetre, QStringLiteral("Garder, Suisse / Switzerland"))
            && photographier(QStringLiteral("livres"));
+}
+
+bool Parcours::changerUnLivre()
+{
+    QDialog *livre = ouvrir(QStringLiteral("Modifier…"), {900, 760});
+    return livre && photographier(QStringLiteral("livre")) && Ecran::cliquer(livre, QStringLiteral("Fermer"));
+}
+
+QDialog *Parcours::donnerLArchive(const QString &entree)
+{
+    if (!Ecran::choisirAuMenu(&quillet_.fenetre(), entree) || !Dialogues::devant())
+        return nullptr;
+    const QPointer<QDialog> choix = Dialogues::devant();
+    Dialogues::enregistrerSous(donnees_.filePath(QStringLiteral("quillet.zip")))(choix);
+    const bool venu =
+        QTest::qWaitFor([&] { return Dialogues::devant() && Dialogues::devant() != choix && !choix->isVisible(); });
+    return venu ? Dialogues::devant() : nullptr;
+}
+
+bool Parcours::emporter()
+{
+    QDialog *fini = donnerLArchive(QStringLiteral("Exporter mes données…"));
+    if (fini)
+        fini->reject();
+    return fini;
+}
+
+bool Parcours::rapporter()
+{
+    QDialog *feuille = ouverte(donnerLArchive(QStringLiteral("Importer…")), {720, 640});
+    return feuille && photographier(QStringLiteral("import")) && Ecran::cliquer(feuille, QStringLiteral("Annuler"));
+}
+
+bool Parcours::premiersPas()
+{
+    QuilletApp neuf(
+        Ressources::duProgramme(), Stockage::dans(QDir(autresDonnees_.path())),
+        Preferences(autresDonnees_.filePath(QStringLiteral("Quillet.ini"))), [] { return jourDeLaVisite; },
+        site_.pages());
+    neuf.fenetre().resize(taille_.value_or(neuf.fenetre().tailleParDefaut()));
+    neuf.fenetre().show();
+    if (!QTest::qWaitForWindowExposed(&neuf.fenetre())
+        || !Ecran::cliquer(&neuf.fenetre(), QStringLiteral("Mettre les vôtres…")))
+        return false;
+    QDialog *pas = ouverte(true, {760, 760});
+    return pas && Ecran::taper(pas, QStringLiteral("Nom, vendeur"), QStringLiteral("Éditions Davrel"))
+           && Ecran::taper(pas, QStringLiteral("SIRET, vendeur"), QStringLiteral("732 829 320 00075"))
+           && Ecran::cliquer(pas, QStringLiteral("Suivant")) && photographier(QStringLiteral("premiers-pas"));
 }
 
 void Parcours::raconter(const QString &etape)

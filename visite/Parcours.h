@@ -36,6 +36,14 @@ private:
     bool preparerLesDocuments();
     bool accepterLesNouveautes();
     bool reporterDesPrix();
+    bool changerUnLivre();
+    // Exports the data as they are, and shows them at the end beside what they have become.
+    bool emporter();
+    bool rapporter();
+    // Answers the file dialog behind an entry of the menu, and waits for what comes after it; null: nothing does.
+    QDialog *donnerLArchive(const QString &entree);
+    // Another start, on the example.
+    bool premiersPas();
     // What is in front, or the surroundings of a part of it, whatever scrolling hides; with the list that is open over.
     bool photographier(const QString &nom, QWidget *partie = nullptr);
 
@@ -44,6 +52,7 @@ private:
     bool bavard_;
     std::optional<QSize> taille_;
     QTemporaryDir donnees_;
+    QTemporaryDir autresDonnees_;
     SiteDeLaVisite site_;
     Stockage stockage_;
     QuilletApp quillet_;

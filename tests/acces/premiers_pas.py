@@ -112,7 +112,7 @@ def premiers_pas(main, programme, quillet):
     livre(main, programme, feuille, LIVRES[0], COUVERTURES[0])
     main.bouton(feuille, "Commencer avec ce livre")
     attendre(lambda: cherche(quillet, "push button", LIVRES[0]["Titre"]), "le premier livre n’est pas là")
-    exiger(not montre(quillet, "Davrel") and not cherche(quillet, None, "Mireva"), "l’exemple se montre encore")
+    attendre(lambda: not montre(quillet, "Davrel") and not cherche(quillet, None, "Mireva"), "l’exemple se montre encore")
 
 
 def second_livre(main, programme, quillet):

@@ -99,12 +99,20 @@ private slots:
         Reglages reglages = catalogue->donnees().reglages;
         reglages.emballages.first().nom = "Sac";
         reglages.fraisPaypal.fixe = Centimes{1}; // only accepted with the others
-        const FraisPaypal frais = catalogue->donnees().reglages.fraisPaypal;
+        FraisPaypal frais = catalogue->donnees().reglages.fraisPaypal;
+        frais.fixe = Centimes{99};
+        catalogue->enregistrer(frais);
         historique.remplacer(reglages, "emballage");
+        QVERIFY(Fichier::lire(banc.chemin("reglages.json"), 100'000) // another computer has not accepted them
+                == Json::encoder([&] {
+                       Reglages ecrits = reglages;
+                       ecrits.fraisPaypal = banc.reglages.fraisPaypal;
+                       return ecrits;
+                   }()));
         QCOMPARE(banc.ouvrir()->donnees().reglages.emballages.first().nom, "Sac");
         QCOMPARE(banc.ouvrir()->donnees().reglages.fraisPaypal, frais);
         QVERIFY(!historique.annuler());
-        QCOMPARE(banc.ouvrir()->donnees().reglages, banc.reglages);
+        QCOMPARE(banc.ouvrir()->donnees().reglages.emballages, banc.reglages.emballages);
     }
 
     // A new order starts with what the data say; the one in progress lets go of what they do not have any more.
@@ -131,8 +139,11 @@ private slots:
         commande.setEmballage(BonDeCommande::autrePoids());
         commande.suivre(donnees);
         QCOMPARE(commande.bon().emballage, BonDeCommande::autrePoids());
+        commande.ajuster(banc.livres[1], 1);
+        commande.vider();
         commande.commencer(donnees);
         QCOMPARE(commande.bon().emballage, "Sac");
+        QVERIFY(!commande.peutRendre()); // those numbers may be other books
     }
 
     // The order in progress keeps its parcel, and a new one its packaging, under whatever name.

@@ -58,6 +58,7 @@ void direExporte(const QString &chemin, const QString &absents, QWidget *parent)
                                   QStringLiteral("Vos données sont dans « %1 ».").arg(QFileInfo(chemin).fileName()),
                                   QMessageBox::Ok, parent);
     boite->setInformativeText(absents);
+    boite->setEscapeButton(QMessageBox::Ok);
     boite->setAttribute(Qt::WA_DeleteOnClose);
     const QPushButton *dossier = boite->addButton(QStringLiteral("Ouvrir le dossier"), QMessageBox::ActionRole);
     QObject::connect(dossier, &QPushButton::clicked, parent,

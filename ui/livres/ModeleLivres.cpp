@@ -53,6 +53,11 @@ void ModeleLivres::retenir(qint64 id)
 // A book that is as it was is not worked out again: most are, at any change of the catalogue.
 void ModeleLivres::compter()
 {
+    const Donnees &donnees = catalogue_.donnees();
+    if (emballages_ != donnees.reglages.emballages || destinations_ != donnees.destinations)
+        comptes_.clear();
+    emballages_ = donnees.reglages.emballages;
+    destinations_ = donnees.destinations;
     const QList<Compte> avant = std::exchange(comptes_, {});
     const QList<Livre> &livres = catalogue_.donnees().livres;
     comptes_.reserve(livres.size());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Livre.h"
+#include "model/Reglages.h"
 #include "model/Tarifs.h"
 #include "textes/FiltreLivres.h"
 
@@ -78,6 +79,9 @@ private:
 
     const Catalogue &catalogue_;
     std::optional<TarifsColissimo> tarifs_;
+    // What buttons were last counted with, besides.
+    QList<Emballage> emballages_;
+    QList<Destination> destinations_;
     FiltreLivres filtre_;
     QSet<qint64> retenus_;  // shown since the filter changed
     QList<Compte> comptes_; // in the catalogue's order
