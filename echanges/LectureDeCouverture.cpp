@@ -37,7 +37,6 @@ void limiter()
     };
     borner(RLIMIT_CPU, secondesDeCalcul);
     borner(RLIMIT_CORE, 0);
-    borner(RLIMIT_FSIZE, 0); // it has nothing to write but its answer
 #ifndef __SANITIZE_ADDRESS__ // which reserves terabytes of addresses
     borner(RLIMIT_AS, rlim_t{2} << 30);
 #endif
