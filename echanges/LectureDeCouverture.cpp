@@ -24,7 +24,7 @@ namespace Quillet {
 
 namespace {
 
-constexpr rlim_t secondesDeCalcul = 10; // the largest picture takes two
+constexpr rlim_t secondesDeCalcul = 10; // the largest picture takes three
 constexpr qsizetype reponseAuPlus = 8 << 20;
 constexpr int mortEnMillisecondes = 1000;
 
