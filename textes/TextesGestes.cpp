@@ -61,4 +61,9 @@ QString TextesGestes::place(const Livre &livre)
     return QStringLiteral("place de « %1 »").arg(livre.titre);
 }
 
+QString TextesGestes::nonEnregistre(const Echec &echec)
+{
+    return QStringLiteral("Modification non enregistrée : %1").arg(echec.texte());
+}
+
 } // namespace Quillet

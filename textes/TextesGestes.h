@@ -1,10 +1,11 @@
 #pragma once
 
+#include "model/Echec.h"
 #include "model/Livre.h"
 
 #include <QString>
 
-// What is done to a book, in the words in which it is undone.
+// What is done to a book, in the words in which it is undone, and that a change was not.
 namespace Quillet::TextesGestes {
 
 // "prix de « Le Phare de sel »", and so on.
@@ -21,5 +22,7 @@ QString modification(const Livre &livre);
 QString ajout(const Livre &livre);
 QString retrait(const Livre &livre);
 QString place(const Livre &livre);
+// Of anything: the change could not be written.
+QString nonEnregistre(const Echec &echec);
 
 } // namespace Quillet::TextesGestes

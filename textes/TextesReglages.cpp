@@ -121,11 +121,6 @@ QString TextesReglages::premierPas(int rang)
     }
 }
 
-QString TextesReglages::nonEnregistree(const Echec &echec)
-{
-    return QStringLiteral("Modification non enregistrée : %1").arg(echec.texte());
-}
-
 QString TextesReglages::titre(Vendeur vendeur)
 {
     switch (vendeur) {
@@ -137,12 +132,19 @@ QString TextesReglages::titre(Vendeur vendeur)
     Q_UNREACHABLE();
 }
 
-QString TextesReglages::chezUnAutre(const QString &dossier)
+QString TextesReglages::ouLesChanger(const QString &dossier)
 {
     return QStringLiteral("Vos livres, vos vendeurs et vos emballages ont été mis là par qui administre cet "
-                          "ordinateur, et c’est là qu’ils se changent :\n%1\n\nVous pouvez aussi les reprendre chez "
-                          "vous, tels qu’ils sont, et les changer d’ici : ce dossier ne servira plus.")
+                          "ordinateur, et c’est là qu’ils se changent :\n%1")
         .arg(dossier);
+}
+
+QString TextesReglages::chezUnAutre(const QString &dossier)
+{
+    return ouLesChanger(dossier)
+           + QStringLiteral(
+               "\n\nVous pouvez aussi les reprendre chez vous, tels qu’ils sont, et les changer d’ici : ce "
+               "dossier ne servira plus.");
 }
 
 QString TextesReglages::prochaineFacture(const QString &derniere, QDate jour)

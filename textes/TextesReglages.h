@@ -1,7 +1,6 @@
 #pragma once
 
 #include "model/Donnees.h"
-#include "model/Echec.h"
 
 #include <QDate>
 #include <QList>
@@ -37,11 +36,11 @@ QString geste(const QString &libelle, const IdentiteVendeur &identite);
 
 // What a page of the first steps is for.
 QString premierPas(int rang);
-// A change that could not be written.
-QString nonEnregistree(const Echec &echec);
 // "Vendeur", "Second vendeur"
 QString titre(Vendeur vendeur);
-// Where the data are that others have put there.
+// That the data are where others have put them, and change there.
+QString ouLesChanger(const QString &dossier);
+// The same, and how to have one's own.
 QString chezUnAutre(const QString &dossier);
 // The number that the next invoice will bear after the last one that was made elsewhere.
 QString prochaineFacture(const QString &derniere, QDate jour);

@@ -4,7 +4,9 @@
 #include "composants/Boutons.h"
 #include "composants/Libelle.h"
 #include "composants/Pile.h"
+#include "textes/TextesGestes.h"
 #include "textes/TextesListe.h"
+#include "textes/TextesReglages.h"
 #include "ui/Contexte.h"
 #include "ui/echanges/Listes.h"
 #include "ui/echanges/RangeesDeListe.h"
@@ -76,9 +78,18 @@ void FeuilleListe::montrer()
     prendre_->setEnabled(contexte_.donnees().personnelles
                          && liste_.nombre(RangeeDeListe::Sort::ajoutee) + liste_.nombre(RangeeDeListe::Sort::changee)
                                 > 0);
-    erreur_->montrer(contexte_.donnees().personnelles
-                         ? QString()
-                         : QStringLiteral("Ces livres sont un exemple : une liste ne change que les vôtres."));
+    erreur_->montrer(pasLesVotres());
+}
+
+// Why nothing can be taken; empty: the books are the sellers' own.
+QString FeuilleListe::pasLesVotres() const
+{
+    const Ressources &ressources = contexte_.catalogue.ressources();
+    if (contexte_.donnees().personnelles)
+        return {};
+    if (ressources.origine() == Origine::exemple)
+        return QStringLiteral("Ces livres sont un exemple : une liste ne change que les vôtres.");
+    return TextesReglages::ouLesChanger(ressources.dossier().path());
 }
 
 void FeuilleListe::prendre()
@@ -87,7 +98,7 @@ void FeuilleListe::prendre()
         contexte_.historique.remplacer(liste_.appliquee(contexte_.donnees().livres), TextesListe::geste(liste_));
         accept();
     } catch (const ErreurStockage &echec) {
-        erreur_->montrer(QStringLiteral("Modification non enregistrée : %1").arg(echec.texte()));
+        erreur_->montrer(TextesGestes::nonEnregistre(echec));
     }
 }
 

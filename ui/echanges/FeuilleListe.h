@@ -26,6 +26,7 @@ private:
     void montrer();
     void relire();
     void prendre();
+    [[nodiscard]] QString pasLesVotres() const;
 
     const Contexte &contexte_;
     QByteArray octets_;

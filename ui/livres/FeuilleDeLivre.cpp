@@ -6,6 +6,7 @@
 #include "model/Catalogue.h"
 #include "model/controle/Objections.h"
 #include "textes/NomsVendeurs.h"
+#include "textes/TextesGestes.h"
 #include "ui/Contexte.h"
 #include "ui/livres/FormulaireLivre.h"
 
@@ -56,7 +57,7 @@ bool FeuilleDeLivre::tenter(const std::function<void()> &geste)
     try {
         geste();
     } catch (const Echec &erreur) {
-        echec = QStringLiteral("Modification non enregistrée : %1").arg(erreur.texte());
+        echec = TextesGestes::nonEnregistre(erreur);
         lecture_.start();
     }
     echec_->montrer(echec);

@@ -177,7 +177,7 @@ void VueLivres::tenter(const std::function<void()> &geste)
     try {
         geste();
     } catch (const Echec &erreur) {
-        echec = QStringLiteral("Modification non enregistrée : %1").arg(erreur.texte());
+        echec = TextesGestes::nonEnregistre(erreur);
     }
     echec_->montrer(echec);
     if (echec.isEmpty())

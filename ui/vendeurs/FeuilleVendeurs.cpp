@@ -1,6 +1,7 @@
 #include "ui/vendeurs/FeuilleVendeurs.h"
 
 #include "composants/Alerte.h"
+#include "composants/Attente.h"
 #include "composants/Boutons.h"
 #include "composants/ChampDeFiche.h"
 #include "composants/Defilement.h"
@@ -9,6 +10,7 @@
 #include "composants/Theme.h"
 #include "model/Couvertures.h"
 #include "model/EditionReglages.h"
+#include "textes/TextesGestes.h"
 #include "textes/TextesReglages.h"
 #include "ui/BoutonsAnnulation.h"
 #include "ui/Contexte.h"
@@ -112,11 +114,14 @@ QWidget *FeuilleVendeurs::chezUnAutre()
 void FeuilleVendeurs::reprendreLesDonnees()
 {
     tenter([this] {
-        const Ressources &ressources = contexte_.catalogue.ressources();
-        const Donnees &donnees = contexte_.donnees();
-        DossierPersonnel::creer(
-            contexte_.catalogue.stockage().donneesPersonnelles(), ressources, donnees.reglages, donnees.livres,
-            Couvertures::contenus(QDir(ressources.chemin(QStringLiteral("couvertures"))), donnees.livres));
+        // Copies: the window goes on, and may read the data anew.
+        Attente::jusquAuBout(this, QStringLiteral("Copie de vos données…"),
+                             [la = contexte_.catalogue.stockage().donneesPersonnelles(),
+                              ressources = contexte_.catalogue.ressources(), donnees = contexte_.donnees()] {
+                                 const QDir couvertures(ressources.chemin(QStringLiteral("couvertures")));
+                                 DossierPersonnel::creer(la, ressources, donnees.reglages, donnees.livres,
+                                                         Couvertures::contenus(couvertures, donnees.livres));
+                             });
         contexte_.catalogue.recharger();
         accept();
         ouvrir(contexte_, parentWidget());
@@ -182,7 +187,7 @@ QString FeuilleVendeurs::ecrire(const Reglages &apres, const QString &chemin, co
     try {
         contexte_.historique.remplacer(apres, geste);
     } catch (const Echec &erreur) {
-        echec = TextesReglages::nonEnregistree(erreur);
+        echec = TextesGestes::nonEnregistre(erreur);
     }
     echec_->montrer({});
     return echec;
@@ -194,7 +199,7 @@ void FeuilleVendeurs::tenter(const std::function<void()> &geste)
     try {
         geste();
     } catch (const Echec &erreur) {
-        echec = TextesReglages::nonEnregistree(erreur);
+        echec = TextesGestes::nonEnregistre(erreur);
     }
     echec_->montrer(echec);
 }
