@@ -1,9 +1,13 @@
 #include "tests/BancLivres.h"
 #include "tests/DisquePlein.h"
 #include "tests/Rangees.h"
+#include "ui/couvertures/ChampCouverture.h"
 #include "ui/livres/VueLivres.h"
 
+#include <QClipboard>
 #include <QDropEvent>
+#include <QGuiApplication>
+#include <QImage>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QTimer>
@@ -228,6 +232,41 @@ private slots:
         attendu.isbn.clear();
         attendu.prixPaypal.reset();
         QCOMPARE(cas.enregistre(4), attendu);
+    }
+
+    // Nothing leaves without the picture that is on its way.
+    void couvertureEnLecture()
+    {
+        for (const auto &[geste, touches] :
+             Rangees<const char *>{{"Ajouter le livre", "Ctrl+D"}, {"Livre suivant", "F2"}, {"Fermer", "F2"}}) {
+            const Rangee rangee(geste);
+            const BancPersonnel cas;
+            QDialog *feuille = cas.feuille(touches);
+            const QString titre = feuille->windowTitle();
+            QGuiApplication::clipboard()->setImage(QImage(20, 30, QImage::Format_RGB32));
+            QVERIFY(Ecran::cliquer(feuille, "Coller l’image"));
+            QVERIFY(Ecran::cliquer(feuille, geste));
+            QVERIFY(feuille->isVisible() && feuille->windowTitle() == titre);
+            QVERIFY(cas.dit(feuille, "L’image est encore en cours de lecture"));
+            QCOMPARE(cas.enregistres(), cas.donnees.livres);
+        }
+    }
+
+    // A cover proposes its colour, but not in place of one that was chosen.
+    void couleurDeLaCouverture()
+    {
+        const BancPersonnel cas;
+        auto *champ = cas.feuille("F2")->findChild<ChampCouverture *>();
+        emit champ->choisie({.octets = "a", .extension = "png", .teinte = {1, 2, 3}});
+        QVERIFY(!cas.enregistre(0).couverture.isEmpty());
+        QCOMPARE(cas.enregistre(0).teinte, cas.donnees.livres[0].teinte);
+
+        QDialog *nouveau = (Dialogues::devant()->reject(), cas.feuille("Ctrl+D"));
+        for (qint64 teinte : {4, 5})
+            emit nouveau->findChild<ChampCouverture *>()->choisie(
+                {.octets = "b", .extension = "png", .teinte = {teinte, 0, 0}});
+        QVERIFY(Ecran::cliquer(nouveau, "Ajouter le livre"));
+        QCOMPARE(cas.enregistre(4).teinte, (QList<qint64>{5, 0, 0}));
     }
 
     // The neighbour is chosen, the order follows, and the book can be had back where it was.

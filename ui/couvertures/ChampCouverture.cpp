@@ -145,6 +145,12 @@ void ChampCouverture::montrer(const Livre &livre)
     actualiser();
 }
 
+void ChampCouverture::faireAttendre()
+{
+    refus_->montrer(QStringLiteral("L’image est encore en cours de lecture : attendez qu’elle s’affiche."));
+    choisir_->setFocus(); // into sight
+}
+
 void ChampCouverture::choisirUnFichier()
 {
     const QString images = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);

@@ -28,6 +28,10 @@ public:
 
     // What was chosen stays in sight until another cover, or another book, is shown.
     void montrer(const Livre &livre);
+    // Whether a picture is still being read, that `choisie` may yet bring.
+    [[nodiscard]] bool enLecture() const { return lecture_.enCours(); }
+    // Says that it is to be waited for.
+    void faireAttendre();
 
 signals:
     void choisie(const CouverturePrete &couverture);

@@ -100,8 +100,7 @@ void FeuilleLivre::passer(qsizetype pas)
 // What could not be saved, or was refused, is said once before it is left; then it is tried once more.
 bool FeuilleLivre::conclure()
 {
-    formulaire_->conclure();
-    if (aLire())
+    if (!formulaire_->conclure() || aLire())
         return false;
     const Livre saisi = formulaire_->livre();
     if (const Livre *enregistre = livre(); enregistre && (saisi != *enregistre || formulaire_->couverture()))

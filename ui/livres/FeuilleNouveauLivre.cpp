@@ -50,7 +50,7 @@ void FeuilleNouveauLivre::ajouter()
 void FeuilleNouveauLivre::reject()
 {
     formulaire_->conclure();
-    if (formulaire_->livre() == propose_ && !formulaire_->couverture()) {
+    if (!formulaire_->aSaisi(propose_)) {
         FeuilleDeLivre::reject();
         return;
     }

@@ -71,8 +71,8 @@ FormulaireLivre::FormulaireLivre(ImagesCouvertures &images, QWidget *parent)
     });
     connect(image_, &ChampCouverture::choisie, this, [this](const CouverturePrete &couverture) {
         couverture_ = couverture;
-        if (!couleurChoisie_)
-            livre_.teinte = couverture.teinte;
+        if (livre_.teinte == couleurProposee_)
+            livre_.teinte = couleurProposee_ = couverture.teinte;
         signaler(QStringLiteral("Couverture"));
     });
     connect(image_, &ChampCouverture::retiree, this, [this] {
@@ -82,7 +82,7 @@ FormulaireLivre::FormulaireLivre(ImagesCouvertures &images, QWidget *parent)
     });
     connect(couleur_, &ChoixCouleur::choisie, this, [this](const QColor &couleur) {
         livre_.teinte = {couleur.red(), couleur.green(), couleur.blue()};
-        couleurChoisie_ = true;
+        couleurProposee_.clear();
         signaler(QStringLiteral("Couleur"));
     });
 }
@@ -122,6 +122,7 @@ void FormulaireLivre::commencer(const Livre &brouillon)
 {
     brouillon_ = true;
     livre_ = brouillon;
+    couleurProposee_ = brouillon.teinte;
     actualiser();
 }
 
@@ -140,7 +141,7 @@ void FormulaireLivre::oublier()
 {
     for (ChampDeFiche *champ : std::as_const(champs_))
         champ->oublier();
-    couleurChoisie_ = false;
+    couleurProposee_ = EditionLivres::nouveau({}, livre_.vendeur).teinte; // whoever gave it another chose it
 }
 
 void FormulaireLivre::actualiser()
@@ -184,15 +185,26 @@ void FormulaireLivre::signaler(const QString &nom)
     emit saisi(livre_, TextesGestes::champ(nom, livre_));
 }
 
-void FormulaireLivre::conclure()
+bool FormulaireLivre::conclure()
 {
     for (ChampDeFiche *champ : std::as_const(champs_))
         champ->conclure();
+    if (image_->enLecture())
+        image_->faireAttendre();
+    return !image_->enLecture();
+}
+
+bool FormulaireLivre::aSaisi(const Livre &depart) const
+{
+    return livre_ != depart || couverture_ || image_->enLecture()
+           || std::ranges::any_of(description_, [this](const ChampDuLivre &champ) {
+                  return champs_[champ.cle]->texte() != champ.ecrit(livre_);
+              });
 }
 
 bool FormulaireLivre::verifier()
 {
-    conclure();
+    const bool prete = conclure();
     QHash<QString, QString> refus;
     Livre essai = livre_;
     for (const ChampDuLivre &champ : std::as_const(description_))
@@ -211,7 +223,7 @@ bool FormulaireLivre::verifier()
         premier->setFocus(Qt::OtherFocusReason);
     else
         livre_ = essai;
-    return !premier;
+    return prete && !premier;
 }
 
 void FormulaireLivre::prendreLeFocus()

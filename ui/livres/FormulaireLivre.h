@@ -51,9 +51,11 @@ public:
     [[nodiscard]] const Livre &livre() const { return livre_; }
     // The picture that is to become the book's cover, which `livre` does not name yet.
     [[nodiscard]] const std::optional<CouverturePrete> &couverture() const { return couverture_; }
-    // Takes what is still being typed.
-    void conclure();
-    // Says all that is wrong, and takes the focus to the first of it; true: nothing is.
+    // Takes what is still being typed. False: a picture is still being read, which is said beside it.
+    bool conclure();
+    // Whether anything was typed or chosen since that draft, be it refused.
+    [[nodiscard]] bool aSaisi(const Livre &depart) const;
+    // Says all that is wrong or awaited, and takes the focus to the first of it; true: nothing is.
     [[nodiscard]] bool verifier();
     void prendreLeFocus();
 
@@ -80,7 +82,7 @@ private:
     QWidget *rangeeDuVendeur_ = nullptr;
     ChampCouverture *image_;
     std::optional<CouverturePrete> couverture_;
-    bool couleurChoisie_ = false; // by the seller: a new cover proposes none
+    QList<qint64> couleurProposee_; // as long as it stands, a new cover proposes its own
     Choix *vendeur_;
     Interrupteur *disponible_;
     ChoixCouleur *couleur_;
