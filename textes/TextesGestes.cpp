@@ -63,7 +63,7 @@ QString TextesGestes::place(const Livre &livre)
 
 QString TextesGestes::nonEnregistre(const Echec &echec)
 {
-    return QStringLiteral("Modification non enregistrée : %1").arg(echec.texte());
+    return QStringLiteral("Modification non enregistrée : %1").arg(echec.texte());
 }
 
 } // namespace Quillet
