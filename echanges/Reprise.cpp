@@ -8,6 +8,7 @@
 #include "model/controle/ControleDonnees.h"
 
 #include <QFileInfo>
+#include <QUuid>
 
 #include <algorithm>
 
@@ -18,9 +19,12 @@ namespace {
 // The first of what there is to say: one mistake of a program that wrote a file can come back with each book.
 constexpr qsizetype phrasesAuPlus = 5;
 
-QString partielle(const QDir &utilisateur)
+const QString partielle = QStringLiteral("reprise.partielle.");
+
+// Two archives may be looked at together: each in a folder of its own.
+QString nouvellePartielle(const QDir &utilisateur)
 {
-    return utilisateur.filePath(QStringLiteral("reprise.partielle"));
+    return utilisateur.filePath(partielle + QUuid::createUuid().toString(QUuid::Id128).first(8));
 }
 
 QString engagee(const QDir &utilisateur)
@@ -28,12 +32,12 @@ QString engagee(const QDir &utilisateur)
     return utilisateur.filePath(QStringLiteral("reprise"));
 }
 
-void oublier(const QDir &utilisateur)
+void oublier(const QString &dossier)
 {
     try {
-        Disque::supprimer(partielle(utilisateur));
+        Disque::supprimer(dossier);
     } catch (const ErreurStockage &) {
-        return; // nothing reads it, and the next import asks again
+        return; // nothing reads it, and the next start tries again
     }
 }
 
@@ -58,6 +62,24 @@ void exigerLaPlace(const QDir &utilisateur)
         throw ErreurStockage(propres.filePath(), QStringLiteral("l’accès n’est pas permis"));
 }
 
+void exigerTout(const QDir &dossier, const QStringList &noms)
+{
+    for (const QString &nom : noms)
+        if (!Fichier::existe(dossier.filePath(nom)))
+            throw ErreurStockage(dossier.filePath(nom), QStringLiteral("fichier introuvable"));
+}
+
+void engager(const QString &dossier, const QDir &utilisateur)
+{
+    try {
+        Fichier::renommer(dossier, engagee(utilisateur));
+    } catch (const ErreurStockage &erreur) {
+        if (QFileInfo::exists(engagee(utilisateur))) // the disk refused to take the new name, then the former one
+            throw RepriseInachevee(erreur.texte());
+        throw;
+    }
+}
+
 } // namespace
 
 RepriseInachevee::RepriseInachevee(const QString &raison)
@@ -79,47 +101,45 @@ std::unique_ptr<Reprise> Reprise::regarder(const QString &archive, const Demeure
     return std::unique_ptr<Reprise>(new Reprise(demeure, aujourdhui, ouvrir));
 }
 
-Reprise::Reprise(const Demeure &demeure, QDate aujourdhui, const Ouverture &ouvrir) : demeure_(demeure)
+Reprise::Reprise(const Demeure &demeure, QDate aujourdhui, const Ouverture &ouvrir)
+    : demeure_(demeure), dossier_(nouvellePartielle(demeure.utilisateur))
 {
-    const QString dossier = partielle(demeure_.utilisateur);
-    Disque::supprimer(dossier);
     try {
-        Fichier::creerDossier(dossier);
-        const Archive::Contenu contenu = ouvrir(dossier);
+        Fichier::creerDossier(dossier_.path());
+        const Archive::Contenu contenu = ouvrir(dossier_.path());
         manifeste_ = contenu.manifeste;
         noms_ = contenu.noms;
         inconnus_ = contenu.inconnus;
         charger(aujourdhui);
     } catch (...) {
-        oublier(demeure_.utilisateur);
+        oublier(dossier_.path());
         throw;
     }
 }
 
 Reprise::~Reprise()
 {
-    oublier(demeure_.utilisateur);
+    oublier(dossier_.path());
 }
 
 void Reprise::charger(QDate aujourdhui)
 {
-    const QDir dossier(partielle(demeure_.utilisateur));
     propres_ = std::ranges::any_of(noms_, [](const QString &nom) { return nom.startsWith(PiecesDArchive::propres); });
     if (propres_ && noms_.removeAll(Stockage::fichierDesLivres()) > 0) // changes of books that it does not have
         inconnus_.append(QStringLiteral("« %1 »").arg(Stockage::fichierDesLivres()));
     const Ressources donnees =
-        propres_ ? Ressources(QDir(dossier.filePath(PiecesDArchive::propres.chopped(1))), Origine::utilisateur)
+        propres_ ? Ressources(QDir(dossier_.filePath(PiecesDArchive::propres.chopped(1))), Origine::utilisateur)
                  : demeure_.donnees;
     const ControleDonnees controle = ControleDonnees::de(donnees.dossier(), aujourdhui);
     const QStringList phrases = controle.erreurs.first(qMin(controle.erreurs.size(), phrasesAuPlus));
     try {
-        exigerLisible<FraisPaypal>(dossier, Stockage::fichierDesFrais());
-        exigerLisible<ModificationsLivres>(dossier, Stockage::fichierDesLivres());
+        exigerLisible<FraisPaypal>(dossier_, Stockage::fichierDesFrais());
+        exigerLisible<ModificationsLivres>(dossier_, Stockage::fichierDesLivres());
         for (const QString &nom : noms_)
             if (PiecesDArchive::estUnTarif(nom))
-                exigerLisible<TarifsColissimo>(dossier, nom);
-        lireLesSeries(dossier);
-        donnees_ = Catalogue::charge(donnees, Stockage(dossier))->donnees();
+                exigerLisible<TarifsColissimo>(dossier_, nom);
+        lireLesSeries();
+        donnees_ = Catalogue::charge(donnees, Stockage(dossier_))->donnees();
     } catch (const RessourceIllisible &) {
         throw Echec(
             QStringLiteral("Les données de cette archive ne peuvent pas être lues :\n%1").arg(phrases.join(u'\n')));
@@ -130,9 +150,9 @@ void Reprise::charger(QDate aujourdhui)
         remarques_ = phrases;
 }
 
-void Reprise::lireLesSeries(const QDir &dossier)
+void Reprise::lireLesSeries()
 {
-    const auto octets = Fichier::lireOuRefuser(dossier.filePath(PiecesDArchive::series), Fichier::Borne::preferences);
+    const auto octets = Fichier::lireOuRefuser(dossier_.filePath(PiecesDArchive::series), Fichier::Borne::preferences);
     if (!octets)
         return;
     series_ = Json::decoder<SeriesFactures>(*octets, PiecesDArchive::series);
@@ -147,27 +167,32 @@ void Reprise::prendre(const SeriesFactures &series, const QDateTime &maintenant)
 {
     if (propres_)
         exigerLaPlace(demeure_.utilisateur);
+    exigerTout(dossier_, noms_);
     Copies(demeure_).avantReprise(maintenant);
-    const QDir dossier(partielle(demeure_.utilisateur));
-    Fichier::ecrire(dossier.filePath(PiecesDArchive::series), Json::encoder(series));
-    Avancee::noter(dossier, noms_);
-    Fichier::renommer(dossier.path(), engagee(demeure_.utilisateur)); // from now on it counts
+    Fichier::ecrire(dossier_.filePath(PiecesDArchive::series), Json::encoder(series));
+    Avancee::noter(dossier_, noms_);
+    engager(dossier_.path(), demeure_.utilisateur); // from now on it counts
     try {
-        achever(demeure_.utilisateur, demeure_.preferences);
+        finir(demeure_.utilisateur, demeure_.preferences);
     } catch (const Echec &erreur) {
         throw RepriseInachevee(erreur.texte());
     }
 }
 
+void Reprise::finir(const QDir &utilisateur, const Preferences &preferences)
+{
+    Avancee(QDir(engagee(utilisateur)), utilisateur, preferences).jusquAuBout();
+    const QString reste = nouvellePartielle(utilisateur);
+    Fichier::renommer(engagee(utilisateur), reste); // at once: a half of it must not be taken again
+    oublier(reste);
+}
+
 void Reprise::achever(const QDir &utilisateur, const Preferences &preferences)
 {
-    const QString dossier = engagee(utilisateur);
-    if (Fichier::existe(dossier)) {
-        Avancee(QDir(dossier), utilisateur, preferences).jusquAuBout();
-        Disque::supprimer(partielle(utilisateur));
-        Fichier::renommer(dossier, partielle(utilisateur)); // at once: a half of it must not be taken again
-    }
-    oublier(utilisateur);
+    if (Fichier::existe(engagee(utilisateur)))
+        finir(utilisateur, preferences);
+    for (const QString &reste : utilisateur.entryList({partielle + u'*'}, QDir::Dirs))
+        oublier(utilisateur.filePath(reste));
 }
 
 } // namespace Quillet

@@ -55,9 +55,11 @@ private:
     using Ouverture = std::function<Archive::Contenu(const QString &dossier)>;
     Reprise(const Demeure &demeure, QDate aujourdhui, const Ouverture &ouvrir);
     void charger(QDate aujourdhui);
-    void lireLesSeries(const QDir &dossier);
+    void lireLesSeries();
+    static void finir(const QDir &utilisateur, const Preferences &preferences);
 
     Demeure demeure_;
+    QDir dossier_; // where it is unpacked
     Manifeste manifeste_;
     bool propres_ = false;
     Donnees donnees_;

@@ -33,7 +33,7 @@ public:
             exiger(nom == dossier().dirName() || nom == QLatin1String("Quillet.ini")
                        || nom == QLatin1String("archive.zip"),
                    "rien a cote");
-        exiger(!QFile::exists(dossier().filePath(QStringLiteral("reprise.partielle"))), "rien ne reste");
+        exiger(dossier().entryList({QStringLiteral("reprise*")}).isEmpty(), "rien ne reste");
         QDir(dossier()).removeRecursively();
         QFile::remove(racine_.filePath(QStringLiteral("Quillet.ini")));
     }

@@ -98,7 +98,7 @@ QMap<QString, QByteArray> Maison::etat() const
     while (suite.hasNext()) {
         const QString nom = dossier_.relativeFilePath(suite.next());
         const bool reste =
-            QDir::match(QStringLiteral("*.??????"), nom) || nom.startsWith(QLatin1String("reprise.partielle/"));
+            QDir::match(QStringLiteral("*.??????"), nom) || nom.startsWith(QLatin1String("reprise.partielle."));
         const bool sansLivre =
             nom.contains(QLatin1String("/couvertures/")) && !nommees.contains(Couvertures::nom(suite.fileName()));
         if (!reste && !sansLivre && !nom.startsWith(QLatin1String("copies/")))

@@ -138,6 +138,39 @@ private slots:
         QCOMPARE(douteuse->inconnus().size(), 2);
     }
 
+    void deuxEnsemble()
+    {
+        const Autre autre;
+        const BancPropre banc;
+        banc.installer({{"seule.jpg", "x"}});
+        const QString laSienne = banc.exporter("sienne.zip");
+        const auto avant = banc.fichiers();
+        const QDir dossier(banc.cheminUtilisateur());
+        {
+            const auto une = Reprise::preparer(autre.exporter(), banc.demeure(), jourDuBanc);
+            const auto deux = Reprise::preparer(laSienne, banc.demeure(), jourDuBanc);
+            une->prendre({}, maintenant);
+            QCOMPARE(banc.ouvrir()->donnees().livres, autre.livres);
+            deux->prendre({}, maintenant);
+            QCOMPARE(banc.ouvrir()->donnees().livres, banc.livres);
+            QCOMPARE(banc.fichiers().value("donnees/livres.json"), avant.value("donnees/livres.json"));
+
+            const auto trouee = Reprise::preparer(autre.exporter(), banc.demeure(), jourDuBanc);
+            const QString restes = dossier.entryList({"reprise.partielle.*"}, QDir::Dirs).value(0);
+            QVERIFY(QFile::remove(dossier.filePath(restes + "/donnees/couvertures/marees.svg")));
+            QVERIFY(erreurDe([&] { trouee->prendre({}, maintenant); }).contains("marees.svg : fichier introuvable"));
+            QCOMPARE(banc.ouvrir()->donnees().livres, banc.livres);
+
+            banc.ecrireUtilisateur("reprise/liste.json", "[]"); // one that has begun is never said not to have
+            const auto bloquee = Reprise::preparer(laSienne, banc.demeure(), jourDuBanc);
+            QVERIFY_THROWS_EXCEPTION(RepriseInachevee, bloquee->prendre({}, maintenant));
+            QDir(dossier.filePath("reprise")).removeRecursively();
+        }
+        banc.ecrireUtilisateur("reprise.partielle.0/livres.json", "[]"); // of a program that was killed
+        Reprise::achever(dossier, banc.preferences());
+        QCOMPARE(dossier.entryList({"reprise*"}), QStringList());
+    }
+
     // Full at any point: before the import counts nothing has changed; afterwards it is brought to its end.
     void disquePlein()
     {
