@@ -2,6 +2,7 @@
 
 #include "echanges/Archive.h"
 #include "echanges/Disque.h"
+#include "echanges/PiecesDArchive.h"
 #include "model/Fichier.h"
 
 #include <algorithm>
@@ -30,6 +31,12 @@ std::optional<Copie> enCopie(const QDir &dossier, const QString &fichier)
     return Copie{dossier.filePath(fichier), moment, avantReprise};
 }
 
+// Of a clock that was wrong.
+bool estAVenir(const Copie &copie, QDate aujourdhui)
+{
+    return copie.moment.date() > aujourdhui;
+}
+
 // What a program that was stopped left of a copy.
 void balayer(const QDir &dossier)
 {
@@ -53,15 +60,16 @@ bool Copies::duJour(QDate aujourdhui) const
 {
     if (!demeure_.aDesDonneesPropres())
         return false;
-    const QList<Copie> copies = liste();
-    const auto derniere = std::ranges::find(copies, false, &Copie::avantReprise);
-    if (derniere != copies.end() && derniere->moment.date() >= aujourdhui)
+    QList<Copie> copies = liste();
+    copies.removeIf([&](const Copie &copie) { return copie.avantReprise || estAVenir(copie, aujourdhui); });
+    if (!copies.isEmpty() && copies.first().moment.date() == aujourdhui)
         return false;
     const Bagage bagage = Bagage::de(demeure_, aujourdhui);
-    if (derniere != copies.end() && empreinte(derniere->chemin) == bagage.manifeste.empreinte)
+    if (copies.isEmpty() ? !aQuelqueChoseDeLUtilisateur(bagage)
+                         : empreinte(copies.first().chemin) == bagage.manifeste.empreinte)
         return false;
     garder(Jour(aujourdhui).texte() + extension, bagage);
-    eclaircir(false);
+    eclaircir(false, aujourdhui);
     return true;
 }
 
@@ -71,7 +79,7 @@ void Copies::avantReprise(const QDateTime &maintenant) const
     if (bagage.estVide())
         return;
     garder(maintenant.toString(formeDuMoment) + suite + extension, bagage);
-    eclaircir(true);
+    eclaircir(true, maintenant.date());
 }
 
 QString Copies::empreinte(const QString &copie)
@@ -90,10 +98,21 @@ void Copies::garder(const QString &nom, const Bagage &bagage) const
     Archive::ecrire(dossier().filePath(nom), bagage);
 }
 
-void Copies::eclaircir(bool avantReprise) const
+// An administrator's data stand elsewhere, and are not to be kept for somebody who has changed nothing.
+bool Copies::aQuelqueChoseDeLUtilisateur(const Bagage &bagage) const
+{
+    const auto estALui = [](const Bagage::Piece &piece) {
+        return piece.nom != PiecesDArchive::manifeste && !piece.nom.startsWith(PiecesDArchive::propres);
+    };
+    return demeure_.donnees.origine() == Origine::utilisateur || std::ranges::any_of(bagage.pieces, estALui)
+           || Fichier::existe(demeure_.utilisateur.filePath(Stockage::fichierDesLivres()));
+}
+
+void Copies::eclaircir(bool avantReprise, QDate aujourdhui) const
 {
     QList<Copie> copies = liste();
     copies.removeIf([&](const Copie &copie) { return copie.avantReprise != avantReprise; });
+    std::ranges::stable_partition(copies, [&](const Copie &copie) { return !estAVenir(copie, aujourdhui); });
     for (qsizetype rang = gardees; rang < copies.size(); ++rang)
         Fichier::effacer(copies[rang].chemin);
 }

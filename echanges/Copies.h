@@ -35,7 +35,8 @@ public:
 private:
     [[nodiscard]] QDir dossier() const { return {demeure_.utilisateur.filePath(QStringLiteral("copies"))}; }
     void garder(const QString &nom, const Bagage &bagage) const;
-    void eclaircir(bool avantReprise) const;
+    void eclaircir(bool avantReprise, QDate aujourdhui) const;
+    [[nodiscard]] bool aQuelqueChoseDeLUtilisateur(const Bagage &bagage) const;
     static QString empreinte(const QString &copie);
 
     Demeure demeure_;

@@ -223,9 +223,16 @@ private slots:
         QVERIFY(!Copies(exemple.demeure()).duJour(jourDuBanc)); // the example needs none
         Copies(exemple.demeure()).avantReprise(jourDuBanc.startOfDay());
         QVERIFY(Copies(exemple.demeure()).liste().isEmpty());
+        Demeure poste = exemple.demeure();
+        poste.donnees = Ressources(exemple.ressources().dossier(), Origine::administrateur);
+        QVERIFY(!Copies(poste).duJour(jourDuBanc)); // nor does an administrator's, as long as nothing is the user's
+        NumerotationFactures{exemple.preferences()}.retenir("2026-001", Vendeur::davrel);
+        QVERIFY(Copies(poste).duJour(jourDuBanc));
 
         const BancPropre banc;
         banc.installer();
+        for (int jour = 0; jour < 12; ++jour) // of a clock that was wrong
+            banc.ecrireUtilisateur(QStringLiteral("copies/2099-01-%1.zip").arg(jour + 10), "x");
         for (int jour = 0; jour < 12; ++jour) {
             auto catalogue = banc.ouvrir();
             Livre livre = catalogue->donnees().livres[0];
