@@ -222,9 +222,11 @@ QDialog *Parcours::donnerLArchive(const QString &entree)
 bool Parcours::emporter()
 {
     QDialog *fini = donnerLArchive(QStringLiteral("Exporter mes données…"));
-    if (fini)
-        fini->reject();
-    return fini;
+    if (!fini)
+        return false;
+    fini->reject();
+    quillet_.fenetre().activateWindow(); // without a window manager, nobody else does
+    return QTest::qWaitForWindowActive(&quillet_.fenetre());
 }
 
 bool Parcours::rapporter()
