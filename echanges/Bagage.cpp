@@ -112,11 +112,12 @@ private:
                 continue;
             const QFileInfo image(dossier.filePath(nom));
             if (image.size() > Fichier::Borne::image)
-                bagage_.absents.append(QStringLiteral("%1 : l’image est trop lourde").arg(image.fileName()));
+                bagage_.lourdes.append(QStringLiteral("%1 : l’image est trop lourde").arg(image.fileName()));
             else
                 bagage_.pieces.append(
                     {PiecesDArchive::couvertures + image.fileName(), {}, image.absoluteFilePath(), image.size()});
         }
+        bagage_.absents += bagage_.lourdes;
     }
 
     void prendreLesSeries()

@@ -22,6 +22,7 @@ struct Bagage
     Manifeste manifeste;
     QList<Piece> pieces; // the manifest first, the rest by name
     QStringList absents; // what could not be taken, and why, in words
+    QStringList lourdes; // of these, the pictures that are too large
 
     // Throws Echec when data in force cannot be read any more.
     static Bagage de(const Demeure &demeure, QDate jour);

@@ -70,12 +70,18 @@ bool Copies::duJour(QDate aujourdhui) const
         return false;
     garder(Jour(aujourdhui).texte() + extension, bagage);
     eclaircir(false, aujourdhui);
+    if (!bagage.absents.isEmpty())
+        throw Echec(QStringLiteral("il y manque ceci.\n%1").arg(bagage.absents.join(u'\n')));
     return true;
 }
 
 void Copies::avantReprise(const QDateTime &maintenant) const
 {
     const Bagage bagage = Bagage::de(demeure_, maintenant.date());
+    if (!bagage.lourdes.isEmpty()) // the import would delete them; of a file of another kind, it keeps a copy beside
+        throw Echec(
+            QStringLiteral("Rien n’est repris : ce que vous avez aujourd’hui ne peut pas être gardé en entier.\n%1")
+                .arg(bagage.lourdes.join(u'\n')));
     if (bagage.estVide())
         return;
     garder(maintenant.toString(formeDuMoment) + suite + extension, bagage);

@@ -28,8 +28,9 @@ public:
     // The latest first.
     [[nodiscard]] QList<Copie> liste() const;
     // Keeps today's unless there is one, or nothing changed since the last; then the eleventh goes. Whether one was.
+    // One that is kept but lacks something throws too.
     bool duJour(QDate aujourdhui) const;
-    // Keeps what an import is about to replace, if there is anything.
+    // Keeps what an import is about to replace, if there is anything; refuses when a part of it would be lost.
     void avantReprise(const QDateTime &maintenant) const;
 
 private:

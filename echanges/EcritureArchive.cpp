@@ -2,6 +2,7 @@
 #include "echanges/Bagage.h"
 #include "echanges/Disque.h"
 #include "echanges/ErreurZip.h"
+#include "echanges/PiecesDArchive.h"
 #include "model/Fichier.h"
 
 #include <QFile>
@@ -59,6 +60,18 @@ void ajouter(zip_t *archive, const Bagage::Piece &piece)
     zip_file_set_external_attributes(archive, numero, 0, ZIP_OPSYS_UNIX, fichierOrdinaire);
 }
 
+// What reading would refuse.
+void exigerLisible(const Bagage &bagage)
+{
+    qint64 octets = 0;
+    for (const Bagage::Piece &piece : bagage.pieces)
+        octets += piece.taille;
+    if (octets > PiecesDArchive::total)
+        throw Echec(QStringLiteral("Une archive ne peut pas contenir tout cela : les couvertures sont trop lourdes."));
+    if (bagage.pieces.size() > PiecesDArchive::nombre)
+        throw Echec(QStringLiteral("Une archive ne peut pas contenir tout cela : il y a trop de fichiers."));
+}
+
 // `nom`: what the user calls it.
 void composer(const QString &chemin, const QString &nom, const Bagage &bagage)
 {
@@ -77,6 +90,7 @@ void composer(const QString &chemin, const QString &nom, const Bagage &bagage)
 
 void Archive::ecrire(const QString &chemin, const Bagage &bagage)
 {
+    exigerLisible(bagage);
     const QString provisoire = chemin + u'.' + QUuid::createUuid().toString(QUuid::Id128).first(8);
     try {
         composer(provisoire, chemin, bagage);

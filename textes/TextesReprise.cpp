@@ -159,9 +159,8 @@ QString TextesReprise::passage(const Comparaison::Serie &serie)
 
 QString TextesReprise::laisses(const QStringList &inconnus)
 {
-    return inconnus.isEmpty()
-               ? QString()
-               : QStringLiteral("Quillet ne connaît pas, et laisse dans l’archive : %1.").arg(cites(inconnus));
+    return inconnus.isEmpty() ? QString()
+                              : QStringLiteral("N’est pas repris, et reste dans l’archive : %1.").arg(cites(inconnus));
 }
 
 QString TextesReprise::aCorriger(const QStringList &remarques)
@@ -191,7 +190,8 @@ QString TextesReprise::explicationDesCopies()
 
 QString TextesReprise::copieManquee(const QString &echec)
 {
-    return echec.isEmpty() ? QString() : QStringLiteral("La copie du jour n’a pas pu être faite : %1").arg(echec);
+    return echec.isEmpty() ? QString()
+                           : QStringLiteral("La copie du jour n’a pas pu être faite, ou pas en entier : %1").arg(echec);
 }
 
 QString TextesReprise::copie(const Copie &copie)

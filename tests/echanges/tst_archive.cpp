@@ -134,6 +134,27 @@ private slots:
         QVERIFY(refus(chemin, dossier.filePath("nombre")).contains("trop de fichiers"));
     }
 
+    void neCompacteRienDIllisible()
+    {
+        const QTemporaryDir dossier;
+        const QString chemin = dossier.filePath("a.zip");
+        const auto piece = [](qsizetype rang, qint64 taille) {
+            return Bagage::Piece{QStringLiteral("donnees/couvertures/%1.png").arg(rang), {}, {}, taille};
+        };
+        Bagage lourd;
+        for (qsizetype rang = 0; rang < 17; ++rang)
+            lourd.pieces.append(piece(rang, Fichier::Borne::image));
+        Bagage nombreux;
+        for (qsizetype rang = 0; rang <= PiecesDArchive::nombre; ++rang)
+            nombreux.pieces.append(piece(rang, 0));
+        for (const Bagage &bagage : {lourd, nombreux})
+            QVERIFY_THROWS_EXCEPTION(Echec, Archive::ecrire(chemin, bagage));
+        lourd.pieces.removeLast();
+        nombreux.pieces.removeLast();
+        for (const Bagage &bagage : {lourd, nombreux})
+            Archive::ecrire(chemin, bagage);
+    }
+
     // Bytes that libzip would not write.
     void abimees()
     {
