@@ -30,11 +30,8 @@ T lireDans(const QDir &dossier, const QString &nom)
 
 } // namespace
 
-Avancee::Avancee(const QDir &reprise, const QDir &utilisateur, const Preferences &preferences)
-    : reprise_(reprise),
-      utilisateur_(utilisateur),
-      preferences_(preferences),
-      noms_(lireDans<QList<QString>>(reprise, liste))
+Avancee::Avancee(const QDir &reprise, const QDir &utilisateur)
+    : reprise_(reprise), utilisateur_(utilisateur), noms_(lireDans<QList<QString>>(reprise, liste))
 {
 }
 
@@ -43,17 +40,14 @@ void Avancee::noter(const QDir &reprise, const QStringList &noms)
     Fichier::ecrire(reprise.filePath(liste), Json::encoder(QList<QString>(noms)));
 }
 
-void Avancee::jusquAuBout()
+void Avancee::placerLesFichiers()
 {
     const auto estDesDonnees = [](const QString &nom) { return nom.startsWith(PiecesDArchive::propres); };
     if (std::ranges::any_of(noms_, estDesDonnees)) {
         placerLesDonnees();
         retirerLesAutres();
-    } else {
-        reecrire<ModificationsLivres>(Stockage::fichierDesLivres());
     }
     placerCeuxDeLUtilisateur();
-    placerLesSeries();
 }
 
 // A book must not name a picture that is not there yet, be it for somebody who reads the same folder.
@@ -91,29 +85,31 @@ void Avancee::retirerLesAutres() const
 
 void Avancee::placerCeuxDeLUtilisateur()
 {
-    reecrire<FraisPaypal>(Stockage::fichierDesFrais());
-    QStringList fichiers = Disque::fichiers(utilisateur_.path()) + noms_;
-    fichiers.removeDuplicates();
-    for (const QString &nom : fichiers)
-        if (PiecesDArchive::estUnTarif(nom))
+    for (const QString &nom : noms_)
+        if (nom == Stockage::fichierDesLivres())
+            reecrire<ModificationsLivres>(nom);
+        else if (nom == Stockage::fichierDesFrais())
+            reecrire<FraisPaypal>(nom);
+        else if (PiecesDArchive::estUnTarif(nom))
             reecrire<TarifsColissimo>(nom);
 }
 
-// As the program does with such a file: one that it does not understand is copied aside first.
+// As the program does with such a file: one that it does not understand is copied aside first, and one that would hold
+// nothing is none.
 template <typename T>
 void Avancee::reecrire(const QString &nom)
 {
     Stockage stockage(utilisateur_);
     static_cast<void>(stockage.lire<T>(nom));
-    if (noms_.contains(nom))
-        stockage.ecrire(lireDans<T>(reprise_, nom), nom);
-    else
+    if (const T valeur = lireDans<T>(reprise_, nom); valeur == T())
         stockage.effacer(nom);
+    else
+        stockage.ecrire(valeur, nom);
 }
 
-void Avancee::placerLesSeries()
+void Avancee::placerLesSeries(const Preferences &preferences) const
 {
-    NumerotationFactures numerotation{preferences_};
+    NumerotationFactures numerotation{preferences};
     const auto series = lireDans<SeriesFactures>(reprise_, PiecesDArchive::series);
     for (const auto &[vendeur, numero] : series.asKeyValueRange())
         if (const auto cas = vendeur.cas())

@@ -12,25 +12,25 @@ namespace Quillet {
 class Avancee
 {
 public:
-    Avancee(const QDir &reprise, const QDir &utilisateur, const Preferences &preferences);
+    Avancee(const QDir &reprise, const QDir &utilisateur);
 
     // To be kept in that folder: these are the files of what will be in force, and no other.
     static void noter(const QDir &reprise, const QStringList &noms);
 
-    void jusquAuBout();
+    void placerLesFichiers();
+    // Afterwards, where preferences are written: of two who write them at once, one would lose.
+    void placerLesSeries(const Preferences &preferences) const;
 
 private:
     void placerLesDonnees();
     void retirerLesAutres() const;
     void placerCeuxDeLUtilisateur();
-    void placerLesSeries();
     void placer(const QString &nom) const;
     template <typename T>
     void reecrire(const QString &nom);
 
     QDir reprise_;
     QDir utilisateur_;
-    Preferences preferences_;
     QStringList noms_;
 };
 

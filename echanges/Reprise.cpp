@@ -27,9 +27,9 @@ QString nouvellePartielle(const QDir &utilisateur)
     return utilisateur.filePath(partielle + QUuid::createUuid().toString(QUuid::Id128).first(8));
 }
 
-QString engagee(const QDir &utilisateur)
+QDir engagee(const QDir &utilisateur)
 {
-    return utilisateur.filePath(QStringLiteral("reprise"));
+    return {utilisateur.filePath(QStringLiteral("reprise"))};
 }
 
 void oublier(const QString &dossier)
@@ -69,14 +69,23 @@ void exigerTout(const QDir &dossier, const QStringList &noms)
             throw ErreurStockage(dossier.filePath(nom), QStringLiteral("fichier introuvable"));
 }
 
-void engager(const QString &dossier, const QDir &utilisateur)
+void nommer(const QString &dossier, const QDir &utilisateur)
 {
     try {
-        Fichier::renommer(dossier, engagee(utilisateur));
+        Fichier::renommer(dossier, engagee(utilisateur).path());
     } catch (const ErreurStockage &erreur) {
-        if (QFileInfo::exists(engagee(utilisateur))) // the disk refused to take the new name, then the former one
+        if (engagee(utilisateur).exists()) // the disk refused to take the new name, then the former one
             throw RepriseInachevee(erreur.texte());
         throw;
+    }
+}
+
+void poursuivre(const std::function<void()> &etape)
+{
+    try {
+        etape();
+    } catch (const Echec &erreur) {
+        throw RepriseInachevee(erreur.texte());
     }
 }
 
@@ -125,8 +134,7 @@ Reprise::~Reprise()
 void Reprise::charger(QDate aujourdhui)
 {
     propres_ = std::ranges::any_of(noms_, [](const QString &nom) { return nom.startsWith(PiecesDArchive::propres); });
-    if (propres_ && noms_.removeAll(Stockage::fichierDesLivres()) > 0) // changes of books that it does not have
-        inconnus_.append(QStringLiteral("« %1 »").arg(Stockage::fichierDesLivres()));
+    laisserOuPrendreLesModifications();
     const Ressources donnees =
         propres_ ? Ressources(QDir(dossier_.filePath(PiecesDArchive::propres.chopped(1))), Origine::utilisateur)
                  : demeure_.donnees;
@@ -139,6 +147,7 @@ void Reprise::charger(QDate aujourdhui)
             if (PiecesDArchive::estUnTarif(nom))
                 exigerLisible<TarifsColissimo>(dossier_, nom);
         lireLesSeries();
+        completer();
         donnees_ = Catalogue::charge(donnees, Stockage(dossier_))->donnees();
     } catch (const RessourceIllisible &) {
         throw Echec(
@@ -148,6 +157,34 @@ void Reprise::charger(QDate aujourdhui)
     }
     if (propres_)
         remarques_ = phrases;
+}
+
+// Changes of books stand over the example's: with others in force, the archive's name others' numbers.
+void Reprise::laisserOuPrendreLesModifications()
+{
+    const QString nom = Stockage::fichierDesLivres();
+    if (!propres_ && demeure_.donnees.origine() == Origine::exemple) {
+        if (!noms_.contains(nom)) { // the books as they are shipped
+            Fichier::ecrire(dossier_.filePath(nom), Json::encoder(ModificationsLivres()));
+            noms_.append(nom);
+        }
+    } else if (noms_.removeAll(nom) > 0) {
+        inconnus_.append(QStringLiteral("« %1 »").arg(nom));
+        Disque::supprimer(dossier_.filePath(nom));
+    }
+}
+
+// What the archive does not have of these stays in force; beside the archive's, not among what is taken.
+void Reprise::completer() const
+{
+    for (const QString &nom : Disque::fichiers(demeure_.utilisateur.path())) {
+        const bool reste = PiecesDArchive::estUnTarif(nom) || nom == Stockage::fichierDesFrais()
+                           || (nom == Stockage::fichierDesLivres() && !propres_);
+        if (!reste || noms_.contains(nom))
+            continue;
+        if (const auto octets = Fichier::lire(demeure_.utilisateur.filePath(nom), Fichier::Borne::donnees))
+            Fichier::ecrire(dossier_.filePath(nom), *octets);
+    }
 }
 
 void Reprise::lireLesSeries()
@@ -163,7 +200,16 @@ void Reprise::lireLesSeries()
         }
 }
 
-void Reprise::prendre(const SeriesFactures &series, const QDateTime &maintenant)
+void Reprise::prendre(const SeriesFactures &series, const QDateTime &maintenant, const Attente &attendre)
+{
+    attendre([&] {
+        engager(series, maintenant);
+        poursuivre([&] { Avancee(engagee(demeure_.utilisateur), demeure_.utilisateur).placerLesFichiers(); });
+    });
+    poursuivre([&] { finir(demeure_.utilisateur, demeure_.preferences); });
+}
+
+void Reprise::engager(const SeriesFactures &series, const QDateTime &maintenant) const
 {
     if (propres_)
         exigerLaPlace(demeure_.utilisateur);
@@ -171,26 +217,23 @@ void Reprise::prendre(const SeriesFactures &series, const QDateTime &maintenant)
     Copies(demeure_).avantReprise(maintenant);
     Fichier::ecrire(dossier_.filePath(PiecesDArchive::series), Json::encoder(series));
     Avancee::noter(dossier_, noms_);
-    engager(dossier_.path(), demeure_.utilisateur); // from now on it counts
-    try {
-        finir(demeure_.utilisateur, demeure_.preferences);
-    } catch (const Echec &erreur) {
-        throw RepriseInachevee(erreur.texte());
-    }
+    nommer(dossier_.path(), demeure_.utilisateur); // from now on it counts
 }
 
 void Reprise::finir(const QDir &utilisateur, const Preferences &preferences)
 {
-    Avancee(QDir(engagee(utilisateur)), utilisateur, preferences).jusquAuBout();
+    Avancee(engagee(utilisateur), utilisateur).placerLesSeries(preferences);
     const QString reste = nouvellePartielle(utilisateur);
-    Fichier::renommer(engagee(utilisateur), reste); // at once: a half of it must not be taken again
+    Fichier::renommer(engagee(utilisateur).path(), reste); // at once: a half of it must not be taken again
     oublier(reste);
 }
 
 void Reprise::achever(const QDir &utilisateur, const Preferences &preferences)
 {
-    if (Fichier::existe(engagee(utilisateur)))
+    if (Fichier::existe(engagee(utilisateur).path())) {
+        Avancee(engagee(utilisateur), utilisateur).placerLesFichiers();
         finir(utilisateur, preferences);
+    }
     for (const QString &reste : utilisateur.entryList({partielle + u'*'}, QDir::Dirs))
         oublier(utilisateur.filePath(reste));
 }

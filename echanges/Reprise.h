@@ -40,12 +40,16 @@ public:
     [[nodiscard]] const SeriesFactures &series() const { return series_; }
     // What `--verifier` would have to say of them.
     [[nodiscard]] const QStringList &remarques() const { return remarques_; }
-    // What the archive has that Quillet does not know.
+    // What the archive has that stays there.
     [[nodiscard]] const QStringList &inconnus() const { return inconnus_; }
 
-    // All of it but for other series than these, or nothing; the former state is kept as a copy. Throws Echec when
-    // nothing was changed, RepriseInachevee when it stopped on its way.
-    void prendre(const SeriesFactures &series, const QDateTime &maintenant);
+    // Does what may be long, and comes back once it is done; throws what that throws.
+    using Attente = std::function<void(const std::function<void()> &travail)>;
+    static void surPlace(const std::function<void()> &travail) { travail(); }
+    // All of it but for other series than these, or nothing; the former state is kept as a copy. The series are written
+    // where this is called: preferences are written there. Throws Echec when nothing was changed, RepriseInachevee
+    // when it stopped on its way.
+    void prendre(const SeriesFactures &series, const QDateTime &maintenant, const Attente &attendre = surPlace);
 
     // Ends what was begun before the program stopped: to be called before anything is loaded. Throws Echec when it
     // cannot be: nothing must be loaded then.
@@ -55,7 +59,10 @@ private:
     using Ouverture = std::function<Archive::Contenu(const QString &dossier)>;
     Reprise(const Demeure &demeure, QDate aujourdhui, const Ouverture &ouvrir);
     void charger(QDate aujourdhui);
+    void laisserOuPrendreLesModifications();
     void lireLesSeries();
+    void completer() const;
+    void engager(const SeriesFactures &series, const QDateTime &maintenant) const;
     static void finir(const QDir &utilisateur, const Preferences &preferences);
 
     Demeure demeure_;

@@ -62,16 +62,20 @@ private slots:
         QCOMPARE(reprise->series().value(Vendeur::davrel), "2026-004");
         reprise->prendre(reprise->series(), maintenant);
 
-        QMap<QString, QByteArray> voulus = autre.fichiers();
+        const QMap<QString, QByteArray> siens = autre.fichiers();
+        const QString garde = "tarifs-colissimo-2026-06-01.json"; // accepted here: no import takes it away
+        QMap<QString, QByteArray> voulus = siens;
         voulus.insert("donnees/notes.txt", "à moi"); // nobody else's
+        voulus.insert(garde, avant[garde]);
         QCOMPARE(banc.fichiers(), voulus);
-        QCOMPARE(banc.ouvrir()->donnees(), autre.ouvrir()->donnees());
+        QCOMPARE(banc.ouvrir()->donnees(), reprise->donnees()); // as it was shown
 
         const QList<Copie> copies = Copies(banc.demeure()).liste(); // the former state
         QCOMPARE(copies.size(), 1);
         Reprise::preparer(copies[0].chemin, banc.demeure(), jourDuBanc)->prendre({}, maintenant);
         voulus = avant;
-        voulus["Quillet.ini"] = banc.fichiers()["Quillet.ini"];
+        for (const QString nom : {"Quillet.ini", "frais-paypal.json", "tarifs-colissimo-2027-01-01.json"})
+            voulus[nom] = siens[nom];
         QCOMPARE(banc.fichiers(), voulus);
     }
 
@@ -92,7 +96,21 @@ private slots:
             QVERIFY(!reprise->aDesDonneesPropres());
             reprise->prendre({}, maintenant);
             QCOMPARE(banc.ouvrir()->donnees().livres[0].prix, propres ? Centimes{1500} : Centimes{4200});
+            QCOMPARE(banc.fichiers().contains("livres-modifies.json"), !propres);
+            QCOMPARE(reprise->inconnus(), propres ? QStringList("« livres-modifies.json »") : QStringList());
         }
+
+        Demeure poste = exemple.demeure(); // an administrator's books, that the user has changed
+        poste.donnees = Ressources(exemple.ressources().dossier(), Origine::administrateur);
+        const BancPropre neuf;
+        neuf.ecrireUtilisateur("notes.txt", "à moi");
+        const QString vide = neuf.exporter();
+        const auto reprise = Reprise::preparer(vide, poste, jourDuBanc);
+        QCOMPARE(reprise->donnees().livres[0].prix, Centimes{4200});
+        reprise->prendre({}, maintenant);
+        QCOMPARE(exemple.ouvrir()->donnees().livres[0].prix, Centimes{4200});
+        Reprise::preparer(vide, exemple.demeure(), jourDuBanc)->prendre({}, maintenant);
+        QVERIFY(!exemple.fichiers().contains("livres-modifies.json")); // the example as it is shipped
     }
 
     void neReprendRienDeMalade()
@@ -197,6 +215,38 @@ private slots:
             Reprise::achever(QDir(banc.cheminUtilisateur()), banc.preferences());
             QCOMPARE(banc.fichiers(), apres);
         }
+    }
+
+    // What the copy would not hold is not replaced.
+    void tropLourde()
+    {
+        const BancPropre banc;
+        banc.installer();
+        QFile lourde(banc.cheminUtilisateur("donnees/couvertures/scan.png"));
+        QVERIFY(lourde.open(QIODevice::WriteOnly) && lourde.resize(Fichier::Borne::image + 1));
+        const Copies copies(banc.demeure());
+        QVERIFY(erreurDe([&] { copies.duJour(jourDuBanc); }).contains("scan.png : l’image est trop lourde"));
+        QCOMPARE(copies.liste().size(), 1); // better than none
+        const auto reprise = Reprise::preparer(Autre().exporter(), banc.demeure(), jourDuBanc);
+        const QString dit = erreurDe([&] { reprise->prendre({}, maintenant); });
+        QVERIFY2(dit.contains("scan.png : l’image est trop lourde"), qPrintable(dit));
+        QVERIFY(lourde.exists());
+        QCOMPARE(banc.ouvrir()->donnees().livres, banc.livres);
+    }
+
+    // Only what may be long is done where one waits.
+    void seriesSurPlace()
+    {
+        const Autre autre;
+        const BancPropre banc;
+        const auto reprise = Reprise::preparer(autre.exporter(), banc.demeure(), jourDuBanc);
+        reprise->prendre(reprise->series(), maintenant, [&](const std::function<void()> &travail) {
+            travail();
+            QVERIFY(!QFile::exists(banc.preferences().fichier()));
+            banc.preferences().retenirSiPossible("fenetre", "ailleurs");
+        });
+        QCOMPARE(banc.preferences().texte("fenetre"), "ailleurs");
+        QCOMPARE(NumerotationFactures{banc.preferences()}.dernier(Vendeur::davrel), "2026-004");
     }
 
     void dossierLie()

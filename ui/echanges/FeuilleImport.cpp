@@ -128,7 +128,9 @@ void FeuilleImport::prendre()
             series.insert(serie.vendeur, serie.la);
     const QDateTime maintenant(contexte_.jour.aujourdhui(), QTime::currentTime());
     try {
-        Attente::jusquAuBout(this, QStringLiteral("Import…"), [&] { reprise_->prendre(series, maintenant); });
+        reprise_->prendre(series, maintenant, [this](const std::function<void()> &travail) {
+            Attente::jusquAuBout(this, QStringLiteral("Import…"), travail);
+        });
         recharger();
         accept();
     } catch (const RepriseInachevee &erreur) { // what is in memory is not what the disk has: nothing may be saved
