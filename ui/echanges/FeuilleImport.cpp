@@ -144,12 +144,22 @@ void FeuilleImport::prendre()
     }
 }
 
-// An order names books by their numbers, which may be others' now.
+// An order names books by their numbers, which may be others' now. The example's seller and packaging are nobody's; the
+// sellers' own stay, if they still are there.
 void FeuilleImport::recharger()
 {
+    const bool deLExemple = !contexte_.donnees().personnelles;
     contexte_.catalogue.recharger();
-    if (reprise_->aDesDonneesPropres())
+    if (!reprise_->aDesDonneesPropres())
+        return;
+    if (deLExemple) {
         contexte_.commande.commencer(contexte_.donnees());
+        return;
+    }
+    BonDeCommande bon = contexte_.commande.bon();
+    bon.vider();
+    bon.suivre(contexte_.donnees());
+    contexte_.commande.adopter(bon); // not to be given back
 }
 
 } // namespace Quillet
