@@ -18,6 +18,8 @@
 #include <QThread>
 
 #include <chrono>
+#include <memory>
+#include <utility>
 
 using namespace std::chrono_literals;
 
@@ -117,17 +119,42 @@ void Echanges::importer()
 {
     QFileDialog *choix = dialogue(QStringLiteral("Importer"), contexte_, fenetre_);
     choix->setFileMode(QFileDialog::ExistingFile);
-    connect(choix, &QFileDialog::fileSelected, this,
-            [this](const QString &archive) { montrer(contexte_, archive, QStringLiteral("Importer"), fenetre_); });
+    connect(choix, &QFileDialog::fileSelected, this, [this](const QString &archive) {
+        attendreLaCopie();
+        retenir(montrer(contexte_, archive, QStringLiteral("Importer"), fenetre_));
+    });
     choix->open();
 }
 
 void Echanges::revenirAUneCopie()
 {
-    (new FeuilleCopies(contexte_, echec_, fenetre_))->ouvrir();
+    attendreLaCopie();
+    auto *feuille = new FeuilleCopies(contexte_, echec_, fenetre_);
+    feuille->ouvrir();
+    retenir(feuille);
 }
 
-QWidget *Echanges::montrer(const Contexte &contexte, const QString &archive, const QString &geste, QWidget *parent)
+void Echanges::attendreLaCopie()
+{
+    if (!fil_)
+        return;
+    Attente::jusquAuBout(fenetre_, QStringLiteral("Copie du jour…"), [copie = copie_] { copie.wait(); });
+    echec_ = copie_.get();
+}
+
+void Echanges::retenir(QDialog *feuille)
+{
+    if (!feuille)
+        return;
+    feuille_ = feuille;
+    connect(feuille, &QDialog::finished, this, [this] {
+        feuille_ = nullptr;
+        if (std::exchange(aFaire_, false))
+            garder();
+    });
+}
+
+QDialog *Echanges::montrer(const Contexte &contexte, const QString &archive, const QString &geste, QWidget *parent)
 {
     const Demeure demeure = Demeure::de(contexte.catalogue, contexte.preferences);
     const QDate jour = contexte.jour.aujourdhui();
@@ -153,21 +180,24 @@ void Echanges::garderChaqueJour()
 // Unsaid when it fails, but in the sheet of the copies: who is at work is not to be held up by it.
 void Echanges::garder()
 {
-    if (fil_)
+    aFaire_ = feuille_;
+    if (fil_ || feuille_)
         return;
-    const auto echec = std::make_shared<QString>();
+    const auto echec = std::make_shared<std::promise<QString>>();
+    copie_ = echec->get_future().share();
     fil_ = QThread::create(
         [demeure = Demeure::de(contexte_.catalogue, contexte_.preferences), jour = contexte_.jour.aujourdhui(), echec] {
             try {
                 Copies(demeure).duJour(jour);
+                echec->set_value({});
             } catch (const Echec &erreur) {
-                *echec = erreur.texte();
+                echec->set_value(erreur.texte());
             }
         });
     connect(fil_, &QThread::finished, fil_, &QObject::deleteLater);
-    connect(fil_, &QThread::finished, this, [this, echec] {
+    connect(fil_, &QThread::finished, this, [this] {
         fil_ = nullptr;
-        echec_ = *echec;
+        echec_ = copie_.get();
         emit copieFaite();
     });
     fil_->start(QThread::LowPriority);

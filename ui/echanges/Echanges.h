@@ -1,16 +1,17 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
-#include <memory>
+#include <future>
 
-class QWidget;
+class QDialog;
 class QThread;
+class QWidget;
 
 namespace Quillet {
 
-class Reprise;
 struct Contexte;
 
 // How the sellers' data leave, come back and are kept: what the menu's commands do, and the copy that is made by itself
@@ -37,7 +38,7 @@ public:
 
     // Unpacks an archive and shows it, to be taken by a button of that name. Says why when it cannot be. The sheet, or
     // null.
-    static QWidget *montrer(const Contexte &contexte, const QString &archive, const QString &geste, QWidget *parent);
+    static QDialog *montrer(const Contexte &contexte, const QString &archive, const QString &geste, QWidget *parent);
 
 signals:
     // The copy of the day was looked after.
@@ -46,10 +47,15 @@ signals:
 private:
     void enregistrer(const QString &chemin);
     void garder();
+    void attendreLaCopie();
+    void retenir(QDialog *feuille);
 
     const Contexte &contexte_;
     QWidget *fenetre_;
-    QThread *fil_ = nullptr; // while a copy is being made
+    QThread *fil_ = nullptr;            // while a copy is being made
+    std::shared_future<QString> copie_; // its failure, once it is made
+    QPointer<QDialog> feuille_;         // while it is open, no copy starts: both would touch the copies
+    bool aFaire_ = false;
     QString echec_;
 };
 

@@ -84,8 +84,8 @@ QWidget *FeuilleCopies::rangee(const Vue &vue)
 
 void FeuilleCopies::montrer(const Copie &copie)
 {
-    if (auto *feuille = qobject_cast<QDialog *>(
-            Echanges::montrer(contexte_, copie.chemin, QStringLiteral("Reprendre cette copie"), this)))
+    if (const QDialog *feuille =
+            Echanges::montrer(contexte_, copie.chemin, QStringLiteral("Reprendre cette copie"), this))
         connect(feuille, &QDialog::accepted, this, &QDialog::accept);
 }
 
