@@ -81,6 +81,8 @@ private slots:
         QVERIFY(Ecran::cliquer(feuille, "Importer"));
         QVERIFY(!Dialogues::devant());
         QVERIFY(arrivee.app->commande().bon().estVide());
+        QCOMPARE(arrivee.app->commande().bon().codeDestination, vers("france"));
+        QVERIFY(!arrivee.app->commande().peutRendre()); // the same numbers may be other books
         QVERIFY(Ecran::controle(&arrivee.app->fenetre(), "Le Phare de sel"));
         QCOMPARE(arrivee.dernier(), "2026-009");
 
