@@ -30,6 +30,19 @@ namespace {
 const QString titre = QStringLiteral("Premiers pas");
 constexpr QSize taille(760, 760);
 
+// What cannot be read is said with the invoices; to leave its field empty changes nothing.
+QMap<Vendeur, QString> dernieresFactures(const Preferences &preferences)
+{
+    QMap<Vendeur, QString> factures;
+    for (const Vendeur vendeur : tous<Vendeur>)
+        try {
+            factures.insert(vendeur, NumerotationFactures{preferences}.dernier(vendeur));
+        } catch (const ErreurStockage &) {
+            factures.remove(vendeur);
+        }
+    return factures;
+}
+
 } // namespace
 
 FeuillePremiersPas::FeuillePremiersPas(const Contexte &contexte, QWidget *parent)
@@ -48,7 +61,7 @@ FeuillePremiersPas::FeuillePremiersPas(const Contexte &contexte, QWidget *parent
     const EcritureDesReglages ecriture{
         [this]() -> const Reglages & { return brouillon_; },
         [this](const Reglages &apres, const QString &chemin, const QString &) { return noter(apres, chemin); }};
-    vendeurs_ = new PasDuVendeur(ecriture, contexte.jour.aujourdhui());
+    vendeurs_ = new PasDuVendeur(ecriture, contexte.jour.aujourdhui(), dernieresFactures(contexte.preferences));
     emballages_ = new FicheEmballages(ecriture);
     connect(vendeurs_, &PasDuVendeur::deux, this, [this](bool vrai) {
         if (vrai)
@@ -85,7 +98,7 @@ QWidget *FeuillePremiersPas::pied()
         passerA(static_cast<Page>(pages_->currentIndex() - 1)); // what is wrong here may wait
     });
     connect(suivant_, &QPushButton::clicked, this, &FeuillePremiersPas::suivre);
-    connect(plusTard_, &QPushButton::clicked, this, [this] { terminer(false); });
+    connect(plusTard_, &QPushButton::clicked, this, &FeuillePremiersPas::remettreLeLivre);
     plusTard_->setAccessibleDescription(QStringLiteral("Commencer sans livre"));
     QBoxLayout *boutons = Pile::rangee({.espace = 8}, {precedent_, Pile::reste(), plusTard_, suivant_});
     return Pile::enColonne({.marges = {20, 12, 20, 16}, .espace = 10}, {echec_, boutons});
@@ -172,7 +185,6 @@ void FeuillePremiersPas::suivre()
         passerA(static_cast<Page>(pages_->currentIndex() + 1));
 }
 
-// The series first: cut short there, nothing is lost but that of an invented seller.
 void FeuillePremiersPas::terminer(bool avecLeLivre)
 {
     QList<Livre> livres;
@@ -186,9 +198,6 @@ void FeuillePremiersPas::terminer(bool avecLeLivre)
         livres = EditionLivres::avec({}, livre);
     }
     try {
-        const auto factures = vendeurs_->dernieresFactures();
-        for (auto facture = factures.begin(); facture != factures.end(); ++facture)
-            NumerotationFactures{contexte_.preferences}.recommencer(facture.value(), facture.key());
         const Catalogue &catalogue = contexte_.catalogue;
         DossierPersonnel::creer(catalogue.stockage().donneesPersonnelles(), catalogue.ressources(), brouillon_, livres,
                                 couvertures);
@@ -197,7 +206,39 @@ void FeuillePremiersPas::terminer(bool avecLeLivre)
         echec_->montrer(erreur.texte());
         return;
     }
+    reprendreLesSeries();
     accept();
+}
+
+// Once the sellers are there, of whom it is: what fails now is said over their window, and typed on the next invoice.
+void FeuillePremiersPas::reprendreLesSeries()
+{
+    try {
+        const auto factures = vendeurs_->autresDernieresFactures();
+        for (auto facture = factures.begin(); facture != factures.end(); ++facture)
+            NumerotationFactures{contexte_.preferences}.reprendre(facture.value(), facture.key());
+    } catch (const ErreurStockage &erreur) {
+        auto *message = new QMessageBox(QMessageBox::Warning, titre,
+                                        QStringLiteral("Vos données sont en place, mais le numéro de la dernière "
+                                                       "facture n’a pas pu être retenu : tapez le bon numéro sur la "
+                                                       "prochaine facture."),
+                                        QMessageBox::Ok, parentWidget());
+        message->setInformativeText(erreur.texte());
+        message->setAttribute(Qt::WA_DeleteOnClose);
+        message->open();
+    }
+}
+
+// "Commencer sans ce livre ?": what was typed of it is not given up by mistake.
+void FeuillePremiersPas::remettreLeLivre()
+{
+    livre_->conclure();
+    if (!livre_->aSaisi(premier_)) {
+        terminer(false);
+        return;
+    }
+    demander(QStringLiteral("Commencer sans ce livre ?"), QStringLiteral("Ce que vous en avez saisi sera perdu."),
+             QStringLiteral("Commencer sans lui"), [this] { terminer(false); });
 }
 
 void FeuillePremiersPas::reject()
@@ -205,19 +246,27 @@ void FeuillePremiersPas::reject()
     vendeurs_->conclure();
     emballages_->conclure();
     livre_->conclure();
-    if (brouillon_ == depart_ && livre_->livre() == premier_ && !livre_->couverture()) {
+    if (brouillon_ == depart_ && !livre_->aSaisi(premier_)) {
         Feuille::reject();
         return;
     }
-    auto *question = new QMessageBox(QMessageBox::Question, QStringLiteral("Quillet"),
-                                     QStringLiteral("Abandonner les premiers pas ?"), QMessageBox::NoButton, this);
-    question->setInformativeText(QStringLiteral("Ce que vous avez saisi sera perdu ; l’exemple reste en place."));
+    demander(QStringLiteral("Abandonner les premiers pas ?"),
+             QStringLiteral("Ce que vous avez saisi sera perdu ; l’exemple reste en place."),
+             QStringLiteral("Abandonner"), [this] { Feuille::reject(); });
+}
+
+void FeuillePremiersPas::demander(const QString &quoi, const QString &perte, const QString &oui,
+                                  const std::function<void()> &faire)
+{
+    auto *question =
+        new QMessageBox(QMessageBox::Question, QStringLiteral("Quillet"), quoi, QMessageBox::NoButton, this);
+    question->setInformativeText(perte);
     question->setAttribute(Qt::WA_DeleteOnClose);
-    const QPushButton *abandonner = question->addButton(QStringLiteral("Abandonner"), QMessageBox::DestructiveRole);
+    const QPushButton *accepte = question->addButton(oui, QMessageBox::DestructiveRole);
     QPushButton *continuer = question->addButton(QStringLiteral("Continuer"), QMessageBox::RejectRole);
     question->setDefaultButton(continuer);
     question->setEscapeButton(continuer);
-    connect(abandonner, &QPushButton::clicked, this, [this] { Feuille::reject(); });
+    connect(accepte, &QPushButton::clicked, this, faire);
     question->open();
 }
 

@@ -5,6 +5,8 @@
 #include "model/Reglages.h"
 #include "ui/vendeurs/ChampsDeReglages.h"
 
+#include <functional>
+
 class QPushButton;
 class QStackedWidget;
 
@@ -39,6 +41,10 @@ private:
     void suivre();
     [[nodiscard]] bool verifier();
     void terminer(bool avecLeLivre);
+    void reprendreLesSeries();
+    void remettreLeLivre();
+    // What would be lost is given up only by who says so.
+    void demander(const QString &quoi, const QString &perte, const QString &oui, const std::function<void()> &faire);
     void preparerLeLivre();
 
     const Contexte &contexte_;

@@ -12,7 +12,8 @@
 
 namespace Quillet {
 
-PasDuVendeur::PasDuVendeur(const EcritureDesReglages &ecriture, QDate jour, QWidget *parent)
+PasDuVendeur::PasDuVendeur(const EcritureDesReglages &ecriture, QDate jour, const QMap<Vendeur, QString> &gardees,
+                           QWidget *parent)
     : QWidget(parent),
       ecriture_(ecriture),
       jour_(jour),
@@ -23,7 +24,11 @@ PasDuVendeur::PasDuVendeur(const EcritureDesReglages &ecriture, QDate jour, QWid
     for (const Vendeur vendeur : tous<Vendeur>) {
         const QString titre = TextesReglages::titre(vendeur);
         Fiche fiche{.vendeur = new FicheVendeur(titre, vendeur, ecriture),
-                    .facture = new ChampDeFiche(QStringLiteral("Dernière facture"))};
+                    .facture = new ChampDeFiche(QStringLiteral("Dernière facture")),
+                    .gardee = gardees.value(vendeur)};
+        if (!TextesReglages::derniereFactureRefusee(fiche.gardee, jour).isEmpty())
+            fiche.gardee.clear(); // a series of another year ends by itself
+        fiche.facture->montrer(fiche.gardee);
         fiche.facture->setNomDit(QStringLiteral("Dernière facture, %1").arg(titre.left(1).toLower() + titre.mid(1)));
         connect(fiche.facture, &ChampDeFiche::saisi, this, [this, fiche] { verifierLaFacture(fiche); });
         verifierLaFacture(fiche);
@@ -90,11 +95,12 @@ void PasDuVendeur::prendreLeFocus()
     fiches_.first().vendeur->prendreLeFocus();
 }
 
-QMap<Vendeur, QString> PasDuVendeur::dernieresFactures() const
+QMap<Vendeur, QString> PasDuVendeur::autresDernieresFactures() const
 {
     QMap<Vendeur, QString> factures;
     for (auto fiche = fiches_.begin(); fiche != fiches_.end(); ++fiche)
-        factures.insert(fiche.key(), ecriture_.lire().identite(fiche.key()) ? fiche->facture->texte() : QString());
+        if (ecriture_.lire().identite(fiche.key()) && fiche->facture->texte() != fiche->gardee)
+            factures.insert(fiche.key(), fiche->facture->texte());
     return factures;
 }
 

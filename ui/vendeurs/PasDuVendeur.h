@@ -21,7 +21,9 @@ class PasDuVendeur : public QWidget
     Q_OBJECT
 
 public:
-    PasDuVendeur(const EcritureDesReglages &ecriture, QDate jour, QWidget *parent = nullptr);
+    // `gardees`: the last invoices that are known already.
+    PasDuVendeur(const EcritureDesReglages &ecriture, QDate jour, const QMap<Vendeur, QString> &gardees,
+                 QWidget *parent = nullptr);
 
     void montrer();
     // Takes what is still being typed.
@@ -29,8 +31,8 @@ public:
     // Says what is wrong; gives the first field that is, null when none is.
     [[nodiscard]] QWidget *verifier(const Objections::ParChamp &objections);
     void prendreLeFocus();
-    // By seller; empty: the series begins.
-    [[nodiscard]] QMap<Vendeur, QString> dernieresFactures() const;
+    // Of those who sell, where it is another than was known; empty: the series begins.
+    [[nodiscard]] QMap<Vendeur, QString> autresDernieresFactures() const;
 
 signals:
     // A second seller comes, or goes.
@@ -41,6 +43,7 @@ private:
     {
         FicheVendeur *vendeur;
         ChampDeFiche *facture;
+        QString gardee; // as the field showed it first
     };
     void verifierLaFacture(const Fiche &fiche);
 
