@@ -124,6 +124,25 @@ private slots:
         }
     }
 
+    // Beside the list too, where others' books keep what is given away.
+    void laFicheSuitLesRegles()
+    {
+        for (const auto &[champ, refus] :
+             Rangees<const char *>{{"Prix, en euros", "Un prix de plus"}, {"Poids, en grammes", "0 g"}}) {
+            const BancPersonnel cas;
+            cas.champ(champ)->setFocus();
+            QVERIFY(Ecran::taper(cas.fenetre(), champ, "0"));
+            cas.liste()->setFocus();
+            QCOMPARE(cas.enregistres(), cas.donnees.livres);
+            QVERIFY2(!cas.texte(refus).isEmpty(), refus);
+            const BancLivres autre(Origine::dossier);
+            autre.champ(champ)->setFocus();
+            QVERIFY(Ecran::taper(autre.fenetre(), champ, "0"));
+            autre.liste()->setFocus();
+            QVERIFY(autre.enregistres() != autre.donnees.livres);
+        }
+    }
+
     void annulerDansLaFeuille()
     {
         const BancPersonnel cas;

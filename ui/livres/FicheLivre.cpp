@@ -8,7 +8,9 @@
 #include "composants/Lien.h"
 #include "composants/Pile.h"
 #include "composants/Theme.h"
+#include "model/Donnees.h"
 #include "model/Saisie.h"
+#include "model/controle/Objections.h"
 #include "textes/TextesGestes.h"
 #include "textes/TextesLivres.h"
 #include "ui/Raccourcis.h"
@@ -25,13 +27,6 @@ namespace {
 
 constexpr QSize couverture(112, 168);
 constexpr int entreSections = 28;
-
-template <typename T>
-QString refus(const Saisie::Lecture<T> &lecture)
-{
-    const auto *refuse = std::get_if<Saisie::Refus>(&lecture);
-    return refuse ? refuse->raison : QString();
-}
 
 Libelle *ligneDiscrete()
 {
@@ -101,10 +96,20 @@ QWidget *FicheLivre::enTete(ImagesCouvertures &images)
 
 QWidget *FicheLivre::reglages()
 {
-    prix_ = new ChampSaisi(QStringLiteral("Prix"), {QStringLiteral("€"), QStringLiteral("euros")},
-                           [](const QString &texte) { return refus(Saisie::prix(texte)); });
+    const auto refuser = [this](const auto &lecture, auto Livre::*champ, const QString &cle) {
+        if (const auto *refus = std::get_if<Saisie::Refus>(&lecture))
+            return refus->raison;
+        Livre essai = livre_;
+        essai.*champ = std::get<std::remove_reference_t<decltype(essai.*champ)>>(lecture);
+        return objection(essai, cle);
+    };
+    prix_ = new ChampSaisi(
+        QStringLiteral("Prix"), {QStringLiteral("€"), QStringLiteral("euros")},
+        [refuser](const QString &texte) { return refuser(Saisie::prix(texte), &Livre::prix, QStringLiteral("prix")); });
     poids_ = new ChampSaisi(QStringLiteral("Poids"), {QStringLiteral("g"), QStringLiteral("grammes")},
-                            [](const QString &texte) { return refus(Saisie::poids(texte)); });
+                            [refuser](const QString &texte) {
+                                return refuser(Saisie::poids(texte), &Livre::poids, QStringLiteral("poids"));
+                            });
     poids_->setInvite(QStringLiteral("à peser"));
     for (const ChampSaisi *champ : {prix_, poids_})
         connect(champ, &ChampSaisi::refuse, this, &FicheLivre::saisieRefusee);
@@ -131,6 +136,14 @@ QWidget *FicheLivre::reglages()
     groupe->ajouter(poids_);
     groupe->ajouter(new Formulaire::Rangee(QStringLiteral("Disponible"), disponible_));
     return groupe;
+}
+
+QString FicheLivre::objection(const Livre &essai, const QString &champ) const
+{
+    if (!donnees_.personnelles)
+        return {};
+    const Regles::Reperes reperes{.vendeurs = donnees_.reglages.vendeurs};
+    return Objections::surLeLivre(essai, reperes).value(champ);
 }
 
 QWidget *FicheLivre::commandes()

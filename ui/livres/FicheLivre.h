@@ -49,6 +49,8 @@ private:
     QWidget *reglages();
     QWidget *commandes();
     QWidget *boutonsPaypal();
+    // What the rules hold against the book; nothing when it is not the sellers' own, which others answer for.
+    [[nodiscard]] QString objection(const Livre &essai, const QString &champ) const;
 
     const Donnees &donnees_;
     Livre livre_;
