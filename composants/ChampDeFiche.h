@@ -29,6 +29,8 @@ public:
     // What is wrong with the text; empty: nothing.
     void objecter(const QString &phrase);
     [[nodiscard]] bool estRefuse() const { return !objection_.isEmpty(); }
+    // What was handed over last was not kept: leaving the field hands it over again.
+    void reessayer() { rendu_ = valeur_; }
     // What the field holds at this moment.
     [[nodiscard]] QString texte() const;
     // An example of what to type, as long as nothing is.

@@ -15,6 +15,8 @@ void ChampsDeReglages::lier(ChampDeFiche *champ, const Champ &description)
         if (refus.isEmpty())
             refus = ecrire(apres, description.chemin, description.geste(reglages()));
         champ->objecter(refus);
+        if (!refus.isEmpty())
+            champ->reessayer();
         montrer();
     });
 }
@@ -37,6 +39,14 @@ void ChampsDeReglages::montrer() const
 {
     for (const Lie &lie : lies())
         lie.champ->montrer(lie.description.lire(reglages()));
+}
+
+ChampDeFiche *ChampsDeReglages::enSuspens() const
+{
+    for (const Lie &lie : lies())
+        if (lie.champ->estRefuse() && lie.champ->isVisible())
+            return lie.champ;
+    return nullptr;
 }
 
 ChampDeFiche *ChampsDeReglages::objecter(const Objections::ParChamp &objections) const

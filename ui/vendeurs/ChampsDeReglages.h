@@ -45,6 +45,8 @@ public:
     void montrer() const;
     // Says what the rules hold against the texts that stand; gives the first field that is wrong, null when none is.
     [[nodiscard]] ChampDeFiche *objecter(const Objections::ParChamp &objections) const;
+    // The first field with a text that was not kept; null when all are.
+    [[nodiscard]] ChampDeFiche *enSuspens() const;
     [[nodiscard]] const Reglages &reglages() const { return ecriture_.lire(); }
     // What is not a text: a command's doing.
     [[nodiscard]] QString ecrire(const Reglages &apres, const QString &chemin, const QString &geste) const

@@ -21,6 +21,8 @@
 
 #include <QPushButton>
 
+#include <utility>
+
 namespace Quillet {
 
 namespace {
@@ -71,7 +73,7 @@ FeuilleVendeurs::FeuilleVendeurs(const Contexte &contexte, QWidget *parent)
 
 QWidget *FeuilleVendeurs::page()
 {
-    const EcritureDesReglages ecriture{[this]() -> const Reglages & { return contexte_.donnees().reglages; },
+    const EcritureDesReglages ecriture{[this]() -> const Reglages & { return montres(); },
                                        [this](const Reglages &apres, const QString &chemin, const QString &geste) {
                                            return ecrire(apres, chemin, geste);
                                        }};
@@ -81,10 +83,12 @@ QWidget *FeuilleVendeurs::page()
         auto *fiche = new FicheVendeur(TextesReglages::titre(vendeur), vendeur, ecriture);
         QPushButton *retire = Boutons::deFeuille(QStringLiteral("Retirer ce vendeur"));
         auto *refus = new Alerte;
+        auto *attente =
+            Libelle::note(QStringLiteral("Ce vendeur sera enregistré dès qu’il aura un nom et une adresse."));
         connect(retire, &QPushButton::clicked, this, [this, vendeur] { retirer(vendeur); });
-        QWidget *ensemble = Pile::enColonne({.espace = 8}, {fiche, {retire, 0, Qt::AlignLeft}, refus});
+        QWidget *ensemble = Pile::enColonne({.espace = 8}, {fiche, attente, {retire, 0, Qt::AlignLeft}, refus});
         liste_->layout()->addWidget(ensemble);
-        vendeurs_.insert(vendeur, {fiche, retire, ensemble, refus});
+        vendeurs_.insert(vendeur, {fiche, retire, ensemble, refus, attente});
     }
     ajouter_ = Boutons::deFeuille(QStringLiteral("Ajouter un second vendeur"), QStringLiteral("plus"));
     connect(ajouter_, &QPushButton::clicked, this, &FeuilleVendeurs::ajouterUnVendeur);
@@ -135,18 +139,22 @@ void FeuilleVendeurs::montrer()
         reject(); // they went, and so did what is shown here
         return;
     }
+    if (nouveau_ && donnees.reglages.identite(nouveau_->vendeur))
+        nouveau_.reset(); // there already, by another
+    const Reglages reglages = montres();
     for (auto vendeur = vendeurs_.begin(); vendeur != vendeurs_.end(); ++vendeur) {
         const Fiche &fiche = vendeur.value();
-        const bool la = donnees.reglages.identite(vendeur.key()).has_value();
+        const bool la = reglages.identite(vendeur.key()).has_value();
         if (!la && fiche.ensemble->isAncestorOf(focusWidget()))
             setFocus();
         fiche.ensemble->setVisible(la);
         fiche.fiche->montrer();
-        fiche.retirer->setVisible(donnees.reglages.vendeurs.size() > 1);
+        fiche.retirer->setVisible(reglages.vendeurs.size() > 1);
+        fiche.attente->setVisible(nouveau_ && nouveau_->vendeur == vendeur.key());
         if (TextesReglages::nePeutPartir(vendeur.key(), donnees).isEmpty())
             fiche.refus->montrer({});
     }
-    ajouter_->setVisible(donnees.reglages.vendeurs.size() < qsizetype(tous<Vendeur>.size()));
+    ajouter_->setVisible(reglages.vendeurs.size() < qsizetype(tous<Vendeur>.size()));
     emballages_->montrer();
     mentions_->montrer(TextesReglages::destinationsADeclarer(donnees));
 }
@@ -157,8 +165,8 @@ void FeuilleVendeurs::ajouterUnVendeur()
     for (const Vendeur vendeur : tous<Vendeur>) {
         if (avant.identite(vendeur))
             continue;
-        const Reglages apres = EditionReglages::avecVendeur(avant, vendeur);
-        tenter([&] { contexte_.historique.remplacer(apres, QStringLiteral("ajout d’un vendeur")); });
+        nouveau_ = {vendeur, EditionReglages::avecVendeur(avant, vendeur).vendeurs.value(vendeur)};
+        montrer();
         vendeurs_[vendeur].fiche->prendreLeFocus();
         return;
     }
@@ -166,6 +174,11 @@ void FeuilleVendeurs::ajouterUnVendeur()
 
 void FeuilleVendeurs::retirer(Vendeur vendeur)
 {
+    if (nouveau_ && nouveau_->vendeur == vendeur) {
+        nouveau_.reset();
+        montrer();
+        return;
+    }
     const QString refus = TextesReglages::nePeutPartir(vendeur, contexte_.donnees());
     vendeurs_[vendeur].refus->montrer(refus);
     if (!refus.isEmpty())
@@ -175,22 +188,89 @@ void FeuilleVendeurs::retirer(Vendeur vendeur)
     tenter([&] { contexte_.historique.remplacer(apres, QStringLiteral("retrait de « %1 »").arg(nom)); });
 }
 
+// What the fields show.
+const Reglages &FeuilleVendeurs::montres()
+{
+    montres_ = contexte_.donnees().reglages;
+    if (nouveau_)
+        montres_.vendeurs.insert(nouveau_->vendeur, nouveau_->identite);
+    return montres_;
+}
+
 // What a rule is against stays in its field and goes nowhere.
 QString FeuilleVendeurs::ecrire(const Reglages &apres, const QString &chemin, const QString &geste)
 {
+    if (!tentes_.contains(apres)) { // else a field that was refused is only left again
+        averti_ = false;
+        tentes_.append(apres);
+    }
     const Donnees &donnees = contexte_.donnees();
-    const QString objection = Objections::nouvelle(Objections::surLesReglages(donnees.reglages, codes(donnees)),
+    const QString objection = Objections::nouvelle(Objections::surLesReglages(montres(), codes(donnees)),
                                                    Objections::surLesReglages(apres, codes(donnees)), chemin);
     if (!objection.isEmpty())
         return objection;
+    const auto avant = nouveau_;
+    Reglages aGarder = apres;
+    if (nouveau_) {
+        nouveau_->identite = aGarder.vendeurs.value(nouveau_->vendeur);
+        if (nouveau_->identite.nom.isEmpty() || nouveau_->identite.adresse.isEmpty())
+            aGarder.vendeurs.remove(nouveau_->vendeur);
+        else
+            nouveau_.reset();
+    }
     QString echec;
     try {
-        contexte_.historique.remplacer(apres, geste);
+        if (avant.has_value() != nouveau_.has_value())
+            contexte_.historique.remplacer(aGarder, QStringLiteral("ajout d’un vendeur"));
+        else if (!avant || aGarder != donnees.reglages)
+            contexte_.historique.remplacer(aGarder, geste);
     } catch (const Echec &erreur) {
+        nouveau_ = avant;
         echec = TextesGestes::nonEnregistre(erreur);
     }
+    if (echec.isEmpty())
+        tentes_.clear();
     echec_->montrer({});
     return echec;
+}
+
+// The first field with what is not kept; null when all is.
+QWidget *FeuilleVendeurs::enSuspens()
+{
+    for (auto vendeur = vendeurs_.begin(); vendeur != vendeurs_.end(); ++vendeur)
+        if (QWidget *champ = vendeur->fiche->enSuspens())
+            return champ;
+    if (QWidget *champ = emballages_->enSuspens())
+        return champ;
+    if (QWidget *champ = mentions_->enSuspens())
+        return champ;
+    const auto commence = [this] {
+        const Reglages vierges = EditionReglages::avecVendeur(contexte_.donnees().reglages, nouveau_->vendeur);
+        return nouveau_->identite != vierges.vendeurs.value(nouveau_->vendeur);
+    };
+    return nouveau_ && commence() ? vendeurs_[nouveau_->vendeur].fiche : nullptr;
+}
+
+void FeuilleVendeurs::reject()
+{
+    if (!contexte_.donnees().personnelles || vendeurs_.isEmpty()) {
+        Feuille::reject();
+        return;
+    }
+    const bool averti = averti_; // what is handed over again below is nothing new
+    for (const Fiche &fiche : std::as_const(vendeurs_))
+        fiche.fiche->conclure();
+    emballages_->conclure();
+    mentions_->conclure();
+    QWidget *champ = enSuspens();
+    if (!champ || averti) {
+        Feuille::reject();
+        return;
+    }
+    averti_ = true;
+    echec_->montrer(QStringLiteral("Ce que vous venez de saisir n’est pas encore enregistré : voyez ce qui manque, ou "
+                                   "fermez encore une fois pour y renoncer."));
+    champ->setFocus();
 }
 
 void FeuilleVendeurs::tenter(const std::function<void()> &geste)

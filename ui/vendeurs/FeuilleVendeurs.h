@@ -1,12 +1,13 @@
 #pragma once
 
 #include "composants/Feuille.h"
-#include "model/Vendeur.h"
+#include "model/Reglages.h"
 #include "ui/vendeurs/ChampsDeReglages.h"
 
 #include <QMap>
 
 #include <functional>
+#include <optional>
 
 class QPushButton;
 
@@ -28,6 +29,8 @@ public:
     explicit FeuilleVendeurs(const Contexte &contexte, QWidget *parent = nullptr);
     // The sheet for the data in force: with the example, the first steps.
     static void ouvrir(const Contexte &contexte, QWidget *parent);
+    // What could not be kept is said once before it is given up.
+    void reject() override;
 
 private:
     QWidget *page();
@@ -38,6 +41,8 @@ private:
     QString ecrire(const Reglages &apres, const QString &chemin, const QString &geste);
     void tenter(const std::function<void()> &geste);
     void reprendreLesDonnees();
+    [[nodiscard]] const Reglages &montres();
+    [[nodiscard]] QWidget *enSuspens();
 
     const Contexte &contexte_;
     Alerte *echec_;
@@ -47,12 +52,23 @@ private:
         QPushButton *retirer;
         QWidget *ensemble;
         Alerte *refus;
+        QWidget *attente;
     };
     QMap<Vendeur, Fiche> vendeurs_;
     QWidget *liste_ = nullptr;
     QPushButton *ajouter_ = nullptr;
     FicheEmballages *emballages_ = nullptr;
     FicheMentions *mentions_ = nullptr;
+    // A second seller, in no file before there is a name and an address.
+    struct Nouveau
+    {
+        Vendeur vendeur;
+        IdentiteVendeur identite;
+    };
+    std::optional<Nouveau> nouveau_;
+    Reglages montres_;
+    bool averti_ = false;    // that closing gives something up
+    QList<Reglages> tentes_; // and were not kept
 };
 
 } // namespace Quillet

@@ -22,6 +22,7 @@ public:
 
     void montrer();
     void conclure() { champs_.conclure(); }
+    [[nodiscard]] ChampDeFiche *enSuspens() const { return champs_.enSuspens(); }
     // The first field that is wrong; null when none is.
     [[nodiscard]] ChampDeFiche *objecter(const Objections::ParChamp &objections);
     void prendreLeFocus();

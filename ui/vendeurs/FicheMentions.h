@@ -24,6 +24,9 @@ public:
 
     // `destinations`: those that may have a code of their own.
     void montrer(const QList<Destination> &destinations);
+    // Takes what is still being typed.
+    void conclure() { champs_.conclure(); }
+    [[nodiscard]] ChampDeFiche *enSuspens() const { return champs_.enSuspens(); }
 
 private:
     ChampDeFiche *champ(const QString &libelle, const ChampsDeReglages::Champ &description);
