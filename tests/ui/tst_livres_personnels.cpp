@@ -130,7 +130,7 @@ private slots:
         for (const auto &[champ, refus] :
              Rangees<const char *>{{"Prix, en euros", "Un prix de plus"}, {"Poids, en grammes", "0 g"}}) {
             const BancPersonnel cas;
-            cas.champ(champ)->setFocus();
+            cas.BancLivres::champ(champ)->setFocus();
             QVERIFY(Ecran::taper(cas.fenetre(), champ, "0"));
             cas.liste()->setFocus();
             QCOMPARE(cas.enregistres(), cas.donnees.livres);
