@@ -8,8 +8,9 @@ import time
 from pathlib import Path
 
 import clavier
-from arbre import annonce, application, attendre, cherche, exiger, fenetre, lisible, montre, nom, trouver
+from arbre import annonce, application, attendre, cadre, cherche, exiger, fenetre, lisible, montre, nom, trouver
 from clavier import foyer, taper
+from gestes import pointer
 from mains import ALaSouris, AuClavier
 from trois_commandes import fermer, preparer
 
@@ -65,7 +66,8 @@ class PasALaSouris(ALaSouris):
 
     def menu(self, quillet, _lettre, entree):
         self.cliquer(quillet, "menu item", "Quillet")
-        self.cliquer(quillet, "menu item", entree)
+        self.faits["clics"] += 1
+        pointer(attendre(lambda: place(trouver(quillet, "menu item", entree)), "le menu ne s’ouvre pas"), "1")
 
     def rubrique(self, quillet, voulue, _rang):
         self.cliquer(quillet, "list item", voulue)
@@ -75,6 +77,12 @@ class PasALaSouris(ALaSouris):
 
     def commander(self, quillet, titre):
         self.cliquer(quillet, "push button", titre)
+
+
+def place(noeud):
+    """Where it stands, once it does: a menu is a window of its own."""
+    ici = cadre(noeud)
+    return ici if ici.width > 0 and ici.x >= 0 and ici.y >= 0 else None
 
 
 def preparer_les_pas(binaire, dossier):
