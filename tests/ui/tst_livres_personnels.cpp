@@ -7,7 +7,6 @@
 #include <QClipboard>
 #include <QDropEvent>
 #include <QGuiApplication>
-#include <QImage>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QTimer>
@@ -262,7 +261,9 @@ private slots:
             const BancPersonnel cas;
             QDialog *feuille = cas.feuille(touches);
             const QString titre = feuille->windowTitle();
-            QGuiApplication::clipboard()->setImage(QImage(20, 30, QImage::Format_RGB32));
+            auto *image = new QMimeData;
+            image->setData("image/png", "image");
+            QGuiApplication::clipboard()->setMimeData(image);
             QVERIFY(Ecran::cliquer(feuille, "Coller l’image"));
             QVERIFY(Ecran::cliquer(feuille, geste));
             QVERIFY(feuille->isVisible() && feuille->windowTitle() == titre);
