@@ -75,6 +75,7 @@ void ChampDeFiche::montrer(const QString &valeur)
     if (valeur == valeur_)
         return;
     valeur_ = rendu_ = valeur;
+    aRedonner_ = false;
     if (valeur != texte()) {
         poser(valeur);
         if (ligne_ && !ligne_->hasFocus())
@@ -86,6 +87,7 @@ void ChampDeFiche::montrer(const QString &valeur)
 void ChampDeFiche::oublier()
 {
     rendu_ = valeur_;
+    aRedonner_ = false;
     poser(valeur_);
     objecter({});
 }
@@ -138,8 +140,9 @@ void ChampDeFiche::toutPrendre()
 void ChampDeFiche::conclure()
 {
     const QString texte = this->texte();
-    if (texte == rendu_)
+    if (texte == rendu_ && !aRedonner_)
         return;
+    aRedonner_ = false;
     rendu_ = texte;
     poser(texte);
     emit saisi(texte);
@@ -152,11 +155,12 @@ bool ChampDeFiche::eventFilter(QObject *objet, QEvent *evenement)
     return QWidget::eventFilter(objet, evenement);
 }
 
-// The sheet may close with the focus still in the field.
+// The sheet may close with the focus still in the field; what was refused there is not tried again as it goes.
 void ChampDeFiche::hideEvent(QHideEvent *evenement)
 {
     QWidget::hideEvent(evenement);
-    conclure();
+    if (texte() != rendu_)
+        conclure();
 }
 
 } // namespace Quillet

@@ -30,7 +30,7 @@ public:
     void objecter(const QString &phrase);
     [[nodiscard]] bool estRefuse() const { return !objection_.isEmpty(); }
     // What was handed over last was not kept: leaving the field hands it over again.
-    void reessayer() { rendu_ = valeur_; }
+    void reessayer() { aRedonner_ = true; }
     // What the field holds at this moment.
     [[nodiscard]] QString texte() const;
     // An example of what to type, as long as nothing is.
@@ -66,8 +66,9 @@ private:
     QBoxLayout *rangee_; // the field and its command
     Libelle *aide_;
     Alerte *alerte_;
-    QString valeur_; // as shown
-    QString rendu_;  // as last shown or handed over
+    QString valeur_;         // as shown
+    QString rendu_;          // as last shown or handed over
+    bool aRedonner_ = false; // though it is the same
     QString objection_;
     bool pose_ = false; // the text is being set by the program
 };
