@@ -100,11 +100,6 @@ void NumerotationFactures::reprendre(const QString &numero, Vendeur vendeur)
         preferences.ecrire(cle(vendeur), numero);
 }
 
-void NumerotationFactures::recommencer(const QString &dernier, Vendeur vendeur)
-{
-    preferences.ecrire(cle(vendeur), dernier);
-}
-
 bool NumerotationFactures::avance(const QString &numero, const QString &dernier)
 {
     const auto retenu = decomposer(numero);

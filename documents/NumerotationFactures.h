@@ -24,12 +24,9 @@ struct NumerotationFactures
     // Throws ErreurStockage when the preferences could not be read or written; the series is then where
     // it was.
     void retenir(const QString &numero, Vendeur vendeur);
-    // The series is another one, kept elsewhere: it goes on after this number, be it an older one. Throws as `retenir`.
+    // The series is another one, kept elsewhere: it goes on after this number, be it an older one, or begins when there
+    // is none. Throws as `retenir`.
     void reprendre(const QString &numero, Vendeur vendeur);
-
-    // The series of somebody else ends: this seller's goes on after `dernier`, or begins when it is empty. Throws as
-    // `retenir`.
-    void recommencer(const QString &dernier, Vendeur vendeur);
 
     // How a number stands to the series of a day; `aucun` for a text that `retenir` cannot understand.
     enum class Rapport { aucun, anterieur, dansLaSerie, posterieur };

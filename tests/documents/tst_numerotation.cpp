@@ -162,9 +162,9 @@ private slots:
         const Banc banc;
         NumerotationFactures numerotation{banc.preferences()};
         numerotation.retenir("2026-005", Vendeur::davrel);
-        numerotation.recommencer("", Vendeur::davrel);
+        numerotation.reprendre("", Vendeur::davrel);
         QCOMPARE(numerotation.prochain(Vendeur::davrel, jourDuBanc), "2026-001");
-        numerotation.recommencer("2026-003", Vendeur::davrel);
+        numerotation.reprendre("2026-003", Vendeur::davrel);
         QCOMPARE(numerotation.prochain(Vendeur::davrel, jourDuBanc), "2026-004");
     }
 
