@@ -1,48 +1,22 @@
 #include "echanges/LectureDeCouverture.h"
 
 #include "echanges/PreparationCouverture.h"
+#include "echanges/ProcessusBride.h"
 #include "model/Fichier.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 
-#include <sys/prctl.h>
-#include <sys/resource.h>
-
-#include <csignal>
 #include <cstdio>
 #include <utility>
-
-#ifdef __has_feature
-#if __has_feature(address_sanitizer)
-#define __SANITIZE_ADDRESS__ 1
-#endif
-#endif
 
 namespace Quillet {
 
 namespace {
 
-constexpr rlim_t secondesDeCalcul = 10; // the largest picture takes three
+constexpr int secondesDeCalcul = 10; // the largest picture takes three
 constexpr qsizetype reponseAuPlus = 8 << 20;
-constexpr int mortEnMillisecondes = 1000;
-
-// Run in the new process, before the program.
-void limiter()
-{
-    const auto borner = [](auto ressource, rlim_t borne) {
-        const rlimit limite{borne, borne};
-        setrlimit(ressource, &limite);
-    };
-    borner(RLIMIT_CPU, secondesDeCalcul);
-    borner(RLIMIT_CORE, 0);
-#ifndef __SANITIZE_ADDRESS__ // which reserves terabytes of addresses
-    borner(RLIMIT_AS, rlim_t{2} << 30);
-#endif
-    prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
-    prctl(PR_SET_PDEATHSIG, SIGKILL); // it does not outlive Quillet
-}
 
 QString tropCompliquee()
 {
@@ -103,8 +77,7 @@ void LectureDeCouverture::abandonner()
     if (!processus)
         return;
     processus->disconnect(this);
-    processus->kill();
-    processus->waitForFinished(mortEnMillisecondes);
+    ProcessusBride::achever(*processus);
 }
 
 void LectureDeCouverture::lireFichier(const QString &chemin)
@@ -122,8 +95,7 @@ void LectureDeCouverture::demander(const QString &source, const QByteArray &octe
     abandonner();
     recu_.clear();
     processus_ = std::make_unique<QProcess>();
-    processus_->setChildProcessModifier(limiter);
-    processus_->setStandardErrorFile(QProcess::nullDevice()); // decoders are talkative
+    ProcessusBride::preparer(*processus_, secondesDeCalcul);
     connect(processus_.get(), &QProcess::readyReadStandardOutput, this, &LectureDeCouverture::recevoir);
     // Queued: the process is not destroyed while its own signal is under way.
     connect(processus_.get(), &QProcess::finished, this, &LectureDeCouverture::conclure, Qt::QueuedConnection);

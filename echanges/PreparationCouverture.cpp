@@ -45,19 +45,13 @@ QString ecrit(qint64 nombre)
     return QLocale(QLocale::French).toString(nombre);
 }
 
-bool demesuree(QSize taille)
-{
-    return taille.width() > coteAuPlus || taille.height() > coteAuPlus
-           || qint64{taille.width()} * taille.height() > pointsAuPlus;
-}
-
 // `voulue`: how large it is read.
 void verifierLaTaille(QSize taille, QSize voulue, bool dessin)
 {
-    if (dessin && demesuree(voulue)) // it has no points of its own
+    if (dessin && PreparationCouverture::demesuree(voulue)) // it has no points of its own
         throw Echec(QStringLiteral("Ce dessin SVG est beaucoup trop long ou trop large pour une couverture, qui a deux "
                                    "parts de large pour trois de haut."));
-    if (!dessin && demesuree(taille))
+    if (!dessin && PreparationCouverture::demesuree(taille))
         throw Echec(QStringLiteral("Cette image est trop grande : %1 × %2 points. Quillet en prend %3 de côté au plus, "
                                    "et %4 millions en tout ; une largeur de %5 suffit à une couverture.")
                         .arg(ecrit(taille.width()), ecrit(taille.height()), ecrit(coteAuPlus),
@@ -123,6 +117,12 @@ bool transparait(const QImage &image)
 }
 
 } // namespace
+
+bool PreparationCouverture::demesuree(QSize taille)
+{
+    return taille.width() > coteAuPlus || taille.height() > coteAuPlus
+           || qint64{taille.width()} * taille.height() > pointsAuPlus;
+}
 
 QString PreparationCouverture::formatsPris()
 {

@@ -6,6 +6,8 @@ namespace Quillet::PreparationCouverture {
 
 // The formats that this system reads, in a sentence: "Quillet prend les images SVG, PNG et JPEG."
 QString formatsPris();
+// More points than are taken of anybody's picture.
+bool demesuree(QSize taille);
 
 // Turned upright, cropped about its middle, scaled down to the size of covers, packed anew. Throws Echec, whose
 // sentence says what is wrong with the picture and what is taken. Whoever made the picture may have wanted it to last

@@ -62,6 +62,12 @@ void exigerLaPlace(const QDir &utilisateur)
         throw ErreurStockage(propres.filePath(), QStringLiteral("l’accès n’est pas permis"));
 }
 
+bool memesOctets(const QString &un, const QString &autre)
+{
+    return QFileInfo(un).size() == QFileInfo(autre).size()
+           && Fichier::lire(un, Fichier::Borne::image) == Fichier::lire(autre, Fichier::Borne::image);
+}
+
 void exigerTout(const QDir &dossier, const QStringList &noms)
 {
     for (const QString &nom : noms)
@@ -98,19 +104,20 @@ RepriseInachevee::RepriseInachevee(const QString &raison)
 {
 }
 
-std::unique_ptr<Reprise> Reprise::preparer(const QString &archive, const Demeure &demeure, QDate aujourdhui)
+std::unique_ptr<Reprise> Reprise::preparer(const QString &archive, const Demeure &demeure, QDate aujourdhui,
+                                           const Controle &controler)
 {
     const auto ouvrir = [&](const QString &dossier) { return Archive::deballer(archive, dossier); };
-    return std::unique_ptr<Reprise>(new Reprise(demeure, aujourdhui, ouvrir));
+    return std::unique_ptr<Reprise>(new Reprise(demeure, aujourdhui, ouvrir, controler));
 }
 
 std::unique_ptr<Reprise> Reprise::regarder(const QString &archive, const Demeure &demeure, QDate aujourdhui)
 {
     const auto ouvrir = [&](const QString &dossier) { return Archive::entrouvrir(archive, dossier); };
-    return std::unique_ptr<Reprise>(new Reprise(demeure, aujourdhui, ouvrir));
+    return std::unique_ptr<Reprise>(new Reprise(demeure, aujourdhui, ouvrir, duProgramme));
 }
 
-Reprise::Reprise(const Demeure &demeure, QDate aujourdhui, const Ouverture &ouvrir)
+Reprise::Reprise(const Demeure &demeure, QDate aujourdhui, const Ouverture &ouvrir, const Controle &controler)
     : demeure_(demeure), dossier_(nouvellePartielle(demeure.utilisateur))
 {
     try {
@@ -119,6 +126,7 @@ Reprise::Reprise(const Demeure &demeure, QDate aujourdhui, const Ouverture &ouvr
         manifeste_ = contenu.manifeste;
         noms_ = contenu.noms;
         inconnus_ = contenu.inconnus;
+        laisserLesMauvaisesImages(controler);
         charger(aujourdhui);
     } catch (...) {
         oublier(dossier_.path());
@@ -129,6 +137,23 @@ Reprise::Reprise(const Demeure &demeure, QDate aujourdhui, const Ouverture &ouvr
 Reprise::~Reprise()
 {
     oublier(dossier_.path());
+}
+
+// Those in force already are shown as they are, and a copy that was made of them comes back whole.
+void Reprise::laisserLesMauvaisesImages(const Controle &controler)
+{
+    QStringList nouvelles;
+    for (const QString &nom : noms_)
+        if (nom.startsWith(PiecesDArchive::couvertures)
+            && !memesOctets(dossier_.filePath(nom),
+                            demeure_.donnees.chemin(nom.sliced(PiecesDArchive::propres.size()))))
+            nouvelles.append(dossier_.filePath(nom));
+    for (const QString &chemin : controler(nouvelles)) {
+        noms_.removeAll(dossier_.relativeFilePath(chemin));
+        inconnus_.append(
+            QStringLiteral("l’image « %1 », abîmée, démesurée ou incomplète").arg(QFileInfo(chemin).fileName()));
+        Disque::supprimer(chemin);
+    }
 }
 
 void Reprise::charger(QDate aujourdhui)

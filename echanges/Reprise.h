@@ -1,6 +1,7 @@
 #pragma once
 
 #include "echanges/Archive.h"
+#include "echanges/ControleDesCouvertures.h"
 #include "echanges/Demeure.h"
 #include "echanges/Manifeste.h"
 
@@ -25,8 +26,12 @@ public:
 class Reprise
 {
 public:
+    // Of these pictures, the ones that must not be shown; throws Echec.
+    using Controle = std::function<QStringList(const QStringList &chemins)>;
+    static QStringList duProgramme(const QStringList &chemins) { return ControleDesCouvertures::refusees(chemins); }
     // Throws Echec: what the archive is, or what its data have that keeps them from being loaded.
-    static std::unique_ptr<Reprise> preparer(const QString &archive, const Demeure &demeure, QDate aujourdhui);
+    static std::unique_ptr<Reprise> preparer(const QString &archive, const Demeure &demeure, QDate aujourdhui,
+                                             const Controle &controler = duProgramme);
     // The same without its pictures: to be looked at, not to be taken.
     static std::unique_ptr<Reprise> regarder(const QString &archive, const Demeure &demeure, QDate aujourdhui);
     ~Reprise();
@@ -57,7 +62,8 @@ public:
 
 private:
     using Ouverture = std::function<Archive::Contenu(const QString &dossier)>;
-    Reprise(const Demeure &demeure, QDate aujourdhui, const Ouverture &ouvrir);
+    Reprise(const Demeure &demeure, QDate aujourdhui, const Ouverture &ouvrir, const Controle &controler);
+    void laisserLesMauvaisesImages(const Controle &controler);
     void charger(QDate aujourdhui);
     void laisserOuPrendreLesModifications();
     void lireLesSeries();

@@ -1,6 +1,7 @@
 #include "ui/LigneDeCommande.h"
 
 #include "documents/NumerotationFactures.h"
+#include "echanges/ControleDesCouvertures.h"
 #include "echanges/LectureDeCouverture.h"
 #include "model/Couvertures.h"
 #include "model/Ressources.h"
@@ -87,6 +88,13 @@ Reponse couverture(const QString &source)
     return {reponse.code, QString::fromUtf8(reponse.texte)};
 }
 
+Reponse couvertures()
+{
+    const SansEcran programme;
+    ControleDesCouvertures::repondre();
+    return {0, {}};
+}
+
 // Of the folder named, or else of the one in force.
 Reponse controle(const QString &nomme)
 {
@@ -118,11 +126,12 @@ std::optional<Reponse> LigneDeCommande::repondre(const QStringList &arguments)
     const QCommandLineOption verifier(QStringLiteral("verifier"), QString(), QStringLiteral("DOSSIER"));
     const QCommandLineOption lireCouverture(LectureDeCouverture::option(), QString(),
                                             QStringLiteral("IMAGE")); // our own
+    const QCommandLineOption controlerCouvertures(ControleDesCouvertures::option());
     const QCommandLineOption version(QStringList{QStringLiteral("v"), QStringLiteral("version")});
     const QCommandLineOption aide(QStringList{QStringLiteral("h"), QStringLiteral("help")});
     QCommandLineParser analyseur;
     analyseur.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    analyseur.addOptions({verifier, lireCouverture, version, aide});
+    analyseur.addOptions({verifier, lireCouverture, controlerCouvertures, version, aide});
     accepterCellesDeQt(analyseur);
 
     const bool sansDossier = arguments.size() > 1 && arguments.last() == QLatin1String("--verifier");
@@ -135,6 +144,8 @@ std::optional<Reponse> LigneDeCommande::repondre(const QStringList &arguments)
         return Reponse{0, QStringLiteral("Quillet " QUILLET_VERSION "\n")};
     if (analyseur.isSet(lireCouverture))
         return couverture(analyseur.value(lireCouverture));
+    if (analyseur.isSet(controlerCouvertures))
+        return couvertures();
     if (sansDossier || analyseur.isSet(verifier))
         try {
             return controle(analyseur.value(verifier));

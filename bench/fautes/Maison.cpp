@@ -3,7 +3,6 @@
 #include "documents/NumerotationFactures.h"
 #include "echanges/Copies.h"
 #include "echanges/DepotCouvertures.h"
-#include "echanges/Reprise.h"
 #include "model/Couvertures.h"
 #include "tests/Banc.h"
 
@@ -22,7 +21,7 @@ QByteArray image(int rang, int livre)
 
 void importer(const Maison &maison, const QString &archive)
 {
-    const auto reprise = Reprise::preparer(archive, maison.demeure(), maintenant.date());
+    const auto reprise = maison.preparer(archive);
     reprise->prendre(reprise->series(), maintenant);
 }
 
@@ -79,6 +78,11 @@ std::unique_ptr<Catalogue> Maison::catalogue() const
 Demeure Maison::demeure() const
 {
     return Demeure::de(*catalogue(), preferences_);
+}
+
+std::unique_ptr<Reprise> Maison::preparer(const QString &archive) const
+{
+    return Reprise::preparer(archive, demeure(), maintenant.date(), [](const QStringList &) { return QStringList(); });
 }
 
 void Maison::demarrer() const

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "echanges/Demeure.h"
+#include "echanges/Reprise.h"
 
 #include <QByteArray>
 #include <QMap>
@@ -17,6 +17,8 @@ public:
     void installer(int rang) const;
     [[nodiscard]] Demeure demeure() const;
     [[nodiscard]] std::unique_ptr<Catalogue> catalogue() const;
+    // An archive unpacked here; its pictures, which are none, pass for good.
+    [[nodiscard]] std::unique_ptr<Reprise> preparer(const QString &archive) const;
 
     // What counts of it, by name: no copies, nothing unpacked, left by a kill, or pictured without a book that says so.
     [[nodiscard]] QMap<QString, QByteArray> etat() const;

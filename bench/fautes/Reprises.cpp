@@ -105,7 +105,7 @@ private:
         if (copies.isEmpty() && fin != Fin::refuse && fin != Fin::tue && geste_.laisseUneCopie)
             return QStringLiteral("fait, sans copie");
         for (const Copie &copie : copies) {
-            const auto reprise = Reprise::preparer(copie.chemin, maison.demeure(), QDate(2026, 3, 2));
+            const auto reprise = maison.preparer(copie.chemin);
             if (Json::encoder(reprise->donnees().livres) != avant_.value(QStringLiteral("donnees/livres.json"))
                 || !reprise->remarques().isEmpty() || reprise->series().isEmpty())
                 return QStringLiteral("la copie n’est pas entière");

@@ -1,3 +1,4 @@
+#include "echanges/ControleDesCouvertures.h"
 #include "echanges/DepotCouvertures.h"
 #include "echanges/LectureDeCouverture.h"
 #include "model/Fichier.h"
@@ -194,6 +195,41 @@ private slots:
     {
         const Suite suite = ::suite([](LectureDeCouverture &lecture) { lecture.lireOctets(bombe()); }, 2s);
         QVERIFY2(suite.refus.contains(QStringLiteral("trop compliquée")), qPrintable(suite.refus));
+    }
+
+    // Those of an archive: as they are, or not at all.
+    void toutesEnsemble()
+    {
+        const QByteArray png = encode(dessin({400, 600}), "PNG");
+        QStringList chemins;
+        const auto poser = [&](const QString &nom, const QByteArray &octets) {
+            Fichier::ecrire(chemins.emplaceBack(dossier_.filePath(nom)), octets);
+        };
+        const auto refusees = [&](std::chrono::milliseconds patience) {
+            return ControleDesCouvertures::refusees(chemins, programme(), patience);
+        };
+        poser(QStringLiteral("a\nété.png"), png);
+        poser(QStringLiteral("a.bmp"), encode(dessin({400, 600}), "BMP"));
+        poser(QStringLiteral("a.jpg"), encode(dessin({840, 1260}), "JPG"));
+        poser(QStringLiteral("a.svg"), svg("<rect width=\"200\" height=\"300\"/>"));
+        poser(QStringLiteral("autre-nom.jpg"), png); // as it is shown
+        QCOMPARE(refusees(30s), QStringList());
+        poser(QStringLiteral("texte.png"), "Le Phare de sel");
+        poser(QStringLiteral("coupe.jpg"), encode(dessin({1200, 1800}), "JPG").first(9000));
+        poser(QStringLiteral("demesuree.png"), pngAnnonce(30'000, 30'000));
+        poser(QStringLiteral("longue.png"), encode(dessin({1, 2000}), "PNG"));
+        poser(QStringLiteral("d-ailleurs.svg"), svg("<image xlink:href=\"/etc/hostname\"/>"));
+        QCOMPARE(refusees(30s), chemins.sliced(5));
+        poser(QStringLiteral("bombe.svg"), bombe());
+        try {
+            refusees(4s);
+            QFAIL("bombe prise");
+        } catch (const Echec &erreur) {
+            QCOMPARE(lisible(erreur.texte()), QStringLiteral("Cette archive ne peut pas être reprise : l’image « "
+                                                             "bombe.svg » prendrait trop de temps ou de mémoire."));
+        }
+        for (const char *autre : {"/absent", "/bin/true"})
+            QVERIFY_THROWS_EXCEPTION(Echec, ControleDesCouvertures::refusees(chemins, QString::fromLatin1(autre)));
     }
 
     void deCeQuiNEstPasUnFichier()

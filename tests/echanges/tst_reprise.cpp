@@ -23,6 +23,13 @@ QString erreurDe(const std::function<void()> &geste)
     return {};
 }
 
+// The bench's pictures are a few letters: any but these are let through.
+std::unique_ptr<Reprise> preparer(const QString &archive, const Demeure &demeure, const QString &mauvaises = "rien")
+{
+    return Reprise::preparer(archive, demeure, jourDuBanc,
+                             [&](const QStringList &chemins) { return chemins.filter(QRegularExpression(mauvaises)); });
+}
+
 // Another seller's home, with what the first one must have after an import.
 struct Autre : BancPropre
 {
@@ -57,7 +64,7 @@ private slots:
         banc.ecrireUtilisateur("donnees/notes.txt", "à moi");
         banc.ecrireUtilisateur("tarifs-colissimo-2026-06-01.json", Json::encoder(desTarifs("2026-06-01", Centimes{1})));
         const auto avant = banc.fichiers();
-        const auto reprise = Reprise::preparer(archive, banc.demeure(), jourDuBanc);
+        const auto reprise = preparer(archive, banc.demeure());
         QCOMPARE(reprise->donnees().livres, autre.livres);
         QCOMPARE(reprise->series().value(Vendeur::davrel), "2026-004");
         reprise->prendre(reprise->series(), maintenant);
@@ -72,7 +79,7 @@ private slots:
 
         const QList<Copie> copies = Copies(banc.demeure()).liste(); // the former state
         QCOMPARE(copies.size(), 1);
-        Reprise::preparer(copies[0].chemin, banc.demeure(), jourDuBanc)->prendre({}, maintenant);
+        preparer(copies[0].chemin, banc.demeure())->prendre({}, maintenant);
         voulus = avant;
         for (const QString nom : {"Quillet.ini", "frais-paypal.json", "tarifs-colissimo-2027-01-01.json"})
             voulus[nom] = siens[nom];
@@ -92,7 +99,7 @@ private slots:
             BancPropre banc;
             if (propres)
                 banc.installer();
-            const auto reprise = Reprise::preparer(archive, banc.demeure(), jourDuBanc);
+            const auto reprise = preparer(archive, banc.demeure());
             QVERIFY(!reprise->aDesDonneesPropres());
             reprise->prendre({}, maintenant);
             QCOMPARE(banc.ouvrir()->donnees().livres[0].prix, propres ? Centimes{1500} : Centimes{4200});
@@ -105,11 +112,11 @@ private slots:
         const BancPropre neuf;
         neuf.ecrireUtilisateur("notes.txt", "à moi");
         const QString vide = neuf.exporter();
-        const auto reprise = Reprise::preparer(vide, poste, jourDuBanc);
+        const auto reprise = preparer(vide, poste);
         QCOMPARE(reprise->donnees().livres[0].prix, Centimes{4200});
         reprise->prendre({}, maintenant);
         QCOMPARE(exemple.ouvrir()->donnees().livres[0].prix, Centimes{4200});
-        Reprise::preparer(vide, exemple.demeure(), jourDuBanc)->prendre({}, maintenant);
+        preparer(vide, exemple.demeure())->prendre({}, maintenant);
         QVERIFY(!exemple.fichiers().contains("livres-modifies.json")); // the example as it is shipped
     }
 
@@ -133,10 +140,31 @@ private slots:
             const BancPropre banc;
             banc.installer();
             const auto avant = banc.fichiers();
-            const QString dit = erreurDe([&] { Reprise::preparer(archive, banc.demeure(), jourDuBanc); });
+            const QString dit = erreurDe([&] { preparer(archive, banc.demeure()); });
             QVERIFY2(dit.contains(phrase), qPrintable(dit));
             QCOMPARE(banc.fichiers(), avant);
         }
+    }
+
+    // What is in force here already has been shown, good or bad.
+    void laisseLesMauvaisesImages()
+    {
+        const Autre autre;
+        const QString archive = autre.exporter();
+        const BancPropre banc;
+        banc.installer({{"phare.png", "un"}, {"marees.svg", "<svg/>"}});
+        const auto reprise = preparer(archive, banc.demeure(), "phare.png|marees.svg");
+        QCOMPARE(reprise->inconnus(), QStringList("l’image « phare.png », abîmée, démesurée ou incomplète"));
+        QVERIFY(reprise->remarques().join(' ').contains("pas d’image « phare » dans couvertures"));
+        reprise->prendre({}, maintenant);
+        QCOMPARE(QDir(banc.cheminUtilisateur("donnees/couvertures")).entryList(QDir::Files), QStringList("marees.svg"));
+        const QString sienne = Copies(banc.demeure()).liste()[0].chemin;
+        QVERIFY_THROWS_EXCEPTION(Echec,
+                                 Reprise::preparer(sienne, banc.demeure(), jourDuBanc, [](const QStringList &chemins) {
+                                     throw Echec(chemins.join(' '));
+                                     return chemins;
+                                 }));
+        QCOMPARE(QDir(banc.cheminUtilisateur()).entryList({"reprise*"}), QStringList());
     }
 
     // A number that is none would start the series again.
@@ -149,9 +177,9 @@ private slots:
                 piece.octets = R"({"davrel":"abc","mireva":"2026-002","autre":"2026-001"})";
         Archive::ecrire(autre.exporter(), bagage);
         const BancPropre banc;
-        const auto reprise = Reprise::preparer(autre.exporter("x.zip"), banc.demeure(), jourDuBanc);
+        const auto reprise = preparer(autre.exporter("x.zip"), banc.demeure());
         QCOMPARE(reprise->series().size(), 1);
-        const auto douteuse = Reprise::preparer(autre.cheminUtilisateur("../export.zip"), banc.demeure(), jourDuBanc);
+        const auto douteuse = preparer(autre.cheminUtilisateur("../export.zip"), banc.demeure());
         QCOMPARE(douteuse->series(), (SeriesFactures{{Vendeur::mireva, "2026-002"}}));
         QCOMPARE(douteuse->inconnus().size(), 2);
     }
@@ -165,22 +193,22 @@ private slots:
         const auto avant = banc.fichiers();
         const QDir dossier(banc.cheminUtilisateur());
         {
-            const auto une = Reprise::preparer(autre.exporter(), banc.demeure(), jourDuBanc);
-            const auto deux = Reprise::preparer(laSienne, banc.demeure(), jourDuBanc);
+            const auto une = preparer(autre.exporter(), banc.demeure());
+            const auto deux = preparer(laSienne, banc.demeure());
             une->prendre({}, maintenant);
             QCOMPARE(banc.ouvrir()->donnees().livres, autre.livres);
             deux->prendre({}, maintenant);
             QCOMPARE(banc.ouvrir()->donnees().livres, banc.livres);
             QCOMPARE(banc.fichiers().value("donnees/livres.json"), avant.value("donnees/livres.json"));
 
-            const auto trouee = Reprise::preparer(autre.exporter(), banc.demeure(), jourDuBanc);
+            const auto trouee = preparer(autre.exporter(), banc.demeure());
             const QString restes = dossier.entryList({"reprise.partielle.*"}, QDir::Dirs).value(0);
             QVERIFY(QFile::remove(dossier.filePath(restes + "/donnees/couvertures/marees.svg")));
             QVERIFY(erreurDe([&] { trouee->prendre({}, maintenant); }).contains("marees.svg : fichier introuvable"));
             QCOMPARE(banc.ouvrir()->donnees().livres, banc.livres);
 
             banc.ecrireUtilisateur("reprise/liste.json", "[]"); // one that has begun is never said not to have
-            const auto bloquee = Reprise::preparer(laSienne, banc.demeure(), jourDuBanc);
+            const auto bloquee = preparer(laSienne, banc.demeure());
             QVERIFY_THROWS_EXCEPTION(RepriseInachevee, bloquee->prendre({}, maintenant));
             QDir(dossier.filePath("reprise")).removeRecursively();
         }
@@ -203,7 +231,7 @@ private slots:
             const auto avant = banc.fichiers();
             const QString dit = erreurDe([&] {
                 const DisquePlein plein(octets);
-                const auto reprise = Reprise::preparer(archive, demeure, jourDuBanc);
+                const auto reprise = preparer(archive, demeure);
                 reprise->prendre(reprise->series(), maintenant);
             });
             entier = dit.isEmpty();
@@ -227,7 +255,7 @@ private slots:
         const Copies copies(banc.demeure());
         QVERIFY(erreurDe([&] { copies.duJour(jourDuBanc); }).contains("scan.png : l’image est trop lourde"));
         QCOMPARE(copies.liste().size(), 1); // better than none
-        const auto reprise = Reprise::preparer(Autre().exporter(), banc.demeure(), jourDuBanc);
+        const auto reprise = preparer(Autre().exporter(), banc.demeure());
         const QString dit = erreurDe([&] { reprise->prendre({}, maintenant); });
         QVERIFY2(dit.contains("scan.png : l’image est trop lourde"), qPrintable(dit));
         QVERIFY(lourde.exists());
@@ -239,7 +267,7 @@ private slots:
     {
         const Autre autre;
         const BancPropre banc;
-        const auto reprise = Reprise::preparer(autre.exporter(), banc.demeure(), jourDuBanc);
+        const auto reprise = preparer(autre.exporter(), banc.demeure());
         reprise->prendre(reprise->series(), maintenant, [&](const std::function<void()> &travail) {
             travail();
             QVERIFY(!QFile::exists(banc.preferences().fichier()));
@@ -259,7 +287,7 @@ private slots:
         Demeure demeure = autre.demeure();
         demeure.utilisateur = QDir(banc.cheminUtilisateur());
         demeure.preferences = banc.preferences();
-        const auto reprise = Reprise::preparer(autre.exporter(), demeure, jourDuBanc);
+        const auto reprise = preparer(autre.exporter(), demeure);
         QVERIFY(erreurDe([&] { reprise->prendre({}, maintenant); }).contains("introuvable")); // its disk is away
         QVERIFY(QDir(synchronise.path()).mkdir("donnees"));
         reprise->prendre({}, maintenant);
@@ -302,7 +330,7 @@ private slots:
         QCOMPARE(copies.size(), 20);
         QCOMPARE(copies[0].moment.date(), jourDuBanc.addDays(22));
         QCOMPARE(std::ranges::count(copies, true, &Copie::avantReprise), 10);
-        const auto reprise = Reprise::preparer(copies[1].chemin, banc.demeure(), jourDuBanc);
+        const auto reprise = preparer(copies[1].chemin, banc.demeure());
         reprise->prendre({}, maintenant);
         QCOMPARE(banc.ouvrir()->donnees().livres[0].prix, Centimes{1010});
     }
