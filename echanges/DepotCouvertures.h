@@ -10,9 +10,10 @@
 // that whatever names one finds it again.
 namespace Quillet::Couvertures {
 
-// The file's name, for the book's `couverture`: its title and eight figures of its bytes.
+// The file's name, for the book's `couverture`, in an empty folder: its title and eight figures of its bytes.
 QString nomDuDepot(const QString &titre, const CouverturePrete &couverture);
-// Writes it under that name, which it gives. The same picture is written once. Returns once the disk has taken it;
+// Writes it under that name, or one with more figures when another picture has it, and gives the name. The same picture
+// is written once. Returns once the disk has taken it;
 // throws ErreurStockage.
 QString deposer(const QDir &dossier, const QString &titre, const CouverturePrete &couverture);
 

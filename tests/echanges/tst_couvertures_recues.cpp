@@ -290,6 +290,14 @@ private slots:
         const QString second = Couvertures::deposer(couvertures, QStringLiteral("Été d’or"), autre);
         QVERIFY(second != nom && second.endsWith(QStringLiteral(".png")));
 
+        const CouverturePrete cousine{"cousine", QStringLiteral("jpg"), {1, 2, 3}};
+        const QString prise = Couvertures::nomDuDepot(QStringLiteral("Été d’or"), cousine);
+        Fichier::ecrire(couvertures.filePath(prise), "à quelqu’un");
+        const QString longue = Couvertures::deposer(couvertures, QStringLiteral("Été d’or"), cousine);
+        QCOMPARE(longue.size(), prise.size() + 8);
+        QCOMPARE(Fichier::lire(couvertures.filePath(longue), 100), cousine.octets);
+        QCOMPARE(Couvertures::deposer(couvertures, QStringLiteral("Été d’or"), cousine), longue);
+
         Livre livre = unLivre(1, Vendeur::davrel, Centimes{1000}, {});
         livre.couverture = nom;
         for (const char *etranger : {"photo.jpg", "photo-52597892.jpg", "photo-00000000.png"})
@@ -300,7 +308,7 @@ private slots:
         QVERIFY(couvertures.exists(second)); // its book may be on its way
         Couvertures::elaguer(couvertures, {livre}, jour.addDays(32));
         QCOMPARE(couvertures.entryList(QDir::Files).join(u' '),
-                 nom + QStringLiteral(" photo-00000000.png photo-52597892.jpg photo.jpg"));
+                 nom + u' ' + prise + QStringLiteral(" photo-00000000.png photo-52597892.jpg photo.jpg"));
     }
 
 private:
