@@ -2,11 +2,24 @@
 
 namespace Quillet {
 
+namespace {
+
+// Whose name is not known: the example's is nobody's in the sellers' own data.
+QString place(Vendeur vendeur, const Donnees &donnees)
+{
+    return donnees.personnelles ? QStringLiteral("Vendeur %1").arg(static_cast<int>(vendeur) + 1)
+                                : traits(vendeur).nom.toString();
+}
+
+} // namespace
+
 QString NomsVendeurs::court(Vendeur vendeur, const Donnees &donnees)
 {
-    const QString place = traits(vendeur).nom.toString();
     const auto identite = donnees.reglages.identite(vendeur);
-    return identite ? identite->nomCourt.value_or(donnees.personnelles ? identite->nom : place) : place;
+    if (identite && identite->nomCourt)
+        return *identite->nomCourt;
+    return identite && donnees.personnelles && !identite->nom.trimmed().isEmpty() ? identite->nom
+                                                                                  : place(vendeur, donnees);
 }
 
 QString NomsVendeurs::livresDeChacun(const Donnees &donnees)
@@ -20,7 +33,7 @@ QString NomsVendeurs::livresDeChacun(const Donnees &donnees)
 QString NomsVendeurs::complet(Vendeur vendeur, const Donnees &donnees)
 {
     const auto identite = donnees.reglages.identite(vendeur);
-    return identite ? identite->nom : court(vendeur, donnees);
+    return identite && !identite->nom.trimmed().isEmpty() ? identite->nom : court(vendeur, donnees);
 }
 
 QString NomsVendeurs::site(Vendeur vendeur, const Donnees &donnees)

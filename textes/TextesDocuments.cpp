@@ -142,8 +142,7 @@ QList<Rubrique> TextesDocuments::declaration(const Calcul &calcul, const Reglage
     for (const ArticleDouane &declare : articlesDouane(calcul, reglages.douane.codeSH))
         rubriques.append(article(++numero, declare, codeALArrivee));
     if (const auto vendeur = vendeurUnique(calcul, reglages))
-        if (const Rubrique rubrique = expediteur(*vendeur); !rubrique.champs.isEmpty())
-            rubriques.append(rubrique);
+        rubriques.append(expediteur(*vendeur));
     return rubriques;
 }
 
@@ -156,7 +155,7 @@ std::optional<TextesDocuments::Obstacle> TextesDocuments::obstacleALaFacture(con
                         donnees.vendeurs().size() > 1
                             ? QStringLiteral("Une facture par vendeur : séparez %1 en deux commandes.")
                                   .arg(NomsVendeurs::livresDeChacun(donnees))
-                            : QStringLiteral("La commande n’a pas encore de livre.")};
+                            : sansLivre()};
     if (const QString manque = sansIdentite(calcul, donnees); !manque.isEmpty())
         return Obstacle{QStringLiteral("person.2"), impossible, manque};
     if (!calcul.envoi)
@@ -166,10 +165,15 @@ std::optional<TextesDocuments::Obstacle> TextesDocuments::obstacleALaFacture(con
     return std::nullopt;
 }
 
+QString TextesDocuments::sansLivre()
+{
+    return QStringLiteral("La commande n’a pas encore de livre.");
+}
+
 QString TextesDocuments::sansIdentite(const Calcul &calcul, const Donnees &donnees)
 {
     for (const Vendeur vendeur : calcul.vendeurs())
-        if (!donnees.reglages.identite(vendeur))
+        if (!identiteEntiere(vendeur, donnees.reglages))
             return QStringLiteral("Le nom et l’adresse de %1 manquent dans les réglages.")
                 .arg(NomsVendeurs::court(vendeur, donnees));
     return {};

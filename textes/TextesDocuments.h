@@ -48,6 +48,8 @@ struct Obstacle
 
 // None when the invoice can be made.
 std::optional<Obstacle> obstacleALaFacture(const Calcul &calcul, const Donnees &donnees);
+// That there is nothing to write of.
+QString sansLivre();
 // That the settings lack the seller's identity; empty when they do not.
 QString sansIdentite(const Calcul &calcul, const Donnees &donnees);
 // What is odd about a number; empty when it carries the day's series on.

@@ -3,14 +3,17 @@
 #include "documents/AdresseMail.h"
 #include "model/LienPaypal.h"
 #include "textes/NomsVendeurs.h"
+#include "textes/TextesDocuments.h"
 
 namespace Quillet {
 
-QString TextesReponse::impossible(const Donnees &donnees)
+QString TextesReponse::impossible(const Calcul &calcul, const Donnees &donnees)
 {
+    if (donnees.personnelles && calcul.vendeurs().size() == 1)
+        return TextesDocuments::sansIdentite(calcul, donnees);
     return donnees.vendeurs().size() > 1
                ? QStringLiteral("Une réponse par vendeur : séparez %1.").arg(NomsVendeurs::livresDeChacun(donnees))
-               : QStringLiteral("La commande n’a pas encore de livre.");
+               : TextesDocuments::sansLivre();
 }
 
 QString TextesReponse::lienAbsent(const ReponseType &reponse)

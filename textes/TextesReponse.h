@@ -6,8 +6,8 @@
 // What the reply's screen says beside the message: texts only, laid out by the widgets.
 namespace Quillet::TextesReponse {
 
-// Why no reply can be written: not for one seller alone.
-QString impossible(const Donnees &donnees);
+// Why no reply can be written: not for one seller alone, or for one whose name is not known.
+QString impossible(const Calcul &calcul, const Donnees &donnees);
 // That the link is still to be pasted; empty once it is.
 QString lienAbsent(const ReponseType &reponse);
 // That the link pasted may not be the one that the buyer pays by; empty when it looks right, or when there is none.

@@ -1,6 +1,7 @@
 #include "textes/TextesReprise.h"
 
 #include "model/Format.h"
+#include "textes/NomsVendeurs.h"
 
 #include <QHash>
 
@@ -146,8 +147,7 @@ QString TextesReprise::origine(const Manifeste &manifeste, const Donnees &donnee
 
 QString TextesReprise::serie(const Comparaison::Serie &serie, const Donnees &la)
 {
-    const auto identite = la.reglages.identite(serie.vendeur);
-    return identite ? identite->nom : traits(serie.vendeur).nom.toString();
+    return NomsVendeurs::complet(serie.vendeur, la);
 }
 
 QString TextesReprise::passage(const Comparaison::Serie &serie)

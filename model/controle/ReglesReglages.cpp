@@ -80,7 +80,9 @@ bool estUnNomDeSite(const QString &site)
     return QUrl(QStringLiteral("https://") + site, QUrl::StrictMode).host() == site.toLower() && site.contains(u'.');
 }
 
-void vendeur(const IdentiteVendeur &identite, const Lieu &lieu)
+} // namespace
+
+void Regles::vendeur(const IdentiteVendeur &identite, const Lieu &lieu)
 {
     if (identite.adresse.isEmpty())
         lieu.noter("adresse", QStringLiteral("adresse à remplir"));
@@ -94,8 +96,6 @@ void vendeur(const IdentiteVendeur &identite, const Lieu &lieu)
         lieu.noter("eori",
                    QStringLiteral("numéro EORI attendu : deux lettres, puis quinze chiffres au plus, sans espace"));
 }
-
-} // namespace
 
 void Regles::frais(const FraisPaypal &frais, const Lieu &lieu)
 {

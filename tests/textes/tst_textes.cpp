@@ -5,6 +5,7 @@
 #include "textes/TextesDocuments.h"
 #include "textes/TextesLivres.h"
 #include "textes/TextesReponse.h"
+#include "textes/TextesReprise.h"
 #include "textes/TextesRetour.h"
 #include "textes/TextesTarifs.h"
 #include "textes/TextesVerifications.h"
@@ -82,13 +83,13 @@ private slots:
                   nullptr,
                   true,
                   {"Éditions Davrel", "davrel.example", "vendu par Éditions Davrel",
-                   "Une réponse par vendeur : séparez les livres de Éditions Davrel et ceux de Mireva."}},
+                   "Une réponse par vendeur : séparez les livres de Éditions Davrel et ceux de Vendeur 2."}},
                  {"nom court",
                   true,
                   "Anne",
                   true,
                   {"Anne", "davrel.example", "vendu par Anne",
-                   "Une réponse par vendeur : séparez les livres de Anne et ceux de Mireva."}},
+                   "Une réponse par vendeur : séparez les livres de Anne et ceux de Vendeur 2."}},
                  {"un seul",
                   true,
                   "Anne",
@@ -110,7 +111,20 @@ private slots:
             const Livre &livre = donnees.livres[0];
             QVERIFY(TextesLivres::enMots(livre, vendu).contains("200 pages" + suite + ", 200"));
             QCOMPARE(TextesLivres::origine(livre, donnees), vendu.isEmpty() ? "Une autrice" : "Une autrice · " + vendu);
-            QCOMPARE(lisible(TextesReponse::impossible(donnees)), attendu.obstacle);
+            QCOMPARE(lisible(TextesReponse::impossible(Calcul(), donnees)), attendu.obstacle);
+            for (const bool efface : {false, true}) {
+                if (efface)
+                    donnees.reglages.vendeurs[Vendeur::davrel].nom.clear();
+                else
+                    donnees.reglages.vendeurs.remove(Vendeur::davrel);
+                BonDeCommande bon;
+                bon.ajuster(donnees.livres[0], 1);
+                const Calcul calcul = Calcul::de(donnees, bon, jourDuBanc);
+                const char *manque = "Le nom et l’adresse de Vendeur 1 manquent dans les réglages.";
+                QCOMPARE(lisible(TextesReponse::impossible(calcul, donnees)), personnelles ? manque : separez);
+                QCOMPARE(TextesReprise::serie({.vendeur = Vendeur::davrel}, donnees),
+                         personnelles ? "Vendeur 1" : "Davrel");
+            }
         }
     }
 
@@ -235,15 +249,13 @@ private slots:
     {
         const char *toujours = "Nature de l’envoi|Frais de port|Poids brut du colis (kg)|Valeur totale|Description|"
                                "Poids net unitaire (kg)|Valeur unitaire|Pays d’origine|N° tarifaire (SH)";
-        for (const auto &[nom, eori, codes, adresse, titres] :
-             Rangees<bool, QMap<CodeDestination, QString>, bool, QString>{
-                 {"rien de plus", false, {}, true, "%1|Adresse|"},
+        for (const auto &[nom, eori, codes, titres] : Rangees<bool, QMap<CodeDestination, QString>, QString>{
+                 {"rien de plus", false, {}, "%1|Adresse|"},
                  {"tout",
                   true,
                   {{vers("suisse"), "4901990000"}},
-                  true,
                   "%1|N° tarifaire à l’arrivée=4901990000|Adresse||N° EORI=FR1"},
-                 {"sans adresse", true, {{vers("lune"), "4901990000"}}, false, "%1|N° EORI=FR1"},
+                 {"le code d’ailleurs", true, {{vers("lune"), "4901990000"}}, "%1|Adresse||N° EORI=FR1"},
              }) {
             const Rangee rangee(nom);
             Cas cas;
@@ -253,8 +265,6 @@ private slots:
             IdentiteVendeur &vendeur = cas.banc.reglages.vendeurs[Vendeur::davrel];
             if (eori)
                 vendeur.eori = "FR1";
-            if (!adresse)
-                vendeur.adresse.clear();
             QStringList lus;
             for (const auto &rubrique : TextesDocuments::declaration(cas.calcul(), cas.banc.reglages))
                 for (const auto &champ : rubrique.champs) {

@@ -56,11 +56,11 @@ VueReponse::VueReponse(const Contexte &contexte, QWidget *parent)
       lienAbsent_(new Alerte(QStringLiteral("link"), {}, Alerte::Ton::note)),
       apercu_(new ApercuMessage),
       envoyer_(new QPushButton(Icone::icone(QStringLiteral("envelope")), QStringLiteral("Ouvrir dans Mail"))),
+      impossible_(new EtatVide),
       pages_(new QStackedWidget)
 {
     pages_->addWidget(Pile::enRangee({.espace = 0}, {saisie(), filet(Qt::Vertical), {message(), 1}}));
-    pages_->addWidget(new EtatVide(QStringLiteral("person.2"), QStringLiteral("Réponse impossible"),
-                                   TextesReponse::impossible(contexte.donnees())));
+    pages_->addWidget(impossible_);
     meubler(langue_, pages_);
     envoyer_->setDefault(true); // only now does it have a sheet to be the default of
 
@@ -122,8 +122,11 @@ void VueReponse::actualiser()
     const Page page = message ? Page::reponse : Page::impossible;
     if (pages_->currentIndex() != static_cast<int>(page))
         passerA(page);
-    if (!message)
+    if (!message) {
+        impossible_->montrer(QStringLiteral("person.2"), QStringLiteral("Réponse impossible"),
+                             TextesReponse::impossible(contexte_.calcul(), contexte_.donnees()));
         return;
+    }
     langue_->montrer(message->langue);
     exemple_->montrer(TextesExemple::surLaReponse(contexte_.catalogue.ressources().origine()));
     lienAbsent_->montrer(TextesReponse::lienAbsent(*message));

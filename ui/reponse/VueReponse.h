@@ -13,6 +13,7 @@ namespace Quillet {
 class Alerte;
 class ApercuMessage;
 class ChoixLangue;
+class EtatVide;
 struct Contexte;
 struct ReponseType;
 
@@ -48,6 +49,7 @@ private:
     Alerte *lienAbsent_;
     ApercuMessage *apercu_;
     QPushButton *envoyer_;
+    EtatVide *impossible_;
     QStackedWidget *pages_;
 };
 
