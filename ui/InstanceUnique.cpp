@@ -12,6 +12,7 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -36,6 +37,15 @@ QByteArray jetonPlausible(const QByteArray &ligne)
     const QByteArray jeton = ligne.trimmed();
     const bool imprimable = std::all_of(jeton.begin(), jeton.end(), [](char c) { return c >= ' ' && c <= '~'; });
     return imprimable && jeton.size() < plusLongAppel ? jeton : QByteArray();
+}
+
+using EtatSysteme = struct stat;
+
+bool memeDossier(int un, int autre)
+{
+    EtatSysteme ici{};
+    EtatSysteme la{};
+    return fstat(un, &ici) == 0 && fstat(autre, &la) == 0 && ici.st_dev == la.st_dev && ici.st_ino == la.st_ino;
 }
 
 } // namespace
@@ -73,7 +83,14 @@ bool InstanceUnique::prendreLaPlace(const QByteArray &jeton)
         if (!prise())
             return false;
     }
-    verrouillerLesDonnees();
+    // Sessions of one account do not share their runtime folder, but do share the data; other accounts may share the
+    // sellers' own.
+    commun_.mkpath(QStringLiteral("."));
+    if (!verrouiller(commun_.path()) || !verrouiller(Stockage::dans(commun_).donneesPersonnelles().path())) {
+        verrou_.unlock();
+        throw Echec(QStringLiteral("Quillet est déjà ouvert sur les mêmes données, sans doute dans une autre "
+                                   "session.\nFermez-le là-bas, puis recommencez."));
+    }
     QLocalServer::removeServer(adresse_); // left by a program that was killed
     serveur_.setSocketOptions(QLocalServer::UserAccessOption);
     if (!serveur_.listen(adresse_))
@@ -102,28 +119,26 @@ bool InstanceUnique::appelerLaPremiere(const QByteArray &jeton) const
     return false;
 }
 
-// Sessions of one account do not share their runtime folder, but do share the data; other accounts may share the
-// sellers' own.
-void InstanceUnique::verrouillerLesDonnees()
+// Another's by now: its changes are noticed as any other program's.
+void InstanceUnique::suivreLesDonnees()
 {
-    commun_.mkpath(QStringLiteral("."));
-    verrouiller(commun_.path());
-    verrouiller(Stockage::dans(commun_).donneesPersonnelles().path());
+    static_cast<void>(verrouiller(Stockage::dans(commun_).donneesPersonnelles().path()));
 }
 
 // The lock goes with the program, however it ends, and leaves no file. A folder that is not there, or a disk that knows
 // no such lock, must not keep the seller from working.
-void InstanceUnique::verrouiller(const QString &dossier)
+bool InstanceUnique::verrouiller(const QString &dossier)
 {
     const int verrou = open(QFile::encodeName(dossier).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (verrou < 0)
-        return;
-    verrousDesDonnees_.append(verrou);
-    if (flock(verrou, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
-        verrou_.unlock();
-        throw Echec(QStringLiteral("Quillet est déjà ouvert sur les mêmes données, sans doute dans une autre "
-                                   "session.\nFermez-le là-bas, puis recommencez."));
-    }
+        return true;
+    const bool tenu = std::ranges::any_of(verrousDesDonnees_, [&](int autre) { return memeDossier(autre, verrou); });
+    const bool pris = !tenu && flock(verrou, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    if (tenu || pris)
+        close(verrou);
+    else
+        verrousDesDonnees_.append(verrou);
+    return !pris;
 }
 
 // A call is one short line. Whoever sends anything else, or nothing, is not listened to for long.

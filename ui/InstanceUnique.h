@@ -26,13 +26,15 @@ public:
     // allows a window to come forward (empty when there is none). Throws Echec when it cannot be reached.
     [[nodiscard]] bool prendreLaPlace(const QByteArray &jeton);
 
+    // The sellers' own folder may have come, or be another one, since.
+    void suivreLesDonnees();
+
 signals:
     void appelee(const QByteArray &jeton);
 
 private:
     [[nodiscard]] bool appelerLaPremiere(const QByteArray &jeton) const;
-    void verrouillerLesDonnees();
-    void verrouiller(const QString &dossier);
+    [[nodiscard]] bool verrouiller(const QString &dossier);
     void ecouter(QLocalSocket *appel);
 
     QDir commun_;

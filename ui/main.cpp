@@ -51,6 +51,7 @@ int ouvrir(Bureau &bureau, const QByteArray &jeton)
             Ressources::enVigueur(donnees.donneesPersonnelles()), donnees, preferences,
             [] { return QDate::currentDate(); }, PagesSurveillees(), sourceDesMisesAJour());
         QObject::connect(&instance, &InstanceUnique::appelee, &quillet.fenetre(), &Fenetre::ramener);
+        QObject::connect(&quillet.catalogue(), &Catalogue::recharge, &instance, &InstanceUnique::suivreLesDonnees);
         bureau.relever(); // most often it has answered by now: the first image is right at once
         quillet.fenetre().show();
         return QApplication::exec();

@@ -1,5 +1,6 @@
 #include "documents/NumerotationFactures.h"
 #include "echanges/Copies.h"
+#include "echanges/Reprise.h"
 #include "tests/BancEcran.h"
 #include "textes/TextesReprise.h"
 
@@ -7,6 +8,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QSignalSpy>
+#include <QTimer>
 
 using namespace Quillet;
 
@@ -119,6 +121,40 @@ private slots:
         maison.choisir(revenir);
         QVERIFY(Ecran::montre(Dialogues::devant(), "2 mars 2026"));
         QVERIFY(Ecran::montre(Dialogues::devant(), "Comme maintenant"));
+    }
+
+    void pasDeCopiePendantLaLecture()
+    {
+        Maison maison;
+        maison.demarrer();
+        QTRY_COMPARE(maison.copies().liste().size(), 1);
+        const QString archive = maison.copies().liste()[0].chemin;
+        const auto changer = [&](Centimes prix) {
+            Livre livre = maison.donnees.livres[0];
+            livre.prix = prix;
+            maison.app->catalogue().modifier({livre});
+        };
+        changer(Centimes{4100});
+        QTimer guet;
+        connect(&guet, &QTimer::timeout, this, [&] {
+            const auto enAttente = [](const QWidget *fenetre) {
+                return fenetre->isVisible() && fenetre->testAttribute(Qt::WA_DontShowOnScreen);
+            };
+            if (std::ranges::none_of(QApplication::topLevelWidgets(), enAttente))
+                return;
+            maison.jour = maison.jour.addDays(1);
+            guet.stop();
+            maison.app->contexte().jour.regarder();
+        });
+        guet.start();
+        QCOMPARE(maison.choisirUnFichier(importer, archive), "");
+        QVERIFY(!guet.isActive());
+        changer(Centimes{4200});
+        Dialogues::devant()->reject();
+        QTRY_COMPARE(maison.copies().liste().size(), 2);
+        const auto demeure = Demeure::de(maison.app->catalogue(), maison.donnees.preferences());
+        const auto copie = Reprise::regarder(maison.copies().liste()[0].chemin, demeure, maison.jour);
+        QCOMPARE(copie->donnees().livres[0].prix, Centimes{4200});
     }
 
     void copieManquee()

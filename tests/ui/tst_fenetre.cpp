@@ -264,17 +264,24 @@ private slots:
     // Two homes whose own data are one folder, as two accounts may share it.
     void memesDonneesParUnLien()
     {
-        const QTemporaryDir commun;
-        for (const char *maison : {"a", "b"}) {
-            QVERIFY(QDir(commun.path()).mkpath(QStringLiteral("%1/Quillet").arg(maison)));
-            QVERIFY(QFile::link(commun.path(), commun.filePath(QStringLiteral("%1/Quillet/donnees").arg(maison))));
+        for (const bool enCoursDeSession : {false, true}) {
+            const QTemporaryDir commun;
+            const auto lier = [&](const QString &maison) {
+                return QDir(commun.path()).mkpath(maison + "/Quillet")
+                       && QFile::link(commun.path(), commun.filePath(maison + "/Quillet/donnees"));
+            };
+            QVERIFY(lier("b"));
+            InstanceUnique premiere(commun.filePath("a"));
+            if (enCoursDeSession)
+                QVERIFY(premiere.prendreLaPlace({}) && lier("a"));
+            else
+                QVERIFY(lier("a") && premiere.prendreLaPlace({}));
+            premiere.suivreLesDonnees();
+            const QTemporaryDir autreSession;
+            qputenv("XDG_RUNTIME_DIR", autreSession.path().toUtf8());
+            QVERIFY_THROWS_EXCEPTION(Echec, (void)InstanceUnique(commun.filePath("b")).prendreLaPlace({}));
+            qputenv("XDG_RUNTIME_DIR", session_.path().toUtf8());
         }
-        InstanceUnique premiere(commun.filePath("a"));
-        QVERIFY(premiere.prendreLaPlace({}));
-        const QTemporaryDir autreSession;
-        qputenv("XDG_RUNTIME_DIR", autreSession.path().toUtf8());
-        QVERIFY_THROWS_EXCEPTION(Echec, (void)InstanceUnique(commun.filePath("b")).prendreLaPlace({}));
-        qputenv("XDG_RUNTIME_DIR", session_.path().toUtf8());
     }
 
     // The order in progress stays, but for what is not sold any more.

@@ -19,7 +19,6 @@
 
 #include <chrono>
 #include <memory>
-#include <utility>
 
 using namespace std::chrono_literals;
 
@@ -120,18 +119,18 @@ void Echanges::importer()
     QFileDialog *choix = dialogue(QStringLiteral("Importer"), contexte_, fenetre_);
     choix->setFileMode(QFileDialog::ExistingFile);
     connect(choix, &QFileDialog::fileSelected, this, [this](const QString &archive) {
-        attendreLaCopie();
-        retenir(montrer(contexte_, archive, QStringLiteral("Importer"), fenetre_));
+        sansCopie([&] { return montrer(contexte_, archive, QStringLiteral("Importer"), fenetre_); });
     });
     choix->open();
 }
 
 void Echanges::revenirAUneCopie()
 {
-    attendreLaCopie();
-    auto *feuille = new FeuilleCopies(contexte_, echec_, fenetre_);
-    feuille->ouvrir();
-    retenir(feuille);
+    sansCopie([this] {
+        auto *feuille = new FeuilleCopies(contexte_, echec_, fenetre_);
+        feuille->ouvrir();
+        return feuille;
+    });
 }
 
 void Echanges::attendreLaCopie()
@@ -142,16 +141,20 @@ void Echanges::attendreLaCopie()
     echec_ = copie_.get();
 }
 
-void Echanges::retenir(QDialog *feuille)
+// Reading what the sheet shows may last until another day.
+void Echanges::sansCopie(const std::function<QDialog *()> &ouvrir)
 {
-    if (!feuille)
-        return;
-    feuille_ = feuille;
-    connect(feuille, &QDialog::finished, this, [this] {
-        feuille_ = nullptr;
-        if (std::exchange(aFaire_, false))
+    const auto reprendre = [this] {
+        occupe_ = false;
+        if (aFaire_)
             garder();
-    });
+    };
+    occupe_ = true;
+    attendreLaCopie();
+    if (QDialog *feuille = ouvrir())
+        connect(feuille, &QDialog::finished, this, reprendre);
+    else
+        reprendre();
 }
 
 QDialog *Echanges::montrer(const Contexte &contexte, const QString &archive, const QString &geste, QWidget *parent)
@@ -180,8 +183,8 @@ void Echanges::garderChaqueJour()
 // Unsaid when it fails, but in the sheet of the copies: who is at work is not to be held up by it.
 void Echanges::garder()
 {
-    aFaire_ = feuille_;
-    if (fil_ || feuille_)
+    aFaire_ = fil_ || occupe_;
+    if (aFaire_)
         return;
     const auto echec = std::make_shared<std::promise<QString>>();
     copie_ = echec->get_future().share();
@@ -199,6 +202,8 @@ void Echanges::garder()
         fil_ = nullptr;
         echec_ = copie_.get();
         emit copieFaite();
+        if (aFaire_)
+            garder();
     });
     fil_->start(QThread::LowPriority);
 }

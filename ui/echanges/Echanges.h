@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QObject>
-#include <QPointer>
 #include <QString>
 
+#include <functional>
 #include <future>
 
 class QDialog;
@@ -48,14 +48,14 @@ private:
     void enregistrer(const QString &chemin);
     void garder();
     void attendreLaCopie();
-    void retenir(QDialog *feuille);
+    void sansCopie(const std::function<QDialog *()> &ouvrir);
 
     const Contexte &contexte_;
     QWidget *fenetre_;
     QThread *fil_ = nullptr;            // while a copy is being made
     std::shared_future<QString> copie_; // its failure, once it is made
-    QPointer<QDialog> feuille_;         // while it is open, no copy starts: both would touch the copies
-    bool aFaire_ = false;
+    bool occupe_ = false;               // a sheet that may touch the copies is there, or on its way: none starts
+    bool aFaire_ = false;               // one, afterwards
     QString echec_;
 };
 
