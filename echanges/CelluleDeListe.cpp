@@ -5,7 +5,7 @@
 
 #include <QStringList>
 
-#include <variant>
+#include <initializer_list>
 
 namespace Quillet {
 
@@ -69,41 +69,27 @@ QString lireVendeur(const QString &texte, const Reglages &reglages, Livre &livre
     return QStringLiteral("« %1 » n’est pas un vendeur : %2 attendu.").arg(texte, noms.join(QStringLiteral(" ou ")));
 }
 
-template <typename T>
-QString prendre(const Saisie::Lecture<T> &lecture, T &valeur)
-{
-    if (const auto *refus = std::get_if<Saisie::Refus>(&lecture))
-        return refus->raison;
-    valeur = std::get<T>(lecture);
-    return {};
-}
-
 QString lirePrix(QString texte, Livre &livre)
 {
     for (const auto *devise : {"EUR", "€"})
         texte.remove(QString::fromUtf8(devise), Qt::CaseInsensitive);
-    return prendre(Saisie::prix(texte), livre.prix);
+    return Saisie::prendre(Saisie::prix(texte), livre.prix);
 }
 
-QString lirePoids(QString texte, Livre &livre)
+// What a number is of: "212 pages".
+QString sansUnite(QString texte, std::initializer_list<const char *> unites)
 {
-    for (const auto *unite : {"grammes", "gramme", "gr."})
+    for (const auto *unite : unites)
         if (texte.endsWith(QLatin1String(unite), Qt::CaseInsensitive))
             texte.chop(QLatin1String(unite).size());
-    return prendre(Saisie::poids(texte), livre.poids);
+    return texte;
 }
 
-// A whole number, maybe of something: "212 pages".
-QString lireNombre(QString texte, const QStringList &unites, qint64 &nombre)
+QString lireNumero(const QString &texte, qint64 &numero)
 {
-    const QString dit = texte;
-    for (const QString &unite : unites)
-        if (texte.endsWith(unite, Qt::CaseInsensitive))
-            texte.chop(unite.size());
-    texte.removeIf([](QChar signe) { return signe.isSpace(); });
-    if (texte.isEmpty() || !queDesChiffres(texte) || texte.size() > chiffresAuPlus)
-        return QStringLiteral("« %1 » n’est pas un nombre entier.").arg(dit);
-    nombre = texte.toLongLong();
+    if (!queDesChiffres(texte) || texte.size() > chiffresAuPlus)
+        return QStringLiteral("« %1 » n’est pas un nombre entier.").arg(texte);
+    numero = texte.toLongLong();
     return {};
 }
 
@@ -115,15 +101,6 @@ QString lireDisponible(const QString &texte, Livre &livre)
     if (!oui.contains(dit) && !non.contains(dit))
         return QStringLiteral("« %1 » n’est ni oui ni non.").arg(texte);
     livre.disponible = oui.contains(dit);
-    return {};
-}
-
-QString lireLien(const QString &texte, Livre &livre)
-{
-    const QUrl lien = QUrl::fromEncoded(QUrl(texte).toEncoded());
-    if (!lien.isValid() || lien.scheme().isEmpty() || lien.host().isEmpty())
-        return QStringLiteral("« %1 » n’est pas une adresse web complète.").arg(texte);
-    livre.lienPaypal = lien;
     return {};
 }
 
@@ -177,7 +154,7 @@ QString CelluleDeListe::lire(const QString &cellule, ColonneDeListe colonne, con
         return {}; // as it was written: what a cell cannot hold, as a line break, stays
     switch (colonne) {
     case ColonneDeListe::id:
-        return lireNombre(texte, {}, livre.id);
+        return lireNumero(texte, livre.id);
     case ColonneDeListe::titre:
         return lireTexte(texte, livre.titre);
     case ColonneDeListe::titreComplet:
@@ -189,11 +166,11 @@ QString CelluleDeListe::lire(const QString &cellule, ColonneDeListe colonne, con
     case ColonneDeListe::prix:
         return lirePrix(texte, livre);
     case ColonneDeListe::poids:
-        return lirePoids(texte, livre);
+        return Saisie::prendre(Saisie::poids(sansUnite(texte, {"grammes", "gramme", "gr."})), livre.poids);
     case ColonneDeListe::isbn:
         return lireTexte(texte, livre.isbn);
     case ColonneDeListe::pages:
-        return lireNombre(texte, {QStringLiteral("pages"), QStringLiteral("p."), QStringLiteral("p")}, livre.pages);
+        return Saisie::prendre(Saisie::pages(sansUnite(texte, {"pages", "p.", "p"})), livre.pages);
     case ColonneDeListe::format:
         return lireTexte(texte, livre.format);
     case ColonneDeListe::langue:
@@ -201,7 +178,7 @@ QString CelluleDeListe::lire(const QString &cellule, ColonneDeListe colonne, con
     case ColonneDeListe::disponible:
         return lireDisponible(texte, livre);
     case ColonneDeListe::lienPaypal:
-        return lireLien(texte, livre);
+        return Saisie::prendre(Saisie::adresse(texte), livre.lienPaypal);
     }
     return {};
 }

@@ -2,6 +2,7 @@
 
 #include "model/CauseSysteme.h"
 #include "model/Fichier.h"
+#include "model/Synchronisation.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -53,10 +54,9 @@ void Disque::synchroniser(const QString &chemin)
     const int fd = open(QFile::encodeName(chemin).constData(), O_RDONLY | O_CLOEXEC);
     if (fd < 0)
         throw erreur(chemin, errno);
-    const int code = fsync(fd) == 0 ? 0 : errno;
+    const int code = erreurDeSynchronisation(fsync(fd));
     close(fd);
-    // Some file systems know no such request.
-    if (code != 0 && code != EINVAL && code != ENOSYS && code != ENOTTY && code != EOPNOTSUPP)
+    if (code != 0)
         throw erreur(chemin, code);
 }
 

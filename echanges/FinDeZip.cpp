@@ -1,11 +1,9 @@
 #include "echanges/FinDeZip.h"
 
-#include "echanges/PiecesDArchive.h"
 #include "model/CauseSysteme.h"
 #include "model/Fichier.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QtEndian>
 
 namespace Quillet {
@@ -19,13 +17,6 @@ constexpr qsizetype placeDeLaListe = 12;   // where the record says how many byt
 constexpr qsizetype longueurDuRenvoi = 20; // of what stands before it and points to a second one, of a giant
 const QByteArray signature = QByteArrayLiteral("PK\x05\x06");
 const QByteArray geant = QByteArrayLiteral("PK\x06\x07");
-// More than the longest names that one meets.
-constexpr qint64 listeMaximale = PiecesDArchive::nombre * 500;
-
-[[noreturn]] void refuser(const QString &raison)
-{
-    throw Echec(QStringLiteral("Cette archive ne peut pas être reprise : %1.").arg(raison));
-}
 
 QByteArray fin(const QString &chemin)
 {
@@ -38,21 +29,16 @@ QByteArray fin(const QString &chemin)
 
 } // namespace
 
-void FinDeZip::verifier(const QString &chemin)
+bool FinDeZip::annonceTrop(const QString &chemin)
 {
-    if (const QFileInfo info(chemin); info.exists() && !info.isFile()) // a pipe could be waited for without end
-        refuser(QStringLiteral("ce n’est pas un fichier ordinaire"));
-    if (Fichier::excede(chemin, PiecesDArchive::total + listeMaximale))
-        refuser(QStringLiteral("elle est trop grosse"));
     const QByteArray octets = fin(chemin);
-    qsizetype place = octets.indexOf(signature);
-    if (place < 0)
-        refuser(QStringLiteral("ce n’est pas une archive zip, ou elle est incomplète"));
-    for (; place >= 0 && place + longueur <= octets.size(); place = octets.indexOf(signature, place + 1)) {
+    for (qsizetype place = octets.indexOf(signature); place >= 0 && place + longueur <= octets.size();
+         place = octets.indexOf(signature, place + 1)) {
         const auto liste = qFromLittleEndian<quint32>(octets.constData() + place + placeDeLaListe);
         if (liste > listeMaximale || octets.first(place).last(qMin(place, longueurDuRenvoi)).startsWith(geant))
-            refuser(QStringLiteral("elle contient trop de fichiers"));
+            return true;
     }
+    return false;
 }
 
 } // namespace Quillet

@@ -1,4 +1,5 @@
 #include "echanges/Archive.h"
+#include "echanges/ArchiveRefusee.h"
 #include "echanges/Disque.h"
 #include "echanges/ErreurZip.h"
 #include "echanges/FinDeZip.h"
@@ -20,11 +21,6 @@ namespace {
 
 constexpr zip_uint32_t sortes = 0170000;
 constexpr zip_uint32_t sorteFichier = 0100000;
-
-Echec refus(const QString &raison)
-{
-    return Echec(QStringLiteral("Cette archive ne peut pas être reprise : %1.").arg(raison));
-}
 
 // A name as the user is shown it.
 QString cite(const QString &nom)
@@ -49,19 +45,25 @@ class Lecture
 public:
     explicit Lecture(const QString &chemin, qint64 total = PiecesDArchive::total) : reste_(total)
     {
-        FinDeZip::verifier(chemin);
+        if (const QFileInfo info(chemin); info.exists() && !info.isFile()) // a pipe could be waited for without end
+            throw ArchiveRefusee(QStringLiteral("ce n’est pas un fichier ordinaire"));
+        if (Fichier::excede(chemin, PiecesDArchive::total + FinDeZip::listeMaximale))
+            throw ArchiveRefusee(QStringLiteral("elle est trop grosse"));
+        const ArchiveRefusee nombreuse(QStringLiteral("elle contient trop de fichiers"));
+        if (FinDeZip::annonceTrop(chemin))
+            throw nombreuse;
         int code = 0;
         archive_.reset(zip_open(QFile::encodeName(chemin).constData(), ZIP_RDONLY, &code));
         if (!archive_)
-            throw refus(Zip::enFrancais(Zip::Erreur(code).ici()));
+            throw ArchiveRefusee(Zip::enFrancais(Zip::Erreur(code).ici()));
         const zip_int64_t nombre = zip_get_num_entries(archive_.get(), 0);
         if (nombre > PiecesDArchive::nombre)
-            throw refus(QStringLiteral("elle contient trop de fichiers"));
+            throw nombreuse;
         QSet<QString> noms;
         for (zip_uint64_t rang = 0; rang < static_cast<zip_uint64_t>(nombre); ++rang) {
             const QString nom = nomDe(rang);
             if (noms.contains(nom))
-                throw refus(QStringLiteral("elle contient deux fois %1").arg(cite(nom)));
+                throw ArchiveRefusee(QStringLiteral("elle contient deux fois %1").arg(cite(nom)));
             noms.insert(nom);
             exigerUnFichier(rang, nom);
             if (!nom.endsWith(u'/')) // a folder, which some programs list beside what it holds
@@ -79,7 +81,7 @@ public:
                 lire(entete, Fichier::Borne::preferences, [&](QByteArrayView morceau) { octets.append(morceau); });
                 return decoder(octets);
             }
-        throw refus(QStringLiteral("elle n’a pas été faite par Quillet"));
+        throw ArchiveRefusee(QStringLiteral("elle n’a pas été faite par Quillet"));
     }
 
     // Bounds what is really there, whatever the archive announces.
@@ -87,21 +89,21 @@ public:
     {
         const Zip::Entree entree(zip_fopen_index(archive_.get(), entete.rang, 0));
         if (!entree)
-            throw refus(Zip::enFrancais(zip_get_error(archive_.get())));
+            throw ArchiveRefusee(Zip::enFrancais(zip_get_error(archive_.get())));
         std::array<char, 65536> tampon{};
         qint64 lus = 0;
         while (true) {
             const zip_int64_t morceau = zip_fread(entree.get(), tampon.data(), tampon.size());
             if (morceau < 0)
-                throw refus(Zip::enFrancais(zip_file_get_error(entree.get())));
+                throw ArchiveRefusee(Zip::enFrancais(zip_file_get_error(entree.get())));
             if (morceau == 0)
                 return;
             lus += morceau;
             reste_ -= morceau;
             if (lus > borne)
-                throw refus(QStringLiteral("%1 est trop gros").arg(cite(entete.nom)));
+                throw ArchiveRefusee(QStringLiteral("%1 est trop gros").arg(cite(entete.nom)));
             if (reste_ < 0)
-                throw refus(QStringLiteral("ce qu’elle contient est trop gros"));
+                throw ArchiveRefusee(QStringLiteral("ce qu’elle contient est trop gros"));
             prendre({tampon.data(), static_cast<qsizetype>(morceau)});
         }
     }
@@ -112,23 +114,18 @@ private:
         const char *brut = zip_get_name(archive_.get(), rang, 0);
         const QString nom = QString::fromUtf8(brut ? brut : "");
         if (nom.isEmpty() || nom.contains(QChar::ReplacementCharacter) || PiecesDArchive::sEchappe(nom))
-            throw refus(QStringLiteral("un de ses fichiers, %1, se placerait ailleurs").arg(cite(nom)));
+            throw ArchiveRefusee(QStringLiteral("un de ses fichiers, %1, se placerait ailleurs").arg(cite(nom)));
         return nom;
     }
 
     void exigerUnFichier(zip_uint64_t rang, const QString &nom)
     {
-        zip_stat_t etat{};
-        if (zip_stat_index(archive_.get(), rang, 0, &etat) != 0)
-            throw refus(Zip::enFrancais(zip_get_error(archive_.get())));
-        if ((etat.valid & ZIP_STAT_ENCRYPTION_METHOD) && etat.encryption_method != ZIP_EM_NONE)
-            throw refus(QStringLiteral("elle est protégée par un mot de passe"));
         zip_uint8_t systeme = 0;
         zip_uint32_t attributs = 0;
         zip_file_get_external_attributes(archive_.get(), rang, 0, &systeme, &attributs);
         const zip_uint32_t sorte = systeme == ZIP_OPSYS_UNIX ? (attributs >> 16U) & sortes : 0;
         if (sorte != 0 && sorte != sorteFichier && !nom.endsWith(u'/'))
-            throw refus(QStringLiteral("%1 n’est pas un fichier ordinaire").arg(cite(nom)));
+            throw ArchiveRefusee(QStringLiteral("%1 n’est pas un fichier ordinaire").arg(cite(nom)));
     }
 
     [[nodiscard]] static Manifeste decoder(const QByteArray &octets)
@@ -139,10 +136,10 @@ private:
             qint64 format = 0;
             Json::lire(objet.value(QStringLiteral("format")), Json::Lieu(lieu, QStringLiteral("format")), format);
             if (format > Manifeste::formatConnu)
-                throw refus(QStringLiteral("elle vient d’une version plus récente de Quillet"));
+                throw ArchiveRefusee(QStringLiteral("elle vient d’une version plus récente de Quillet"));
             return Json::decoder<Manifeste>(octets, PiecesDArchive::manifeste);
         } catch (const Json::Erreur &erreur) {
-            throw refus(erreur.texte());
+            throw ArchiveRefusee(erreur.texte());
         }
     }
 

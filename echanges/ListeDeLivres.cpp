@@ -4,6 +4,7 @@
 #include "echanges/RapprochementDeListe.h"
 #include "echanges/TableCsv.h"
 #include "model/Echec.h"
+#include "model/EditionLivres.h"
 #include "model/controle/Objections.h"
 
 #include <algorithm>
@@ -14,8 +15,6 @@ namespace Quillet {
 namespace {
 
 using Sort = RangeeDeListe::Sort;
-
-const QList<qint64> teinteSansImage{112, 104, 96};
 
 QString nomDe(const QString &champ)
 {
@@ -97,10 +96,7 @@ private:
     [[nodiscard]] Livre neuf() const
     {
         const QList<Vendeur> vendeurs = donnees_.vendeurs();
-        return {.vendeur = vendeurs.isEmpty() ? Vendeur::davrel : vendeurs.first(),
-                .langue = QStringLiteral("Français"),
-                .disponible = true,
-                .teinte = teinteSansImage};
+        return EditionLivres::nouveau({}, vendeurs.isEmpty() ? Vendeur::davrel : vendeurs.first());
     }
 
     void lireCellule(const QString &cellule, qsizetype place, RangeeDeListe &rangee) const

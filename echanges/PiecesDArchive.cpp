@@ -2,6 +2,7 @@
 
 #include "model/Couvertures.h"
 #include "model/Fichier.h"
+#include "model/SigneDeCommande.h"
 #include "model/Stockage.h"
 
 #include <QFileInfo>
@@ -17,11 +18,6 @@ bool estDesDonnees(const QString &fichier)
     const QStringList noms{QStringLiteral("livres.json"), QStringLiteral("reglages.json"),
                            QStringLiteral("destinations.json"), QStringLiteral("pays.json")};
     return noms.contains(fichier) || PiecesDArchive::estUnTarif(fichier);
-}
-
-bool estUnSigneDeCommande(QChar signe)
-{
-    return signe.category() == QChar::Other_Control;
 }
 
 } // namespace

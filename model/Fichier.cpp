@@ -1,6 +1,7 @@
 #include "model/Fichier.h"
 
 #include "model/CauseSysteme.h"
+#include "model/Synchronisation.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -24,15 +25,6 @@ using EtatSysteme = struct stat;
 QString raisonSysteme(int erreur)
 {
     return CauseSysteme::enFrancais(std::error_code(erreur, std::generic_category()));
-}
-
-// Of an answer to a request to have the disk take something: the error's number, 0 for none; a file system that knows
-// no such request is none.
-int erreurDeSynchronisation(int reponse)
-{
-    const bool inconnue =
-        reponse != 0 && (errno == EINVAL || errno == ENOSYS || errno == ENOTTY || errno == EOPNOTSUPP);
-    return reponse == 0 || inconnue ? 0 : errno;
 }
 
 class Descripteur

@@ -1,5 +1,7 @@
 #include "model/Preferences.h"
 
+#include "model/SigneDeCommande.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QMap>
@@ -20,11 +22,6 @@ const QString entete = QStringLiteral("[General]");
 const QString cleDuNombre = QStringLiteral("textes");
 // Names the copy of a file that was damaged, for as long as texts are missed.
 const QString cleDeLaCopie = QStringLiteral("illisible");
-
-bool estUnSigneDeCommande(QChar signe)
-{
-    return signe.category() == QChar::Other_Control;
-}
 
 struct Lues
 {

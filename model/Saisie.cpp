@@ -4,11 +4,11 @@
 #include "model/ChiffresAscii.h"
 #include "model/Format.h"
 
+#include <limits>
+
 namespace Quillet {
 
 namespace {
-
-constexpr int pagesAuPlus = 99'999;
 
 QString sansEspaces(QString texte)
 {
@@ -75,9 +75,8 @@ Saisie::Lecture<qint64> Saisie::pages(const QString &texte)
     if (!queDesChiffres(saisi))
         return Refus{QStringLiteral("Un nombre de pages s’écrit en chiffres, comme 288.")};
     bool tient = false;
-    if (const int pages = saisi.toInt(&tient); tient && pages <= pagesAuPlus)
-        return pages;
-    return Refus{QStringLiteral("Un nombre de pages va jusqu’à %1.").arg(pagesAuPlus)};
+    const qint64 pages = saisi.toLongLong(&tient);
+    return tient ? pages : std::numeric_limits<qint64>::max();
 }
 
 Saisie::Lecture<std::optional<QUrl>> Saisie::adresse(const QString &texte)

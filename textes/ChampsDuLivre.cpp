@@ -19,15 +19,6 @@ QString prendreTexte(const QString &texte, Livre &livre)
     return {};
 }
 
-template <typename T>
-QString prendreLu(const Saisie::Lecture<T> &lecture, T &valeur)
-{
-    if (const auto *refus = std::get_if<Saisie::Refus>(&lecture))
-        return refus->raison;
-    valeur = std::get<T>(lecture);
-    return {};
-}
-
 // A full title that says no more goes with the title.
 QString prendreTitre(const QString &texte, Livre &livre)
 {
@@ -75,16 +66,16 @@ QList<ChampDuLivre> ChampDuLivre::tous()
          ecritTexte<&Livre::auteur>,
          prendreTexte<&Livre::auteur>},
         {QStringLiteral("prix"), QStringLiteral("Prix"), QStringLiteral("€"), QStringLiteral("18,50"), ecritPrix,
-         [](const QString &texte, Livre &livre) { return prendreLu(Saisie::prix(texte), livre.prix); }},
+         [](const QString &texte, Livre &livre) { return Saisie::prendre(Saisie::prix(texte), livre.prix); }},
         {QStringLiteral("poids"), QStringLiteral("Poids"), QStringLiteral("g"), QStringLiteral("à peser"),
          [](const Livre &livre) { return Saisie::ecrit(livre.poids); },
-         [](const QString &texte, Livre &livre) { return prendreLu(Saisie::poids(texte), livre.poids); }},
+         [](const QString &texte, Livre &livre) { return Saisie::prendre(Saisie::poids(texte), livre.poids); }},
         {QStringLiteral("pages"),
          QStringLiteral("Pages"),
          {},
          QStringLiteral("288"),
          ecritPages,
-         [](const QString &texte, Livre &livre) { return prendreLu(Saisie::pages(texte), livre.pages); }},
+         [](const QString &texte, Livre &livre) { return Saisie::prendre(Saisie::pages(texte), livre.pages); }},
         {QStringLiteral("format"),
          QStringLiteral("Format"),
          {},
@@ -108,7 +99,7 @@ QList<ChampDuLivre> ChampDuLivre::tous()
          {},
          QStringLiteral("s’il en a un"),
          [](const Livre &livre) { return livre.lienPaypal ? livre.lienPaypal->toString() : QString(); },
-         [](const QString &texte, Livre &livre) { return prendreLu(Saisie::adresse(texte), livre.lienPaypal); }},
+         [](const QString &texte, Livre &livre) { return Saisie::prendre(Saisie::adresse(texte), livre.lienPaypal); }},
     };
 }
 

@@ -13,6 +13,8 @@ namespace {
 using Json::Lieu;
 using Regles::Reperes;
 
+constexpr qint64 pagesAuPlus = 99'999;
+
 void couverture(const QString &couverture, const Reperes &reperes, const Lieu &lieu)
 {
     if (couverture.isEmpty())
@@ -69,8 +71,8 @@ void Regles::livre(const Livre &livre, const Reperes &reperes, const Lieu &lieu)
         lieu.noter("poids", QStringLiteral("0 g : à ne pas dire tant que le livre n’est pas pesé"));
     if (!livre.isbn.isEmpty() && !NumeroDeControle::isbn(livre.isbn))
         lieu.noter("isbn", QStringLiteral("« %1 » n’est pas un ISBN : un chiffre manque ou est faux").arg(livre.isbn));
-    if (livre.pages <= 0)
-        lieu.noter("pages", QStringLiteral("au moins une page attendue"));
+    if (livre.pages < 1 || livre.pages > pagesAuPlus)
+        lieu.noter("pages", QStringLiteral("une page au moins, %1 au plus").arg(pagesAuPlus));
     couverture(livre.couverture, reperes, Lieu(lieu, QStringLiteral("couverture")));
     teinte(livre.teinte, Lieu(lieu, QStringLiteral("teinte")));
     if (livre.prix == Centimes{})
