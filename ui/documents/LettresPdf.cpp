@@ -2,6 +2,7 @@
 
 #include "model/Echec.h"
 
+#include <QCryptographicHash>
 #include <QGlyphRun>
 #include <QHash>
 #include <QRawFont>
@@ -91,6 +92,18 @@ QByteArray corrigee(const QByteArray &table, const Lettres &autres)
     return (sortie + texte.mid(lu)).toLatin1();
 }
 
+// "QCBAAA+Inter-Bold", whose six letters say that only a part of the typeface is there. Qt numbers them as a hash is
+// walked, which is another way each time that the program runs.
+QPDFObjectHandle nomStable(const std::string &police)
+{
+    const std::string nom = police.substr(police.rfind('+') + 1);
+    const QByteArray empreinte = QCryptographicHash::hash(nom, QCryptographicHash::Sha256);
+    std::string marque = "/";
+    for (int i = 0; i < 6; ++i)
+        marque += static_cast<char>('A' + static_cast<uchar>(empreinte[i]) % 26);
+    return QPDFObjectHandle::newName(marque + '+' + nom);
+}
+
 } // namespace
 
 QByteArray LettresPdf::retablir(const QByteArray &document, const QString &ecrit, const QFont &police)
@@ -100,7 +113,11 @@ QByteArray LettresPdf::retablir(const QByteArray &document, const QString &ecrit
         QPDF pdf;
         pdf.processMemoryFile("", document.constData(), static_cast<size_t>(document.size()));
         for (QPDFObjectHandle objet : pdf.getAllObjects()) {
-            if (!objet.isDictionary() || !objet.getKey("/ToUnicode").isStream())
+            if (!objet.isDictionary())
+                continue;
+            if (objet.hasKey("/FontName") && objet.getKey("/FontName").getName().find('+') != std::string::npos)
+                objet.replaceKey("/FontName", nomStable(objet.getKey("/FontName").getName()));
+            if (!objet.getKey("/ToUnicode").isStream())
                 continue;
             QPDFObjectHandle table = objet.getKey("/ToUnicode");
             const auto lu = table.getStreamData();

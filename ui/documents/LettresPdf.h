@@ -9,7 +9,8 @@
 // one.
 namespace Quillet::LettresPdf {
 
-// The same document, whose glyphs stand for the characters of `ecrit`: all that it shows, drawn in `police`.
+// The same document, whose glyphs stand for the characters of `ecrit`: all that it shows, drawn in `police`; the same
+// bytes each time, but for the dates.
 // Throws Echec when the document cannot be read.
 QByteArray retablir(const QByteArray &document, const QString &ecrit, const QFont &police);
 
