@@ -25,9 +25,9 @@ def exiger(vrai, quoi):
         raise Echec(quoi)
 
 
-def attendre(lire, quoi):
+def attendre(lire, quoi, patience=PATIENCE):
     """What `lire` gives, once it gives something."""
-    limite = time.monotonic() + PATIENCE
+    limite = time.monotonic() + patience
     while True:
         try:
             lu = lire()
@@ -40,18 +40,19 @@ def attendre(lire, quoi):
         time.sleep(0.05)
 
 
+def ouverte(nom):
+    """The program of that name in the tree; None once it has left."""
+    bureau = Atspi.get_desktop(0)
+    for i in range(bureau.get_child_count()):
+        programme = bureau.get_child_at_index(i)
+        if programme and programme.get_name() == nom and programme.get_child_count():
+            return programme
+    return None
+
+
 def application(nom):
     """The root of the program's tree."""
-    bureau = Atspi.get_desktop(0)
-
-    def chercher():
-        for i in range(bureau.get_child_count()):
-            programme = bureau.get_child_at_index(i)
-            if programme and programme.get_name() == nom and programme.get_child_count():
-                return programme
-        return None
-
-    racine = attendre(chercher, f"{nom} n’est pas dans l’arbre")
+    racine = attendre(lambda: ouverte(nom), f"{nom} n’est pas dans l’arbre", 5 * PATIENCE)  # it starts, sanitized
     racine.set_cache_mask(Atspi.Cache.NONE)  # always what the program says now
     return racine
 

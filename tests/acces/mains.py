@@ -9,10 +9,13 @@ class AuClavier(Gestes):
     nom = "clavier"
 
     def livre(self, quillet, titre, lettres):
-        self.jusqu_a(quillet, "F6", lambda ici: ", vendu par " in nom(ici))
+        self.vers_les_livres(quillet)
         taper(lettres)
         attendre(lambda: nom(foyer(quillet)).startswith(titre + ","), f"« {lettres} » ne mène pas à {titre}")
         self.touche("space")
+
+    def vers_les_livres(self, quillet):
+        self.jusqu_a(quillet, "F6", lambda ici: ", vendu par " in nom(ici))
 
     def pays(self, _programme, quillet, commande):
         self.touche("ctrl+l")

@@ -8,7 +8,8 @@ import time
 from pathlib import Path
 
 import clavier
-from arbre import annonce, application, attendre, cadre, cherche, exiger, fenetre, lisible, montre, nom, trouver
+from arbre import (annonce, application, attendre, cadre, cherche, enfants, exiger, fenetre, lisible, montre, nom, ouverte,
+                   parcourir, role_de, trouver)
 from clavier import foyer, taper
 from gestes import pointer
 from mains import ALaSouris, AuClavier
@@ -54,6 +55,9 @@ class PasAuClavier(AuClavier):
     def commander(self, quillet, titre):
         self.livre(quillet, titre, titre.split()[1].lower())
 
+    def vers_les_livres(self, quillet):  # of one seller, whom they do not name
+        self.jusqu_a(quillet, "F6", lambda ici: nom(ici).split(",")[0] in [livre["Titre"] for livre in LIVRES])
+
 
 class PasALaSouris(ALaSouris):
     def remplir(self, feuille, champ, valeur):
@@ -97,7 +101,8 @@ def fichier(programme, titre, chemin):
     clavier.touche("ctrl+a")
     taper(str(chemin))
     clavier.touche("Return")
-    attendre(lambda: cherche(programme, "dialog", titre) is None, f"« {titre} » reste ouvert")
+    attendre(lambda: not any(role_de(n) == "text" for d in enfants(programme) if nom(d) == titre for n in parcourir(d)),
+             f"« {titre} » reste ouvert")  # what then opens may have that title
 
 
 def livre(main, programme, feuille, valeurs, couverture):
@@ -197,7 +202,7 @@ def jouer(main, programme, compte, dossier):
     with compte.etape(f"En {minutes:.1f} minutes ({gestes})"):
         exiger(minutes <= MINUTES, f"plus de {MINUTES}")
     clavier.touche("ctrl+q")
-    attendre(lambda: cherche(programme, "frame", "Quillet") is None, "Quillet ne se ferme pas")
+    attendre(lambda: ouverte("Quillet") is None, "Quillet ne se ferme pas")
     with compte.etape("Dans une seconde maison, la même facture"):
         seconde_maison(main, dossier)
 
