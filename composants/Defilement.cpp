@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QScrollBar>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -15,11 +16,19 @@ Defilement::Defilement(QWidget *parent) : QScrollArea(parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     verticalScrollBar()->setSingleStep(40);
     setFocusPolicy(Qt::NoFocus);
-    // Qt follows Tab only: a focus that a control hands on must not go out of sight either.
-    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget *, QWidget *nouveau) {
-        if (nouveau && widget() && widget()->isAncestorOf(nouveau)
-            && window()->testAttribute(Qt::WA_KeyboardFocusChange))
-            ensureWidgetVisible(nouveau);
+    // Qt follows Tab only: a focus that a control hands on must not go out of sight either. Neither what a hand points
+    // at nor what was left for another window moves.
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget *ancien, QWidget *nouveau) {
+        if (!nouveau || !widget() || !widget()->isAncestorOf(nouveau))
+            return;
+        if (!window()->testAttribute(Qt::WA_KeyboardFocusChange)
+            && (!ancien || QGuiApplication::mouseButtons() != Qt::NoButton))
+            return;
+        ensureWidgetVisible(nouveau);
+        QTimer::singleShot(0, nouveau, [this, nouveau] { // once all that came with it has its place
+            if (nouveau->hasFocus())
+                ensureWidgetVisible(nouveau);
+        });
     });
 }
 

@@ -6,6 +6,7 @@
 #include "composants/Defilement.h"
 #include "composants/Feuille.h"
 #include "composants/LecteurDEcran.h"
+#include "composants/Pile.h"
 #include "composants/ZoneDeTexte.h"
 
 #include <QAbstractItemView>
@@ -15,6 +16,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QSemaphore>
 #include <QSignalSpy>
@@ -94,6 +96,25 @@ private slots:
         for (const int rang : {-1, lu->childCount(), 999})
             QVERIFY(!lu->child(rang));
         QVERIFY(lu->indexOfChild(QAccessible::queryAccessibleInterface(page.viewport())) >= 0);
+    }
+
+    // A click lower down opened it, and it has no place yet.
+    void ceQuiPrendLeFocusVientEnVue()
+    {
+        Defilement page;
+        auto *champ = new QLineEdit;
+        QWidget *partie = Pile::enColonne({}, {Pile::blanc(900), champ});
+        auto *bouton = new QPushButton("a");
+        page.setWidget(Pile::enColonne({}, {bouton, partie, Pile::blanc(900)}));
+        partie->hide();
+        page.resize(300, 200);
+        page.show();
+        page.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&page));
+        QTest::mouseClick(bouton, Qt::LeftButton);
+        partie->show();
+        champ->setFocus();
+        QTRY_VERIFY(champ->visibleRegion().boundingRect() == champ->rect());
     }
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)

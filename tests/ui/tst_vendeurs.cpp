@@ -151,7 +151,8 @@ private slots:
         QVERIFY(remplir(feuille, "Nom, second vendeur", "Bruno"));
         QCOMPARE(lus().vendeurs.size(), 1); // nobody invoices without an address
         feuille->reject();
-        QVERIFY(feuille->isVisible());
+        QVERIFY(feuille->isVisible() && Ecran::montre(feuille, "Adresse à remplir."));
+        QCOMPARE(QApplication::focusWidget()->accessibleName(), "Adresse, second vendeur");
         QVERIFY(remplir(feuille, "Adresse, second vendeur", "2 rue Exemple"));
         QCOMPARE(lus().vendeurs[Vendeur::mireva].nom, "Bruno");
         QVERIFY(Ecran::cliquer(feuille, "Retirer ce vendeur")); // the first, who has books
@@ -265,6 +266,7 @@ private slots:
         }
         QVERIFY(Ecran::cliquer(fenetre(), "Continuer avec l’exemple"));
         QVERIFY(!ligne());
+        QCOMPARE(QApplication::focusWidget()->accessibleName(), "Davrel, livres de Davrel"); // what stands below it
         banc_->demarrer();
         QVERIFY(!ligne());
         banc_->origine = Origine::administrateur;

@@ -30,6 +30,8 @@ LigneDExemple::LigneDExemple(const Contexte &contexte, QWidget *parent) : QWidge
     connect(&contexte.catalogue, &Catalogue::recharge, this, [this] { setVisible(aDire(contexte_)); });
     QBoxLayout *suites = Pile::rangee({.espace = 8}, {lesVotres, continuer, Pile::reste()});
     Pile::colonne(this, {.marges = {Theme::margeDePage, 14, Theme::margeDePage, 0}, .espace = 8}, {phrase, suites});
+    if (!aDire(contexte))
+        hide();
 }
 
 bool LigneDExemple::aDire(const Contexte &contexte)
@@ -47,7 +49,7 @@ void LigneDExemple::continuer()
     };
     while (suivant != this && !prenable(suivant))
         suivant = suivant->nextInFocusChain();
-    suivant->setFocus(); // before it goes: onto the covers
+    suivant->setFocus(); // before it goes: onto what stands below
     hide();
 }
 

@@ -114,13 +114,9 @@ QWidget *VueCommande::colonneDesLivres()
     defilement->setWidget(contenu);
     connect(defilement->verticalScrollBar(), &QScrollBar::valueChanged, grille_, &GrilleLivres::suivreLePointeur);
 
-    QWidget *colonne = Pile::enColonne({.espace = 0}, {enTete_, {defilement, 1}});
-    if (LigneDExemple::aDire(contexte_)) {
-        auto *exemple = new LigneDExemple(contexte_);
-        connect(exemple, &LigneDExemple::lesVotres, this, &VueCommande::mettreLesVotres);
-        static_cast<QBoxLayout *>(colonne->layout())->insertWidget(1, exemple);
-    }
-    return colonne;
+    auto *exemple = new LigneDExemple(contexte_);
+    connect(exemple, &LigneDExemple::lesVotres, this, &VueCommande::mettreLesVotres);
+    return Pile::enColonne({.espace = 0}, {enTete_, exemple, {defilement, 1}});
 }
 
 void VueCommande::actualiser()

@@ -99,7 +99,7 @@ QWidget *FeuilleVendeurs::page()
     defilement->setWidget(
         Pile::enColonne({.marges = {20, 20, 20, 24}, .espace = 22},
                         {liste_, {ajouter_, 0, Qt::AlignLeft}, emballages_, mentions_, Pile::reste()}));
-    echec_->setContentsMargins(20, 12, 20, 0);
+    echec_->setContentsMargins(20, 12, 20, 12);
     return Pile::enColonne({.espace = 0}, {echec_, {defilement, 1}});
 }
 
@@ -248,7 +248,10 @@ QWidget *FeuilleVendeurs::enSuspens()
         const Reglages vierges = EditionReglages::avecVendeur(contexte_.donnees().reglages, nouveau_->vendeur);
         return nouveau_->identite != vierges.vendeurs.value(nouveau_->vendeur);
     };
-    return nouveau_ && commence() ? vendeurs_[nouveau_->vendeur].fiche : nullptr;
+    if (!nouveau_ || !commence())
+        return nullptr;
+    return vendeurs_[nouveau_->vendeur].fiche->objecter(
+        Objections::surLesReglages(montres(), codes(contexte_.donnees())));
 }
 
 void FeuilleVendeurs::reject()
