@@ -42,9 +42,8 @@ ChampDeFiche::ChampDeFiche(const QString &libelle, int lignes, QWidget *parent)
     champ_->installEventFilter(this);
     setFocusProxy(champ_);
     titre_->setBuddy(champ_);
-    titre_->setWordWrap(true);
+    aligner(titre_);
     TailleDuTexte::suivre(titre_, [this] {
-        titre_->setFixedWidth(lettresDuLibelle * fontMetrics().horizontalAdvance(u'n')); // fields line up
         const int haut = ligne_ ? (ligne_->sizeHint().height() - fontMetrics().height()) / 2 : margeDeLaZone;
         titre_->setContentsMargins(0, haut, 0, 0);
     });
@@ -56,6 +55,14 @@ ChampDeFiche::ChampDeFiche(const QString &libelle, int lignes, QWidget *parent)
     rangee_->addWidget(champ_, 1);
     Pile::rangee(this, {.espace = 8},
                  {{titre_, 0, Qt::AlignTop}, {Pile::colonne({.espace = 4}, {rangee_, aide_, alerte_}), 1}});
+}
+
+void ChampDeFiche::aligner(Libelle *libelle)
+{
+    libelle->setWordWrap(true);
+    TailleDuTexte::suivre(libelle, [libelle] {
+        libelle->setFixedWidth(lettresDuLibelle * libelle->fontMetrics().horizontalAdvance(u'n'));
+    });
 }
 
 QString ChampDeFiche::texte() const

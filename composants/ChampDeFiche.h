@@ -46,6 +46,8 @@ public:
     // As leaving the field does.
     void conclure();
     void toutPrendre(); // to be typed over
+    // Gives a label the width that those of all fields have: what they name lines up.
+    static void aligner(Libelle *libelle);
 
 signals:
     // Typed since it was last shown or handed over; whoever takes it calls `objecter`, and `montrer` once it counts.

@@ -1,5 +1,6 @@
 #include "composants/Formulaire.h"
 
+#include "composants/ChampDeFiche.h"
 #include "composants/Dessin.h"
 #include "composants/LecteurDEcran.h"
 #include "composants/Libelle.h"
@@ -135,6 +136,16 @@ void Rangee::setDetail(const QString &detail)
 {
     montrerDetail(detail_, detail);
     decrire(valeur_, detail);
+}
+
+void Rangee::alignerSurLesChamps()
+{
+    auto *rangee = static_cast<QBoxLayout *>(layout());
+    rangee->setStretch(0, 0);
+    rangee->setStretch(1, 1);
+    if (rangee->itemAt(1)->alignment() & Qt::AlignRight)
+        rangee->setAlignment(valeur_, Qt::AlignLeft | Qt::AlignVCenter);
+    ChampDeFiche::aligner(libelle_);
 }
 
 RangeeHaute::RangeeHaute(const QString &libelle, QWidget *valeur, QWidget *parent)

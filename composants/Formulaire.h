@@ -55,6 +55,8 @@ public:
     void setTexte(const QString &libelle);
     // Empty: no second line.
     void setDetail(const QString &detail);
+    // Among fields of a record (ChampDeFiche): the value begins where theirs do.
+    void alignerSurLesChamps();
     [[nodiscard]] Libelle *libelle() const { return libelle_; }
 
 private:

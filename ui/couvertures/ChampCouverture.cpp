@@ -128,7 +128,7 @@ ChampCouverture::ChampCouverture(ImagesCouvertures &images, const QString &progr
     QBoxLayout *boutons = Pile::colonne({.espace = 8}, {choisir_, coller_, retirer_});
     QBoxLayout *gestes = Pile::rangee({}, {boutons, Pile::reste()});
     QBoxLayout *textes = Pile::colonne({.espace = 10}, {gestes, note_, refus_, Pile::reste()});
-    Pile::rangee(this, {.espace = 20}, {{vignette_, 0, Qt::AlignTop}, {textes, 1}});
+    Pile::rangee(this, {.espace = 16}, {{vignette_, 0, Qt::AlignTop}, {textes, 1}});
     actualiser();
 }
 

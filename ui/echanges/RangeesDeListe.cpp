@@ -126,6 +126,7 @@ RangeesDeListe::RangeesDeListe(QWidget *parent) : ListeDite<QListView>(parent), 
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // lines do not wrap anew because there is one
     setFrameShape(QFrame::NoFrame);
+    viewport()->setAutoFillBackground(false); // as the sheet beside its scroll bar
 }
 
 void RangeesDeListe::montrer(const QList<TextesListe::Rangee> &rangees)

@@ -17,7 +17,7 @@ namespace Quillet {
 namespace {
 
 constexpr QSize taille(760, 720);
-constexpr int marge = 24;
+constexpr int marge = 20;
 constexpr auto tempsDeLecture = 1s; // of a sentence that says why
 
 } // namespace
@@ -47,7 +47,7 @@ QWidget *FeuilleDeLivre::page()
 {
     auto *defilement = new Defilement;
     defilement->setWidget(Pile::enColonne({.marges = {marge, 16, marge, marge}}, {formulaire_}));
-    echec_->setContentsMargins(marge, 14, marge, 0);
+    echec_->setContentsMargins(marge, 12, marge, 12);
     return Pile::enColonne({.espace = 0}, {echec_, {defilement, 1}});
 }
 

@@ -21,7 +21,7 @@ FeuilleNouveauLivre::FeuilleNouveauLivre(const Contexte &contexte, const Livre &
     QPushButton *abandonner = Boutons::deFeuille(QStringLiteral("Abandonner"));
     QPushButton *ajouter = Boutons::deFeuille(QStringLiteral("Ajouter le livre"));
     Boutons::rendrePrincipal(ajouter);
-    QBoxLayout *barre = Pile::rangee({.marges = {16, 12, 16, 16}}, {Pile::reste(), abandonner, ajouter});
+    QBoxLayout *barre = Pile::rangee({.marges = {20, 12, 20, 16}, .espace = 8}, {Pile::reste(), abandonner, ajouter});
     Pile::colonne(this, {.espace = 0}, {{page(), 1}, filet(Qt::Horizontal), barre});
     connect(abandonner, &QPushButton::clicked, this, &QDialog::reject);
     connect(ajouter, &QPushButton::clicked, this, &FeuilleNouveauLivre::ajouter);

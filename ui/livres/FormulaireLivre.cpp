@@ -7,6 +7,7 @@
 #include "composants/Interrupteur.h"
 #include "composants/Libelle.h"
 #include "composants/Pile.h"
+#include "composants/TailleDuTexte.h"
 #include "model/EditionLivres.h"
 #include "model/controle/Objections.h"
 #include "textes/TextesGestes.h"
@@ -34,6 +35,21 @@ QColor couleur(const QList<qint64> &teinte)
     return {part(0), part(1), part(2)};
 }
 
+QWidget *rangee(const QString &libelle, QWidget *valeur)
+{
+    auto *rangee = new Formulaire::Rangee(libelle, valeur);
+    rangee->alignerSurLesChamps();
+    return rangee;
+}
+
+// As wide as any other, for the fields to end together.
+Libelle *unite(const QString &signe)
+{
+    auto *unite = new Libelle(signe, Libelle::Rang::secondaire);
+    TailleDuTexte::suivre(unite, [unite] { unite->setFixedWidth(unite->fontMetrics().horizontalAdvance(u'€')); });
+    return unite;
+}
+
 } // namespace
 
 FormulaireLivre::FormulaireLivre(ImagesCouvertures &images, QWidget *parent)
@@ -44,16 +60,16 @@ FormulaireLivre::FormulaireLivre(ImagesCouvertures &images, QWidget *parent)
       disponible_(new Interrupteur),
       couleur_(new ChoixCouleur(nuances()))
 {
-    rangeeDuVendeur_ = new Formulaire::Rangee(QStringLiteral("Vendeur"), vendeur_);
+    rangeeDuVendeur_ = rangee(QStringLiteral("Vendeur"), vendeur_);
     auto *texte = groupe(QStringLiteral("titre titreComplet auteur"));
     texte->ajouter(rangeeDuVendeur_);
     auto *vente = groupe(QStringLiteral("prix poids"));
-    vente->ajouter(new Formulaire::Rangee(QStringLiteral("Disponible"), disponible_));
+    vente->ajouter(rangee(QStringLiteral("Disponible"), disponible_));
     auto *fabrication = groupe(QStringLiteral("pages format langue isbn"));
     auto *image = new Formulaire::Groupe;
     image->ajouter(image_);
     auto *reste = groupe(QStringLiteral("lienPaypal"));
-    reste->ajouter(new Formulaire::Rangee(QStringLiteral("Couleur"), couleur_));
+    reste->ajouter(rangee(QStringLiteral("Couleur"), couleur_));
     Pile::colonne(this, {.espace = entreGroupes}, {texte, vente, fabrication, image, reste, Pile::reste()});
 
     connect(vendeur_, &Choix::choisi, this, [this](const QString &choisi) {
@@ -102,7 +118,7 @@ ChampDeFiche *FormulaireLivre::creer(const ChampDuLivre &champ)
     auto *cree = new ChampDeFiche(champ.libelle);
     cree->setInvite(champ.invite);
     if (!champ.unite.isEmpty())
-        cree->accoler(new Libelle(champ.unite, Libelle::Rang::secondaire));
+        cree->accoler(unite(champ.unite));
     connect(cree, &ChampDeFiche::saisi, this,
             [this, &champ, cree](const QString &texte) { saisir(champ, cree, texte); });
     champs_.insert(champ.cle, cree);

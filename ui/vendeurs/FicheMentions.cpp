@@ -80,7 +80,9 @@ FicheMentions::FicheMentions(const EcritureDesReglages &ecriture, QWidget *paren
     choix->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     aAjouter_->setAccessibleName(QStringLiteral("Destination d’un autre code"));
     ajouter_->setAccessibleName(QStringLiteral("Ajouter un code pour cette destination"));
-    groupe()->ajouter(new Formulaire::Rangee(QStringLiteral("Un autre code pour"), choix));
+    auto *autre = new Formulaire::Rangee(QStringLiteral("Un autre code pour"), choix);
+    autre->alignerSurLesChamps();
+    groupe()->ajouter(autre);
     liste_->hide();
 
     // Not by the choice alone: the arrow keys choose what they pass.
