@@ -1,6 +1,5 @@
 #include "ui/livres/VoletLivres.h"
 
-#include "composants/Boutons.h"
 #include "composants/Choix.h"
 #include "composants/ChoixSegmente.h"
 #include "composants/EtatVide.h"
@@ -21,7 +20,6 @@
 #include <QAction>
 #include <QLabel>
 #include <QMenu>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QStackedWidget>
@@ -45,7 +43,6 @@ VoletLivres::VoletLivres(const Catalogue &catalogue, ImagesCouvertures &images, 
       modele_(new ModeleLivres(catalogue, this)),
       recherche_(new LigneDeTexte),
       vide_(new EtatVide),
-      premier_(Boutons::deFeuille(QStringLiteral("Ajouter un livre…"))),
       place_(new QStackedWidget),
       annonce_(this, [this] { return TextesLivres::nombre(modele_->rowCount()); })
 {
@@ -78,11 +75,9 @@ VoletLivres::VoletLivres(const Catalogue &catalogue, ImagesCouvertures &images, 
     connect(liste_, &ListeLivres::modifier, this, &VoletLivres::modifier);
     connect(liste_, &ListeLivres::retirer, this, &VoletLivres::retirer);
     connect(liste_, &ListeLivres::deplace, this, &VoletLivres::deplace);
-    connect(premier_, &QPushButton::clicked, this, &VoletLivres::ajouter);
 
     place_->addWidget(liste_);
-    place_->addWidget(
-        Pile::enColonne({.marges = {margeGauche, 0, marge, 40}}, {{vide_, 1}, {premier_, 0, Qt::AlignHCenter}}));
+    place_->addWidget(vide_);
     Pile::colonne(this, {.espace = 0}, {filtres(), {place_, 1}});
     seReplacer();
 }
@@ -205,12 +200,12 @@ void VoletLivres::seReplacer()
 {
     const bool vide = modele_->rowCount() == 0;
     place_->setCurrentIndex(vide ? 1 : 0);
-    if (vide)
+    if (vide && catalogue_.donnees().livres.isEmpty())
+        vide_->montrer(QStringLiteral("books.vertical"), QStringLiteral("Aucun livre"),
+                       QStringLiteral("Le catalogue est vide."));
+    else if (vide)
         vide_->montrer(QStringLiteral("magnifyingglass"), QStringLiteral("Aucun livre"),
-                       catalogue_.donnees().livres.isEmpty()
-                           ? QStringLiteral("Le catalogue est vide.")
-                           : QStringLiteral("Aucun livre ne répond à la recherche et aux filtres."));
-    premier_->setVisible(catalogue_.donnees().personnelles && catalogue_.donnees().livres.isEmpty());
+                       QStringLiteral("Aucun livre ne répond à la recherche et aux filtres."));
     if (vide)
         emit choixChange();
     else
@@ -220,7 +215,7 @@ void VoletLivres::seReplacer()
 
 void VoletLivres::prendreLeFocus()
 {
-    (place_->currentWidget()->isAncestorOf(premier_) ? static_cast<QWidget *>(premier_) : liste_)->setFocus();
+    (place_->currentWidget() == liste_ ? static_cast<QWidget *>(liste_) : recherche_)->setFocus();
 }
 
 QList<qint64> VoletLivres::ordre() const

@@ -7,7 +7,6 @@
 
 #include <QWidget>
 
-class QPushButton;
 class QStackedWidget;
 
 namespace Quillet {
@@ -49,7 +48,6 @@ public:
 signals:
     // Another book, or none.
     void choixChange();
-    void ajouter();
     // The chosen book.
     void modifier();
     void dupliquer();
@@ -70,7 +68,6 @@ private:
     ChoixSegmente *vendeur_ = nullptr;
     ListeLivres *liste_;
     EtatVide *vide_;
-    QPushButton *premier_; // adds a book to an empty list
     QStackedWidget *place_;
     qint64 choisi_ = 0;      // id of the book last chosen
     int rang_ = 0;           // where it was

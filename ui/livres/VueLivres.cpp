@@ -89,7 +89,6 @@ VueLivres::VueLivres(const Contexte &contexte, QWidget *parent)
     connect(fiche_, &FicheLivre::modifier, this, &VueLivres::modifier);
     connect(fiche_, &FicheLivre::dupliquer, this, &VueLivres::dupliquer);
     connect(fiche_, &FicheLivre::retirer, this, &VueLivres::retirer);
-    connect(volet_, &VoletLivres::ajouter, this, &VueLivres::ajouter);
     connect(volet_, &VoletLivres::modifier, this, &VueLivres::modifier);
     connect(volet_, &VoletLivres::dupliquer, this, &VueLivres::dupliquer);
     connect(volet_, &VoletLivres::retirer, this, &VueLivres::retirer);
