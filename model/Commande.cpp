@@ -1,6 +1,10 @@
 #include "model/Commande.h"
 
 #include "model/Donnees.h"
+#include "model/EditionReglages.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace Quillet {
 
@@ -22,6 +26,7 @@ void Commande::vider()
 {
     BonDeCommande bon = bon_;
     bon.vider();
+    partis_.clear();
     passerA(bon, bon_);
 }
 
@@ -37,15 +42,28 @@ void Commande::commencer(const Donnees &donnees)
     bon.suivre(donnees);
     bon.rangAcheteur = bon_.rangAcheteur + (bon_.estVide() ? 0 : 1);
     videe_.reset(); // also where nothing else changes
+    partis_.clear();
     adopter(bon);
 }
 
-void Commande::suivre(const Donnees &donnees)
+void Commande::suivre(const Donnees &avant, const Donnees &apres)
 {
     BonDeCommande bon = bon_;
-    bon.suivre(donnees);
+    bon.emballage = EditionReglages::nomApres(bon.emballage, avant.reglages.emballages, apres.reglages.emballages);
+    if (bon.quantites != restees_)
+        partis_.clear();
+    for (const Parti &parti : std::exchange(partis_, {}))
+        if (apres.livres.contains(parti.livre)) // another one may have its number
+            bon.quantites.insert(parti.livre.id, parti.copies);
+        else
+            partis_.append(parti);
+    for (const Livre &livre : avant.livres)
+        if (bon.quantite(livre) > 0 && std::ranges::find(apres.livres, livre.id, &Livre::id) == apres.livres.end())
+            partis_.append({livre, bon.quantite(livre)});
+    bon.suivre(apres);
+    restees_ = bon.quantites;
     if (videe_)
-        videe_->suivre(donnees);
+        videe_->suivre(apres);
     passerA(bon, videe_);
 }
 

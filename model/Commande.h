@@ -35,8 +35,10 @@ public:
     void rendre();
     // Starts anew, for another buyer, with what the data say; what was emptied cannot be had back.
     void commencer(const Donnees &donnees);
-    // After the sellers' own data have changed; see BonDeCommande.
-    void suivre(const Donnees &donnees);
+    // After the sellers' own data have changed: what is gone leaves the order (see BonDeCommande), its packaging keeps
+    // its place under another name. A book that comes back just as it left, by undoing, has its copies again, as long
+    // as nobody touched them or began another order.
+    void suivre(const Donnees &avant, const Donnees &apres);
 
 signals:
     void change();
@@ -53,6 +55,13 @@ private:
 
     BonDeCommande bon_;
     std::optional<BonDeCommande> videe_; // what the last change took away, when it was `vider`
+    struct Parti
+    {
+        Livre livre;
+        int copies;
+    };
+    QList<Parti> partis_;       // with the data, out of the order
+    QMap<qint64, int> restees_; // what they left of it
 };
 
 } // namespace Quillet

@@ -5,7 +5,6 @@
 #include "composants/TailleDuTexte.h"
 #include "composants/bureau/Bureau.h"
 #include "echanges/DepotCouvertures.h"
-#include "model/EditionReglages.h"
 #include "ui/ComplementFrancais.h"
 #include "ui/Fenetre.h"
 
@@ -74,14 +73,10 @@ QuilletApp::QuilletApp(const Ressources &ressources, Stockage stockage, const Pr
 {
     commande_.commencer(catalogue_->donnees());
     QObject::connect(catalogue_.get(), &Catalogue::change, &commande_,
-                     [this, emballages = catalogue_->donnees().reglages.emballages]() mutable {
-                         const Donnees &donnees = catalogue_->donnees();
-                         const auto avant = std::exchange(emballages, donnees.reglages.emballages);
-                         if (!donnees.personnelles)
-                             return;
-                         commande_.setEmballage(
-                             EditionReglages::nomApres(commande_.bon().emballage, avant, emballages));
-                         commande_.suivre(donnees);
+                     [this, donnees = catalogue_->donnees()]() mutable {
+                         const Donnees avant = std::exchange(donnees, catalogue_->donnees());
+                         if (donnees.personnelles)
+                             commande_.suivre(avant, donnees);
                      });
     QObject::connect(catalogue_.get(), &Catalogue::recharge, &commande_,
                      [this, avant = ressources.origine()]() mutable {

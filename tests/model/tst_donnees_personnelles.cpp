@@ -1,4 +1,6 @@
+#include "model/Commande.h"
 #include "model/DossierPersonnel.h"
+#include "model/EditionLivres.h"
 #include "model/EditionReglages.h"
 #include "model/Historique.h"
 #include "model/controle/Objections.h"
@@ -132,18 +134,63 @@ private slots:
         donnees.reglages.emballageDeDepart = "Sac";
         commande.ajuster(banc.livres[0], 2);
         commande.setEmballage("Disparu");
-        commande.suivre(donnees);
+        commande.suivre(banc.donnees(), donnees);
         QCOMPARE(commande.bon().vendeur, Vendeur::mireva);
         QCOMPARE(commande.bon().emballage, "Sac");
         QVERIFY(commande.bon().estVide());
         commande.setEmballage(BonDeCommande::autrePoids());
-        commande.suivre(donnees);
+        commande.suivre(donnees, donnees);
         QCOMPARE(commande.bon().emballage, BonDeCommande::autrePoids());
         commande.ajuster(banc.livres[1], 1);
         commande.vider();
         commande.commencer(donnees);
         QCOMPARE(commande.bon().emballage, "Sac");
         QVERIFY(!commande.peutRendre()); // those numbers may be other books
+    }
+
+    // A book that comes back brings its copies, if the order is as it was left; never another book of its number.
+    void unLivreRetireRevient()
+    {
+        using Gestes = std::function<void(Commande &, Catalogue &, Historique &)>;
+        const auto ajouter = [](Catalogue &catalogue, Historique &historique) {
+            historique.remplacer(EditionLivres::avec(catalogue.donnees().livres, {.titre = "Autre"}), "ajout");
+            return catalogue.donnees().livres.last();
+        };
+        const auto autre = [&](Commande &, Catalogue &catalogue, Historique &historique) {
+            ajouter(catalogue, historique);
+            historique.annuler();
+        };
+        const auto autreVendu = [&](Commande &commande, Catalogue &catalogue, Historique &historique) {
+            commande.ajuster(ajouter(catalogue, historique), 1);
+            historique.annuler();
+        };
+        for (const auto &[nom, entretemps, copies] : Rangees<Gestes, int>{
+                 {"rien", [](auto &...) {}, 2},
+                 {"un pays", [](Commande &commande, auto &...) { commande.setPaysLivraison("Ici"); }, 2},
+                 {"un autre livre", [](Commande &commande, auto &...) { commande.ajuster({.id = 1}, 1); }, 0},
+                 {"vidée", [](Commande &commande, auto &...) { commande.vider(); }, 0},
+                 {"son numéro à un autre", autre, 2},
+                 {"vendu sous son numéro", autreVendu, 0},
+             }) {
+            const Rangee rangee(nom);
+            BancPersonnel banc;
+            const auto catalogue = banc.ouvrir();
+            Historique historique(*catalogue);
+            Commande commande;
+            commande.commencer(catalogue->donnees());
+            connect(catalogue.get(), &Catalogue::change, &commande, [&, avant = catalogue->donnees()]() mutable {
+                const Donnees ancien = std::exchange(avant, catalogue->donnees());
+                commande.suivre(ancien, avant);
+            });
+            const Livre dernier = catalogue->donnees().livres.last();
+            commande.ajuster(dernier, 2);
+            historique.remplacer(EditionLivres::sans(catalogue->donnees().livres, dernier.id), "retrait");
+            entretemps(commande, *catalogue, historique);
+            QCOMPARE(commande.bon().quantite(dernier), 0);
+            historique.annuler();
+            QCOMPARE(catalogue->donnees().livres.last(), dernier);
+            QCOMPARE(commande.bon().quantite(dernier), copies);
+        }
     }
 
     // The order in progress keeps its parcel, and a new one its packaging, under whatever name.
@@ -162,9 +209,9 @@ private slots:
         Commande commande;
         commande.commencer(donnees);
         const auto faire = [&](const Reglages &apres) {
-            const auto avant = std::exchange(donnees.reglages, apres).emballages;
-            commande.setEmballage(EditionReglages::nomApres(commande.bon().emballage, avant, apres.emballages));
-            commande.suivre(donnees);
+            const Donnees avant = donnees;
+            donnees.reglages = apres;
+            commande.suivre(avant, donnees);
             return commande.bon().emballage;
         };
         QCOMPARE(faire(EditionReglages::emballageRenomme(donnees.reglages, 0, "Bulles")), "Bulles");

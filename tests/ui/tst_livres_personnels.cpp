@@ -301,6 +301,7 @@ private slots:
         QCOMPARE(cas.texte("« Livre 1 »"), "« Livre 1 » est retiré.");
         QVERIFY(Ecran::cliquer(cas.fenetre(), "Annuler"));
         QCOMPARE(cas.enregistres(), cas.donnees.livres);
+        QCOMPARE(cas.app->commande().bon().quantite(cas.donnees.livres[0]), 2);
         QCOMPARE(cas.courant(), "Livre 1");
         QVERIFY(cas.texte("« Livre 1 »").isEmpty());
         for (int fois = 0; fois < 5; ++fois)
