@@ -77,28 +77,39 @@ Donnees charger(const Ressources &ressources, Stockage &stockage)
 
 } // namespace
 
-Catalogue::Catalogue(const Ressources &ressources, Stockage stockage)
-    : ressources_(ressources), stockage_(std::move(stockage))
+struct Catalogue::Lecture
 {
-    ouvrir(ressources);
-}
-
-// What the folder holds is noted before it is read: what changes in between shows.
-void Catalogue::ouvrir(const Ressources &ressources)
-{
+    Ressources ressources;
+    Stockage stockage; // which notes what it has read
     std::optional<DossierPersonnel> personnel;
-    if (ressources.origine() == Origine::utilisateur)
-        personnel.emplace(ressources.dossier());
-    donnees_ = charger(ressources, stockage_);
-    if (personnel)
-        fraisDuDossier_ = ressources.lire<Reglages>(QStringLiteral("reglages")).fraisPaypal;
-    ressources_ = ressources;
-    personnel_ = std::move(personnel);
+    Donnees donnees;
+    FraisPaypal fraisDuDossier;
+
+    // What the folder holds is noted before it is read: what changes in between shows.
+    static Lecture de(const Ressources &ressources, const Stockage &stockage)
+    {
+        Lecture lecture{ressources, stockage, std::nullopt, {}, {}};
+        if (ressources.origine() == Origine::utilisateur)
+            lecture.personnel.emplace(ressources.dossier());
+        lecture.donnees = charger(ressources, lecture.stockage);
+        if (lecture.personnel)
+            lecture.fraisDuDossier = ressources.lire<Reglages>(QStringLiteral("reglages")).fraisPaypal;
+        return lecture;
+    }
+};
+
+Catalogue::Catalogue(const Lecture &lecture)
+    : ressources_(lecture.ressources),
+      stockage_(lecture.stockage),
+      personnel_(lecture.personnel),
+      donnees_(lecture.donnees),
+      fraisDuDossier_(lecture.fraisDuDossier)
+{
 }
 
-std::unique_ptr<Catalogue> Catalogue::charge(const Ressources &ressources, Stockage stockage)
+std::unique_ptr<Catalogue> Catalogue::charge(const Ressources &ressources, const Stockage &stockage)
 {
-    return std::unique_ptr<Catalogue>(new Catalogue(ressources, std::move(stockage)));
+    return std::unique_ptr<Catalogue>(new Catalogue(Lecture::de(ressources, stockage)));
 }
 
 template <typename T>
@@ -182,15 +193,23 @@ void Catalogue::remplacer(const Reglages &reglages)
     adopter(donnees_.reglages, nouveaux);
 }
 
-QStringList Catalogue::changesAilleurs() const
+std::function<Catalogue::Lue()> Catalogue::relecture() const
 {
-    return personnel_ ? personnel_->changes() : QStringList();
+    return [ressources = ressources_, stockage = stockage_] {
+        const bool dejaPropres = ressources.origine() == Origine::utilisateur; // even lost, nothing stands for them
+        const auto enVigueur =
+            dejaPropres ? ressources : Ressources::personnelles(stockage.donneesPersonnelles()).value_or(ressources);
+        return std::make_shared<const Lecture>(Lecture::de(enVigueur, stockage));
+    };
 }
 
-void Catalogue::recharger()
+void Catalogue::prendre(const Lue &lue)
 {
-    const bool dejaPropres = ressources_.origine() == Origine::utilisateur; // even lost, nothing stands for them
-    ouvrir(dejaPropres ? ressources_ : Ressources::personnelles(stockage_.donneesPersonnelles()).value_or(ressources_));
+    ressources_ = lue->ressources;
+    stockage_ = lue->stockage;
+    personnel_ = lue->personnel;
+    donnees_ = lue->donnees;
+    fraisDuDossier_ = lue->fraisDuDossier;
     emit recharge();
     emit change();
 }

@@ -7,7 +7,9 @@
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
+#include <optional>
 
 namespace Quillet {
 
@@ -20,7 +22,7 @@ class Catalogue : public QObject
 
 public:
     // Throws RessourceIllisible; a user's file that cannot be read is ignored.
-    static std::unique_ptr<Catalogue> charge(const Ressources &ressources, Stockage stockage);
+    static std::unique_ptr<Catalogue> charge(const Ressources &ressources, const Stockage &stockage);
 
     [[nodiscard]] const Donnees &donnees() const { return donnees_; }
 
@@ -46,19 +48,23 @@ public:
     void remplacer(const QList<Livre> &livres);
     // All but PayPal's fees, which are accepted on their own.
     void remplacer(const Reglages &reglages);
-    // The data files that somebody else has changed since; none of others' data.
-    [[nodiscard]] QStringList changesAilleurs() const;
+    // Of these, what was read of their files; none of others' data.
+    [[nodiscard]] const std::optional<DossierPersonnel> &personnel() const { return personnel_; }
     // Takes the data in force anew, whoever they belong to by now. Throws RessourceIllisible: memory then stands.
-    void recharger();
+    void recharger() { prendre(relecture()()); }
+    // The same in two: what reads, which a thread may do for it holds all that it needs, then what takes.
+    struct Lecture;
+    using Lue = std::shared_ptr<const Lecture>;
+    [[nodiscard]] std::function<Lue()> relecture() const;
+    void prendre(const Lue &lue);
 
 signals:
     void change();
     void recharge(); // before `change`: nothing that was kept of the former data holds
 
 private:
-    Catalogue(const Ressources &ressources, Stockage stockage);
+    explicit Catalogue(const Lecture &lecture);
     void ecrireLivres(const QList<Livre> &livres);
-    void ouvrir(const Ressources &ressources);
     template <typename T>
     void adopter(T &champ, const T &valeur);
 

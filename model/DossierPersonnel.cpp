@@ -62,6 +62,14 @@ QStringList DossierPersonnel::changes() const
     return changes;
 }
 
+QStringList DossierPersonnel::chemins() const
+{
+    QStringList chemins{dossier_.path()};
+    for (const QString &nom : Fichier::lister(dossier_, QStringLiteral("*.json")))
+        chemins.append(dossier_.filePath(nom));
+    return chemins;
+}
+
 void DossierPersonnel::remplacer(const QString &nom, const QByteArray &octets)
 {
     const QString chemin = dossier_.filePath(nom);

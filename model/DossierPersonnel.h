@@ -39,6 +39,9 @@ public:
     }
     // The data files that are not as they were read or written here, new and lost ones too.
     [[nodiscard]] QStringList changes() const;
+    // The paths of the folder and of its data files, by now.
+    [[nodiscard]] QStringList chemins() const;
+    bool operator==(const DossierPersonnel &) const = default;
 
     // A new folder, whole or not at all: these sellers and books with their pictures by name, and destinations,
     // countries and schedules as in `modele`. Throws ErreurStockage; also when there is one.

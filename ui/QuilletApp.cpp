@@ -59,9 +59,9 @@ void QuilletApp::suivre(Bureau &bureau)
     bureau.relever();
 }
 
-QuilletApp::QuilletApp(const Ressources &ressources, Stockage stockage, const Preferences &preferences,
+QuilletApp::QuilletApp(const Ressources &ressources, const Stockage &stockage, const Preferences &preferences,
                        Aujourdhui aujourdhui, const PagesSurveillees &pages, const SourceMisesAJour &misesAJour)
-    : catalogue_(Catalogue::charge(ressources, std::move(stockage))),
+    : catalogue_(Catalogue::charge(ressources, stockage)),
       historique_(*catalogue_),
       verifications_(*catalogue_, preferences, maintenant(aujourdhui), pages),
       misesAJour_(misesAJour, preferences, maintenant(aujourdhui)),

@@ -23,8 +23,8 @@ public:
     static void suivre(Bureau &bureau);
 
     // Throws RessourceIllisible. Without a source there are no updates.
-    QuilletApp(const Ressources &ressources, Stockage stockage, const Preferences &preferences, Aujourdhui aujourdhui,
-               const PagesSurveillees &pages, const SourceMisesAJour &misesAJour = {});
+    QuilletApp(const Ressources &ressources, const Stockage &stockage, const Preferences &preferences,
+               Aujourdhui aujourdhui, const PagesSurveillees &pages, const SourceMisesAJour &misesAJour = {});
     ~QuilletApp();
     Q_DISABLE_COPY_MOVE(QuilletApp)
 

@@ -254,12 +254,12 @@ private slots:
         BancPersonnel banc;
         const auto ici = banc.ouvrir();
         const auto ailleurs = banc.ouvrir();
-        QVERIFY(ici->changesAilleurs().isEmpty());
+        QVERIFY(ici->personnel()->changes().isEmpty());
         Livre livre = ailleurs->donnees().livres[1];
         livre.prix = Centimes{5};
         ailleurs->modifier({livre});
-        QVERIFY(ailleurs->changesAilleurs().isEmpty());
-        QCOMPARE(ici->changesAilleurs(), QStringList{"livres.json"});
+        QVERIFY(ailleurs->personnel()->changes().isEmpty());
+        QCOMPARE(ici->personnel()->changes(), QStringList{"livres.json"});
 
         Historique historique(*ici);
         const QList<Livre> avant = ici->donnees().livres;
