@@ -6,6 +6,7 @@
 #include "ui/InstanceUnique.h"
 #include "ui/PlaceDeLaFenetre.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
 #include <QLocalSocket>
@@ -307,7 +308,13 @@ private slots:
         QCOMPARE(banc.app->commande().bon().quantites.size(), 2);
 
         banc.donnees.ecrireUtilisateur("donnees/destinations.json", Json::encoder(banc.donnees.destinations));
+        bool tourne = false; // the window, while the disk is read
+        bool vivante = false;
+        connect(qobject_cast<QAbstractButton *>(relire), &QAbstractButton::released, this,
+                [&] { QMetaObject::invokeMethod(this, [&] { tourne = true; }, Qt::QueuedConnection); });
+        connect(&banc.app->catalogue(), &Catalogue::recharge, this, [&] { vivante = tourne; });
         QVERIFY(Ecran::cliquer(&banc.app->fenetre(), "Les relire"));
+        QVERIFY(vivante);
         QTRY_VERIFY(!relire->isVisible());
         QCOMPARE(banc.app->commande().bon().quantites, (QMap<qint64, int>{{banc.donnees.livres[0].id, 2}}));
         QVERIFY(Ecran::controle(&banc.app->fenetre(), "Vu d’ailleurs"));
