@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <tuple>
 
 namespace Quillet {
 
@@ -73,6 +74,20 @@ void EditionLivres::confier(Livre &brouillon, Vendeur vendeur, const QList<Livre
         if (brouillon.*champ == avant.*champ)
             brouillon.*champ = apres.*champ;
     brouillon.vendeur = vendeur;
+}
+
+bool EditionLivres::reporter(const Livre &avant, const Livre &saisi, Livre &ailleurs)
+{
+    const auto champ = [&](auto membre) {
+        if (saisi.*membre == avant.*membre || saisi.*membre == ailleurs.*membre)
+            return true;
+        const bool libre = ailleurs.*membre == avant.*membre;
+        if (libre)
+            ailleurs.*membre = saisi.*membre;
+        return libre;
+    };
+    return std::apply([&](const auto &...champs) { return (int{champ(champs.membre)} & ...) != 0; },
+                      Json::champs<Livre>);
 }
 
 QList<Livre> EditionLivres::avec(QList<Livre> livres, Livre livre)

@@ -14,6 +14,10 @@ Livre copie(const Livre &livre);
 // Whoever else sells a draft: what it was given of the former seller's last book is given of the new one's.
 void confier(Livre &brouillon, Vendeur vendeur, const QList<Livre> &livres);
 
+// Gives a book that was changed elsewhere what was typed over `avant`, the same before. False: a part of it changed
+// there too, and stays as it is there.
+[[nodiscard]] bool reporter(const Livre &avant, const Livre &saisi, Livre &ailleurs);
+
 // With this one at their end, whose number is a new one.
 QList<Livre> avec(QList<Livre> livres, Livre livre);
 QList<Livre> sans(QList<Livre> livres, qint64 id);

@@ -32,4 +32,23 @@ QString TextesDonnees::changeesAilleurs(const QStringList &fichiers)
         .arg(mots.join(QStringLiteral(", ")));
 }
 
+QString TextesDonnees::livreRetireAilleurs()
+{
+    return QStringLiteral("Ce livre a été retiré ailleurs : ce que vous venez de saisir n’est pas enregistré.");
+}
+
+QString TextesDonnees::saisieNonReprise(const QStringList &textes)
+{
+    const QString quoi = textes.isEmpty() ? QStringLiteral("une partie de votre saisie")
+                                          : QStringLiteral("« %1 »").arg(textes.join(QStringLiteral(" », « ")));
+    return QStringLiteral("Changé ailleurs aussi : %1 n’a pas été repris. Tapez-le de nouveau s’il le faut.").arg(quoi);
+}
+
+QString TextesDonnees::arriveesEntreTemps(const QString &dossier)
+{
+    return QStringLiteral("Vos données sont arrivées d’ailleurs entre-temps : %1. Les relire les met en place ; ce que "
+                          "vous avez saisi ici sera perdu.")
+        .arg(dossier);
+}
+
 } // namespace Quillet

@@ -122,6 +122,10 @@ private slots:
         QVERIFY(Ecran::cliquer(feuille, "Prendre 1 livre"));
         QCOMPARE(maison.livres(), ailleurs);
         QCOMPARE(Dialogues::devant(), feuille);
+        QVERIFY(Ecran::cliquer(feuille, "Les relire"));
+        QVERIFY(Ecran::cliquer(feuille, "Prendre 1 livre"));
+        ailleurs[0].prix = Centimes{9900};
+        QCOMPARE(maison.livres(), ailleurs);
     }
 
     void pasLesLivresDUnExemple()

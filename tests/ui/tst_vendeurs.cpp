@@ -107,6 +107,29 @@ private slots:
         QCOMPARE(reglages().douane.codeSH, "490199");
     }
 
+    // Read again from the sheet that hides the window's own line; what changed there too is not written over.
+    void changesAilleurs()
+    {
+        Feuille *feuille = ouvrirLaFeuille();
+        const auto ailleurs = [&](const QString &nom) {
+            Reglages autres = lus();
+            autres.vendeurs[Vendeur::davrel].nom = nom;
+            Fichier::ecrire(banc_->donnees.cheminUtilisateur("donnees/reglages.json"), Json::encoder(autres));
+        };
+        ailleurs("Anne Roux");
+        QVERIFY(remplir(feuille, "Nom court, vendeur", "Anne"));
+        QCOMPARE(texte(feuille, "Nom court, vendeur"), "Anne");
+        QVERIFY(Ecran::cliquer(feuille, "Les relire"));
+        QCOMPARE(lus().vendeurs[Vendeur::davrel].nom, "Anne Roux");
+        QCOMPARE(lus().vendeurs[Vendeur::davrel].nomCourt, "Anne");
+        ailleurs("Anne Brun");
+        QVERIFY(remplir(feuille, "Nom, vendeur", "Anna"));
+        QVERIFY(Ecran::cliquer(feuille, "Les relire"));
+        QCOMPARE(texte(feuille, "Nom, vendeur"), "Anne Brun");
+        QVERIFY(dit("Changé ailleurs aussi : « Anna »"));
+        QCOMPARE(lus().vendeurs[Vendeur::davrel].nom, "Anne Brun");
+    }
+
     void lesEmballagesSurLaFeuille()
     {
         Feuille *feuille = ouvrirLaFeuille();
@@ -236,6 +259,11 @@ private slots:
             const DisquePlein plein;
             QVERIFY(Ecran::cliquer(feuille, "Commencer avec ce livre"));
         }
+        QVERIFY(!Ecran::controle(feuille, "Les relire"));
+        QVERIFY(QDir().mkdir(banc_->donnees.cheminUtilisateur("donnees"))); // by another computer
+        QVERIFY(Ecran::cliquer(feuille, "Commencer avec ce livre"));
+        QVERIFY(dit("arrivées d’ailleurs entre-temps") && Ecran::controle(feuille, "Les relire"));
+        QVERIFY(QDir().rmdir(banc_->donnees.cheminUtilisateur("donnees")));
         const NumerotationFactures series{banc_->donnees.preferences()};
         QCOMPARE(series.dernier(Vendeur::davrel), "2026-005");
         QVERIFY(Ecran::cliquer(feuille, "Commencer avec ce livre"));

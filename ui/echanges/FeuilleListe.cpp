@@ -1,12 +1,11 @@
 #include "ui/echanges/FeuilleListe.h"
 
-#include "composants/Alerte.h"
 #include "composants/Boutons.h"
 #include "composants/Libelle.h"
 #include "composants/Pile.h"
-#include "textes/TextesGestes.h"
 #include "textes/TextesListe.h"
 #include "textes/TextesReglages.h"
+#include "ui/AlerteRelecture.h"
 #include "ui/Contexte.h"
 #include "ui/echanges/Listes.h"
 #include "ui/echanges/RangeesDeListe.h"
@@ -38,7 +37,7 @@ FeuilleListe::FeuilleListe(const Contexte &contexte, const QByteArray &octets, c
       resume_(texte(Libelle::Rang::principal)),
       colonnes_(texte(Libelle::Rang::secondaire)),
       rangees_(new RangeesDeListe),
-      erreur_(new Alerte),
+      erreur_(new AlerteRelecture(contexte.catalogue)),
       prendre_(new QPushButton)
 {
     Libelle *regle =
@@ -98,7 +97,7 @@ void FeuilleListe::prendre()
         contexte_.historique.remplacer(liste_.appliquee(contexte_.donnees().livres), TextesListe::geste(liste_));
         accept();
     } catch (const ErreurStockage &echec) {
-        erreur_->montrer(TextesGestes::nonEnregistre(echec));
+        erreur_->montrer(echec);
     }
 }
 

@@ -7,7 +7,7 @@ class QPushButton;
 
 namespace Quillet {
 
-class Alerte;
+class AlerteRelecture;
 class Libelle;
 class RangeesDeListe;
 struct Contexte;
@@ -34,7 +34,7 @@ private:
     Libelle *resume_;
     Libelle *colonnes_;
     RangeesDeListe *rangees_;
-    Alerte *erreur_;
+    AlerteRelecture *erreur_;
     QPushButton *prendre_;
 };
 

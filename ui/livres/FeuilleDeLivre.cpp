@@ -1,12 +1,11 @@
 #include "ui/livres/FeuilleDeLivre.h"
 
-#include "composants/Alerte.h"
 #include "composants/Defilement.h"
 #include "composants/Pile.h"
 #include "model/Catalogue.h"
 #include "model/controle/Objections.h"
 #include "textes/NomsVendeurs.h"
-#include "textes/TextesGestes.h"
+#include "ui/AlerteRelecture.h"
 #include "ui/Contexte.h"
 #include "ui/livres/FormulaireLivre.h"
 
@@ -26,21 +25,27 @@ FeuilleDeLivre::FeuilleDeLivre(const QString &titre, const Contexte &contexte, Q
     : Feuille(titre, parent),
       contexte_(contexte),
       formulaire_(new FormulaireLivre(contexte.images)),
-      echec_(new Alerte),
+      echec_(new AlerteRelecture(contexte.catalogue)),
       lecture_(this)
 {
     lecture_.setSingleShot(true);
     lecture_.setInterval(tempsDeLecture);
-    const Donnees &donnees = contexte.donnees();
+    cadrer();
+    connect(echec_, &AlerteRelecture::relu, this, &FeuilleDeLivre::cadrer);
+    connect(formulaire_, &FormulaireLivre::refuse, &lecture_, qOverload<>(&QTimer::start));
+    prendreLaTaille(taille);
+}
+
+void FeuilleDeLivre::cadrer()
+{
+    const Donnees &donnees = contexte_.donnees();
     FormulaireLivre::Cadre cadre;
     cadre.livres = donnees.livres;
     cadre.reperes =
-        Objections::reperes(donnees, QDir(contexte.catalogue.ressources().chemin(QStringLiteral("couvertures"))));
+        Objections::reperes(donnees, QDir(contexte_.catalogue.ressources().chemin(QStringLiteral("couvertures"))));
     for (const Vendeur vendeur : donnees.vendeurs())
         cadre.vendeurs.append({vendeur, NomsVendeurs::court(vendeur, donnees)});
     formulaire_->setCadre(cadre);
-    connect(formulaire_, &FormulaireLivre::refuse, &lecture_, qOverload<>(&QTimer::start));
-    prendreLaTaille(taille);
 }
 
 QWidget *FeuilleDeLivre::page()
@@ -53,15 +58,15 @@ QWidget *FeuilleDeLivre::page()
 
 bool FeuilleDeLivre::tenter(const std::function<void()> &geste)
 {
-    QString echec;
     try {
         geste();
     } catch (const Echec &erreur) {
-        echec = TextesGestes::nonEnregistre(erreur);
+        echec_->montrer(erreur);
         lecture_.start();
+        return false;
     }
-    echec_->montrer(echec);
-    return echec.isEmpty();
+    echec_->montrer({});
+    return true;
 }
 
 } // namespace Quillet

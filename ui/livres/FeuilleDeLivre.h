@@ -8,7 +8,7 @@
 
 namespace Quillet {
 
-class Alerte;
+class AlerteRelecture;
 class FormulaireLivre;
 struct Contexte;
 
@@ -29,9 +29,11 @@ protected:
 
     const Contexte &contexte_;
     FormulaireLivre *formulaire_;
+    AlerteRelecture *echec_;
 
 private:
-    Alerte *echec_;
+    void cadrer();
+
     QTimer lecture_;
 };
 

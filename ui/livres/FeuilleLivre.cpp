@@ -3,8 +3,11 @@
 #include "composants/Boutons.h"
 #include "composants/Pile.h"
 #include "model/Catalogue.h"
+#include "model/EditionLivres.h"
 #include "model/Historique.h"
+#include "textes/TextesDonnees.h"
 #include "textes/TextesGestes.h"
+#include "ui/AlerteRelecture.h"
 #include "ui/BoutonsAnnulation.h"
 #include "ui/Contexte.h"
 #include "ui/Raccourcis.h"
@@ -14,6 +17,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <utility>
 
 namespace Quillet {
 
@@ -30,15 +34,20 @@ FeuilleLivre::FeuilleLivre(const Contexte &contexte, qint64 id, const QList<qint
     meubler(Pile::enRangee({}, {annulation, precedent, suivant}), page());
 
     connect(annulation, &BoutonsAnnulation::annuler, this,
-            [this] { tenter([this] { montrer(contexte_.historique.annuler()); }); });
+            [this] { defaire([this] { return contexte_.historique.annuler(); }); });
     connect(annulation, &BoutonsAnnulation::retablir, this,
-            [this] { tenter([this] { montrer(contexte_.historique.retablir()); }); });
+            [this] { defaire([this] { return contexte_.historique.retablir(); }); });
     connect(precedent, &QPushButton::clicked, this, [this] { passer(-1); });
     connect(suivant, &QPushButton::clicked, this, [this] { passer(1); });
     connect(formulaire_, &FormulaireLivre::saisi, this, [this](const Livre &livre, const QString &geste) {
         compterPourFait();
-        enregistrer(livre, geste);
+        enregistrer(livre, formulaire_->couverture(), geste);
     });
+    connect(echec_, &AlerteRelecture::vaRelire, this, [this] {
+        if (const Livre *avant = this->livre())
+            saisie_ = {*avant, formulaire_->livre(), formulaire_->couverture()};
+    });
+    connect(echec_, &AlerteRelecture::relu, this, &FeuilleLivre::reprendreLaSaisie);
     connect(&contexte.catalogue, &Catalogue::change, this, &FeuilleLivre::actualiser);
     actualiser();
     formulaire_->prendreLeFocus();
@@ -59,14 +68,38 @@ void FeuilleLivre::actualiser()
     }
 }
 
-void FeuilleLivre::enregistrer(const Livre &livre, const QString &geste)
+void FeuilleLivre::enregistrer(const Livre &livre, const std::optional<CouverturePrete> &couverture,
+                               const QString &geste)
 {
-    const auto &couverture = formulaire_->couverture();
     const auto ecrire = [&] {
         contexte_.historique.modifier(couverture ? avecCouverture(contexte_, livre, *couverture) : livre, geste);
     };
     if (tenter(ecrire))
         actualiser();
+}
+
+// Over the book as it was read again.
+void FeuilleLivre::reprendreLaSaisie()
+{
+    const auto saisie = std::exchange(saisie_, std::nullopt);
+    if (!saisie)
+        return;
+    const Livre *relu = livre();
+    if (!relu)
+        return echec_->montrer(TextesDonnees::livreRetireAilleurs());
+    Livre apres = *relu;
+    const bool entiere = EditionLivres::reporter(saisie->avant, saisie->livre, apres);
+    if (apres != *relu || saisie->couverture)
+        enregistrer(apres, saisie->couverture, TextesGestes::modification(apres));
+    if (!entiere)
+        echec_->montrer(TextesDonnees::saisieNonReprise());
+}
+
+// What is still being read would have no book to go to, if this leads to another.
+void FeuilleLivre::defaire(const std::function<std::optional<qint64>()> &geste)
+{
+    if (formulaire_->conclure())
+        tenter([&] { montrer(geste()); });
 }
 
 // A book that is gone, by what was undone, gives its place to a neighbour; the last one closes the sheet.
@@ -104,7 +137,7 @@ bool FeuilleLivre::conclure()
         return false;
     const Livre saisi = formulaire_->livre();
     if (const Livre *enregistre = livre(); enregistre && (saisi != *enregistre || formulaire_->couverture()))
-        enregistrer(saisi, TextesGestes::modification(saisi));
+        enregistrer(saisi, formulaire_->couverture(), TextesGestes::modification(saisi));
     return true;
 }
 

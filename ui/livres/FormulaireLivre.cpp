@@ -131,6 +131,7 @@ void FormulaireLivre::setCadre(const Cadre &cadre)
     vendeur_->clear();
     for (const auto &[vendeur, nom] : cadre.vendeurs)
         vendeur_->ajouter(nom, brut(vendeur));
+    vendeur_->montrer(brut(livre_.vendeur));
     rangeeDuVendeur_->setVisible(cadre.vendeurs.size() > 1);
 }
 

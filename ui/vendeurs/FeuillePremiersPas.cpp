@@ -1,6 +1,5 @@
 #include "ui/vendeurs/FeuillePremiersPas.h"
 
-#include "composants/Alerte.h"
 #include "composants/Boutons.h"
 #include "composants/ChampDeFiche.h"
 #include "composants/Defilement.h"
@@ -13,7 +12,9 @@
 #include "model/EditionLivres.h"
 #include "model/EditionReglages.h"
 #include "textes/NomsVendeurs.h"
+#include "textes/TextesDonnees.h"
 #include "textes/TextesReglages.h"
+#include "ui/AlerteRelecture.h"
 #include "ui/Contexte.h"
 #include "ui/livres/FormulaireLivre.h"
 #include "ui/vendeurs/FicheEmballages.h"
@@ -53,7 +54,7 @@ FeuillePremiersPas::FeuillePremiersPas(const Contexte &contexte, QWidget *parent
       pages_(new QStackedWidget),
       titre_(new Libelle({})),
       livre_(new FormulaireLivre(contexte.images)),
-      echec_(new Alerte),
+      echec_(new AlerteRelecture(contexte.catalogue)),
       precedent_(Boutons::deFeuille(QStringLiteral("Précédent"))),
       plusTard_(Boutons::deFeuille(QStringLiteral("Plus tard"))),
       suivant_(Boutons::deFeuille({}))
@@ -94,6 +95,7 @@ QWidget *FeuillePremiersPas::page(const QString &consigne, QWidget *contenu)
 QWidget *FeuillePremiersPas::pied()
 {
     Boutons::rendrePrincipal(suivant_);
+    connect(echec_, &AlerteRelecture::relu, this, [this] { Feuille::reject(); });
     connect(precedent_, &QPushButton::clicked, this, [this] {
         passerA(static_cast<Page>(pages_->currentIndex() - 1)); // what is wrong here may wait
     });
@@ -203,7 +205,9 @@ void FeuillePremiersPas::terminer(bool avecLeLivre)
                                 couvertures);
         contexte_.catalogue.recharger();
     } catch (const Echec &erreur) {
-        echec_->montrer(erreur.texte());
+        const QDir la = contexte_.catalogue.stockage().donneesPersonnelles();
+        const bool entreTemps = la.exists();
+        echec_->montrer(entreTemps ? TextesDonnees::arriveesEntreTemps(la.path()) : erreur.texte(), entreTemps);
         return;
     }
     reprendreLesSeries();

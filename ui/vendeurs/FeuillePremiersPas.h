@@ -12,7 +12,7 @@ class QStackedWidget;
 
 namespace Quillet {
 
-class Alerte;
+class AlerteRelecture;
 class FicheEmballages;
 class FormulaireLivre;
 class Libelle;
@@ -56,7 +56,7 @@ private:
     PasDuVendeur *vendeurs_ = nullptr;
     FicheEmballages *emballages_ = nullptr;
     FormulaireLivre *livre_;
-    Alerte *echec_;
+    AlerteRelecture *echec_;
     QPushButton *precedent_;
     QPushButton *plusTard_;
     QPushButton *suivant_;

@@ -12,12 +12,14 @@
 #include "model/EditionReglages.h"
 #include "textes/TextesGestes.h"
 #include "textes/TextesReglages.h"
+#include "ui/AlerteRelecture.h"
 #include "ui/BoutonsAnnulation.h"
 #include "ui/Contexte.h"
 #include "ui/vendeurs/FeuillePremiersPas.h"
 #include "ui/vendeurs/FicheEmballages.h"
 #include "ui/vendeurs/FicheMentions.h"
 #include "ui/vendeurs/FicheVendeur.h"
+#include "ui/vendeurs/SaisiesGardees.h"
 
 #include <QPushButton>
 
@@ -50,7 +52,7 @@ void FeuilleVendeurs::ouvrir(const Contexte &contexte, QWidget *parent)
 }
 
 FeuilleVendeurs::FeuilleVendeurs(const Contexte &contexte, QWidget *parent)
-    : Feuille(titre, parent), contexte_(contexte), echec_(new Alerte)
+    : Feuille(titre, parent), contexte_(contexte), echec_(new AlerteRelecture(contexte.catalogue))
 {
     auto *tete = new Libelle(titre);
     tete->setFont(Theme::titreSection());
@@ -66,6 +68,7 @@ FeuilleVendeurs::FeuilleVendeurs(const Contexte &contexte, QWidget *parent)
             [this] { tenter([this] { contexte_.historique.retablir(); }); });
     meubler(Pile::enRangee({.espace = 12}, {tete, annulation}), page());
     connect(&contexte.catalogue, &Catalogue::change, this, &FeuilleVendeurs::montrer);
+    SaisiesGardees::suivre(echec_, this);
     montrer();
     prendreLaTaille(taille);
     vendeurs_.first().fiche->prendreLeFocus();
@@ -219,6 +222,7 @@ QString FeuilleVendeurs::ecrire(const Reglages &apres, const QString &chemin, co
             nouveau_.reset();
     }
     QString echec;
+    echec_->montrer({});
     try {
         if (avant.has_value() != nouveau_.has_value())
             contexte_.historique.remplacer(aGarder, QStringLiteral("ajout d’un vendeur"));
@@ -227,10 +231,11 @@ QString FeuilleVendeurs::ecrire(const Reglages &apres, const QString &chemin, co
     } catch (const Echec &erreur) {
         nouveau_ = avant;
         echec = TextesGestes::nonEnregistre(erreur);
+        if (dynamic_cast<const DonneesChangees *>(&erreur))
+            echec_->montrer(erreur);
     }
     if (echec.isEmpty())
         tentes_.clear();
-    echec_->montrer({});
     return echec;
 }
 
@@ -278,13 +283,12 @@ void FeuilleVendeurs::reject()
 
 void FeuilleVendeurs::tenter(const std::function<void()> &geste)
 {
-    QString echec;
+    echec_->montrer({});
     try {
         geste();
     } catch (const Echec &erreur) {
-        echec = TextesGestes::nonEnregistre(erreur);
+        echec_->montrer(erreur);
     }
-    echec_->montrer(echec);
 }
 
 } // namespace Quillet

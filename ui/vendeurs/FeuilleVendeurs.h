@@ -14,6 +14,7 @@ class QPushButton;
 namespace Quillet {
 
 class Alerte;
+class AlerteRelecture;
 class FicheEmballages;
 class FicheMentions;
 class FicheVendeur;
@@ -45,7 +46,7 @@ private:
     [[nodiscard]] QWidget *enSuspens();
 
     const Contexte &contexte_;
-    Alerte *echec_;
+    AlerteRelecture *echec_;
     struct Fiche
     {
         FicheVendeur *fiche;

@@ -141,6 +141,7 @@ FicheEmballages::Rangee FicheEmballages::creer(qsizetype rang)
 
 void FicheEmballages::montrer()
 {
+    echec_->montrer({});
     const Reglages &reglages = champs_.reglages();
     const QList<Emballage> &emballages = reglages.emballages;
     while (rangees_.size() > emballages.size()) {
@@ -191,8 +192,9 @@ void FicheEmballages::deplacer(qsizetype rang, qsizetype pas)
 
 void FicheEmballages::ecrire(const Reglages &apres, const QString &geste)
 {
-    echec_->montrer(champs_.ecrire(apres, liste, geste));
+    const QString refus = champs_.ecrire(apres, liste, geste);
     montrer();
+    echec_->montrer(refus);
 }
 
 void FicheEmballages::prendreLeFocus()
