@@ -8,13 +8,13 @@
 #include "echanges/Reprise.h"
 #include "textes/TextesReprise.h"
 #include "ui/Contexte.h"
+#include "ui/echanges/DialoguesDeFichier.h"
 #include "ui/echanges/FeuilleCopies.h"
 #include "ui/echanges/FeuilleImport.h"
 
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QStandardPaths>
 #include <QThread>
 
 #include <chrono>
@@ -30,28 +30,6 @@ const QString cleDossier = QStringLiteral("dossierArchives");
 const QString suffixe = QStringLiteral(".zip");
 const QString filtre = QStringLiteral("Archives (*.zip)");
 const QString titreExport = QStringLiteral("Exporter mes données");
-
-QString dossierPropose(const Contexte &contexte)
-{
-    const QString dossier = contexte.preferences.texte(cleDossier);
-    return !dossier.isEmpty() && QDir(dossier).exists()
-               ? dossier
-               : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-}
-
-QFileDialog *dialogue(const QString &titre, const Contexte &contexte, QWidget *parent)
-{
-    auto *dialogue = new QFileDialog(parent, titre, dossierPropose(contexte), filtre);
-    dialogue->setAttribute(Qt::WA_DeleteOnClose);
-    return dialogue;
-}
-
-void prevenir(const QString &titre, const QString &texte, QWidget *parent)
-{
-    auto *boite = new QMessageBox(QMessageBox::Warning, titre, texte, QMessageBox::Ok, parent);
-    boite->setAttribute(Qt::WA_DeleteOnClose);
-    boite->open();
-}
 
 void direExporte(const QString &chemin, const QString &absents, QWidget *parent)
 {
@@ -84,7 +62,7 @@ Echanges::~Echanges()
 
 void Echanges::exporter()
 {
-    QFileDialog *choix = dialogue(titreExport, contexte_, fenetre_);
+    QFileDialog *choix = DialoguesDeFichier::choix(titreExport, filtre, contexte_.preferences, cleDossier, fenetre_);
     choix->setAcceptMode(QFileDialog::AcceptSave);
     choix->setDefaultSuffix(suffixe.sliced(1));
     choix->selectFile(TextesReprise::nomDExport(contexte_.jour.aujourdhui()));
@@ -107,7 +85,8 @@ void Echanges::enregistrer(const QString &choisi)
             Archive::ecrire(*chemin, bagage);
         });
     } catch (const Echec &erreur) {
-        prevenir(titreExport, QStringLiteral("Vos données n’ont pas été exportées.\n%1").arg(erreur.texte()), fenetre_);
+        DialoguesDeFichier::prevenir(
+            titreExport, QStringLiteral("Vos données n’ont pas été exportées.\n%1").arg(erreur.texte()), fenetre_);
         return;
     }
     contexte_.preferences.retenirSiPossible(cleDossier, QFileInfo(*chemin).absolutePath());
@@ -116,7 +95,8 @@ void Echanges::enregistrer(const QString &choisi)
 
 void Echanges::importer()
 {
-    QFileDialog *choix = dialogue(QStringLiteral("Importer"), contexte_, fenetre_);
+    QFileDialog *choix =
+        DialoguesDeFichier::choix(QStringLiteral("Importer"), filtre, contexte_.preferences, cleDossier, fenetre_);
     choix->setFileMode(QFileDialog::ExistingFile);
     connect(choix, &QFileDialog::fileSelected, this, [this](const QString &archive) {
         sansCopie([&] { return montrer(contexte_, archive, QStringLiteral("Importer"), fenetre_); });
@@ -166,7 +146,7 @@ QDialog *Echanges::montrer(const Contexte &contexte, const QString &archive, con
         Attente::jusquAuBout(parent, QStringLiteral("Lecture de l’archive…"),
                              [&] { reprise = Reprise::preparer(archive, demeure, jour); });
     } catch (const Echec &erreur) {
-        prevenir(geste, erreur.texte(), parent);
+        DialoguesDeFichier::prevenir(geste, erreur.texte(), parent);
         return nullptr;
     }
     auto *feuille = new FeuilleImport(contexte, std::move(reprise), geste, parent);

@@ -7,35 +7,17 @@
 #include "model/controle/Objections.h"
 #include "textes/TextesListe.h"
 #include "ui/Contexte.h"
+#include "ui/echanges/DialoguesDeFichier.h"
 #include "ui/echanges/FeuilleListe.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QMessageBox>
-#include <QStandardPaths>
 
 namespace Quillet {
 
 namespace {
 
 const QString cleDossier = QStringLiteral("dossierListes");
-
-QFileDialog *dialogue(const QString &titre, const QString &filtre, const Contexte &contexte, QWidget *fenetre)
-{
-    const QString dossier = contexte.preferences.texte(cleDossier);
-    const bool connu = !dossier.isEmpty() && QDir(dossier).exists();
-    auto *dialogue = new QFileDialog(
-        fenetre, titre, connu ? dossier : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation), filtre);
-    dialogue->setAttribute(Qt::WA_DeleteOnClose);
-    return dialogue;
-}
-
-void prevenir(const QString &titre, const QString &texte, QWidget *fenetre)
-{
-    auto *boite = new QMessageBox(QMessageBox::Warning, titre, texte, QMessageBox::Ok, fenetre);
-    boite->setAttribute(Qt::WA_DeleteOnClose);
-    boite->open();
-}
 
 Regles::Reperes reperes(const Catalogue &catalogue)
 {
@@ -55,7 +37,8 @@ QByteArray octets(const QString &chemin)
 void Listes::lire(const Contexte &contexte, QWidget *fenetre)
 {
     QFileDialog *choix =
-        dialogue(QStringLiteral("Lire une liste"), QStringLiteral("Listes (*.csv *.tsv *.txt)"), contexte, fenetre);
+        DialoguesDeFichier::choix(QStringLiteral("Lire une liste"), QStringLiteral("Listes (*.csv *.tsv *.txt)"),
+                                  contexte.preferences, cleDossier, fenetre);
     choix->setFileMode(QFileDialog::ExistingFile);
     QObject::connect(choix, &QFileDialog::fileSelected, fenetre, [&contexte, fenetre](const QString &chemin) {
         contexte.preferences.retenirSiPossible(cleDossier, QFileInfo(chemin).absolutePath());
@@ -76,7 +59,7 @@ void Listes::montrer(const Contexte &contexte, const QString &chemin, QWidget *f
                              });
         (new FeuilleListe(contexte, lus, liste, fenetre))->ouvrir();
     } catch (const Echec &echec) {
-        prevenir(QStringLiteral("Lire une liste"), echec.texte(), fenetre);
+        DialoguesDeFichier::prevenir(QStringLiteral("Lire une liste"), echec.texte(), fenetre);
     }
 }
 
@@ -88,7 +71,8 @@ ListeDeLivres Listes::lue(const QByteArray &octets, const Contexte &contexte)
 void Listes::ecrire(const Contexte &contexte, QWidget *fenetre)
 {
     const QString titre = QStringLiteral("Écrire la liste des livres");
-    QFileDialog *choix = dialogue(titre, QStringLiteral("Listes (*.csv)"), contexte, fenetre);
+    QFileDialog *choix =
+        DialoguesDeFichier::choix(titre, QStringLiteral("Listes (*.csv)"), contexte.preferences, cleDossier, fenetre);
     choix->setAcceptMode(QFileDialog::AcceptSave);
     choix->setDefaultSuffix(QStringLiteral("csv"));
     choix->selectFile(TextesListe::nomDeFichier(contexte.jour.aujourdhui()));
@@ -100,7 +84,8 @@ void Listes::ecrire(const Contexte &contexte, QWidget *fenetre)
             Fichier::ecrire(*chemin, ListeDeLivres::ecrite(contexte.donnees()));
             contexte.preferences.retenirSiPossible(cleDossier, QFileInfo(*chemin).absolutePath());
         } catch (const ErreurStockage &echec) {
-            prevenir(titre, QStringLiteral("La liste n’a pas été écrite.\n%1").arg(echec.texte()), fenetre);
+            DialoguesDeFichier::prevenir(titre, QStringLiteral("La liste n’a pas été écrite.\n%1").arg(echec.texte()),
+                                         fenetre);
         }
     });
     choix->open();
