@@ -17,6 +17,7 @@ namespace Quillet {
 namespace {
 
 const QString liste = QStringLiteral("liste.json");
+const QString ecart = QStringLiteral("ecart.json"); // in most, none
 
 template <typename T>
 T lireDans(const QDir &dossier, const QString &nom)
@@ -33,21 +34,35 @@ T lireDans(const QDir &dossier, const QString &nom)
 Avancee::Avancee(const QDir &reprise, const QDir &utilisateur)
     : reprise_(reprise), utilisateur_(utilisateur), noms_(lireDans<QList<QString>>(reprise, liste))
 {
+    if (Fichier::existe(reprise.filePath(ecart)))
+        ecart_ = lireDans<QList<QString>>(reprise, ecart).value(0);
 }
 
-void Avancee::noter(const QDir &reprise, const QStringList &noms)
+void Avancee::noter(const QDir &reprise, const QStringList &noms, const QString &ecart)
 {
+    if (!ecart.isEmpty())
+        Fichier::ecrire(reprise.filePath(Quillet::ecart), Json::encoder(QList<QString>{ecart}));
     Fichier::ecrire(reprise.filePath(liste), Json::encoder(QList<QString>(noms)));
 }
 
 void Avancee::placerLesFichiers()
 {
+    ecarter();
     const auto estDesDonnees = [](const QString &nom) { return nom.startsWith(PiecesDArchive::propres); };
     if (std::ranges::any_of(noms_, estDesDonnees)) {
         placerLesDonnees();
         retirerLesAutres();
     }
     placerCeuxDeLUtilisateur();
+}
+
+// Once: what stands there afterwards is what is being taken.
+void Avancee::ecarter() const
+{
+    const QString la = utilisateur_.filePath(PiecesDArchive::propres.chopped(1));
+    const auto existe = [](const QString &nom) { return Fichier::existe(nom) || QFileInfo(nom).isSymLink(); };
+    if (!ecart_.isEmpty() && !existe(utilisateur_.filePath(ecart_)) && existe(la))
+        Fichier::renommer(la, utilisateur_.filePath(ecart_));
 }
 
 // A book must not name a picture that is not there yet, be it for somebody who reads the same folder.

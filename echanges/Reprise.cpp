@@ -227,21 +227,44 @@ void Reprise::lireLesSeries()
 
 void Reprise::prendre(const SeriesFactures &series, const QDateTime &maintenant, const Attente &attendre)
 {
+    poursuivreJusquAuBout(attendre, [&] {
+        if (propres_)
+            exigerLaPlace(demeure_.utilisateur);
+        exigerTout(dossier_, noms_);
+        Copies(demeure_).avantReprise(maintenant);
+        engager(series, {});
+    });
+}
+
+QString Reprise::prendreALaPlace(const QDateTime &maintenant, const Attente &attendre)
+{
+    if (!propres_)
+        throw Echec(QStringLiteral("Cette copie n’a pas de livres à vous."));
+    const QString ecart =
+        QStringLiteral("donnees.illisible-%1").arg(maintenant.toString(QStringLiteral("yyyy-MM-dd-HHmmss-zzz")));
+    Demeure lisible = demeure_; // what the rest is kept of
+    lisible.donnees = Ressources(demeure_.donnees.dossier(), Origine::exemple);
+    poursuivreJusquAuBout(attendre, [&] {
+        exigerTout(dossier_, noms_);
+        Copies(lisible).avantReprise(maintenant);
+        engager({}, ecart);
+    });
+    return demeure_.utilisateur.filePath(ecart);
+}
+
+void Reprise::poursuivreJusquAuBout(const Attente &attendre, const std::function<void()> &engager) const
+{
     attendre([&] {
-        engager(series, maintenant);
+        engager();
         poursuivre([&] { Avancee(engagee(demeure_.utilisateur), demeure_.utilisateur).placerLesFichiers(); });
     });
     poursuivre([&] { finir(demeure_.utilisateur, demeure_.preferences); });
 }
 
-void Reprise::engager(const SeriesFactures &series, const QDateTime &maintenant) const
+void Reprise::engager(const SeriesFactures &series, const QString &ecart) const
 {
-    if (propres_)
-        exigerLaPlace(demeure_.utilisateur);
-    exigerTout(dossier_, noms_);
-    Copies(demeure_).avantReprise(maintenant);
     Fichier::ecrire(dossier_.filePath(PiecesDArchive::series), Json::encoder(series));
-    Avancee::noter(dossier_, noms_);
+    Avancee::noter(dossier_, noms_, ecart);
     nommer(dossier_.path(), demeure_.utilisateur); // from now on it counts
 }
 

@@ -56,6 +56,10 @@ public:
     // when it stopped on its way.
     void prendre(const SeriesFactures &series, const QDateTime &maintenant, const Attente &attendre = surPlace);
 
+    // The same in place of own data that cannot be read, and so are in no copy: their folder is put aside as it is,
+    // under the name that this gives. Only of an archive that has own data; the series stay.
+    QString prendreALaPlace(const QDateTime &maintenant, const Attente &attendre = surPlace);
+
     // Ends what was begun before the program stopped: to be called before anything is loaded. Throws Echec when it
     // cannot be: nothing must be loaded then.
     static void achever(const QDir &utilisateur, const Preferences &preferences);
@@ -68,7 +72,8 @@ private:
     void laisserOuPrendreLesModifications();
     void lireLesSeries();
     void completer() const;
-    void engager(const SeriesFactures &series, const QDateTime &maintenant) const;
+    void engager(const SeriesFactures &series, const QString &ecart) const;
+    void poursuivreJusquAuBout(const Attente &attendre, const std::function<void()> &engager) const;
     static void finir(const QDir &utilisateur, const Preferences &preferences);
 
     Demeure demeure_;

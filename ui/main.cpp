@@ -5,6 +5,7 @@
 #include "ui/InstanceUnique.h"
 #include "ui/LigneDeCommande.h"
 #include "ui/QuilletApp.h"
+#include "ui/echanges/RetourAuDemarrage.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -13,6 +14,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 
 using namespace Quillet;
 
@@ -38,6 +40,24 @@ QByteArray jetonDuLanceur()
     return jeton.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : jeton;
 }
 
+// Own data that cannot be read stop the program, unless a copy takes their place. Null: which was said, and declined.
+std::unique_ptr<QuilletApp> demarrer(const Stockage &donnees, const Preferences &preferences)
+{
+    for (;;)
+        try {
+            return std::make_unique<QuilletApp>(
+                Ressources::enVigueur(donnees.donneesPersonnelles()), donnees, preferences,
+                [] { return QDate::currentDate(); }, PagesSurveillees(), sourceDesMisesAJour());
+        } catch (const RessourceIllisible &erreur) {
+            const RetourAuDemarrage retour(donnees, preferences);
+            if (!retour.possible() || QGuiApplication::platformName() == QLatin1String("offscreen"))
+                throw;
+            std::fprintf(stderr, "%s\n", erreur.what());
+            if (!retour.accepte(erreur.texte()))
+                return nullptr;
+        }
+}
+
 int ouvrir(Bureau &bureau, const QByteArray &jeton)
 {
     InstanceUnique instance(InstanceUnique::communDeLUtilisateur());
@@ -47,13 +67,14 @@ int ouvrir(Bureau &bureau, const QByteArray &jeton)
         const Stockage donnees = Stockage::deLUtilisateur();
         const Preferences preferences = Preferences::deLUtilisateur();
         Reprise::achever(donnees.dossier(), preferences); // before anything of it is read
-        QuilletApp quillet(
-            Ressources::enVigueur(donnees.donneesPersonnelles()), donnees, preferences,
-            [] { return QDate::currentDate(); }, PagesSurveillees(), sourceDesMisesAJour());
-        QObject::connect(&instance, &InstanceUnique::appelee, &quillet.fenetre(), &Fenetre::ramener);
-        QObject::connect(&quillet.catalogue(), &Catalogue::recharge, &instance, &InstanceUnique::suivreLesDonnees);
+        const auto quillet = demarrer(donnees, preferences);
+        if (!quillet)
+            return 1;
+        instance.suivreLesDonnees(); // of a copy that took their place
+        QObject::connect(&instance, &InstanceUnique::appelee, &quillet->fenetre(), &Fenetre::ramener);
+        QObject::connect(&quillet->catalogue(), &Catalogue::recharge, &instance, &InstanceUnique::suivreLesDonnees);
         bureau.relever(); // most often it has answered by now: the first image is right at once
-        quillet.fenetre().show();
+        quillet->fenetre().show();
         return QApplication::exec();
     } catch (const Echec &erreur) {
         std::fprintf(stderr, "%s\n", erreur.what());

@@ -245,6 +245,39 @@ private slots:
         }
     }
 
+    // A copy stands for a folder that cannot be read, which keeps all it holds beside; wherever the disk fills up.
+    void aLaPlaceDeDonneesIllisibles()
+    {
+        bool entier = false;
+        for (rlim_t octets = 0; !entier; octets = octets * 2 + 1) {
+            const BancPropre banc;
+            banc.installer();
+            const Demeure demeure = banc.demeure();
+            QVERIFY(Copies(demeure).duJour(jourDuBanc));
+            const QString copie = Copies(demeure).liste().first().chemin;
+            auto apres = banc.fichiers();
+            banc.ecrireUtilisateur("donnees/livres.json", "[");
+            const auto avant = banc.fichiers();
+            for (const auto &[nom, contenu] : avant.asKeyValueRange())
+                if (nom.startsWith("donnees/"))
+                    apres.insert("donnees.illisible-2026-03-02-210409-000" + nom.sliced(7), contenu);
+            QString ecart;
+            const QString dit = erreurDe([&] {
+                const DisquePlein plein(octets);
+                ecart = Reprise::preparer(copie, demeure, jourDuBanc)->prendreALaPlace(maintenant);
+            });
+            entier = dit.isEmpty();
+            if (dit.startsWith("Import inachevé"))
+                Reprise::achever(QDir(banc.cheminUtilisateur()), banc.preferences());
+            else if (!entier) {
+                QCOMPARE(banc.fichiers(), avant);
+                continue;
+            }
+            QCOMPARE(banc.fichiers(), apres);
+            QVERIFY(!entier || ecart.endsWith("/donnees.illisible-2026-03-02-210409-000"));
+        }
+    }
+
     // What the copy would not hold is not replaced.
     void tropLourde()
     {

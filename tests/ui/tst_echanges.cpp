@@ -3,6 +3,7 @@
 #include "echanges/Reprise.h"
 #include "tests/BancEcran.h"
 #include "textes/TextesReprise.h"
+#include "ui/echanges/RetourAuDemarrage.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -54,6 +55,34 @@ class TestEchanges : public QObject
 
 private slots:
     void initTestCase() { QuilletApp::preparer(Theme::Mode::clair); }
+
+    // What stops a start offers the copies, which keep the folder beside.
+    void retourAuDemarrage()
+    {
+        Maison maison;
+        maison.demarrer();
+        QVERIFY(maison.copies().duJour(jourDuBanc));
+        maison.donnees.ecrireUtilisateur("donnees/livres.json", "[");
+        QVERIFY_THROWS_EXCEPTION(RessourceIllisible, maison.copies());
+        const RetourAuDemarrage retour(maison.donnees.stockage(), maison.donnees.preferences());
+        bool accepte = true;
+        const auto proposer = [&] {
+            accepte = retour.accepte("livres.json");
+            return true;
+        };
+        const auto cliquer = [](const char *bouton) {
+            return [bouton](QDialog *dialogue) { QVERIFY2(Ecran::cliquer(dialogue, bouton), bouton); };
+        };
+        QVERIFY(Dialogues::fairePuisRepondre(proposer, {cliquer("Fermer")}));
+        QVERIFY(!accepte && retour.possible());
+        QString dit;
+        QVERIFY(Dialogues::fairePuisRepondre(
+            proposer, {cliquer("Revenir à une copie…"), cliquer("Reprendre cette copie"), BancEcran::lire(dit)}));
+        QVERIFY(accepte);
+        QCOMPARE(maison.donnees.lireUtilisateur(dit.sliced(dit.indexOf("donnees.illisible")) + "/livres.json"), "[");
+        QCOMPARE(Catalogue::charge(maison.ressources(), maison.donnees.stockage())->donnees().livres,
+                 maison.donnees.livres);
+    }
 
     void emporter()
     {
