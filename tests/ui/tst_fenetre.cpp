@@ -310,8 +310,9 @@ private slots:
         banc.donnees.ecrireUtilisateur("donnees/destinations.json", Json::encoder(banc.donnees.destinations));
         bool tourne = false; // the window, while the disk is read
         bool vivante = false;
-        connect(qobject_cast<QAbstractButton *>(relire), &QAbstractButton::released, this,
-                [&] { QMetaObject::invokeMethod(this, [&] { tourne = true; }, Qt::QueuedConnection); });
+        const auto tour = [&] { tourne = true; };
+        const auto demander = [&] { QMetaObject::invokeMethod(this, tour, Qt::QueuedConnection); };
+        connect(qobject_cast<QAbstractButton *>(relire), &QAbstractButton::released, this, demander);
         connect(&banc.app->catalogue(), &Catalogue::recharge, this, [&] { vivante = tourne; });
         QVERIFY(Ecran::cliquer(&banc.app->fenetre(), "Les relire"));
         QVERIFY(vivante);
