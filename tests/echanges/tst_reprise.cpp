@@ -245,36 +245,33 @@ private slots:
         }
     }
 
-    // A copy stands for a folder that cannot be read, which keeps all it holds beside; wherever the disk fills up.
+    // A copy stands for a folder that cannot be read, which keeps all it holds beside; stopped on its way, it is ended.
     void aLaPlaceDeDonneesIllisibles()
     {
-        bool entier = false;
-        for (rlim_t octets = 0; !entier; octets = octets * 2 + 1) {
+        const QString tarif = "tarifs-colissimo-2027-01-01.json";
+        for (const bool arretee : {false, true}) {
             const BancPropre banc;
             banc.installer();
+            banc.ouvrir()->enregistrer(desTarifs("2027-01-01", Centimes{600}));
             const Demeure demeure = banc.demeure();
             QVERIFY(Copies(demeure).duJour(jourDuBanc));
-            const QString copie = Copies(demeure).liste().first().chemin;
             auto apres = banc.fichiers();
             banc.ecrireUtilisateur("donnees/livres.json", "[");
-            const auto avant = banc.fichiers();
-            for (const auto &[nom, contenu] : avant.asKeyValueRange())
+            for (const auto &[nom, contenu] : banc.fichiers().asKeyValueRange())
                 if (nom.startsWith("donnees/"))
                     apres.insert("donnees.illisible-2026-03-02-210409-000" + nom.sliced(7), contenu);
-            QString ecart;
-            const QString dit = erreurDe([&] {
-                const DisquePlein plein(octets);
-                ecart = Reprise::preparer(copie, demeure, jourDuBanc)->prendreALaPlace(maintenant);
-            });
-            entier = dit.isEmpty();
-            if (dit.startsWith("Import inachevé"))
-                Reprise::achever(QDir(banc.cheminUtilisateur()), banc.preferences());
-            else if (!entier) {
-                QCOMPARE(banc.fichiers(), avant);
-                continue;
-            }
+            const QDir dossier(banc.cheminUtilisateur());
+            QVERIFY(QFile::remove(dossier.filePath(tarif)));
+            if (arretee)
+                QVERIFY(dossier.mkdir(tarif));
+            const auto reprise = Reprise::preparer(Copies(demeure).liste().first().chemin, demeure, jourDuBanc);
+            if (arretee) {
+                QVERIFY_THROWS_EXCEPTION(RepriseInachevee, reprise->prendreALaPlace(maintenant));
+                QVERIFY(dossier.rmdir(tarif));
+                Reprise::achever(dossier, banc.preferences());
+            } else
+                QVERIFY(reprise->prendreALaPlace(maintenant).endsWith("/donnees.illisible-2026-03-02-210409-000"));
             QCOMPARE(banc.fichiers(), apres);
-            QVERIFY(!entier || ecart.endsWith("/donnees.illisible-2026-03-02-210409-000"));
         }
     }
 
