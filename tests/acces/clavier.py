@@ -16,7 +16,10 @@ def touche(*touches):
 
 
 def taper(texte):
-    subprocess.run(["xdotool", "type", "--clearmodifiers", "--delay", "15", texte], check=True)
+    for rang, ligne in enumerate(texte.split("\n")):
+        if rang:
+            touche("Return")  # which xdotool types otherwise
+        subprocess.run(["xdotool", "type", "--clearmodifiers", "--delay", "15", ligne], check=True)
     time.sleep(0.1)
 
 

@@ -152,6 +152,8 @@ def facturer(main, programme, quillet, chez_soi):
     fermer(main, programme, feuille)
     lue = lisible(subprocess.run(["pdftotext", Path(chez_soi) / FACTURE, "-"], capture_output=True, text=True,
                                  check=True).stdout)
+    for ligne in VENDEUR["Adresse"].split("\n"):
+        exiger(ligne in lue.split("\n"), f"« {ligne} » n’a pas sa ligne dans la facture : {lue}")
     for attendu in [VENDEUR["Nom"], VENDEUR["SIRET"], ACHETEUR, *(valeurs["Titre"] for valeurs in LIVRES)]:
         exiger(attendu in lue, f"« {attendu} » manque dans la facture : {lue}")
 
