@@ -160,7 +160,7 @@ void auHasard(const EssaiDeMaison &essai, const QString &dossier, Bilan &bilan)
     for (int arret = 0; arret < arrets; ++arret) {
         essai.preparer(dossier);
         const pid_t enfant = lancer([&] { return int(essai.faire(dossier)); });
-        std::this_thread::sleep_for(std::chrono::microseconds(QRandomGenerator::global()->bounded(60'000)));
+        std::this_thread::sleep_for(std::chrono::microseconds(QRandomGenerator::global()->bounded(12'000)));
         kill(enfant, SIGKILL);
         const int fait = attendre(enfant);
         const Fin fin = fait == int(Fin::fait) ? Fin::fait : Fin::tue;
@@ -210,21 +210,31 @@ int reprises(const Ressources &ressources, const QString &travail)
     for (const GesteDeMaison &geste : gestesDeMaison())
         essais.append(EssaiDeMaison(ressources, geste, travail));
     const QString dossier = travail + QStringLiteral("/Quillet");
-    Bilan arrets;
-    Bilan hasard;
-    Bilan echecs;
-    for (const EssaiDeMaison &essai : essais) {
-        auHasard(essai, dossier, hasard);
-        for (const Appels::Disque disque : disques) {
-            aChaqueAppel(essai, dossier, disque, 0, arrets);
-            for (const int erreur : {ENOSPC, EIO, EACCES, EMFILE})
-                aChaqueAppel(essai, dossier, disque, erreur, echecs);
-        }
-    }
-    std::printf("arrêts au hasard : %s\narrêts à chaque appel : %s\nappels mis en échec : %s\n",
-                hasard.texte().constData(), arrets.texte().constData(), echecs.texte().constData());
-    const int plein = dansUnProcessus([&] { return surUnDisquePlein(essais, travail + QStringLiteral("/disque")); });
-    return arrets.fautes + hasard.fautes + echecs.fautes + (plein != 0 ? 1 : 0);
+    int fautes = 0;
+    const auto essayer = [&](const char *quoi, const auto &essai) {
+        Bilan bilan;
+        essai(bilan);
+        std::printf("%s : %s\n", quoi, bilan.texte().constData());
+        std::fflush(stdout);
+        fautes += bilan.fautes;
+    };
+    essayer("arrêts au hasard", [&](Bilan &bilan) {
+        for (const EssaiDeMaison &essai : essais)
+            auHasard(essai, dossier, bilan);
+    });
+    fautes += dansUnProcessus([&] { return surUnDisquePlein(essais, travail + QStringLiteral("/disque")); }) != 0;
+    essayer("arrêts, un à chaque appel", [&](Bilan &bilan) {
+        for (const EssaiDeMaison &essai : essais)
+            for (const Appels::Disque disque : disques)
+                aChaqueAppel(essai, dossier, disque, 0, bilan);
+    });
+    essayer("appels mis en échec", [&](Bilan &bilan) {
+        for (const EssaiDeMaison &essai : essais)
+            for (const Appels::Disque disque : disques)
+                for (const int erreur : {ENOSPC, EIO, EACCES, EMFILE})
+                    aChaqueAppel(essai, dossier, disque, erreur, bilan);
+    });
+    return fautes;
 }
 
 } // namespace Quillet
