@@ -73,7 +73,7 @@ QList<qint64> numeros(const QList<Livre> &livres)
 
 Comparaison Comparaison::de(const Donnees &ici, const Donnees &la)
 {
-    const auto jour = [](const TarifsColissimo &tarifs) { return tarifs.validite.texte(); };
+    const auto jour = [](const TarifsColissimo &grilles) { return grilles.validite.texte(); };
     Comparaison comparaison{
         .livres = comparer(table(ici.livres, &Livre::id), table(la.livres, &Livre::id), &Livre::titre),
         .vendeurs = comparer(table(ici.reglages.vendeurs), table(la.reglages.vendeurs), &IdentiteVendeur::nom),

@@ -118,7 +118,8 @@ void Copies::eclaircir(bool avantReprise, QDate aujourdhui) const
 {
     QList<Copie> copies = liste();
     copies.removeIf([&](const Copie &copie) { return copie.avantReprise != avantReprise; });
-    std::ranges::stable_partition(copies, [&](const Copie &copie) { return !estAVenir(copie, aujourdhui); });
+    std::stable_partition(copies.begin(), copies.end(),
+                          [&](const Copie &copie) { return !estAVenir(copie, aujourdhui); });
     for (qsizetype rang = gardees; rang < copies.size(); ++rang)
         Fichier::effacer(copies[rang].chemin);
 }
