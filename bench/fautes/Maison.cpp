@@ -30,14 +30,36 @@ void copier(const Maison &maison, const QString &)
     Copies(maison.demeure()).duJour(maintenant.date());
 }
 
+Livre avecCouverture(const Maison &maison, Livre livre)
+{
+    const QDir couvertures(maison.dossier().filePath(QStringLiteral("donnees/couvertures")));
+    livre.couverture =
+        Couvertures::deposer(couvertures, livre.titre, {image(9, int(livre.id)), QStringLiteral("png"), livre.teinte});
+    return livre;
+}
+
 void changerDeCouverture(const Maison &maison, const QString &)
 {
     const auto catalogue = maison.catalogue();
-    Livre livre = catalogue->donnees().livres.first();
-    const QDir couvertures(maison.dossier().filePath(QStringLiteral("donnees/couvertures")));
-    livre.couverture = Couvertures::nom(
-        Couvertures::deposer(couvertures, livre.titre, {image(9, 9), QStringLiteral("png"), livre.teinte}));
-    catalogue->modifier({livre});
+    catalogue->modifier({avecCouverture(maison, catalogue->donnees().livres.first())});
+}
+
+void ajouterUnLivre(const Maison &maison, const QString &)
+{
+    constexpr qint64 numero = 99;
+    const auto catalogue = maison.catalogue();
+    QList<Livre> livres = catalogue->donnees().livres;
+    if (livres.last().id != numero)
+        livres.append(livres.first());
+    livres.last().id = numero;
+    livres.last() = avecCouverture(maison, livres.last());
+    catalogue->remplacer(livres);
+}
+
+void commencer(const Maison &maison, const QString &)
+{
+    if (!maison.catalogue()->donnees().personnelles) // the first steps are not proposed twice
+        maison.creerLesDonnees(1);
 }
 
 } // namespace
@@ -49,7 +71,7 @@ Maison::Maison(Ressources ressources, const QString &dossier)
 {
 }
 
-void Maison::installer(int rang) const
+void Maison::creerLesDonnees(int rang) const
 {
     QList<Livre> livres = ressources_.lire<QList<Livre>>(QStringLiteral("livres")).first(2 + rang);
     QHash<QString, QByteArray> couvertures;
@@ -58,15 +80,21 @@ void Maison::installer(int rang) const
         livre.couverture = QStringLiteral("livre-%1").arg(livre.id); // the same name, of other bytes
         couvertures.insert(livre.couverture + QStringLiteral(".png"), image(rang, int(livre.id)));
     }
-    const auto reglages = ressources_.lire<Reglages>(QStringLiteral("reglages"));
-    DossierPersonnel::creer(Stockage(dossier_).donneesPersonnelles(), ressources_, reglages, livres, couvertures);
-    FraisPaypal frais = reglages.fraisPaypal;
+    DossierPersonnel::creer(Stockage(dossier_).donneesPersonnelles(), ressources_,
+                            ressources_.lire<Reglages>(QStringLiteral("reglages")), livres, couvertures);
+}
+
+void Maison::installer(int rang) const
+{
+    if (rang > 0)
+        creerLesDonnees(rang);
+    FraisPaypal frais = ressources_.lire<Reglages>(QStringLiteral("reglages")).fraisPaypal;
     frais.fixe = Centimes{10 + rang};
     Stockage(dossier_).ecrire(frais, Stockage::fichierDesFrais());
     if (rang > 1)
         Stockage(dossier_).ecrire(desTarifs("2099-01-01", Centimes{1}),
                                   QStringLiteral("tarifs-colissimo-2099-01-01.json"));
-    NumerotationFactures{preferences_}.retenir(QStringLiteral("2026-00%1").arg(rang), Vendeur::davrel);
+    NumerotationFactures{preferences_}.retenir(QStringLiteral("2026-00%1").arg(1 + rang), Vendeur::davrel);
 }
 
 std::unique_ptr<Catalogue> Maison::catalogue() const
@@ -101,8 +129,9 @@ QMap<QString, QByteArray> Maison::etat() const
     QDirIterator suite(dossier_.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     while (suite.hasNext()) {
         const QString nom = dossier_.relativeFilePath(suite.next());
-        const bool reste =
-            QDir::match(QStringLiteral("*.??????"), nom) || nom.startsWith(QLatin1String("reprise.partielle."));
+        const bool reste = QDir::match(QStringLiteral("*.??????"), suite.fileName())
+                           || nom.startsWith(QLatin1String("reprise.partielle."))
+                           || nom.startsWith(QLatin1String("donnees.nouveau/"));
         const bool sansLivre =
             nom.contains(QLatin1String("/couvertures/")) && !nommees.contains(Couvertures::nom(suite.fileName()));
         if (!reste && !sansLivre && !nom.startsWith(QLatin1String("copies/")))
@@ -113,9 +142,12 @@ QMap<QString, QByteArray> Maison::etat() const
 
 QList<GesteDeMaison> gestesDeMaison()
 {
-    return {{"importer", importer, true},
-            {"la copie du jour", copier, true},
-            {"un livre et sa couverture", changerDeCouverture, false}};
+    return {{"importer", 1, importer, true},
+            {"importer le premier", 0, importer, true},
+            {"la copie du jour", 1, copier, true},
+            {"les premiers livres et leurs couvertures", 0, commencer, false},
+            {"un nouveau livre et sa couverture", 1, ajouterUnLivre, false},
+            {"une autre couverture", 1, changerDeCouverture, false}};
 }
 
 } // namespace Quillet

@@ -13,8 +13,9 @@ class Maison
 public:
     Maison(Ressources ressources, const QString &dossier);
 
-    // Own data of that rank: its books, their pictures, its accepted fees, its last invoice.
+    // Data of that rank: own books and their pictures, unless it is 0, accepted fees, the last invoice.
     void installer(int rang) const;
+    void creerLesDonnees(int rang) const;
     [[nodiscard]] Demeure demeure() const;
     [[nodiscard]] std::unique_ptr<Catalogue> catalogue() const;
     // An archive unpacked here; its pictures, which are none, pass for good.
@@ -37,6 +38,7 @@ private:
 struct GesteDeMaison
 {
     const char *nom;
+    int rang; // of the data that it starts from
     void (*faire)(const Maison &maison, const QString &archive);
     bool laisseUneCopie;
 };

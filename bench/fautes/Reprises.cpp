@@ -41,7 +41,7 @@ public:
         autre.installer(2);
         Archive::ecrire(archive_, Bagage::de(autre.demeure(), QDate(2026, 3, 1)));
         const Maison temoin(ressources_, travail + QStringLiteral("/temoin"));
-        temoin.installer(1);
+        temoin.installer(geste_.rang);
         avant_ = temoin.etat();
         geste_.faire(temoin, archive_);
         apres_ = temoin.etat();
@@ -54,7 +54,7 @@ public:
     void preparer(const QString &dossier) const
     {
         QDir(dossier).removeRecursively();
-        Maison(ressources_, dossier).installer(1);
+        Maison(ressources_, dossier).installer(geste_.rang);
     }
 
     [[nodiscard]] Fin faire(const QString &dossier) const
@@ -106,8 +106,10 @@ private:
             return QStringLiteral("fait, sans copie");
         for (const Copie &copie : copies) {
             const auto reprise = maison.preparer(copie.chemin);
-            if (Json::encoder(reprise->donnees().livres) != avant_.value(QStringLiteral("donnees/livres.json"))
-                || !reprise->remarques().isEmpty() || reprise->series().isEmpty())
+            const QByteArray livres =
+                reprise->aDesDonneesPropres() ? Json::encoder(reprise->donnees().livres) : QByteArray();
+            if (livres != avant_.value(QStringLiteral("donnees/livres.json")) || !reprise->remarques().isEmpty()
+                || reprise->series().isEmpty())
                 return QStringLiteral("la copie n’est pas entière");
         }
         return {};
