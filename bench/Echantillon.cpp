@@ -1,8 +1,10 @@
 #include "bench/Echantillon.h"
 
+#include "echanges/CouverturePrete.h"
 #include "model/Livre.h"
 
 #include <QFile>
+#include <QImage>
 
 namespace Quillet {
 
@@ -14,12 +16,30 @@ void relier(const QString &fichier, const QString &lien)
         qFatal("Lien impossible : %s", qPrintable(lien));
 }
 
+// Of as many bytes and as long to read as a photograph.
+void peindre(const QString &fichier)
+{
+    QImage image(CouverturePrete::tailleAuPlus, QImage::Format_RGB32);
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            image.setPixel(x, y, qRgb(x / 4, y / 5, (x ^ y) & 0x3f));
+    if (!image.save(fichier, "jpg"))
+        qFatal("Image impossible : %s", qPrintable(fichier));
+}
+
 } // namespace
 
 Echantillon::Echantillon() : ressources_(Ressources::duProgramme()) {}
 
-Echantillon::Echantillon(int nombre, Images images) : ressources_(QDir(dossier_.filePath(QStringLiteral("partage"))))
+Echantillon::Echantillon(int nombre, Images images, Origine origine)
+    : ressources_(origine == Origine::utilisateur ? stockage().donneesPersonnelles()
+                                                  : QDir(dossier_.filePath(QStringLiteral("partage"))),
+                  origine)
 {
+    const bool siens = origine == Origine::utilisateur;
+    const QString peinte = dossier_.filePath(QStringLiteral("couverture.jpg"));
+    if (siens)
+        peindre(peinte);
     const Ressources livrees = Ressources::duProgramme();
     const QDir partage(ressources_.chemin({}));
     partage.mkpath(QStringLiteral("couvertures"));
@@ -32,10 +52,10 @@ Echantillon::Echantillon(int nombre, Images images) : ressources_(QDir(dossier_.
     livres.reserve(nombre);
     for (int i = 0; i < nombre; ++i) {
         Livre livre = modeles[i % modeles.size()];
-        const QString image = livrees.chemin(QStringLiteral("couvertures/") + livre.couverture);
+        const QString image = siens ? peinte : livrees.chemin(QStringLiteral("couvertures/") + livre.couverture);
         livre.id = i + 1;
         livre.vendeur = Vendeur::davrel;
-        livre.couverture.prepend(QStringLiteral("%1-").arg(livre.id));
+        livre.couverture = QStringLiteral("%1-%2").arg(QString::number(livre.id), QFileInfo(image).fileName());
         if (images == Images::avec && QFile::exists(image))
             relier(image, partage.filePath(QStringLiteral("couvertures/") + livre.couverture));
         livres.append(livre);

@@ -17,8 +17,8 @@ public:
     // The shipped one.
     Echantillon();
     // One of any size: the shipped books over and over, all of the first seller. With pictures, each has a file of its
-    // own.
-    Echantillon(int nombre, Images images);
+    // own: the shipped drawing, or, of the user's own books, a picture as the program keeps them.
+    Echantillon(int nombre, Images images, Origine origine = Origine::exemple);
 
     [[nodiscard]] const Ressources &ressources() const { return ressources_; }
     [[nodiscard]] Preferences preferences() const

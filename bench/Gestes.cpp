@@ -6,6 +6,7 @@
 #include "ui/commande/Couverture.h"
 #include "visite/Ecran.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QListWidget>
 #include <QMenuBar>
@@ -119,6 +120,25 @@ void changerUnPrix(Scene &scene)
     scene.reposer();
 }
 
+// By the action: a window without a window manager is not active, and hears no shortcut.
+void annuler(Scene &scene)
+{
+    for (QAction *action : scene.fenetre().findChildren<QAction *>())
+        if (action->shortcuts() == QKeySequence::keyBindings(QKeySequence::Undo) && action->isEnabled())
+            action->trigger();
+    scene.reposer();
+}
+
+// A new price leaves every button of the book to be changed; each change is undone again.
+double reporter(Scene &scene, int)
+{
+    const QPoint position = scene.milieu(scene.controle(QStringLiteral("Reporter")));
+    scene.tenir(position);
+    const double duree = scene.chronometrer([&] { scene.relacher(position); });
+    annuler(scene);
+    return duree;
+}
+
 double ouvrirLeRetour(Scene &scene, int)
 {
     return ouvrir(scene, QStringLiteral("Revenir aux valeurs d’origine…"));
@@ -159,6 +179,11 @@ QList<Couverture *> Gestes::couverturesVisibles(Scene &scene)
     if (couvertures.isEmpty())
         qFatal("Aucune couverture à l’écran");
     return couvertures;
+}
+
+Gestes::Geste Gestes::report()
+{
+    return {QStringLiteral("reporter"), QStringLiteral("« Reporter »"), changerUnPrix, reporter};
 }
 
 QList<Gestes::Geste> Gestes::frequents()

@@ -25,6 +25,8 @@ QList<Geste> frequents();
 QList<Geste> feuilles();
 // Going to a screen from the order's; the first time it is built.
 QList<Geste> ecrans();
+// A book's new prices carried to all its buttons, on the books' screen; undone again.
+Geste report();
 
 // Those that a click can reach; at least one.
 QList<Couverture *> couverturesVisibles(Scene &scene);

@@ -77,8 +77,10 @@ QList<Releve> mesurerEcran(Temoin &temoin)
 {
     QuilletApp::preparer();
     const Echantillon livre;
+    const Echantillon siens(2'000, Echantillon::Images::avec, Origine::utilisateur);
     return parTaille(uneImage, mesurer(Scene(temoin, livre), QStringLiteral("catalogue livré")), mesurer(temoin, 300),
-                     mesurer(temoin, 2'000));
+                     mesurer(temoin, 2'000))
+           + avecBut(uneImage, mesurer(Scene(temoin, siens), QStringLiteral("2 000 livres à soi")));
 }
 
 } // namespace Quillet

@@ -1,10 +1,9 @@
+#include "bench/Gestes.h"
 #include "bench/Mesures.h"
 #include "bench/Scene.h"
 #include "ui/ContenuPrincipal.h"
 #include "ui/Fenetre.h"
-#include "visite/Ecran.h"
 
-#include <QAction>
 #include <QListView>
 #include <QTest>
 
@@ -53,29 +52,13 @@ QList<double> choix(Scene &scene)
     return durees;
 }
 
-// By the action: a window without a window manager is not active, and hears no shortcut.
-void annuler(Scene &scene)
-{
-    for (QAction *action : scene.fenetre().findChildren<QAction *>())
-        if (action->shortcuts() == QKeySequence::keyBindings(QKeySequence::Undo) && action->isEnabled())
-            action->trigger();
-    scene.reposer();
-}
-
-// A new price leaves every button of the book to be changed; each change is undone again.
 QList<double> report(Scene &scene)
 {
-    const QString prix = QStringLiteral("Prix, en euros");
-    if (!Ecran::taper(&scene.fenetre(), prix, QStringLiteral("19,90")))
-        qFatal("Pas de prix à changer");
-    QTest::keyClick(&scene.controle(prix), Qt::Key_Return);
+    const Gestes::Geste geste = Gestes::report();
+    geste.preparer(scene);
     QList<double> durees;
-    while (durees.size() < fois) {
-        const QPoint position = scene.milieu(scene.controle(QStringLiteral("Reporter")));
-        scene.tenir(position);
-        durees.append(scene.chronometrer([&] { scene.relacher(position); }));
-        annuler(scene);
-    }
+    while (durees.size() < fois)
+        durees.append(geste.jouer(scene, static_cast<int>(durees.size())));
     return durees;
 }
 
@@ -103,7 +86,9 @@ QList<Releve> mesurerLivres(Temoin &temoin)
 {
     QuilletApp::preparer();
     return parTaille(uneImage, mesurer(temoin, Echantillon(), QStringLiteral("catalogue livré")), mesurer(temoin, 300),
-                     mesurer(temoin, 2'000));
+                     mesurer(temoin, 2'000))
+           + avecBut(uneImage, mesurer(temoin, Echantillon(2'000, Echantillon::Images::avec, Origine::utilisateur),
+                                       QStringLiteral("2 000 livres à soi")));
 }
 
 } // namespace Quillet

@@ -53,13 +53,18 @@ Releve releve(const QString &nom, const QString &unite, const QList<double> &val
     return {.nom = nom, .unite = unite, .mediane = centile(valeurs, 0.5), .centile95 = centile(valeurs, 0.95)};
 }
 
-QList<Releve> parTaille(double but, QList<Releve> peu, QList<Releve> beaucoup, QList<Releve> trop)
+QList<Releve> avecBut(double but, QList<Releve> releves)
 {
-    for (qsizetype i = 0; i < peu.size(); ++i) {
-        peu[i].but = beaucoup[i].but = but;
+    for (Releve &ligne : releves)
+        ligne.but = but;
+    return releves;
+}
+
+QList<Releve> parTaille(double but, const QList<Releve> &peu, const QList<Releve> &beaucoup, QList<Releve> trop)
+{
+    for (qsizetype i = 0; i < peu.size(); ++i)
         trop[i].reference = peu[i].mediane;
-    }
-    return peu + beaucoup + trop;
+    return avecBut(but, peu + beaucoup) + trop;
 }
 
 QString tableau(const QList<Releve> &releves, Forme forme)

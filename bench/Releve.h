@@ -21,9 +21,10 @@ struct Releve
 // The value below which this part (0 to 1) of the values lies; there must be one value at least.
 double centile(QList<double> valeurs, double part);
 Releve releve(const QString &nom, const QString &unite, const QList<double> &valeurs);
+QList<Releve> avecBut(double but, QList<Releve> releves);
 // The same rows with few books, many, and more than anybody will have: the first two have one goal, the last is held
 // against the first, to see how it grows.
-QList<Releve> parTaille(double but, QList<Releve> peu, QList<Releve> beaucoup, QList<Releve> trop);
+QList<Releve> parTaille(double but, const QList<Releve> &peu, const QList<Releve> &beaucoup, QList<Releve> trop);
 
 enum class Forme { texte, markdown };
 // The whole report, as one table.

@@ -12,8 +12,9 @@
 
 using namespace Quillet;
 
-// bench-depart vide|quillet <start, in nanoseconds of the monotonic clock>: opens one window, waits until it stops
-// changing, prints when its first and last images were done (ms) and what memory it holds and held (KiB), and leaves.
+// bench-depart vide|quillet <start, in nanoseconds of the monotonic clock> [folder of the user's data]: opens one
+// window, waits until it stops changing, prints when its first and last images were done (ms) and what memory it holds
+// and held (KiB), and leaves.
 namespace {
 
 using namespace std::chrono_literals;
@@ -71,8 +72,9 @@ int main(int argc, char **argv)
     InstanceUnique instance(InstanceUnique::communDeLUtilisateur());
     if (!instance.prendreLaPlace({}))
         return 1;
+    const Stockage stockage = arguments.size() > 3 ? Stockage(QDir(arguments.at(3))) : Stockage::deLUtilisateur();
     QuilletApp quillet(
-        Ressources::duProgramme(), Stockage::deLUtilisateur(), Preferences::deLUtilisateur(),
+        Ressources::enVigueur(stockage.donneesPersonnelles()), stockage, Preferences::deLUtilisateur(),
         [] { return QDate::currentDate(); }, horsReseau());
     bureau.relever();
     temoin.installEventFilter(new SansPointeur(&temoin)); // the last one sees events first
