@@ -180,7 +180,7 @@ QList<Livre> Catalogue::valeursLivrees() const
 
 void Catalogue::remplacer(const QList<Livre> &livres)
 {
-    personnel_.value().ecrire(livres, DossierPersonnel::livres());
+    personnel_.value().ecrire(livres);
     adopter(donnees_.livres, livres);
 }
 
@@ -188,7 +188,7 @@ void Catalogue::remplacer(const Reglages &reglages)
 {
     Reglages nouveaux = reglages;
     nouveaux.fraisPaypal = fraisDuDossier_;
-    personnel_.value().ecrire(nouveaux, DossierPersonnel::reglages());
+    personnel_.value().ecrire(nouveaux);
     nouveaux.fraisPaypal = donnees_.reglages.fraisPaypal;
     adopter(donnees_.reglages, nouveaux);
 }

@@ -1,36 +1,13 @@
 #include "model/DossierPersonnel.h"
 
-#include "model/Livre.h"
 #include "model/Reglages.h"
 #include "model/Ressources.h"
-
-#include <QCryptographicHash>
 
 #include <algorithm>
 
 namespace Quillet {
 
 namespace {
-
-QByteArray empreinte(const QByteArray &octets)
-{
-    return QCryptographicHash::hash(octets, QCryptographicHash::Sha256);
-}
-
-// Empty for a file that cannot be read.
-QByteArray empreinteDe(const QString &chemin)
-{
-    const auto octets = Fichier::lire(chemin, Fichier::Borne::donnees);
-    return octets ? empreinte(*octets) : QByteArray();
-}
-
-QHash<QString, QByteArray> empreintes(const QDir &dossier)
-{
-    QHash<QString, QByteArray> empreintes;
-    for (const QString &nom : Fichier::lister(dossier, QStringLiteral("*.json")))
-        empreintes.insert(nom, empreinteDe(dossier.filePath(nom)));
-    return empreintes;
-}
 
 void copier(const Ressources &modele, const QString &nom, const QDir &dossier)
 {
@@ -46,17 +23,25 @@ DonneesChangees::DonneesChangees(const QString &chemin)
 {
 }
 
-DossierPersonnel::DossierPersonnel(const QDir &dossier) : dossier_(dossier), empreintes_(empreintes(dossier)) {}
+DossierPersonnel::Contenus DossierPersonnel::lus(const QDir &dossier)
+{
+    Contenus lus;
+    for (const QString &nom : Fichier::lister(dossier, QStringLiteral("*.json")))
+        lus.insert(nom, Fichier::lire(dossier.filePath(nom), Fichier::Borne::donnees));
+    return lus;
+}
+
+DossierPersonnel::DossierPersonnel(const QDir &dossier) : dossier_(dossier), contenus_(lus(dossier)) {}
 
 QStringList DossierPersonnel::changes() const
 {
-    const auto actuelles = empreintes(dossier_);
+    const Contenus actuels = lus(dossier_);
     QStringList changes;
-    for (auto actuelle = actuelles.begin(); actuelle != actuelles.end(); ++actuelle)
-        if (empreintes_.value(actuelle.key()) != actuelle.value())
-            changes.append(actuelle.key());
-    for (const QString &nom : empreintes_.keys())
-        if (!actuelles.contains(nom))
+    for (auto actuel = actuels.begin(); actuel != actuels.end(); ++actuel)
+        if (contenus_.value(actuel.key()) != actuel.value())
+            changes.append(actuel.key());
+    for (const QString &nom : contenus_.keys())
+        if (!actuels.contains(nom))
             changes.append(nom);
     changes.sort();
     return changes;
@@ -70,13 +55,24 @@ QStringList DossierPersonnel::chemins() const
     return chemins;
 }
 
+void DossierPersonnel::ecrire(const QList<Livre> &livres)
+{
+    remplacer(DossierPersonnel::livres(), ecriture_.encoder(livres));
+}
+
+void DossierPersonnel::ecrire(const Reglages &reglages)
+{
+    remplacer(DossierPersonnel::reglages(), Json::encoder(reglages));
+}
+
+// Compared as they are: of two thousand books, a digest would take as long as the rest of a save.
 void DossierPersonnel::remplacer(const QString &nom, const QByteArray &octets)
 {
     const QString chemin = dossier_.filePath(nom);
-    if (empreinteDe(chemin) != empreintes_.value(nom))
+    if (Fichier::lire(chemin, Fichier::Borne::donnees) != contenus_.value(nom))
         throw DonneesChangees(chemin);
     Fichier::ecrire(chemin, octets);
-    empreintes_.insert(nom, empreinte(octets));
+    contenus_.insert(nom, octets);
 }
 
 void DossierPersonnel::creer(const QDir &dossier, const Ressources &modele, const Reglages &reglages,

@@ -1,17 +1,18 @@
 #pragma once
 
+#include "model/EcritureLivres.h"
 #include "model/Fichier.h"
-#include "model/Json.h"
 
 #include <QDir>
 #include <QHash>
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 namespace Quillet {
 
 class Ressources;
-struct Livre;
 struct Reglages;
 
 // Somebody else wrote a file since it was read here: another computer that shares the folder, an editor, a backup.
@@ -32,16 +33,17 @@ public:
     explicit DossierPersonnel(const QDir &dossier);
 
     // Throws ErreurStockage, DonneesChangees; the file is then as it was.
-    template <typename T>
-    void ecrire(const T &valeur, const QString &nom)
-    {
-        remplacer(nom, Json::encoder(valeur));
-    }
+    void ecrire(const QList<Livre> &livres);
+    void ecrire(const Reglages &reglages);
     // The data files that are not as they were read or written here, new and lost ones too.
     [[nodiscard]] QStringList changes() const;
     // The paths of the folder and of its data files, by now.
     [[nodiscard]] QStringList chemins() const;
-    bool operator==(const DossierPersonnel &) const = default;
+    // Whether both noted the same of the same folder.
+    bool operator==(const DossierPersonnel &autre) const
+    {
+        return dossier_ == autre.dossier_ && contenus_ == autre.contenus_;
+    }
 
     // A new folder, whole or not at all: these sellers and books with their pictures by name, and destinations,
     // countries and schedules as in `modele`. Throws ErreurStockage; also when there is one.
@@ -51,8 +53,12 @@ public:
 private:
     void remplacer(const QString &nom, const QByteArray &octets);
 
+    using Contenus = QHash<QString, std::optional<QByteArray>>;
+    static Contenus lus(const QDir &dossier);
+
     QDir dossier_;
-    QHash<QString, QByteArray> empreintes_; // of each data file, as last read or written here
+    EcritureLivres ecriture_;
+    Contenus contenus_; // of each data file, as last read or written here; none for one that cannot be read
 };
 
 } // namespace Quillet

@@ -10,6 +10,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Quillet;
@@ -74,16 +75,26 @@ private slots:
         const auto catalogue = banc.ouvrir();
         Historique historique(*catalogue);
         const QStringList avant = titres(*catalogue);
+        const auto estEcrit = [&] {
+            return Fichier::lire(banc.chemin("livres.json"), 100'000) == Json::encoder(catalogue->donnees().livres);
+        };
 
         Livre livre = catalogue->donnees().livres[0];
         livre.titre = "Autre titre";
         livre.prix = Centimes{4321};
         historique.modifier(livre, "titre");
+        QVERIFY(estEcrit());
         QList<Livre> livres = catalogue->donnees().livres;
         livres.append(unLivre(77, Vendeur::mireva, Centimes{900}, {}));
         historique.remplacer(livres, "ajout");
+        QVERIFY(estEcrit());
         livres.removeFirst();
+        std::ranges::reverse(livres);
         historique.remplacer(livres, "retrait");
+        QVERIFY(estEcrit());
+        historique.remplacer(QList<Livre>(), "tout");
+        QVERIFY(estEcrit());
+        historique.annuler();
         QCOMPARE(banc.ouvrir()->donnees().livres, livres);
         QVERIFY(!QFile::exists(banc.cheminUtilisateur(Stockage::fichierDesLivres())));
 
