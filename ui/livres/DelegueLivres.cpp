@@ -9,6 +9,7 @@
 #include "ui/couvertures/DessinCouverture.h"
 #include "ui/livres/ModeleLivres.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 
 #include <algorithm>
@@ -35,11 +36,6 @@ QFont policeDuPrix()
     return Theme::enGras(Theme::encadre());
 }
 
-int hauteurDuTexte()
-{
-    return QFontMetrics(Theme::titreLivre()).height() + 2 * QFontMetrics(Theme::encadre()).height() + 6;
-}
-
 void ecrire(QPainter &peintre, const QRect &cadre, const QString &texte, Qt::Alignment cote = Qt::AlignLeft)
 {
     peintre.drawText(cadre, static_cast<int>(cote | Qt::AlignVCenter),
@@ -64,6 +60,15 @@ QRect peindreEtiquette(QPainter &peintre, QRect ligne, const QString &texte, con
 DelegueLivres::DelegueLivres(const ModeleLivres &modele, ImagesCouvertures &images, QObject *parent)
     : QStyledItemDelegate(parent), modele_(modele), images_(images)
 {
+}
+
+int DelegueLivres::hauteurDuTexte() const
+{
+    if (const QFont police = QGuiApplication::font(); mesuree_ != police) {
+        mesuree_ = police;
+        hauteurDuTexte_ = QFontMetrics(Theme::titreLivre()).height() + 2 * QFontMetrics(Theme::encadre()).height() + 6;
+    }
+    return hauteurDuTexte_;
 }
 
 QSize DelegueLivres::sizeHint(const QStyleOptionViewItem &, const QModelIndex &indice) const

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QFont>
 #include <QStyledItemDelegate>
+
+#include <optional>
 
 namespace Quillet {
 
@@ -27,8 +30,13 @@ private:
     void peindreCarte(QPainter &peintre, const QRect &cadre, int rang, const QPalette &palette) const;
     void peindreLivre(QPainter &peintre, const QRect &cadre, int rang, const QPalette &palette) const;
 
+    [[nodiscard]] int hauteurDuTexte() const;
+
     const ModeleLivres &modele_;
     ImagesCouvertures &images_;
+    // Each row is asked for its height at each change of the catalogue; fonts are measured when the system's changes.
+    mutable std::optional<QFont> mesuree_;
+    mutable int hauteurDuTexte_ = 0;
 };
 
 } // namespace Quillet
