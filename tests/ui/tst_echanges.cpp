@@ -26,6 +26,7 @@ struct Maison : BancEcran
     {
         choisir(entree);
         Dialogues::enregistrerSous(fichier)(Dialogues::devant());
+        QCoreApplication::processEvents(); // the file is taken once the dialog has closed
         auto *boite = qobject_cast<QMessageBox *>(Dialogues::devant());
         const QString dit = boite ? boite->text() + boite->informativeText() : QString();
         if (boite)

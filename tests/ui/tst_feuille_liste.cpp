@@ -32,6 +32,7 @@ struct Maison : BancEcran
         if (!Ecran::choisirAuMenu(&app->fenetre(), entree))
             qFatal("Pas d’entrée : %s", qPrintable(entree));
         Dialogues::enregistrerSous(fichier())(Dialogues::devant());
+        QCoreApplication::processEvents(); // the file is taken once the dialog has closed
         return Dialogues::devant();
     }
     [[nodiscard]] QDialog *montrer(const QByteArray &liste) const

@@ -235,7 +235,7 @@ private slots:
         QVERIFY(cas.champ(feuille, "Titre")->hasFocus());
         for (const auto &[champ, saisie] : {std::pair("Titre", "Neuf"), {"Prix", "12"}, {"Pages", "80"}})
             QVERIFY(cas.remplir(feuille, champ, saisie));
-        QVERIFY(Ecran::choisir(feuille, "Vendeur", "Mireva"));
+        QVERIFY(Ecran::choisir(feuille, "Vendeur", "Vendeur 2"));
         {
             const DisquePlein plein;
             QVERIFY(Ecran::cliquer(feuille, "Ajouter le livre"));

@@ -20,6 +20,13 @@ QFileDialog *DialoguesDeFichier::choix(const QString &titre, const QString &filt
     return dialogue;
 }
 
+void DialoguesDeFichier::ouvrir(QFileDialog *dialogue, QObject *contexte,
+                                const std::function<void(const QString &chemin)> &faire)
+{
+    QObject::connect(dialogue, &QFileDialog::fileSelected, contexte, faire, Qt::QueuedConnection);
+    dialogue->open();
+}
+
 void DialoguesDeFichier::prevenir(const QString &titre, const QString &texte, QWidget *parent)
 {
     auto *boite = new QMessageBox(QMessageBox::Warning, titre, texte, QMessageBox::Ok, parent);

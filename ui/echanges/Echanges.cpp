@@ -66,8 +66,7 @@ void Echanges::exporter()
     choix->setAcceptMode(QFileDialog::AcceptSave);
     choix->setDefaultSuffix(suffixe.sliced(1));
     choix->selectFile(TextesReprise::nomDExport(contexte_.jour.aujourdhui()));
-    connect(choix, &QFileDialog::fileSelected, this, &Echanges::enregistrer);
-    choix->open();
+    DialoguesDeFichier::ouvrir(choix, this, [this](const QString &choisi) { enregistrer(choisi); });
 }
 
 void Echanges::enregistrer(const QString &choisi)
@@ -98,10 +97,9 @@ void Echanges::importer()
     QFileDialog *choix =
         DialoguesDeFichier::choix(QStringLiteral("Importer"), filtre, contexte_.preferences, cleDossier, fenetre_);
     choix->setFileMode(QFileDialog::ExistingFile);
-    connect(choix, &QFileDialog::fileSelected, this, [this](const QString &archive) {
+    DialoguesDeFichier::ouvrir(choix, this, [this](const QString &archive) {
         sansCopie([&] { return montrer(contexte_, archive, QStringLiteral("Importer"), fenetre_); });
     });
-    choix->open();
 }
 
 void Echanges::revenirAUneCopie()

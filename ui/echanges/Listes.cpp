@@ -40,11 +40,10 @@ void Listes::lire(const Contexte &contexte, QWidget *fenetre)
         DialoguesDeFichier::choix(QStringLiteral("Lire une liste"), QStringLiteral("Listes (*.csv *.tsv *.txt)"),
                                   contexte.preferences, cleDossier, fenetre);
     choix->setFileMode(QFileDialog::ExistingFile);
-    QObject::connect(choix, &QFileDialog::fileSelected, fenetre, [&contexte, fenetre](const QString &chemin) {
+    DialoguesDeFichier::ouvrir(choix, fenetre, [&contexte, fenetre](const QString &chemin) {
         contexte.preferences.retenirSiPossible(cleDossier, QFileInfo(chemin).absolutePath());
         montrer(contexte, chemin, fenetre);
     });
-    choix->open();
 }
 
 void Listes::montrer(const Contexte &contexte, const QString &chemin, QWidget *fenetre)
@@ -76,7 +75,7 @@ void Listes::ecrire(const Contexte &contexte, QWidget *fenetre)
     choix->setAcceptMode(QFileDialog::AcceptSave);
     choix->setDefaultSuffix(QStringLiteral("csv"));
     choix->selectFile(TextesListe::nomDeFichier(contexte.jour.aujourdhui()));
-    QObject::connect(choix, &QFileDialog::fileSelected, fenetre, [&contexte, fenetre, titre](const QString &choisi) {
+    DialoguesDeFichier::ouvrir(choix, fenetre, [&contexte, fenetre, titre](const QString &choisi) {
         const auto chemin = CheminChoisi::avecSuffixe(choisi, QStringLiteral(".csv"), titre, fenetre);
         if (!chemin)
             return;
@@ -88,7 +87,6 @@ void Listes::ecrire(const Contexte &contexte, QWidget *fenetre)
                                          fenetre);
         }
     });
-    choix->open();
 }
 
 } // namespace Quillet
