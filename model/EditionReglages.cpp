@@ -61,7 +61,7 @@ Reglages EditionReglages::emballageRenomme(Reglages reglages, qsizetype rang, co
 QString EditionReglages::nomApres(const QString &nom, const QList<Emballage> &avant, const QList<Emballage> &apres)
 {
     const auto ancien = std::ranges::find(avant, nom, &Emballage::nom);
-    const bool renomme = ancien != avant.end() && avant.size() == apres.size()
+    const bool renomme = nom != BonDeCommande::autrePoids() && ancien != avant.end() && avant.size() == apres.size()
                          && std::ranges::find(apres, nom, &Emballage::nom) == apres.end();
     return renomme ? apres[ancien - avant.begin()].nom : nom;
 }

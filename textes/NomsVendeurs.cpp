@@ -33,7 +33,8 @@ QString NomsVendeurs::livresDeChacun(const Donnees &donnees)
 QString NomsVendeurs::complet(Vendeur vendeur, const Donnees &donnees)
 {
     const auto identite = donnees.reglages.identite(vendeur);
-    return identite && !identite->nom.trimmed().isEmpty() ? identite->nom : court(vendeur, donnees);
+    const bool sansNom = !identite || (donnees.personnelles && identite->nom.trimmed().isEmpty());
+    return sansNom ? court(vendeur, donnees) : identite->nom;
 }
 
 QString NomsVendeurs::site(Vendeur vendeur, const Donnees &donnees)

@@ -142,7 +142,8 @@ QList<Rubrique> TextesDocuments::declaration(const Calcul &calcul, const Reglage
     for (const ArticleDouane &declare : articlesDouane(calcul, reglages.douane.codeSH))
         rubriques.append(article(++numero, declare, codeALArrivee));
     if (const auto vendeur = vendeurUnique(calcul, reglages))
-        rubriques.append(expediteur(*vendeur));
+        if (const Rubrique rubrique = expediteur(*vendeur); !rubrique.champs.isEmpty())
+            rubriques.append(rubrique);
     return rubriques;
 }
 
@@ -173,7 +174,7 @@ QString TextesDocuments::sansLivre()
 QString TextesDocuments::sansIdentite(const Calcul &calcul, const Donnees &donnees)
 {
     for (const Vendeur vendeur : calcul.vendeurs())
-        if (!identiteEntiere(vendeur, donnees.reglages))
+        if (!donnees.reglages.identite(vendeur))
             return QStringLiteral("Le nom et l’adresse de %1 manquent dans les réglages.")
                 .arg(NomsVendeurs::court(vendeur, donnees));
     return {};

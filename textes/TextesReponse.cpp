@@ -9,11 +9,10 @@ namespace Quillet {
 
 QString TextesReponse::impossible(const Calcul &calcul, const Donnees &donnees)
 {
-    if (donnees.personnelles && calcul.vendeurs().size() == 1)
-        return TextesDocuments::sansIdentite(calcul, donnees);
-    return donnees.vendeurs().size() > 1
-               ? QStringLiteral("Une réponse par vendeur : séparez %1.").arg(NomsVendeurs::livresDeChacun(donnees))
-               : TextesDocuments::sansLivre();
+    if (donnees.vendeurs().size() > 1)
+        return QStringLiteral("Une réponse par vendeur : séparez %1.").arg(NomsVendeurs::livresDeChacun(donnees));
+    const QString sansIdentite = TextesDocuments::sansIdentite(calcul, donnees);
+    return sansIdentite.isEmpty() ? TextesDocuments::sansLivre() : sansIdentite;
 }
 
 QString TextesReponse::lienAbsent(const ReponseType &reponse)

@@ -61,11 +61,6 @@ QString Objections::nouvelle(const ParChamp &avant, const ParChamp &apres, const
     return {};
 }
 
-Objections::ParChamp Objections::surLeVendeur(const IdentiteVendeur &identite)
-{
-    return sur(identite, [&](const Json::Lieu &lieu) { Regles::vendeur(identite, lieu); });
-}
-
 Objections::ParChamp Objections::surLesReglages(const Reglages &reglages, const QList<CodeDestination> &destinations)
 {
     return sur(reglages, [&](const Json::Lieu &lieu) { Regles::reglages(reglages, destinations, lieu); });

@@ -20,7 +20,6 @@ ParChamp surLeLivre(const Livre &livre, const Regles::Reperes &reperes);
 QString auChamp(const ParChamp &objections, const QString &champ);
 // What a change of this field has brought about: about the field itself, else elsewhere. Empty: nothing.
 QString nouvelle(const ParChamp &avant, const ParChamp &apres, const QString &champ);
-ParChamp surLeVendeur(const IdentiteVendeur &identite);
 ParChamp surLesReglages(const Reglages &reglages, const QList<CodeDestination> &destinations);
 
 } // namespace Quillet::Objections

@@ -43,7 +43,6 @@ void tarifs(const TarifsColissimo &tarifs, const TarifsParFichier &precedents, c
 void frais(const FraisPaypal &frais, const Json::Lieu &lieu);
 // `destinations`: their codes, none when there is nothing to compare with.
 void reglages(const Reglages &reglages, const QList<CodeDestination> &destinations, const Json::Lieu &lieu);
-void vendeur(const IdentiteVendeur &identite, const Json::Lieu &lieu);
 void destinations(const QList<Destination> &destinations, const TarifsParFichier &tarifs, const Json::Lieu &lieu);
 // `destinations`: their codes, none when there is nothing to compare with.
 void pays(const QList<Pays> &pays, const QList<CodeDestination> &destinations, const Json::Lieu &lieu);

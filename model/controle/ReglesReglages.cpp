@@ -80,9 +80,7 @@ bool estUnNomDeSite(const QString &site)
     return QUrl(QStringLiteral("https://") + site, QUrl::StrictMode).host() == site.toLower() && site.contains(u'.');
 }
 
-} // namespace
-
-void Regles::vendeur(const IdentiteVendeur &identite, const Lieu &lieu)
+void vendeur(const IdentiteVendeur &identite, const Lieu &lieu)
 {
     if (identite.adresse.isEmpty())
         lieu.noter("adresse", QStringLiteral("adresse à remplir"));
@@ -96,6 +94,8 @@ void Regles::vendeur(const IdentiteVendeur &identite, const Lieu &lieu)
         lieu.noter("eori",
                    QStringLiteral("numéro EORI attendu : deux lettres, puis quinze chiffres au plus, sans espace"));
 }
+
+} // namespace
 
 void Regles::frais(const FraisPaypal &frais, const Lieu &lieu)
 {

@@ -54,17 +54,6 @@ private slots:
         BonDeCommande sansIdentite{.vendeur = Vendeur::mireva};
         sansIdentite.ajuster(banc.livres[2], 1);
         QVERIFY(!existe(sansIdentite));
-
-        bon.poidsPese.reset();
-        IdentiteVendeur &vendeur = banc.reglages.vendeurs[Vendeur::davrel]; // of a file changed by hand
-        for (const IdentiteVendeur &douteux :
-             {IdentiteVendeur{.nom = " ", .adresse = vendeur.adresse}, IdentiteVendeur{.nom = vendeur.nom},
-              IdentiteVendeur{.nom = vendeur.nom, .adresse = {""}}}) {
-            QVERIFY(existe(bon));
-            const IdentiteVendeur avant = std::exchange(vendeur, douteux);
-            QVERIFY(!existe(bon));
-            vendeur = avant;
-        }
     }
 
     void adresseCollee()

@@ -239,6 +239,9 @@ private slots:
         QCOMPARE(faire(EditionReglages::sansEmballage(donnees.reglages, 0)), BonDeCommande::autrePoids());
         faire(EditionReglages::avecEmballage(EditionReglages::avecEmballage(donnees.reglages)));
         QCOMPARE(noms(), "Nouvel emballage Nouvel emballage 2|" + BonDeCommande::autrePoids());
+        // The weight is typed, whatever else bears that name.
+        faire(EditionReglages::emballageRenomme(donnees.reglages, 0, BonDeCommande::autrePoids()));
+        QCOMPARE(faire(EditionReglages::emballageRenomme(donnees.reglages, 0, "Sac")), BonDeCommande::autrePoids());
     }
 
     void lesObjectionsSontCellesDuChamp()

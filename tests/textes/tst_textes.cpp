@@ -112,18 +112,19 @@ private slots:
             QVERIFY(TextesLivres::enMots(livre, vendu).contains("200 pages" + suite + ", 200"));
             QCOMPARE(TextesLivres::origine(livre, donnees), vendu.isEmpty() ? "Une autrice" : "Une autrice · " + vendu);
             QCOMPARE(lisible(TextesReponse::impossible(Calcul(), donnees)), attendu.obstacle);
-            for (const bool efface : {false, true}) {
-                if (efface)
-                    donnees.reglages.vendeurs[Vendeur::davrel].nom.clear();
-                else
+            for (const bool efface : {true, false}) {
+                donnees.reglages.vendeurs[Vendeur::davrel] = {};
+                if (!efface)
                     donnees.reglages.vendeurs.remove(Vendeur::davrel);
-                BonDeCommande bon;
-                bon.ajuster(donnees.livres[0], 1);
-                const Calcul calcul = Calcul::de(donnees, bon, jourDuBanc);
-                const char *manque = "Le nom et l’adresse de Vendeur 1 manquent dans les réglages.";
-                QCOMPARE(lisible(TextesReponse::impossible(calcul, donnees)), personnelles ? manque : separez);
+                const char *place = efface ? "" : "Davrel";
                 QCOMPARE(TextesReprise::serie({.vendeur = Vendeur::davrel}, donnees),
-                         personnelles ? "Vendeur 1" : "Davrel");
+                         personnelles ? "Vendeur 1" : place);
+            }
+            if (!deux) {
+                BonDeCommande bon;
+                bon.ajuster(livre, 1);
+                QCOMPARE(TextesReponse::impossible(Calcul::de(donnees, bon, jourDuBanc), donnees),
+                         "Le nom et l’adresse de Vendeur 1 manquent dans les réglages.");
             }
         }
     }
@@ -249,13 +250,15 @@ private slots:
     {
         const char *toujours = "Nature de l’envoi|Frais de port|Poids brut du colis (kg)|Valeur totale|Description|"
                                "Poids net unitaire (kg)|Valeur unitaire|Pays d’origine|N° tarifaire (SH)";
-        for (const auto &[nom, eori, codes, titres] : Rangees<bool, QMap<CodeDestination, QString>, QString>{
-                 {"rien de plus", false, {}, "%1|Adresse|"},
+        for (const auto &[nom, eori, codes, adresse, titres] :
+             Rangees<bool, QMap<CodeDestination, QString>, bool, QString>{
+                 {"rien de plus", false, {}, true, "%1|Adresse|"},
                  {"tout",
                   true,
                   {{vers("suisse"), "4901990000"}},
+                  true,
                   "%1|N° tarifaire à l’arrivée=4901990000|Adresse||N° EORI=FR1"},
-                 {"le code d’ailleurs", true, {{vers("lune"), "4901990000"}}, "%1|Adresse||N° EORI=FR1"},
+                 {"sans adresse", true, {{vers("lune"), "4901990000"}}, false, "%1|N° EORI=FR1"},
              }) {
             const Rangee rangee(nom);
             Cas cas;
@@ -265,6 +268,8 @@ private slots:
             IdentiteVendeur &vendeur = cas.banc.reglages.vendeurs[Vendeur::davrel];
             if (eori)
                 vendeur.eori = "FR1";
+            if (!adresse)
+                vendeur.adresse.clear();
             QStringList lus;
             for (const auto &rubrique : TextesDocuments::declaration(cas.calcul(), cas.banc.reglages))
                 for (const auto &champ : rubrique.champs) {
