@@ -48,7 +48,7 @@ public:
     void remplacer(const QList<Livre> &livres);
     // All but PayPal's fees, which are accepted on their own.
     void remplacer(const Reglages &reglages);
-    // Of these, what was read of their files; none of others' data.
+    // The folder of these, as last read or written here; none of others' data.
     [[nodiscard]] const std::optional<DossierPersonnel> &personnel() const { return personnel_; }
     // Takes the data in force anew, whoever they belong to by now. Throws RessourceIllisible: memory then stands.
     void recharger() { prendre(relecture()()); }

@@ -119,7 +119,7 @@ bool InstanceUnique::appelerLaPremiere(const QByteArray &jeton) const
     return false;
 }
 
-// Another's by now: its changes are noticed as any other program's.
+// One that another program holds is used all the same: what that one changes is noticed.
 void InstanceUnique::suivreLesDonnees()
 {
     static_cast<void>(verrouiller(Stockage::dans(commun_).donneesPersonnelles().path()));

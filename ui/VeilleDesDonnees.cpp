@@ -5,8 +5,9 @@
 #include "ui/AlerteRelecture.h"
 #include "ui/Contexte.h"
 
+#include <QDeadlineTimer>
+
 #include <chrono>
-#include <utility>
 
 using namespace std::chrono_literals;
 

@@ -40,7 +40,13 @@ QByteArray jetonDuLanceur()
     return jeton.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : jeton;
 }
 
-// Own data that cannot be read stop the program, unless a copy takes their place. Null: which was said, and declined.
+// There is nobody to answer a question.
+bool sansEcran()
+{
+    return QGuiApplication::platformName() == QLatin1String("offscreen");
+}
+
+// Own data that cannot be read stop the program, unless a copy takes their place. Null: the user took none.
 std::unique_ptr<QuilletApp> demarrer(const Stockage &donnees, const Preferences &preferences)
 {
     for (;;)
@@ -50,7 +56,7 @@ std::unique_ptr<QuilletApp> demarrer(const Stockage &donnees, const Preferences 
                 [] { return QDate::currentDate(); }, PagesSurveillees(), sourceDesMisesAJour());
         } catch (const RessourceIllisible &erreur) {
             const RetourAuDemarrage retour(donnees, preferences);
-            if (!retour.possible() || QGuiApplication::platformName() == QLatin1String("offscreen"))
+            if (!retour.possible() || sansEcran())
                 throw;
             std::fprintf(stderr, "%s\n", erreur.what());
             if (!retour.accepte(erreur.texte()))
@@ -78,7 +84,7 @@ int ouvrir(Bureau &bureau, const QByteArray &jeton)
         return QApplication::exec();
     } catch (const Echec &erreur) {
         std::fprintf(stderr, "%s\n", erreur.what());
-        if (QGuiApplication::platformName() != QLatin1String("offscreen"))
+        if (!sansEcran())
             QMessageBox::critical(nullptr, QStringLiteral("Quillet"), erreur.texte());
         return 1;
     }

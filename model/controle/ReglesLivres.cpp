@@ -71,8 +71,10 @@ void Regles::livre(const Livre &livre, const Reperes &reperes, const Lieu &lieu)
         lieu.noter("poids", QStringLiteral("0 g : à ne pas dire tant que le livre n’est pas pesé"));
     if (!livre.isbn.isEmpty() && !NumeroDeControle::isbn(livre.isbn))
         lieu.noter("isbn", QStringLiteral("« %1 » n’est pas un ISBN : un chiffre manque ou est faux").arg(livre.isbn));
-    if (livre.pages < 1 || livre.pages > pagesAuPlus)
-        lieu.noter("pages", QStringLiteral("une page au moins, %1 au plus").arg(pagesAuPlus));
+    if (livre.pages <= 0)
+        lieu.noter("pages", QStringLiteral("au moins une page attendue"));
+    if (livre.pages > pagesAuPlus)
+        lieu.noter("pages", QStringLiteral("99 999 pages au plus"));
     couverture(livre.couverture, reperes, Lieu(lieu, QStringLiteral("couverture")));
     teinte(livre.teinte, Lieu(lieu, QStringLiteral("teinte")));
     if (livre.prix == Centimes{})

@@ -186,7 +186,7 @@ private slots:
                  {"kilos", "18;0,355 kg;212;A5;Français;oui", "Poids (g) : Un poids s’écrit en grammes entiers"},
                  {"pages", "18;355;beaucoup;A5;Français;oui",
                   "Pages : Un nombre de pages s’écrit en chiffres, comme 288."},
-                 {"encyclopédie", "18;355;100000;A5;Français;oui", "Pages : Une page au moins, 99999 au plus."},
+                 {"encyclopédie", "18;355;100000;A5;Français;oui", "Pages : 99 999 pages au plus."},
                  {"sans format", "18;355;212;;Français;oui", "Format : À remplir."},
                  {"peut-être", "18;355;212;A5;Français;peut-être", "Disponible : « peut-être » n’est ni oui ni non."},
                  {"ISBN", "18;355;212;A5;Français;oui;978-2-00-000000-1",

@@ -246,9 +246,8 @@ void TestControleDonnees::erreurs()
              {"livres", R"("poids" : 355)", R"("poids" : 0)",
               "livres[0].poids : 0 g : à ne pas dire tant que le livre n’est pas pesé"},
              {"livres", R"("poids" : 355)", R"("poids" : -355)", "livres[0].poids : nombre négatif"},
-             {"livres", R"("pages" : 288)", R"("pages" : 0)", "livres[0].pages : une page au moins, 99999 au plus"},
-             {"livres", R"("pages" : 288)", R"("pages" : 100000)",
-              "livres[0].pages : une page au moins, 99999 au plus"},
+             {"livres", R"("pages" : 288)", R"("pages" : 0)", "livres[0].pages : au moins une page attendue"},
+             {"livres", R"("pages" : 288)", R"("pages" : 100000)", "livres[0].pages : 99 999 pages au plus"},
              {"livres", R"("om1" : 4300)", R"("om3" : 4300)",
               "livres[4].prixEcartes.om3 : aucune destination n’a ce code"},
              // Destinations.

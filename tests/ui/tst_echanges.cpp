@@ -64,7 +64,7 @@ private slots:
         maison.demarrer();
         QVERIFY(maison.copies().duJour(jourDuBanc));
         maison.donnees.ecrireUtilisateur("donnees/livres.json", "[");
-        QVERIFY_THROWS_EXCEPTION(RessourceIllisible, maison.copies());
+        QVERIFY_THROWS_EXCEPTION(RessourceIllisible, static_cast<void>(maison.copies()));
         const RetourAuDemarrage retour(maison.donnees.stockage(), maison.donnees.preferences());
         bool accepte = true;
         const auto proposer = [&] {

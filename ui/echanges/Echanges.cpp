@@ -119,7 +119,7 @@ void Echanges::attendreLaCopie()
     echec_ = copie_.get();
 }
 
-// Reading what the sheet shows may last until another day.
+// No copy of the day starts under the sheet, which may stay open until another day.
 void Echanges::sansCopie(const std::function<QDialog *()> &ouvrir)
 {
     const auto reprendre = [this] {

@@ -35,7 +35,7 @@ QColor couleur(const QList<qint64> &teinte)
     return {part(0), part(1), part(2)};
 }
 
-QWidget *rangee(const QString &libelle, QWidget *valeur)
+QWidget *rangeeAlignee(const QString &libelle, QWidget *valeur)
 {
     auto *rangee = new Formulaire::Rangee(libelle, valeur);
     rangee->alignerSurLesChamps();
@@ -45,9 +45,10 @@ QWidget *rangee(const QString &libelle, QWidget *valeur)
 // As wide as any other, for the fields to end together.
 Libelle *unite(const QString &signe)
 {
-    auto *unite = new Libelle(signe, Libelle::Rang::secondaire);
-    TailleDuTexte::suivre(unite, [unite] { unite->setFixedWidth(unite->fontMetrics().horizontalAdvance(u'€')); });
-    return unite;
+    auto *libelle = new Libelle(signe, Libelle::Rang::secondaire);
+    TailleDuTexte::suivre(libelle,
+                          [libelle] { libelle->setFixedWidth(libelle->fontMetrics().horizontalAdvance(u'€')); });
+    return libelle;
 }
 
 } // namespace
@@ -60,16 +61,16 @@ FormulaireLivre::FormulaireLivre(ImagesCouvertures &images, QWidget *parent)
       disponible_(new Interrupteur),
       couleur_(new ChoixCouleur(nuances()))
 {
-    rangeeDuVendeur_ = rangee(QStringLiteral("Vendeur"), vendeur_);
+    rangeeDuVendeur_ = rangeeAlignee(QStringLiteral("Vendeur"), vendeur_);
     auto *texte = groupe(QStringLiteral("titre titreComplet auteur"));
     texte->ajouter(rangeeDuVendeur_);
     auto *vente = groupe(QStringLiteral("prix poids"));
-    vente->ajouter(rangee(QStringLiteral("Disponible"), disponible_));
+    vente->ajouter(rangeeAlignee(QStringLiteral("Disponible"), disponible_));
     auto *fabrication = groupe(QStringLiteral("pages format langue isbn"));
     auto *image = new Formulaire::Groupe;
     image->ajouter(image_);
     auto *reste = groupe(QStringLiteral("lienPaypal"));
-    reste->ajouter(rangee(QStringLiteral("Couleur"), couleur_));
+    reste->ajouter(rangeeAlignee(QStringLiteral("Couleur"), couleur_));
     Pile::colonne(this, {.espace = entreGroupes}, {texte, vente, fabrication, image, reste, Pile::reste()});
 
     connect(vendeur_, &Choix::choisi, this, [this](const QString &choisi) {
