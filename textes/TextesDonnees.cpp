@@ -41,7 +41,7 @@ QString TextesDonnees::saisieNonReprise(const QStringList &textes)
 {
     const QString quoi = textes.isEmpty() ? QStringLiteral("une partie de votre saisie")
                                           : QStringLiteral("« %1 »").arg(textes.join(QStringLiteral(" », « ")));
-    return QStringLiteral("Changé ailleurs aussi : %1 n’a pas été repris. Tapez-le de nouveau s’il le faut.").arg(quoi);
+    return QStringLiteral("Changé ailleurs aussi, donc non repris : %1. À taper de nouveau s’il le faut.").arg(quoi);
 }
 
 QString TextesDonnees::arriveesEntreTemps(const QString &dossier)

@@ -199,7 +199,7 @@ private slots:
         for (const auto &[touches, ailleurs, encore, titres, dite] :
              Rangees<Ailleurs, const char *, const char *, const char *>{
                  {"F2", unPrix, "", "Un, Livre 2, Livre 3, Livre 4", ""},
-                 {"F2", unTitre, "", "Autre, Livre 2, Livre 3, Livre 4", "Changé ailleurs aussi : une partie"},
+                 {"F2", unTitre, "", "Autre, Livre 2, Livre 3, Livre 4", "Changé ailleurs aussi, donc non"},
                  {"F2", unRetrait, "", "Livre 2, Livre 3, Livre 4", "Ce livre a été retiré ailleurs"},
                  {"Ctrl+D", unTitre, "Ajouter le livre", "Autre, Livre 2, Livre 3, Livre 4, Un", ""},
              }) {

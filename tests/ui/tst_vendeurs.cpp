@@ -126,7 +126,7 @@ private slots:
         QVERIFY(remplir(feuille, "Nom, vendeur", "Anna"));
         QVERIFY(Ecran::cliquer(feuille, "Les relire"));
         QCOMPARE(texte(feuille, "Nom, vendeur"), "Anne Brun");
-        QVERIFY(dit("Changé ailleurs aussi : « Anna »"));
+        QVERIFY(dit("Changé ailleurs aussi, donc non repris : « Anna »"));
         QCOMPARE(lus().vendeurs[Vendeur::davrel].nom, "Anne Brun");
     }
 
