@@ -222,6 +222,35 @@ private slots:
         }
     }
 
+    // All that was typed outlasts a second save that fails; a cover from elsewhere is not written over.
+    void changesAilleursAvecCouverture()
+    {
+        for (const auto &[posee, dite] : Rangees<const char *>{{"sans-image.jpg", "Modification non enregistrée : "},
+                                                               {"autre.jpg", "Changé ailleurs aussi"}}) {
+            const Rangee rangee(dite);
+            const BancPersonnel cas;
+            QDialog *feuille = cas.feuille("F2");
+            QList<Livre> livres = cas.donnees.livres;
+            livres[0].prix = Centimes{7};
+            livres[0].couverture = posee;
+            const bool libre = livres[0].couverture == cas.donnees.livres[0].couverture;
+            Fichier::ecrire(cas.donnees.cheminUtilisateur("donnees/livres.json"), Json::encoder(livres));
+            emit feuille->findChild<ChampCouverture *>()->choisie({.octets = "a", .extension = "png", .teinte = {}});
+            QVERIFY(cas.remplir(feuille, "Titre", "Un"));
+            {
+                const DisquePlein plein(libre ? 16 : RLIM_INFINITY);
+                QVERIFY(Ecran::cliquer(feuille, "Les relire"));
+            }
+            QVERIFY(cas.dit(feuille, dite));
+            QCOMPARE(cas.champ(feuille, "Titre")->text(), "Un");
+            cas.onALu(feuille);
+            feuille->reject();
+            QCOMPARE(cas.enregistre(0).titre, "Un");
+            QCOMPARE(cas.enregistre(0).prix, Centimes{7});
+            QCOMPARE(cas.enregistre(0).couverture == posee, !libre);
+        }
+    }
+
     void ajouter()
     {
         const BancPersonnel cas;

@@ -68,17 +68,19 @@ void FeuilleLivre::actualiser()
     }
 }
 
-void FeuilleLivre::enregistrer(const Livre &livre, const std::optional<CouverturePrete> &couverture,
+bool FeuilleLivre::enregistrer(const Livre &livre, const std::optional<CouverturePrete> &couverture,
                                const QString &geste)
 {
     const auto ecrire = [&] {
         contexte_.historique.modifier(couverture ? avecCouverture(contexte_, livre, *couverture) : livre, geste);
     };
-    if (tenter(ecrire))
+    const bool enregistre = tenter(ecrire);
+    if (enregistre)
         actualiser();
+    return enregistre;
 }
 
-// Over the book as it was read again.
+// Over the book as it was read again; a save that fails once more leaves all of it in the form.
 void FeuilleLivre::reprendreLaSaisie()
 {
     const auto saisie = std::exchange(saisie_, std::nullopt);
@@ -87,11 +89,13 @@ void FeuilleLivre::reprendreLaSaisie()
     const Livre *relu = livre();
     if (!relu)
         return echec_->montrer(TextesDonnees::livreRetireAilleurs());
+    const bool libre = relu->couverture == saisie->avant.couverture;
+    const auto couverture = libre ? saisie->couverture : std::nullopt;
     Livre apres = *relu;
     const bool entiere = EditionLivres::reporter(saisie->avant, saisie->livre, apres);
-    if (apres != *relu || saisie->couverture)
-        enregistrer(apres, saisie->couverture, TextesGestes::modification(apres));
-    if (!entiere)
+    if ((apres != *relu || couverture) && !enregistrer(apres, couverture, TextesGestes::modification(apres)))
+        return formulaire_->montrer(apres, couverture);
+    if (!entiere || couverture != saisie->couverture)
         echec_->montrer(TextesDonnees::saisieNonReprise());
 }
 

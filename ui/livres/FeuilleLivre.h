@@ -28,7 +28,7 @@ signals:
 private:
     [[nodiscard]] const Livre *livre() const; // null: it is gone
     void actualiser();
-    void enregistrer(const Livre &livre, const std::optional<CouverturePrete> &couverture, const QString &geste);
+    bool enregistrer(const Livre &livre, const std::optional<CouverturePrete> &couverture, const QString &geste);
     void reprendreLaSaisie();
     void defaire(const std::function<std::optional<qint64>()> &geste);
     void montrer(std::optional<qint64> id);

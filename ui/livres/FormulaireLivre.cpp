@@ -144,12 +144,12 @@ void FormulaireLivre::commencer(const Livre &brouillon)
     actualiser();
 }
 
-void FormulaireLivre::montrer(const Livre &livre)
+void FormulaireLivre::montrer(const Livre &livre, const std::optional<CouverturePrete> &couverture)
 {
     if (brouillon_ || livre.id != livre_.id)
         oublier();
     brouillon_ = false;
-    couverture_.reset();
+    couverture_ = couverture;
     livre_ = livre;
     actualiser();
     objecter();

@@ -45,8 +45,9 @@ public:
     void setCadre(const Cadre &cadre);
     // A draft, of which nothing is said before it is typed.
     void commencer(const Livre &brouillon);
-    // A book that is there. What is being typed of the same one is left alone.
-    void montrer(const Livre &livre);
+    // A book that is there, and a picture that could not yet become its cover. What is being typed of the same book is
+    // left alone.
+    void montrer(const Livre &livre, const std::optional<CouverturePrete> &couverture = {});
     // With all that was typed and not refused.
     [[nodiscard]] const Livre &livre() const { return livre_; }
     // The picture that is to become the book's cover, which `livre` does not name yet.
