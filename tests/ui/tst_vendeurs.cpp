@@ -264,6 +264,11 @@ private slots:
         QVERIFY(Ecran::cliquer(feuille, "Commencer avec ce livre"));
         QVERIFY(dit("arrivées d’ailleurs entre-temps") && Ecran::controle(feuille, "Les relire"));
         QVERIFY(QDir().rmdir(banc_->donnees.cheminUtilisateur("donnees")));
+        banc_->donnees.ecrireRessource("destinations.json", "illisible");
+        QVERIFY(Ecran::cliquer(feuille, "Commencer avec ce livre"));
+        QVERIFY(dit("destinations.json") && !dit("arrivées d’ailleurs")); // its own
+        banc_->donnees.deposer();
+        QVERIFY(QDir(banc_->donnees.cheminUtilisateur("donnees")).removeRecursively());
         const NumerotationFactures series{banc_->donnees.preferences()};
         QCOMPARE(series.dernier(Vendeur::davrel), "2026-005");
         QVERIFY(Ecran::cliquer(feuille, "Commencer avec ce livre"));

@@ -189,6 +189,9 @@ void FeuillePremiersPas::suivre()
 
 void FeuillePremiersPas::terminer(bool avecLeLivre)
 {
+    const QDir la = contexte_.catalogue.stockage().donneesPersonnelles();
+    if (la.exists())
+        return echec_->montrer(TextesDonnees::arriveesEntreTemps(la.path()), true);
     QList<Livre> livres;
     QHash<QString, QByteArray> couvertures;
     if (avecLeLivre) {
@@ -200,14 +203,10 @@ void FeuillePremiersPas::terminer(bool avecLeLivre)
         livres = EditionLivres::avec({}, livre);
     }
     try {
-        const Catalogue &catalogue = contexte_.catalogue;
-        DossierPersonnel::creer(catalogue.stockage().donneesPersonnelles(), catalogue.ressources(), brouillon_, livres,
-                                couvertures);
+        DossierPersonnel::creer(la, contexte_.catalogue.ressources(), brouillon_, livres, couvertures);
         contexte_.catalogue.recharger();
     } catch (const Echec &erreur) {
-        const QDir la = contexte_.catalogue.stockage().donneesPersonnelles();
-        const bool entreTemps = la.exists();
-        echec_->montrer(entreTemps ? TextesDonnees::arriveesEntreTemps(la.path()) : erreur.texte(), entreTemps);
+        echec_->montrer(erreur.texte());
         return;
     }
     reprendreLesSeries();
