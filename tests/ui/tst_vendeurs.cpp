@@ -2,6 +2,7 @@
 #include "documents/NumerotationFactures.h"
 #include "tests/BancEcran.h"
 #include "tests/DisquePlein.h"
+#include "ui/AlerteRelecture.h"
 #include "ui/ContenuPrincipal.h"
 #include "ui/vendeurs/FeuilleVendeurs.h"
 
@@ -111,8 +112,10 @@ private slots:
     void changesAilleurs()
     {
         Feuille *feuille = ouvrirLaFeuille();
-        const auto ailleurs = [&](const QString &nom) {
+        const auto ailleurs = [&](const QString &nom, const QString &second = {}) {
             Reglages autres = lus();
+            if (!second.isEmpty())
+                autres.vendeurs.insert(Vendeur::mireva, {.nom = second, .adresse = {"2 rue Exemple"}});
             autres.vendeurs[Vendeur::davrel].nom = nom;
             Fichier::ecrire(banc_->donnees.cheminUtilisateur("donnees/reglages.json"), Json::encoder(autres));
         };
@@ -124,10 +127,25 @@ private slots:
         QCOMPARE(lus().vendeurs[Vendeur::davrel].nomCourt, "Anne");
         ailleurs("Anne Brun");
         QVERIFY(remplir(feuille, "Nom, vendeur", "Anna"));
-        QVERIFY(Ecran::cliquer(feuille, "Les relire"));
-        QCOMPARE(texte(feuille, "Nom, vendeur"), "Anne Brun");
+        QVERIFY(remplir(feuille, "Nom court, vendeur", "Ana"));
+        connect(
+            feuille->findChild<AlerteRelecture *>(), &AlerteRelecture::vaRelire, this, [&] { ailleurs("Anne Noir"); },
+            Qt::SingleShotConnection);
+        for (const char *nom : {"Anne Brun", "Anne Noir"}) { // changed once more, just as it was read
+            QVERIFY(Ecran::cliquer(feuille, "Les relire"));
+            QCOMPARE(texte(feuille, "Nom, vendeur"), nom);
+        }
         QVERIFY(dit("Changé ailleurs aussi, donc non repris : « Anna »"));
-        QCOMPARE(lus().vendeurs[Vendeur::davrel].nom, "Anne Brun");
+        QCOMPARE(lus().vendeurs[Vendeur::davrel].nom, "Anne Noir");
+        QCOMPARE(lus().vendeurs[Vendeur::davrel].nomCourt, "Ana");
+        QVERIFY(Ecran::cliquer(feuille, "Ajouter un second vendeur"));
+        QVERIFY(remplir(feuille, "Nom, second vendeur", "Bruno"));
+        ailleurs("Anne Noir", "Béa");
+        QVERIFY(remplir(feuille, "Nom court, vendeur", "Anne"));
+        QVERIFY(Ecran::cliquer(feuille, "Les relire"));
+        QCOMPARE(texte(feuille, "Nom, second vendeur"), "Béa");
+        QVERIFY(dit("« Bruno »"));
+        QCOMPARE(lus().vendeurs[Vendeur::davrel].nomCourt, "Anne");
     }
 
     void lesEmballagesSurLaFeuille()

@@ -68,7 +68,8 @@ FeuilleVendeurs::FeuilleVendeurs(const Contexte &contexte, QWidget *parent)
             [this] { tenter([this] { contexte_.historique.retablir(); }); });
     meubler(Pile::enRangee({.espace = 12}, {tete, annulation}), page());
     connect(&contexte.catalogue, &Catalogue::change, this, &FeuilleVendeurs::montrer);
-    SaisiesGardees::suivre(echec_, this);
+    connect(echec_, &AlerteRelecture::vaRelire, this, [this] { avantRelecture_ = commence(); });
+    SaisiesGardees::suivre(echec_, this, [this] { return nouveau_ ? QStringList() : avantRelecture_; });
     montrer();
     prendreLaTaille(taille);
     vendeurs_.first().fiche->prendreLeFocus();
@@ -249,14 +250,21 @@ QWidget *FeuilleVendeurs::enSuspens()
         return champ;
     if (QWidget *champ = mentions_->enSuspens())
         return champ;
-    const auto commence = [this] {
-        const Reglages vierges = EditionReglages::avecVendeur(contexte_.donnees().reglages, nouveau_->vendeur);
-        return nouveau_->identite != vierges.vendeurs.value(nouveau_->vendeur);
-    };
-    if (!nouveau_ || !commence())
+    if (commence().isEmpty())
         return nullptr;
     return vendeurs_[nouveau_->vendeur].fiche->objecter(
         Objections::surLesReglages(montres(), codes(contexte_.donnees())));
+}
+
+// What to call a new seller of whom something was typed; nothing when there is none.
+QStringList FeuilleVendeurs::commence() const
+{
+    if (!nouveau_)
+        return {};
+    const auto &[vendeur, identite] = *nouveau_;
+    if (identite == EditionReglages::avecVendeur(contexte_.donnees().reglages, vendeur).vendeurs.value(vendeur))
+        return {};
+    return {identite.nom.isEmpty() ? TextesReglages::titre(vendeur) : identite.nom};
 }
 
 void FeuilleVendeurs::reject()

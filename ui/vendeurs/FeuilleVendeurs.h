@@ -44,6 +44,7 @@ private:
     void reprendreLesDonnees();
     [[nodiscard]] const Reglages &montres();
     [[nodiscard]] QWidget *enSuspens();
+    [[nodiscard]] QStringList commence() const;
 
     const Contexte &contexte_;
     AlerteRelecture *echec_;
@@ -67,6 +68,7 @@ private:
         IdentiteVendeur identite;
     };
     std::optional<Nouveau> nouveau_;
+    QStringList avantRelecture_; // what `commence` gave
     Reglages montres_;
     bool averti_ = false;    // that closing gives something up
     QList<Reglages> tentes_; // and were not kept

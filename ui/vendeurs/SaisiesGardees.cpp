@@ -6,35 +6,41 @@
 
 #include <QList>
 #include <QPointer>
-#include <QStringList>
 
 #include <memory>
+#include <utility>
 
 namespace Quillet {
 
-void SaisiesGardees::suivre(AlerteRelecture *alerte, QWidget *feuille)
+void SaisiesGardees::suivre(AlerteRelecture *alerte, QWidget *feuille, const std::function<QStringList()> &aussiPerdues)
 {
     struct Saisie
     {
         QPointer<ChampDeFiche> champ;
         QString texte;
     };
-    const auto saisies = std::make_shared<QList<Saisie>>();
-    QObject::connect(alerte, &AlerteRelecture::vaRelire, feuille, [saisies, feuille] {
-        saisies->clear();
+    struct Gardees
+    {
+        QList<Saisie> saisies;
+        QStringList perdues; // and not said yet
+    };
+    const auto gardees = std::make_shared<Gardees>();
+    QObject::connect(alerte, &AlerteRelecture::vaRelire, feuille, [gardees, feuille] {
+        gardees->saisies.clear();
         for (ChampDeFiche *champ : feuille->findChildren<ChampDeFiche *>())
             if (champ->estRefuse() && champ->isVisible())
-                saisies->append({champ, champ->texte()});
+                gardees->saisies.append({champ, champ->texte()});
     });
-    QObject::connect(alerte, &AlerteRelecture::relu, feuille, [saisies, alerte] {
-        QStringList perdues;
-        for (const auto &[champ, texte] : *saisies)
+    QObject::connect(alerte, &AlerteRelecture::relu, feuille, [gardees, alerte, aussiPerdues] {
+        for (const auto &[champ, texte] : gardees->saisies)
             if (champ && champ->isVisible() && champ->texte() == texte)
                 champ->conclure();
             else
-                perdues.append(texte.simplified());
-        if (!perdues.isEmpty())
-            alerte->montrer(TextesDonnees::saisieNonReprise(perdues));
+                gardees->perdues.append(texte.simplified());
+        gardees->perdues.append(aussiPerdues());
+        // What could not be saved once more is said first, and offers to read again.
+        if (alerte->isHidden() && !gardees->perdues.isEmpty())
+            alerte->montrer(TextesDonnees::saisieNonReprise(std::exchange(gardees->perdues, {})));
     });
 }
 
