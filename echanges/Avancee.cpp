@@ -17,7 +17,7 @@ namespace Quillet {
 namespace {
 
 const QString liste = QStringLiteral("liste.json");
-const QString ecart = QStringLiteral("ecart.json"); // in most, none
+const QString fichierDeLEcart = QStringLiteral("ecart.json"); // in most, none
 
 template <typename T>
 T lireDans(const QDir &dossier, const QString &nom)
@@ -34,14 +34,14 @@ T lireDans(const QDir &dossier, const QString &nom)
 Avancee::Avancee(const QDir &reprise, const QDir &utilisateur)
     : reprise_(reprise), utilisateur_(utilisateur), noms_(lireDans<QList<QString>>(reprise, liste))
 {
-    if (Fichier::existe(reprise.filePath(ecart)))
-        ecart_ = lireDans<QList<QString>>(reprise, ecart).value(0);
+    if (Fichier::existe(reprise.filePath(fichierDeLEcart)))
+        ecart_ = lireDans<QList<QString>>(reprise, fichierDeLEcart).value(0);
 }
 
 void Avancee::noter(const QDir &reprise, const QStringList &noms, const QString &ecart)
 {
     if (!ecart.isEmpty())
-        Fichier::ecrire(reprise.filePath(Quillet::ecart), Json::encoder(QList<QString>{ecart}));
+        Fichier::ecrire(reprise.filePath(fichierDeLEcart), Json::encoder(QList<QString>{ecart}));
     Fichier::ecrire(reprise.filePath(liste), Json::encoder(QList<QString>(noms)));
 }
 

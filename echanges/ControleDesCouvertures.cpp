@@ -60,18 +60,18 @@ QStringList ControleDesCouvertures::refusees(const QStringList &chemins, const Q
         dites += processus.readAllStandardOutput();
     const bool parti = processus.error() != QProcess::FailedToStart;
     const bool ailleurs = processus.state() == QProcess::NotRunning && processus.exitStatus() == QProcess::NormalExit;
-    ProcessusBride::achever(processus);
+    ProcessusBride::tuer(processus);
     dites += processus.readAllStandardOutput();
     if (!parti || (ailleurs && dites.size() != chemins.size()))
         throw Echec(ProcessusBride::neSeLancePlus(programme));
     if (dites.size() < chemins.size())
         throw ArchiveRefusee(QStringLiteral("l’image « %1 » prendrait trop de temps ou de mémoire")
                                  .arg(QFileInfo(chemins[dites.size()]).fileName()));
-    QStringList refusees;
+    QStringList laissees;
     for (qsizetype rang = 0; rang < chemins.size(); ++rang)
         if (dites[rang] != bonne)
-            refusees.append(chemins[rang]);
-    return refusees;
+            laissees.append(chemins[rang]);
+    return laissees;
 }
 
 void ControleDesCouvertures::repondre()

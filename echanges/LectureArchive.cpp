@@ -49,16 +49,16 @@ public:
             throw ArchiveRefusee(QStringLiteral("ce n’est pas un fichier ordinaire"));
         if (Fichier::excede(chemin, PiecesDArchive::total + FinDeZip::listeMaximale))
             throw ArchiveRefusee(QStringLiteral("elle est trop grosse"));
-        const ArchiveRefusee nombreuse(QStringLiteral("elle contient trop de fichiers"));
+        const auto nombreuse = [] { return ArchiveRefusee(QStringLiteral("elle contient trop de fichiers")); };
         if (FinDeZip::annonceTrop(chemin))
-            throw nombreuse;
+            throw nombreuse();
         int code = 0;
         archive_.reset(zip_open(QFile::encodeName(chemin).constData(), ZIP_RDONLY, &code));
         if (!archive_)
             throw ArchiveRefusee(Zip::enFrancais(Zip::Erreur(code).ici()));
         const zip_int64_t nombre = zip_get_num_entries(archive_.get(), 0);
         if (nombre > PiecesDArchive::nombre)
-            throw nombreuse;
+            throw nombreuse();
         QSet<QString> noms;
         for (zip_uint64_t rang = 0; rang < static_cast<zip_uint64_t>(nombre); ++rang) {
             const QString nom = nomDe(rang);

@@ -77,7 +77,7 @@ void LectureDeCouverture::abandonner()
     if (!processus)
         return;
     processus->disconnect(this);
-    ProcessusBride::achever(*processus);
+    ProcessusBride::tuer(*processus);
 }
 
 void LectureDeCouverture::lireFichier(const QString &chemin)
@@ -125,9 +125,7 @@ void LectureDeCouverture::conclure()
     delai_.stop();
     const auto processus = std::exchange(processus_, nullptr);
     if (processus->error() == QProcess::FailedToStart)
-        return emit refusee(QStringLiteral("L’image n’a pas pu être lue : le programme %1 ne se lance plus. "
-                                           "Fermez Quillet, puis ouvrez-le de nouveau.")
-                                .arg(programme_));
+        return emit refusee(ProcessusBride::neSeLancePlus(programme_));
     if (processus->exitStatus() != QProcess::NormalExit || recu_.size() > reponseAuPlus)
         return emit refusee(tropCompliquee());
     if (processus->exitCode() == refus)

@@ -43,7 +43,7 @@ void ProcessusBride::preparer(QProcess &processus, int secondesDeCalcul)
     processus.setStandardErrorFile(QProcess::nullDevice()); // decoders are talkative
 }
 
-void ProcessusBride::achever(QProcess &processus)
+void ProcessusBride::tuer(QProcess &processus)
 {
     processus.kill();
     processus.waitForFinished(mortEnMillisecondes);
@@ -51,7 +51,7 @@ void ProcessusBride::achever(QProcess &processus)
 
 QString ProcessusBride::neSeLancePlus(const QString &programme)
 {
-    return QStringLiteral("L’image n’a pas pu être lue : le programme %1 ne se lance plus. Fermez Quillet, puis "
+    return QStringLiteral("Aucune image ne peut être lue : le programme %1 ne se lance plus. Fermez Quillet, puis "
                           "ouvrez-le de nouveau.")
         .arg(programme);
 }

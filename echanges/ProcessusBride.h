@@ -9,7 +9,7 @@ class QProcess;
 namespace Quillet::ProcessusBride {
 
 void preparer(QProcess &processus, int secondesDeCalcul);
-void achever(QProcess &processus);
+void tuer(QProcess &processus);
 // The program is not there any more, or is another one by now.
 QString neSeLancePlus(const QString &programme);
 
