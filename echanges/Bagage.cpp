@@ -17,20 +17,18 @@ namespace {
 
 QString enTexte(Origine origine)
 {
-    if (origine == Origine::administrateur)
-        return QStringLiteral("administrateur");
-    return origine == Origine::utilisateur ? QStringLiteral("utilisateur") : QStringLiteral("exemple");
+    return origine == Origine::administrateur ? QStringLiteral("administrateur") : QStringLiteral("utilisateur");
 }
 
 class Rassemblement
 {
 public:
-    explicit Rassemblement(const Demeure &demeure) : demeure_(demeure) {}
+    Rassemblement(const Demeure &demeure, bool propres) : demeure_(demeure), propres_(propres) {}
 
     // Books before pictures: a picture is on the disk before a book names it.
     Bagage tout(QDate jour)
     {
-        if (demeure_.aDesDonneesPropres())
+        if (propres_)
             prendreLesDonnees();
         else
             prendreSiLisible<ModificationsLivres>(Stockage::fichierDesLivres());
@@ -42,7 +40,7 @@ public:
         std::ranges::sort(bagage_.pieces, {}, &Bagage::Piece::nom);
         bagage_.manifeste = {.programme = QCoreApplication::applicationVersion(),
                              .jour = jour,
-                             .origine = enTexte(demeure_.donnees.origine()),
+                             .origine = propres_ ? enTexte(demeure_.donnees.origine()) : Manifeste::exemple,
                              .empreinte = empreinte()};
         const QByteArray manifeste = Json::encoder(bagage_.manifeste);
         bagage_.pieces.prepend({PiecesDArchive::manifeste, manifeste, {}, manifeste.size()});
@@ -147,14 +145,15 @@ private:
     }
 
     const Demeure &demeure_;
+    bool propres_;
     Bagage bagage_;
 };
 
 } // namespace
 
-Bagage Bagage::de(const Demeure &demeure, QDate jour)
+Bagage Bagage::de(const Demeure &demeure, QDate jour, Propres propres)
 {
-    return Rassemblement(demeure).tout(jour);
+    return Rassemblement(demeure, propres == Propres::prises && demeure.aDesDonneesPropres()).tout(jour);
 }
 
 } // namespace Quillet

@@ -19,13 +19,16 @@ struct Bagage
         qint64 taille = 0;
     };
 
+    // Own data: to be left when they cannot be read.
+    enum class Propres { prises, laissees };
+
     Manifeste manifeste;
     QList<Piece> pieces; // the manifest first, the rest by name
     QStringList absents; // what could not be taken, and why, in words
     QStringList lourdes; // of these, the pictures that are too large
 
     // Throws Echec when data in force cannot be read any more.
-    static Bagage de(const Demeure &demeure, QDate jour);
+    static Bagage de(const Demeure &demeure, QDate jour, Propres propres = Propres::prises);
     [[nodiscard]] bool estVide() const { return pieces.size() <= 1; }
 };
 

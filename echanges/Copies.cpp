@@ -75,9 +75,9 @@ bool Copies::duJour(QDate aujourdhui) const
     return true;
 }
 
-void Copies::avantReprise(const QDateTime &maintenant) const
+void Copies::avantReprise(const QDateTime &maintenant, Bagage::Propres propres) const
 {
-    const Bagage bagage = Bagage::de(demeure_, maintenant.date());
+    const Bagage bagage = Bagage::de(demeure_, maintenant.date(), propres);
     if (!bagage.lourdes.isEmpty()) // the import would delete them; of a file of another kind, it keeps a copy beside
         throw Echec(
             QStringLiteral("Rien n’est repris : ce que vous avez aujourd’hui ne peut pas être gardé en entier.\n%1")

@@ -31,7 +31,7 @@ public:
     // One that is kept but lacks something throws too.
     bool duJour(QDate aujourdhui) const;
     // Keeps what an import is about to replace, if there is anything; refuses when a part of it would be lost.
-    void avantReprise(const QDateTime &maintenant) const;
+    void avantReprise(const QDateTime &maintenant, Bagage::Propres propres = Bagage::Propres::prises) const;
 
 private:
     [[nodiscard]] QDir dossier() const { return {demeure_.utilisateur.filePath(QStringLiteral("copies"))}; }

@@ -8,6 +8,7 @@
 #include "model/controle/ControleDonnees.h"
 
 #include <QFileInfo>
+#include <QStorageInfo>
 #include <QUuid>
 
 #include <algorithm>
@@ -60,6 +61,14 @@ void exigerLaPlace(const QDir &utilisateur)
         throw ErreurStockage(propres.filePath(), QStringLiteral("ce n’est pas un dossier, ou il est introuvable"));
     if (!propres.isWritable() || !propres.isExecutable())
         throw ErreurStockage(propres.filePath(), QStringLiteral("l’accès n’est pas permis"));
+}
+
+// What a disk is mounted on keeps its name; a link to it does not.
+void exigerQuIlSeDeplace(const QString &dossier)
+{
+    const QFileInfo info(dossier);
+    if (!info.isSymLink() && QStorageInfo(dossier).rootPath() == info.canonicalFilePath())
+        throw ErreurStockage(dossier, QStringLiteral("c’est un disque à part, qui ne se déplace pas"));
 }
 
 bool memesOctets(const QString &un, const QString &autre)
@@ -242,20 +251,19 @@ QString Reprise::prendreALaPlace(const QDateTime &maintenant, const Attente &att
         throw Echec(QStringLiteral("Cette copie n’a pas de livres à vous."));
     const QString ecart =
         QStringLiteral("donnees.illisible-%1").arg(maintenant.toString(QStringLiteral("yyyy-MM-dd-HHmmss-zzz")));
-    Demeure lisible = demeure_; // what the rest is kept of
-    lisible.donnees = Ressources(demeure_.donnees.dossier(), Origine::exemple);
     poursuivreJusquAuBout(attendre, [&] {
+        exigerQuIlSeDeplace(demeure_.utilisateur.filePath(PiecesDArchive::propres.chopped(1)));
         exigerTout(dossier_, noms_);
-        Copies(lisible).avantReprise(maintenant);
+        Copies(demeure_).avantReprise(maintenant, Bagage::Propres::laissees);
         engager({}, ecart);
     });
     return demeure_.utilisateur.filePath(ecart);
 }
 
-void Reprise::poursuivreJusquAuBout(const Attente &attendre, const std::function<void()> &engager) const
+void Reprise::poursuivreJusquAuBout(const Attente &attendre, const std::function<void()> &commencer) const
 {
     attendre([&] {
-        engager();
+        commencer();
         poursuivre([&] { Avancee(engagee(demeure_.utilisateur), demeure_.utilisateur).placerLesFichiers(); });
     });
     poursuivre([&] { finir(demeure_.utilisateur, demeure_.preferences); });

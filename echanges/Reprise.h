@@ -73,7 +73,7 @@ private:
     void lireLesSeries();
     void completer() const;
     void engager(const SeriesFactures &series, const QString &ecart) const;
-    void poursuivreJusquAuBout(const Attente &attendre, const std::function<void()> &engager) const;
+    void poursuivreJusquAuBout(const Attente &attendre, const std::function<void()> &commencer) const;
     static void finir(const QDir &utilisateur, const Preferences &preferences);
 
     Demeure demeure_;

@@ -5,6 +5,8 @@
 #include "tests/Rangees.h"
 #include "tests/echanges/BancPropre.h"
 
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
 
 using namespace Quillet;
@@ -273,6 +275,22 @@ private slots:
                 QVERIFY(reprise->prendreALaPlace(maintenant).endsWith("/donnees.illisible-2026-03-02-210409-000"));
             QCOMPARE(banc.fichiers(), apres);
         }
+    }
+
+    // Which keeps its name: known before anything counts.
+    void aLaPlaceDUnDisqueAPart()
+    {
+        const BancPropre banc;
+        banc.installer();
+        QVERIFY(Copies(banc.demeure()).duJour(jourDuBanc));
+        const auto reprise = preparer(Copies(banc.demeure()).liste().first().chemin, banc.demeure());
+        const QByteArray la = QFile::encodeName(banc.cheminUtilisateur("donnees"));
+        if (unshare(CLONE_NEWNS) != 0 || mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0
+            || mount(la.constData(), la.constData(), nullptr, MS_BIND, nullptr) != 0)
+            QSKIP("no right to mount");
+        const QString dit = erreurDe([&] { reprise->prendreALaPlace(maintenant); });
+        umount2(la.constData(), MNT_DETACH);
+        QCOMPARE(dit, la + " : c’est un disque à part, qui ne se déplace pas");
     }
 
     // What the copy would not hold is not replaced.
