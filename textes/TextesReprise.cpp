@@ -198,7 +198,7 @@ QString TextesReprise::copie(const Copie &copie)
 {
     const QString jour = Format::date(copie.moment.date());
     return copie.avantReprise
-               ? QStringLiteral("%1, %2, avant un import").arg(jour, copie.moment.time().toString(u"H:mm"))
+               ? QStringLiteral("%1, %2, avant un import").arg(jour, copie.moment.time().toString(u"H:mm:ss"))
                : jour;
 }
 

@@ -123,6 +123,8 @@ private slots:
         QCOMPARE(copies.size(), 1);
         arrivee.choisir(revenir);
         QVERIFY(Ecran::montre(Dialogues::devant(), "Livres : 1 ajouté, 1 changé"));
+        const QString seconde = copies[0].moment.toString("H:mm:ss"); // two of a minute differ
+        QVERIFY(TextesReprise::copie(copies[0]).contains(seconde));
         QVERIFY(Ecran::cliquer(Dialogues::devant(), "Voir la copie : " + TextesReprise::copie(copies[0])));
         QVERIFY(Ecran::cliquer(Dialogues::devant(), "Reprendre cette copie"));
         QVERIFY(!Dialogues::devant());
