@@ -62,6 +62,7 @@ private slots:
     {
         Maison maison;
         maison.demarrer();
+        NumerotationFactures{maison.donnees.preferences()}.reprendre("zéro", Vendeur::davrel);
         QVERIFY(maison.copies().duJour(jourDuBanc));
         maison.donnees.ecrireUtilisateur("donnees/livres.json", "[");
         QVERIFY_THROWS_EXCEPTION(RessourceIllisible, static_cast<void>(maison.copies()));
@@ -74,15 +75,41 @@ private slots:
         const auto cliquer = [](const char *bouton) {
             return [bouton](QDialog *dialogue) { QVERIFY2(Ecran::cliquer(dialogue, bouton), bouton); };
         };
+        bool nommee = false;
+        const auto reprendre = [&nommee](QDialog *dialogue) {
+            nommee = Ecran::controle(dialogue, "Copies gardées");
+            QVERIFY(Ecran::cliquer(dialogue, "Reprendre cette copie"));
+        };
         QVERIFY(Dialogues::fairePuisRepondre(proposer, {cliquer("Fermer")}));
         QVERIFY(!accepte && retour.possible());
         QString dit;
-        QVERIFY(Dialogues::fairePuisRepondre(
-            proposer, {cliquer("Revenir à une copie…"), cliquer("Reprendre cette copie"), BancEcran::lire(dit)}));
-        QVERIFY(accepte);
+        QVERIFY(
+            Dialogues::fairePuisRepondre(proposer, {cliquer("Revenir à une copie…"), reprendre, BancEcran::lire(dit)}));
+        QVERIFY(accepte && nommee);
+        QVERIFY2(lisible(dit).contains("reste dans l’archive : le numéro de facture « zéro »."), qPrintable(dit));
         QCOMPARE(maison.donnees.lireUtilisateur(dit.sliced(dit.indexOf("donnees.illisible")) + "/livres.json"), "[");
         QCOMPARE(Catalogue::charge(maison.ressources(), maison.donnees.stockage())->donnees().livres,
                  maison.donnees.livres);
+    }
+
+    // One that leads nowhere today is not replaced behind the user's back.
+    void retourAuDemarrageDUnLien()
+    {
+        Maison maison;
+        maison.demarrer();
+        QVERIFY(maison.copies().duJour(jourDuBanc));
+        QDir dossier(maison.donnees.cheminUtilisateur());
+        QVERIFY(dossier.rename("donnees", "ailleurs") && QFile::link("ailleurs", dossier.filePath("donnees")));
+        const RetourAuDemarrage retour(maison.donnees.stockage(), maison.donnees.preferences());
+        QString dit;
+        const auto lire = [&](QDialog *boite) {
+            dit = lisible(qobject_cast<QMessageBox *>(boite)->informativeText());
+            boite->reject();
+        };
+        QVERIFY(Dialogues::fairePuisRepondre([&] { return !retour.accepte("livres.json"); }, {lire}));
+        QCOMPARE(dit, "Le lien « donnees » sera mis de côté, et un dossier ordinaire prendra sa place.");
+        QVERIFY(retour.possible() && dossier.rename("ailleurs", "debranche"));
+        QVERIFY(!RetourAuDemarrage(maison.donnees.stockage(), maison.donnees.preferences()).possible());
     }
 
     void emporter()

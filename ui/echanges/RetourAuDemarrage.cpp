@@ -4,7 +4,10 @@
 #include "echanges/Reprise.h"
 #include "textes/TextesReprise.h"
 
+#include <QDateTime>
+#include <QFileInfo>
 #include <QInputDialog>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -16,10 +19,19 @@ namespace Quillet {
 namespace {
 
 const QString titre = QStringLiteral("Revenir à une copie");
+const QString gardees = QStringLiteral("Copies gardées");
 
-bool veutUneCopie(const QString &raison)
+QString suites(const QString &donnees)
+{
+    return QFileInfo(donnees).isSymLink()
+               ? QStringLiteral("Le lien « donnees » sera mis de côté, et un dossier ordinaire prendra sa place.")
+               : QStringLiteral("Le dossier d’aujourd’hui sera gardé tel quel, sous un autre nom.");
+}
+
+bool veutUneCopie(const QString &raison, const QString &suites)
 {
     QMessageBox boite(QMessageBox::Critical, QStringLiteral("Quillet"), raison);
+    boite.setInformativeText(suites);
     const QPushButton *revenir = boite.addButton(titre + u'…', QMessageBox::ActionRole);
     QPushButton *fermer = boite.addButton(QStringLiteral("Fermer"), QMessageBox::RejectRole);
     boite.setDefaultButton(fermer);
@@ -35,10 +47,12 @@ std::optional<Copie> choisie(const QList<Copie> &copies)
         noms.append(TextesReprise::copie(copie));
     QInputDialog choix;
     choix.setWindowTitle(titre);
-    choix.setLabelText(QStringLiteral("Le dossier d’aujourd’hui sera gardé tel quel, sous un autre nom."));
+    choix.setLabelText(gardees + QStringLiteral(" :"));
     choix.setOption(QInputDialog::UseListViewForComboBoxItems);
     choix.setComboBoxItems(noms);
-    choix.setTextValue(noms.first()); // the latest
+    auto *liste = choix.findChild<QListView *>(QString(), Qt::FindDirectChildrenOnly);
+    liste->setAccessibleName(gardees); // the label is another field's
+    choix.setTextValue(noms.first());  // the latest
     choix.setOkButtonText(QStringLiteral("Reprendre cette copie"));
     choix.setCancelButtonText(QStringLiteral("Annuler"));
     return choix.exec() == QDialog::Accepted ? std::optional(copies[noms.indexOf(choix.textValue())]) : std::nullopt;
@@ -47,7 +61,7 @@ std::optional<Copie> choisie(const QList<Copie> &copies)
 bool aDesDonneesPropres(const Copie &copie)
 {
     try {
-        return Archive::manifeste(copie.chemin).origine != QLatin1String("exemple");
+        return Archive::manifeste(copie.chemin).aDesDonneesPropres();
     } catch (const Echec &) {
         return false; // damaged
     }
@@ -61,8 +75,8 @@ RetourAuDemarrage::RetourAuDemarrage(const Stockage &stockage, const Preferences
                .utilisateur = stockage.dossier(),
                .preferences = preferences}
 {
-    if (!Ressources::personnelles(stockage.donneesPersonnelles()))
-        return; // others' data
+    if (!QFileInfo(demeure_.donnees.dossier().path()).isDir())
+        return; // others' data, or a link to a disk that is away today
     try {
         copies_ = Copies(demeure_).liste();
         copies_.removeIf([](const Copie &copie) { return !aDesDonneesPropres(copie); });
@@ -73,7 +87,7 @@ RetourAuDemarrage::RetourAuDemarrage(const Stockage &stockage, const Preferences
 
 bool RetourAuDemarrage::accepte(const QString &raison) const
 {
-    while (veutUneCopie(raison))
+    while (veutUneCopie(raison, suites(demeure_.donnees.dossier().path())))
         if (const auto copie = choisie(copies_))
             try {
                 reprendre(*copie);
@@ -95,11 +109,12 @@ void RetourAuDemarrage::reprendre(const Copie &copie) const
     const QString ecart = reprise->prendreALaPlace(maintenant, [](const std::function<void()> &travail) {
         Attente::jusquAuBout(nullptr, QStringLiteral("Reprise de la copie…"), travail);
     });
-    QMessageBox::information(
-        nullptr, titre,
-        QStringLiteral("Vos données sont celles de la copie du %1.\n\nLe dossier d’avant est gardé "
-                       "tel quel : %2")
-            .arg(TextesReprise::copie(copie), ecart));
+    QStringList phrases{QStringLiteral("Vos données sont celles de la copie du %1.").arg(TextesReprise::copie(copie))};
+    phrases.append(TextesReprise::laisses(reprise->inconnus()));
+    phrases.append(TextesReprise::aCorriger(reprise->remarques()));
+    phrases.append(QStringLiteral("Le dossier d’avant est gardé tel quel : %1").arg(ecart));
+    phrases.removeAll(QString());
+    QMessageBox::information(nullptr, titre, phrases.join(QStringLiteral("\n\n")));
 }
 
 } // namespace Quillet

@@ -3,8 +3,6 @@
 #include "echanges/Copies.h"
 #include "model/Stockage.h"
 
-#include <QDateTime>
-
 namespace Quillet {
 
 // Before there is a window: own data cannot be read, and a copy of them may take their place.
