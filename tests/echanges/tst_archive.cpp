@@ -169,7 +169,7 @@ private slots:
         for (const auto &[nom, octets, phrase] : Rangees<QByteArray, const char *>{
                  {"deux du même nom", QByteArray(bonne).replace("jsoo", "json"), "deux fois « frais-paypal.json »"},
                  {"contenu changé", QByteArray(bonne).replace("1234567", "1234568"), "abîmée ou incomplète"},
-                 {"coupée", bonne.first(bonne.size() / 2), "ce n’est pas une archive zip"},
+                 {"coupée", bonne.first(bonne.size() / 2), "incomplète"}, // no archive, to a libzip of before 1.11
                  {"vide", "", "ce n’est pas une archive zip"},
                  {"autre chose", QByteArray(100'000, 'x'), "ce n’est pas une archive zip"},
                  {"liste démesurée", demesuree, "trop de fichiers"},
