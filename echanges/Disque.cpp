@@ -6,6 +6,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QStorageInfo>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -87,6 +88,13 @@ void Disque::supprimer(const QString &chemin)
     std::filesystem::remove_all(std::filesystem::path(QFile::encodeName(chemin).toStdString()), code);
     if (code)
         throw erreur(chemin, code.value());
+}
+
+void Disque::exigerQuIlSeDeplace(const QString &dossier)
+{
+    const QFileInfo info(dossier);
+    if (!info.isSymLink() && QStorageInfo(dossier).rootPath() == info.canonicalFilePath())
+        throw ErreurStockage(dossier, QStringLiteral("c’est un disque à part, qui ne se déplace pas"));
 }
 
 } // namespace Quillet

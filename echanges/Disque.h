@@ -18,5 +18,7 @@ void remplacer(const QString &chemin, const QString &nouveau);
 void poser(const QString &chemin, const QString &nouveau);
 // A folder with all that it holds, or a file; a link, not what it leads to. Not there: no error.
 void supprimer(const QString &chemin);
+// Throws for a folder that a disk is mounted on, which keeps its name; not for a link to one.
+void exigerQuIlSeDeplace(const QString &dossier);
 
 } // namespace Quillet::Disque

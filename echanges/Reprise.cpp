@@ -8,7 +8,6 @@
 #include "model/controle/ControleDonnees.h"
 
 #include <QFileInfo>
-#include <QStorageInfo>
 #include <QUuid>
 
 #include <algorithm>
@@ -61,14 +60,6 @@ void exigerLaPlace(const QDir &utilisateur)
         throw ErreurStockage(propres.filePath(), QStringLiteral("ce n’est pas un dossier, ou il est introuvable"));
     if (!propres.isWritable() || !propres.isExecutable())
         throw ErreurStockage(propres.filePath(), QStringLiteral("l’accès n’est pas permis"));
-}
-
-// What a disk is mounted on keeps its name; a link to it does not.
-void exigerQuIlSeDeplace(const QString &dossier)
-{
-    const QFileInfo info(dossier);
-    if (!info.isSymLink() && QStorageInfo(dossier).rootPath() == info.canonicalFilePath())
-        throw ErreurStockage(dossier, QStringLiteral("c’est un disque à part, qui ne se déplace pas"));
 }
 
 bool memesOctets(const QString &un, const QString &autre)
@@ -252,7 +243,7 @@ QString Reprise::prendreALaPlace(const QDateTime &maintenant, const Attente &att
     const QString ecart =
         QStringLiteral("donnees.illisible-%1").arg(maintenant.toString(QStringLiteral("yyyy-MM-dd-HHmmss-zzz")));
     poursuivreJusquAuBout(attendre, [&] {
-        exigerQuIlSeDeplace(demeure_.utilisateur.filePath(PiecesDArchive::propres.chopped(1)));
+        Disque::exigerQuIlSeDeplace(demeure_.utilisateur.filePath(PiecesDArchive::propres.chopped(1)));
         exigerTout(dossier_, noms_);
         Copies(demeure_).avantReprise(maintenant, Bagage::Propres::laissees);
         engager({}, ecart);
